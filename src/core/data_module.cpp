@@ -1,0 +1,181 @@
+#include "core/data_module.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSqlDriver>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <atomic>
+
+#include "core/exceptions.h"
+#include "core/firebird.h"
+#include "core/query_internal.h"
+#include "core/schema.h"
+#include "core/schema_script.h"
+
+namespace {
+
+const QString kServeur = QStringLiteral("Serveur");
+const QString kBase = QStringLiteral("PRESENCES");
+const QString kUtilisateur = QStringLiteral("sysdba");
+const QString kMotDePasse = QStringLiteral("corvusnet");
+
+/// The embedded engine keeps its locks in a folder that the whole machine would share; a private
+/// one leaves the next user of the machine out of nothing.
+void PreparerVerrous() {
+  if (!qEnvironmentVariableIsEmpty("FIREBIRD_LOCK")) return;
+  const QString dossier = DossierDonnees() + QStringLiteral("/verrous");
+  QDir().mkpath(dossier);
+  QFile::setPermissions(dossier, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  qputenv("FIREBIRD_LOCK", QFile::encodeName(dossier));
+}
+
+}  // namespace
+
+TDataModule1::TDataModule1(IDialogues& dialogues, TReglagesPoste& reglages)
+    : dialogues_(dialogues), reglages_(reglages) {
+  static std::atomic<int> numero{0};
+  connexion_ = QStringLiteral("UniConnection%1").arg(++numero);
+  PreparerVerrous();
+}
+
+TDataModule1::~TDataModule1() { Deconnecter(); }
+
+QSqlDatabase TDataModule1::UniConnection1() const { return QSqlDatabase::database(connexion_, false); }
+
+QVariant TDataModule1::Attache() const {
+  return EstConnecte() ? UniConnection1().driver()->handle() : QVariant();
+}
+
+bool TDataModule1::EstConnecte() const {
+  return QSqlDatabase::contains(connexion_) && UniConnection1().isOpen();
+}
+
+void TDataModule1::Deconnecter() {
+  if (!QSqlDatabase::contains(connexion_)) return;
+  UniConnection1().close();
+  QSqlDatabase::removeDatabase(connexion_);
+}
+
+bool TDataModule1::ReadServerName(TRacine racine) {
+  ServerName = reglages_.Lire(racine, kServeur);
+  return true;
+}
+
+void TDataModule1::WriteServerName(TRacine racine) { reglages_.Ecrire(racine, kServeur, ServerName); }
+
+bool TDataModule1::CanWriteMachineKey() const { return reglages_.MachineInscriptible(); }
+
+void TDataModule1::AskServerName() {
+  QString invite =
+      QStringLiteral("Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :");
+  const bool machine = CanWriteMachineKey();
+  if (!machine)
+    invite += QStringLiteral(
+        "\nAttention : Afin de ne plus afficher ce message, veuillez exécuter cette opération avec un compte "
+        "administrateur");
+  const auto reponse =
+      dialogues_.Saisir(QStringLiteral("Identification du Serveur de données"), invite, ServerName);
+  if (!reponse || reponse->trimmed().isEmpty()) return;
+  ServerName = *reponse;
+  WriteServerName(machine ? TRacine::Machine : TRacine::Utilisateur);
+}
+
+bool TDataModule1::ConnectToServer() {
+  ReadServerName(TRacine::Machine);
+  if (ServerName.trimmed().isEmpty()) ReadServerName(TRacine::Utilisateur);
+  if (ServerName.trimmed().isEmpty()) AskServerName();
+  if (ServerName.trimmed().isEmpty()) return false;
+  Connecter();
+  return true;
+}
+
+QString TDataModule1::FichierLocal() const {
+  const QString nom = ServerName.trimmed();
+  if (nom.compare(u"local", Qt::CaseInsensitive) == 0)
+    return DossierDonnees() + QStringLiteral("/PRESENCES.fdb");
+  if (nom.endsWith(u".fdb", Qt::CaseInsensitive)) return QFileInfo(nom).absoluteFilePath();
+  return {};
+}
+
+void TDataModule1::Connecter() {
+  Deconnecter();
+  const QString fichier = FichierLocal();
+  if (fichier.isEmpty())
+    Ouvrir(ServerName.trimmed(), kBase);
+  else
+    OuvrirFichier(fichier);
+}
+
+void TDataModule1::OuvrirFichier(const QString& chemin) {
+  const QFileInfo fichier(chemin);
+  if (fichier.isDir())
+    throw Exception(QStringLiteral("« %1 » est un dossier et non un fichier de données.").arg(chemin));
+  if (fichier.exists() && fichier.size() == 0)
+    throw Exception(
+        QStringLiteral("Le fichier de données « %1 » est vide. Effacez-le pour qu'il soit créé, ou "
+                       "remettez sa dernière sauvegarde à sa place.")
+            .arg(chemin));
+  if (!fichier.exists()) CreerFichier(chemin);
+  Ouvrir({}, chemin);
+}
+
+// Made beside its place and renamed when complete, so that an interruption leaves no half database.
+void TDataModule1::CreerFichier(const QString& chemin) {
+  const QString dossier = QFileInfo(chemin).absolutePath();
+  if (!QDir().mkpath(dossier))
+    throw Exception(QStringLiteral("Le dossier « %1 » ne peut pas être créé.").arg(dossier));
+  const QString ebauche = chemin + QStringLiteral(".nouveau");
+  QFile::remove(ebauche);
+  Firebird::CreerBase(ebauche);
+  Ouvrir({}, ebauche);
+  RunScript(ScriptTablesDeBase());
+  MettreAJour();
+  Deconnecter();
+  if (!QFile::rename(ebauche, chemin))
+    throw Exception(QStringLiteral("Le fichier de données « %1 » ne peut pas être créé.").arg(chemin));
+}
+
+void TDataModule1::Ouvrir(const QString& hote, const QString& base) {
+  QSqlDatabase connexion = QSqlDatabase::addDatabase(QStringLiteral("QIBASE"), connexion_);
+  if (!connexion.isValid())
+    throw Exception(QStringLiteral("Le pilote QIBASE de Qt n'est pas installé sur cet ordinateur."));
+  connexion.setHostName(hote);
+  connexion.setDatabaseName(base);
+  connexion.setUserName(kUtilisateur);
+  connexion.setPassword(kMotDePasse);
+  connexion.setConnectOptions(QStringLiteral("ISC_DPB_LC_CTYPE=UTF8"));
+  if (connexion.open()) return;
+  const QString texte = connexion.lastError().text();
+  connexion = QSqlDatabase();
+  Deconnecter();
+  throw Exception(MessageBaseDeDonnees(texte, hote.isEmpty() ? base : QString()));
+}
+
+int TDataModule1::GetNextId(const QString& counterName) {
+  try {
+    const int cle = Firebird::ProchaineCle(Attache(), counterName);
+    if (cle == -1)
+      dialogues_.Message(QStringLiteral("Le compteur de table ") + counterName +
+                         QStringLiteral(" n'existe pas !"));
+    return cle;
+  } catch (const Exception& e) {
+    dialogues_.Message(e.Message);
+    return -1;
+  }
+}
+
+int NextId(TDataModule1& base, const QString& counterName) { return base.GetNextId(counterName); }
+
+void TDataModule1::RunScript(const QString& lignes) {
+  for (const QString& instruction : Instructions(lignes)) {
+    QSqlQuery requete(UniConnection1());
+    requete.exec(instruction);  // a statement that fails has been run before, on purpose
+  }
+}
+
+void TDataModule1::MettreAJour() { RunScript(ScriptMiseAJour()); }
+
+void TDataModule1::EcrituresForcees(bool forcees) {
+  if (EstLocal()) Firebird::EcrituresForcees(FichierLocal(), forcees);
+}

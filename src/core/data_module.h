@@ -1,0 +1,67 @@
+#pragma once
+#include <QSqlDatabase>
+#include <QString>
+#include <QVariant>
+
+#include "core/dialogues.h"
+#include "core/reglages_poste.h"
+
+/// The one connection of the program, the allocator of row keys and the runner of SQL scripts.
+class TDataModule1 {
+ public:
+  /// Both must outlive the module. Nothing is opened yet.
+  TDataModule1(IDialogues& dialogues, TReglagesPoste& reglages);
+  ~TDataModule1();
+  TDataModule1(const TDataModule1&) = delete;
+  TDataModule1& operator=(const TDataModule1&) = delete;
+
+  /// Finds the server's name (machine, then user, then the user is asked) and opens the connection.
+  /// False when no name is known and none was given: the program ends. A failure raises Exception.
+  bool ConnectToServer();
+  /// Opens the connection to `ServerName` as it stands. Raises Exception.
+  void Connecter();
+  void Deconnecter();
+  bool EstConnecte() const;
+
+  /// Copies `Serveur` of that scope into ServerName; whether the scope could be opened.
+  bool ReadServerName(TRacine racine);
+  /// Writes ServerName into `Serveur` of that scope when it opens.
+  void WriteServerName(TRacine racine);
+  bool CanWriteMachineKey() const;
+  /// Asks the user for the server's name and keeps the answer; a blank answer changes nothing.
+  void AskServerName();
+
+  /// The next key of a counter, never given twice; -1 after having told the user why not.
+  int GetNextId(const QString& counterName);
+  /// Runs SQL statements separated by ";". One that fails is passed over without a word.
+  void RunScript(const QString& lignes);
+  /// The upgrade script on the open database: brings any older layout to the present one.
+  void MettreAJour();
+  /// Forced writes, of a local file only: off while a whole school is loaded. Raises Exception.
+  void EcrituresForcees(bool forcees);
+
+  /// True when ServerName names a file of this computer ("local", or a path that ends in ".fdb").
+  bool EstLocal() const { return !FichierLocal().isEmpty(); }
+  /// The file that ServerName stands for; "" for a server.
+  QString FichierLocal() const;
+
+  QSqlDatabase UniConnection1() const;
+  /// The client library's attachment, for what Qt's driver cannot do.
+  QVariant Attache() const;
+  IDialogues& Dialogues() const { return dialogues_; }
+
+  /// A host, "host/port", "local", or the path of a ".fdb" file; as typed.
+  QString ServerName;
+
+ private:
+  void OuvrirFichier(const QString& chemin);
+  void CreerFichier(const QString& chemin);
+  void Ouvrir(const QString& hote, const QString& base);
+
+  IDialogues& dialogues_;
+  TReglagesPoste& reglages_;
+  QString connexion_;
+};
+
+/// `GetNextId` on the given module.
+int NextId(TDataModule1& base, const QString& counterName);

@@ -1,0 +1,56 @@
+#pragma once
+#include <QString>
+#include <functional>
+#include <optional>
+
+/// What a failed connection proposes: a title, a first line, an explanation, and a link.
+struct TReessai {
+  QString Titre;
+  QString Texte;
+  QString Explication;
+  QString Lien;
+  std::function<void()> SurLien;
+};
+
+/// How logic talks to the user. The desktop program answers with dialogs, the batch program on the
+/// terminal, a test with a script of expected questions and answers.
+class IDialogues {
+ public:
+  virtual ~IDialogues() = default;
+
+  /// Something went wrong or was refused.
+  virtual void Message(const QString& texte) = 0;
+  /// Something is done, or there is nothing to do.
+  virtual void Information(const QString& texte) = 0;
+  /// A question answered by yes (true) or no.
+  virtual bool Confirmer(const QString& question) = 0;
+  /// A line of text; none when the user gives up.
+  virtual std::optional<QString> Saisir(const QString& titre, const QString& invite,
+                                        const QString& valeur) = 0;
+  /// An existing file to read; `filtre` as "Texte (*.txt *.csv)".
+  virtual std::optional<QString> ChoisirFichier(const QString& titre, const QString& filtre) = 0;
+  /// Where to write; `nom` is proposed.
+  virtual std::optional<QString> FichierAEnregistrer(const QString& titre, const QString& nom,
+                                                     const QString& filtre) = 0;
+  /// "Réessayer" (true) or "Annuler".
+  virtual bool Reessayer(const TReessai& reessai) = 0;
+
+  /// How far a long work is; `nom` is what is in hand. `total` 0 hides the progress.
+  virtual void Progression(int fait, int total, const QString& nom) = 0;
+  /// Lets pending events of the windows through.
+  virtual void TraiterEvenements() = 0;
+  /// Shows or ends the wait cursor; calls are balanced by TAttente.
+  virtual void CurseurAttente(bool actif) = 0;
+};
+
+/// The wait cursor for as long as it lives.
+class TAttente {
+ public:
+  explicit TAttente(IDialogues& dialogues) : dialogues_(dialogues) { dialogues_.CurseurAttente(true); }
+  ~TAttente() { dialogues_.CurseurAttente(false); }
+  TAttente(const TAttente&) = delete;
+  TAttente& operator=(const TAttente&) = delete;
+
+ private:
+  IDialogues& dialogues_;
+};

@@ -1,0 +1,73 @@
+#pragma once
+// Shared by the files of this folder that call the client library; nothing above includes it.
+#include <ibase.h>
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+#include <memory>
+#include <vector>
+
+namespace Firebird {
+
+/// Raises Exception with the engine's text when the status vector holds an error.
+void Verifier(const ISC_STATUS_ARRAY statut, const QString& fichier = {});
+
+/// The attachment behind Qt's connection. Not owned.
+isc_db_handle Attache(const QVariant& poignee);
+
+/// A transaction that ends with its object: committed by `Valider`, else rolled back.
+class TTransaction {
+ public:
+  TTransaction(isc_db_handle base, bool ecriture);
+  ~TTransaction();
+  TTransaction(const TTransaction&) = delete;
+  TTransaction& operator=(const TTransaction&) = delete;
+  void Valider();
+  isc_tr_handle* Poignee() { return &poignee_; }
+
+ private:
+  isc_tr_handle poignee_ = 0;
+};
+
+/// One column of a row buffer.
+struct TChamp {
+  QByteArray nom;     ///< alias, upper case
+  short type = 0;     ///< SQL_... without the null bit
+  short echelle = 0;  ///< negative power of ten
+  short nul = 0;      ///< -1 when the value is NULL
+  std::vector<char> donnees;
+};
+
+/// A prepared statement with the buffers of its result.
+class TInstruction {
+ public:
+  TInstruction(isc_db_handle base, TTransaction& transaction, const QByteArray& sql);
+  ~TInstruction();
+  TInstruction(const TInstruction&) = delete;
+  TInstruction& operator=(const TInstruction&) = delete;
+
+  /// Runs the statement; `parametre`, when given, is its one text parameter.
+  void Executer(const QByteArray* parametre = nullptr);
+  /// Runs a statement that gives exactly one row.
+  void ExecuterUneLigne(const QByteArray& parametre);
+  /// The next row into the fields; false at the end.
+  bool Suivant();
+  const std::vector<TChamp>& Champs() const { return champs_; }
+
+ private:
+  XSQLDA* Resultat() { return reinterpret_cast<XSQLDA*>(resultat_.data()); }
+  void DecrireResultat();
+
+  TTransaction& transaction_;
+  isc_stmt_handle poignee_ = 0;
+  std::vector<char> resultat_;
+  std::vector<TChamp> champs_;
+};
+
+/// Digits of a number field without regard to its scale; 0 when NULL or not a number.
+std::int64_t EntierBrut(const TChamp& champ);
+/// Whole number of a field, decimals cut; 0 when NULL or not a number.
+std::int64_t Entier(const TChamp& champ);
+
+}  // namespace Firebird

@@ -1,0 +1,107 @@
+#include "core/texte_separe.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringDecoder>
+
+#include "core/exceptions.h"
+
+namespace {
+
+constexpr qint64 kTailleMaximum = 64LL * 1024 * 1024;
+
+// What Windows-1252 holds between 0x80 and 0x9F, where Latin-1 has control characters.
+constexpr char16_t kWindows1252[32] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                       0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                       0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                       0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+/// One cell from `debut`; moves `debut` behind its separator, or behind the end of the line.
+QString Cellule(const QString& ligne, qsizetype& debut) {
+  QString debutCellule;
+  qsizetype i = debut;
+  if (i < ligne.size() && ligne[i] == u'"') {
+    // Quoted: a separator inside does not count, "" is a quote. A quote that is not closed on its
+    // line is an ordinary character, so that it cannot swallow the rest of the file.
+    QString texte;
+    qsizetype j = i + 1;
+    bool ferme = false;
+    while (j < ligne.size() && !ferme) {
+      if (ligne[j] != u'"') {
+        texte += ligne[j++];
+      } else if (j + 1 < ligne.size() && ligne[j + 1] == u'"') {
+        texte += u'"';
+        j += 2;
+      } else {
+        ferme = true;
+        ++j;
+      }
+    }
+    if (ferme) {
+      debutCellule = texte;
+      i = j;
+    }
+  }
+  qsizetype fin = ligne.indexOf(u';', i);
+  if (fin < 0) fin = ligne.size();
+  debutCellule += QStringView(ligne).mid(i, fin - i);
+  debut = fin + 1;
+  return debutCellule;
+}
+
+QStringList Couper(const QString& ligne) {
+  QStringList cellules;
+  qsizetype debut = 0;
+  do cellules += Cellule(ligne, debut);
+  while (debut <= ligne.size());
+  return cellules;
+}
+
+}  // namespace
+
+QString TexteDepuisOctets(const QByteArray& octets) {
+  QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  const QString texte = utf8(octets);
+  if (!utf8.hasError()) return texte;
+  QString ansi = QString::fromLatin1(octets);
+  for (QChar& c : ansi)
+    if (c.unicode() >= 0x80 && c.unicode() < 0xA0) c = QChar(kWindows1252[c.unicode() - 0x80]);
+  return ansi;
+}
+
+TTexteSepare TTexteSepare::Lire(const QString& chemin) {
+  const QFileInfo infos(chemin);
+  if (!infos.exists()) throw Exception(QStringLiteral("Le fichier « %1 » n'existe pas.").arg(chemin));
+  if (infos.isDir()) throw Exception(QStringLiteral("« %1 » est un dossier et non un fichier.").arg(chemin));
+  if (infos.size() > kTailleMaximum)
+    throw Exception(QStringLiteral("Le fichier « %1 » est trop grand (plus de 64 Mo) : ce n'est pas le bon "
+                                   "fichier.")
+                        .arg(chemin));
+  QFile fichier(chemin);
+  if (!fichier.open(QIODevice::ReadOnly))
+    throw Exception(
+        QStringLiteral("Le fichier « %1 » ne peut pas être lu : %2").arg(chemin, fichier.errorString()));
+  return Depuis(fichier.readAll(), chemin);
+}
+
+TTexteSepare TTexteSepare::Depuis(const QByteArray& octets, const QString& nom) {
+  if (octets.contains('\0'))
+    throw Exception(QStringLiteral("Le fichier « %1 » n'est pas un fichier de texte.").arg(nom));
+  QString texte = TexteDepuisOctets(octets);
+  texte.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  TTexteSepare resultat;
+  qsizetype debut = 0;
+  while (debut < texte.size()) {
+    qsizetype fin = texte.indexOf(u'\n', debut);
+    if (fin < 0) fin = texte.size();
+    resultat.Lignes.push_back(Couper(texte.mid(debut, fin - debut)));
+    debut = fin + 1;
+  }
+  const auto vide = [](const QStringList& l) { return l.size() == 1 && l[0].trimmed().isEmpty(); };
+  while (!resultat.Lignes.empty() && vide(resultat.Lignes.back())) resultat.Lignes.pop_back();
+  return resultat;
+}
+
+QString TTexteSepare::Cellule(int ligne, int colonne) const {
+  return Lignes[static_cast<std::size_t>(ligne)].value(colonne);
+}

@@ -1,0 +1,24 @@
+#pragma once
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+/// The rows of a text whose fields are separated by ";".
+class TTexteSepare {
+ public:
+  /// Reads a whole file: UTF-8 when its bytes are that, else Windows-1252. Raises Exception with a
+  /// French message when it is missing, a folder, too large or not a text.
+  static TTexteSepare Lire(const QString& chemin);
+  /// The same for bytes at hand; `nom` is for messages.
+  static TTexteSepare Depuis(const QByteArray& octets, const QString& nom);
+
+  int NombreLignes() const { return static_cast<int>(Lignes.size()); }
+  /// "" beyond the end of a row.
+  QString Cellule(int ligne, int colonne) const;
+
+  /// Blank rows at the end are left out; one in the middle is a row with one empty field.
+  std::vector<QStringList> Lignes;
+};
+
+/// UTF-8 when the bytes are valid, else Windows-1252; a byte order mark is left out.
+QString TexteDepuisOctets(const QByteArray& octets);
