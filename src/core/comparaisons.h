@@ -1,0 +1,19 @@
+#pragma once
+#include <QString>
+#include <concepts>
+
+/// Order of two texts in the language of the school: accents and case decide only between texts
+/// that are otherwise alike. Below 0, 0 or above 0.
+int ComparerTextes(const QString& a, const QString& b);
+
+/// What has a name to be put in order by: a pupil.
+template <class T>
+concept TNomme = requires(const T& t) {
+  { t.NomComplet() } -> std::convertible_to<QString>;
+};
+
+/// Order of two pupils by name. Below 0, 0 or above 0.
+template <TNomme T>
+int ComparerNoms(const T& a, const T& b) {
+  return ComparerTextes(a.NomComplet(), b.NomComplet());
+}
