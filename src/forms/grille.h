@@ -1,0 +1,123 @@
+#pragma once
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+#include "forms/objet_vu.h"
+
+enum class TAlignement { Gauche, Centre, Droite };
+
+/// How the texts of a column are put in order.
+enum class TOrdre {
+  Texte,   ///< in the language of the school
+  Nombre,  ///< "-1.234,50 €"; a text without digits comes first
+  Date,    ///< "dd/mm/yyyy"; what cannot be read comes first
+};
+
+struct TColonneGrille {
+  QString Titre;
+  int Largeur = 100;  ///< in 1/96 inch
+  TAlignement Alignement = TAlignement::Gauche;
+  TOrdre Ordre = TOrdre::Texte;
+};
+
+/// A state of the rows: a word and the name of an icon, never a colour alone.
+struct TEtatGrille {
+  QString Texte;
+  QString Icone;
+};
+
+struct TLigneGrille {
+  QStringList Textes;
+  TObjetVu Objet;
+  int Etat = 0;  ///< index into the states of the grid
+  bool Coche = false;
+
+  /// Empty for a cell that was never written.
+  QString Texte(int colonne) const { return Textes.value(colonne); }
+};
+
+/// A table of texts: what a screen shows, sorts and filters, and what a list prints. Indexes are
+/// from 0; one outside the grid is a fault of the caller, but for those that say otherwise.
+class TGrille {
+ public:
+  /// What has changed; `Ligne` is -1 when it is more than one row.
+  struct TChangement {
+    int Ligne = -1;
+  };
+  /// Several changes, announced as one at its end.
+  class TLot {
+   public:
+    explicit TLot(TGrille& grille) : grille_(grille) { ++grille_.lots_; }
+    ~TLot();
+    TLot(const TLot&) = delete;
+    TLot& operator=(const TLot&) = delete;
+
+   private:
+    TGrille& grille_;
+  };
+
+  TGrille() = default;
+  explicit TGrille(std::vector<TColonneGrille> colonnes) : colonnes_(std::move(colonnes)) {}
+
+  /// Sets the columns and removes the rows.
+  void DefinirColonnes(std::vector<TColonneGrille> colonnes);
+  int NombreColonnes() const { return static_cast<int>(colonnes_.size()); }
+  const TColonneGrille& Colonne(int colonne) const { return colonnes_.at(static_cast<size_t>(colonne)); }
+  /// The user drew the column wider or narrower.
+  void ChangerLargeur(int colonne, int largeur);
+
+  int NombreLignes() const { return static_cast<int>(lignes_.size()); }
+  const TLigneGrille& Ligne(int ligne) const { return lignes_.at(static_cast<size_t>(ligne)); }
+  QString Texte(int ligne, int colonne) const { return Ligne(ligne).Texte(colonne); }
+
+  /// Returns the index of the new row, which is the last.
+  int Ajouter(QStringList textes, TObjetVu objet = {}, int etat = 0);
+  /// The row behind it becomes the current one if it was, or the last.
+  void Retirer(int ligne);
+  /// Removes the rows; columns stay.
+  void Vider();
+  void Ecrire(int ligne, int colonne, const QString& texte);
+  void EcrireLigne(int ligne, QStringList textes);
+  void ChangerObjet(int ligne, TObjetVu objet);
+  void ChangerEtat(int ligne, int etat);
+  void Cocher(int ligne, bool coche);
+  void CocherTout(bool coche);
+
+  /// Stable; the current row stays on its row.
+  void Trier(int colonne, bool croissant = true);
+  /// The same by a comparison of two rows (below 0, 0 or above 0).
+  void Trier(const std::function<int(const TLigneGrille&, const TLigneGrille&)>& comparer);
+  /// Whether a cell of the row contains each word of the text, without regard to case and accents.
+  bool Contient(int ligne, const QString& cherche) const;
+  /// -1 when no row carries the object.
+  int TrouverObjet(TObjetVu objet) const;
+
+  /// The selected row; -1 for none.
+  int LigneCourante() const { return courante_; }
+  /// An index outside the grid selects none.
+  void ChoisirLigne(int ligne);
+
+  /// The rows are shown with check boxes.
+  bool CasesACocher = false;
+  std::vector<TEtatGrille> Etats;
+  std::function<void(TChangement)> SurChangement;
+  /// The selected row is another one.
+  std::function<void()> SurChoix;
+
+ private:
+  TLigneGrille& Modifiable(int ligne) { return lignes_.at(static_cast<size_t>(ligne)); }
+  void Annoncer(int ligne = -1);
+
+  std::vector<TColonneGrille> colonnes_;
+  std::vector<TLigneGrille> lignes_;
+  int courante_ = -1;
+  int lots_ = 0;
+  bool change_ = false;
+};
+
+/// Order of two rows by the text in column 0, in the language of the school.
+int ComparerColonne0(const TLigneGrille& a, const TLigneGrille& b);
+/// The same by column 1.
+int ComparerColonne1(const TLigneGrille& a, const TLigneGrille& b);

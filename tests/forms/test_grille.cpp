@@ -1,0 +1,144 @@
+#include <gtest/gtest.h>
+
+#include "forms/arbre.h"
+#include "forms/grille.h"
+
+namespace {
+
+struct TEleveFictif {};
+struct TClasseFictive {};
+
+TGrille Grille(TOrdre ordre, const QStringList& textes) {
+  TGrille grille({{QStringLiteral("Nom"), 200}, {QStringLiteral("Valeur"), 80, TAlignement::Droite, ordre}});
+  for (const QString& texte : textes) grille.Ajouter({QStringLiteral("x"), texte});
+  return grille;
+}
+
+QStringList Colonne(const TGrille& grille, int colonne) {
+  QStringList textes;
+  for (int ligne = 0; ligne < grille.NombreLignes(); ++ligne) textes += grille.Texte(ligne, colonne);
+  return textes;
+}
+
+}  // namespace
+
+TEST(Grille, TrieSelonLaNatureDeLaColonne) {
+  const struct {
+    TOrdre Ordre;
+    const char* Melange;
+    const char* Trie;
+  } cas[] = {
+      {TOrdre::Texte, "Zoé|élan|Eric|abbé", "abbé|élan|Eric|Zoé"},
+      {TOrdre::Nombre, "1.234,50 €|-3,00 €||20,00 €|3", "|-3,00 €|3|20,00 €|1.234,50 €"},
+      {TOrdre::Date, "02/10/2016|03/09/2016||01/01/2017", "|03/09/2016|02/10/2016|01/01/2017"},
+  };
+  for (const auto& [ordre, melange, trie] : cas) {
+    TGrille grille = Grille(ordre, QString::fromUtf8(melange).split(u'|'));
+    QStringList attendu = QString::fromUtf8(trie).split(u'|');
+    grille.Trier(1);
+    EXPECT_EQ(Colonne(grille, 1), attendu);
+    grille.Trier(1, false);
+    std::ranges::reverse(attendu);
+    EXPECT_EQ(Colonne(grille, 1), attendu);
+  }
+}
+
+TEST(Grille, UneLigneGardeCeQuElleEst) {
+  TEleveFictif anne, luc;
+  TGrille grille = Grille(TOrdre::Texte, {});
+  grille.Ajouter({QStringLiteral("Luc"), QStringLiteral("P1")}, &luc, 2);
+  grille.Ajouter({QStringLiteral("Anne"), QStringLiteral("P1")}, &anne);
+  grille.Ajouter({QStringLiteral("Marc"), QStringLiteral("M3")});
+  grille.Cocher(0, true);
+  grille.ChoisirLigne(0);
+  int choix = 0;
+  grille.SurChoix = [&] { ++choix; };
+
+  grille.Trier(ComparerColonne0);
+  EXPECT_EQ(grille.LigneCourante(), 1);
+  EXPECT_EQ(grille.Ligne(1).Objet.En<TEleveFictif>(), &luc);
+  EXPECT_EQ(grille.Ligne(1).Objet.En<TClasseFictive>(), nullptr);
+  EXPECT_EQ(grille.Ligne(1).Etat, 2);
+  EXPECT_TRUE(grille.Ligne(1).Coche);
+  EXPECT_EQ(grille.TrouverObjet(&anne), 0);
+  EXPECT_EQ(grille.TrouverObjet(nullptr), -1);
+  grille.Trier(ComparerColonne1);  // alike rows keep their order
+  EXPECT_EQ(Colonne(grille, 0),
+            (QStringList{QStringLiteral("Marc"), QStringLiteral("Anne"), QStringLiteral("Luc")}));
+  EXPECT_EQ(choix, 0);
+
+  grille.Retirer(0);
+  EXPECT_EQ(grille.LigneCourante(), 1);
+  grille.Retirer(1);
+  EXPECT_EQ(grille.LigneCourante(), 0);
+  EXPECT_EQ(choix, 1);
+  grille.Vider();
+  EXPECT_EQ(grille.LigneCourante(), -1);
+  EXPECT_EQ(choix, 2);
+  EXPECT_EQ(grille.NombreColonnes(), 2);
+  EXPECT_THROW(grille.Retirer(0), std::out_of_range);
+}
+
+TEST(Grille, FiltreSansCasseNiAccent) {
+  TGrille grille = Grille(TOrdre::Texte, {QStringLiteral("Élodie Gaëlle"), QString()});
+  for (const char* oui : {"", "elodie", "GAELLE él", "x ÉLO"})
+    EXPECT_TRUE(grille.Contient(0, QString::fromUtf8(oui))) << oui;
+  for (const char* non : {"elodies", "xé", "elodie luc"})
+    EXPECT_FALSE(grille.Contient(0, QString::fromUtf8(non))) << non;
+}
+
+TEST(Grille, AnnonceChaqueChangementOuUnLot) {
+  TGrille grille = Grille(TOrdre::Texte, {QStringLiteral("a"), QStringLiteral("b")});
+  std::vector<int> lignes;
+  grille.SurChangement = [&](TGrille::TChangement changement) { lignes.push_back(changement.Ligne); };
+  grille.Ecrire(1, 4, QStringLiteral("loin"));
+  EXPECT_EQ(grille.Texte(1, 4), QStringLiteral("loin"));
+  EXPECT_TRUE(grille.Texte(1, 3).isEmpty());
+  grille.ChangerEtat(0, 1);
+  grille.Ajouter({QStringLiteral("c")});
+  EXPECT_EQ(lignes, (std::vector{1, 0, -1}));
+  lignes.clear();
+  {
+    TGrille::TLot lot(grille);
+    grille.DefinirColonnes({{QStringLiteral("Seule")}});
+    grille.Ajouter({QStringLiteral("d")});
+    EXPECT_TRUE(lignes.empty());
+  }
+  EXPECT_EQ(lignes, std::vector{-1});
+  { TGrille::TLot rien(grille); }
+  EXPECT_EQ(lignes.size(), 1U);
+}
+
+TEST(Arbre, OrdreEtRecherche) {
+  TEleveFictif anne, luc;
+  TArbre arbre;
+  EXPECT_EQ(arbre.Premier(), nullptr);
+  TNoeud& m1 = arbre.Ajouter(nullptr, QStringLiteral("M1"));
+  TNoeud& p1 = arbre.Ajouter(nullptr, QStringLiteral("P1"));
+  TNoeud& noeudAnne = arbre.Ajouter(&m1, QStringLiteral("Élan Anne"), &anne);
+  TNoeud& noeudLuc = arbre.Ajouter(&p1, QStringLiteral("p1"), &luc);
+
+  std::vector<const TNoeud*> ordre;
+  for (const TNoeud* noeud = arbre.Premier(); noeud; noeud = arbre.Suivant(*noeud)) ordre.push_back(noeud);
+  EXPECT_EQ(ordre, (std::vector<const TNoeud*>{&m1, &noeudAnne, &p1, &noeudLuc}));
+  EXPECT_EQ(noeudLuc.Niveau(), 1);
+
+  EXPECT_EQ(arbre.TrouverObjet(&luc), &noeudLuc);
+  EXPECT_EQ(arbre.TrouverObjet(nullptr), nullptr);  // M1 carries none
+  EXPECT_EQ(arbre.TrouverTexte(QStringLiteral("éLAN aNNE")), &noeudAnne);
+  EXPECT_EQ(arbre.TrouverTexte(QStringLiteral("p1")), &p1);  // the first in tree order
+  EXPECT_EQ(arbre.TrouverTexte(QStringLiteral("P")), nullptr);
+
+  int choix = 0;
+  arbre.SurSelection = [&] { ++choix; };
+  arbre.Selectionner(&noeudLuc);
+  arbre.Selectionner(&noeudLuc);
+  EXPECT_EQ(choix, 1);
+  arbre.Supprimer(m1);
+  EXPECT_EQ(arbre.Selection(), &noeudLuc);
+  EXPECT_EQ(arbre.TrouverObjet(&anne), nullptr);
+  arbre.Supprimer(p1);
+  EXPECT_EQ(arbre.Selection(), nullptr);
+  EXPECT_EQ(choix, 2);
+  EXPECT_EQ(arbre.Premier(), nullptr);
+}
