@@ -23,7 +23,7 @@ TOrigine Wallonne() {
       u"PIRET, PIRON, PIRSON, PONCELET, PONCIN, QUEVRIN, REMACLE, REMY, RENARD, RENAUD, RION, ROBERT, "
       u"ROLAND, ROSIÈRE, ROUSSEAU, SACRÉ, SERVAIS, SEVRIN, SIMON, SOHET, STASSART, STÉVENIN, THIRY, "
       u"THOMAS, THONON, TONGLET, TOUSSAINT, URBAIN, VERLAINE, VIGNERON, WARNANT, WARZÉE, WATHELET, "
-      u"WAUTHIER, WILLEM, WILMET, WILMOTTE, DE WILDE, d'HARVENG, DELLA VALLE");
+      u"WAUTHIER, WILLEM, WILMET, WILMOTTE, DE WILDE, d'HARVENG");
   o.Filles = Liste(
       u"Emma, Léa, Louise, Chloé, Lucie, Camille, Manon, Juliette, Zoé, Clara, Alice, Eva, Jade, Lola, "
       u"Charlotte, Élise, Sarah, Inès, Margaux, Lina, Mila, Anaïs, Célia, Elena, Victoria, Olivia, Rose, "
@@ -49,127 +49,65 @@ TOrigine Wallonne() {
   return o;
 }
 
-TOrigine Flamande() {
-  TOrigine o;
-  o.Nationalite = QStringLiteral("Belge");
-  o.Poids = 80;
-  o.PrenomsFrancais = 850;
-  o.Noms = Liste(
-      u"CLAES, CLAESSENS, DE MEULENAERE, DE SMET, DE VOS, JANSSENS, MERTENS, PEETERS, VAN CAUWENBERGHE, "
-      u"VAN DAMME, VAN DEN BERGHE, VAN HOVE, VANDENBOSSCHE, VANDERLINDEN, VERHAEGEN, VERMEIREN, "
-      u"WILLEMS, WOUTERS");
-  o.Filles = Liste(u"Lotte, Elke, Femke, Hanne, Noor");
-  o.Garcons = Liste(u"Jef, Wout, Lars, Daan, Sven");
-  o.Meres = Liste(u"Katrien, Griet, Ann, Sofie, Els, Tine, Ingrid");
-  o.Peres = Liste(u"Koen, Bart, Wim, Dirk, Tom, Peter, Jan");
-  return o;
-}
+/// The other families, one line an origin: weight, share of French first names, family names, then the
+/// first names of girls, boys, mothers and fathers.
+struct TLigneOrigine {
+  const char16_t *Nationalite, *Naissance;
+  int Poids, PrenomsFrancais;
+  const char16_t *Noms, *Filles, *Garcons, *Meres, *Peres;
+};
 
-TOrigine Italienne() {
-  TOrigine o;
-  o.Nationalite = QStringLiteral("Italienne");
-  o.Naissance = QStringLiteral("Agrigento");
-  o.Poids = 60;
-  o.PrenomsFrancais = 500;
-  o.Noms = Liste(
-      u"BRUNO, CAPPELLO, D'ANGELO, DI PIETRO, FERRARA, GALLO, LO PRESTI, MANCUSO, PARISI, RUSSO, "
-      u"SALVAGGIO, TERRANOVA");
-  o.Filles = Liste(u"Giulia, Chiara, Aurora, Elisa, Sofia, Alessia, Giorgia");
-  o.Garcons = Liste(u"Matteo, Luca, Alessio, Nino, Fabio, Gino, Lorenzo");
-  o.Meres = Liste(u"Rosa, Antonella, Sabrina, Patrizia, Carmela, Laura");
-  o.Peres = Liste(u"Salvatore, Giuseppe, Antonio, Marco, Calogero, Fabrizio");
-  return o;
-}
-
-TOrigine Iberique() {
-  TOrigine o;
-  o.Nationalite = QStringLiteral("Portugaise");
-  o.Naissance = QStringLiteral("Braga");
-  o.Poids = 35;
-  o.PrenomsFrancais = 400;
-  o.Noms = Liste(u"DA SILVA, DOS SANTOS, FERNANDEZ, FERREIRA, GARCIA, GONÇALVES, MORENO, PEREIRA");
-  o.Filles = Liste(u"Beatriz, Inês, Carolina, Mariana, Lucia");
-  o.Garcons = Liste(u"Tiago, Rui, João, Miguel, Pablo");
-  o.Meres = Liste(u"Maria José, Sandra, Paula, Fátima, Cristina");
-  o.Peres = Liste(u"Carlos, Paulo, Manuel, José Luis, Nuno");
-  return o;
-}
-
-TOrigine Marocaine() {
-  TOrigine o;
-  o.Nationalite = QStringLiteral("Marocaine");
-  o.Naissance = QStringLiteral("Nador");
-  o.Poids = 50;
-  o.PrenomsFrancais = 100;
-  o.Noms = Liste(
-      u"AÏT OUALI, AZZOUZI, BENALI, BOUHADDI, CHAKIR, EL AMRANI, EL KHATTABI, HADDOUCHI, OUARDI, "
-      u"ZEROUALI");
-  o.Filles = Liste(u"Yasmine, Inès, Aya, Nour, Salma, Rania, Assia, Kenza");
-  o.Garcons = Liste(u"Mohamed, Adam, Ilyas, Rayan, Bilal, Amine, Youssef, Ayoub");
-  o.Meres = Liste(u"Fatima, Samira, Naïma, Karima, Hanane, Loubna");
-  o.Peres = Liste(u"Karim, Rachid, Mustapha, Hassan, Abdelkader, Saïd");
-  return o;
-}
-
-TOrigine Turque() {
-  TOrigine o;
-  o.Nationalite = QStringLiteral("Turque");
-  o.Naissance = QStringLiteral("Emirdağ");
-  o.Poids = 25;
-  o.PrenomsFrancais = 50;
-  o.Noms = Liste(u"AYDIN, DEMIR, KAYA, KILIÇ, ŞAHIN, YILDIZ");
-  o.Filles = Liste(u"Defne, Elif, Zeynep, Ecrin, Esma");
-  o.Garcons = Liste(u"Yiğit, Emir, Kerem, Mert, Eymen");
-  o.Meres = Liste(u"Ayşe, Hatice, Emine, Gülay, Sevim");
-  o.Peres = Liste(u"Mehmet, Ali, Hüseyin, Murat, Osman");
-  return o;
-}
-
-TOrigine AfriqueCentrale() {
-  TOrigine o;
-  o.Nationalite = QStringLiteral("Congolaise");
-  o.Naissance = QStringLiteral("Kinshasa");
-  o.Poids = 45;
-  o.PrenomsFrancais = 350;
-  o.Noms = Liste(
-      u"HABIMANA, ILUNGA, KABONGO, KALALA, MBUYI, MUKENDI, NGOY, TSHIBANDA, UWIMANA, BAH, DIALLO, "
-      u"BARRY");
-  o.Filles = Liste(u"Grâce, Exaucée, Merveille, Divine, Aïssatou, Plamedie, Keza");
-  o.Garcons = Liste(u"Christian, Daniel, Emmanuel, Ibrahima, Jonathan, Samuel, Glody");
-  o.Meres = Liste(u"Béatrice, Mamie, Solange, Clarisse, Fatoumata, Chantal");
-  o.Peres = Liste(u"Jean-Claude, Dieudonné, Mamadou, Patrick, Célestin, Trésor");
-  return o;
-}
-
-TOrigine EuropeCentrale() {
-  TOrigine o;
-  o.Nationalite = QStringLiteral("Roumaine");
-  o.Naissance = QStringLiteral("Iași");
-  o.Poids = 40;
-  o.PrenomsFrancais = 200;
-  o.Noms = Liste(
-      u"BERISHA, GASHI, IONESCU, KOWALCZYK, KRASNIQI, NOWAK, OSTROWSKI, POPESCU, ȘTEFĂNESCU, "
-      u"WÓJCIK");
-  o.Filles = Liste(u"Zofia, Maja, Ioana, Elena, Arta, Oliwia");
-  o.Garcons = Liste(u"Andrei, Jakub, Dren, Kacper, Mihai, Leon");
-  o.Meres = Liste(u"Mihaela, Agnieszka, Katarzyna, Vjosa, Alina");
-  o.Peres = Liste(u"Piotr, Marcin, Ionuț, Agim, Cristian");
-  return o;
-}
-
-TOrigine Asie() {
-  TOrigine o;
-  o.Nationalite = QStringLiteral("Syrienne");
-  o.Naissance = QStringLiteral("Alep");
-  o.Poids = 25;
-  o.PrenomsFrancais = 200;
-  o.Noms = Liste(u"AL KHATIB, HADDAD, NGUYEN, PHAM, RAHMANI, SINGH, TRAN");
-  o.Filles = Liste(u"Thi Mai, Linh, Rima, Sima, Amrit, Leila");
-  o.Garcons = Liste(u"Minh, Omar, Karan, Anas, Duc, Zaid");
-  o.Meres = Liste(u"Thi Hoa, Rasha, Mariam, Harpreet, Zahra");
-  o.Peres = Liste(u"Van Hung, Khaled, Ahmad, Gurpreet, Nabil");
-  return o;
-}
+constexpr TLigneOrigine kOrigines[] = {
+    {u"Belge", u"", 80, 850,
+     u"CLAES, CLAESSENS, DE MEULENAERE, DE SMET, DE VOS, JANSSENS, MERTENS, PEETERS, VAN CAUWENBERGHE, "
+     u"VAN DAMME, VAN DEN BERGHE, VAN HOVE, VANDENBOSSCHE, VANDERLINDEN, VERHAEGEN, VERMEIREN, WILLEMS, "
+     u"WOUTERS",
+     u"Lotte, Elke, Femke, Hanne, Noor", u"Jef, Wout, Lars, Daan, Sven",
+     u"Katrien, Griet, Ann, Sofie, Els, Tine, Ingrid", u"Koen, Bart, Wim, Dirk, Tom, Peter, Jan"},
+    {u"Italienne", u"Agrigento", 60, 500,
+     u"BRUNO, CAPPELLO, D'ANGELO, DI PIETRO, FERRARA, GALLO, LO PRESTI, MANCUSO, PARISI, RUSSO, SALVAGGIO, "
+     u"TERRANOVA",
+     u"Giulia, Chiara, Aurora, Elisa, Sofia, Alessia, Giorgia",
+     u"Matteo, Luca, Alessio, Nino, Fabio, Gino, Lorenzo",
+     u"Rosa, Antonella, Sabrina, Patrizia, Carmela, Laura",
+     u"Salvatore, Giuseppe, Antonio, Marco, Calogero, Fabrizio"},
+    {u"Portugaise", u"Braga", 20, 400, u"DA SILVA, DOS SANTOS, FERREIRA, GONÇALVES, PEREIRA",
+     u"Beatriz, Inês, Carolina, Mariana, Matilde", u"Tiago, Rui, João, Miguel, Afonso",
+     u"Maria José, Sandra, Paula, Fátima, Cristina", u"Carlos, Paulo, Manuel, Nuno, Fernando"},
+    {u"Espagnole", u"Oviedo", 15, 550, u"FERNANDEZ, GARCIA, MORENO, ALVAREZ",
+     u"Lucia, Carla, Alba, Nuria, Paula", u"Pablo, Diego, Javier, Alvaro, Hugo",
+     u"Pilar, Montserrat, Ana, Cristina", u"José Luis, Antonio, Miguel, Juan"},
+    {u"Marocaine", u"Nador", 50, 100,
+     u"AÏT OUALI, AZZOUZI, BENALI, BOUHADDI, CHAKIR, EL AMRANI, EL KHATTABI, HADDOUCHI, OUARDI, ZEROUALI",
+     u"Yasmine, Inès, Aya, Nour, Salma, Rania, Assia, Kenza",
+     u"Mohamed, Adam, Ilyas, Rayan, Bilal, Amine, Youssef, Ayoub",
+     u"Fatima, Samira, Naïma, Karima, Hanane, Loubna", u"Karim, Rachid, Mustapha, Hassan, Abdelkader, Saïd"},
+    {u"Turque", u"Emirdağ", 25, 50, u"AYDIN, DEMIR, KAYA, KILIÇ, ŞAHIN, YILDIZ",
+     u"Defne, Elif, Zeynep, Ecrin, Esma", u"Yiğit, Emir, Kerem, Mert, Eymen",
+     u"Ayşe, Hatice, Emine, Gülay, Sevim", u"Mehmet, Ali, Hüseyin, Murat, Osman"},
+    {u"Congolaise", u"Kinshasa", 35, 350, u"ILUNGA, KABONGO, KALALA, MBUYI, MUKENDI, NGOY, TSHIBANDA, LUKUSA",
+     u"Grâce, Exaucée, Merveille, Divine, Plamedie, Gloria",
+     u"Christian, Daniel, Emmanuel, Jonathan, Samuel, Glody", u"Béatrice, Mamie, Solange, Clarisse, Chantal",
+     u"Jean-Claude, Dieudonné, Patrick, Célestin, Trésor"},
+    {u"Rwandaise", u"Kigali", 8, 500, u"HABIMANA, MUGISHA, UWIMANA", u"Keza, Ornella, Teta, Gaëlla",
+     u"Yvan, Bruce, Kenny, Christian", u"Jeannette, Espérance, Immaculée, Solange",
+     u"Jean-Bosco, Innocent, Aimable"},
+    {u"Guinéenne", u"Conakry", 12, 80, u"BAH, BARRY, DIALLO, SOW", u"Aïssatou, Mariama, Kadiatou, Fatoumata",
+     u"Ibrahima, Mamadou, Alpha, Thierno, Ousmane", u"Fatoumata, Oumou, Hadja, Aminata",
+     u"Mamadou, Abdoulaye, Amadou"},
+    {u"Polonaise", u"Białystok", 15, 250, u"KOWALCZYK, NOWAK, OSTROWSKI, WÓJCIK",
+     u"Zofia, Maja, Oliwia, Hanna", u"Jakub, Kacper, Szymon, Filip", u"Agnieszka, Katarzyna, Małgorzata",
+     u"Piotr, Marcin, Tomasz"},
+    {u"Roumaine", u"Iași", 15, 200, u"IONESCU, POPESCU, ȘTEFĂNESCU, MOLDOVAN",
+     u"Ioana, Elena, Andreea, Daria", u"Andrei, Mihai, Ștefan, David", u"Mihaela, Alina, Gabriela",
+     u"Ionuț, Cristian, Florin"},
+    {u"Kosovare", u"Prizren", 10, 150, u"BERISHA, GASHI, KRASNIQI", u"Arta, Elira, Dea, Rina",
+     u"Dren, Leon, Erion, Rron", u"Vjosa, Teuta, Shpresa", u"Agim, Besnik, Arben"},
+    {u"Vietnamienne", u"Hué", 8, 400, u"NGUYEN, PHAM, TRAN", u"Thi Mai, Linh, Kim Anh, Ngoc",
+     u"Minh, Duc, Quang, Bao", u"Thi Hoa, Thi Lan, Thu Huong", u"Van Hung, Quoc Tuan, Thanh"},
+    {u"Syrienne", u"Alep", 10, 50, u"AL KHATIB, HADDAD, AL ALI", u"Rima, Leila, Sham, Naya",
+     u"Omar, Anas, Zaid, Karam", u"Rasha, Mariam, Rim", u"Khaled, Ahmad, Nabil"},
+};
 
 TLocalite Localite(const char16_t* nom, int code, int poids, const char16_t* rues) {
   return {QString::fromUtf16(nom), code, poids, Liste(rues)};
@@ -225,9 +163,14 @@ QString DeuxChiffres(int nombre) { return QStringLiteral("%1").arg(nombre, 2, 10
 }  // namespace
 
 const std::vector<TOrigine>& Origines() {
-  static const std::vector<TOrigine> origines{Wallonne(), Flamande(),        Italienne(),
-                                              Iberique(), Marocaine(),       Turque(),
-                                              Asie(),     AfriqueCentrale(), EuropeCentrale()};
+  static const std::vector<TOrigine> origines = [] {
+    std::vector<TOrigine> liste{Wallonne()};
+    for (const TLigneOrigine& o : kOrigines)
+      liste.push_back({QString::fromUtf16(o.Nationalite), QString::fromUtf16(o.Naissance), o.Poids,
+                       o.PrenomsFrancais, Liste(o.Noms), Liste(o.Filles), Liste(o.Garcons), Liste(o.Meres),
+                       Liste(o.Peres)});
+    return liste;
+  }();
   return origines;
 }
 
