@@ -1,0 +1,95 @@
+#include "payments/paiements.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/// How often a pupil may have a payment of a type.
+struct TRegle {
+  int type;
+  bool parMois;   ///< once a month, otherwise once
+  bool remplace;  ///< a second one replaces the amount of the first, otherwise it is dropped
+};
+
+constexpr TRegle kRegles[] = {
+    {1, true, false}, {2, false, false}, {3, false, true},
+    {5, true, true},  {6, true, false},  {kPaiementServices, true, false},
+};
+
+}  // namespace
+
+TPaiements::TPaiements(TDataModule1& base, int annee) : TCollection(base), AnneeScolaire(annee) { Charger(); }
+
+void TPaiements::DefineQuery() {
+  SelectSql = u"SELECT * FROM PAIEMENTS WHERE ANNEE_SCOLAIRE =" % QString::number(AnneeScolaire);
+  TableName = QStringLiteral("PAIEMENTS");
+  KeyField = "PAIEMENT_ID";
+  CounterName = QStringLiteral("PAIEMENTS");
+}
+
+void TPaiements::LoadItems(TCurseur& ligne) {
+  TPaiement& paiement = Nouveau(ligne);
+  paiement.EleveId = ligne.Entier("ELEVE_ID");
+  paiement.TypePaiement = ligne.Entier("TYPE_PAIEMENT");
+  paiement.Mois = ligne.Entier("MOIS");
+  paiement.Annee = ligne.Entier("ANNEE");
+  paiement.Montant = ligne.Montant("MONTANT");
+}
+
+void TPaiements::StoreRecord(const TPaiement& paiement, TLigne& ligne) const {
+  ligne.Ecrire("ELEVE_ID", paiement.EleveId);
+  ligne.Ecrire("TYPE_PAIEMENT", paiement.TypePaiement);
+  ligne.Ecrire("MOIS", paiement.Mois);
+  ligne.Ecrire("ANNEE", paiement.Annee);
+  ligne.Ecrire("MONTANT", paiement.Montant);
+  ligne.Ecrire("ANNEE_SCOLAIRE", AnneeScolaire);
+}
+
+TPaiement* TPaiements::AjoutePaiement(std::unique_ptr<TPaiement> paiement) {
+  const auto regle = std::ranges::find(kRegles, paiement->TypePaiement, &TRegle::type);
+  if (regle == std::end(kRegles)) return nullptr;
+  for (TPaiement* deja : parEleve_.Tous(paiement->EleveId)) {
+    if (deja->TypePaiement != paiement->TypePaiement || (regle->parMois && deja->Mois != paiement->Mois))
+      continue;
+    if (!regle->remplace) return nullptr;
+    deja->Montant = paiement->Montant;
+    return &Add(*deja);
+  }
+  return &Add(std::move(paiement));
+}
+
+TPaiement* TPaiements::MarquePaye(std::unique_ptr<TPaiement> paiement) {
+  paiement->TypePaiement = kPaiementServices;
+  return AjoutePaiement(std::move(paiement));
+}
+
+std::unique_ptr<TPaiement> TPaiements::MarqueImpaye(TPaiement& paiement) {
+  auto impaye = std::make_unique<TPaiement>();
+  impaye->EleveId = paiement.EleveId;
+  impaye->Mois = paiement.Mois;
+  impaye->Annee = paiement.Annee;
+  impaye->Montant = paiement.Montant;
+  Remove(paiement);
+  return impaye;
+}
+
+TPaiement* TPaiements::PaiementMois(int eleveId, int mois) const {
+  for (TPaiement* paiement : parEleve_.Tous(eleveId))
+    if (paiement->TypePaiement == kPaiementServices && paiement->Mois == mois) return paiement;
+  return nullptr;
+}
+
+Currency TPaiements::TotalPaiements(int eleveId) const {
+  Currency total;
+  for (const TPaiement* paiement : parEleve_.Tous(eleveId))
+    if (paiement->TypePaiement == kPaiementServices) total += paiement->Montant;
+  return total;
+}
+
+Currency TPaiements::MontantMois(int eleveId, int mois) const {
+  Currency montant;
+  for (const TPaiement* paiement : parEleve_.Tous(eleveId))
+    if (paiement->TypePaiement == kPaiementServices && paiement->Mois == mois) montant = paiement->Montant;
+  return montant;
+}
