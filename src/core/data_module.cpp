@@ -128,10 +128,12 @@ void TDataModule1::CreerFichier(const QString& chemin) {
   const QString ebauche = chemin + QStringLiteral(".nouveau");
   QFile::remove(ebauche);
   Firebird::CreerBase(ebauche);
+  Firebird::EcrituresForcees(ebauche, false);  // nothing to lose yet
   Ouvrir({}, ebauche);
   RunScript(ScriptTablesDeBase());
   MettreAJour();
   Deconnecter();
+  Firebird::EcrituresForcees(ebauche, true);
   if (!QFile::rename(ebauche, chemin))
     throw Exception(QStringLiteral("Le fichier de données « %1 » ne peut pas être créé.").arg(chemin));
 }

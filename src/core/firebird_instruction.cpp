@@ -1,5 +1,3 @@
-#include <cstring>
-
 #include "core/exceptions.h"
 #include "core/firebird.h"
 #include "core/firebird_interne.h"
@@ -51,7 +49,8 @@ void Verifier(const ISC_STATUS_ARRAY statut, const QString& fichier) {
 }
 
 isc_db_handle Attache(const QVariant& poignee) {
-  if (!poignee.isValid() || std::strcmp(poignee.typeName(), "isc_db_handle") != 0)
+  // Qt's driver hands out the handle by value, under the name of its underlying integer type.
+  if (poignee.metaType() != QMetaType::fromType<isc_db_handle>())
     throw Exception(QStringLiteral("La connexion à la base de données n'est pas ouverte."));
   return *static_cast<const isc_db_handle*>(poignee.constData());
 }

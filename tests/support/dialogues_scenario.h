@@ -3,6 +3,7 @@
 #include <deque>
 
 #include "core/dialogues.h"
+#include "support/affichage.h"
 
 /// Dialogs answered by a script. What the program asks or says must be what the test expects next,
 /// in this order; anything else fails the test, and so does an expectation that never comes.

@@ -1,0 +1,6 @@
+#pragma once
+#include <QString>
+#include <ostream>
+
+/// How a failed comparison shows a text. Google Test finds it by its name.
+inline void PrintTo(const QString& texte, std::ostream* sortie) { *sortie << '"' << texte.toStdString() << '"'; }
