@@ -193,6 +193,7 @@ bool TDistributor::Save() {
         if (CounterName != u"*") objet.Id = base_->GetNextId(CounterName);
         if (objet.Id == -1) continue;
         enregistrement.Inserer(objet);
+        Entre(objet);  // its key is known now
       } else {
         continue;
       }

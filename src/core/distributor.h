@@ -44,7 +44,8 @@ class TDistributor : public TBaseObject {
   virtual void LoadFromSource(TDataSet& source);
   /// An object's fields into the columns of its row, the key left out.
   virtual void StoreRecord(const TBaseObject& objet, TLigne& ligne) const = 0;
-  /// An object has entered, or its owner says that it has changed: the place to keep an index.
+  /// An object has entered, its owner says that it has changed, or its insertion has given it its
+  /// key: the place to keep an index.
   virtual void Entre(TBaseObject&) {}
   /// An object is about to leave.
   virtual void Sort(TBaseObject&) {}
