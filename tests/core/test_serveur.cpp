@@ -1,0 +1,143 @@
+// What several workstations do at once, against a real server.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <algorithm>
+#include <list>
+
+#include "core/data_module.h"
+#include "core/exceptions.h"
+#include "core/parametres.h"
+#include "support/dialogues_scenario.h"
+#include "support/serveur_firebird.h"
+
+namespace {
+
+/// One workstation: a connection and what it has loaded.
+struct TPoste {
+  explicit TPoste(const QString& serveur) {
+    base.ServerName = serveur;
+    base.Connecter();
+    parametres = std::make_unique<TParametres>(base);
+  }
+  TDialoguesScenario dialogues;
+  TReglagesPoste reglages;
+  TDataModule1 base{dialogues, reglages};
+  std::unique_ptr<TParametres> parametres;
+};
+
+/// The value that a workstation loading now would see; "" without a row.
+QString Relu(TDataModule1& base, int id) { return TParametres(base).GetParametre(id); }
+
+QString MessageDeConnexion(const QString& serveur) {
+  try {
+    TPoste poste(serveur);
+  } catch (const Exception& e) {
+    return e.Message;
+  }
+  return {};
+}
+
+}  // namespace
+
+TEST(Serveur, HuitPostesPrennentDesClesDistinctesSansTrou) {
+  constexpr int kPostes = 8, kClesParPoste = 250;
+  const TServeurFirebird serveur;
+  TPoste temoin(serveur.Nom());
+  const int avant = temoin.base.GetNextId(QStringLiteral("ELEVES"));
+  ASSERT_GT(avant, 0);
+
+  std::list<QProcess> postes(kPostes);
+  for (QProcess& poste : postes)
+    poste.start(QStringLiteral(PRENEUR_DE_CLES),
+                {serveur.Nom(), QStringLiteral("ELEVES"), QString::number(kClesParPoste)});
+  for (QProcess& poste : postes) {
+    while (!poste.canReadLine())
+      ASSERT_TRUE(poste.waitForReadyRead()) << poste.readAllStandardError().toStdString();
+    ASSERT_EQ("prêt\n", poste.readLine());
+  }
+  for (QProcess& poste : postes) poste.write("\n");
+
+  std::vector<int> cles;
+  for (QProcess& poste : postes) {
+    ASSERT_TRUE(poste.waitForFinished(120'000));
+    EXPECT_EQ(0, poste.exitCode()) << poste.readAllStandardError().toStdString();
+    for (const QByteArray& ligne : poste.readAllStandardOutput().trimmed().split('\n'))
+      cles.push_back(ligne.toInt());
+  }
+  std::sort(cles.begin(), cles.end());
+  ASSERT_EQ(kPostes * kClesParPoste, static_cast<int>(cles.size()));
+  for (std::size_t i = 0; i < cles.size(); ++i) ASSERT_EQ(avant + 1 + static_cast<int>(i), cles[i]);
+  EXPECT_EQ(cles.back() + 1, temoin.base.GetNextId(QStringLiteral("ELEVES")));
+}
+
+TEST(Serveur, LeDernierQuiEnregistreGagne) {
+  const TServeurFirebird serveur;
+  TPoste a(serveur.Nom());
+  a.parametres->SetParametre(901, QStringLiteral("départ"));
+  a.parametres->Save();
+  TPoste b(serveur.Nom());
+  ASSERT_EQ(QStringLiteral("départ"), b.parametres->GetParametre(901))
+      << "un ajout se voit au chargement suivant";
+
+  a.parametres->SetParametre(901, QStringLiteral("de A"));
+  b.parametres->SetParametre(901, QStringLiteral("de B"));
+  b.parametres->Save();
+  a.parametres->Save();
+  EXPECT_EQ(QStringLiteral("de A"), Relu(b.base, 901));
+  EXPECT_EQ(QStringLiteral("de B"), b.parametres->GetParametre(901))
+      << "rien ne change sous les yeux d'un poste";
+
+  b.parametres->SetParametre(901, QStringLiteral("de B encore"));
+  b.parametres->Save();
+  EXPECT_EQ(QStringLiteral("de B encore"), Relu(a.base, 901));
+}
+
+TEST(Serveur, UneRangeeDisparueResteModifieeEtNeGenePas) {
+  const TServeurFirebird serveur;
+  TPoste a(serveur.Nom());
+  for (int id : {901, 902}) a.parametres->SetParametre(id, QStringLiteral("départ"));
+  a.parametres->Save();
+  TPoste b(serveur.Nom());
+
+  a.parametres->Remove(*a.parametres->FindParametre(901));
+  a.parametres->Save();
+  b.parametres->SetParametre(901, QStringLiteral("perdu"));
+  b.parametres->SetParametre(902, QStringLiteral("gardé"));
+  EXPECT_TRUE(b.parametres->Save());
+
+  EXPECT_EQ(TStatus::Modifie, b.parametres->FindParametre(901)->Status);
+  EXPECT_EQ(TStatus::Inchange, b.parametres->FindParametre(902)->Status);
+  EXPECT_EQ(nullptr, TParametres(a.base).FindParametre(901));
+  EXPECT_EQ(QStringLiteral("gardé"), Relu(a.base, 902)) << "la suite de l'enregistrement a eu lieu";
+
+  b.parametres->Remove(*b.parametres->FindParametre(901));
+  EXPECT_TRUE(b.parametres->Save()) << "effacer une rangée que l'autre poste a effacée";
+}
+
+TEST(Serveur, UnePanneSeDitEnFrancais) {
+  const QString personne = QStringLiteral("127.0.0.1/%1").arg(PortLibre());
+  EXPECT_TRUE(MessageDeConnexion(personne).startsWith(QStringLiteral("Le serveur de données ne répond pas.")))
+      << MessageDeConnexion(personne).toStdString();
+
+  const TServeurFirebird autreMotDePasse(QStringLiteral("autrechose"));
+  const QString refus = MessageDeConnexion(autreMotDePasse.Nom());
+  EXPECT_TRUE(refus.startsWith(QStringLiteral("Le serveur de données refuse l'utilisateur du programme.")))
+      << refus.toStdString();
+  EXPECT_FALSE(refus.contains(QStringLiteral("corvusnet")));
+}
+
+TEST(Serveur, UneCoupureEnPleinTravailSeDitEtNeFermePas) {
+  auto serveur = std::make_unique<TServeurFirebird>();
+  TPoste poste(serveur->Nom());
+  poste.parametres->SetParametre(901, QStringLiteral("jamais écrit"));
+  serveur.reset();
+  try {
+    poste.parametres->Save();
+    ADD_FAILURE() << "l'enregistrement devait échouer";
+  } catch (const EDistributor& e) {
+    EXPECT_TRUE(e.Message.startsWith(QStringLiteral("La liaison avec le serveur de données est coupée.")))
+        << e.Message.toStdString();
+  }
+  EXPECT_EQ(TStatus::Nouveau, poste.parametres->FindParametre(901)->Status);
+}

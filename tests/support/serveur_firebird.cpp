@@ -1,0 +1,138 @@
+#include "support/serveur_firebird.h"
+
+#include <arpa/inet.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+constexpr int kAttenteDemarrageMs = 10'000;
+constexpr int kAttenteFinMs = 5'000;
+
+/// Its own port 0 asks the system for a free one.
+class TPrise {
+ public:
+  explicit TPrise(quint16 port) : poignee_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    adresse_.sin_family = AF_INET;
+    adresse_.sin_port = htons(port);
+    adresse_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  }
+  ~TPrise() { ::close(poignee_); }
+  TPrise(const TPrise&) = delete;
+  TPrise& operator=(const TPrise&) = delete;
+
+  bool Connecter() { return ::connect(poignee_, Adresse(), sizeof adresse_) == 0; }
+  quint16 Attacher() {
+    socklen_t taille = sizeof adresse_;
+    EXPECT_EQ(0, ::bind(poignee_, Adresse(), taille));
+    EXPECT_EQ(0, ::getsockname(poignee_, Adresse(), &taille));
+    return ntohs(adresse_.sin_port);
+  }
+
+ private:
+  sockaddr* Adresse() { return reinterpret_cast<sockaddr*>(&adresse_); }
+  int poignee_;
+  sockaddr_in adresse_{};
+};
+
+/// The folder of the server's own files; only the server and its set-up may know it.
+QProcessEnvironment Environnement(const QString& racine) {
+  QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
+  for (const char* nom : {"FIREBIRD", "FIREBIRD_LOCK", "FIREBIRD_TMP"})
+    environnement.insert(QString::fromLatin1(nom), racine);
+  return environnement;
+}
+
+}  // namespace
+
+quint16 PortLibre() { return TPrise(0).Attacher(); }
+
+TServeurFirebird::TServeurFirebird(const QString& motDePasse) : port_(PortLibre()) {
+  PreparerRacine();
+  CreerSecurite(motDePasse);
+  Demarrer();
+}
+
+TServeurFirebird::~TServeurFirebird() {
+  serveur_.terminate();
+  if (serveur_.waitForFinished(kAttenteFinMs)) return;
+  serveur_.kill();
+  serveur_.waitForFinished();
+}
+
+QString TServeurFirebird::Nom() const { return QStringLiteral("127.0.0.1/%1").arg(port_); }
+
+void TServeurFirebird::EcrireFichier(const QString& nom, const QString& contenu) const {
+  QFile fichier(Chemin(nom));
+  EXPECT_TRUE(fichier.open(QIODevice::WriteOnly));
+  fichier.write(contenu.toUtf8());
+}
+
+void TServeurFirebird::PreparerRacine() const {
+  const QDir installation(QStringLiteral(FIREBIRD_INSTALLATION));
+  for (const char* nom : {"plugins", "intl", "lib", "firebird.msg", "plugins.conf"})
+    EXPECT_TRUE(
+        QFile::link(installation.filePath(QString::fromLatin1(nom)), Chemin(QString::fromLatin1(nom))));
+  EXPECT_TRUE(QFile::copy(QStringLiteral(CALPENNE_MODELE), Chemin(QStringLiteral("presences.fdb"))));
+  QFile::setPermissions(Chemin(QStringLiteral("presences.fdb")), QFile::ReadOwner | QFile::WriteOwner);
+  EcrireFichier(QStringLiteral("firebird.conf"), QStringLiteral(R"(
+RemoteServicePort = %1
+RemoteBindAddress = 127.0.0.1
+RemoteAuxPort = 0
+IpcName = CALPENNE_%1
+SecurityDatabase = %2/securite.fdb
+DatabaseAccess = None
+AuthServer = Srp
+AuthClient = Srp
+UserManager = Srp
+WireCrypt = Enabled
+ServerMode = Super
+Providers = Engine12
+)")
+                                                     .arg(port_)
+                                                     .arg(racine_.path()));
+  EcrireFichier(QStringLiteral("databases.conf"), QStringLiteral(R"(
+PRESENCES = %1/presences.fdb
+security.db = %1/securite.fdb
+{
+  RemoteAccess = false
+}
+)")
+                                                      .arg(racine_.path()));
+}
+
+void TServeurFirebird::CreerSecurite(const QString& motDePasse) const {
+  QFile tables(QStringLiteral(FIREBIRD_SECURITE));
+  EXPECT_TRUE(tables.open(QIODevice::ReadOnly));
+  QProcess isql;
+  isql.setProcessEnvironment(Environnement(racine_.path()));
+  isql.start(QStringLiteral(FIREBIRD_ISQL), {QStringLiteral("-q"), QStringLiteral("-bail")});
+  isql.write("CREATE DATABASE '" + Chemin(QStringLiteral("securite.fdb")).toUtf8() + "' USER 'sysdba';\n");
+  isql.write(tables.readAll());
+  isql.write("\nCOMMIT;\nCREATE OR ALTER USER sysdba PASSWORD '" + motDePasse.toUtf8() +
+             "' USING PLUGIN Srp;\n");
+  isql.closeWriteChannel();
+  EXPECT_TRUE(isql.waitForFinished());
+  EXPECT_EQ(0, isql.exitCode()) << isql.readAllStandardError().toStdString();
+}
+
+void TServeurFirebird::Demarrer() {
+  serveur_.setProcessEnvironment(Environnement(racine_.path()));
+  serveur_.setProcessChannelMode(QProcess::MergedChannels);
+  serveur_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+  serveur_.start(QStringLiteral(FIREBIRD_SERVEUR), QStringList());
+  const QDeadlineTimer limite(kAttenteDemarrageMs);
+  while (!TPrise(port_).Connecter()) {
+    if (serveur_.waitForFinished(20) || limite.hasExpired()) {
+      ADD_FAILURE() << "le serveur ne démarre pas : " << serveur_.readAll().toStdString();
+      return;
+    }
+  }
+}
