@@ -1,0 +1,186 @@
+#include "services/frais_eleve.h"
+
+TAllFraisEleve::TAllFraisEleve(TDataModule1& base, int eleve, int annee, const TListeFrais* catalogue)
+    : TCollection(base), eleve_(eleve), annee_(annee), catalogue_(catalogue) {
+  Charger();
+}
+
+void TAllFraisEleve::DefineQuery() {
+  SelectSql = u"SELECT * FROM FRAIS_ELEVE WHERE ELEVE_ID = " % QString::number(eleve_) %
+              u" AND ANNEE_SCOLAIRE =" % QString::number(annee_);
+  TableName = QStringLiteral("FRAIS_ELEVE");
+  KeyField = "FRAIS_ELEVE_ID";
+  CounterName = QStringLiteral("FRAIS_ELEVE");
+}
+
+void TAllFraisEleve::LoadItems(TCurseur& ligne) {
+  TFraisEleve& frais = Nouveau(ligne);
+  frais.ListeFraisId = ligne.Entier("LISTEFRAIS_ID");
+  frais.Remarque = ligne.Texte("REMARQUE");
+  frais.MontantVerse = ligne.Montant("MONTANT_VERSE");
+  frais.DateVersement = ligne.Date("DATE_VERSEMENT");
+  frais.Mois = ligne.Entier("MOIS");
+  frais.ExtraitId = ligne.Entier("EXTRAIT_ID");
+  frais.TypeFamilleFrais = static_cast<TTypeFamilleFrais>(ligne.Entier("TYPE_FAMILLE_FRAIS"));
+  frais.GroupeFraisId = ligne.Entier("GROUPE_FRAIS_ID");
+}
+
+void TAllFraisEleve::StoreRecord(const TFraisEleve& frais, TLigne& ligne) const {
+  ligne.Ecrire("ELEVE_ID", eleve_);
+  ligne.Ecrire("ANNEE_SCOLAIRE", annee_);
+  ligne.EcrireReference("LISTEFRAIS_ID", frais.ListeFraisId);  // the foreign key refuses 0
+  ligne.Ecrire("REMARQUE", frais.Remarque);
+  ligne.Ecrire("MONTANT_VERSE", frais.MontantVerse);
+  ligne.EcrireDate("DATE_VERSEMENT", frais.DateVersement);
+  ligne.Ecrire("MOIS", frais.Mois);
+  ligne.EcrireReference("EXTRAIT_ID", frais.ExtraitId);
+  ligne.Ecrire("TYPE_FAMILLE_FRAIS", static_cast<int>(frais.TypeFamilleFrais));
+  ligne.EcrireReference("GROUPE_FRAIS_ID", frais.GroupeFraisId);
+}
+
+const TFrais* TFraisEleve::Frais() const {
+  if (EstLibre() || lignes_ == nullptr || lignes_->Catalogue() == nullptr) return nullptr;
+  return lignes_->Catalogue()->FraisParId(ListeFraisId);
+}
+
+int TFraisEleve::MoisFrais() const {
+  const TFrais* frais = Frais();
+  return frais != nullptr ? frais->Mois : 0;
+}
+
+QString TFraisEleve::LibelleFrais() const {
+  const TFrais* frais = Frais();
+  return frais != nullptr ? frais->Libelle : QString();
+}
+
+Currency TFraisEleve::MontantFrais() const {
+  const TFrais* frais = Frais();
+  return frais != nullptr ? frais->Cout : Currency();
+}
+
+bool TFraisEleve::Previsionnel() const {
+  const TFrais* frais = Frais();
+  return frais != nullptr && frais->FlgPrevisionnel;
+}
+
+bool TFraisEleve::NonObligatoire() const {
+  const TFrais* frais = Frais();
+  return frais != nullptr && frais->FlgNonObligatoire;
+}
+
+bool TFraisEleve::FraisService() const {
+  const TFrais* frais = Frais();
+  return frais != nullptr && frais->FlgService;
+}
+
+TFraisEleve* TAllFraisEleve::LigneFrais(int frais) const {
+  for (TFraisEleve& ligne : *this)
+    if (ligne.ListeFraisId == frais) return &ligne;
+  return nullptr;
+}
+
+bool TAllFraisEleve::ExisteExtrait(int extrait) const {
+  for (const TFraisEleve& ligne : *this)
+    if (ligne.ExtraitId == extrait) return true;
+  return false;
+}
+
+int TAllFraisEleve::PaiementsLibres(std::vector<TFraisEleve*>& liste) const {
+  liste.clear();
+  for (TFraisEleve& ligne : *this)
+    if (ligne.EstLibre()) liste.push_back(&ligne);
+  return static_cast<int>(liste.size());
+}
+
+template <class Condition>
+Currency TAllFraisEleve::TotalDu(Condition condition) const {
+  Currency total;
+  for (const TFraisEleve& ligne : *this) {
+    const TFrais* frais = ligne.Frais();
+    if (frais != nullptr && !frais->FlgPrevisionnel && condition(*frais)) total += frais->Cout;
+  }
+  return total;
+}
+
+namespace {
+
+bool EstUnMois(int mois) { return mois >= 1 && mois <= 12; }
+
+}  // namespace
+
+bool TAllFraisEleve::MoisContient(int mois, const TPeriode& periode) const {
+  if (!EstUnMois(mois)) return false;
+  const auto [premier, dernier] = BornesMois(mois, annee_);
+  return periode.Premier >= premier && periode.Dernier <= dernier;
+}
+
+bool TAllFraisEleve::MoisDans(int mois, const TPeriode& periode) const {
+  return EstUnMois(mois) && MoisDansPeriode(mois, annee_, periode.Premier, periode.Dernier);
+}
+
+Currency TAllFraisEleve::TotalFrais() const {
+  return TotalDu([](const TFrais& f) { return !f.FlgService; });
+}
+
+Currency TAllFraisEleve::TotalFraisPeriode(const TPeriode& periode) const {
+  return TotalDu([&](const TFrais& f) { return !f.FlgService && MoisContient(f.Mois, periode); });
+}
+
+Currency TAllFraisEleve::TotalObligatoires() const {
+  return TotalDu([](const TFrais& f) { return !f.FlgNonObligatoire && !f.FlgService; });
+}
+
+Currency TAllFraisEleve::TotalNonObligatoires() const {
+  return TotalDu([](const TFrais& f) { return f.FlgNonObligatoire && !f.FlgService; });
+}
+
+Currency TAllFraisEleve::TotalFraisMoisPeriode(const TPeriode& periode) const {
+  return TotalDu([&](const TFrais& f) { return MoisDans(f.Mois, periode); });
+}
+
+Currency TAllFraisEleve::TotalServicesPeriode(const TPeriode& periode) const {
+  return TotalDu([&](const TFrais& f) { return f.FlgService && MoisDans(f.Mois, periode); });
+}
+
+Currency TAllFraisEleve::TotalVerse() const {
+  Currency total;
+  for (const TFraisEleve& ligne : *this)
+    if (!ligne.Previsionnel()) total += ligne.MontantVerse;
+  return total;
+}
+
+Currency TAllFraisEleve::TotalVersePeriode(const TPeriode& periode) const {
+  Currency total;
+  for (const TFraisEleve& ligne : *this) {
+    if (ligne.Previsionnel()) continue;
+    if (MoisContient(ligne.MoisFrais(), periode)) total += ligne.MontantVerse;
+    if (MoisContient(ligne.Mois, periode)) total += ligne.MontantVerse;
+  }
+  return total;
+}
+
+Currency TAllFraisEleve::TotalCumuleVerse(int annee, TDateTime date) const {
+  Currency total;
+  for (const int mois : {9, 10, 11, 12, 1, 2, 3, 4, 5, 6}) {
+    const TPeriode bornes = BornesMois(mois, annee);
+    if (bornes.Premier > date) break;
+    total += TotalVersePeriode(bornes);
+  }
+  return total;
+}
+
+Currency TAllFraisEleve::TotalLibresPeriode(const TPeriode& periode, int annee) const {
+  Currency total;
+  for (const TFraisEleve& ligne : *this)
+    if (ligne.ListeFraisId == 0 && EstUnMois(ligne.Mois) &&
+        MoisDebuteDansPeriode(ligne.Mois, annee, periode.Premier, periode.Dernier))
+      total += ligne.MontantVerse;
+  return total;
+}
+
+Currency TAllFraisEleve::SoldeFrais() const { return TotalVerse() - TotalFrais(); }
+
+Currency TAllFraisEleve::SoldeFraisMois(int mois, int annee) const {
+  const TPeriode bornes = BornesMois(mois, annee);
+  return TotalVersePeriode(bornes) - TotalFraisPeriode(bornes);
+}

@@ -1,0 +1,51 @@
+#include "services/groupes_frais.h"
+
+int TGroupeFrais::DetailsPaiement(TDetails& details, int eleve) {
+  if (!lus_ && base_ != nullptr) {
+    TCurseur ligne(*base_,
+                   u"SELECT ELEVE_ID, REMARQUE, MONTANT_VERSE FROM FRAIS_ELEVE WHERE GROUPE_FRAIS_ID=" %
+                       QString::number(Id));
+    while (ligne.Suivant())
+      paiements_.push_back(
+          {ligne.Entier("ELEVE_ID"), ligne.Texte("REMARQUE"), ligne.Montant("MONTANT_VERSE")});
+    lus_ = true;
+  }
+  details.clear();
+  for (const TGroupeFraisDetailPaiement& paiement : paiements_)
+    if (paiement.EleveId == eleve) details.push_back(&paiement);
+  return static_cast<int>(details.size());
+}
+
+Currency TGroupeFrais::TotalPaiement(int eleve) {
+  TDetails details;
+  DetailsPaiement(details, eleve);
+  Currency total;
+  for (const TGroupeFraisDetailPaiement* paiement : details) total += paiement->MontantVerse;
+  return total;
+}
+
+TGroupesFrais::TGroupesFrais(TDataModule1& base) : TCollection(base) { Charger(); }
+
+void TGroupesFrais::DefineQuery() {
+  SelectSql = QStringLiteral("SELECT * FROM GROUPE_FRAIS");
+  TableName = QStringLiteral("GROUPE_FRAIS");
+  KeyField = "GROUPE_FRAIS_ID";
+  CounterName = QStringLiteral("GROUPE_FRAIS");
+}
+
+void TGroupesFrais::LoadItems(TCurseur& ligne) { Nouveau(ligne).Libelle = ligne.Texte("LIBELLE"); }
+
+void TGroupesFrais::StoreRecord(const TGroupeFrais& groupe, TLigne& ligne) const {
+  ligne.Ecrire("LIBELLE", groupe.Libelle);
+}
+
+TGroupeFrais* TGroupesFrais::GroupeParId(int id) const {
+  for (TGroupeFrais& groupe : *this)
+    if (groupe.Id == id) return &groupe;
+  return nullptr;
+}
+
+void TGroupesFrais::LibellesGroupes(std::vector<TLibelleGroupe>& libelles) const {
+  libelles.clear();
+  for (TGroupeFrais& groupe : *this) libelles.push_back({groupe.Libelle, &groupe});
+}
