@@ -1,0 +1,113 @@
+#include "pupils/eleve.h"
+
+#include "core/curseur.h"
+#include "core/data_module.h"
+#include "core/data_set.h"
+#include "core/exceptions.h"
+#include "core/query_internal.h"
+#include "core/redimensionner.h"
+#include "pupils/eleves.h"
+#include "pupils/photo.h"
+#include "services/frais_eleve.h"
+
+namespace {
+
+constexpr QSize kVignette(95, 110);
+
+QString SelectPhoto(int eleveId) {
+  return u"SELECT * FROM ELEVE_PHOTO WHERE ELEVE_ID=" % QString::number(eleveId);
+}
+
+}  // namespace
+
+TEleve::TEleve() = default;
+TEleve::~TEleve() = default;
+
+QString TEleve::NomComplet() const { return Nom % u' ' % Prenom; }
+
+QString TEleve::LibelleClasse() const { return CodeClasse % u' ' % SousClasse; }
+
+QString TEleve::LibelleImplantation() const {
+  return Eleves != nullptr ? Eleves->LibelleImplantation(CodeImplantation) : CodeImplantation;
+}
+
+TDataModule1& TEleve::Base() const {
+  if (Eleves == nullptr) throw Exception(QStringLiteral("Cet élève n'est pas encore enregistré."));
+  return Eleves->BaseDeDonnees();
+}
+
+TAllFraisEleve* TEleve::GetAllFrais() const {
+  if (!allFrais_ && Eleves != nullptr && !Eleves->HorsLigne)
+    allFrais_ = std::make_unique<TAllFraisEleve>(Base(), Id, Eleves->AnneeScolaire, Eleves->ListeFrais);
+  return allFrais_.get();
+}
+
+std::optional<QByteArray> TEleve::OctetsPhoto() const {
+  if (Eleves == nullptr) return std::nullopt;
+  if (Eleves->HorsLigne) {
+    TDataSet* photos = Eleves->SourcePhotos;
+    if (photos == nullptr || !photos->Localiser(QStringLiteral("ELEVE_ID"), Id)) return std::nullopt;
+    return photos->Valeur(QStringLiteral("PHOTO")).toByteArray();
+  }
+  TCurseur ligne(Base(), SelectPhoto(Id));
+  if (!ligne.Suivant()) return std::nullopt;
+  return ligne.Octets("PHOTO");
+}
+
+const QImage& TEleve::GetPhoto() const {
+  if (photo_) return *photo_;
+  photo_.emplace();
+  if (const auto octets = OctetsPhoto()) {
+    const QImage image = DecoderJpeg(*octets);
+    QImage vignette(kVignette, QImage::Format_RGB32);
+    Redimensionner(image, vignette);
+    photo_ = vignette;
+  }
+  return *photo_;
+}
+
+void TEleve::SetPhoto(const QImage& image) {
+  const QByteArray octets = EncoderJpeg(image);
+  TDataModule1& base = Base();
+  int cle = 0;
+  {
+    TCurseur ligne(base, SelectPhoto(Id));
+    if (ligne.Suivant()) cle = ligne.Entier("ELEVE_PHOTO_ID");
+  }
+  QString sql =
+      QStringLiteral("UPDATE ELEVE_PHOTO SET ELEVE_ID = :ELEVE, PHOTO = :PHOTO WHERE ELEVE_PHOTO_ID = :CLE");
+  if (cle == 0) {
+    sql = QStringLiteral(
+        "INSERT INTO ELEVE_PHOTO (ELEVE_PHOTO_ID, ELEVE_ID, PHOTO) VALUES (:CLE, :ELEVE, :PHOTO)");
+    cle = base.GetNextId(QStringLiteral("ELEVE_PHOTO"));
+    if (cle == -1) return;  // the user has been told
+  }
+  TQueryInternal(base, sql)
+      .Parametre(QStringLiteral("CLE"), cle)
+      .Parametre(QStringLiteral("ELEVE"), Id)
+      .Parametre(QStringLiteral("PHOTO"), octets)
+      .Executer();
+  photo_.reset();
+}
+
+void TEleve::DeletePhoto() {
+  TQueryInternal(Base(), u"DELETE FROM ELEVE_PHOTO WHERE ELEVE_ID=" % QString::number(Id)).Executer();
+  photo_.reset();
+}
+
+int TEleve::GetNumAttestation() {
+  if (NumAttestation != 0) return NumAttestation;
+  TDataModule1& base = Base();
+  const QString cet = u" where ELEVE_ID=" % QString::number(Id);
+  {
+    // Another workstation may have printed it since the load.
+    TCurseur ligne(base, u"SELECT NUM_ATTEST_2015 FROM ELEVES" % cet);
+    if (ligne.Suivant()) NumAttestation = ligne.Entier("NUM_ATTEST_2015");
+  }
+  if (NumAttestation != 0) return NumAttestation;
+  const int numero = NextId(base, QStringLiteral("VIRTUAL_ATTESTATION_2015"));
+  if (numero == -1) return 0;
+  TQueryInternal(base, u"UPDATE ELEVES SET NUM_ATTEST_2015 = " % QString::number(numero) % cet).Executer();
+  NumAttestation = numero;
+  return numero;
+}

@@ -1,0 +1,93 @@
+#include "pupils/eleves_classes.h"
+
+#include "core/data_set.h"
+
+TElevesClasses::TElevesClasses(TDataModule1& base, int annee) : TCollection(base), AnneeScolaire(annee) {
+  Charger();
+}
+
+TElevesClasses::TElevesClasses(TDataSet& source, int annee) : TCollection(source), AnneeScolaire(annee) {
+  Charger();
+}
+
+void TElevesClasses::DefineQuery() {
+  SelectSql = QStringLiteral("SELECT * FROM ELEVES_CLASSES");
+  if (AnneeScolaire != 0) SelectSql += u" WHERE ANNEE_SCOLAIRE=" % QString::number(AnneeScolaire);
+  TableName = QStringLiteral("ELEVES_CLASSES");
+  KeyField = "ELEVE_CLASSE_ID";
+  CounterName = QStringLiteral("ELEVES_CLASSES");
+}
+
+void TElevesClasses::LoadItems(TCurseur& ligne) {
+  TEleveClasse& inscription = Nouveau(ligne);
+  inscription.EleveId = ligne.Entier("ELEVE_ID");
+  inscription.Classe = ligne.Texte("CLASSE");
+  inscription.SousClasse = ligne.Texte("SOUS_CLASSE");
+  inscription.CodeImplantation = ligne.Texte("CODE_IMPLANTATION");
+  inscription.AnneeScolaire = ligne.Entier("ANNEE_SCOLAIRE");
+}
+
+void TElevesClasses::LoadFromSource(TDataSet& source) {
+  auto inscription = std::make_unique<TEleveClasse>();
+  inscription->EleveId = source.Valeur(QStringLiteral("ELEVE_ID")).toInt();
+  inscription->Classe = source.Valeur(QStringLiteral("CLASSE")).toString();
+  inscription->SousClasse = source.Valeur(QStringLiteral("SOUS_CLASSE")).toString();
+  Charge(std::move(inscription));
+}
+
+void TElevesClasses::StoreRecord(const TEleveClasse& inscription, TLigne& ligne) const {
+  ligne.Ecrire("ELEVE_ID", inscription.EleveId);
+  ligne.Ecrire("ANNEE_SCOLAIRE", inscription.AnneeScolaire);
+  ligne.Ecrire("CLASSE", inscription.Classe);
+  ligne.Ecrire("CODE_IMPLANTATION", inscription.CodeImplantation);
+  ligne.Ecrire("SOUS_CLASSE", inscription.SousClasse);
+}
+
+TEleveClasse& TElevesClasses::AddEleveClasse(std::unique_ptr<TEleveClasse> inscription) {
+  if (AnneeScolaire > 0) inscription->AnneeScolaire = AnneeScolaire;
+  return Add(std::move(inscription));
+}
+
+TEleveClasse& TElevesClasses::AddEleveClasse(TEleveClasse& inscription) {
+  if (AnneeScolaire > 0) inscription.AnneeScolaire = AnneeScolaire;
+  return Add(inscription);
+}
+
+QString TElevesClasses::ClasseDe(int eleveId) const {
+  const TEleveClasse* inscription = parEleve_.Premier(eleveId);
+  return inscription != nullptr ? inscription->Classe : QString();
+}
+
+QString TElevesClasses::SousClasseDe(int eleveId) const {
+  const TEleveClasse* inscription = parEleve_.Premier(eleveId);
+  return inscription != nullptr ? inscription->SousClasse : QString();
+}
+
+QString TElevesClasses::ImplantationDe(int eleveId) const {
+  const TEleveClasse* inscription = parEleve_.Premier(eleveId);
+  return inscription != nullptr ? inscription->CodeImplantation : QString();
+}
+
+TEleveClasse* TElevesClasses::Derniere(int eleveId, int annee) const {
+  TEleveClasse* derniere = nullptr;
+  for (TEleveClasse* inscription : parEleve_.Tous(eleveId))
+    if (inscription->AnneeScolaire == annee) derniere = inscription;
+  return derniere;
+}
+
+void TElevesClasses::Inscrire(int eleveId, const QString& classe, int annee, const QString& implantation,
+                              const QString& sousClasse) {
+  TEleveClasse* existante = Derniere(eleveId, annee);
+  auto nouvelle = existante == nullptr ? std::make_unique<TEleveClasse>() : nullptr;
+  TEleveClasse& inscription = existante != nullptr ? *existante : *nouvelle;
+  inscription.EleveId = eleveId;
+  inscription.Classe = classe;
+  inscription.AnneeScolaire = annee;
+  inscription.CodeImplantation = implantation;
+  inscription.SousClasse = sousClasse;
+  if (nouvelle)
+    AddEleveClasse(std::move(nouvelle));
+  else
+    AddEleveClasse(inscription);
+  Save();
+}
