@@ -1,0 +1,19 @@
+#include "attendance/activites_ext.h"
+
+TTypeActivitesExt LireTypeActivitesExt(const QString& parametre) {
+  if (parametre == u"1") return TTypeActivitesExt::DepuisSeptembre;
+  if (parametre == u"2") return TTypeActivitesExt::DepuisOctobre;
+  return TTypeActivitesExt::Aucune;
+}
+
+TPeriode PeriodeActivitesExt(TTypeActivitesExt type) {
+  switch (type) {
+    case TTypeActivitesExt::DepuisSeptembre:
+      return {EncodeDate(2015, 9, 28), EncodeDate(2016, 6, 30)};
+    case TTypeActivitesExt::DepuisOctobre:
+      return {EncodeDate(2015, 10, 5), EncodeDate(2016, 6, 30)};
+    case TTypeActivitesExt::Aucune:
+      break;
+  }
+  return {};
+}

@@ -1,0 +1,117 @@
+#include "attendance/presences.h"
+
+#include <algorithm>
+
+#include "core/conversions.h"
+#include "core/formats.h"
+#include "services/tarifs_garderies.h"
+
+TPresences::TPresences(TDataModule1& base, const TPeriode& periode, bool deductionEtude)
+    : TCollection(base), DeductionEtude(deductionEtude), periode_(periode) {
+  Charger();
+}
+
+void TPresences::DefineQuery() {
+  SelectSql = u"SELECT * FROM PRESENCES WHERE DATE_RELEVE >= " % FormatDateSql(periode_.Premier) %
+              u" AND DATE_RELEVE <= " % FormatDateSql(periode_.Dernier) %
+              u" ORDER BY DATE_RELEVE, HEURE_ENTREE";
+  TableName = QStringLiteral("PRESENCES");
+  KeyField = "PRESENCE_ID";
+  CounterName = QStringLiteral("PRESENCES");
+}
+
+void TPresences::LoadItems(TCurseur& ligne) {
+  TPresence& presence = Nouveau(ligne);
+  presence.EleveId = ligne.Entier("ELEVE_ID");
+  presence.TypePresence = static_cast<TTypePresence>(ligne.Entier("TYPE_PRESENCE"));
+  presence.DateReleve = ligne.Date("DATE_RELEVE");
+  presence.HeureEntree = ligne.Heure("HEURE_ENTREE");
+  presence.HeureSortie = ligne.Heure("HEURE_SORTIE");
+  const QString site = ligne.Texte("CODE_IMPLANTATION");
+  if (!site.isEmpty()) presence.CodeImplantation = *sites_.insert(site);
+}
+
+void TPresences::StoreRecord(const TPresence& presence, TLigne& ligne) const {
+  ligne.Ecrire("ELEVE_ID", presence.EleveId);
+  ligne.Ecrire("TYPE_PRESENCE", static_cast<int>(presence.TypePresence));
+  ligne.EcrireDate("DATE_RELEVE", presence.DateReleve);
+  ligne.EcrireHeure("HEURE_ENTREE", presence.HeureEntree);
+  ligne.EcrireHeure("HEURE_SORTIE", presence.HeureSortie);
+  ligne.Ecrire("CODE_IMPLANTATION", presence.CodeImplantation);
+}
+
+// The index is made at the first look-up, so that opening a year does not pay for it.
+const TIndexPresences& TPresences::Index() const {
+  if (!indexe_) {
+    index_.Reserver(static_cast<std::size_t>(Count()));
+    for (TPresence& presence : *this) index_.Suivre(presence);
+    indexe_ = true;
+  }
+  return index_;
+}
+
+void TPresences::Indexer(TPresence& presence) {
+  if (indexe_) index_.Suivre(presence);
+}
+
+void TPresences::Desindexer(TPresence& presence) {
+  if (indexe_) index_.Oublier(presence);
+}
+
+TPresence* TPresences::AjoutePresence(std::unique_ptr<TPresence> presence) {
+  TPresence& p = *presence;
+  if (ChercheDoublon(p.EleveId, p.DateReleve, p.HeureEntree, p.HeureSortie) != nullptr) return nullptr;
+  const TTypeFamille famille = FamilleDe(p);
+  TPresence* autre = AutrePresence(p.EleveId, &p, famille, p.DateReleve);
+  if (autre == nullptr) return &TCollection::Add(std::move(presence));
+  // The last exit of an evening wins over the earlier ones.
+  const bool soir = GroupeDe(p.TypePresence) == TGroupe::Garderie && famille == TTypeFamille::Soir;
+  if (soir && autre->HeureEntree == 0.0 && autre->HeureSortie < p.HeureSortie) {
+    autre->HeureSortie = p.HeureSortie;
+    Add(*autre);
+  }
+  return nullptr;
+}
+
+TPresence* TPresences::ChercheDoublon(int eleve, TDateTime date, TDateTime entree, TDateTime sortie) const {
+  for (const auto& [jour, presence] : Index().Periode(eleve, date, date))
+    if (presence->HeureEntree == entree && presence->HeureSortie == sortie) return presence;
+  return nullptr;
+}
+
+TTypeFamille TPresences::FamilleDe(const TPresence& presence) const {
+  if (Tarifs == nullptr) return TTypeFamille::Indefini;
+  return Tarifs
+      ->ChercheFamille(GroupeDe(presence.TypePresence), presence.HeureSortie, presence.HeureEntree,
+                       presence.DateReleve)
+      .Famille;
+}
+
+TPresence* TPresences::AutrePresence(int eleve, const TPresence* exclue, TTypeFamille famille,
+                                     TDateTime date) const {
+  for (const auto& [jour, presence] : Index().Periode(eleve, date, date))
+    if (presence != exclue && FamilleDe(*presence) == famille) return presence;
+  return nullptr;
+}
+
+bool TPresences::ExisteAutrePresence(int eleve, const TPresence* exclue, TTypeFamille famille,
+                                     TDateTime date) const {
+  return AutrePresence(eleve, exclue, famille, date) != nullptr;
+}
+
+std::vector<TPresence*> TPresences::PresencesEleve(int eleve, const TPeriode& periode) const {
+  const auto entrees = Index().Periode(eleve, periode.Premier, periode.Dernier);
+  std::vector<TPresence*> presences;
+  presences.reserve(entrees.size());
+  for (const auto& entree : entrees) presences.push_back(entree.Presence);
+  // A load comes in the order of dates, but records added since stand at the end.
+  if (!std::ranges::is_sorted(presences, {}, &TPresence::Rang))
+    std::ranges::sort(presences, {}, &TPresence::Rang);
+  return presences;
+}
+
+void TPresences::SetParametreService(TLigneParametreService ligne, TParametreService parametre) {
+  parametre.ServiceHeureDebut = StrToTime(parametre.ServiceHeureDebutTexte);
+  parametre.ServiceHeureFin = StrToTime(parametre.ServiceHeureFinTexte);
+  tableParametreService_.at(static_cast<std::size_t>(ligne)) = std::move(parametre);
+}
