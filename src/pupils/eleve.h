@@ -2,14 +2,20 @@
 #include <QImage>
 #include <memory>
 #include <optional>
+#include <vector>
 
+#include "attendance/ligne_service.h"
 #include "core/base_object.h"
+#include "core/calendrier_scolaire.h"
 #include "core/currency.h"
 #include "core/dates.h"
 #include "pupils/classe.h"
+#include "pupils/service.h"
 
 class TAllFraisEleve;
 class TDataModule1;
+enum class TTypeFamilleFrais : std::uint8_t;
+struct TFraisEleve;
 
 /// A pupil, or a member of the staff, who is a pupil of a class whose name holds "PROF". What is read
 /// on first use - fees, photo - lives as long as the pupil.
@@ -39,6 +45,50 @@ class TEleve : public TBaseObject {
   /// Number of the tax attestation, taken and stored at once the first time, for good. 0 when no
   /// number can be had, which the user has then been told.
   int GetNumAttestation();
+
+  // The account, of a pupil in a collection, from the data as they stand at each call. A month is 1 to
+  // 12, else EConvertError; `annee` is a school year. What is said of fees leaves the forecast ones out.
+
+  /// What a service costs in the period, and the records charged; 0 without presences. Whether a
+  /// third child pays it is for the caller to see (EstAccueil).
+  Currency CoutService(TService service, const TPeriode& periode, TLignesService& lignes) const;
+  /// The seven services; of a third child meals and soups only.
+  Currency TotalServices(const TPeriode& periode) const;
+  /// Morning, evening, Wednesday and study; 0 for a third child.
+  Currency TotalGarderies(const TPeriode& periode) const;
+  Currency CoutServicesPeriode(const TPeriode& periode) const;
+  /// Fees that count as services, whose month lies inside the period.
+  Currency FraisServicesPeriode(const TPeriode& periode) const;
+  /// Fees whose month lies inside the period, services or not.
+  Currency FraisPeriode(const TPeriode& periode) const;
+  /// Fees that are no services, whose month contains the period.
+  Currency FraisHorsServicesPeriode(const TPeriode& periode) const;
+  /// Paid on lines whose month contains the period.
+  Currency VersementsPeriode(const TPeriode& periode) const;
+  /// Services and fees that count as services, of the month.
+  Currency CoutMois(int mois, int annee) const;
+  /// The second half of it.
+  Currency FraisMois(int mois, int annee) const;
+  /// The last payment of the services of that month of the year.
+  Currency PaiementsMois(int mois) const;
+  /// What is left to pay of the month; exactly 0 when it is settled.
+  Currency SoldeMois(int mois, int annee) const;
+  Currency CoutAnnee() const;
+  /// Fees of the year that are no services.
+  Currency FraisAnnee() const;
+  /// Paid on all lines, free payments included.
+  Currency FraisPayes() const;
+  /// All payments of months.
+  Currency PaiementsAnnee() const;
+  /// Free payments of services, and of fees.
+  Currency VersementsServices() const;
+  Currency VersementsFrais() const;
+  /// The free payments of a family, in the order of the lines.
+  std::vector<TFraisEleve*> VersementsLibres(TTypeFamilleFrais famille) const;
+  /// Positive when the family has paid more than it owes for the year.
+  Currency Solde(bool avecFrais, bool avecServices) const;
+  /// The same for one month, whatever the way of paying. Mind the order of the two flags.
+  Currency SoldeCourant(int mois, int annee, bool avecServices, bool avecFrais) const;
 
   TEleves* Eleves = nullptr;  ///< the collection it belongs to
   QString Nom;

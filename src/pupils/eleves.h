@@ -1,6 +1,7 @@
 #pragma once
 #include <unordered_map>
 
+#include "attendance/activites_ext.h"
 #include "core/distributor.h"
 #include "core/index.h"
 #include "pupils/classe.h"
@@ -74,7 +75,7 @@ class TEleves : public TCollection<TEleve> {
   TDataSet* SourcePhotos = nullptr;                     ///< local photos off-line; may stay null
   bool ChargerExtraits = true;                          ///< the movements are to be read (again)
   bool ModeProvision = false;                           ///< parameter 25 is "1"
-  int TypeActivitesExt = 0;                             ///< outside activities: period 1, 2 or 0
+  TTypeActivitesExt TypeActivitesExt{};                 ///< parameter 100
   // What the accounts of the pupils read; set by the load of the year. Without one it counts as empty.
   const TListeFrais* ListeFrais = nullptr;
   const TPaiements* Paiements = nullptr;
