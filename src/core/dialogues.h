@@ -9,6 +9,7 @@ struct TReessai {
   QString Texte;
   QString Explication;
   QString Lien;
+  QString Cause;  ///< what the database or the network answered
   std::function<void()> SurLien;
 };
 

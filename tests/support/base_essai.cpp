@@ -3,12 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QSettings>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QTime>
 
 TBaseEssai::TBaseEssai() {
+  for (const auto scope : {QSettings::UserScope, QSettings::SystemScope})
+    QSettings(QSettings::NativeFormat, scope, QStringLiteral("Tarnvale"), QStringLiteral("Orbelin")).clear();
   EXPECT_TRUE(QFile::copy(QStringLiteral(CALPENNE_MODELE), FichierDeDonnees()));
   QFile::setPermissions(FichierDeDonnees(), QFile::ReadOwner | QFile::WriteOwner);
   module_.ServerName = FichierDeDonnees();

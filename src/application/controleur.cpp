@@ -1,0 +1,169 @@
+#include "application/controleur.h"
+
+#include "core/conversions.h"
+#include "core/exceptions.h"
+
+namespace {
+
+constexpr int kDureeBulles = 5000;
+
+bool EstUn(const TReglagesPoste& reglages, const QString& nom) {
+  return reglages.Lire(TRacine::Utilisateur, nom) == u"1";
+}
+
+}  // namespace
+
+TControleur::TControleur(TDataModule1& base, TReglagesPoste& reglages, IFenetrePrincipale& fenetre,
+                         const THorloge& horloge)
+    : base_(base), reglages_(reglages), fenetre_(fenetre), horloge_(horloge) {}
+
+void TControleur::FormShow() {
+  Globals.Parametres.reset();
+  Globals.ModeHorsLigne = EstUn(reglages_, QStringLiteral("Offline"));
+  Globals.DatePhoto = reglages_.Lire(TRacine::Utilisateur, QStringLiteral("Photo"));
+  if (Globals.ModeHorsLigne) {
+    PagesTablette();
+    fenetre_.OuvrirReservationTablette();
+    return;
+  }
+  if (!Demarrer() || !base_.EstConnecte()) return;
+  if (Globals.ModeProfesseur)
+    PagesProfesseur();
+  else if (!Globals.ModeTablette)
+    fenetre_.ActiverPage(TPage::PgEleve);
+  if (Globals.ModeTablette) fenetre_.OuvrirReservationTablette();
+}
+
+// False ends the program. True does not promise a connection: see Connecter.
+bool TControleur::Demarrer() {
+  if (!Connecter()) {
+    fenetre_.Terminer();
+    return false;
+  }
+  if (!base_.EstConnecte()) return true;
+  Globals.ModeProfesseur = EstUn(reglages_, QStringLiteral("Mode"));
+  Globals.ModeTablette = EstUn(reglages_, QStringLiteral("Tablette"));
+  fenetre_.DureeBulles(kDureeBulles);
+  ChargerParametres();
+  if (Globals.ModeTablette)
+    PagesTablette();
+  else
+    PagesBureau();
+  ChargerAnnee(Globals.AnneeScolaire);
+  return true;
+}
+
+void TControleur::ChargerParametres() {
+  if (Globals.Parametres) return;
+  Globals.Parametres = std::make_unique<TParametres>(base_);
+  Globals.AnneeScolaire = StrToInt(Globals.Parametres->GetParametre(27));
+  Globals.TarifsGarderies = std::make_unique<TTarifsGarderies>(base_);
+  Globals.DossierTemporaire = ::DossierTemporaire();
+  Globals.CodeEtablissement = Globals.Parametres->GetParametre(31);
+}
+
+// The value of an inner attempt is not passed on: only giving up at the first failure ends the
+// program; giving up later leaves an empty window, from which the user can still see what is wrong.
+bool TControleur::Connecter() {
+  try {
+    return base_.ConnectToServer();
+  } catch (const Exception& e) {
+    TReessai reessai;
+    reessai.Titre = QStringLiteral("Erreur de connexion au serveur de données");
+    reessai.Texte =
+        QStringLiteral(
+            "Un problème empêche le logiciel de se connecter au serveur de base de donnée nommé : ") +
+        base_.ServerName;
+    reessai.Explication = QStringLiteral(
+        "Veuillez vérifier si :\n"
+        "1. Le nom du serveur est correctement orthographié.\n"
+        "2. Le serveur est allumé et accessible via le réseau.\n"
+        "3. Les paramètres réseau de votre ordinateur sont corrects\n"
+        "Actions:");
+    reessai.Lien = QStringLiteral("Cliquez ici afin de modifier le nom du serveur de données.");
+    reessai.SurLien = [this] { base_.AskServerName(); };
+    reessai.Cause = e.Message;
+    if (!Dialogues().Reessayer(reessai)) return false;
+    Dialogues().TraiterEvenements();
+    if (!Connecter() && base_.ServerName.trimmed().isEmpty()) return false;
+    return true;
+  }
+}
+
+void TControleur::ChargerAnnee(int annee) {
+  fenetre_.SuspendreArbre(true);
+  Globals.EleveCourant = nullptr;
+  try {
+    auto donnees = ChargerDonneesAnnee(base_, annee, *Globals.Parametres, *Globals.TarifsGarderies);
+    auto groupes = std::make_unique<TGroupesFrais>(base_);
+    Globals.Montrer(std::move(donnees));
+    Globals.GroupesFrais = std::move(groupes);
+  } catch (...) {
+    fenetre_.SuspendreArbre(false);
+    throw;
+  }
+  Globals.TypeActivitesExt = LireTypeActivitesExt(Globals.Parametres->GetParametre(100));
+  Globals.DateDebutActivitesExt = PeriodeActivitesExt(Globals.TypeActivitesExt).Premier;
+  Globals.TitreActivitesExt = Globals.TypeActivitesExt == TTypeActivitesExt::Aucune
+                                  ? QString()
+                                  : QStringLiteral("Activités extérieures");
+  Globals.TitreGarderieSoir = Globals.Parametres->EstVrai(103) ? QStringLiteral("Garderies du soir / études")
+                                                               : QStringLiteral("Garderies du soir");
+  fenetre_.IntitulerAnnee(QStringLiteral("Année scolaire %1 - %2").arg(annee).arg(annee + 1));
+  fenetre_.ConstruireArbre();
+  fenetre_.CocherAnnee(annee);
+  fenetre_.SuspendreArbre(false);
+}
+
+void TControleur::ChoisirAnnee(int annee) {
+  ChargerAnnee(annee);
+  fenetre_.FermerEcran();
+}
+
+void TControleur::FormClose() {
+  fenetre_.QuitterChamp();
+  Globals.Liberer();
+}
+
+void TControleur::PasserHorsLigne() {
+  reglages_.Ecrire(TRacine::Utilisateur, QStringLiteral("Offline"), QStringLiteral("1"));
+  base_.Deconnecter();
+  Globals.ModeHorsLigne = true;
+  PagesTablette();
+}
+
+void TControleur::PasserEnLigne() {
+  reglages_.Ecrire(TRacine::Utilisateur, QStringLiteral("Offline"), QStringLiteral("0"));
+  Globals.ModeHorsLigne = false;
+  if (Demarrer() && base_.EstConnecte()) PagesTablette();
+}
+
+void TControleur::MemoriserDatePhoto() {
+  Globals.DatePhoto = Globals.Parametres->GetParametre(115);
+  reglages_.Ecrire(TRacine::Utilisateur, QStringLiteral("Photo"), Globals.DatePhoto);
+}
+
+void TControleur::PagesTablette() {
+  for (const TPage page : {TPage::PgEleve, TPage::PgParametre, TPage::pgRepas, TPage::pgRepasNew})
+    fenetre_.MontrerPage(page, false);
+  fenetre_.MontrerArbre(false);
+  fenetre_.MontrerPage(TPage::pgRepas3, true);
+  fenetre_.ActiverPage(TPage::pgRepas3);
+}
+
+void TControleur::PagesBureau() {
+  const QString repas = Globals.Parametres->GetParametre(41);
+  fenetre_.MontrerPage(TPage::pgRepas, !repas.isEmpty() && repas != u"0");
+  fenetre_.MontrerPage(TPage::pgRepas3, false);
+}
+
+void TControleur::PagesProfesseur() {
+  for (const TPage page : {TPage::PgEleve, TPage::PgParametre, TPage::pgRepasNew})
+    fenetre_.MontrerPage(page, false);
+  fenetre_.MontrerPage(TPage::pgRepas, true);
+  fenetre_.ActiverPage(TPage::pgRepas);
+  for (const TCommandePage commande :
+       {TCommandePage::btnTicket, TCommandePage::btnCuisine, TCommandePage::btnComptabilite})
+    fenetre_.MontrerCommande(commande, false);
+  fenetre_.OuvrirReservation();
+}

@@ -1,0 +1,50 @@
+#pragma once
+#include "application/fenetre_principale.h"
+#include "application/globals.h"
+#include "core/data_module.h"
+#include "core/horloge.h"
+
+/// Starts the program in one of its four ways (office, teacher, tablet, off-line), loads a school
+/// year into `Globals`, and switches the tablet between on-line and off-line.
+class TControleur {
+ public:
+  /// All must outlive the controller.
+  TControleur(TDataModule1& base, TReglagesPoste& reglages, IFenetrePrincipale& fenetre,
+              const THorloge& horloge);
+
+  /// The main window is shown: the whole start. An unreadable year raises EConvertError.
+  void FormShow();
+  /// The main window closes: pending changes are saved, then the collections are freed.
+  void FormClose();
+
+  /// Puts a year on display. When it cannot be loaded, the exception leaves the display as it was.
+  void ChargerAnnee(int annee);
+  /// A year chosen in the menu of years.
+  void ChoisirAnnee(int annee);
+  /// Reads the parameters, the working year and the tariffs if that has not been done yet.
+  void ChargerParametres();
+
+  /// Remembers that this workstation works off-line and closes the connection.
+  void PasserHorsLigne();
+  /// Back to the database, with the pages of the tablet.
+  void PasserEnLigne();
+  /// Remembers which photos this workstation has copied (parameter 115).
+  void MemoriserDatePhoto();
+
+  TDataModule1& Base() const { return base_; }
+  IDialogues& Dialogues() const { return base_.Dialogues(); }
+  const TReglagesPoste& Reglages() const { return reglages_; }
+  const THorloge& Horloge() const { return horloge_; }
+
+ private:
+  bool Connecter();
+  bool Demarrer();
+  void PagesTablette();
+  void PagesBureau();
+  void PagesProfesseur();
+
+  TDataModule1& base_;
+  TReglagesPoste& reglages_;
+  IFenetrePrincipale& fenetre_;
+  const THorloge& horloge_;
+};

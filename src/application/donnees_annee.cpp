@@ -1,0 +1,54 @@
+#include "application/donnees_annee.h"
+
+#include "core/calendrier_scolaire.h"
+#include "core/conversions.h"
+#include "core/parametres.h"
+#include "services/tarifs_garderies.h"
+
+namespace {
+
+struct TPrixRepas {
+  int parametre;
+  std::size_t categorie;
+};
+
+constexpr TPrixRepas kPrixRepas[] = {{101, 1}, {102, 2}, {106, 3}};
+
+void LireParametresPresences(const TParametres& parametres, TPresences& presences) {
+  for (const TPrixRepas& prix : kPrixRepas) {
+    const QString valeur = parametres.GetParametre(prix.parametre);
+    if (!valeur.isEmpty()) presences.PrixRepas[prix.categorie] = StrToCurr(valeur);
+  }
+  const QString mode = parametres.GetParametre(105);
+  presences.ModeDeduction = static_cast<TModeDeduction>(mode.isEmpty() ? 0 : StrToInt(mode));
+  presences.GarderieUnique = parametres.EstVrai(30);
+}
+
+}  // namespace
+
+std::unique_ptr<TDonneesAnnee> ChargerDonneesAnnee(TDataModule1& base, int annee,
+                                                   const TParametres& parametres, TTarifsGarderies& tarifs) {
+  auto donnees = std::make_unique<TDonneesAnnee>();
+  donnees->Annee = annee;
+  donnees->Eleves = std::make_unique<TEleves>(base, annee);
+  TEleves& eleves = *donnees->Eleves;
+  eleves.SynchroniserImplantations();
+
+  donnees->Presences = std::make_unique<TPresences>(base, BornesAnnee(annee), parametres.EstVrai(109));
+  donnees->PresencesParticulieres = std::make_unique<TPresencesParticulieres>(base, annee);
+  donnees->Paiements = std::make_unique<TPaiements>(base, annee);
+  donnees->ListeFrais = std::make_unique<TListeFrais>(base, annee);
+  eleves.ListeFrais = donnees->ListeFrais.get();
+  eleves.Paiements = donnees->Paiements.get();
+  donnees->Activites = std::make_unique<TActivites>(base, annee);
+  donnees->ActivitesEleves = std::make_unique<TActivitesEleves>(base, *donnees->Activites);
+
+  TPresences& presences = *donnees->Presences;
+  presences.Tarifs = &tarifs;
+  eleves.ModeProvision = parametres.EstVrai(25);
+  LireParametresPresences(parametres, presences);
+  eleves.Presences = &presences;
+  eleves.ActivitesEleves = donnees->ActivitesEleves.get();
+  eleves.TypeActivitesExt = LireTypeActivitesExt(parametres.GetParametre(100));
+  return donnees;
+}

@@ -1,0 +1,195 @@
+#include "workflows/import_presences.h"
+
+#include <QDir>
+#include <QFile>
+
+#include "core/conversions.h"
+#include "core/exceptions.h"
+#include "core/lecture_dates.h"
+
+namespace {
+
+constexpr int kEntree = 1;
+constexpr int kSortie = 2;
+
+/// An exit of day-care up to this time was really an entry.
+const TDateTime kFinDesEntrees = EncodeTime(11, 0);
+
+/// What sets the derived day-care record of a meal apart from the meal's own time.
+const TDateTime kDecalage = HeureAuMilliseconde(0.0001);
+
+bool ACompter(TDateTime entree, TDateTime sortie) { return entree != 0.0 || sortie != 0.0; }
+
+}  // namespace
+
+QString NomArchive(TDateTime moment) {
+  const TJour jour = DecodeDate(moment);
+  const QTime heure = HeureVersQt(moment);
+  return QStringLiteral("Presences-%1.%2.%3-%4h%5m%6s.txt")
+      .arg(jour.Jour)
+      .arg(jour.Mois)
+      .arg(jour.Annee)
+      .arg(heure.hour())
+      .arg(heure.minute())
+      .arg(heure.second());
+}
+
+TImportPresences::TImportPresences(TControleur& controleur) : controleur_(controleur) {}
+
+QString TImportPresences::SiteDuChemin(const QString& chemin) {
+  if (!Globals.Parametres->EstVrai(113)) return {};
+  const QString texte = chemin.toUpper();
+  for (const TImplantation& site : *Globals.Eleves->Implantations) {
+    const QString nom = site.LibelleCourt.toUpper();
+    if (!nom.isEmpty() && texte.contains(nom)) return site.Code;
+  }
+  return {};
+}
+
+void TImportPresences::ImporterFichier(const QString& chemin) {
+  const TAttente attente(controleur_.Dialogues());
+  ImporterTablette(chemin);
+  if (!anomalies_.empty())
+    controleur_.Dialogues().Message(QStringLiteral("Des anomalies ont été détectées !"));
+}
+
+void TImportPresences::ImporterTablette(const QString& chemin) {
+  source_ = TSourcePresences::Main;
+  Lire(chemin);
+  Analyser(SiteDuChemin(chemin));
+  pret_ = true;
+}
+
+void TImportPresences::Lire(const QString& chemin) {
+  pret_ = false;
+  bons_.clear();
+  anomalies_.clear();
+  grille_ = {};
+  grille_ = TTexteSepare::Lire(chemin);
+  // A study scan is always an exit, whatever the scanner recorded.
+  for (QStringList& ligne : grille_.Lignes) {
+    if (ligne.value(1).trimmed() != u"4") continue;
+    while (ligne.size() < 5) ligne += QString();
+    ligne[4] = QString::number(kSortie);
+  }
+}
+
+TImportPresences::TScan TImportPresences::LireLigne(int ligne) const {
+  try {
+    return {grille_.Cellule(ligne, 0), StrToInt(grille_.Cellule(ligne, 1)),
+            LireDateCompacte(grille_.Cellule(ligne, 2)), LireHeureCompacte(grille_.Cellule(ligne, 3)),
+            StrToInt(grille_.Cellule(ligne, 4))};
+  } catch (const EConvertError& e) {
+    throw EConvertError(
+        QStringLiteral("Ligne %1 : %2\nRien n'a été enregistré.").arg(ligne + 1).arg(e.Message));
+  }
+}
+
+// Lines of unknown pupils come first among the anomalies, then the records without a tariff.
+void TImportPresences::Analyser(const QString& site) {
+  std::vector<TAnomalie> sansTarif;
+  try {
+    for (int ligne = 0; ligne < grille_.NombreLignes(); ++ligne) Classer(LireLigne(ligne), site, sansTarif);
+  } catch (...) {
+    bons_.clear();
+    anomalies_.clear();
+    throw;
+  }
+  for (TAnomalie& anomalie : sansTarif) anomalies_.push_back(std::move(anomalie));
+}
+
+void TImportPresences::Classer(const TScan& scan, const QString& site, std::vector<TAnomalie>& sansTarif) {
+  const TEleve* eleve = Globals.Eleves->TrouverParCode(scan.Matricule);
+  if (eleve == nullptr) {
+    anomalies_.push_back({scan.Matricule, nullptr, scan.TypePresence, scan.Date,
+                          scan.Sens == kEntree ? scan.Heure : 0.0, scan.Sens == kSortie ? scan.Heure : 0.0});
+    return;
+  }
+  auto presence = std::make_unique<TPresence>();
+  presence->EleveId = eleve->Id;
+  presence->TypePresence = static_cast<TTypePresence>(scan.TypePresence);
+  presence->DateReleve = scan.Date;
+  presence->CodeImplantation = site;
+  const bool entreeDuMatin = scan.TypePresence == static_cast<int>(TTypePresence::Garderie) &&
+                             scan.Sens == kSortie && scan.Heure <= kFinDesEntrees;
+  const bool entree = scan.Sens == kEntree || entreeDuMatin;
+  (entree ? presence->HeureEntree : presence->HeureSortie) = scan.Heure;
+  if (Globals.TarifsGarderies->TarifExiste(GroupeDe(presence->TypePresence), presence->HeureSortie,
+                                           presence->HeureEntree, scan.Date))
+    bons_.push_back(std::move(presence));
+  else
+    sansTarif.push_back({eleve->Matricule, std::move(presence)});
+  const auto type = static_cast<TTypePresence>(scan.TypePresence);
+  if (Globals.Presences->GarderieUnique && (type == TTypePresence::Repas || type == TTypePresence::Soupe))
+    Deriver(scan, eleve->Id);
+}
+
+// With the day flat rate a meal eaten at school is a day-care presence too, whether or not the meal
+// itself has a tariff.
+void TImportPresences::Deriver(const TScan& scan, int eleve) {
+  auto derive = std::make_unique<TPresence>();
+  derive->EleveId = eleve;
+  derive->TypePresence = TTypePresence::Garderie;
+  derive->DateReleve = scan.Date;
+  const bool entree = scan.Sens == kEntree && scan.Heure > 0.0;
+  derive->HeureEntree = entree ? HeureAuMilliseconde(scan.Heure + kDecalage) : scan.Heure;
+  derive->HeureSortie = entree ? 0.0 : scan.Heure;
+  bons_.push_back(std::move(derive));
+}
+
+bool TImportPresences::Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie,
+                                TDateTime entree) {
+  TAnomalie& ligne = anomalies_[static_cast<std::size_t>(anomalie)];
+  if (!ligne.Presence) {
+    controleur_.Dialogues().Message(
+        QStringLiteral("La correction ne peut se faire que sur un élève existant"));
+    return false;
+  }
+  ligne.Presence->TypePresence = typePresence;
+  ligne.Presence->DateReleve = date;
+  ligne.Presence->HeureEntree = entree;
+  ligne.Presence->HeureSortie = sortie;
+  bons_.push_back(std::move(ligne.Presence));
+  anomalies_.erase(anomalies_.begin() + anomalie);
+  return true;
+}
+
+void TImportPresences::Enregistrer() {
+  for (auto& presence : bons_) Globals.Presences->AjoutePresence(std::move(presence));
+  bons_.clear();
+  Globals.Presences->Save();  // a failure leaves the rest pending: the step can be taken again
+  pret_ = false;
+}
+
+// A copy is left in the temporary folder by the scanner only; a file chosen by hand stays where it is.
+void TImportPresences::Etape2() {
+  Enregistrer();
+  controleur_.Dialogues().Information(QStringLiteral("Les présences ont été mémorisées."));
+  Archiver(Globals.DossierTemporaire + QStringLiteral("/Presences.txt"));
+}
+
+void TImportPresences::StockerTablette(const QString& chemin) {
+  Enregistrer();
+  Archiver(chemin);
+}
+
+// A failure is ignored: the records are stored, and the file stays where it was.
+void TImportPresences::Archiver(const QString& fichier) const {
+  if (!QFile::exists(fichier)) return;
+  const QDir dossier(DossierPresences(controleur_.Reglages()));
+  QFile::rename(fichier, dossier.filePath(NomArchive(controleur_.Horloge().Maintenant())));
+}
+
+int TImportPresences::NombreBons() const {
+  int nombre = 0;
+  for (const auto& presence : bons_) nombre += ACompter(presence->HeureEntree, presence->HeureSortie);
+  return nombre;
+}
+
+int TImportPresences::NombreAnomalies() const {
+  int nombre = 0;
+  for (const TAnomalie& a : anomalies_)
+    nombre += a.Presence ? ACompter(a.Presence->HeureEntree, a.Presence->HeureSortie)
+                         : ACompter(a.Entree, a.Sortie);
+  return nombre;
+}

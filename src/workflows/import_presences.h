@@ -1,0 +1,80 @@
+#pragma once
+#include <vector>
+
+#include "application/controleur.h"
+#include "core/texte_separe.h"
+
+/// Where a file of scans comes from.
+enum class TSourcePresences { Scanner, Main, Ftp };
+
+/// A line that cannot be stored as it is.
+struct TAnomalie {
+  QString Matricule;                    ///< as scanned when the pupil is unknown
+  std::unique_ptr<TPresence> Presence;  ///< null when the pupil is unknown: no record is made
+  int TypePresence = 0;                 ///< of an unknown pupil's line, like the three below
+  TDateTime Date = 0.0;
+  TDateTime Entree = 0.0;
+  TDateTime Sortie = 0.0;
+};
+
+/// Bringing a file of scans in: each line becomes a record, the good ones are stored, and what is
+/// wrong is shown and can be corrected. What the lists show is what is stored.
+class TImportPresences {
+ public:
+  /// Needs a year on display (`Globals`).
+  explicit TImportPresences(TControleur& controleur);
+
+  /// Step 1 by hand: reads and analyses a file, and says so when there are anomalies. Raises
+  /// Exception for a file that cannot be read, EConvertError for a malformed line, which it names;
+  /// nothing has been stored then.
+  void ImporterFichier(const QString& chemin);
+  /// The same for the tablet's file, without a word.
+  void ImporterTablette(const QString& chemin);
+  /// A line of the anomalies becomes a good record with these values; it is not tested again against
+  /// the tariff. False, after a message, when the line has no record.
+  bool Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie, TDateTime entree);
+  /// Step 2: stores the good records in one go, then archives the local copy.
+  void Etape2();
+  /// The same for the tablet's file, which is archived; no message.
+  void StockerTablette(const QString& chemin);
+
+  const std::vector<std::unique_ptr<TPresence>>& Bons() const { return bons_; }
+  const std::vector<TAnomalie>& Anomalies() const { return anomalies_; }
+  /// A file has been read and not yet stored.
+  bool Pret() const { return pret_; }
+  /// The site that a path stands for, "" unless parameter 113 says that there are several: the code
+  /// of the first site whose name is found in the path.
+  static QString SiteDuChemin(const QString& chemin);
+
+  // What the screen counts.
+  int NombreEntrees() const { return grille_.NombreLignes(); }  ///< lines of the file
+  int NombreBons() const;                                       ///< good lines with a time
+  int NombreAnomalies() const;                                  ///< anomalies with a time
+
+ private:
+  struct TScan {
+    QString Matricule;
+    int TypePresence;
+    TDateTime Date;
+    TDateTime Heure;
+    int Sens;
+  };
+
+  void Lire(const QString& chemin);
+  void Analyser(const QString& site);
+  TScan LireLigne(int ligne) const;
+  void Classer(const TScan& scan, const QString& site, std::vector<TAnomalie>& sansTarif);
+  void Deriver(const TScan& scan, int eleve);
+  void Enregistrer();
+  void Archiver(const QString& fichier) const;
+
+  TControleur& controleur_;
+  TTexteSepare grille_;
+  std::vector<std::unique_ptr<TPresence>> bons_;
+  std::vector<TAnomalie> anomalies_;
+  TSourcePresences source_ = TSourcePresences::Scanner;
+  bool pret_ = false;
+};
+
+/// "Presences-3.9.2016-7h5m0s.txt": the name under which a stored file is archived.
+QString NomArchive(TDateTime moment);

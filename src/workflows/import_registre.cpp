@@ -1,0 +1,219 @@
+#include "workflows/import_registre.h"
+
+#include "core/conversions.h"
+#include "core/exceptions.h"
+#include "core/lecture_dates.h"
+#include "core/query_internal.h"
+
+namespace {
+
+constexpr int kColonneEtablissement = 1;
+
+constexpr TImportRegistre::TDisposition kDisposition1 = {.Site = 1,
+                                                         .Matricule = 2,
+                                                         .Nom = 3,
+                                                         .Prenom = 4,
+                                                         .DateNaissance = 6,
+                                                         .Adresse = 12,
+                                                         .Numero = 13,
+                                                         .CodePostal = 14,
+                                                         .Localite = 15,
+                                                         .DateFichier = 16,
+                                                         .Classe = 17,
+                                                         .SousClasse = 18,
+                                                         .NomResponsable = 22,
+                                                         .PrenomResponsable = 23,
+                                                         .NomResponsable2 = 34,
+                                                         .PrenomResponsable2 = 35,
+                                                         .Adresse2 = 41,
+                                                         .Numero2 = 42,
+                                                         .CodePostal2 = 43,
+                                                         .Localite2 = 44,
+                                                         .Filtre = -1,
+                                                         .NettoyerClasse = false};
+
+constexpr TImportRegistre::TDisposition kDisposition2 = {.Site = 2,
+                                                         .Matricule = 3,
+                                                         .Nom = 10,
+                                                         .Prenom = 11,
+                                                         .DateNaissance = 6,
+                                                         .Adresse = 13,
+                                                         .Numero = 14,
+                                                         .CodePostal = 16,
+                                                         .Localite = 17,
+                                                         .DateFichier = 23,
+                                                         .Classe = 26,
+                                                         .SousClasse = 27,
+                                                         .NomResponsable = 28,
+                                                         .PrenomResponsable = 29,
+                                                         .NomResponsable2 = 35,
+                                                         .PrenomResponsable2 = 36,
+                                                         .Adresse2 = -1,
+                                                         .Numero2 = -1,
+                                                         .CodePostal2 = -1,
+                                                         .Localite2 = -1,
+                                                         .Filtre = 22,
+                                                         .NettoyerClasse = true};
+
+/// The register writes some fields as ="12".
+QString Nettoyer(QString texte) { return texte.remove(u'"').remove(u'='); }
+
+/// "yyyy/mm/dd" is understood like "dd/mm/yyyy".
+TDateTime DateDuFichier(const QString& texte) {
+  if (texte.size() == 10 && texte[4] == u'/')
+    return StrToDate(texte.mid(8, 2) + u'/' + texte.mid(5, 2) + u'/' + texte.left(4));
+  return StrToDate(texte);
+}
+
+}  // namespace
+
+TImportRegistre::TImportRegistre(TControleur& controleur)
+    : controleur_(controleur),
+      disposition_(Globals.Parametres->GetParametre(6) == u"2" ? kDisposition2 : kDisposition1) {}
+
+int TImportRegistre::NombreEleves() const { return qMax(0, grille_.NombreLignes() - 1); }
+
+QString TImportRegistre::Champ(int ligne, int colonne) const {
+  return colonne < 0 ? QString() : grille_.Cellule(ligne, colonne);
+}
+
+bool TImportRegistre::Etape1(const QString& fichier) {
+  const TAttente attente(controleur_.Dialogues());
+  pret_ = false;
+  grille_ = {};
+  fichier_ = fichier;
+  grille_ = TTexteSepare::Lire(fichier);
+  Filtrer();
+  pret_ = VerifierAnnee();
+  return pret_;
+}
+
+// The header line is exempt from both filters.
+void TImportRegistre::Filtrer() {
+  for (int ligne = grille_.NombreLignes() - 1; ligne > 0; --ligne) {
+    const QString site = Champ(ligne, kColonneEtablissement);
+    const QString& code = Globals.CodeEtablissement;
+    const bool autreSite = !code.isEmpty() && !site.isEmpty() && site != code;
+    const bool autreSorte = disposition_.Filtre >= 0 && !Champ(ligne, disposition_.Filtre).contains(u" M");
+    if (autreSite || autreSorte) grille_.Lignes.erase(grille_.Lignes.begin() + ligne);
+  }
+}
+
+bool TImportRegistre::VerifierAnnee() {
+  if (NombreEleves() < kElevesMinimum) return false;
+  const int annee = Globals.AnneeScolaire;
+  if (DateDuFichier(Champ(1, disposition_.DateFichier)) <= EncodeDate(annee + 1, 6, 30)) return true;
+  if (!controleur_.Dialogues().Confirmer(
+          QStringLiteral("Votre fichiel SIEL contient des élèves d'une nouvelle année scolaire.\r\n"
+                         "Voulez-vous clôturer l'année scolaire %1-%2 ?")
+              .arg(annee)
+              .arg(annee + 1)))
+    return false;
+  Cloturer();
+  return true;
+}
+
+// The balances are those of the year on display. A second closing of a year meets the rows of the
+// first, and stops before the year moves.
+void TImportRegistre::Cloturer() {
+  TDataModule1& base = controleur_.Base();
+  IDialogues& dialogues = controleur_.Dialogues();
+  int fait = 0;
+  for (TEleve& eleve : *Globals.Eleves) {
+    const Currency frais = eleve.Solde(true, false);
+    const Currency services = eleve.Solde(false, true);
+    const Currency total = eleve.Solde(true, true);
+    const int cle = base.GetNextId(QStringLiteral("BALANCE"));
+    if (cle == -1)
+      throw Exception(QStringLiteral("La clôture est arrêtée : l'année scolaire n'a pas changé."));
+    TQueryInternal ajout(base, QStringLiteral("insert into balance values (:iBalanceID, :iEleveId, "
+                                              ":iAnneeScolaire, :mTotService, :mTotFrais, :mTotal)"));
+    ajout.Parametre(QStringLiteral("iBalanceID"), cle)
+        .Parametre(QStringLiteral("iEleveId"), eleve.Id)
+        .Parametre(QStringLiteral("iAnneeScolaire"), Globals.AnneeScolaire)
+        .Parametre(QStringLiteral("mTotService"), services.EnEuros())
+        .Parametre(QStringLiteral("mTotFrais"), frais.EnEuros())
+        .Parametre(QStringLiteral("mTotal"), total.EnEuros())
+        .Executer();
+    dialogues.Progression(++fait, Globals.Eleves->Count(), eleve.NomComplet());
+  }
+  dialogues.Progression(0, 0, {});
+  TParametres& parametres = *Globals.Parametres;
+  parametres.SetParametre(27, QString::number(StrToInt(parametres.GetParametre(27)) + 1));
+  parametres.Save();
+  Globals.AnneeScolaire = StrToInt(parametres.GetParametre(27));
+  dialogues.Information(
+      QStringLiteral("L'année scolaire est clôturée.\r\n"
+                     "Vous pouvez commnencer le transfert des nouvelles informations."));
+}
+
+TBilanRegistre TImportRegistre::Etape2() {
+  IDialogues& dialogues = controleur_.Dialogues();
+  const TAttente attente(dialogues);
+  pret_ = false;
+  TBilanRegistre bilan;
+  {
+    TEleves tous(controleur_.Base(), 0);
+    const int dernier = grille_.NombreLignes() - 2;
+    for (int ligne = 1; ligne < grille_.NombreLignes(); ++ligne) {
+      try {
+        TransfererLigne(tous, ligne, bilan);
+      } catch (const EConvertError& e) {
+        dialogues.Progression(0, 0, {});
+        throw EConvertError(
+            QStringLiteral("Élève n° %1 (%2 %3) : %4\nLes élèves qui précèdent sont enregistrés.")
+                .arg(ligne)
+                .arg(Champ(ligne, disposition_.Nom), Champ(ligne, disposition_.Prenom), e.Message));
+      }
+      dialogues.Progression(ligne - 1, dernier, Champ(ligne, disposition_.Nom));
+      dialogues.TraiterEvenements();
+    }
+  }
+  controleur_.ChargerAnnee(Globals.AnneeScolaire);
+  dialogues.Progression(0, 0, {});
+  return bilan;
+}
+
+void TImportRegistre::TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan) {
+  TEleve* eleve = eleves.TrouverParMatricule(Champ(ligne, disposition_.Matricule));
+  const bool nouveau = eleve == nullptr;
+  if (nouveau) {
+    // Filled before it joins the others, so that a malformed row leaves none behind.
+    auto cree = std::make_unique<TEleve>();
+    RemplirEleve(*cree, ligne);
+    eleve = &eleves.AddEleve(std::move(cree));
+  } else {
+    RemplirEleve(*eleve, ligne);
+    eleves.AddEleve(*eleve);
+  }
+  eleves.Save();
+  if (eleve->Id == -1)
+    throw Exception(QStringLiteral("Le transfert est arrêté : l'élève n'a pas reçu de numéro."));
+  QString classe = Champ(ligne, disposition_.Classe);
+  if (disposition_.NettoyerClasse) classe = Nettoyer(classe);
+  eleves.AddClasseEleve(eleve->Id, classe, Globals.AnneeScolaire, Champ(ligne, disposition_.Site),
+                        Champ(ligne, disposition_.SousClasse));
+  ++bilan.Lignes;
+  ++(nouveau ? bilan.Crees : bilan.Modifies);
+}
+
+void TImportRegistre::RemplirEleve(TEleve& eleve, int ligne) const {
+  const TDisposition& d = disposition_;
+  eleve.Matricule = Champ(ligne, d.Matricule);
+  eleve.Nom = Champ(ligne, d.Nom);
+  eleve.Prenom = Champ(ligne, d.Prenom);
+  eleve.DateNaissance = LireDateCompacte(Champ(ligne, d.DateNaissance));
+  eleve.NomResponsable = Champ(ligne, d.NomResponsable);
+  eleve.PrenomResponsable = Champ(ligne, d.PrenomResponsable);
+  eleve.Adresse = Champ(ligne, d.Adresse);
+  eleve.Numero = Nettoyer(Champ(ligne, d.Numero));
+  eleve.CodePostal = StrToInt(Champ(ligne, d.CodePostal));
+  eleve.Localite = Champ(ligne, d.Localite);
+  eleve.NomResponsable2 = Champ(ligne, d.NomResponsable2);
+  eleve.PrenomResponsable2 = Champ(ligne, d.PrenomResponsable2);
+  if (d.Adresse2 < 0) return;  // this layout knows nothing of the second address: it stays as it is
+  eleve.Adresse2 = Champ(ligne, d.Adresse2);
+  eleve.Numero2 = Nettoyer(Champ(ligne, d.Numero2));
+  eleve.CodePostal2 = StrToIntDef(Champ(ligne, d.CodePostal2), 0);
+  eleve.Localite2 = Champ(ligne, d.Localite2);
+}

@@ -1,0 +1,58 @@
+#pragma once
+#include "application/controleur.h"
+#include "core/texte_separe.h"
+
+/// What the transfer of a register did.
+struct TBilanRegistre {
+  int Lignes = 0;  ///< data rows read
+  int Crees = 0;
+  int Modifies = 0;
+};
+
+/// Loading the pupils from an export of the school register, in two steps; a file of a new school
+/// year offers the closing of the old one first.
+class TImportRegistre {
+ public:
+  /// Needs the parameters and a year on display (`Globals`).
+  explicit TImportRegistre(TControleur& controleur);
+
+  /// Step 1: reads the file, leaves out what the filters drop, and decides about the year. True when
+  /// step 2 may follow. Raises Exception for a file that cannot be read, EConvertError for one that
+  /// bears no date.
+  bool Etape1(const QString& fichier);
+  /// Step 2: writes each pupil and enrolment at once, then loads the working year. A malformed row
+  /// raises EConvertError, which names it; the rows before it stay.
+  TBilanRegistre Etape2();
+
+  const TTexteSepare& Grille() const { return grille_; }
+  const QString& Fichier() const { return fichier_; }
+  /// With fewer pupils a file is not taken for a register, and step 2 stays closed without a word.
+  static constexpr int kElevesMinimum = 9;
+  /// Data rows that remain.
+  int NombreEleves() const;
+  /// Step 1 has accepted the file.
+  bool Pret() const { return pret_; }
+
+  /// Columns of the file, from 0; -1 is not read.
+  struct TDisposition {
+    int Site, Matricule, Nom, Prenom, DateNaissance, Adresse, Numero, CodePostal, Localite, DateFichier,
+        Classe, SousClasse, NomResponsable, PrenomResponsable, NomResponsable2, PrenomResponsable2, Adresse2,
+        Numero2, CodePostal2, Localite2;
+    int Filtre;           ///< rows without " M" in this column are dropped
+    bool NettoyerClasse;  ///< the class is cleaned like a house number
+  };
+
+ private:
+  void Filtrer();
+  bool VerifierAnnee();
+  void Cloturer();
+  void TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan);
+  void RemplirEleve(TEleve& eleve, int ligne) const;
+  QString Champ(int ligne, int colonne) const;
+
+  TControleur& controleur_;
+  const TDisposition& disposition_;
+  TTexteSepare grille_;
+  QString fichier_;
+  bool pret_ = false;
+};

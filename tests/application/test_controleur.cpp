@@ -1,0 +1,154 @@
+#include <gtest/gtest.h>
+
+#include "core/exceptions.h"
+#include "support/controleur_essai.h"
+
+namespace {
+
+void Regler(TBaseEssai& base, const char* nom, const QString& valeur) {
+  base.Reglages.Ecrire(TRacine::Utilisateur, QString::fromLatin1(nom), valeur);
+}
+
+/// A workstation whose server is the test's own file.
+void ConnaitreLeServeur(TBaseEssai& base) {
+  base->Deconnecter();
+  base.Reglages.Ecrire(TRacine::Machine, QStringLiteral("Serveur"), base.FichierDeDonnees());
+}
+
+}  // namespace
+
+TEST(Controleur, TheFourWaysOfStarting) {
+  TBaseEssai base;
+  TEcoleEssai(base).unEleve().enClasse(QStringLiteral("P1"), QStringLiteral("A"), QStringLiteral("S1"));
+  ConnaitreLeServeur(base);
+  const QStringList annee{QStringLiteral("Année scolaire 2016 - 2017"), "arbre", "coche 2016"};
+  struct {
+    const char* reglage;  // set to "1"
+    QString parametre41;
+    QStringList attendu;
+  } const cas[] = {
+      {"", {}, QStringList{"-pgRepas", "-pgRepas3"} + annee + QStringList{"*PgEleve"}},
+      {"", QStringLiteral("1"), QStringList{"+pgRepas", "-pgRepas3"} + annee + QStringList{"*PgEleve"}},
+      {"Mode", QStringLiteral("0"),
+       QStringList{"-pgRepas", "-pgRepas3"} + annee +
+           QStringList{"-PgEleve", "-PgParametre", "-pgRepasNew", "+pgRepas", "*pgRepas", "-bouton",
+                       "-bouton", "-bouton", "reservation"}},
+      {"Tablette",
+       {},
+       QStringList{"-PgEleve", "-PgParametre", "-pgRepas", "-pgRepasNew", "-arbre", "+pgRepas3",
+                   "*pgRepas3"} +
+           annee + QStringList{"tablette"}},
+  };
+  for (const auto& c : cas) {
+    for (const char* nom : {"Mode", "Tablette", "Offline"})
+      Regler(base, nom, nom == std::string(c.reglage) ? QStringLiteral("1") : QStringLiteral("oui"));
+    base->ConnectToServer();
+    TEcoleEssai(base).parametre(41, c.parametre41);
+    TControleurEssai essai(base);
+    essai.Controleur.FormShow();
+    EXPECT_EQ(essai.Fenetre.Faits, c.attendu) << c.reglage;
+    EXPECT_EQ(Globals.Eleves->Count(), 1);
+    EXPECT_EQ(Globals.Eleves->Implantations->Count(), 1) << "the site of a pupil is known after the load";
+    essai.Controleur.FormClose();
+    EXPECT_EQ(Globals.Eleves, nullptr);
+  }
+}
+
+TEST(Controleur, OffLineNeedsNoServer) {
+  TBaseEssai base;
+  base->Deconnecter();
+  Regler(base, "Offline", QStringLiteral("1"));
+  Regler(base, "Mode", QStringLiteral("1"));
+  Regler(base, "Photo", QStringLiteral("3 octobre"));
+  TControleurEssai essai(base);
+  essai.Controleur.FormShow();
+  EXPECT_TRUE(Globals.ModeHorsLigne);
+  EXPECT_FALSE(Globals.ModeProfesseur) << "the other modes are not read";
+  EXPECT_EQ(Globals.DatePhoto, u"3 octobre");
+  EXPECT_EQ(essai.Fenetre.Faits.last(), u"tablette");
+  EXPECT_FALSE(base->EstConnecte());
+
+  // On-line for a transfer, then off-line again.
+  base.Reglages.Ecrire(TRacine::Machine, QStringLiteral("Serveur"), base.FichierDeDonnees());
+  essai.Controleur.PasserEnLigne();
+  EXPECT_TRUE(base->EstConnecte());
+  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, QStringLiteral("Offline")), u"0");
+  EXPECT_EQ(essai.Fenetre.Faits.last(), u"*pgRepas3");
+  Globals.Parametres->SetParametre(115, QStringLiteral("demain"));
+  essai.Controleur.MemoriserDatePhoto();
+  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, QStringLiteral("Photo")), u"demain");
+  essai.Controleur.PasserHorsLigne();
+  EXPECT_FALSE(base->EstConnecte());
+  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, QStringLiteral("Offline")), u"1");
+  EXPECT_TRUE(Globals.ModeHorsLigne);
+}
+
+TEST(Controleur, RetryAndGiveUp) {
+  TBaseEssai base;
+  base->Deconnecter();
+  const QString mauvais = base.Fichier(QStringLiteral("mauvais.fdb"), QByteArray(5000, 'z'));
+  base.Reglages.Ecrire(TRacine::Machine, QStringLiteral("Serveur"), mauvais);
+  {
+    TControleurEssai essai(base);
+    base.Dialogues.Reessaie(false);
+    essai.Controleur.FormShow();
+    EXPECT_EQ(essai.Fenetre.Faits, QStringList{"fin"}) << "giving up at the first failure ends the program";
+    EXPECT_TRUE(base.Dialogues.Questions.last().contains(u"nommé : " + mauvais));
+  }
+  {
+    TControleurEssai essai(base);
+    base.Dialogues.Reessaie(true).Reessaie(false);
+    essai.Controleur.FormShow();
+    EXPECT_TRUE(essai.Fenetre.Faits.isEmpty()) << "giving up after a retry leaves an empty window";
+  }
+  TControleurEssai essai(base);
+  base.Dialogues.Reessaie(true, true).Saisit(QStringLiteral("Identification"), base.FichierDeDonnees());
+  essai.Controleur.FormShow();
+  EXPECT_EQ(essai.Fenetre.Faits.last(), u"*PgEleve");
+}
+
+TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
+  TBaseEssai base;
+  TEcoleEssai ecole(base);
+  ecole.unEleve().enClasse(QStringLiteral("P1"), QStringLiteral("A"));
+  for (const auto& [id, valeur] : {std::pair{30, "1"},
+                                   {100, "2"},
+                                   {101, "2,20"},
+                                   {106, "4"},
+                                   {105, "3"},
+                                   {109, "1"},
+                                   {103, "1"},
+                                   {25, "1"}})
+    ecole.parametre(id, QString::fromLatin1(valeur));
+  TControleurEssai essai(base);
+  essai.Charger();
+  EXPECT_EQ(Globals.Eleves->Count(), 1);
+  EXPECT_TRUE(Globals.Presences->GarderieUnique);
+  EXPECT_TRUE(Globals.Presences->DeductionEtude);
+  EXPECT_EQ(Globals.Presences->PrixRepas[1].EnBrut(), 22000);
+  EXPECT_EQ(Globals.Presences->PrixRepas[2].EnBrut(), 0);
+  EXPECT_EQ(Globals.Presences->PrixRepas[3].EnBrut(), 40000);
+  EXPECT_EQ(Globals.Presences->ModeDeduction, TModeDeduction::QuartsHeure);
+  EXPECT_EQ(Globals.DateDebutActivitesExt, EncodeDate(2015, 10, 5));
+  EXPECT_EQ(Globals.TitreGarderieSoir, u"Garderies du soir / études");
+  EXPECT_TRUE(Globals.Eleves->ModeProvision);
+  Globals.EleveCourant = &(*Globals.Eleves)[0];
+
+  essai.Controleur.ChoisirAnnee(2015);
+  EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2015);
+  EXPECT_EQ(Globals.AnneeScolaire, 2016);
+  EXPECT_EQ(Globals.EleveCourant, nullptr);
+  EXPECT_EQ(essai.Fenetre.Faits.last(), u"ferme");
+
+  ecole.parametre(101, QStringLiteral("deux"));
+  Globals.Parametres = std::make_unique<TParametres>(*base);
+  EXPECT_THROW(essai.Controleur.ChargerAnnee(2016), EConvertError);
+  EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2015) << "the display stays as it was";
+}
+
+TEST(Controleur, AnUnreadableYearStopsTheStart) {
+  TBaseEssai base;
+  TEcoleEssai(base).parametre(27, QStringLiteral("deux mille seize"));
+  TControleurEssai essai(base);
+  EXPECT_THROW(essai.Charger(), EConvertError);
+}

@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+
+#include "core/exceptions.h"
+#include "support/controleur_essai.h"
+#include "workflows/import_registre.h"
+
+namespace {
+
+/// A register file of either layout, built by column.
+class TFichierRegistre {
+ public:
+  explicit TFichierRegistre(int disposition) : disposition_(disposition) {
+    lignes_ += QStringLiteral("en-tête;M");
+    for (int i = 1; i <= 9; ++i) Ajouter(QStringLiteral("1234-%1").arg(i));
+  }
+  void Ajouter(const QString& matricule) {
+    QStringList l(46);
+    const bool un = disposition_ == 1;
+    l[un ? 1 : 2] = QStringLiteral("SITE");
+    l[un ? 2 : 3] = matricule;
+    l[un ? 3 : 10] = QStringLiteral("Nom ") + matricule;
+    l[un ? 4 : 11] = QStringLiteral("Zoé");
+    l[6] = QStringLiteral("20100228");
+    l[un ? 12 : 13] = QStringLiteral("Rue de l'Été");
+    l[un ? 13 : 14] = QStringLiteral("=\"12\"");
+    l[un ? 14 : 16] = QStringLiteral("1300");
+    l[un ? 15 : 17] = QStringLiteral("Wavre");
+    l[un ? 16 : 23] = QStringLiteral("2016/09/01");
+    l[un ? 17 : 26] = un ? QStringLiteral("P3") : QStringLiteral("=\"P3\"");
+    l[un ? 18 : 27] = QStringLiteral("B");
+    l[un ? 22 : 28] = QStringLiteral("Père");
+    l[un ? 34 : 35] = QStringLiteral("Mère");
+    if (un) {
+      l[41] = QStringLiteral("Place");
+      l[42] = QStringLiteral("=\"7\"");
+      l[43] = QStringLiteral("x");
+      l[44] = QStringLiteral("Namur");
+    } else {
+      l[22] = QStringLiteral("Section M");
+    }
+    lignes_ += l.join(u';');
+  }
+  /// Sets a cell of a data row, from 1.
+  TFichierRegistre& Mettre(int ligne, int colonne, const QString& texte) {
+    QStringList cellules = lignes_[ligne].split(u';');
+    cellules[colonne] = texte;
+    lignes_[ligne] = cellules.join(u';');
+    return *this;
+  }
+  QString Ecrire(TBaseEssai& base) const {
+    return base.Fichier(QStringLiteral("registre.csv"), lignes_.join(QStringLiteral("\r\n")).toUtf8());
+  }
+
+ private:
+  int disposition_;
+  QStringList lignes_;
+};
+
+const QString kEleves = QStringLiteral(
+    "SELECT MATRICULE, NOM, NUMERO, CODE_POSTAL, NOM_RESPONSABLE, NOM_RESPONSABLE2, NUMERO2, CODE_POSTAL2, "
+    "LOCALITE2 FROM ELEVES ORDER BY ELEVE_ID");
+const QString kClasses = QStringLiteral(
+    "SELECT ELEVE_ID, ANNEE_SCOLAIRE, CLASSE, SOUS_CLASSE, CODE_IMPLANTATION FROM ELEVES_CLASSES ORDER BY 1, "
+    "2");
+const QString kQuestion = QStringLiteral(
+    "Votre fichiel SIEL contient des élèves d'une nouvelle année scolaire.\r\nVoulez-vous clôturer l'année "
+    "scolaire 2016-2017 ?");
+
+}  // namespace
+
+TEST(ImportRegistre, BothLayoutsCreateAndUpdate) {
+  for (const int disposition : {1, 2}) {
+    TBaseEssai base;
+    TEcoleEssai ecole(base);
+    ecole.parametre(6, QString::number(disposition));
+    // Known, not enrolled this year, with what the file does not carry.
+    ecole.unEleve().matricule(QStringLiteral("1234-2")).avec(QStringLiteral("FLG_2E_ENFANT"));
+    TControleurEssai essai(base);
+    essai.Charger();
+    TImportRegistre import(essai.Controleur);
+    const QString fichier = TFichierRegistre(disposition).Ecrire(base);
+    for (int fois = 0; fois < 2; ++fois) {
+      ASSERT_TRUE(import.Etape1(fichier));
+      EXPECT_EQ(import.NombreEleves(), 9);
+      const TBilanRegistre bilan = import.Etape2();
+      EXPECT_EQ(bilan.Lignes, 9);
+      EXPECT_EQ(bilan.Crees, fois == 0 ? 8 : 0);
+      EXPECT_EQ(bilan.Modifies, fois == 0 ? 1 : 9);
+      EXPECT_FALSE(import.Pret());
+      const QStringList eleves = base.Rangees(kEleves);
+      ASSERT_EQ(eleves.size(), 9);
+      EXPECT_EQ(eleves[1], disposition == 1 ? QStringLiteral("1234-1;Nom 1234-1;12;1300;Père;Mère;7;0;Namur")
+                                            : QStringLiteral("1234-1;Nom 1234-1;12;1300;Père;Mère;;0;"));
+      EXPECT_EQ(base.Valeur(QStringLiteral("SELECT FLG_2E_ENFANT FROM ELEVES WHERE ELEVE_ID = 1")), u"1");
+      const QStringList classes = base.Rangees(kClasses);
+      ASSERT_EQ(classes.size(), 9) << "one enrolment a pupil and year";
+      EXPECT_EQ(classes[0], u"1;2016;P3;B;SITE");
+      EXPECT_EQ(Globals.Eleves->Count(), 9) << "the working year is on display";
+    }
+  }
+}
+
+TEST(ImportRegistre, FiltersAndShortFiles) {
+  TBaseEssai base;
+  TEcoleEssai ecole(base);
+  ecole.parametre(6, QStringLiteral("2"));
+  ecole.parametre(31, QStringLiteral("AUTRE"));
+  TControleurEssai essai(base);
+  essai.Charger();
+  TFichierRegistre fichier(2);
+  for (int i = 10; i <= 13; ++i) fichier.Ajouter(QStringLiteral("1234-%1").arg(i));
+  // Field 1 tells the establishment in both layouts; an empty one stays.
+  fichier.Mettre(1, 1, QStringLiteral("SITE"))
+      .Mettre(2, 1, QStringLiteral("AUTRE"))
+      .Mettre(3, 22, QStringLiteral("SectionM"));
+  TImportRegistre import(essai.Controleur);
+  EXPECT_TRUE(import.Etape1(fichier.Ecrire(base)));
+  EXPECT_EQ(import.NombreEleves(), 11);
+  fichier.Mettre(4, 22, {}).Mettre(5, 22, {}).Mettre(6, 22, {});
+  EXPECT_FALSE(import.Etape1(fichier.Ecrire(base))) << "nine rows with the header";
+  EXPECT_THROW(import.Etape1(base.Chemin(QStringLiteral("absent"))), Exception);
+  EXPECT_FALSE(import.Pret());
+}
+
+TEST(ImportRegistre, TheClosingMovesTheYearOnce) {
+  TBaseEssai base;
+  TEcoleEssai ecole(base);
+  const int frais = ecole.frais(QStringLiteral("Piscine"), QStringLiteral("12.5"), 10);
+  ecole.unEleve()
+      .enClasse(QStringLiteral("P1"), QStringLiteral("A"))
+      .doit(frais, QStringLiteral("2.5"))
+      .mois(10, QStringLiteral("30"));
+  TControleurEssai essai(base);
+  essai.Charger();
+  TFichierRegistre fichier(1);
+  TImportRegistre import(essai.Controleur);
+  EXPECT_TRUE(import.Etape1(fichier.Mettre(1, 16, QStringLiteral("30/06/2017")).Ecrire(base)));
+  const QString nouvelle = fichier.Mettre(1, 16, QStringLiteral("2017/07/01")).Ecrire(base);
+  base.Dialogues.Repond(kQuestion, false);
+  EXPECT_FALSE(import.Etape1(nouvelle));
+  EXPECT_EQ(base.Valeur(QStringLiteral("SELECT COUNT(*) FROM BALANCE")), u"0");
+  base.Dialogues.Repond(kQuestion, true)
+      .Attend(QStringLiteral("L'année scolaire est clôturée.\r\nVous pouvez commnencer"));
+  EXPECT_TRUE(import.Etape1(nouvelle));
+  EXPECT_EQ(base.Rangees(QStringLiteral("SELECT * FROM BALANCE")),
+            QStringList{"1;1;2016;30.0000;-10.0000;20.0000"});
+  EXPECT_EQ(Globals.AnneeScolaire, 2017);
+  EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2016) << "the display stays until the transfer";
+  import.Etape2();
+  EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2017);
+  EXPECT_EQ(Globals.Eleves->Count(), 9) << "a pupil absent from the file is not enrolled";
+
+  // The same year again: the rows of the first closing stop the second.
+  Globals.Parametres->SetParametre(27, QStringLiteral("2016"));
+  Globals.Parametres->Save();
+  Globals.AnneeScolaire = 2016;
+  essai.Controleur.ChargerAnnee(2016);
+  base.Dialogues.Repond(kQuestion, true);
+  EXPECT_THROW(import.Etape1(nouvelle), Exception);
+  EXPECT_EQ(base.Valeur(QStringLiteral("SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 27")),
+            u"2016");
+}
+
+TEST(ImportRegistre, AMalformedRowStopsAndTheRowsBeforeStay) {
+  struct {
+    int colonne;
+    QString texte, attendu;
+  } const cas[] = {{6, QStringLiteral("2010/02/28"), QStringLiteral("2010/02/28")},
+                   {6, QString(), QStringLiteral("«  »")},
+                   {14, QStringLiteral("B-1300"), QStringLiteral("« B-1300 » n'est pas un nombre entier")},
+                   {14, QString(), QStringLiteral("n'est pas un nombre entier")}};
+  for (const auto& c : cas) {
+    TBaseEssai base;
+    TControleurEssai essai(base);
+    essai.Charger();
+    TImportRegistre import(essai.Controleur);
+    ASSERT_TRUE(import.Etape1(TFichierRegistre(1).Mettre(5, c.colonne, c.texte).Ecrire(base)));
+    try {
+      import.Etape2();
+      ADD_FAILURE() << "la ligne devait être refusée";
+    } catch (const EConvertError& e) {
+      EXPECT_TRUE(e.Message.contains(c.attendu) && e.Message.contains(u"Élève n° 5 (Nom 1234-5 Zoé)"))
+          << e.what();
+    }
+    EXPECT_EQ(base.Valeur(QStringLiteral("SELECT COUNT(*) FROM ELEVES")), u"4");
+    EXPECT_EQ(base.Valeur(QStringLiteral("SELECT COUNT(*) FROM ELEVES_CLASSES")), u"4");
+  }
+}
