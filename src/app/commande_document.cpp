@@ -1,0 +1,95 @@
+#include <QSaveFile>
+
+#include "app/commandes.h"
+#include "core/calendrier_scolaire.h"
+#include "core/conversions.h"
+#include "core/exceptions.h"
+#include "documents/catalogue.h"
+
+namespace {
+
+QString Nom(const char* option) { return QString::fromLatin1(option); }
+
+/// The one option of these that is given. Raises Exception when there is none, or more than one.
+QString UneSeule(const TSession& session, const QStringList& noms) {
+  QStringList donnees;
+  for (const QString& nom : noms)
+    if (session.Options.isSet(nom)) donnees += nom;
+  if (donnees.size() != 1)
+    throw Exception(
+        QStringLiteral("Donnez une seule des options --%1.").arg(noms.join(QStringLiteral(", --"))));
+  return donnees[0];
+}
+
+TPeriode Periode(const TSession& session) {
+  const int annee = Globals.Eleves->AnneeScolaire;
+  const QString choix = UneSeule(session, {Nom("mois"), Nom("du"), Nom("annee-scolaire")});
+  if (choix == u"du") return {StrToDate(session.Option(Nom("du"))), StrToDate(session.Option(Nom("au")))};
+  if (choix == u"annee-scolaire") return BornesAnnee(annee);
+  const int mois = StrToInt(session.Option(Nom("mois")));
+  if (mois < 1 || mois > 12) throw Exception(QStringLiteral("Le mois est un nombre de 1 à 12."));
+  return BornesMois(mois, annee);
+}
+
+void ChoisirClasses(const QStringList& noms, TChoixDocument& choix) {
+  for (const QString& nom : noms) {
+    const std::size_t avant = choix.Classes.size();
+    for (const auto& classe : Globals.Eleves->Classes())
+      if (classe->Libelle().trimmed() == nom.trimmed()) choix.Classes.push_back(classe.get());
+    if (choix.Classes.size() == avant)
+      throw Exception(QStringLiteral("Il n'y a pas de classe « %1 ».").arg(nom));
+  }
+}
+
+void ChoisirEleves(const QStringList& numeros, TChoixDocument& choix) {
+  for (const QString& numero : numeros) {
+    TEleve* eleve = Globals.Eleves->TrouverParId(StrToInt(numero));
+    if (eleve == nullptr)
+      throw Exception(QStringLiteral("Il n'y a pas d'élève n° %1 cette année-là.").arg(numero));
+    choix.Eleves.push_back(eleve);
+  }
+}
+
+void Choisir(const TSession& session, TChoixDocument& choix) {
+  const QString qui = UneSeule(session, {Nom("tous"), Nom("eleves"), Nom("classes")});
+  if (qui == u"eleves")
+    ChoisirEleves(session.Option(qui).split(u',', Qt::SkipEmptyParts), choix);
+  else if (qui == u"classes")
+    ChoisirClasses(session.Option(qui).split(u',', Qt::SkipEmptyParts), choix);
+  else
+    for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
+  if (choix.Eleves.empty() && choix.Classes.empty())
+    throw Exception(QStringLiteral("Aucun élève n'a été sélectionné !"));
+}
+
+void Ecrire(const QString& chemin, const QByteArray& octets) {
+  QSaveFile fichier(chemin);
+  if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size() || !fichier.commit())
+    throw Exception(
+        QStringLiteral("Le fichier « %1 » ne peut pas être écrit : %2").arg(chemin, fichier.errorString()));
+}
+
+}  // namespace
+
+int CommandeDocument(TSession& session) {
+  const QString titre = session.Arguments[0];
+  TChoixDocument choix;
+  choix.Indice = IndiceTitre(titre);
+  if (choix.Indice < 0) throw Exception(QStringLiteral("Il n'y a pas de document « %1 ».").arg(titre));
+  if (session.Options.isSet(Nom("pdf")))
+    throw Exception(
+        QStringLiteral("Les documents ne peuvent pas encore être mis en page : demandez-les avec --json."));
+  session.Ouvrir();
+  Choisir(session, choix);
+  const bool avecPeriode = TitresDocuments()[static_cast<std::size_t>(choix.Indice)].AvecPeriode;
+  const TPeriode periode = avecPeriode ? Periode(session) : BornesAnnee(Globals.Eleves->AnneeScolaire);
+  choix.DateDebut = periode.Premier;
+  choix.DateFin = periode.Dernier;
+  if (session.Options.isSet(Nom("date-paiement")) && DemandeDatePaiement(choix.Indice, *Globals.Parametres))
+    choix.DatePaiement = StrToDate(session.Option(Nom("date-paiement")));
+
+  const TResultat resultat = FaireDocument(ContexteDesGlobals(), choix);
+  for (const QString& message : resultat.Messages) session.Dialogues.Message(message);
+  if (session.Options.isSet(Nom("json"))) Ecrire(session.Option(Nom("json")), resultat.EnJson(titre));
+  return resultat.Echec ? 1 : 0;
+}

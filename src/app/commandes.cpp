@@ -1,0 +1,175 @@
+#include "app/commandes.h"
+
+#include <QFile>
+
+#include "app/csv.h"
+#include "core/calendrier_scolaire.h"
+#include "core/conversions.h"
+#include "core/exceptions.h"
+#include "pupils/service.h"
+#include "workflows/import_presences.h"
+#include "workflows/import_registre.h"
+
+namespace {
+
+int Creer(TSession& session) {
+  session.Base.ServerName = session.Options.value(QStringLiteral("serveur"));
+  const QString fichier = session.Base.FichierLocal();
+  const bool existait = fichier.isEmpty() || QFile::exists(fichier);
+  session.Connecter();
+  if (existait) {
+    session.Base.MettreAJour();
+    session.Dialogues.Information(QStringLiteral("Votre base de données est à jour !"));
+  } else {
+    session.Dialogues.Information(QStringLiteral("La base de données « %1 » est créée.").arg(fichier));
+  }
+  return 0;
+}
+
+int Parametre(TSession& session) {
+  session.Connecter();
+  TParametres parametres(session.Base);
+  const int id = StrToInt(session.Arguments[0]);
+  if (session.Arguments.size() > 1) {
+    parametres.SetParametre(id, session.Arguments[1]);
+    parametres.Save();
+  }
+  QTextStream(stdout) << parametres.GetParametre(id) << '\n';
+  return 0;
+}
+
+int Registre(TSession& session) {
+  session.Ouvrir();
+  TImportRegistre import(session.Controleur);
+  session.Dialogues.Oui = session.Options.isSet(QStringLiteral("cloturer"));
+  if (!import.Etape1(session.Arguments[0])) {
+    session.Dialogues.Message(
+        import.NombreEleves() < TImportRegistre::kElevesMinimum
+            ? QStringLiteral(
+                  "Le fichier ne compte que %1 élève(s) : il en faut au moins %2. Rien n'a été transféré.")
+                  .arg(import.NombreEleves())
+                  .arg(TImportRegistre::kElevesMinimum)
+            : QStringLiteral("L'année scolaire n'est pas clôturée : rien n'a été transféré."));
+    return 1;
+  }
+  const TBilanRegistre bilan = import.Etape2();
+  TCsv csv({QStringLiteral("lignes"), QStringLiteral("crees"), QStringLiteral("modifies")});
+  csv.Ligne({QString::number(bilan.Lignes), QString::number(bilan.Crees), QString::number(bilan.Modifies)});
+  return 0;
+}
+
+QString DateIso(TDateTime date) { return DateVersQt(date).toString(Qt::ISODate); }
+
+/// An empty field for no time.
+QString HeureOuVide(TDateTime heure) {
+  return heure == 0.0 ? QString() : HeureVersQt(heure).toString(QStringLiteral("HH:mm"));
+}
+
+QStringList LignePresence(const QString& etat, const QString& matricule, const TPresence& presence) {
+  return {etat,
+          matricule,
+          DateIso(presence.DateReleve),
+          QString::number(static_cast<int>(presence.TypePresence)),
+          HeureOuVide(presence.HeureEntree),
+          HeureOuVide(presence.HeureSortie)};
+}
+
+int Presences(TSession& session) {
+  session.Ouvrir();
+  TImportPresences import(session.Controleur);
+  import.ImporterFichier(session.Arguments[0]);
+  {
+    TCsv csv(QStringLiteral("etat;matricule;date;type;entree;sortie").split(u';'));
+    for (const auto& bon : import.Bons())
+      csv.Ligne(
+          LignePresence(QStringLiteral("bon"), Globals.Eleves->TrouverParId(bon->EleveId)->Matricule, *bon));
+    for (const TAnomalie& a : import.Anomalies()) {
+      if (a.Presence)
+        csv.Ligne(LignePresence(QStringLiteral("sans_tarif"), a.Matricule, *a.Presence));
+      else
+        csv.Ligne({QStringLiteral("inconnu"), a.Matricule, DateIso(a.Date), QString::number(a.TypePresence),
+                   HeureOuVide(a.Entree), HeureOuVide(a.Sortie)});
+    }
+  }
+  import.Etape2();
+  return 0;
+}
+
+struct TServiceCsv {
+  const char* code;
+  TService service;
+};
+
+constexpr TServiceCsv kServices[] = {{"matin", TService::Matin}, {"midi", TService::Midi},
+                                     {"soir", TService::Soir},   {"mercredi", TService::Mercredi},
+                                     {"etude", TService::Etude}, {"repas", TService::Repas},
+                                     {"soupe", TService::Soupe}};
+
+int Couts(TSession& session) {
+  const int mois = StrToInt(session.Option(QStringLiteral("mois")));
+  if (mois < 1 || mois > 12) throw Exception(QStringLiteral("Le mois est un nombre de 1 à 12."));
+  session.Ouvrir();
+  const TPeriode periode = BornesMois(mois, Globals.Eleves->AnneeScolaire);
+  TCsv csv(QStringLiteral("eleve_id;service;montant").split(u';'));
+  for (const TEleve& eleve : *Globals.Eleves) {
+    const auto ligne = [&](const QString& service, Currency montant) {
+      csv.Ligne({QString::number(eleve.Id), service, FormatQuatreDecimales(montant)});
+    };
+    TLignesService lignes;
+    for (const TServiceCsv& service : kServices)
+      ligne(QString::fromLatin1(service.code), eleve.CoutService(service.service, periode, lignes));
+    ligne(QStringLiteral("total"), eleve.TotalServices(periode));
+  }
+  return 0;
+}
+
+int Solde(TSession& session) {
+  session.Ouvrir();
+  TCsv csv(QStringLiteral("eleve_id;frais;services;total").split(u';'));
+  for (TEleve& eleve : *Globals.Eleves)
+    csv.Ligne({QString::number(eleve.Id), FormatQuatreDecimales(eleve.Solde(true, false)),
+               FormatQuatreDecimales(eleve.Solde(false, true)),
+               FormatQuatreDecimales(eleve.Solde(true, true))});
+  return 0;
+}
+
+}  // namespace
+
+void TSession::Connecter() const {
+  if (Options.isSet(QStringLiteral("serveur"))) {
+    Base.ServerName = Options.value(QStringLiteral("serveur"));
+    Base.Connecter();
+  } else if (!Base.ConnectToServer()) {
+    throw Exception(QStringLiteral(
+        "Aucun serveur de données n'est connu sur cet ordinateur : indiquez-le avec --serveur (un nom de "
+        "serveur, « local », ou le chemin d'un fichier .fdb)."));
+  }
+}
+
+void TSession::Ouvrir() const {
+  Connecter();
+  Controleur.ChargerParametres();
+  const QString annee = Options.value(QStringLiteral("annee"));
+  Controleur.ChargerAnnee(annee.isEmpty() ? Globals.AnneeScolaire : StrToInt(annee));
+}
+
+QString TSession::Option(const QString& nom) const {
+  if (!Options.isSet(nom)) throw Exception(QStringLiteral("L'option --%1 manque.").arg(nom));
+  return Options.value(nom);
+}
+
+const std::vector<TCommande>& Commandes() {
+  static const std::vector<TCommande> commandes = {
+      {"creer", 0, 0, "creer", Creer},
+      {"parametre", 1, 2, "parametre ID [VALEUR]", Parametre},
+      {"registre", 1, 1, "registre FICHIER [--cloturer]", Registre},
+      {"presences", 1, 1, "presences FICHIER", Presences},
+      {"couts", 0, 0, "couts --mois M", Couts},
+      {"solde", 0, 0, "solde", Solde},
+      {"document", 1, 1,
+       "document TITRE (--mois M | --du jj/mm/aaaa --au jj/mm/aaaa | --annee-scolaire) "
+       "(--tous | --eleves ID,ID | --classes NOM,NOM) [--date-paiement jj/mm/aaaa] [--json FICHIER]",
+       CommandeDocument},
+  };
+  return commandes;
+}

@@ -1,0 +1,84 @@
+// The batch program: the same logic without windows, for scheduled work and for anyone who tests.
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include "app/commandes.h"
+#include "core/exceptions.h"
+
+namespace {
+
+enum { kReussi = 0, kEchec = 1, kMauvaisAppel = 2 };
+
+/// The collections go before the connection that they look at.
+struct TLiberation {
+  TLiberation() = default;
+  ~TLiberation() { Globals.Liberer(); }
+  TLiberation(const TLiberation&) = delete;
+  TLiberation& operator=(const TLiberation&) = delete;
+};
+
+void DeclarerOptions(QCommandLineParser& options) {
+  const auto valeur = [&](const char* nom) {
+    options.addOption({QString::fromLatin1(nom), {}, QStringLiteral("valeur")});
+  };
+  for (const char* nom :
+       {"serveur", "annee", "mois", "du", "au", "eleves", "classes", "date-paiement", "json", "pdf"})
+    valeur(nom);
+  for (const char* nom : {"oui", "cloturer", "annee-scolaire", "tous", "aide"})
+    options.addOption(QCommandLineOption(QString::fromLatin1(nom)));
+}
+
+QString Usage() {
+  QString texte = QStringLiteral("Usage : calpenne-lot [--serveur S] [--annee A] [--oui] COMMANDE\n");
+  for (const TCommande& commande : Commandes()) texte += u"  " + QString::fromUtf8(commande.Usage) + u'\n';
+  return texte.trimmed();
+}
+
+int Executer(const QCommandLineParser& options, TDialoguesTerminal& dialogues) {
+  QStringList arguments = options.positionalArguments();
+  const QString nom = arguments.isEmpty() ? QString() : arguments.takeFirst();
+  for (const TCommande& commande : Commandes()) {
+    if (nom != QLatin1String(commande.Nom)) continue;
+    if (arguments.size() < commande.ArgumentsMin || arguments.size() > commande.ArgumentsMax) break;
+    TReglagesPoste reglages;
+    TDataModule1 base(dialogues, reglages);
+    IFenetrePrincipale sansFenetre;
+    const THorloge horloge;
+    TControleur controleur(base, reglages, sansFenetre, horloge);
+    const TLiberation liberation;
+    TSession session{options, arguments, dialogues, reglages, base, controleur};
+    return commande.Executer(session);
+  }
+  dialogues.Message(Usage());
+  return options.isSet(QStringLiteral("aide")) ? kReussi : kMauvaisAppel;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication application(argc, argv);
+  QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
+  QTranslator traduction;
+  if (traduction.load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QCoreApplication::installTranslator(&traduction);
+
+  TDialoguesTerminal dialogues;
+  QCommandLineParser options;
+  DeclarerOptions(options);
+  if (!options.parse(application.arguments())) {
+    dialogues.Message(options.errorText() + u'\n' + Usage());
+    return kMauvaisAppel;
+  }
+  dialogues.Oui = options.isSet(QStringLiteral("oui"));
+  try {
+    return Executer(options, dialogues);
+  } catch (const Exception& e) {
+    dialogues.Message(e.Message);
+  } catch (const std::exception& e) {
+    dialogues.Message(QStringLiteral("Erreur inattendue : ") + QString::fromUtf8(e.what()));
+  }
+  return kEchec;
+}
