@@ -1,0 +1,110 @@
+#include "bench/ecole_bench.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+#include <random>
+
+#include "core/dates.h"
+#include "core/exceptions.h"
+
+namespace {
+
+void Faire(QSqlQuery& requete, bool reussi) {
+  if (!reussi) throw Exception(requete.lastError().text());
+}
+
+void Executer(TDataModule1& base, const QString& sql) {
+  QSqlQuery requete(base.UniConnection1());
+  Faire(requete, requete.exec(sql));
+}
+
+void RemplirTarifs(TDataModule1& base) {
+  struct {
+    int famille;
+    const char *debut, *fin;
+    int forfait;
+    double cout;
+    int scan;
+  } const tarifs[] = {
+      {1, "07:00", "08:00", 1, 1.0, 1},  {1, "08:00", "08:30", 1, 0.5, 1}, {7, "11:45", "13:30", 1, 0.8, 1},
+      {2, "15:30", "17:00", 3, 0.75, 3}, {2, "17:00", "18:30", 4, 0.5, 3}, {3, "12:15", "18:00", 2, 1.5, 3},
+      {4, "15:30", "16:30", 1, 1.0, 3},  {5, "00:00", "23:59", 1, 0.0, 1}, {6, "00:30", "23:59", 1, 0.6, 1}};
+  int cle = 0;
+  for (const auto& t : tarifs)
+    Executer(base, QStringLiteral(
+                       "INSERT INTO TARIF_GARDERIE (TARIF_GARDERIE_ID, TYPE_FAMILLE, TYPE_JOUR, "
+                       "HEURE_DEBUT_SCAN, HEURE_FIN_SCAN, TYPE_FORFAIT, COUT, TYPE_SCAN, COUT_2E_ENFANT) "
+                       "VALUES (%1, %2, %3, '%4', '%5', %6, %7, %8, %7)")
+                       .arg(++cle)
+                       .arg(t.famille)
+                       .arg(t.famille == 3   ? 3
+                            : t.famille == 2 ? 7
+                                             : 6)
+                       .arg(QLatin1String(t.debut), QLatin1String(t.fin))
+                       .arg(t.forfait)
+                       .arg(t.cout)
+                       .arg(t.scan));
+}
+
+void RemplirEleves(TDataModule1& base, int eleves) {
+  QSqlQuery eleve(base.UniConnection1()), inscription(base.UniConnection1());
+  Faire(eleve,
+        eleve.prepare(QStringLiteral(
+            "INSERT INTO ELEVES (ELEVE_ID, NOM, PRENOM, MATRICULE, ADRESSE, LOCALITE, NOM_RESPONSABLE, "
+            "CODE_POSTAL, FLG_2E_ENFANT) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)")));
+  Faire(inscription, inscription.prepare(QStringLiteral(
+                         "INSERT INTO ELEVES_CLASSES (ELEVE_CLASSE_ID, ELEVE_ID, ANNEE_SCOLAIRE, CLASSE, "
+                         "SOUS_CLASSE, CODE_IMPLANTATION) VALUES (?, ?, 2016, ?, ?, '')")));
+  for (int i = 1; i <= eleves; ++i) {
+    eleve.bindValue(0, i);
+    eleve.bindValue(1, QStringLiteral("Famille %1").arg(i * 7 % 911));
+    eleve.bindValue(2, QStringLiteral("Prénom %1").arg(i % 97));
+    eleve.bindValue(3, QStringLiteral("%1-%2").arg(i / 10).arg(i));
+    eleve.bindValue(4, QStringLiteral("rue des Tilleuls"));
+    eleve.bindValue(5, QStringLiteral("Ottignies"));
+    eleve.bindValue(6, QStringLiteral("Responsable %1").arg(i));
+    eleve.bindValue(7, 1340);
+    eleve.bindValue(8, i % 3 == 0 ? QVariant(1) : QVariant());
+    Faire(eleve, eleve.exec());
+    inscription.bindValue(0, i);
+    inscription.bindValue(1, i);
+    inscription.bindValue(2, QStringLiteral("%1%2").arg(i % 3 == 0 ? u'M' : u'P').arg(i % 6 + 1));
+    inscription.bindValue(3, i % 2 == 0 ? QStringLiteral("A") : QStringLiteral("B"));
+    Faire(inscription, inscription.exec());
+  }
+}
+
+void RemplirPresences(TDataModule1& base, int eleves, int presences) {
+  std::mt19937 tirage(2016);
+  QSqlQuery presence(base.UniConnection1());
+  Faire(presence,
+        presence.prepare(QStringLiteral(
+            "INSERT INTO PRESENCES (PRESENCE_ID, ELEVE_ID, TYPE_PRESENCE, DATE_RELEVE, HEURE_ENTREE, "
+            "HEURE_SORTIE, CODE_IMPLANTATION) VALUES (?, ?, ?, ?, ?, ?, 'S1')")));
+  const QDate premier(2016, 9, 1);
+  for (int i = 1; i <= presences; ++i) {
+    const int sorte = static_cast<int>(tirage() % 6);  // morning, midday, evening, evening, meal, study
+    const int minute = static_cast<int>(tirage() % 90);
+    const bool entree = sorte == 0 || sorte == 1 || sorte == 4;
+    const int debut = sorte == 0 ? 7 * 60 : sorte == 1 || sorte == 4 ? 12 * 60 : 15 * 60 + 30;
+    const QTime heure = QTime(0, 0).addSecs(60 * (debut + minute));
+    presence.bindValue(0, i);
+    presence.bindValue(1, 1 + static_cast<int>(tirage() % static_cast<unsigned>(eleves)));
+    presence.bindValue(2, sorte == 4 ? 2 : sorte == 5 ? 4 : 1);
+    presence.bindValue(3, premier.addDays(static_cast<qint64>(tirage() % 303)));
+    presence.bindValue(4, entree ? QVariant(heure) : QVariant());
+    presence.bindValue(5, entree ? QVariant() : QVariant(heure));
+    Faire(presence, presence.exec());
+  }
+}
+
+}  // namespace
+
+void RemplirEcole(TDataModule1& base, int eleves, int presences) {
+  QSqlDatabase connexion = base.UniConnection1();
+  connexion.transaction();
+  RemplirTarifs(base);
+  RemplirEleves(base, eleves);
+  RemplirPresences(base, eleves, presences);
+  if (!connexion.commit()) throw Exception(connexion.lastError().text());
+}
