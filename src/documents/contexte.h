@@ -1,0 +1,32 @@
+#pragma once
+#include <optional>
+#include <vector>
+
+#include "documents/periode.h"
+
+class TEleve;
+class TEleves;
+class TParametres;
+
+/// What the documents of a school year are made from. All must outlive it.
+struct TContexteDocument {
+  const TEleves& Eleves;  ///< of the year on display, with the collections that their accounts read
+  const TParametres& Parametres;
+  QString TitreGarderieSoir;  ///< how the evening service is called
+};
+
+/// From `Globals`: parameters and a year must have been loaded.
+TContexteDocument ContexteDesGlobals();
+
+/// The pupils of a document, in order; one who stands there twice gets two.
+using TElevesChoisis = std::vector<TEleve*>;
+
+/// Leaves out the pupils who were struck off, unless there is only the one.
+TElevesChoisis SansRadies(const TElevesChoisis& eleves);
+
+/// For whom, for when, and what the user was asked before.
+struct TDemandeDocument {
+  TElevesChoisis Eleves;
+  TPeriodeDocument Periode;               ///< any days for a document that takes no period
+  std::optional<TDateTime> DatePaiement;  ///< none when it was not asked for, or not given
+};

@@ -1,0 +1,57 @@
+#include "documents/factures.h"
+
+#include "core/parametres.h"
+#include "documents/facture.h"
+#include "documents/releve_detaille.h"
+
+namespace {
+
+struct TRegle {
+  const char16_t* Nom;  ///< to the user, who chose "Facture"
+  bool AvecDate;
+  bool AvecDetail;
+  TResultat (*Construire)(const TContexteDocument&, const TDemandeDocument&);  ///< null: not there yet
+};
+
+/// In the order of the enumeration.
+constexpr TRegle kRegles[] = {
+    {u"Facture (frais effectifs)", true, true, FactureFraisEffectifs},
+    {u"Facture (provision)", false, true, nullptr},
+    {u"Facture (activités)", false, false, nullptr},
+    {u"Facture (compte courant)", true, true, nullptr},
+};
+
+const TRegle& Regle(TGeneration generation) { return kRegles[static_cast<std::size_t>(generation)]; }
+
+}  // namespace
+
+std::vector<TGeneration> GenerationsFacture(const TParametres& parametres) {
+  if (parametres.EstVrai(107)) return {TGeneration::CompteCourant};
+  if (!parametres.EstVrai(25)) return {TGeneration::PostesOuverts};
+  if (parametres.EstVrai(108)) return {TGeneration::Provision};
+  return {TGeneration::Provision, TGeneration::Activites};
+}
+
+bool FactureDemandeDate(const TParametres& parametres) {
+  return parametres.EstVrai(32) && Regle(GenerationsFacture(parametres).front()).AvecDate;
+}
+
+TResultat Factures(const TContexteDocument& contexte, const TDemandeDocument& demande) {
+  TDemandeDocument retenue = demande;
+  if (!FactureDemandeDate(contexte.Parametres))
+    retenue.DatePaiement.reset();
+  else if (!retenue.DatePaiement)
+    return {};
+
+  TResultat resultat;
+  for (const TGeneration generation : GenerationsFacture(contexte.Parametres)) {
+    const TRegle& regle = Regle(generation);
+    if (!regle.Construire) {
+      resultat.Ajouter(PasEncore(QString::fromUtf16(regle.Nom)));
+      continue;
+    }
+    resultat.Ajouter(regle.Construire(contexte, retenue));
+    if (regle.AvecDetail) resultat.Ajouter(DetailApresFacture(contexte, retenue));
+  }
+  return resultat;
+}

@@ -1,0 +1,30 @@
+#pragma once
+#include <QString>
+#include <array>
+
+#include "core/calendrier_scolaire.h"
+
+/// The ten months that are billed, in order.
+inline constexpr std::array kMoisFacturation{9, 10, 11, 12, 1, 2, 3, 4, 5, 6};
+
+/// "Septembre"; `mois` is 1 to 12.
+QString NomMois(int mois);
+/// "du mois de septembre", "du mois d'octobre"; `mois` is 1 to 12.
+QString TexteDuMois(int mois);
+
+/// The days that a document is about, both included, and the school year they are taken in.
+struct TPeriodeDocument {
+  int Annee = 0;
+  TDateTime DateDebut = 0.0;
+  TDateTime DateFin = 0.0;
+
+  /// The first day of the month lies in the period; false for what is no month.
+  bool Commence(int mois) const;
+  /// The whole month lies in the period; false for what is no month.
+  bool Contient(int mois) const;
+  /// The month that the period is, 1 to 12; 0 when it is not exactly one.
+  int MoisFacture() const { return MoisExact(Annee, DateDebut, DateFin); }
+  /// As shown to the reader: "du mois d'octobre 2016", "de l'année scolaire 2016 - 2017" or
+  /// "du 3 octobre 2016 au 2 novembre 2016".
+  QString PeriodeTexte() const;
+};

@@ -1,0 +1,48 @@
+#include "documents/postes_ouverts.h"
+
+#include "pupils/eleve.h"
+#include "services/frais_eleve.h"
+
+namespace {
+
+bool SeCoupeAuCent(TService service) {
+  return service == TService::Matin || service == TService::Soir || service == TService::Mercredi;
+}
+
+/// These services lose their own cost of a settled month, the others all that was paid for it.
+bool PerdSonCout(TService service) {
+  return service == TService::Matin || service == TService::Midi || service == TService::Soir;
+}
+
+}  // namespace
+
+std::vector<const TFraisEleve*> FraisOuverts(const TEleve& eleve, const TPeriodeDocument& periode) {
+  std::vector<const TFraisEleve*> ouverts;
+  const TAllFraisEleve* lignes = eleve.GetAllFrais();
+  if (!lignes) return ouverts;
+  for (const TFraisEleve& ligne : *lignes)
+    if (ligne.Frais() && !ligne.Previsionnel() && ligne.MontantVerse != ligne.MontantFrais() &&
+        periode.Contient(ligne.MoisFrais()))
+      ouverts.push_back(&ligne);
+  return ouverts;
+}
+
+TServicesOuverts::TServicesOuverts(const TEleve& eleve, const TPeriodeDocument& periode)
+    : eleve_(eleve), periode_{periode.DateDebut, periode.DateFin} {
+  for (const int mois : kMoisFacturation)
+    if (periode.Commence(mois) && eleve.SoldeMois(mois, periode.Annee) == Currency())
+      moisRegles_.push_back({BornesMois(mois, periode.Annee), eleve.PaiementsMois(mois)});
+}
+
+std::optional<Currency> TServicesOuverts::Montant(TService service, bool auCent) const {
+  if (EstAccueil(service) && eleve_.Flg3eEnfant) return std::nullopt;
+  TLignesService lignes;
+  Currency montant = eleve_.CoutService(service, periode_, lignes);
+  if (auCent && SeCoupeAuCent(service)) montant = montant.TronqueAuCent();
+  for (const auto& [bornes, paiement] : moisRegles_) {
+    const Currency cout = eleve_.CoutService(service, bornes, lignes);
+    if (cout > Currency()) montant -= PerdSonCout(service) ? cout : paiement;
+  }
+  if (montant <= Currency()) return std::nullopt;
+  return montant;
+}

@@ -1,0 +1,99 @@
+#include "documents/releve_detaille.h"
+
+#include "attendance/presences.h"
+#include "core/formats.h"
+#include "core/parametres.h"
+#include "documents/entete_ecole.h"
+#include "documents/sections.h"
+#include "pupils/eleves.h"
+
+namespace {
+
+/// A section of the statement, and how the hours of its lines are found.
+struct TRubrique {
+  TService Service;
+  const char16_t* Titre;
+  TTypeFamille Famille;
+  enum class THeures { SortieParDefaut, EntreeParDefaut, Sans } Heures;
+};
+
+using enum TRubrique::THeures;
+
+constexpr TRubrique kRubriques[] = {
+    {TService::Matin, u"Garderie du matin", TTypeFamille::Matin, SortieParDefaut},
+    {TService::Midi, u"Garderie du midi", TTypeFamille::Midi, SortieParDefaut},
+    {TService::Soir, u"Garderie du soir", TTypeFamille::Soir, EntreeParDefaut},
+    {TService::Mercredi, u"Garderie du mercredi", TTypeFamille::Mercredi, EntreeParDefaut},
+    {TService::Etude, u"Etudes", TTypeFamille::Etude, Sans},
+    {TService::Repas, u"Repas", TTypeFamille::Repas, Sans},
+    {TService::Soupe, u"Soupe", TTypeFamille::Soupe, Sans},
+};
+
+void EcrireHeures(const TPresences& presences, const TRubrique& rubrique, const TPresence& presence,
+                  TValeurs& valeurs) {
+  TDateTime entree = presence.HeureEntree;
+  TDateTime sortie = presence.HeureSortie;
+  if (rubrique.Heures == SortieParDefaut && sortie == 0)
+    sortie = presences.FinServiceMatinMidi(rubrique.Famille);
+  if (rubrique.Heures == EntreeParDefaut && entree == 0)
+    entree = presences.DebutServiceSoirEtude(rubrique.Famille);
+  valeurs.Ecrire(u"HeureDebut", FormatHeureCourte(entree));
+  valeurs.Ecrire(u"HeureFin", FormatHeureCourte(sortie));
+}
+
+TNoeudRapport NoeudRubrique(const TEleve& eleve, const TRubrique& rubrique, const TPeriode& periode) {
+  const QString titre = QString::fromUtf16(rubrique.Titre);
+  TNoeudRapport section(titre);
+  section.Valeurs.Ecrire(u"TypeFrais", titre);
+  if (rubrique.Heures == Sans) section.Valeurs.Ecrire(u"HideHeure", QStringLiteral("1"));
+  TLignesService lignes;
+  eleve.CoutService(rubrique.Service, periode, lignes);
+  for (const TLigneService& ligne : lignes) {
+    const QString jour = FormatJour(ligne.Presence->DateReleve);
+    TValeurs& valeurs = section.Ajouter(jour).Valeurs;
+    valeurs.Ecrire(u"JourService", jour);
+    if (rubrique.Heures != Sans) EcrireHeures(*eleve.Eleves->Presences, rubrique, *ligne.Presence, valeurs);
+    valeurs.Ecrire(u"Montant", FormatDeuxDecimales(ligne.Montant));
+  }
+  return section;
+}
+
+/// An empty tree leaves the message instead of the report, if any.
+TResultat Relever(const TContexteDocument& contexte, const TElevesChoisis& eleves,
+                  const TPeriodeDocument& periode, const QString& siVide) {
+  const bool compact = contexte.Parametres.EstVrai(107) && !contexte.Parametres.EstVrai(110);
+  TRapport rapport(QStringLiteral("Relevé détaillé des services"),
+                   compact ? QStringLiteral("DetailServiceVesper") : QStringLiteral("DetailService"));
+  rapport.EffacerVariables();
+  TArbreRapport arbre;
+  for (const TEleve* eleve : eleves) {
+    TNoeudRapport& noeud = arbre.emplace_back(NoeudEleve(*eleve));
+    for (const TRubrique& rubrique : kRubriques)
+      if (!EstAccueil(rubrique.Service) || !eleve->Flg3eEnfant)
+        noeud.Enfants.push_back(NoeudRubrique(*eleve, rubrique, {periode.DateDebut, periode.DateFin}));
+  }
+  rapport.AjouterVariable(u"MoisReleve", u"Détails des services du " % FormatDateLongue(periode.DateDebut) %
+                                             u" au " % FormatDateLongue(periode.DateFin));
+  AjouterEnteteEcole(rapport, contexte.Parametres);
+  SupprimerNoeudsVides(arbre);
+  return Presenter(std::move(rapport), std::move(arbre), siVide);
+}
+
+}  // namespace
+
+TResultat ReleveDetaille(const TContexteDocument& contexte, const TDemandeDocument& demande) {
+  if (demande.Eleves.empty()) {
+    TResultat resultat;
+    resultat.Messages += QStringLiteral("Veuillez sélectionner des élèves dans la liste.");
+    return resultat;
+  }
+  return Relever(contexte, SansRadies(demande.Eleves), demande.Periode,
+                 QStringLiteral("Aucun relevé à imprimer."));
+}
+
+TResultat DetailApresFacture(const TContexteDocument& contexte, const TDemandeDocument& demande) {
+  TElevesChoisis detailles;
+  for (TEleve* eleve : demande.Eleves)
+    if (eleve->FlgRadie ? demande.Eleves.size() > 1 : eleve->FlgFactureDetail) detailles.push_back(eleve);
+  return Relever(contexte, detailles, demande.Periode, {});
+}

@@ -1,0 +1,35 @@
+#include "documents/resultat.h"
+
+#include "report/json.h"
+
+void TResultat::Ajouter(TResultat suite) {
+  Messages += suite.Messages;
+  std::ranges::move(suite.Rapports, std::back_inserter(Rapports));
+  Echec = Echec || suite.Echec;
+}
+
+QByteArray TResultat::EnJson(const QString& titre) const {
+  QByteArrayList messages, rapports;
+  for (const QString& message : Messages) messages += TexteJson(message);
+  for (const TRapport& rapport : Rapports) rapports += rapport.EnJson();
+  return "{\"titre\":" + TexteJson(titre) + ",\"messages\":[" + messages.join(',') + "],\"rapports\":[" +
+         rapports.join(',') + "]}";
+}
+
+TResultat Presenter(TRapport rapport, TArbreRapport arbre, const QString& siVide) {
+  TResultat resultat;
+  if (!arbre.empty()) {
+    rapport.CopierArbre(std::move(arbre));
+    resultat.Rapports.push_back(std::move(rapport));
+  } else if (!siVide.isEmpty()) {
+    resultat.Messages += siVide;
+  }
+  return resultat;
+}
+
+TResultat PasEncore(const QString& document) {
+  TResultat resultat;
+  resultat.Messages += QStringLiteral("Le document « %1 » n'est pas encore disponible.").arg(document);
+  resultat.Echec = true;
+  return resultat;
+}

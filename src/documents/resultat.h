@@ -1,0 +1,23 @@
+#pragma once
+#include <QStringList>
+
+#include "report/rapport.h"
+
+/// What a document gives: what the user is told, and the previews in the order in which they open. A
+/// document that the user gave up gives neither.
+struct TResultat {
+  QStringList Messages;
+  std::vector<TRapport> Rapports;
+  bool Echec = false;  ///< the document could not be made; a message says why
+
+  /// Adds what the next document gave.
+  void Ajouter(TResultat suite);
+  /// {"titre", "messages": [...], "rapports": [...]}, UTF-8.
+  QByteArray EnJson(const QString& titre) const;
+};
+
+/// The tree goes into the report, which opens; an empty one leaves the message instead, if any.
+TResultat Presenter(TRapport rapport, TArbreRapport arbre, const QString& siVide = {});
+
+/// The answer for a document that the program does not make yet.
+TResultat PasEncore(const QString& document);
