@@ -32,18 +32,19 @@ QString TEleve::LibelleImplantation() const {
 }
 
 TDataModule1& TEleve::Base() const {
-  if (Eleves == nullptr) throw Exception(QStringLiteral("Cet élève n'est pas encore enregistré."));
+  if (Eleves == nullptr || Id == -1)
+    throw Exception(QStringLiteral("Cet élève n'est pas encore enregistré."));
   return Eleves->BaseDeDonnees();
 }
 
 TAllFraisEleve* TEleve::GetAllFrais() const {
-  if (!allFrais_ && Eleves != nullptr && !Eleves->HorsLigne)
+  if (!allFrais_ && Eleves != nullptr && Id != -1 && !Eleves->HorsLigne)
     allFrais_ = std::make_unique<TAllFraisEleve>(Base(), Id, Eleves->AnneeScolaire, Eleves->ListeFrais);
   return allFrais_.get();
 }
 
 std::optional<QByteArray> TEleve::OctetsPhoto() const {
-  if (Eleves == nullptr) return std::nullopt;
+  if (Eleves == nullptr || Id == -1) return std::nullopt;
   if (Eleves->HorsLigne) {
     TDataSet* photos = Eleves->SourcePhotos;
     if (photos == nullptr || !photos->Localiser(QStringLiteral("ELEVE_ID"), Id)) return std::nullopt;

@@ -32,7 +32,7 @@ class TEleve : public TBaseObject {
   /// Short name of the site, or its code when it has none.
   QString LibelleImplantation() const;
 
-  /// The fee lines of the year, read on first use; null when there is no database to read from.
+  /// The fee lines of the year, read on first use; null off-line and for a pupil not yet saved.
   TAllFraisEleve* GetAllFrais() const;
 
   /// Thumbnail of 95 x 110 pixels, kept; a null picture without a photo. A damaged photo raises

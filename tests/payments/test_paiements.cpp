@@ -1,13 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "payments/paiements.h"
+#include "support/affichage.h"
 #include "support/ecole_essai.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 struct TPaiementsEssai : testing::Test {
   TBaseEssai base;
-  TEcoleEssai ecole{base};
 
   static std::unique_ptr<TPaiement> Paiement(int type, int mois, int euros, int eleve = 1) {
     auto paiement = std::make_unique<TPaiement>();
@@ -18,50 +20,39 @@ struct TPaiementsEssai : testing::Test {
     paiement->Montant = Currency::Euros(euros);
     return paiement;
   }
-  QStringList Rangees() {
-    return base.Rangees(
-        QStringLiteral("SELECT ELEVE_ID, TYPE_PAIEMENT, MOIS, MONTANT FROM PAIEMENTS ORDER BY PAIEMENT_ID"));
+  QString Rangees() {
+    return base.Rangees(u"SELECT TYPE_PAIEMENT, MOIS, MONTANT, ANNEE, ANNEE_SCOLAIRE FROM PAIEMENTS"_s)
+        .join(u'|');
   }
 };
 
 }  // namespace
 
 TEST_F(TPaiementsEssai, ReglesParType) {
-  // A first row of 10 euro for September; then 20 for September, and 30 for October.
-  const struct {
-    int type;
-    QStringList rangees;
-  } cas[] = {
-      {0, {}},
-      {1, {QStringLiteral("1;1;9;10.0000"), QStringLiteral("1;1;10;30.0000")}},
-      {2, {QStringLiteral("1;2;9;10.0000")}},
-      {3, {QStringLiteral("1;3;9;30.0000")}},
-      {4, {}},
-      {5, {QStringLiteral("1;5;9;20.0000"), QStringLiteral("1;5;10;30.0000")}},
-      {6, {QStringLiteral("1;6;9;10.0000"), QStringLiteral("1;6;10;30.0000")}},
-      {7, {QStringLiteral("1;7;9;10.0000"), QStringLiteral("1;7;10;30.0000")}},
-      {8, {}},
-  };
-  for (const auto& [type, rangees] : cas) {
-    base.Sql(QStringLiteral("DELETE FROM PAIEMENTS"));
+  // A first row of 10 euro for September; then 20 for September and 30 for October, and 40 for another pupil.
+  const std::pair<int, const char*> cas[] = {
+      {0, ""}, {1, "9:10 10:30 9:40"}, {2, "9:10 9:40"},       {3, "9:30 9:40"},
+      {4, ""}, {5, "9:20 10:30 9:40"}, {6, "9:10 10:30 9:40"}, {7, "9:10 10:30 9:40"},
+      {8, ""}};
+  for (const auto& [type, attendu] : cas) {
+    base.Sql(u"DELETE FROM PAIEMENTS"_s);
     TPaiements paiements(*base, 2016);
-    const TPaiement* premier = paiements.AjoutePaiement(Paiement(type, 9, 10));
-    EXPECT_EQ(premier == nullptr, rangees.isEmpty()) << type;
+    EXPECT_EQ(paiements.AjoutePaiement(Paiement(type, 9, 10)) == nullptr, *attendu == '\0') << type;
     paiements.Save();
     TPaiements relus(*base, 2016);
+    relus.AjoutePaiement(Paiement(type == 7 ? 1 : 7, 9, 50));  // another type is no obstacle
     relus.AjoutePaiement(Paiement(type, 9, 20));
     relus.AjoutePaiement(Paiement(type, 10, 30));
+    relus.AjoutePaiement(Paiement(type, 9, 40, 2));
     relus.Save();
-    EXPECT_EQ(Rangees(), rangees) << type;
+    EXPECT_EQ(
+        base.Rangees(
+                u"SELECT MOIS || ':' || CAST(MONTANT AS INTEGER) FROM PAIEMENTS WHERE TYPE_PAIEMENT = %1 "
+                u"ORDER BY PAIEMENT_ID"_s.arg(type))
+            .join(u' '),
+        QString::fromLatin1(attendu))
+        << type;
   }
-}
-
-TEST_F(TPaiementsEssai, LesReglesNeRegardentQueLEleveEtLeType) {
-  TPaiements paiements(*base, 2016);
-  paiements.AjoutePaiement(Paiement(2, 9, 10, 1));
-  paiements.AjoutePaiement(Paiement(2, 9, 20, 2));
-  paiements.AjoutePaiement(Paiement(6, 9, 30, 1));
-  EXPECT_EQ(paiements.Count(), 3);
 }
 
 TEST_F(TPaiementsEssai, MarquerPuisDemarquerUnMois) {
@@ -70,9 +61,7 @@ TEST_F(TPaiementsEssai, MarquerPuisDemarquerUnMois) {
   ASSERT_NE(paye, nullptr);
   EXPECT_EQ(paiements.MarquePaye(Paiement(0, 1, 40)), nullptr);
   paiements.Save();
-  EXPECT_EQ(Rangees(), QStringList{QStringLiteral("1;7;1;25.0000")});
-  EXPECT_EQ(base.Valeur(QStringLiteral("SELECT ANNEE || '/' || ANNEE_SCOLAIRE FROM PAIEMENTS")),
-            u"2016/2016");
+  EXPECT_EQ(Rangees(), u"7;1;25.0000;2016;2016");
   EXPECT_EQ(paiements.PaiementMois(1, 1), paye);
   EXPECT_EQ(paiements.PaiementMois(1, 2), nullptr);
 
@@ -85,18 +74,17 @@ TEST_F(TPaiementsEssai, MarquerPuisDemarquerUnMois) {
   EXPECT_EQ(impaye->Montant, Currency::Euros(25));
   EXPECT_EQ(paiements.PaiementMois(1, 1), nullptr);
   paiements.Save();
-  EXPECT_TRUE(Rangees().isEmpty());
+  EXPECT_EQ(Rangees(), u"");
 }
 
 TEST_F(TPaiementsEssai, SommesEtDerniereRangeeDuMois) {
+  TEcoleEssai ecole{base};
   TEleveEssai eleve = ecole.unEleve();
-  eleve.mois(9, QStringLiteral("12.5")).mois(9, QStringLiteral("30")).mois(10, QStringLiteral("7"));
-  eleve.mois(9, QStringLiteral("99"), 1);
-  ecole.unEleve().mois(9, QStringLiteral("500"));
-  base.Sql(
-      QStringLiteral("INSERT INTO PAIEMENTS (PAIEMENT_ID, ELEVE_ID, TYPE_PAIEMENT, MOIS, MONTANT, "
-                     "ANNEE_SCOLAIRE) VALUES (900, 1, 7, 9, 1000, 2015)"));
+  eleve.mois(9, u"12.5"_s).mois(9, u"30"_s).mois(10, u"7"_s).mois(9, u"99"_s, 1);
+  ecole.unEleve().mois(9, u"500"_s);
+  TEcoleEssai(base, 2015).unEleve().mois(9, u"1000"_s);
   TPaiements paiements(*base, 2016);
+  EXPECT_EQ(paiements.Count(), 5);
   EXPECT_EQ(paiements.MontantMois(eleve.Id, 9), Currency::Euros(30));
   EXPECT_EQ(paiements.MontantMois(eleve.Id, 11), Currency());
   EXPECT_EQ(paiements.TotalPaiements(eleve.Id), Currency::Brut(495000));

@@ -6,14 +6,15 @@
 #include "services/activites.h"
 #include "services/frais_eleve.h"
 #include "services/tarifs_garderies.h"
-#include "support/affichage.h"
 #include "support/ecole_essai.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 Currency Euros(double euros) { return Currency::Arrondi(euros); }
 
-/// The pupils of 2016 with all that their accounts read, loaded when first asked for.
+/// The pupils of 2016 with all that their accounts read.
 struct TAnneeEssai {
   explicit TAnneeEssai(TDataModule1& base)
       : tarifs(base),
@@ -43,35 +44,37 @@ struct TAnneeEssai {
 struct TCompteEssai : testing::Test {
   TCompteEssai() {
     using namespace Essai;
-    const auto prix = [&](int famille, int jour, const char* debut, const char* fin, const char* cout,
-                          const char* cout2e) {
-      ecole.tarif(famille, jour, QString::fromLatin1(debut), QString::fromLatin1(fin), Forfait,
-                  QString::fromLatin1(cout), ScanPresence, QString::fromLatin1(cout2e));
-    };
-    prix(Matin, TousLesJours, "07:00", "08:30", "1.00", "0.10");
-    prix(Midi, TousLesJours, "12:00", "13:00", "0.50", "0.20");
-    prix(Soir, LundiMardiJeudiVendredi, "15:30", "18:00", "2.00", "0.30");
-    prix(Mercredi, 3, "12:30", "18:00", "3.00", "0.40");
-    prix(FamilleEtude, TousLesJours, "15:30", "16:30", "4.00", "0.60");
-    prix(FamilleSoupe, TousLesJours, "11:00", "14:00", "0.75", "0.05");
-    eleve.enClasse(QStringLiteral("P1"), QStringLiteral("A"));
-    const auto scan = [&](int type, const char* date, const char* heure) {
-      eleve.scan(type, QString::fromLatin1(date), QString::fromLatin1(heure));
-    };
-    scan(Garderie, "2016-10-03", "07:30");
-    scan(Garderie, "2016-10-03", "12:15");
-    scan(Garderie, "2016-10-03", "16:00");
-    scan(Garderie, "2016-10-05", "14:00");  // a Wednesday
-    scan(Etude, "2016-10-04", "15:45");
-    scan(Repas, "2016-10-04", "12:00");
-    scan(Soupe, "2016-10-04", "12:00");
-    scan(Garderie, "2016-11-07", "07:30");
+    ecole.tarif(Matin, TousLesJours, u"07:00"_s, u"08:30"_s, Forfait, u"1.00"_s, ScanPresence, u"0.10"_s);
+    ecole.tarif(Midi, TousLesJours, u"12:00"_s, u"13:00"_s, Forfait, u"0.50"_s, ScanPresence, u"0.20"_s);
+    ecole.tarif(Soir, LundiMardiJeudiVendredi, u"15:30"_s, u"18:00"_s, Forfait, u"2"_s, ScanPresence,
+                u"0.30"_s);
+    ecole.tarif(Mercredi, 3, u"12:30"_s, u"18:00"_s, Forfait, u"3.00"_s, ScanPresence, u"0.40"_s);
+    ecole.tarif(FamilleEtude, TousLesJours, u"15:30"_s, u"16:30"_s, Forfait, u"4.00"_s, ScanPresence,
+                u"0.60"_s);
+    ecole.tarif(FamilleSoupe, TousLesJours, u"11:00"_s, u"14:00"_s, Forfait, u"0.75"_s, ScanPresence,
+                u"0.05"_s);
+    eleve.enClasse(u"P1"_s, u"A"_s);
+    eleve.scan(Garderie, u"2016-10-03"_s, u"07:30"_s).scan(Garderie, u"2016-10-03"_s, u"12:15"_s);
+    eleve.scan(Garderie, u"2016-10-03"_s, u"16:00"_s)
+        .scan(Garderie, u"2016-10-05"_s, u"14:00"_s);  // a Wednesday
+    eleve.scan(Etude, u"2016-10-04"_s, u"15:45"_s).scan(Repas, u"2016-10-04"_s, u"12:00"_s);
+    eleve.scan(Soupe, u"2016-10-04"_s, u"12:00"_s).scan(Garderie, u"2016-11-07"_s, u"07:30"_s);
   }
-
   TBaseEssai base;
   TEcoleEssai ecole{base};
   TEleveEssai eleve = ecole.unEleve();
   const TPeriode octobre = BornesMois(10, 2016);
+};
+
+struct TSoldesEssai : TCompteEssai {
+  TSoldesEssai() {
+    eleve.doit(ecole.frais(u"Piscine"_s, u"20"_s, 10), u"5"_s);
+    eleve.doit(ecole.frais(u"Stage"_s, u"3"_s, 3, u"service"_s), u"3"_s);
+    eleve.doit(ecole.frais(u"Prévu"_s, u"100"_s, 10, u"previsionnel"_s), u"100"_s);
+    eleve.doit(ecole.frais(u"Voyage"_s, u"30"_s, 4, u"non_obligatoire"_s));
+    eleve.paie(u"7"_s, 10, 2, u"Services"_s).paie(u"2"_s, 10, 1, u"Frais"_s).paie(u"1"_s, 0, 0, u"Divers"_s);
+    eleve.mois(10, u"16.25"_s).mois(11, u"0.40"_s).mois(11, u"0.60"_s);
+  }
 };
 
 }  // namespace
@@ -82,30 +85,20 @@ TEST_F(TCompteEssai, ServicesSelonLeRangDansLaFamille) {
     double services, garderies;
   } cas[] = {
       // 1.00 + 0.50 + 2.00 + 3.00 + 4.00, and 5.00 + 0.75 for meal and soup; no midday in the second.
-      {nullptr, 16.25, 10.00},
+      {"FLG_FACTURE_DETAIL", 16.25, 10.00},
       {"FLG_2E_ENFANT", 7.35, 1.40},  // the soup keeps its price
       {"FLG_3E_ENFANT", 5.75, 0.00},
   };
   for (const auto& [drapeau, services, garderies] : cas) {
-    if (drapeau != nullptr) eleve.avec(QString::fromLatin1(drapeau));
+    eleve.avec(QString::fromLatin1(drapeau));
     TAnneeEssai annee(*base);
-    EXPECT_EQ(annee.eleves[0].TotalServices(octobre), Euros(services)) << services;
-    EXPECT_EQ(annee.eleves[0].TotalGarderies(octobre), Euros(garderies)) << garderies;
-  }
-}
-
-TEST_F(TCompteEssai, ChaqueServiceASesRecords) {
-  TAnneeEssai annee(*base);
-  const double prix[] = {1.00, 0.50, 2.00, 3.00, 4.00, 5.00, 0.75};
-  TLignesService lignes;
-  for (std::size_t i = 0; i < kServices.size(); ++i) {
-    EXPECT_EQ(annee.eleves[0].CoutService(kServices[i], octobre, lignes), Euros(prix[i])) << i;
-    EXPECT_EQ(lignes.size(), 1U) << i;
+    EXPECT_EQ(annee.eleves[0].TotalServices(octobre), Euros(services)) << drapeau;
+    EXPECT_EQ(annee.eleves[0].TotalGarderies(octobre), Euros(garderies)) << drapeau;
   }
 }
 
 TEST_F(TCompteEssai, LesActivitesPassentParLEleve) {
-  eleve.suit(ecole.activite(QStringLiteral("16:00"), QStringLiteral("17:00")), QStringLiteral("13"));
+  eleve.suit(ecole.activite(u"16:00"_s, u"17:00"_s), u"13"_s);
   TAnneeEssai annee(*base);
   annee.presences.ModeDeduction = TModeDeduction::UnEuro;
   EXPECT_EQ(annee.eleves[0].TotalServices(octobre),
@@ -114,72 +107,43 @@ TEST_F(TCompteEssai, LesActivitesPassentParLEleve) {
   EXPECT_EQ(annee.eleves[0].TotalServices(octobre), Euros(16.25));
 }
 
-namespace {
-
-struct TSoldesEssai : TCompteEssai {
-  TSoldesEssai() {
-    const auto frais = [&](const char* cout, int mois, const char* drapeaux, const char* verse) {
-      eleve.doit(ecole.frais(QStringLiteral("Frais"), QString::fromLatin1(cout), mois,
-                             QString::fromLatin1(drapeaux)),
-                 QString::fromLatin1(verse));
-    };
-    frais("20", 10, "", "5");
-    frais("3", 3, "service", "3");
-    frais("100", 10, "previsionnel", "100");
-    frais("30", 4, "non_obligatoire", "0");
-    eleve.paie(QStringLiteral("7"), 10, 2, QStringLiteral("Services"));
-    eleve.paie(QStringLiteral("2"), 10, 1, QStringLiteral("Frais"));
-    eleve.paie(QStringLiteral("1"), 0, 0, QStringLiteral("Divers"));
-    eleve.mois(10, QStringLiteral("16.25")).mois(11, QStringLiteral("0.40")).mois(11, QStringLiteral("0.60"));
-  }
-};
-
-}  // namespace
-
-TEST_F(TSoldesEssai, MoisEtPeriodes) {
+TEST_F(TSoldesEssai, MoisPeriodesEtAnnee) {
   TAnneeEssai annee(*base);
   const TEleve& e = annee.eleves[0];
-  EXPECT_EQ(e.CoutMois(10, 2016), Euros(16.25));
-  EXPECT_EQ(e.SoldeMois(10, 2016), Currency());  // settled
-  EXPECT_EQ(e.PaiementsMois(11), Euros(0.60));   // the second row takes the place of the first
-  EXPECT_EQ(e.SoldeMois(11, 2016), Euros(0.40));
-  EXPECT_EQ(e.CoutMois(3, 2016), Euros(3));
-  EXPECT_EQ(e.FraisMois(3, 2016), Euros(3));
-  EXPECT_EQ(e.FraisMois(10, 2016), Currency());
   const TPeriode tout = BornesAnnee(2016);
-  EXPECT_EQ(e.FraisServicesPeriode(tout), Euros(3));
-  EXPECT_EQ(e.FraisPeriode({octobre.Premier, BornesMois(3, 2016).Dernier}), Euros(23));
-  EXPECT_EQ(e.FraisHorsServicesPeriode(octobre), Euros(20));
-  EXPECT_EQ(e.FraisHorsServicesPeriode(tout), Currency());  // no month contains a year
-  EXPECT_EQ(e.VersementsPeriode(octobre), Euros(14));
-}
-
-TEST_F(TSoldesEssai, Annee) {
-  TAnneeEssai annee(*base);
-  const TEleve& e = annee.eleves[0];
-  EXPECT_EQ(e.CoutAnnee(), Euros(20.25));       // 16.25 + 1.00 + 3.00
-  EXPECT_EQ(e.FraisAnnee(), Euros(50));         // 20 + 30
-  EXPECT_EQ(e.FraisPayes(), Euros(18));         // 5 + 3 + 7 + 2 + 1
-  EXPECT_EQ(e.PaiementsAnnee(), Euros(17.25));  // both rows of November
-  EXPECT_EQ(e.VersementsServices(), Euros(7));
-  EXPECT_EQ(e.VersementsFrais(), Euros(2));
-  const auto services = e.VersementsLibres(TTypeFamilleFrais::Services);
-  ASSERT_EQ(services.size(), 1U);
-  EXPECT_EQ(services[0]->Remarque, u"Services");
+  const struct {
+    const char* nom;
+    Currency vu;
+    double attendu;
+  } cas[] = {
+      {"CoutMois 10", e.CoutMois(10, 2016), 16.25},
+      {"SoldeMois 10, settled", e.SoldeMois(10, 2016), 0},
+      {"PaiementsMois 11, the second row", e.PaiementsMois(11), 0.60},
+      {"SoldeMois 11", e.SoldeMois(11, 2016), 0.40},
+      {"CoutMois 3", e.CoutMois(3, 2016), 3},
+      {"FraisMois 3", e.FraisMois(3, 2016), 3},
+      {"FraisServicesPeriode", e.FraisServicesPeriode(tout), 3},
+      {"FraisPeriode, October to March", e.FraisPeriode({octobre.Premier, BornesMois(3, 2016).Dernier}), 23},
+      {"FraisHorsServicesPeriode", e.FraisHorsServicesPeriode(octobre), 20},
+      {"FraisHorsServicesPeriode, which no month contains", e.FraisHorsServicesPeriode(tout), 0},
+      {"VersementsPeriode", e.VersementsPeriode(octobre), 5 + 7 + 2},
+      {"CoutAnnee", e.CoutAnnee(), 16.25 + 1 + 3},
+      {"FraisAnnee", e.FraisAnnee(), 20 + 30},
+      {"FraisPayes", e.FraisPayes(), 5 + 3 + 7 + 2 + 1},
+      {"PaiementsAnnee, both rows", e.PaiementsAnnee(), 16.25 + 0.40 + 0.60},
+      {"VersementsServices", e.VersementsServices(), 7},
+      {"VersementsFrais", e.VersementsFrais(), 2},
+  };
+  for (const auto& [nom, vu, attendu] : cas) EXPECT_EQ(vu, Euros(attendu)) << nom;
 }
 
 TEST_F(TSoldesEssai, SoldesDansLesDeuxModes) {
   TAnneeEssai annee(*base);
   const TEleve& e = annee.eleves[0];
-  const struct {
-    bool provision;
-    double frais, services;
-  } cas[] = {
-      {false, 18 - 50, 17.25 - 20.25},
-      {true, 2 - 50, 7 - 20.25},
-  };
-  for (const auto& [provision, frais, services] : cas) {
+  for (const bool provision : {false, true}) {
     annee.eleves.ModeProvision = provision;
+    const double frais = (provision ? 2 : 18) - 50;
+    const double services = (provision ? 7 : 17.25) - 20.25;
     EXPECT_EQ(e.Solde(true, false), Euros(frais)) << provision;
     EXPECT_EQ(e.Solde(false, true), Euros(services)) << provision;
     EXPECT_EQ(e.Solde(true, true), Euros(frais + services)) << provision;
@@ -189,13 +153,6 @@ TEST_F(TSoldesEssai, SoldesDansLesDeuxModes) {
     EXPECT_EQ(e.SoldeCourant(11, 2016, true, false), Euros(-0.40)) << provision;
     EXPECT_EQ(e.SoldeCourant(10, 2016, true, true), Euros(-6)) << provision;
   }
-}
-
-TEST_F(TSoldesEssai, SansRienADevoirLeSoldeEstNul) {
-  ecole.unEleve().enClasse(QStringLiteral("P1"), QStringLiteral("A"));
-  TAnneeEssai annee(*base);
-  EXPECT_EQ(annee.eleves.TrouverParId(2)->Solde(true, true), Currency());
   // Nothing but the pupils: only what was paid on the lines is known.
-  TEleves nus(*base, 2016);
-  EXPECT_EQ(nus[0].Solde(true, true), Euros(118));
+  EXPECT_EQ(TEleves(*base, 2016)[0].Solde(true, true), Euros(118));
 }

@@ -5,32 +5,33 @@
 #include "core/data_set.h"
 #include "pupils/eleves.h"
 #include "pupils/photo.h"
-#include "support/affichage.h"
 #include "support/ecole_essai.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-/// Left half of one colour, right half of another.
-QImage Image(QRgb gauche, QRgb droite, QSize taille = {190, 220}) {
-  QImage image(taille, QImage::Format_RGB32);
-  image.fill(gauche);
-  for (int y = 0; y < taille.height(); ++y)
-    for (int x = taille.width() / 2; x < taille.width(); ++x) image.setPixel(x, y, droite);
-  return image;
-}
-
-bool Proches(QRgb a, QRgb b) {
-  return std::abs(qRed(a) - qRed(b)) < 8 && std::abs(qGreen(a) - qGreen(b)) < 8 &&
-         std::abs(qBlue(a) - qBlue(b)) < 8;
-}
 
 constexpr QRgb kRouge = qRgb(200, 30, 20);
 constexpr QRgb kBleu = qRgb(20, 40, 180);
 
-struct TPhotoEssai : testing::Test {
-  TPhotoEssai() { ecole.unEleve().enClasse(QStringLiteral("P1"), {}); }
-  QString NombrePhotos() { return base.Valeur(QStringLiteral("SELECT COUNT(*) FROM ELEVE_PHOTO")); }
+/// Left half of one colour, right half of another.
+QImage Image(QRgb gauche, QRgb droite, QSize taille = {190, 220}) {
+  QImage image(taille, QImage::Format_RGB32);
+  for (int y = 0; y < taille.height(); ++y)
+    for (int x = 0; x < taille.width(); ++x) image.setPixel(x, y, x < taille.width() / 2 ? gauche : droite);
+  return image;
+}
 
+bool Montre(const QImage& vignette, QRgb gauche, QRgb droite) {
+  const auto proche = [&](int x, QRgb couleur) {
+    const QRgb vu = vignette.pixel(x, 55);
+    return std::abs(qRed(vu) - qRed(couleur)) < 8 && std::abs(qBlue(vu) - qBlue(couleur)) < 8;
+  };
+  return vignette.size() == QSize(95, 110) && proche(20, gauche) && proche(75, droite);
+}
+
+struct TPhotoEssai : testing::Test {
+  TPhotoEssai() { ecole.unEleve().enClasse(u"P1"_s, {}); }
   TBaseEssai base;
   TEcoleEssai ecole{base};
 };
@@ -42,31 +43,25 @@ TEST_F(TPhotoEssai, EnregistrerRelireEffacer) {
   TEleve& eleve = eleves[0];
   EXPECT_TRUE(eleve.GetPhoto().isNull());
   eleve.SetPhoto(Image(kRouge, kBleu));
-  const QImage& vignette = eleve.GetPhoto();
-  EXPECT_EQ(vignette.size(), QSize(95, 110));
-  EXPECT_TRUE(Proches(vignette.pixel(20, 55), kRouge));
-  EXPECT_TRUE(Proches(vignette.pixel(75, 55), kBleu));
-
+  EXPECT_TRUE(Montre(eleve.GetPhoto(), kRouge, kBleu));
   // Another picture takes the place of the first, in the row and in the thumbnail.
   eleve.SetPhoto(Image(kBleu, kBleu, {31, 17}));
-  EXPECT_TRUE(Proches(eleve.GetPhoto().pixel(20, 55), kBleu));
-  EXPECT_EQ(NombrePhotos(), u"1");
-  TEleves relus(*base, 2016);
-  EXPECT_TRUE(Proches(relus[0].GetPhoto().pixel(0, 0), kBleu));
-
+  EXPECT_TRUE(Montre(eleve.GetPhoto(), kBleu, kBleu));
+  EXPECT_TRUE(Montre(TEleves(*base, 2016)[0].GetPhoto(), kBleu, kBleu));
+  const QString nombre = u"SELECT COUNT(*) FROM ELEVE_PHOTO"_s;
+  EXPECT_EQ(base.Valeur(nombre), u"1");
+  EXPECT_THROW(eleve.SetPhoto(QImage()), Exception);
   eleve.DeletePhoto();
   EXPECT_TRUE(eleve.GetPhoto().isNull());
-  EXPECT_EQ(NombrePhotos(), u"0");
-  EXPECT_THROW(eleve.SetPhoto(QImage()), Exception);
-  EXPECT_EQ(NombrePhotos(), u"0");
+  EXPECT_EQ(base.Valeur(nombre), u"0");
 }
 
 TEST_F(TPhotoEssai, UnePhotoAbimeeEchoueUneFoisPuisManque) {
   const QByteArray bonne = EncoderJpeg(Image(kRouge, kBleu));
   for (const QByteArray& octets : {bonne.first(bonne.size() / 2), bonne.first(20), bonne.sliced(2),
                                    QByteArray(500, 'x'), QByteArray("")}) {
-    base.Sql(QStringLiteral("DELETE FROM ELEVE_PHOTO"));
-    base.Sql(u"INSERT INTO ELEVE_PHOTO VALUES (1, 1, x'" % QString::fromLatin1(octets.toHex()) % u"')");
+    base.Sql(
+        u"UPDATE OR INSERT INTO ELEVE_PHOTO VALUES (1, 1, x'%1')"_s.arg(QString::fromLatin1(octets.toHex())));
     TEleves eleves(*base, 2016);
     EXPECT_THROW(eleves[0].GetPhoto(), Exception) << octets.size();
     EXPECT_TRUE(eleves[0].GetPhoto().isNull());
@@ -78,14 +73,14 @@ TEST_F(TPhotoEssai, UnePhotoAbimeeEchoueUneFoisPuisManque) {
 TEST(Photo, AucunOctetNeFaitTomberLeLecteur) {
   const QByteArray bonne = EncoderJpeg(Image(kRouge, kBleu, {64, 48}));
   std::mt19937 hasard(2016);
+  const auto moinsDe = [&](qsizetype n) {
+    return static_cast<qsizetype>(hasard() % static_cast<unsigned>(n));
+  };
   int lues = 0;
   for (int i = 0; i < 3000; ++i) {
     QByteArray octets = bonne;
-    for (int n = static_cast<int>(hasard() % 6); n >= 0; --n)
-      octets[static_cast<qsizetype>(hasard() % static_cast<unsigned>(octets.size()))] =
-          static_cast<char>(hasard());
-    if (hasard() % 3 == 0)
-      octets.truncate(static_cast<qsizetype>(hasard() % static_cast<unsigned>(octets.size())));
+    for (qsizetype n = moinsDe(6); n >= 0; --n) octets[moinsDe(octets.size())] = static_cast<char>(hasard());
+    if (moinsDe(3) == 0) octets.truncate(moinsDe(octets.size()));
     try {
       if (!DecoderJpeg(octets).isNull()) ++lues;
     } catch (const Exception& e) {
@@ -97,17 +92,14 @@ TEST(Photo, AucunOctetNeFaitTomberLeLecteur) {
 }
 
 TEST(Photo, HorsLigne) {
-  TDataSet inscriptions(
-      {QStringLiteral("ELEVE_ID"), QStringLiteral("CLASSE"), QStringLiteral("SOUS_CLASSE")});
-  TDataSet copie({QStringLiteral("ELEVE_ID"), QStringLiteral("NOM")});
-  for (const int id : {1, 2, 3}) copie.Ajouter({id, QStringLiteral("Eleve")});
-  TDataSet photos({QStringLiteral("ELEVE_ID"), QStringLiteral("PHOTO")});
+  TDataSet inscriptions({u"ELEVE_ID"_s}), copie({u"ELEVE_ID"_s}), photos({u"ELEVE_ID"_s, u"PHOTO"_s});
+  for (const int id : {1, 2, 3}) copie.Ajouter({id});
   photos.Ajouter({3, QByteArray("rien")});
   photos.Ajouter({2, EncoderJpeg(Image(kRouge, kBleu))});
   TEleves eleves(2016, inscriptions, copie);
   eleves.SourcePhotos = &photos;
   EXPECT_TRUE(eleves[0].GetPhoto().isNull());
-  EXPECT_TRUE(Proches(eleves[1].GetPhoto().pixel(20, 55), kRouge));
+  EXPECT_TRUE(Montre(eleves[1].GetPhoto(), kRouge, kBleu));
   EXPECT_THROW(eleves[2].GetPhoto(), Exception);
   EXPECT_THROW(eleves[0].SetPhoto(Image(kRouge, kBleu)), Exception);
 }
