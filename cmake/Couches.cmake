@@ -11,10 +11,14 @@ endif()
 add_library(calpenne_options INTERFACE)
 target_compile_options(calpenne_options INTERFACE
   -Wall -Wextra -Wconversion -fno-omit-frame-pointer
-  -Wno-maybe-uninitialized  # g++ 12 sees it in every optional of a Qt value
+  # g++ 12 sees it in every optional of a Qt value
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
   $<$<BOOL:${CCACHE}>:$<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>>
   $<$<BOOL:${CALPENNE_WERROR}>:-Werror>)
 target_compile_definitions(calpenne_options INTERFACE QT_NO_CAST_TO_ASCII QT_USE_QSTRINGBUILDER)
+if(CALPENNE_FUZZ)
+  target_compile_options(calpenne_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 if(CALPENNE_ASAN)
   target_compile_options(calpenne_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all)
   target_link_options(calpenne_options INTERFACE -fsanitize=address,undefined)

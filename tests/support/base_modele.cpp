@@ -19,6 +19,8 @@ int main(int argc, char** argv) {
   base.ServerName = chemin;
   try {
     base.Connecter();
+    base.Deconnecter();
+    base.EcrituresForcees(false);  // a test's database need not outlive a power cut
   } catch (const Exception& e) {
     std::fprintf(stderr, "%s\n", e.what());
     return 1;

@@ -1,0 +1,17 @@
+#pragma once
+#include "support/controleur_essai.h"
+
+/// What reads outside files, over a small school. A target may refuse its bytes with an Exception, which
+/// it swallows; anything else is a fault.
+class TCibles {
+ public:
+  TCibles();
+  /// The bytes as a register file, through both steps.
+  void Registre(const QByteArray& octets);
+  /// The bytes as a file of scans, through analysis and storage.
+  void Presences(const QByteArray& octets);
+
+ private:
+  TBaseEssai base_;
+  TControleurEssai essai_{base_};
+};
