@@ -7,46 +7,52 @@
 #include "support/controleur_essai.h"
 #include "support/valeurs.h"
 
+using namespace Qt::StringLiterals;
+
 /// The nodes of a report as lines of text: two blanks a level, the text, the values.
-inline QStringList Dessin(const TRapport& rapport) {
+inline QString Dessin(const TRapport& rapport) {
   QStringList lignes;
   for (const TRapport::TPlace& place : rapport.Plat()) {
-    QString ligne = QString(place.Niveau * 2, u' ') + place.Noeud->Texte;
-    for (const auto& [nom, valeur] : place.Noeud->Valeurs) ligne += u" | " % nom % u'=' % valeur;
-    lignes += ligne;
+    QStringList valeurs;
+    for (const auto& [nom, valeur] : place.Noeud->Valeurs) valeurs += nom % u'=' % valeur;
+    lignes += QString(place.Niveau * 2, u' ') % place.Noeud->Texte % u": " % valeurs.join(u" | ");
   }
-  return lignes;
+  return lignes.join(u'\n');
 }
 
 /// A school whose services have prices with a tail behind the cents, and the documents it asks for.
 struct TDocumentsEssai : testing::Test {
   void SetUp() override {
     using namespace Essai;
-    Tarif(Matin, LundiMardiJeudiVendredi, "07:00", "08:00", "1.2345", ScanPresence);
-    Tarif(Midi, LundiMardiJeudiVendredi, "12:00", "13:00", "0.5050", ScanPresence);
-    Tarif(Soir, LundiMardiJeudiVendredi, "16:00", "18:00", "2.0099", ScanSortie);
-    Tarif(Mercredi, Essai::Mercredi, "12:30", "18:00", "3.0078", ScanSortie);
-    Tarif(FamilleEtude, LundiMardiJeudiVendredi, "15:30", "16:30", "1.5055", ScanPresence);
-    Tarif(FamilleSoupe, TousLesJours, "12:00", "13:00", "0.70", ScanPresence);
-    ecole.parametre(102, QStringLiteral("3,50"));
+    const int semaine = LundiMardiJeudiVendredi;
+    ecole.tarif(Matin, semaine, u"07:00"_s, u"08:00"_s, Forfait, u"1.2345"_s, ScanPresence);
+    ecole.tarif(Midi, semaine, u"12:00"_s, u"13:00"_s, Forfait, u"0.5050"_s, ScanPresence);
+    ecole.tarif(Soir, semaine, u"16:00"_s, u"18:00"_s, Forfait, u"2.0099"_s, ScanSortie);
+    ecole.tarif(Mercredi, 3, u"12:30"_s, u"18:00"_s, Forfait, u"3.0078"_s, ScanSortie);
+    ecole.tarif(FamilleEtude, semaine, u"15:30"_s, u"16:30"_s, Forfait, u"1.5055"_s, ScanPresence);
+    ecole.tarif(FamilleSoupe, TousLesJours, u"12:00"_s, u"13:00"_s, Forfait, u"0.70"_s, ScanPresence);
+    ecole.parametre(102, u"3,50"_s);
   }
-  void Tarif(int famille, int jour, const char* debut, const char* fin, const char* cout, int scan) {
-    ecole.tarif(famille, jour, QString::fromLatin1(debut), QString::fromLatin1(fin), Essai::Forfait,
-                QString::fromLatin1(cout), scan);
+  TEleveEssai UnEleve(const QString& drapeau = {}) {
+    TEleveEssai eleve = ecole.unEleve().enClasse(u"P3"_s, u"A"_s);
+    return drapeau.isEmpty() ? eleve : eleve.avec(drapeau);
   }
-  TEleveEssai UnEleve() { return ecole.unEleve().enClasse(QStringLiteral("P3"), QStringLiteral("A")); }
-  /// A morning, an evening, a meal ... "2016-10-03"
-  static void UnMatin(TEleveEssai& e, const char* jour) { Scan(e, Essai::Garderie, jour, "07:30", ""); }
-  static void UnSoir(TEleveEssai& e, const char* jour) { Scan(e, Essai::Garderie, jour, "", "17:00"); }
-  static void UnRepas(TEleveEssai& e, const char* jour) { Scan(e, Essai::Repas, jour, "12:00", ""); }
-  static void UnSoupe(TEleveEssai& e, const char* jour) { Scan(e, Essai::Soupe, jour, "12:00", ""); }
-  static void UnEtude(TEleveEssai& e, const char* jour) { Scan(e, Essai::Etude, jour, "16:00", ""); }
-  static void Scan(TEleveEssai& e, int type, const char* jour, const char* entree, const char* sortie) {
-    e.scan(type, QString::fromLatin1(jour), QString::fromLatin1(entree), QString::fromLatin1(sortie));
+  /// Presences by kind and hours: "matin 2016-10-03", or with hours of its own "matin 2016-10-03 07:12
+  /// 07:40".
+  static void Scans(TEleveEssai& eleve, const QStringList& scans) {
+    static const QHash<QString, std::pair<int, QString>> sortes{
+        {u"matin"_s, {Essai::Garderie, u"07:30 "_s}}, {u"midi"_s, {Essai::Garderie, u"12:15 "_s}},
+        {u"soir"_s, {Essai::Garderie, u" 17:00"_s}},  {u"etude"_s, {Essai::Etude, u"16:00 "_s}},
+        {u"repas"_s, {Essai::Repas, u"12:00 "_s}},    {u"soupe"_s, {Essai::Soupe, u"12:00 "_s}}};
+    for (const QString& scan : scans) {
+      const auto& [type, heures] = sortes[scan.section(u' ', 0, 0)];
+      const QStringList propres = (scan.count(u' ') > 1 ? scan.section(u' ', 2) : heures).split(u' ');
+      eleve.scan(type, scan.section(u' ', 1, 1), propres.value(0), propres.value(1));
+    }
   }
 
   /// The document of that title for those pupils, the data as they stand in the database.
-  TResultat Demander(const QString& titre, const std::vector<int>& eleves, const char* du, const char* au,
+  TResultat Demander(QStringView titre, const std::vector<int>& eleves, const char* du, const char* au,
                      std::optional<TDateTime> datePaiement = {}) {
     Globals = {};
     controleur.Charger();
@@ -60,7 +66,7 @@ struct TDocumentsEssai : testing::Test {
   }
   TResultat Facturer(const std::vector<int>& eleves, const char* du, const char* au,
                      std::optional<TDateTime> datePaiement = {}) {
-    return Demander(QStringLiteral("Facture"), eleves, du, au, datePaiement);
+    return Demander(u"Facture", eleves, du, au, datePaiement);
   }
 
   TBaseEssai base;

@@ -49,19 +49,16 @@ TEST(Catalogue, SeizeTitresEtSixPourLeCourriel) {
   EXPECT_EQ(IndiceTitre(u"Attestation fiscale"), 13);
   EXPECT_EQ(IndiceTitre(u"facture"), -1);
 
-  const std::vector<TTitreDocument> courriel = TitresCourriel();
   QString offerts;
-  for (const TTitreDocument& titre : courriel)
-    offerts += QString::fromUtf16(titre.Titre) % (titre.AvecPeriode ? u"+;" : u";");
-  EXPECT_EQ(offerts, QStringLiteral("Facture+;Relevé des frais effectifs+;Relevé détaillé des services+;"
-                                    "Liste prévisionnelle des frais+;Balance des comptes provisoire;"
-                                    "Balance des comptes définitive;"));
+  for (const TTitreDocument& titre : TitresCourriel())
+    offerts += QString::number(IndiceTitre(titre.Titre)) % (titre.AvecPeriode ? u"+ " : u" ");
+  EXPECT_EQ(offerts, u"6+ 7+ 8+ 9+ 11 12 "_s);
 }
 
 TEST_F(TCatalogueEssai, LesElevesPuisCeuxDesClasses) {
-  const int a = ecole.unEleve().nomme(QStringLiteral("A"), {}).enClasse(QStringLiteral("P1"), {}).Id;
-  const int b = ecole.unEleve().nomme(QStringLiteral("B"), {}).enClasse(QStringLiteral("P2"), {}).Id;
-  const int c = ecole.unEleve().nomme(QStringLiteral("C"), {}).enClasse(QStringLiteral("P1"), {}).Id;
+  const int a = ecole.unEleve().nomme(u"A"_s, {}).enClasse(u"P1"_s, {}).Id;
+  const int b = ecole.unEleve().nomme(u"B"_s, {}).enClasse(u"P2"_s, {}).Id;
+  const int c = ecole.unEleve().nomme(u"C"_s, {}).enClasse(u"P1"_s, {}).Id;
   controleur.Charger();
   const TEleves& eleves = *Globals.Eleves;
   TChoixDocument choix;
@@ -74,14 +71,12 @@ TEST_F(TCatalogueEssai, LesElevesPuisCeuxDesClasses) {
 
 TEST_F(TCatalogueEssai, CeQuiNEstPasLaLeDit) {
   const int anne = UnEleve().Id;
-  const TResultat etiquettes =
-      Demander(QString::fromUtf16(TitresDocuments()[0].Titre), {anne}, "2016-10-01", "2016-10-31");
-  EXPECT_TRUE(etiquettes.Echec);
-  EXPECT_TRUE(etiquettes.Rapports.empty());
-  EXPECT_EQ(etiquettes.Messages, QStringList{QStringLiteral(
-                                     "Le document « Etiquettes d'identification 89mm x 36mm (Etiquette Dymo "
-                                     "99012) » n'est pas encore disponible.")});
-  EXPECT_THROW(Demander(QStringLiteral("Facture "), {anne}, "2016-10-01", "2016-10-31"), std::out_of_range);
+  const TResultat badge = Demander(TitresDocuments()[3].Titre, {anne}, "2016-10-01", "2016-10-31");
+  EXPECT_TRUE(badge.Echec && badge.Rapports.empty());
+  EXPECT_EQ(badge.Messages,
+            QStringList{
+                u"Le document « Badge individuel Xerox DocuCard (1 carte) » n'est pas encore disponible."_s});
+  EXPECT_THROW(Demander(u"Facture ", {anne}, "2016-10-01", "2016-10-31"), std::out_of_range);
 }
 
 TEST_F(TCatalogueEssai, LaFactureDeLEcole) {
@@ -100,21 +95,20 @@ TEST_F(TCatalogueEssai, LaFactureDeLEcole) {
       {"107", {CompteCourant}, false},
       {"107 25 32", {CompteCourant}, true},
   };
-  const int anne = UnEleve().avec(QStringLiteral("FLG_FACTURE_DETAIL")).Id;
+  const int anne = UnEleve().Id;
   for (const auto& [vrais, generations, date] : cas) {
-    base.Sql(QStringLiteral("DELETE FROM PARAMETRE WHERE PARAMETRE_ID IN (25, 32, 107, 108)"));
+    base.Sql(u"DELETE FROM PARAMETRE WHERE PARAMETRE_ID IN (25, 32, 107, 108)"_s);
     for (const QString& id : QString::fromLatin1(vrais).split(u' ', Qt::SkipEmptyParts))
-      ecole.parametre(id.toInt(), QStringLiteral("1"));
+      ecole.parametre(id.toInt(), u"1"_s);
     const TParametres parametres(*base);
     EXPECT_EQ(GenerationsFacture(parametres), generations) << vrais;
     EXPECT_EQ(DemandeDatePaiement(6, parametres), date) << vrais;
     EXPECT_FALSE(DemandeDatePaiement(8, parametres)) << vrais;
   }
-  ecole.parametre(107, QStringLiteral("0"));
+  ecole.parametre(107, u"0"_s);
   const TResultat provision = Facturer({anne}, "2016-10-01", "2016-10-31");
   EXPECT_TRUE(provision.Echec);
-  EXPECT_EQ(
-      provision.Messages,
-      (QStringList{QStringLiteral("Le document « Facture (provision) » n'est pas encore disponible."),
-                   QStringLiteral("Le document « Facture (activités) » n'est pas encore disponible.")}));
+  EXPECT_EQ(provision.Messages,
+            (QStringList{u"Le document « Facture (provision) » n'est pas encore disponible."_s,
+                         u"Le document « Facture (activités) » n'est pas encore disponible."_s}));
 }

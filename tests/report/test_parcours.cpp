@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <numeric>
+
 #include "forms/grille.h"
 #include "report/parcours.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,36 +25,37 @@ std::vector<int> Imprimer(TParcours& parcours) {
   return bandes;
 }
 
-/// A pupil by the number of lines of each section: "201" has three sections, the second empty.
-TNoeudRapport Eleve(const std::string& sections) {
-  TNoeudRapport eleve;
-  for (const char lignes : sections) eleve.Ajouter({}).Enfants.resize(static_cast<size_t>(lignes - '0'));
-  return eleve;
+/// Pupils by the number of lines of each section: "201 0" has three sections, the second empty, and one.
+TRapport Rapport(const QString& eleves) {
+  TArbreRapport arbre;
+  for (const QString& sections : eleves.split(u' ')) {
+    TNoeudRapport& eleve = arbre.emplace_back();
+    for (const QChar lignes : sections)
+      eleve.Ajouter({}).Enfants.resize(static_cast<size_t>(lignes.digitValue()));
+  }
+  TRapport rapport({}, {});
+  rapport.CopierArbre(std::move(arbre));
+  return rapport;
 }
 
 }  // namespace
 
 TEST(Parcours, VisiteChaqueNoeudUneFoisDansLOrdre) {
-  const std::vector<std::string> eleves = {"", "0", "2", "20", "02", "00", "102", "021", "111"};
-  const std::vector<std::string> derniers = {"", "1", "01"};
-  for (const std::string& premier : eleves)
-    for (const std::string& second : eleves)
-      for (const std::string& dernier : derniers) {
-        TRapport rapport({}, {});
-        TArbreRapport arbre;
-        for (const std::string& eleve : {premier, second, dernier}) arbre.push_back(Eleve(eleve));
-        rapport.CopierArbre(std::move(arbre));
+  const QStringList eleves{u""_s, u"0"_s, u"2"_s, u"20"_s, u"02"_s, u"00"_s, u"102"_s, u"021"_s, u"111"_s};
+  for (const QString& premier : eleves)
+    for (const QString& second : eleves)
+      for (const QString& dernier : {u""_s, u"1"_s, u"01"_s}) {
+        const TRapport rapport = Rapport(QStringList{premier, second, dernier}.join(u' '));
         std::vector<int> attendu(rapport.Plat().size());
-        for (size_t i = 0; i < attendu.size(); ++i) attendu[i] = static_cast<int>(i);
+        std::iota(attendu.begin(), attendu.end(), 0);
         TParcours parcours(rapport);
-        EXPECT_EQ(Imprimer(parcours), attendu) << premier << '|' << second << '|' << dernier;
+        EXPECT_EQ(Imprimer(parcours), attendu) << qPrintable(premier % u' ' % second % u' ' % dernier);
         EXPECT_EQ(Imprimer(parcours), attendu) << "built twice";
       }
 }
 
 TEST(Parcours, UnSousDetailDemandeAvantSonDetail) {
-  TRapport rapport({}, {});
-  rapport.CopierArbre({Eleve("2"), Eleve("")});
+  const TRapport rapport = Rapport(u"2 "_s);
   TParcours parcours(rapport);
   parcours.Premier(TJeu::Maitre);
   parcours.Premier(TJeu::SousDetail);
@@ -59,25 +64,19 @@ TEST(Parcours, UnSousDetailDemandeAvantSonDetail) {
 }
 
 TEST(Parcours, ColonnesSansLaReference) {
-  TGrille grille({{QStringLiteral("A")}, {QStringLiteral("B")}, {QStringLiteral("C")}});
-  grille.Ajouter({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-  grille.Ajouter({QStringLiteral("d"), QStringLiteral("e"), QStringLiteral("f")});
-  TRapport rapport({}, {});
-  rapport.ChargerColonnesListe(grille);
-  TParcours parcours(rapport);
-  QString lu;
-  for (parcours.Premier(TJeu::Maitre); !parcours.Fini(TJeu::Maitre); parcours.Suivant(TJeu::Maitre)) {
-    lu += *rapport.Valeur(u"COLREF", parcours.Position());
-    for (parcours.Premier(TJeu::Colonne); !parcours.Fini(TJeu::Colonne); parcours.Suivant(TJeu::Colonne))
-      lu += *rapport.Valeur(u"COL", parcours.Position());
+  for (const int colonnes : {3, 1}) {
+    TGrille grille{std::vector<TColonneGrille>(static_cast<size_t>(colonnes))};
+    grille.Ajouter({u"a"_s, u"b"_s, u"c"_s});
+    grille.Ajouter({u"d"_s, u"e"_s, u"f"_s});
+    TRapport rapport({}, {});
+    rapport.ChargerColonnesListe(grille);
+    TParcours parcours(rapport);
+    QString lu;
+    for (parcours.Premier(TJeu::Maitre); !parcours.Fini(TJeu::Maitre); parcours.Suivant(TJeu::Maitre)) {
+      lu += *rapport.Valeur(u"COLREF", parcours.Position());
+      for (parcours.Premier(TJeu::Colonne); !parcours.Fini(TJeu::Colonne); parcours.Suivant(TJeu::Colonne))
+        lu += *rapport.Valeur(u"COL", parcours.Position());
+    }
+    EXPECT_EQ(lu, colonnes == 3 ? u"abcdef"_s : u"ad"_s);
   }
-  EXPECT_EQ(lu, QStringLiteral("abcdef"));
-
-  TGrille seule({{QStringLiteral("A")}});
-  seule.Ajouter({QStringLiteral("a")});
-  rapport.ChargerColonnesListe(seule);
-  parcours.Premier(TJeu::Maitre);
-  parcours.Premier(TJeu::Colonne);
-  EXPECT_TRUE(parcours.Fini(TJeu::Colonne));
-  EXPECT_FALSE(parcours.Fini(TJeu::Maitre));
 }
