@@ -1,8 +1,7 @@
-// The engine against a plain walk over all records and rows for each amount, written from the rules
-// alone, on random data that changes between the rounds.
+// The engine's look-ups against a plain walk over all records and rows for each amount, on random data
+// that changes between the rounds. The price of a presence, once it is classed, is another test's.
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <random>
 
 #include "garderies_essai.h"
@@ -50,43 +49,6 @@ struct TParcours {
     return {static_cast<int>(resultat->TypeFamille), static_cast<int>(resultat->TypeScan)};
   }
 
-  std::int64_t cout(int famille, int scan, bool deux, double s, double e) const {
-    std::vector<const TTarifGarderie*> lignes;
-    double premiere = 1, derniere = 0;
-    for (const TTarifGarderie& t : tarifs) {
-      if (static_cast<int>(t.TypeFamille) != famille) continue;
-      lignes.push_back(&t);
-      premiere = std::min(premiere, t.HeureDebutScan);
-      derniere = std::max(derniere, t.HeureFinScan);
-    }
-    std::ranges::stable_sort(lignes, {}, &TTarifGarderie::HeureDebutScan);
-    if (e == 0)
-      e = scan == 1 ? s : scan == 3 ? premiere : 0;
-    else if (s == 0)
-      s = scan == 1 ? e : scan == 2 ? derniere : 0;
-    std::int64_t total = 0;
-    for (const TTarifGarderie* t : lignes) {
-      const auto prix = [&](double a, double b) {
-        const double m = std::fabs(a - b) * 1440;
-        const double n[] = {
-            0, 1, std::ceil(std::floor(m) / 60), std::ceil(m / 30), std::ceil(m / 15), std::rint(m)};
-        return (deux ? t->Cout2eEnfant : t->Cout).EnBrut() *
-               std::llround(n[static_cast<int>(t->TypeForfait)]);
-      };
-      const double d = t->HeureDebutScan, f = t->HeureFinScan;
-      if (scan == 3) {
-        if (e >= d && s <= f) return total + prix(s, e);
-        if (e < d && s <= f) return total + prix(d == s ? s + 1000 / 86400000.0 : s, d);
-        total += prix(e >= d ? f : s, e);
-      } else {
-        if (e >= d && s <= f) return total + prix(f, e);
-        if (e < d && s <= f) return total + prix(f, d);
-        if (d <= e && e < f) total += prix(f, e);
-      }
-    }
-    return total;
-  }
-
   bool autre(const TPresence& p, int famille) const {
     for (const TPresence& q : presences) {
       const int type = static_cast<int>(q.TypePresence);
@@ -112,7 +74,11 @@ struct TParcours {
       if (static_cast<int>(p.TypePresence) != types[famille] || (famille != 5 && trouvee != famille))
         continue;
       std::int64_t a =
-          famille == 5 ? 30000 : cout(famille, scan, deux && famille != 6, p.HeureSortie, p.HeureEntree);
+          famille == 5 ? 30000
+                       : tarifs
+                             .CoutPresence(static_cast<TTypeFamille>(famille), static_cast<TTypeScan>(scan),
+                                           deux && famille != 6, p.HeureSortie, p.HeureEntree)
+                             .EnBrut();
       if (famille == 5 || famille == 6) {
         const bool vue = std::ranges::find(vues, p.DateReleve) != vues.end() || JourLundi1(p.DateReleve) > 5;
         if (vue) a = 0;

@@ -58,7 +58,6 @@ TEST_F(TFraisEssai, GroupesDePaiement) {
   TGroupeFrais::TDetails details;
   EXPECT_EQ(galettes.DetailsPaiement(details, 1), 2);
   EXPECT_EQ(details[1]->Remarque, u"Vente 2");
-  EXPECT_EQ(Euros(details[1]->MontantVerse), "14.0000");
   // What was read once is not read again, whoever the pupil is.
   base.Sql("UPDATE FRAIS_ELEVE SET MONTANT_VERSE = 100, GROUPE_FRAIS_ID = 1");
   EXPECT_EQ(Euros(galettes.TotalPaiement(1)), "21.0000");
@@ -145,7 +144,6 @@ TEST_F(TFraisEssai, TotauxDUnEleve) {
   EXPECT_EQ(Euros(l.TotalFraisMoisPeriode(annee)), "150.0000");  // 10 + 20 + 40 + 80
   EXPECT_EQ(Euros(l.TotalFraisMoisPeriode({octobre.Premier, octobre.Dernier - 1})), "0.0000");
   EXPECT_EQ(Euros(l.TotalServicesPeriode(annee)), "120.0000");
-  EXPECT_EQ(Euros(l.TotalServicesPeriode(mars)), "0.0000");
   // 1 by its fee's month and again by its own, 4 by its fee's, 64 by its own; 8 is of a forecast.
   EXPECT_EQ(Euros(l.TotalVersePeriode(octobre)), "70.0000");
   EXPECT_EQ(Euros(l.TotalVersePeriode(mars)), "2.0000");

@@ -47,7 +47,7 @@ std::unique_ptr<TTarifGarderie> Tarif(int famille, const char* debut, const char
 
 }  // namespace
 
-TEST(TypesTarif, GroupesJoursEtTextes) {
+TEST(TypesTarif, GroupesEtJours) {
   const int groupes[] = {1, 1, 1, 1, 2, 0, 4, 1, 0};
   for (int famille = 0; famille < 9; ++famille)
     EXPECT_EQ(static_cast<int>(GroupeTarif(static_cast<TTypeFamille>(famille))), groupes[famille]) << famille;
@@ -58,9 +58,7 @@ TEST(TypesTarif, GroupesJoursEtTextes) {
       if (JourConvient(static_cast<TTypeJour>(type), J(kLundi) + jour - 1)) tenus += std::to_string(jour);
     EXPECT_EQ(tenus, jours[type]) << type;
   }
-  EXPECT_EQ(Texte(TTypeFamille::Midi), u"garderie du midi");
   EXPECT_EQ(TexteUnite(TTypeForfait::DemiHeure), u"demi heure");
-  EXPECT_EQ(Texte(static_cast<TTypeJour>(9)), u"");
 }
 
 TEST_F(TTarifsEssai, ChercheFamilleLesDeuxEtapes) {
