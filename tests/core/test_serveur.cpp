@@ -40,7 +40,7 @@ QString MessageDeConnexion(const QString& serveur) {
 
 }  // namespace
 
-TEST(Serveur, HuitPostesPrennentDesClesDistinctesSansTrou) {
+TEST(Serveur, EightProcessesTakeDistinctKeysWithoutAGap) {
   constexpr int kPostes = 8, kClesParPoste = 250;
   const TServeurFirebird serveur;
   TPoste temoin(serveur.Nom());
@@ -71,14 +71,14 @@ TEST(Serveur, HuitPostesPrennentDesClesDistinctesSansTrou) {
   EXPECT_EQ(cles.back() + 1, temoin.base.GetNextId(QStringLiteral("ELEVES")));
 }
 
-TEST(Serveur, LeDernierQuiEnregistreGagne) {
+TEST(Serveur, TheLastWriterWins) {
   const TServeurFirebird serveur;
   TPoste a(serveur.Nom());
   a.parametres->SetParametre(901, QStringLiteral("départ"));
   a.parametres->Save();
   TPoste b(serveur.Nom());
   ASSERT_EQ(QStringLiteral("départ"), b.parametres->GetParametre(901))
-      << "un ajout se voit au chargement suivant";
+      << "an insertion is seen by the next load";
 
   a.parametres->SetParametre(901, QStringLiteral("de A"));
   b.parametres->SetParametre(901, QStringLiteral("de B"));
@@ -86,14 +86,14 @@ TEST(Serveur, LeDernierQuiEnregistreGagne) {
   a.parametres->Save();
   EXPECT_EQ(QStringLiteral("de A"), Relu(b.base, 901));
   EXPECT_EQ(QStringLiteral("de B"), b.parametres->GetParametre(901))
-      << "rien ne change sous les yeux d'un poste";
+      << "a loaded collection does not change by itself";
 
   b.parametres->SetParametre(901, QStringLiteral("de B encore"));
   b.parametres->Save();
   EXPECT_EQ(QStringLiteral("de B encore"), Relu(a.base, 901));
 }
 
-TEST(Serveur, UneRangeeDisparueResteModifieeEtNeGenePas) {
+TEST(Serveur, ARowThatHasGoneStaysModifiedAndHarmsNothing) {
   const TServeurFirebird serveur;
   TPoste a(serveur.Nom());
   for (int id : {901, 902}) a.parametres->SetParametre(id, QStringLiteral("départ"));
@@ -109,13 +109,13 @@ TEST(Serveur, UneRangeeDisparueResteModifieeEtNeGenePas) {
   EXPECT_EQ(TStatus::Modifie, b.parametres->FindParametre(901)->Status);
   EXPECT_EQ(TStatus::Inchange, b.parametres->FindParametre(902)->Status);
   EXPECT_EQ(nullptr, TParametres(a.base).FindParametre(901));
-  EXPECT_EQ(QStringLiteral("gardé"), Relu(a.base, 902)) << "la suite de l'enregistrement a eu lieu";
+  EXPECT_EQ(QStringLiteral("gardé"), Relu(a.base, 902)) << "the save went on behind the missing row";
 
   b.parametres->Remove(*b.parametres->FindParametre(901));
-  EXPECT_TRUE(b.parametres->Save()) << "effacer une rangée que l'autre poste a effacée";
+  EXPECT_TRUE(b.parametres->Save()) << "deleting a row that the other one has deleted";
 }
 
-TEST(Serveur, UnePanneSeDitEnFrancais) {
+TEST(Serveur, AFailedConnectionIsToldInFrench) {
   const QString personne = QStringLiteral("127.0.0.1/%1").arg(PortLibre());
   EXPECT_TRUE(MessageDeConnexion(personne).startsWith(QStringLiteral("Le serveur de données ne répond pas.")))
       << MessageDeConnexion(personne).toStdString();
@@ -127,14 +127,14 @@ TEST(Serveur, UnePanneSeDitEnFrancais) {
   EXPECT_FALSE(refus.contains(QStringLiteral("corvusnet")));
 }
 
-TEST(Serveur, UneCoupureEnPleinTravailSeDitEtNeFermePas) {
+TEST(Serveur, AServerThatDiesIsToldAndLosesNoStatus) {
   auto serveur = std::make_unique<TServeurFirebird>();
   TPoste poste(serveur->Nom());
   poste.parametres->SetParametre(901, QStringLiteral("jamais écrit"));
   serveur.reset();
   try {
     poste.parametres->Save();
-    ADD_FAILURE() << "l'enregistrement devait échouer";
+    ADD_FAILURE() << "the save had to fail";
   } catch (const EDistributor& e) {
     EXPECT_TRUE(e.Message.startsWith(QStringLiteral("La liaison avec le serveur de données est coupée.")))
         << e.Message.toStdString();

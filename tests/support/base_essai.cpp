@@ -9,10 +9,12 @@
 #include <QSqlRecord>
 #include <QTime>
 
-TBaseEssai::TBaseEssai() {
+TBaseEssai::TBaseEssai() : TBaseEssai(QStringLiteral(CALPENNE_MODELE)) {}
+
+TBaseEssai::TBaseEssai(const QString& depart) {
   for (const auto scope : {QSettings::UserScope, QSettings::SystemScope})
     QSettings(QSettings::NativeFormat, scope, QStringLiteral("Tarnvale"), QStringLiteral("Orbelin")).clear();
-  EXPECT_TRUE(QFile::copy(QStringLiteral(CALPENNE_MODELE), FichierDeDonnees()));
+  EXPECT_TRUE(QFile::copy(depart, FichierDeDonnees()));
   QFile::setPermissions(FichierDeDonnees(), QFile::ReadOwner | QFile::WriteOwner);
   module_.ServerName = FichierDeDonnees();
   module_.Connecter();

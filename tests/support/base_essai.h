@@ -8,6 +8,8 @@
 class TBaseEssai {
  public:
   TBaseEssai();
+  /// Starts from a copy of that file instead.
+  explicit TBaseEssai(const QString& depart);
 
   TDataModule1& operator*() { return module_; }
   TDataModule1* operator->() { return &module_; }

@@ -131,7 +131,7 @@ void TServeurFirebird::Demarrer() {
   const QDeadlineTimer limite(kAttenteDemarrageMs);
   while (!TPrise(port_).Connecter()) {
     if (serveur_.waitForFinished(20) || limite.hasExpired()) {
-      ADD_FAILURE() << "le serveur ne démarre pas : " << serveur_.readAll().toStdString();
+      ADD_FAILURE() << "the server does not start: " << serveur_.readAll().toStdString();
       return;
     }
   }
