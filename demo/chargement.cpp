@@ -1,0 +1,313 @@
+#include "demo/chargement.h"
+
+#include "core/calendrier_scolaire.h"
+#include "core/conversions.h"
+#include "core/exceptions.h"
+#include "demo/calendrier.h"
+#include "demo/fichiers.h"
+#include "demo/releve_banque.h"
+#include "demo/virements.h"
+#include "payments/communication_structuree.h"
+#include "services/frais_eleve.h"
+#include "workflows/import_presences.h"
+#include "workflows/import_registre.h"
+
+namespace {
+
+/// The movements from this day on are left in a statement file, for the reader to import.
+const QDate kDebutReleve(2017, 6, 1);
+
+const TFamilleExemple& Famille(const TEcoleExemple& ecole, int eleve) {
+  return ecole.Familles[static_cast<std::size_t>(ecole.Eleves[static_cast<std::size_t>(eleve)].Famille)];
+}
+
+std::unique_ptr<TFraisEleve> Paiement(const QString& libelle, Currency montant, int mois, int typeFamille) {
+  auto ligne = std::make_unique<TFraisEleve>();
+  ligne->Remarque = libelle;
+  ligne->MontantVerse = montant;
+  ligne->Mois = mois;
+  ligne->TypeFamilleFrais = static_cast<TTypeFamilleFrais>(typeFamille);
+  return ligne;
+}
+
+}  // namespace
+
+TChargement::TChargement(TControleur& controleur, const TEcoleExemple& ecole, QString dossier)
+    : controleur_(controleur), ecole_(ecole), dossier_(std::move(dossier)) {}
+
+TBilanChargement TChargement::Tout() {
+  controleur_.ChargerParametres();
+  // Nothing that waits in the machine's temporary folder is to be archived by the imports.
+  Globals.DossierTemporaire = dossier_;
+  if (TEleves(controleur_.Base(), 0).Count() > 0)
+    throw Exception(
+        QStringLiteral("La base contient déjà des élèves : l'école d'exemple veut une base vide."));
+  Parametres();
+  controleur_.ChargerAnnee(kAnneeExemple);
+  Registre();
+  Sites();
+  Fiches();
+  Personnel();
+  Recharger();
+  Activites();
+  Frais();
+  Marques();
+  Presences();
+  Recharger();
+  MoisPayes();
+  Virements();
+  bilan_.Eleves = static_cast<int>(ecole_.Eleves.size());
+  bilan_.Presences = Globals.Presences->Count();
+  return bilan_;
+}
+
+void TChargement::Etape(const QString& titre) { controleur_.Dialogues().Information(titre); }
+
+/// The year afresh, and the pupils by their index in the sample.
+void TChargement::Recharger() {
+  controleur_.ChargerAnnee(kAnneeExemple);
+  eleves_.clear();
+  for (const TEleveExemple& eleve : ecole_.Eleves) {
+    TEleve* trouve = Globals.Eleves->TrouverParMatricule(eleve.Matricule);
+    if (trouve == nullptr)
+      throw Exception(QStringLiteral("L'élève %1 n'a pas été importé.").arg(eleve.Matricule));
+    eleves_.push_back(trouve);
+  }
+}
+
+void TChargement::Parametres() {
+  Etape(QStringLiteral("Paramètres et tarifs"));
+  for (const TParametreExemple& parametre : ecole_.Parametres)
+    Globals.Parametres->SetParametre(parametre.Id, parametre.Valeur);
+  Globals.Parametres->Save();
+  for (const TTarifExemple& t : ecole_.Tarifs) {
+    auto tarif = std::make_unique<TTarifGarderie>();
+    tarif->TypeFamille = static_cast<TTypeFamille>(t.Famille);
+    tarif->TypeJour = static_cast<TTypeJour>(t.Jour);
+    tarif->TypeForfait = static_cast<TTypeForfait>(t.Forfait);
+    tarif->TypeScan = static_cast<TTypeScan>(t.Scan);
+    tarif->HeureDebutScan = StrToTime(t.Debut);
+    tarif->HeureFinScan = StrToTime(t.Fin);
+    tarif->Cout = t.Cout;
+    tarif->Cout2eEnfant = t.Cout2eEnfant;
+    Globals.TarifsGarderies->Add(std::move(tarif));
+  }
+  Globals.TarifsGarderies->Save();
+}
+
+void TChargement::Registre() {
+  const QString chemin = dossier_ % u"/registre-disposition-1.csv";
+  EcrireFichier(chemin, TexteRegistre(ecole_, TDisposition::Premiere));
+  EcrireFichier(dossier_ % u"/registre-disposition-2.csv", TexteRegistre(ecole_, TDisposition::Seconde));
+  Etape(QStringLiteral("Importation du registre : %1 élèves").arg(ecole_.Eleves.size()));
+  TImportRegistre import(controleur_);
+  if (!import.Etape1(chemin)) throw Exception(QStringLiteral("Le registre écrit n'est pas accepté."));
+  import.Etape2();
+}
+
+/// The import has made the sites from their codes; the office gives them their names.
+void TChargement::Sites() {
+  TImplantations& sites = *Globals.Eleves->Implantations;
+  for (const TSiteExemple& exemple : ecole_.Sites) {
+    TImplantation* site = sites.TrouverParCode(exemple.Code);
+    if (site == nullptr) throw Exception(QStringLiteral("Le site %1 n'a pas été créé.").arg(exemple.Code));
+    site->LibelleCourt = exemple.LibelleCourt;
+    site->LibelleLong = exemple.LibelleLong;
+    site->Adresse = exemple.Adresse;
+    site->CodePostal = exemple.CodePostal;
+    site->Localite = exemple.Localite;
+    site->Telephone = exemple.Telephone;
+    site->Responsable = exemple.Responsable;
+    site->ResponsablePrenom = exemple.ResponsablePrenom;
+    sites.AddImplantation(*site);
+  }
+  sites.Save();
+}
+
+/// What the office notes on the pupils' records by hand.
+void TChargement::Fiches() {
+  Recharger();
+  for (std::size_t e = 0; e < ecole_.Eleves.size(); ++e) {
+    const TEleveExemple& exemple = ecole_.Eleves[e];
+    const TFamilleExemple& famille = Famille(ecole_, static_cast<int>(e));
+    TEleve& eleve = Eleve(static_cast<int>(e));
+    eleve.Flg2eEnfant = exemple.Rang == 2;
+    eleve.Flg3eEnfant = exemple.Rang > 2;
+    eleve.FlgFactureDetail = exemple.FactureDetail;
+    eleve.FlgDomiciliation = exemple.Domiciliation;
+    eleve.FlgParentSepare = famille.ParentsSepares;
+    eleve.FlgImpotRespons2 = exemple.ImpotResponsable2;
+    eleve.FlgRadie = exemple.Radie;
+    if (exemple.CompteConnu) {
+      eleve.NumCompte = famille.Compte;
+      eleve.NomTitulaireCompte = famille.Titulaire;
+    }
+    Globals.Eleves->AddEleve(eleve);
+  }
+  Globals.Eleves->Save();
+}
+
+void TChargement::Personnel() {
+  Etape(QStringLiteral("Personnel : %1 personnes").arg(ecole_.Professeurs.size()));
+  for (const TProfesseurExemple& exemple : ecole_.Professeurs) {
+    auto professeur = std::make_unique<TEleve>();
+    professeur->Nom = exemple.Nom;
+    professeur->Prenom = exemple.Prenom;
+    professeur->Matricule = exemple.Matricule;
+    const TEleve& ajoute = Globals.Eleves->AddEleve(std::move(professeur));
+    Globals.Eleves->Save();
+    Globals.Eleves->AddClasseEleve(ajoute.Id, QStringLiteral("PROFESSEURS"), kAnneeExemple,
+                                   ecole_.Sites[static_cast<std::size_t>(exemple.Site)].Code, {});
+  }
+}
+
+void TChargement::Activites() {
+  Etape(QStringLiteral("Activités, frais, paiements au secrétariat"));
+  std::vector<const TActivite*> activites;
+  for (const TActiviteExemple& exemple : ecole_.Activites) {
+    auto activite = std::make_unique<TActivite>();
+    activite->Libelle = exemple.Libelle;
+    activite->HeureDebut = StrToTime(exemple.Debut);
+    activite->HeureFin = StrToTime(exemple.Fin);
+    activite->DateDebut = DateDeQt(exemple.Premier);
+    activite->DateFin = DateDeQt(exemple.Dernier);
+    activites.push_back(&Globals.Activites->Add(std::move(activite)));
+  }
+  Globals.Activites->Save();
+  for (const TInscriptionExemple& exemple : ecole_.Inscriptions) {
+    const auto rang = static_cast<std::size_t>(exemple.Activite);
+    auto inscription = std::make_unique<TActiviteEleve>();
+    inscription->EleveId = Eleve(exemple.Eleve).Id;
+    inscription->ActiviteId = activites[rang]->Id;
+    inscription->FlgJours[static_cast<std::size_t>(ecole_.Activites[rang].Jour)] = true;
+    Globals.ActivitesEleves->Add(std::move(inscription));
+  }
+  Globals.ActivitesEleves->Save();
+}
+
+void TChargement::Frais() {
+  std::vector<const TFrais*> catalogue;
+  for (const TFraisExemple& exemple : ecole_.Frais) {
+    auto frais = std::make_unique<TFrais>();
+    frais->Libelle = exemple.Libelle;
+    frais->Cout = exemple.Cout;
+    frais->Mois = exemple.Mois;
+    frais->TypeFrais = TTypeFrais::Eleves;
+    frais->FlgPrevisionnel = exemple.Previsionnel;
+    frais->FlgNonObligatoire = exemple.NonObligatoire;
+    frais->FlgService = exemple.Service;
+    catalogue.push_back(&Globals.ListeFrais->Add(std::move(frais)));
+  }
+  Globals.ListeFrais->Save();
+  std::vector<const TGroupeFrais*> groupes;
+  for (const QString& libelle : ecole_.Groupes) {
+    auto groupe = std::make_unique<TGroupeFrais>();
+    groupe->Libelle = libelle;
+    groupes.push_back(&Globals.GroupesFrais->Add(std::move(groupe)));
+  }
+  Globals.GroupesFrais->Save();
+
+  for (const TLigneFraisExemple& exemple : ecole_.LignesFrais) {
+    const TFrais& frais = *catalogue[static_cast<std::size_t>(exemple.Frais)];
+    auto ligne = std::make_unique<TFraisEleve>();
+    ligne->ListeFraisId = frais.Id;
+    if (exemple.Paye) ligne->MontantVerse = frais.Cout;
+    Eleve(exemple.Eleve).GetAllFrais()->Add(std::move(ligne));
+  }
+  for (const TPaiementExemple& exemple : ecole_.Paiements) {
+    auto ligne = Paiement(exemple.Libelle, exemple.Montant, exemple.Mois, exemple.TypeFamille);
+    if (exemple.Groupe >= 0) ligne->GroupeFraisId = groupes[static_cast<std::size_t>(exemple.Groupe)]->Id;
+    Eleve(exemple.Eleve).GetAllFrais()->Add(std::move(ligne));
+  }
+  for (TEleve* eleve : eleves_) eleve->GetAllFrais()->Save();
+}
+
+void TChargement::Marques() {
+  for (const TMarqueExemple& exemple : ecole_.Marques) {
+    auto marque = std::make_unique<TPresenceParticuliere>();
+    marque->EleveId = Eleve(exemple.Eleve).Id;
+    marque->TypePresence = static_cast<TTypeMarque>(exemple.Genre);
+    marque->Mois = exemple.Mois;
+    marque->Annee = Globals.Eleves->AnneeDuMois(exemple.Mois);
+    Globals.PresencesParticulieres->AjouteMarque(std::move(marque));
+  }
+  Globals.PresencesParticulieres->Save();
+}
+
+void TChargement::Presences() {
+  const auto fichiers = FichiersPresences(ecole_);
+  Etape(QStringLiteral("Importation des présences : %1 fichiers de scanner").arg(fichiers.size()));
+  IDialogues& dialogues = controleur_.Dialogues();
+  TImportPresences import(controleur_);
+  int fait = 0;
+  for (const TFichierPresences& fichier : fichiers) {
+    const QString chemin = dossier_ % u"/presences/" % fichier.Nom;
+    EcrireFichier(chemin, fichier.Texte);
+    import.ImporterFichier(chemin);
+    bilan_.LignesPresences += fichier.Lignes;
+    bilan_.Anomalies += static_cast<int>(import.Anomalies().size());
+    import.Etape2();
+    dialogues.Progression(++fait, static_cast<int>(fichiers.size()), fichier.Nom);
+  }
+  dialogues.Progression(0, 0, {});
+}
+
+void TChargement::MoisPayes() {
+  for (const TMoisExemple& exemple : ecole_.MoisPayes) {
+    const TEleve& eleve = Eleve(exemple.Eleve);
+    const Currency montant = eleve.CoutMois(exemple.Mois, kAnneeExemple);
+    if (montant <= Currency()) continue;
+    auto paiement = std::make_unique<TPaiement>();
+    paiement->EleveId = eleve.Id;
+    paiement->Mois = exemple.Mois;
+    paiement->Annee = kAnneeExemple;
+    paiement->Montant = montant;
+    Globals.Paiements->MarquePaye(std::move(paiement));
+  }
+  Globals.Paiements->Save();
+}
+
+/// What the families pay by transfer, from the amounts that the program itself works out.
+void TChargement::Virements() {
+  Etape(QStringLiteral("Virements des familles"));
+  const auto facture = [this](int index, int mois) {
+    const TEleve& eleve = Eleve(index);
+    Currency montant = eleve.TotalServices(BornesMois(mois, kAnneeExemple));
+    for (const TFraisEleve& ligne : *eleve.GetAllFrais())
+      if (ligne.MoisFrais() == mois && !ligne.Previsionnel() && !ligne.EstPaye())
+        montant += ligne.MontantFrais();
+    return montant;
+  };
+  std::vector<TMouvementBanque> mouvements;
+  for (const TVirementExemple& virement : TirerVirements(ecole_, facture)) {
+    TEleve& eleve = Eleve(virement.Eleve);
+    if (virement.Date < kDebutReleve) {
+      const QString libelle = u"Votre virement du " % virement.Date.toString(QStringLiteral("dd/MM/yyyy"));
+      eleve.GetAllFrais()->Add(Paiement(libelle, virement.Montant, virement.Mois, 2));
+      ++bilan_.Virements;
+      continue;
+    }
+    const TFamilleExemple& famille = Famille(ecole_, virement.Eleve);
+    mouvements.push_back(
+        {virement.Date, famille.Titulaire, famille.Compte, virement.Montant,
+         CommunicationServices(controleur_.Dialogues(), eleve.Id, virement.Mois, kAnneeExemple)});
+  }
+  for (TEleve* eleve : eleves_) eleve->GetAllFrais()->Save();
+  Releve(mouvements);
+}
+
+/// The last statement of the year, in a file: one family in fifteen writes words instead of digits.
+void TChargement::Releve(const std::vector<TMouvementBanque>& mouvements) {
+  auto releve = mouvements;
+  for (std::size_t i = 7; i < releve.size(); i += 15)
+    releve[i].Communication = u"Facture de mai " % releve[i].Donneur;
+  if (releve.empty()) return;
+  releve.push_back({QDate(2017, 6, 30), QStringLiteral("Commune de Brumeval"),
+                    QStringLiteral("BE11 0910 0053 5848"), Currency::Euros(1250),
+                    QStringLiteral("Subside garderies 2e trimestre")});
+  releve.push_back({QDate(2017, 6, 30), QStringLiteral("Traiteur Les Saveurs"),
+                    QStringLiteral("BE43 0682 0467 0001"), -Currency::Euros(2318),
+                    QStringLiteral("Repas de mai, facture 2017/118")});
+  EcrireFichier(dossier_ % u"/releve-2017-06.csv",
+                TexteReleve(releve, QStringLiteral("BE68 5390 0754 7034")));
+}

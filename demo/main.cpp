@@ -1,0 +1,120 @@
+// Makes the sample school: a database, and the files that it was loaded from.
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+
+#include "core/conversions.h"
+#include "core/exceptions.h"
+#include "demo/chargement.h"
+#include "demo/terminal.h"
+
+namespace {
+
+/// The collections go before the connection that they look at.
+struct TLiberation {
+  TLiberation() = default;
+  ~TLiberation() { Globals.Liberer(); }
+  TLiberation(const TLiberation&) = delete;
+  TLiberation& operator=(const TLiberation&) = delete;
+};
+
+/// A local file is written without waiting for the disk, until this goes.
+class TSansEcrituresForcees {
+ public:
+  explicit TSansEcrituresForcees(TDataModule1& base) : base_(base) {
+    base_.Deconnecter();
+    base_.EcrituresForcees(false);
+    base_.Connecter();
+  }
+  ~TSansEcrituresForcees() {
+    base_.Deconnecter();
+    try {
+      base_.EcrituresForcees(true);
+    } catch (const Exception& e) {
+      base_.Dialogues().Message(e.Message);
+    }
+  }
+  TSansEcrituresForcees(const TSansEcrituresForcees&) = delete;
+  TSansEcrituresForcees& operator=(const TSansEcrituresForcees&) = delete;
+
+ private:
+  TDataModule1& base_;
+};
+
+void DeclarerOptions(QCommandLineParser& options) {
+  const auto ajouter = [&](const char* nom, const char* aide, const char* valeur = nullptr,
+                           const QString& defaut = {}) {
+    options.addOption({QString::fromLatin1(nom), QString::fromUtf8(aide),
+                       valeur == nullptr ? QString() : QString::fromLatin1(valeur), defaut});
+  };
+  options.setApplicationDescription(
+      QStringLiteral("Crée l'école d'exemple : 500 élèves, l'année 2016-2017 et ses fichiers."));
+  ajouter("serveur", "la base à créer : un chemin en .fdb, « local » ou un serveur à la base vide", "S");
+  ajouter("dossier", "où écrire les fichiers du registre, des scanners et de la banque", "D");
+  ajouter("graine", "le nombre dont toute l'école découle (2016)", "N", QStringLiteral("2016"));
+  ajouter("petite", "un dixième de l'école");
+  options.addOption({QStringLiteral("aide"), QStringLiteral("ce texte")});
+}
+
+void Annoncer(const TBilanChargement& bilan, IDialogues& dialogues) {
+  dialogues.Information(
+      QStringLiteral("L'école d'exemple est prête : %1 élèves, %2 passages lus, %3 présences "
+                     "mémorisées, %4 anomalies laissées de côté, %5 virements.")
+          .arg(bilan.Eleves)
+          .arg(bilan.LignesPresences)
+          .arg(bilan.Presences)
+          .arg(bilan.Anomalies)
+          .arg(bilan.Virements));
+}
+
+void Executer(const QCommandLineParser& options, IDialogues& dialogues) {
+  for (const char* nom : {"serveur", "dossier"})
+    if (options.value(QString::fromLatin1(nom)).isEmpty())
+      throw Exception(u"L'option --" % QString::fromLatin1(nom) % u" manque.");
+  TReglagesPoste reglages;
+  TDataModule1 base(dialogues, reglages);
+  base.ServerName = options.value(QStringLiteral("serveur"));
+  const QString fichier = base.FichierLocal();
+  if (!fichier.isEmpty() && QFile::exists(fichier))
+    throw Exception(u"Le fichier « " % fichier % u" » existe déjà : choisissez-en un autre.");
+  base.Connecter();
+  const TSansEcrituresForcees sansAttente(base);
+  IFenetrePrincipale sansFenetre;
+  const THorloge horloge;
+  TControleur controleur(base, reglages, sansFenetre, horloge);
+  const TLiberation liberation;
+  const TEcoleExemple ecole =
+      CreerEcoleExemple(static_cast<std::uint64_t>(StrToInt(options.value(QStringLiteral("graine")))),
+                        options.isSet(QStringLiteral("petite")));
+  const QString dossier = QDir(options.value(QStringLiteral("dossier"))).absolutePath();
+  Annoncer(TChargement(controleur, ecole, dossier).Tout(), dialogues);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication application(argc, argv);
+  QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
+  TDialoguesDemo dialogues;
+  QCommandLineParser options;
+  DeclarerOptions(options);
+  if (!options.parse(QCoreApplication::arguments())) {
+    dialogues.Message(options.errorText());
+    return 2;
+  }
+  if (options.isSet(QStringLiteral("aide"))) {
+    dialogues.Message(options.helpText());
+    return 0;
+  }
+  try {
+    Executer(options, dialogues);
+    return 0;
+  } catch (const Exception& e) {
+    dialogues.Message(e.Message);
+  } catch (const std::exception& e) {
+    dialogues.Message(u"Erreur inattendue : " % QString::fromUtf8(e.what()));
+  }
+  return 1;
+}
