@@ -1,0 +1,310 @@
+#include "report/script/arbre.h"
+#include "report/script/lexeur.h"
+
+namespace {
+
+constexpr int kProfondeurMaximum = 100;
+
+struct TMot {
+  const char* signe;
+  TOperation operation;
+};
+
+constexpr TMot kComparaisons[] = {{"=", TOperation::Egal},
+                                  {"<>", TOperation::Different},
+                                  {"<=", TOperation::InferieurOuEgal},
+                                  {">=", TOperation::SuperieurOuEgal},
+                                  {"<", TOperation::Inferieur},
+                                  {">", TOperation::Superieur}};
+
+constexpr const char* kMotsRefuses[] = {"while", "for",  "repeat", "until", "case", "goto", "function",
+                                        "try",   "with", "exit",   "const", "type", "uses", "div"};
+
+/// Recursive descent over the pieces of a script.
+class TAnalyseur {
+ public:
+  TAnalyseur(TScript::TArbre& arbre, std::vector<TLexeme> lexemes)
+      : lexemes_(std::move(lexemes)), arbre_(&arbre) {}
+
+  void Tout() {
+    while (Ici().Sorte != TSorteLexeme::Fin) {
+      if (PrendreMot("var"))
+        LireVariables();
+      else if (PrendreMot("procedure"))
+        LireProcedure();
+      else if (Ici().Est(QLatin1String("begin")))
+        LireFinDeScript();
+      else
+        Refuser(QStringLiteral("« var » ou « procedure » est attendu, et non « %1 »").arg(Ici().Texte));
+    }
+  }
+
+ private:
+  /// Counts how deep constructs stand in one another, so that no text can exhaust the stack.
+  class TNiveau {
+   public:
+    explicit TNiveau(TAnalyseur& a) : a_(a) {
+      if (++a_.profondeur_ > kProfondeurMaximum) a_.Refuser(QStringLiteral("le script est trop imbriqué"));
+    }
+    ~TNiveau() { --a_.profondeur_; }
+    TNiveau(const TNiveau&) = delete;
+    TNiveau& operator=(const TNiveau&) = delete;
+
+   private:
+    TAnalyseur& a_;
+  };
+
+  const TLexeme& Ici() const { return lexemes_[i_]; }
+  TLexeme Prendre() { return lexemes_[i_ + 1 < lexemes_.size() ? i_++ : i_]; }
+  bool PrendreMot(const char* mot) {
+    if (!Ici().Est(QLatin1String(mot))) return false;
+    ++i_;
+    return true;
+  }
+  bool PrendreSigne(const char* signe) {
+    if (!Ici().EstSigne(QLatin1String(signe))) return false;
+    ++i_;
+    return true;
+  }
+  [[noreturn]] void Refuser(const QString& quoi) const {
+    throw EScript(QStringLiteral("ligne %1 : %2.").arg(Ici().Ligne).arg(quoi));
+  }
+  void ExigerSigne(const char* signe) {
+    if (!PrendreSigne(signe))
+      Refuser(QStringLiteral("« %1 » est attendu, et non « %2 »").arg(QLatin1String(signe), Ici().Texte));
+  }
+  void ExigerMot(const char* mot) {
+    if (!PrendreMot(mot))
+      Refuser(QStringLiteral("« %1 » est attendu, et non « %2 »").arg(QLatin1String(mot), Ici().Texte));
+  }
+  QString ExigerNom(const QString& quoi) {
+    for (const char* mot : kMotsRefuses)
+      if (Ici().Est(QLatin1String(mot)))
+        Refuser(QStringLiteral("« %1 » n'existe pas dans les scripts des modèles").arg(Ici().Texte));
+    if (Ici().Sorte != TSorteLexeme::Nom)
+      Refuser(QStringLiteral("%1 est attendu, et non « %2 »").arg(quoi, Ici().Texte));
+    return Prendre().Texte;
+  }
+
+  void LireVariables() {
+    do {
+      QStringList noms;
+      do {
+        const QString nom = ExigerNom(QStringLiteral("un nom de variable"));
+        if (!nom.startsWith(u"My", Qt::CaseInsensitive))
+          Refuser(QStringLiteral("le nom « %1 » doit commencer par « My »").arg(nom));
+        if (arbre_->Place(nom) >= 0 || noms.contains(nom, Qt::CaseInsensitive))
+          Refuser(QStringLiteral("la variable « %1 » est déclarée deux fois").arg(nom));
+        noms += nom;
+      } while (PrendreSigne(","));
+      ExigerSigne(":");
+      const TValeurScript initiale = LireType();
+      ExigerSigne(";");
+      for (const QString& nom : noms) arbre_->Variables.push_back({nom, initiale});
+    } while (Ici().Sorte == TSorteLexeme::Nom && !Ici().Est(QLatin1String("procedure")) &&
+             !Ici().Est(QLatin1String("var")) && !Ici().Est(QLatin1String("begin")));
+  }
+
+  TValeurScript LireType() {
+    if (PrendreMot("string")) return QString(QLatin1String(""));
+    if (PrendreMot("boolean")) return false;
+    Refuser(QStringLiteral("une variable est « String » ou « Boolean », et non « %1 »").arg(Ici().Texte));
+  }
+
+  void LireProcedure() {
+    TProcedure procedure;
+    procedure.Nom = ExigerNom(QStringLiteral("un nom de procédure"));
+    if (arbre_->Procedure(procedure.Nom) != nullptr)
+      Refuser(QStringLiteral("la procédure « %1 » existe déjà").arg(procedure.Nom));
+    if (PrendreSigne("(")) {
+      ExigerMot("Sender");
+      if (PrendreSigne(":")) ExigerNom(QStringLiteral("un type"));
+      ExigerSigne(")");
+    }
+    ExigerSigne(";");
+    if (!Ici().Est(QLatin1String("begin"))) ExigerMot("begin");
+    procedure.Corps = LireInstruction();
+    ExigerSigne(";");
+    arbre_->Procedures.push_back(std::move(procedure));
+  }
+
+  /// "begin end." closes a script, if it is there.
+  void LireFinDeScript() {
+    ExigerMot("begin");
+    ExigerMot("end");
+    ExigerSigne(".");
+    if (Ici().Sorte != TSorteLexeme::Fin) Refuser(QStringLiteral("rien n'est attendu après « end. »"));
+  }
+
+  TInstructionScript LireInstruction() {
+    const TNiveau niveau(*this);
+    TInstructionScript instruction;
+    instruction.Ligne = Ici().Ligne;
+    if (PrendreMot("begin")) {
+      while (!PrendreMot("end")) {
+        if (PrendreSigne(";")) continue;
+        instruction.Suite.push_back(LireInstruction());
+        if (!Ici().Est(QLatin1String("end"))) ExigerSigne(";");
+      }
+      return instruction;
+    }
+    if (PrendreMot("if")) {
+      instruction.Sorte = TSorteInstruction::Si;
+      instruction.Expression = LireExpression();
+      ExigerMot("then");
+      instruction.Suite.push_back(LireInstruction());
+      if (PrendreMot("else")) instruction.Suite.push_back(LireInstruction());
+      return instruction;
+    }
+    return LireAffectation(std::move(instruction));
+  }
+
+  TInstructionScript LireAffectation(TInstructionScript instruction) {
+    const QString nom = ExigerNom(QStringLiteral("une instruction"));
+    if (PrendreSigne(".")) {
+      instruction.Sorte = TSorteInstruction::Poser;
+      instruction.Objet = Objet(nom);
+      instruction.Propriete = ExigerNom(QStringLiteral("une propriété"));
+    } else {
+      instruction.Sorte = TSorteInstruction::Affecter;
+      instruction.Place = PlaceDe(nom);
+    }
+    ExigerSigne(":=");
+    instruction.Expression = LireExpression();
+    return instruction;
+  }
+
+  static QString Objet(const QString& nom) {
+    return nom.compare(u"Sender", Qt::CaseInsensitive) == 0 ? QString() : nom;
+  }
+  std::size_t PlaceDe(const QString& nom) const {
+    const int place = arbre_->Place(nom);
+    if (place < 0) Refuser(QStringLiteral("« %1 » n'est pas une variable du script").arg(nom));
+    return static_cast<std::size_t>(place);
+  }
+
+  using TFeuille = std::unique_ptr<TExpression>;
+
+  TFeuille Noeud(TOperation operation, TFeuille gauche = {}, TFeuille droite = {}) const {
+    auto noeud = std::make_unique<TExpression>();
+    noeud->Operation = operation;
+    noeud->Ligne = Ici().Ligne;
+    noeud->Gauche = std::move(gauche);
+    noeud->Droite = std::move(droite);
+    return noeud;
+  }
+
+  // As in Pascal: a comparison binds less than everything else.
+  TFeuille LireExpression() {
+    const TNiveau niveau(*this);
+    TFeuille gauche = LireSomme();
+    for (const TMot& c : kComparaisons)
+      if (PrendreSigne(c.signe)) return Noeud(c.operation, std::move(gauche), LireSomme());
+    return gauche;
+  }
+
+  TFeuille LireSomme() {
+    TFeuille gauche = LireTerme();
+    for (int n = 0;; ++n) {
+      if (n > kProfondeurMaximum * 10) Refuser(QStringLiteral("l'expression est trop longue"));
+      if (PrendreSigne("+"))
+        gauche = Noeud(TOperation::Plus, std::move(gauche), LireTerme());
+      else if (PrendreSigne("-"))
+        gauche = Noeud(TOperation::Moins, std::move(gauche), LireTerme());
+      else if (PrendreMot("or"))
+        gauche = Noeud(TOperation::Ou, std::move(gauche), LireTerme());
+      else
+        return gauche;
+    }
+  }
+
+  TFeuille LireTerme() {
+    TFeuille gauche = LireFacteur();
+    for (int n = 0;; ++n) {
+      if (n > kProfondeurMaximum) Refuser(QStringLiteral("l'expression est trop longue"));
+      if (PrendreMot("and"))
+        gauche = Noeud(TOperation::Et, std::move(gauche), LireFacteur());
+      else if (PrendreMot("mod"))
+        gauche = Noeud(TOperation::Modulo, std::move(gauche), LireFacteur());
+      else
+        return gauche;
+    }
+  }
+
+  TFeuille LireFacteur() {
+    const TNiveau niveau(*this);
+    if (PrendreMot("not")) return Noeud(TOperation::Non, LireFacteur());
+    if (PrendreSigne("-")) return Noeud(TOperation::Oppose, LireFacteur());
+    if (PrendreSigne("(")) {
+      TFeuille dedans = LireExpression();
+      ExigerSigne(")");
+      return dedans;
+    }
+    if (Ici().Sorte == TSorteLexeme::Nom) return LireNom();
+    TFeuille noeud = Noeud(TOperation::Litteral);
+    const TLexeme lexeme = Prendre();
+    if (lexeme.Sorte == TSorteLexeme::Texte) {
+      noeud->Valeur = lexeme.Texte;
+    } else if (lexeme.Sorte == TSorteLexeme::Nombre) {
+      noeud->Valeur = lexeme.Texte.toDouble();
+    } else if (lexeme.Sorte == TSorteLexeme::Variable) {
+      noeud->Operation = TOperation::VariableRapport;
+      noeud->Nom = lexeme.Texte;
+    } else {
+      Refuser(QStringLiteral("une valeur est attendue, et non « %1 »").arg(lexeme.Texte));
+    }
+    return noeud;
+  }
+
+  TFeuille LireNom() {
+    TFeuille noeud = Noeud(TOperation::Litteral);
+    if (PrendreMot("true")) {
+      noeud->Valeur = true;
+    } else if (PrendreMot("false")) {
+      noeud->Valeur = false;
+    } else {
+      const QString nom = ExigerNom(QStringLiteral("une valeur"));
+      if (PrendreSigne(".")) {
+        noeud->Operation = TOperation::Propriete;
+        noeud->Nom = Objet(nom);
+        noeud->Propriete = ExigerNom(QStringLiteral("une propriété"));
+      } else {
+        noeud->Operation = TOperation::VariableScript;
+        noeud->Place = PlaceDe(nom);
+      }
+    }
+    return noeud;
+  }
+
+  std::vector<TLexeme> lexemes_;
+  std::size_t i_ = 0;
+  int profondeur_ = 0;
+  TScript::TArbre* arbre_;
+};
+
+}  // namespace
+
+const TProcedure* TScript::TArbre::Procedure(const QString& nom) const {
+  for (const TProcedure& procedure : Procedures)
+    if (procedure.Nom.compare(nom, Qt::CaseInsensitive) == 0) return &procedure;
+  return nullptr;
+}
+
+int TScript::TArbre::Place(const QString& nom) const {
+  for (std::size_t i = 0; i < Variables.size(); ++i)
+    if (Variables[i].Nom.compare(nom, Qt::CaseInsensitive) == 0) return static_cast<int>(i);
+  return -1;
+}
+
+TScript TScript::Lire(const QString& texte, int premiereLigne) {
+  TScript script;
+  script.arbre_ = std::make_shared<TArbre>();
+  script.Ajouter(texte, premiereLigne);
+  return script;
+}
+
+void TScript::Ajouter(const QString& texte, int premiereLigne) {
+  TAnalyseur(*arbre_, Lexemes(texte, premiereLigne)).Tout();
+}
+
+bool TScript::ConnaitProcedure(const QString& nom) const { return arbre_->Procedure(nom) != nullptr; }

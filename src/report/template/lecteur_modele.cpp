@@ -1,0 +1,385 @@
+#include <QDir>
+#include <QFile>
+#include <QSet>
+#include <QXmlStreamReader>
+
+#include "core/exceptions.h"
+#include "report/template/attributs.h"
+#include "report/template/modele.h"
+
+namespace {
+
+constexpr qint64 kTailleMaximum = 8 * 1024 * 1024;
+constexpr int kImageMaximum = 4000;  // pixels a side
+constexpr int kInclusionsImbriquees = 8;
+
+constexpr std::pair<const char*, TSorteBande> kSortesBande[] = {
+    {"entetePage", TSorteBande::EntetePage},
+    {"piedPage", TSorteBande::PiedPage},
+    {"maitre", TSorteBande::Maitre},
+    {"detail", TSorteBande::Detail},
+    {"sousDetail", TSorteBande::SousDetail},
+    {"entete", TSorteBande::Entete},
+    {"pied", TSorteBande::Pied},
+    {"colonnes", TSorteBande::Colonnes},
+    {"enteteColonnes", TSorteBande::EnteteColonnes},
+    {"resume", TSorteBande::Resume}};
+
+constexpr std::pair<const char*, TSorteObjet> kSortesObjet[] = {
+    {"texte", TSorteObjet::Texte}, {"texteRiche", TSorteObjet::TexteRiche},
+    {"trait", TSorteObjet::Trait}, {"cadre", TSorteObjet::Cadre},
+    {"image", TSorteObjet::Image}, {"code", TSorteObjet::CodeBarres},
+    {"qr", TSorteObjet::Qr},       {"sousRapport", TSorteObjet::SousRapport}};
+
+constexpr std::pair<const char*, TAlignement> kAlignements[] = {{"gauche", TAlignement::Gauche},
+                                                                {"droite", TAlignement::Droite},
+                                                                {"centre", TAlignement::Centre},
+                                                                {"bloc", TAlignement::Bloc}};
+
+constexpr std::pair<const char*, TTypeCode> kTypesCode[] = {{"code39", TTypeCode::Code39},
+                                                            {"codabar", TTypeCode::Codabar}};
+
+constexpr std::pair<const char*, TFamille> kFamilles[] = {{"carlito", TFamille::Carlito},
+                                                          {"mono", TFamille::LiberationMono}};
+
+struct TFichierModele {
+  QString nom;  // for messages
+  QByteArray octets;
+};
+
+TFichierModele OuvrirFichier(const QString& nom, const QString& dossier) {
+  const bool simple = !nom.isEmpty() && !nom.contains(u'/') && !nom.contains(u'\\') && !nom.startsWith(u'.');
+  if (!simple) throw Exception(QStringLiteral("« %1 » n'est pas un nom de modèle.").arg(nom));
+  QStringList chemins;
+  if (!dossier.isEmpty()) chemins += QDir(dossier).filePath(nom + QStringLiteral(".xml"));
+  chemins += QStringLiteral(":/modeles/") + nom + QStringLiteral(".xml");
+  for (const QString& chemin : chemins) {
+    QFile fichier(chemin);
+    if (!fichier.exists()) continue;
+    if (fichier.size() > kTailleMaximum)
+      throw Exception(QStringLiteral("Le modèle « %1 » est trop grand.").arg(chemin));
+    if (!fichier.open(QIODevice::ReadOnly))
+      throw Exception(
+          QStringLiteral("Le modèle « %1 » ne peut pas être lu : %2").arg(chemin, fichier.errorString()));
+    return {chemin.startsWith(u':') ? nom + QStringLiteral(".xml") : chemin, fichier.readAll()};
+  }
+  throw Exception(QStringLiteral("Le modèle « %1 » n'existe pas.").arg(nom));
+}
+
+/// Reads one file, and those that it includes, into a template.
+class TLecteurModele {
+ public:
+  TLecteurModele(TModele& modele, TFichierModele fichier, QString dossier, int profondeur)
+      : modele_(modele),
+        fichier_(std::move(fichier)),
+        dossier_(std::move(dossier)),
+        profondeur_(profondeur),
+        xml_(fichier_.octets) {}
+
+  void LireRacineModele() {
+    Racine("modele");
+    TAttributs attributs = Attributs();
+    modele_.Nom = attributs.Texte("nom");
+    attributs.Finir();
+    LireContenuModele();
+    VerifierLeTout();
+  }
+  /// A part that templates share: its content goes where it is included.
+  void LirePartie(TPageModele* page, TBandeModele* bande) {
+    Racine("partie");
+    Attributs().Finir();
+    if (bande != nullptr)
+      LireContenuBande(*page, *bande);
+    else if (page != nullptr)
+      LireContenuPage(*page);
+    else
+      LireContenuModele();
+    while (!xml_.atEnd()) Avancer();
+  }
+
+ private:
+  [[noreturn]] void Refuser(const QString& raison, qint64 ligne = 0) const {
+    throw Exception(QStringLiteral("%1, ligne %2 : %3.")
+                        .arg(fichier_.nom)
+                        .arg(ligne > 0 ? ligne : xml_.lineNumber())
+                        .arg(raison));
+  }
+  TAttributs Attributs() const {
+    return TAttributs(xml_, [this](const QString& raison) { Refuser(raison); });
+  }
+
+  void Avancer() {
+    xml_.readNext();
+    if (xml_.hasError())
+      Refuser(QStringLiteral("le texte n'est pas du XML correct (%1)").arg(xml_.errorString()));
+    if (xml_.isDTD()) Refuser(QStringLiteral("une déclaration de type n'a pas sa place dans un modèle"));
+  }
+  void Racine(const char* nom) {
+    while (!xml_.isStartElement()) Avancer();
+    if (xml_.name() != QLatin1String(nom))
+      Refuser(QStringLiteral("« %1 » est attendu, et non « %2 »").arg(QLatin1String(nom), xml_.name()));
+  }
+  /// Goes to the next child element; false at the end of the parent. Text between elements is refused.
+  bool Enfant() {
+    for (;;) {
+      Avancer();
+      if (xml_.isStartElement()) return true;
+      if (xml_.isEndElement()) return false;
+      if (xml_.isCharacters() && !xml_.isWhitespace())
+        Refuser(QStringLiteral("le texte « %1 » n'a pas sa place ici").arg(xml_.text().trimmed().left(40)));
+    }
+  }
+  QString Contenu() {
+    QString texte;
+    for (;;) {
+      Avancer();
+      if (xml_.isEndElement()) return texte;
+      if (xml_.isStartElement()) Refuser(QStringLiteral("« %1 » n'a pas sa place ici").arg(xml_.name()));
+      if (xml_.isCharacters()) texte += xml_.text();
+    }
+  }
+
+  void Inclure(TPageModele* page, TBandeModele* bande) {
+    TAttributs attributs = Attributs();
+    const QString nom = attributs.Texte("modele");
+    attributs.Finir();
+    if (profondeur_ >= kInclusionsImbriquees)
+      Refuser(QStringLiteral("trop de modèles s'incluent l'un l'autre"));
+    const qint64 ligne = xml_.lineNumber();
+    if (!Contenu().trimmed().isEmpty()) Refuser(QStringLiteral("« inclure » est vide"));
+    TFichierModele partie;
+    try {
+      partie = OuvrirFichier(nom, dossier_);
+    } catch (const Exception& e) {
+      Refuser(e.Message.chopped(1), ligne);
+    }
+    TLecteurModele(modele_, std::move(partie), dossier_, profondeur_ + 1).LirePartie(page, bande);
+  }
+
+  void LireContenuModele() {
+    while (Enfant()) {
+      if (xml_.name() == u"script")
+        LireScript();
+      else if (xml_.name() == u"page")
+        LirePage();
+      else if (xml_.name() == u"inclure")
+        Inclure(nullptr, nullptr);
+      else
+        Refuser(QStringLiteral("« %1 » n'a pas sa place dans un modèle").arg(xml_.name()));
+    }
+  }
+
+  void LireScript() {
+    Attributs().Finir();
+    const auto ligne = static_cast<int>(xml_.lineNumber());
+    const QString texte = Contenu();
+    try {
+      if (!modele_.Script) modele_.Script = TScript::Lire({});
+      modele_.Script->Ajouter(texte, ligne);
+    } catch (const EScript& e) {
+      throw Exception(QStringLiteral("%1, %2").arg(fichier_.nom, e.Message));
+    }
+  }
+
+  void LirePage() {
+    TPageModele page;
+    TAttributs a = Attributs();
+    page.Nom = a.Texte("nom");
+    page.Largeur = a.Nombre("largeur", page.Largeur);
+    page.Hauteur = a.Nombre("hauteur", page.Hauteur);
+    page.Marge = a.Nombre("marge", page.Marge);
+    page.SousRapport = a.OuiNon("sousRapport", false);
+    a.Finir();
+    if (page.Largeur <= 2 * page.Marge || page.Hauteur <= 2 * page.Marge || page.Marge < 0)
+      Refuser(QStringLiteral("la page n'a pas de place entre ses marges"));
+    LireContenuPage(page);
+    modele_.Pages.push_back(std::move(page));
+  }
+
+  void LireContenuPage(TPageModele& page) {
+    while (Enfant()) {
+      if (xml_.name() == u"bande")
+        LireBande(page);
+      else if (xml_.name() == u"inclure")
+        Inclure(&page, nullptr);
+      else
+        Refuser(QStringLiteral("« %1 » n'a pas sa place dans une page").arg(xml_.name()));
+    }
+  }
+
+  void LireBande(TPageModele& page) {
+    TBandeModele bande;
+    TAttributs a = Attributs();
+    bande.Ligne = static_cast<int>(xml_.lineNumber());
+    bande.Sorte = a.Choix("sorte", kSortesBande, true);
+    bande.Nom = a.Texte("nom");
+    bande.Hauteur = a.Nombre("hauteur", 0);
+    bande.Visible = a.OuiNon("visible", true);
+    bande.NouvellePage = a.OuiNon("nouvellePage", false);
+    bande.ImprimerSiVide = a.OuiNon("imprimerSiVide", false);
+    bande.GarderEnsemble = a.OuiNon("garderEnsemble", false);
+    bande.GarderEnfant = a.OuiNon("garderEnfant", false);
+    bande.Repeter = a.OuiNon("repeter", false);
+    bande.Etirable = a.OuiNon("etirable", false);
+    bande.DernierePage = a.OuiNon("dernierePage", false);
+    bande.PremierePageSans = a.OuiNon("premierePageSans", false);
+    bande.Colonnes = a.Entier("colonnes", 1);
+    bande.LargeurColonne = a.Nombre("largeurColonne", 0);
+    bande.Jeu = a.Texte("jeu");
+    bande.AvantImpression = a.Texte("avantImpression");
+    bande.Signet = a.Texte("signet");
+    bande.NiveauSignet = a.Entier("niveauSignet", 0);
+    a.Finir();
+    if (bande.Nom.isEmpty()) Refuser(QStringLiteral("une bande porte un nom"));
+    if (bande.Hauteur < 0 || bande.Hauteur > page.Hauteur - 2 * page.Marge)
+      Refuser(QStringLiteral("la bande « %1 » est plus haute que la page").arg(bande.Nom));
+    if (bande.Colonnes < 1 || bande.Colonnes > 20 || (bande.Colonnes > 1 && bande.LargeurColonne <= 0))
+      Refuser(QStringLiteral("les colonnes de la bande « %1 » ne sont pas décrites").arg(bande.Nom));
+    LireContenuBande(page, bande);
+    page.Bandes.push_back(std::move(bande));
+  }
+
+  void LireContenuBande(TPageModele& page, TBandeModele& bande) {
+    while (Enfant()) {
+      if (xml_.name() == u"inclure")
+        Inclure(&page, &bande);
+      else
+        LireObjet(bande);
+    }
+  }
+
+  void LireObjet(TBandeModele& bande) {
+    TObjetModele objet;
+    bool connu = false;
+    for (const auto& [nom, sorte] : kSortesObjet) {
+      if (xml_.name() != QLatin1String(nom)) continue;
+      objet.Sorte = sorte;
+      connu = true;
+    }
+    if (!connu) Refuser(QStringLiteral("« %1 » n'a pas sa place dans une bande").arg(xml_.name()));
+    TAttributs a = Attributs();
+    objet.Ligne = static_cast<int>(xml_.lineNumber());
+    objet.Nom = a.Texte("nom");
+    objet.X = a.Nombre("x", 0);
+    objet.Y = a.Nombre("y", 0);
+    objet.Largeur = a.Nombre("largeur", 0);
+    objet.Hauteur = a.Nombre("hauteur", 0);
+    objet.Visible = a.OuiNon("visible", true);
+    objet.AvantImpression = a.Texte("avantImpression");
+    objet.SousLaBande = a.OuiNon("sousLaBande", false);
+    objet.Couleur = a.Couleur("couleur", objet.Couleur);
+    LireTrace(objet, a);
+    const QString image = LireSelonSorte(objet, a);
+    a.Finir();
+    objet.Texte = Contenu();
+    if (objet.Sorte == TSorteObjet::Image) LireImage(objet, image);
+    if (objet.Largeur < 0 || objet.Hauteur < 0)
+      Refuser(QStringLiteral("un objet n'a pas de taille négative"));
+    bande.Objets.push_back(std::move(objet));
+  }
+
+  void LireTrace(TObjetModele& objet, TAttributs& a) const {
+    if (objet.Sorte != TSorteObjet::Trait && objet.Sorte != TSorteObjet::Cadre) return;
+    objet.Epaisseur = a.Nombre("epaisseur", 1);
+    if (objet.Sorte == TSorteObjet::Trait) objet.Tiret = a.Nombre("tiret", 0);
+    if (objet.Sorte == TSorteObjet::Cadre) {
+      objet.Fond = a.Couleur("fond", 0);
+      objet.FondBas = a.Couleur("fondBas", 0);
+    }
+  }
+
+  /// The attributes that only some kinds have; the name of a picture's file.
+  QString LireSelonSorte(TObjetModele& objet, TAttributs& a) const {
+    switch (objet.Sorte) {
+      case TSorteObjet::Texte:
+      case TSorteObjet::TexteRiche:
+        objet.Style.Famille = a.Choix("police", kFamilles);
+        objet.Style.Taille = a.Nombre("taille", objet.Style.Taille);
+        objet.Style.Gras = a.OuiNon("gras", false);
+        objet.Style.Italique = a.OuiNon("italique", false);
+        objet.Souligne = a.OuiNon("souligne", false);
+        objet.Alignement = a.Choix("alignement", kAlignements);
+        objet.Etirable = a.OuiNon("etirable", false);
+        objet.Balises = a.OuiNon("balises", objet.Sorte == TSorteObjet::TexteRiche);
+        objet.Interligne = a.Nombre("interligne", 0);
+        objet.GroupeAjuste = a.Texte("groupeAjuste");
+        if (objet.Style.Taille < 1 || objet.Style.Taille > 400)
+          Refuser(QStringLiteral("la taille des lettres va de 1 à 400"));
+        return {};
+      case TSorteObjet::CodeBarres:
+        objet.TypeCode = a.Choix("type", kTypesCode);
+        [[fallthrough]];
+      case TSorteObjet::Qr:
+        objet.Module = a.Nombre("module", objet.Module);
+        return {};
+      case TSorteObjet::Image:
+        return a.Texte("fichier");
+      default:
+        return {};
+    }
+  }
+
+  /// A picture stands in the file as base64, or beside the template under its name.
+  void LireImage(TObjetModele& objet, const QString& nom) const {
+    QByteArray octets = QByteArray::fromBase64(objet.Texte.toLatin1());
+    objet.Texte.clear();
+    if (!nom.isEmpty()) {
+      if (nom.contains(u'/') || nom.contains(u'\\'))
+        Refuser(QStringLiteral("« %1 » n'est pas un nom d'image").arg(nom));
+      QFile fichier(QDir(dossier_).filePath(nom));
+      if (dossier_.isEmpty() || !fichier.exists()) fichier.setFileName(QStringLiteral(":/modeles/") + nom);
+      if (!fichier.open(QIODevice::ReadOnly) || fichier.size() > kTailleMaximum)
+        Refuser(QStringLiteral("l'image « %1 » manque").arg(nom));
+      octets = fichier.readAll();
+    }
+    if (octets.isEmpty()) return;  // a place for a picture that the program gives
+    auto image = std::make_shared<QImage>();
+    if (!image->loadFromData(octets) || image->width() > kImageMaximum || image->height() > kImageMaximum)
+      Refuser(QStringLiteral("l'image ne peut pas être lue"));
+    objet.Image = std::move(image);
+  }
+
+  void VerifierLeTout() const {
+    QSet<QString> noms;
+    for (const TPageModele& page : modele_.Pages)
+      for (const TBandeModele& bande : page.Bandes) {
+        VerifierNom(noms, bande.Nom, bande.Ligne);
+        VerifierProcedure(bande.AvantImpression, bande.Ligne);
+        for (const TObjetModele& objet : bande.Objets) {
+          VerifierNom(noms, objet.Nom, objet.Ligne);
+          VerifierProcedure(objet.AvantImpression, objet.Ligne);
+        }
+      }
+    if (modele_.Pages.empty()) Refuser(QStringLiteral("le modèle n'a pas de page"));
+  }
+  void VerifierNom(QSet<QString>& noms, const QString& nom, int ligne) const {
+    if (nom.isEmpty()) return;
+    if (noms.contains(nom.toLower()))
+      Refuser(QStringLiteral("deux objets portent le nom « %1 »").arg(nom), ligne);
+    noms.insert(nom.toLower());
+  }
+  void VerifierProcedure(const QString& nom, int ligne) const {
+    if (nom.isEmpty()) return;
+    if (!modele_.Script || !modele_.Script->ConnaitProcedure(nom))
+      Refuser(QStringLiteral("la procédure « %1 » n'existe pas dans le script").arg(nom), ligne);
+  }
+
+  TModele& modele_;
+  const TFichierModele fichier_;
+  const QString dossier_;
+  const int profondeur_;
+  QXmlStreamReader xml_;
+};
+
+}  // namespace
+
+TModele LireModele(const QByteArray& xml, const QString& fichier, const QString& dossier) {
+  TModele modele;
+  TLecteurModele(modele, {fichier, xml}, dossier, 0).LireRacineModele();
+  return modele;
+}
+
+std::shared_ptr<const TModele> ChargerModele(const QString& nom, const QString& dossier) {
+  const TFichierModele fichier = OuvrirFichier(nom, dossier);
+  return std::make_shared<const TModele>(LireModele(fichier.octets, fichier.nom, dossier));
+}
