@@ -6,6 +6,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <atomic>
+#include <csignal>
 
 #include "core/exceptions.h"
 #include "core/firebird.h"
@@ -30,6 +31,35 @@ void PreparerVerrous() {
   qputenv("FIREBIRD_LOCK", QFile::encodeName(dossier));
 }
 
+#ifdef Q_OS_UNIX
+/// The embedded engine takes the interrupt signals of the process for itself, and then a program that
+/// waits cannot be stopped any more. It gets them back once the connection is open: every row that was
+/// stored stays, wherever the program ends.
+class TSignaux {
+ public:
+  TSignaux() {
+    for (std::size_t i = 0; i < std::size(kSignaux); ++i) sigaction(kSignaux[i], nullptr, &avant_[i]);
+  }
+  void Rendre() const {
+    for (std::size_t i = 0; i < std::size(kSignaux); ++i) sigaction(kSignaux[i], &avant_[i], nullptr);
+  }
+
+ private:
+  static constexpr int kSignaux[] = {SIGINT, SIGTERM};
+  struct sigaction avant_[std::size(kSignaux)] = {};
+};
+#else
+struct TSignaux {
+  void Rendre() const {}
+};
+#endif
+
+/// As they stood before the engine was first used.
+const TSignaux& SignauxDuProgramme() {
+  static const TSignaux signaux;
+  return signaux;
+}
+
 }  // namespace
 
 TDataModule1::TDataModule1(IDialogues& dialogues, TReglagesPoste& reglages)
@@ -37,6 +67,7 @@ TDataModule1::TDataModule1(IDialogues& dialogues, TReglagesPoste& reglages)
   static std::atomic<int> numero{0};
   connexion_ = QStringLiteral("UniConnection%1").arg(++numero);
   PreparerVerrous();
+  SignauxDuProgramme();
 }
 
 TDataModule1::~TDataModule1() { Deconnecter(); }
@@ -147,7 +178,9 @@ void TDataModule1::Ouvrir(const QString& hote, const QString& base) {
   connexion.setUserName(kUtilisateur);
   connexion.setPassword(kMotDePasse);
   connexion.setConnectOptions(QStringLiteral("ISC_DPB_LC_CTYPE=UTF8"));
-  if (connexion.open()) return;
+  const bool ouverte = connexion.open();
+  SignauxDuProgramme().Rendre();
+  if (ouverte) return;
   const QString texte = connexion.lastError().text();
   connexion = QSqlDatabase();
   Deconnecter();

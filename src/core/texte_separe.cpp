@@ -73,6 +73,7 @@ TTexteSepare TTexteSepare::Lire(const QString& chemin) {
   const QFileInfo infos(chemin);
   if (!infos.exists()) throw Exception(QStringLiteral("Le fichier « %1 » n'existe pas.").arg(chemin));
   if (infos.isDir()) throw Exception(QStringLiteral("« %1 » est un dossier et non un fichier.").arg(chemin));
+  if (!infos.isFile()) throw Exception(QStringLiteral("« %1 » n'est pas un fichier ordinaire.").arg(chemin));
   if (infos.size() > kTailleMaximum)
     throw Exception(QStringLiteral("Le fichier « %1 » est trop grand (plus de 64 Mo) : ce n'est pas le bon "
                                    "fichier.")
