@@ -46,8 +46,8 @@ using TLignes = std::vector<const TTarifGarderie*>;
 /// Sorted by that time; of rows that share it only the first stays.
 void Ranger(TLignes& lignes, TDateTime TTarifGarderie::*heure) {
   std::ranges::stable_sort(lignes, {}, heure);
-  const auto [debut, fin] = std::ranges::unique(lignes, {}, heure);
-  lignes.erase(debut, fin);
+  const auto meme = [heure](const auto* a, const auto* b) { return a->*heure == b->*heure; };
+  lignes.erase(std::unique(lignes.begin(), lignes.end(), meme), lignes.end());
 }
 
 }  // namespace
