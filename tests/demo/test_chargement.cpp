@@ -1,0 +1,80 @@
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "demo/chargement.h"
+#include "demo/terminal.h"
+#include "workflows/import_presences.h"
+#include "workflows/import_registre.h"
+
+namespace {
+
+/// A tenth of the school, loaded into a database of its own.
+struct TEcoleChargee {
+  TEcoleChargee() {
+    Base.ServerName = Dossier.filePath(QStringLiteral("ecole.fdb"));
+    Base.Connecter();
+    Base.Deconnecter();
+    Base.EcrituresForcees(false);
+    Base.Connecter();
+    Bilan = TChargement(Controleur, Ecole, Dossier.path()).Tout();
+  }
+  ~TEcoleChargee() { Globals = {}; }
+
+  TBilanRegistre Registre(const QString& disposition, const QString& fichier) {
+    Globals.Parametres->SetParametre(6, disposition);
+    TImportRegistre import(Controleur);
+    EXPECT_TRUE(import.Etape1(fichier));
+    return import.Etape2();
+  }
+
+  QTemporaryDir Dossier;
+  const TEcoleExemple Ecole = CreerEcoleExemple(5, true);
+  TDialoguesDemo Dialogues;
+  TReglagesPoste Reglages;
+  TDataModule1 Base{Dialogues, Reglages};
+  IFenetrePrincipale Fenetre;
+  THorloge Horloge;
+  TControleur Controleur{Base, Reglages, Fenetre, Horloge};
+  TBilanChargement Bilan;
+};
+
+QString Petit(const char* nom) { return QStringLiteral(CALPENNE_PETITS "/") + QString::fromLatin1(nom); }
+
+}  // namespace
+
+TEST(Chargement, LesImportsAcceptentToutCeQuiEstEcrit) {
+  TEcoleChargee ecole;
+  EXPECT_EQ(Globals.Eleves->NombreEleves(), 54);  // and the staff
+  EXPECT_TRUE(Globals.Eleves->PlusieursImplantations());
+  EXPECT_LT(ecole.Bilan.Anomalies, ecole.Bilan.LignesPresences / 50);
+  EXPECT_GT(ecole.Bilan.Presences, ecole.Bilan.LignesPresences * 95 / 100);
+
+  // Most pupils owe for October what a family expects to owe, and nobody owes less than nothing.
+  int attendus = 0;
+  for (const TEleve& eleve : *Globals.Eleves) {
+    const Currency montant = eleve.CoutServicesPeriode(BornesMois(10, 2016));
+    EXPECT_GE(montant, Currency());
+    attendus += montant > Currency::Euros(5) && montant < Currency::Euros(90) ? 1 : 0;
+  }
+  EXPECT_GT(attendus, 35);
+
+  // The second layout carries the same pupils, and those who have left are dropped.
+  const auto bilan = ecole.Registre(QStringLiteral("2"),
+                                    ecole.Dossier.filePath(QStringLiteral("registre-disposition-2.csv")));
+  EXPECT_EQ(bilan.Lignes, 50);
+  EXPECT_EQ(bilan.Crees, 0);
+
+  // The small files give what the text beside them announces.
+  EXPECT_EQ(ecole.Registre({}, Petit("registre-disposition-1.csv")).Crees, 12);
+  const int avant = Globals.Presences->Count();
+  TImportPresences import(ecole.Controleur);
+  import.ImporterFichier(Petit("presences-centre-04-10.txt"));
+  EXPECT_EQ(import.Bons().size(), 12U);
+  EXPECT_EQ(import.Anomalies().size(), 8U);
+  import.Etape2();
+  EXPECT_EQ(Globals.Presences->Count() - avant, 8);
+  const auto second = ecole.Registre(QStringLiteral("2"), Petit("registre-disposition-2.csv"));
+  EXPECT_EQ(second.Crees, 1);
+  EXPECT_EQ(second.Modifies, 10);
+}
