@@ -84,6 +84,7 @@ bool TDataModule1::EstConnecte() const {
 
 void TDataModule1::Deconnecter() {
   if (!QSqlDatabase::contains(connexion_)) return;
+  compteurs_.reset();
   UniConnection1().close();
   QSqlDatabase::removeDatabase(connexion_);
 }
@@ -189,12 +190,14 @@ void TDataModule1::Ouvrir(const QString& hote, const QString& base) {
 
 int TDataModule1::GetNextId(const QString& counterName) {
   try {
-    const int cle = Firebird::ProchaineCle(Attache(), counterName);
+    if (!compteurs_) compteurs_ = std::make_unique<Firebird::TCompteurs>(Attache());
+    const int cle = compteurs_->ProchaineCle(counterName);
     if (cle == -1)
       dialogues_.Message(QStringLiteral("Le compteur de table ") + counterName +
                          QStringLiteral(" n'existe pas !"));
     return cle;
   } catch (const Exception& e) {
+    compteurs_.reset();  // what went wrong may be in its statements
     dialogues_.Message(e.Message);
     return -1;
   }

@@ -2,9 +2,14 @@
 #include <QSqlDatabase>
 #include <QString>
 #include <QVariant>
+#include <memory>
 
 #include "core/dialogues.h"
 #include "core/reglages_poste.h"
+
+namespace Firebird {
+class TCompteurs;
+}
 
 /// The one connection of the program, the allocator of row keys and the runner of SQL scripts.
 class TDataModule1 {
@@ -61,6 +66,7 @@ class TDataModule1 {
   IDialogues& dialogues_;
   TReglagesPoste& reglages_;
   QString connexion_;
+  std::unique_ptr<Firebird::TCompteurs> compteurs_;  // of the open connection
 };
 
 /// `GetNextId` on the given module.

@@ -42,35 +42,47 @@ void EcrituresForcees(const QString& chemin, bool forcees) {
   Verifier(statut, chemin);
 }
 
-int ProchaineCle(const QVariant& attache, const QString& compteur) {
-  const isc_db_handle base = Attache(attache);
-  TTransaction transaction(base, true);
+struct TCompteurs::TInterne {
+  explicit TInterne(isc_db_handle attache) : base(attache) {}
+
   // The table is known by the place of its columns, not by their names.
-  QByteArray cle, valeur;
-  {
-    TInstruction colonnes(base, transaction, "SELECT * FROM COUNTERS");
+  void Preparer(TTransaction& transaction) {
+    if (ajout) return;
+    const TInstruction colonnes(base, transaction, "SELECT * FROM COUNTERS");
     if (colonnes.Champs().size() < 2)
       throw Exception(QStringLiteral("La table COUNTERS n'a pas deux colonnes."));
-    cle = '"' + colonnes.Champs()[0].nom + '"';
-    valeur = '"' + colonnes.Champs()[1].nom + '"';
-  }
-  const QByteArray nom = compteur.toUtf8();
-  {
+    const QByteArray cle = '"' + colonnes.Champs()[0].nom + '"';
+    const QByteArray valeur = '"' + colonnes.Champs()[1].nom + '"';
     // Waiting here, and not at the update, is what lets eight workstations in without a failure.
-    TInstruction verrou(base, transaction, "SELECT 1 FROM COUNTERS WHERE " + cle + " = ? WITH LOCK");
-    verrou.Executer(&nom);
-    if (!verrou.Suivant()) return -1;
+    verrou = std::make_unique<TInstruction>(base, transaction,
+                                            "SELECT 1 FROM COUNTERS WHERE " + cle + " = ? WITH LOCK");
+    ajout = std::make_unique<TInstruction>(base, transaction,
+                                           "UPDATE COUNTERS SET " + valeur + " = COALESCE(" + valeur +
+                                               ", 0) + 1 WHERE " + cle + " = ? RETURNING " + valeur);
   }
-  std::int64_t resultat = 0;
-  {
-    TInstruction ajout(base, transaction,
-                       "UPDATE COUNTERS SET " + valeur + " = COALESCE(" + valeur + ", 0) + 1 WHERE " + cle +
-                           " = ? RETURNING " + valeur);
-    ajout.ExecuterUneLigne(nom);
-    resultat = Entier(ajout.Champs()[0]);
-  }
+
+  isc_db_handle base;
+  std::unique_ptr<TInstruction> verrou, ajout;
+};
+
+TCompteurs::TCompteurs(const QVariant& attache) : d_(std::make_unique<TInterne>(Attache(attache))) {}
+
+TCompteurs::~TCompteurs() = default;
+
+int TCompteurs::ProchaineCle(const QString& compteur) {
+  TTransaction transaction(d_->base, true);
+  d_->Preparer(transaction);
+  const QByteArray nom = compteur.toUtf8();
+  d_->verrou->Dans(transaction);
+  d_->verrou->Executer(&nom);
+  const bool existe = d_->verrou->Suivant();
+  d_->verrou->Fermer();
+  if (!existe) return -1;
+  d_->ajout->Dans(transaction);
+  d_->ajout->ExecuterUneLigne(nom);
+  const auto resultat = static_cast<int>(Entier(d_->ajout->Champs()[0]));
   transaction.Valider();
-  return static_cast<int>(resultat);
+  return resultat;
 }
 
 }  // namespace Firebird

@@ -1,7 +1,7 @@
 #pragma once
 #include <QString>
 #include <QVariant>
-#include <cstdint>
+#include <memory>
 
 // What Qt's driver cannot do and the client library can. `attache` is QSqlDriver::handle().
 
@@ -14,10 +14,24 @@ void CreerBase(const QString& chemin);
 /// stays in the file. Raises Exception.
 void EcrituresForcees(const QString& chemin, bool forcees);
 
-/// Adds one to the counter in a short transaction of its own, which waits for the other
-/// workstations instead of failing, and returns the new value; -1 when the counter does not exist.
-/// Raises Exception with the engine's message.
-int ProchaineCle(const QVariant& attache, const QString& compteur);
+/// The counters of one connection. Each key is taken in a short transaction of its own, which waits for
+/// the other workstations instead of failing; the statements stay prepared from one key to the next.
+class TCompteurs {
+ public:
+  /// `attache` must stay open as long as the object.
+  explicit TCompteurs(const QVariant& attache);
+  ~TCompteurs();
+  TCompteurs(const TCompteurs&) = delete;
+  TCompteurs& operator=(const TCompteurs&) = delete;
+
+  /// Adds one to the counter and returns the new value; -1 when the counter does not exist. Raises
+  /// Exception with the engine's message.
+  int ProchaineCle(const QString& compteur);
+
+ private:
+  struct TInterne;
+  std::unique_ptr<TInterne> d_;
+};
 
 }  // namespace Firebird
 

@@ -75,11 +75,11 @@ void TTransaction::Valider() {
 }
 
 TInstruction::TInstruction(isc_db_handle base, TTransaction& transaction, const QByteArray& sql)
-    : transaction_(transaction), resultat_(Tampon(40)) {
+    : transaction_(&transaction), resultat_(Tampon(40)) {
   ISC_STATUS_ARRAY statut;
   isc_dsql_allocate_statement(statut, &base, &poignee_);
   Verifier(statut);
-  isc_dsql_prepare(statut, transaction_.Poignee(), &poignee_, 0, sql.constData(), kDialecte, Resultat());
+  isc_dsql_prepare(statut, transaction_->Poignee(), &poignee_, 0, sql.constData(), kDialecte, Resultat());
   Verifier(statut);
   DecrireResultat();
 }
@@ -114,9 +114,9 @@ void TInstruction::Executer(const QByteArray* parametre) {
   ISC_STATUS_ARRAY statut;
   if (parametre != nullptr) {
     TParametreTexte texte(*parametre);
-    isc_dsql_execute(statut, transaction_.Poignee(), &poignee_, kDialecte, texte.Sqlda());
+    isc_dsql_execute(statut, transaction_->Poignee(), &poignee_, kDialecte, texte.Sqlda());
   } else {
-    isc_dsql_execute(statut, transaction_.Poignee(), &poignee_, kDialecte, nullptr);
+    isc_dsql_execute(statut, transaction_->Poignee(), &poignee_, kDialecte, nullptr);
   }
   Verifier(statut);
 }
@@ -124,8 +124,13 @@ void TInstruction::Executer(const QByteArray* parametre) {
 void TInstruction::ExecuterUneLigne(const QByteArray& parametre) {
   TParametreTexte texte(parametre);
   ISC_STATUS_ARRAY statut;
-  isc_dsql_execute2(statut, transaction_.Poignee(), &poignee_, kDialecte, texte.Sqlda(), Resultat());
+  isc_dsql_execute2(statut, transaction_->Poignee(), &poignee_, kDialecte, texte.Sqlda(), Resultat());
   Verifier(statut);
+}
+
+void TInstruction::Fermer() {
+  ISC_STATUS_ARRAY statut;
+  isc_dsql_free_statement(statut, &poignee_, DSQL_close);
 }
 
 bool TInstruction::Suivant() {

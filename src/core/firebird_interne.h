@@ -47,6 +47,10 @@ class TInstruction {
   TInstruction(const TInstruction&) = delete;
   TInstruction& operator=(const TInstruction&) = delete;
 
+  /// From now on runs in that transaction; a statement outlives the one that it was prepared in.
+  void Dans(TTransaction& transaction) { transaction_ = &transaction; }
+  /// Ends a select before its rows do, so that it can run again.
+  void Fermer();
   /// Runs the statement; `parametre`, when given, is its one text parameter.
   void Executer(const QByteArray* parametre = nullptr);
   /// Runs a statement that gives exactly one row.
@@ -59,7 +63,7 @@ class TInstruction {
   XSQLDA* Resultat() { return reinterpret_cast<XSQLDA*>(resultat_.data()); }
   void DecrireResultat();
 
-  TTransaction& transaction_;
+  TTransaction* transaction_;
   isc_stmt_handle poignee_ = 0;
   std::vector<char> resultat_;
   std::vector<TChamp> champs_;
