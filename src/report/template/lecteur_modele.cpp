@@ -300,7 +300,7 @@ class TLecteurModele {
         objet.Souligne = a.OuiNon("souligne", false);
         objet.Alignement = a.Choix("alignement", kAlignements);
         objet.Etirable = a.OuiNon("etirable", false);
-        objet.Balises = a.OuiNon("balises", objet.Sorte == TSorteObjet::TexteRiche);
+        objet.Balises = a.OuiNon("balises", false);
         objet.Interligne = a.Nombre("interligne", 0);
         objet.GroupeAjuste = a.Texte("groupeAjuste");
         if (objet.Style.Taille < 1 || objet.Style.Taille > 400)
@@ -308,11 +308,11 @@ class TLecteurModele {
         return {};
       case TSorteObjet::CodeBarres:
         objet.TypeCode = a.Choix("type", kTypesCode);
-        [[fallthrough]];
-      case TSorteObjet::Qr:
+        objet.Alignement = a.Choix("alignement", kAlignements);
         objet.Module = a.Nombre("module", objet.Module);
         return {};
       case TSorteObjet::Image:
+        objet.Alignement = a.Choix("alignement", kAlignements);
         return a.Texte("fichier");
       default:
         return {};

@@ -44,7 +44,7 @@ struct TObjetModele {
   TAlignement Alignement = TAlignement::Gauche;
   QRgb Couleur = 0xFF000000;
   bool Etirable = false;  ///< grows with its text
-  bool Balises = false;   ///< <b>, <i>, <u> inside values count
+  bool Balises = false;   ///< <b>, <i>, <u> inside values count; in the text itself they also do in rich text
   float Interligne = 0;   ///< px; 0 is the type's own
   float Epaisseur = 1;
   float Tiret = 0;

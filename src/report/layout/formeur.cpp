@@ -1,0 +1,208 @@
+#include "report/layout/formeur.h"
+
+#include <QSet>
+#include <algorithm>
+
+#include "report/layout/codes_barres.h"
+
+/// A visible object with its place on the band.
+struct TFormeur::TObjetPret {
+  const TObjetModele* Modele;
+  TEtatObjet Etat;  ///< Y and Hauteur follow the stretching
+  TParagraphe Paragraphe;
+};
+
+namespace {
+
+bool EstTexte(const TObjetModele& objet) {
+  return objet.Sorte == TSorteObjet::Texte || objet.Sorte == TSorteObjet::TexteRiche;
+}
+
+QRectF Rectangle(float x, float y, float largeur, float hauteur) {
+  return QRectF(static_cast<qreal>(x), static_cast<qreal>(y), static_cast<qreal>(largeur),
+                static_cast<qreal>(hauteur));
+}
+
+bool AvecNumeros(const QString& texte) { return texte.contains(kMarquePage) || texte.contains(kMarqueTotal); }
+
+/// One stands below the other, at least in part.
+bool SousLui(const TObjetModele& dessus, const TObjetModele& dessous) {
+  return dessous.Y >= dessus.Y + dessus.Hauteur && dessous.X < dessus.X + dessus.Largeur &&
+         dessus.X < dessous.X + dessous.Largeur;
+}
+
+}  // namespace
+
+TResolveur TFormeur::Resolveur() const {
+  return [this](const QString& nom) { return contexte_.Valeur(nom); };
+}
+
+QString TFormeur::Texte(const TObjetModele& objet, const TEtatObjet& etat) const {
+  return etat.Texte ? *etat.Texte : RemplacerNoms(objet.Texte, Resolveur());
+}
+
+TParagraphe TFormeur::Composer(const TObjetModele& objet, const TEtatObjet& etat) const {
+  const TMorceau debut{{}, objet.Style.Gras, objet.Style.Italique, objet.Souligne};
+  const bool riche = objet.Sorte == TSorteObjet::TexteRiche;
+  const TBalises balises{riche || objet.Balises, objet.Balises};
+  // What a script set is a value: it stands where a name would.
+  const auto morceaux =
+      etat.Texte ? Remplacer(
+                       QStringLiteral("[]"), [&](const QString&) { return *etat.Texte; }, balises, debut)
+                 : Remplacer(objet.Texte, Resolveur(), balises, debut);
+  return MettreEnLignes(morceaux, objet, etat.Largeur, etat.Hauteur);
+}
+
+std::vector<TFormeur::TObjetPret> TFormeur::Preparer(const TBandeModele& bande) {
+  // All procedures go first: one may set what another object shows.
+  for (const TObjetModele& objet : bande.Objets) contexte_.Appeler(objet.AvantImpression, objet.Nom, bande);
+  std::vector<TObjetPret> objets;
+  for (const TObjetModele& objet : bande.Objets) {
+    const TEtatObjet& etat = contexte_.Etats.De(objet);
+    if (!etat.Visible) continue;
+    objets.push_back({&objet, etat, EstTexte(objet) ? Composer(objet, etat) : TParagraphe()});
+  }
+  ChoisirAjustes(objets);
+  return objets;
+}
+
+void TFormeur::ChoisirAjustes(std::vector<TObjetPret>& objets) const {
+  QSet<QString> finis;
+  for (std::size_t i = 0; i < objets.size();) {
+    const QString& groupe = objets[i].Modele->GroupeAjuste;
+    const bool dernier = std::none_of(objets.begin() + static_cast<std::ptrdiff_t>(i) + 1, objets.end(),
+                                      [&](const TObjetPret& o) { return o.Modele->GroupeAjuste == groupe; });
+    const bool tient = !objets[i].Paragraphe.Deborde && !objets[i].Paragraphe.MotCoupe;
+    const bool garder = groupe.isEmpty() || (!finis.contains(groupe) && (tient || dernier));
+    if (garder && !groupe.isEmpty()) finis.insert(groupe);
+    if (garder)
+      ++i;
+    else
+      objets.erase(objets.begin() + static_cast<std::ptrdiff_t>(i));
+  }
+}
+
+/// Moves what stands below a text that grew; gives by how much the band grows.
+float TFormeur::Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objets) const {
+  std::vector<TObjetPret*> ordre;
+  for (TObjetPret& objet : objets) ordre.push_back(&objet);
+  std::ranges::stable_sort(ordre, {}, [](const TObjetPret* o) { return o->Modele->Y; });
+  const float hauteur = contexte_.Etats.De(bande).Hauteur;
+  float bas = hauteur;
+  std::unordered_map<const TObjetPret*, float> pousse;  // how much lower its foot came
+  for (const TObjetPret* objet : ordre) pousse[objet] = 0;
+  for (std::size_t i = 0; i < ordre.size(); ++i) {
+    TObjetPret& objet = *ordre[i];
+    if (objet.Modele->SousLaBande) continue;
+    float plus = 0;
+    for (std::size_t j = 0; j < i; ++j)
+      if (SousLui(*ordre[j]->Modele, *objet.Modele)) plus = std::max(plus, pousse[ordre[j]]);
+    const float grandi =
+        objet.Modele->Etirable ? std::max(0.0F, objet.Paragraphe.Hauteur() - objet.Etat.Hauteur) : 0.0F;
+    objet.Etat.Y += plus;
+    objet.Etat.Hauteur += grandi;
+    pousse[&objet] = plus + grandi;
+    if (plus + grandi > 0) bas = std::max(bas, objet.Etat.Y + objet.Etat.Hauteur);
+  }
+  return bande.Etirable ? bas - hauteur : 0;
+}
+
+std::optional<TBandeFormee> TFormeur::Former(const TBandeModele& bande) {
+  contexte_.Appeler(bande.AvantImpression, bande.Nom, bande);
+  const TEtatObjet& etat = contexte_.Etats.De(bande);
+  if (!etat.Visible) return {};
+  TBandeFormee formee;
+  formee.Modele = &bande;
+  formee.Position = contexte_.Position;
+  std::vector<TObjetPret> objets = Preparer(bande);
+  const float croissance = Etirer(bande, objets);
+  formee.Hauteur = etat.Hauteur + croissance;
+  if (qAlpha(etat.Fond) > 0) {
+    const QRectF place = Rectangle(0, 0, etat.Largeur, formee.Hauteur);
+    formee.Elements.emplace_back(TElementCadre{place, 0, 0, etat.Fond, 0});
+  }
+  for (TObjetPret& objet : objets) {
+    if (objet.Modele->SousLaBande) objet.Etat.Y += croissance;
+    Dessiner(bande, objet, formee);
+  }
+  if (!bande.Signet.isEmpty())
+    formee.Signets.push_back({RemplacerNoms(bande.Signet, Resolveur()), bande.NiveauSignet});
+  return formee;
+}
+
+void TFormeur::Dessiner(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee) {
+  const TObjetModele& modele = *objet.Modele;
+  const TEtatObjet& etat = objet.Etat;
+  switch (modele.Sorte) {
+    case TSorteObjet::Texte:
+    case TSorteObjet::TexteRiche:
+      return DessinerTexte(bande, objet, formee);
+    case TSorteObjet::Trait:
+      formee.Elements.emplace_back(TElementTrait{modele.X, etat.Y, modele.X + etat.Largeur,
+                                                 etat.Y + etat.Hauteur, modele.Epaisseur, modele.Couleur,
+                                                 modele.Tiret});
+      return;
+    case TSorteObjet::Cadre:
+      formee.Elements.emplace_back(TElementCadre{Rectangle(modele.X, etat.Y, etat.Largeur, etat.Hauteur),
+                                                 modele.Epaisseur, modele.Couleur, etat.Fond,
+                                                 modele.FondBas});
+      return;
+    case TSorteObjet::Image:
+      return DessinerImage(objet, formee);
+    case TSorteObjet::CodeBarres:
+    case TSorteObjet::Qr:
+      return DessinerCode(bande, objet, formee);
+    case TSorteObjet::SousRapport:
+      return;  // its bands follow this one
+  }
+}
+
+void TFormeur::DessinerTexte(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee) {
+  const TObjetModele& modele = *objet.Modele;
+  const TParagraphe& paragraphe = objet.Paragraphe;
+  if (qAlpha(objet.Etat.Fond) > 0)
+    formee.Elements.emplace_back(TElementCadre{
+        Rectangle(modele.X, objet.Etat.Y, objet.Etat.Largeur, objet.Etat.Hauteur), 0, 0, objet.Etat.Fond, 0});
+  if (paragraphe.Deborde && !modele.Etirable)
+    contexte_.Noter(bande, modele.Nom, QStringLiteral("un texte est plus grand que sa place."));
+  for (std::size_t ligne = 0; ligne < paragraphe.Lignes.size(); ++ligne)
+    for (const TSegment& segment : paragraphe.Lignes[ligne]) {
+      if (AvecNumeros(segment.Forme->Texte)) {
+        TStyle style = modele.Style;
+        formee.Numeros.push_back({formee.Elements.size(), segment.Forme->Texte, style, modele.Alignement,
+                                  modele.X, objet.Etat.Largeur});
+      }
+      formee.Elements.emplace_back(TElementTexte{segment.Forme, modele.X + segment.X,
+                                                 objet.Etat.Y + paragraphe.Base(ligne), modele.Couleur,
+                                                 segment.Souligne});
+    }
+}
+
+/// In proportion, at the top of its place.
+void TFormeur::DessinerImage(const TObjetPret& objet, TBandeFormee& formee) const {
+  std::shared_ptr<const QImage> image = objet.Modele->Image;
+  if (auto donnee = contexte_.Rapport.Image(objet.Modele->Nom, contexte_.Position))
+    image = std::make_shared<const QImage>(std::move(*donnee));
+  if (!image || image->isNull()) return;
+  const QSizeF taille = QSizeF(image->size())
+                            .scaled(static_cast<qreal>(objet.Etat.Largeur),
+                                    static_cast<qreal>(objet.Etat.Hauteur), Qt::KeepAspectRatio);
+  qreal x = static_cast<qreal>(objet.Modele->X);
+  const qreal reste = static_cast<qreal>(objet.Etat.Largeur) - taille.width();
+  if (objet.Modele->Alignement == TAlignement::Droite) x += reste;
+  if (objet.Modele->Alignement == TAlignement::Centre) x += reste / 2;
+  formee.Elements.emplace_back(
+      TElementImage{QRectF(QPointF(x, static_cast<qreal>(objet.Etat.Y)), taille), std::move(image)});
+}
+
+void TFormeur::DessinerCode(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee) {
+  const TObjetModele& modele = *objet.Modele;
+  const QString texte = Texte(modele, objet.Etat);
+  if (texte.isEmpty()) return;
+  const QRectF place = Rectangle(modele.X, objet.Etat.Y, objet.Etat.Largeur, objet.Etat.Hauteur);
+  TCodeDessine code = modele.Sorte == TSorteObjet::Qr ? DessinerQr(texte, place)
+                                                      : ::DessinerCode(objet.Etat.TypeCode, texte, place,
+                                                                       modele.Module, modele.Alignement);
+  if (!code.Defaut.isEmpty()) contexte_.Noter(bande, modele.Nom, code.Defaut);
+  if (!code.Barres.Barres.empty()) formee.Elements.emplace_back(std::move(code.Barres));
+}

@@ -1,0 +1,28 @@
+#pragma once
+#include "report/layout/bande_formee.h"
+#include "report/layout/contexte_impression.h"
+#include "report/layout/paragraphe.h"
+
+/// Makes bands: runs their procedures, puts values in, breaks texts and stretches.
+class TFormeur {
+ public:
+  explicit TFormeur(TContexteImpression& contexte) : contexte_(contexte) {}
+
+  /// None when the band is hidden, perhaps by its own procedure.
+  std::optional<TBandeFormee> Former(const TBandeModele& bande);
+
+ private:
+  struct TObjetPret;
+  std::vector<TObjetPret> Preparer(const TBandeModele& bande);
+  void ChoisirAjustes(std::vector<TObjetPret>& objets) const;
+  float Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objets) const;
+  void Dessiner(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee);
+  void DessinerTexte(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee);
+  void DessinerImage(const TObjetPret& objet, TBandeFormee& formee) const;
+  void DessinerCode(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee);
+  TParagraphe Composer(const TObjetModele& objet, const TEtatObjet& etat) const;
+  QString Texte(const TObjetModele& objet, const TEtatObjet& etat) const;
+  TResolveur Resolveur() const;
+
+  TContexteImpression& contexte_;
+};

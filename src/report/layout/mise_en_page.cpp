@@ -1,0 +1,21 @@
+#include "report/layout/mise_en_page.h"
+
+#include "report/layout/moteur.h"
+
+TMiseEnPage::TMiseEnPage(const TRapport& rapport, const TModele& modele, const TImpression& impression)
+    : contexte_(rapport, modele, impression, document_.Defauts),
+      moteur_(std::make_unique<TMoteur>(contexte_, document_)) {
+  document_.Titre = rapport.Titre();
+  for (const QString& manque : TPolices::Communes().Manques()) document_.Defauts.push_back({{}, {}, manque});
+}
+
+TMiseEnPage::~TMiseEnPage() = default;
+
+bool TMiseEnPage::Continuer() { return moteur_->Continuer(); }
+
+TDocumentPrepare MettreEnPage(const TRapport& rapport, const TModele& modele, const TImpression& impression) {
+  TMiseEnPage miseEnPage(rapport, modele, impression);
+  while (miseEnPage.Continuer()) {
+  }
+  return miseEnPage.Prendre();
+}
