@@ -81,7 +81,7 @@ void Executer(const QCommandLineParser& options, IDialogues& dialogues) {
     throw Exception(u"Le fichier « " % fichier % u" » existe déjà : choisissez-en un autre.");
   base.Connecter();
   const TSansEcrituresForcees sansAttente(base);
-  IFenetrePrincipale sansFenetre;
+  TSansFenetre sansFenetre;
   const THorloge horloge;
   TControleur controleur(base, reglages, sansFenetre, horloge);
   const TLiberation liberation;

@@ -26,9 +26,7 @@ TPeriode Periode(const TSession& session) {
   const QString choix = UneSeule(session, {Nom("mois"), Nom("du"), Nom("annee-scolaire")});
   if (choix == u"du") return {StrToDate(session.Option(Nom("du"))), StrToDate(session.Option(Nom("au")))};
   if (choix == u"annee-scolaire") return BornesAnnee(annee);
-  const int mois = StrToInt(session.Option(Nom("mois")));
-  if (mois < 1 || mois > 12) throw Exception(QStringLiteral("Le mois est un nombre de 1 à 12."));
-  return BornesMois(mois, annee);
+  return BornesMois(session.Mois(), annee);
 }
 
 void ChoisirClasses(const QStringList& noms, TChoixDocument& choix) {
@@ -85,8 +83,10 @@ int CommandeDocument(TSession& session) {
   const TPeriode periode = avecPeriode ? Periode(session) : BornesAnnee(Globals.Eleves->AnneeScolaire);
   choix.DateDebut = periode.Premier;
   choix.DateFin = periode.Dernier;
-  if (session.Options.isSet(Nom("date-paiement")) && DemandeDatePaiement(choix.Indice, *Globals.Parametres))
-    choix.DatePaiement = StrToDate(session.Option(Nom("date-paiement")));
+  if (session.Options.isSet(Nom("date-paiement"))) {
+    const TDateTime date = StrToDate(session.Option(Nom("date-paiement")));
+    if (DemandeDatePaiement(choix.Indice, *Globals.Parametres)) choix.DatePaiement = date;
+  }
 
   const TResultat resultat = FaireDocument(ContexteDesGlobals(), choix);
   for (const QString& message : resultat.Messages) session.Dialogues.Message(message);

@@ -6,6 +6,7 @@
 #include "core/calendrier_scolaire.h"
 #include "core/conversions.h"
 #include "core/exceptions.h"
+#include "core/formats.h"
 #include "pupils/service.h"
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
@@ -13,16 +14,9 @@
 namespace {
 
 int Creer(TSession& session) {
-  session.Base.ServerName = session.Options.value(QStringLiteral("serveur"));
-  const QString fichier = session.Base.FichierLocal();
-  const bool existait = fichier.isEmpty() || QFile::exists(fichier);
-  session.Connecter();
-  if (existait) {
-    session.Base.MettreAJour();
-    session.Dialogues.Information(QStringLiteral("Votre base de données est à jour !"));
-  } else {
-    session.Dialogues.Information(QStringLiteral("La base de données « %1 » est créée.").arg(fichier));
-  }
+  if (session.Connecter()) return 0;
+  session.Base.CreerTables();
+  session.Dialogues.Information(QStringLiteral("Votre base de données est à jour !"));
   return 0;
 }
 
@@ -34,7 +28,7 @@ int Parametre(TSession& session) {
     parametres.SetParametre(id, session.Arguments[1]);
     parametres.Save();
   }
-  QTextStream(stdout) << parametres.GetParametre(id) << '\n';
+  TCsv::EcrireLigne(parametres.GetParametre(id));
   return 0;
 }
 
@@ -60,18 +54,13 @@ int Registre(TSession& session) {
 
 QString DateIso(TDateTime date) { return DateVersQt(date).toString(Qt::ISODate); }
 
-/// An empty field for no time.
-QString HeureOuVide(TDateTime heure) {
-  return heure == 0.0 ? QString() : HeureVersQt(heure).toString(QStringLiteral("HH:mm"));
-}
-
 QStringList LignePresence(const QString& etat, const QString& matricule, const TPresence& presence) {
   return {etat,
           matricule,
           DateIso(presence.DateReleve),
           QString::number(static_cast<int>(presence.TypePresence)),
-          HeureOuVide(presence.HeureEntree),
-          HeureOuVide(presence.HeureSortie)};
+          FormatHeureCourte(presence.HeureEntree),
+          FormatHeureCourte(presence.HeureSortie)};
 }
 
 int Presences(TSession& session) {
@@ -88,7 +77,7 @@ int Presences(TSession& session) {
         csv.Ligne(LignePresence(QStringLiteral("sans_tarif"), a.Matricule, *a.Presence));
       else
         csv.Ligne({QStringLiteral("inconnu"), a.Matricule, DateIso(a.Date), QString::number(a.TypePresence),
-                   HeureOuVide(a.Entree), HeureOuVide(a.Sortie)});
+                   FormatHeureCourte(a.Entree), FormatHeureCourte(a.Sortie)});
     }
   }
   import.Etape2();
@@ -106,8 +95,7 @@ constexpr TServiceCsv kServices[] = {{"matin", TService::Matin}, {"midi", TServi
                                      {"soupe", TService::Soupe}};
 
 int Couts(TSession& session) {
-  const int mois = StrToInt(session.Option(QStringLiteral("mois")));
-  if (mois < 1 || mois > 12) throw Exception(QStringLiteral("Le mois est un nombre de 1 à 12."));
+  const int mois = session.Mois();
   session.Ouvrir();
   const TPeriode periode = BornesMois(mois, Globals.Eleves->AnneeScolaire);
   TCsv csv(QStringLiteral("eleve_id;service;montant").split(u';'));
@@ -135,15 +123,19 @@ int Solde(TSession& session) {
 
 }  // namespace
 
-void TSession::Connecter() const {
-  if (Options.isSet(QStringLiteral("serveur"))) {
-    Base.ServerName = Options.value(QStringLiteral("serveur"));
-    Base.Connecter();
-  } else if (!Base.ConnectToServer()) {
-    throw Exception(QStringLiteral(
-        "Aucun serveur de données n'est connu sur cet ordinateur : indiquez-le avec --serveur (un nom de "
-        "serveur, « local », ou le chemin d'un fichier .fdb)."));
-  }
+bool TSession::Connecter() const {
+  const QString serveur = Options.value(QStringLiteral("serveur")).trimmed();
+  Base.ServerName = serveur;
+  if (serveur.isEmpty()) Base.ReadServerName();
+  if (Base.ServerName.trimmed().isEmpty())
+    throw Exception(
+        QStringLiteral("Aucun serveur de données n'est connu sur cet ordinateur : indiquez-le avec --serveur "
+                       "(un nom de serveur, « local », ou le chemin d'un fichier .fdb)."));
+  const QString fichier = Base.FichierLocal();
+  const bool nouveau = !fichier.isEmpty() && !QFile::exists(fichier);
+  Base.Connecter();
+  if (nouveau) Dialogues.Information(QStringLiteral("La base de données « %1 » est créée.").arg(fichier));
+  return nouveau;
 }
 
 void TSession::Ouvrir() const {
@@ -151,6 +143,12 @@ void TSession::Ouvrir() const {
   Controleur.ChargerParametres();
   const QString annee = Options.value(QStringLiteral("annee"));
   Controleur.ChargerAnnee(annee.isEmpty() ? Globals.AnneeScolaire : StrToInt(annee));
+}
+
+int TSession::Mois() const {
+  const int mois = StrToInt(Option(QStringLiteral("mois")));
+  if (mois < 1 || mois > 12) throw Exception(QStringLiteral("Le mois est un nombre de 1 à 12."));
+  return mois;
 }
 
 QString TSession::Option(const QString& nom) const {
@@ -161,7 +159,8 @@ QString TSession::Option(const QString& nom) const {
 const std::vector<TCommande>& Commandes() {
   static const std::vector<TCommande> commandes = {
       {"creer", 0, 0, "creer", Creer},
-      {"parametre", 1, 2, "parametre ID [VALEUR]", Parametre},
+      {"parametre", 1, 2,
+       "parametre ID [VALEUR]   (une valeur qui commence par un tiret : parametre -- ID VALEUR)", Parametre},
       {"registre", 1, 1, "registre FICHIER [--cloturer]", Registre},
       {"presences", 1, 1, "presences FICHIER", Presences},
       {"couts", 0, 0, "couts --mois M", Couts},

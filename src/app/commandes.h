@@ -1,7 +1,6 @@
 #pragma once
 #include <QCommandLineParser>
 #include <QStringList>
-#include <functional>
 
 #include "app/terminal.h"
 #include "application/controleur.h"
@@ -11,14 +10,15 @@ struct TSession {
   const QCommandLineParser& Options;
   QStringList Arguments;  ///< behind the command's name
   TDialoguesTerminal& Dialogues;
-  TReglagesPoste& Reglages;
   TDataModule1& Base;
   TControleur& Controleur;
 
-  /// Opens the connection. Raises Exception.
-  void Connecter() const;
+  /// Opens the connection; true when the file of the database has just been made. Raises Exception.
+  bool Connecter() const;
   /// The connection, the parameters, and the year on display. Raises Exception.
   void Ouvrir() const;
+  /// The month of --mois, 1 to 12; raises Exception.
+  int Mois() const;
   /// The value of an option; raises Exception when it is missing.
   QString Option(const QString& nom) const;
 };

@@ -2,7 +2,9 @@
 
 #include <cstdio>
 
-TCsv::TCsv(const QStringList& entete) : sortie_(stdout) { Ligne(entete); }
+#include "core/exceptions.h"
+
+TCsv::TCsv(const QStringList& entete) { Ligne(entete); }
 
 void TCsv::Ligne(const QStringList& champs) {
   QStringList cites;
@@ -11,5 +13,13 @@ void TCsv::Ligne(const QStringList& champs) {
       champ = u'"' + champ.replace(u'"', QStringLiteral("\"\"")) + u'"';
     cites += champ;
   }
-  sortie_ << cites.join(u';') << '\n';
+  EcrireLigne(cites.join(u';'));
+}
+
+void TCsv::EcrireLigne(const QString& texte) {
+  const QByteArray octets = texte.toUtf8() + '\n';
+  const std::size_t ecrits =
+      std::fwrite(octets.constData(), 1, static_cast<std::size_t>(octets.size()), stdout);
+  if (ecrits != static_cast<std::size_t>(octets.size()))
+    throw Exception(QStringLiteral("Le résultat ne peut pas être écrit."));
 }

@@ -1,14 +1,13 @@
 #pragma once
 #include <QStringList>
-#include <QTextStream>
 
 /// A table on the standard output: ";" between fields, a header line, UTF-8. A field that holds ";",
 /// a quote or a line end is quoted.
 class TCsv {
  public:
   explicit TCsv(const QStringList& entete);
+  /// Raises Exception when the output takes no more.
   void Ligne(const QStringList& champs);
-
- private:
-  QTextStream sortie_;
+  /// A line as it stands. Raises Exception when the output takes no more.
+  static void EcrireLigne(const QString& texte);
 };

@@ -4,6 +4,11 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#ifdef Q_OS_UNIX
+#include <langinfo.h>
+#endif
+#include <clocale>
+#include <cstring>
 
 #include "app/commandes.h"
 #include "core/exceptions.h"
@@ -45,12 +50,14 @@ int Executer(const QCommandLineParser& options, TDialoguesTerminal& dialogues) {
     if (arguments.size() < commande.ArgumentsMin || arguments.size() > commande.ArgumentsMax) break;
     TReglagesPoste reglages;
     TDataModule1 base(dialogues, reglages);
-    IFenetrePrincipale sansFenetre;
+    TSansFenetre sansFenetre;
     const THorloge horloge;
     TControleur controleur(base, reglages, sansFenetre, horloge);
     const TLiberation liberation;
-    TSession session{options, arguments, dialogues, reglages, base, controleur};
-    return commande.Executer(session);
+    TSession session{options, arguments, dialogues, base, controleur};
+    const int code = commande.Executer(session);
+    if (std::fflush(stdout) != 0) throw Exception(QStringLiteral("Le résultat ne peut pas être écrit."));
+    return code;
   }
   dialogues.Message(Usage());
   return options.isSet(QStringLiteral("aide")) ? kReussi : kMauvaisAppel;
@@ -59,6 +66,11 @@ int Executer(const QCommandLineParser& options, TDialoguesTerminal& dialogues) {
 }  // namespace
 
 int main(int argc, char** argv) {
+#ifdef Q_OS_UNIX
+  // A scheduled job may have no locale, and the database engine then takes no path with an accent.
+  std::setlocale(LC_ALL, "");
+  if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
+#endif
   QCoreApplication application(argc, argv);
   QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
   QTranslator traduction;

@@ -1,6 +1,5 @@
 #include "application/controleur.h"
 
-#include "core/conversions.h"
 #include "core/exceptions.h"
 
 namespace {
@@ -10,6 +9,18 @@ constexpr int kDureeBulles = 5000;
 bool EstUn(const TReglagesPoste& reglages, const QString& nom) {
   return reglages.Lire(TRacine::Utilisateur, nom) == u"1";
 }
+
+/// The tree's selection changes nothing for as long as it lives.
+class TSuspension {
+ public:
+  explicit TSuspension(IFenetrePrincipale& fenetre) : fenetre_(fenetre) { fenetre_.SuspendreArbre(true); }
+  ~TSuspension() { fenetre_.SuspendreArbre(false); }
+  TSuspension(const TSuspension&) = delete;
+  TSuspension& operator=(const TSuspension&) = delete;
+
+ private:
+  IFenetrePrincipale& fenetre_;
+};
 
 }  // namespace
 
@@ -26,7 +37,7 @@ void TControleur::FormShow() {
     fenetre_.OuvrirReservationTablette();
     return;
   }
-  if (!Demarrer() || !base_.EstConnecte()) return;
+  if (!Demarrer(false) || !base_.EstConnecte()) return;
   if (Globals.ModeProfesseur)
     PagesProfesseur();
   else if (!Globals.ModeTablette)
@@ -35,7 +46,7 @@ void TControleur::FormShow() {
 }
 
 // False ends the program. True does not promise a connection: see Connecter.
-bool TControleur::Demarrer() {
+bool TControleur::Demarrer(bool pagesTablette) {
   if (!Connecter()) {
     fenetre_.Terminer();
     return false;
@@ -45,7 +56,7 @@ bool TControleur::Demarrer() {
   Globals.ModeTablette = EstUn(reglages_, QStringLiteral("Tablette"));
   fenetre_.DureeBulles(kDureeBulles);
   ChargerParametres();
-  if (Globals.ModeTablette)
+  if (Globals.ModeTablette || pagesTablette)
     PagesTablette();
   else
     PagesBureau();
@@ -55,9 +66,11 @@ bool TControleur::Demarrer() {
 
 void TControleur::ChargerParametres() {
   if (Globals.Parametres) return;
-  Globals.Parametres = std::make_unique<TParametres>(base_);
-  Globals.AnneeScolaire = StrToInt(Globals.Parametres->GetParametre(27));
+  auto parametres = std::make_unique<TParametres>(base_);
+  const int annee = parametres->Entier(27);
   Globals.TarifsGarderies = std::make_unique<TTarifsGarderies>(base_);
+  Globals.Parametres = std::move(parametres);
+  Globals.AnneeScolaire = annee;
   Globals.DossierTemporaire = ::DossierTemporaire();
   Globals.CodeEtablissement = Globals.Parametres->GetParametre(31);
 }
@@ -91,17 +104,14 @@ bool TControleur::Connecter() {
 }
 
 void TControleur::ChargerAnnee(int annee) {
-  fenetre_.SuspendreArbre(true);
+  if (!Globals.Parametres || !base_.EstConnecte())
+    throw Exception(QStringLiteral("Le programme n'est pas relié à ses données : fermez-le et recommencez."));
+  const TSuspension suspension(fenetre_);
   Globals.EleveCourant = nullptr;
-  try {
-    auto donnees = ChargerDonneesAnnee(base_, annee, *Globals.Parametres, *Globals.TarifsGarderies);
-    auto groupes = std::make_unique<TGroupesFrais>(base_);
-    Globals.Montrer(std::move(donnees));
-    Globals.GroupesFrais = std::move(groupes);
-  } catch (...) {
-    fenetre_.SuspendreArbre(false);
-    throw;
-  }
+  auto donnees = ChargerDonneesAnnee(base_, annee, *Globals.Parametres, *Globals.TarifsGarderies);
+  auto groupes = std::make_unique<TGroupesFrais>(base_);
+  Globals.Montrer(std::move(donnees));
+  Globals.GroupesFrais = std::move(groupes);
   Globals.TypeActivitesExt = LireTypeActivitesExt(Globals.Parametres->GetParametre(100));
   Globals.DateDebutActivitesExt = PeriodeActivitesExt(Globals.TypeActivitesExt).Premier;
   Globals.TitreActivitesExt = Globals.TypeActivitesExt == TTypeActivitesExt::Aucune
@@ -112,7 +122,6 @@ void TControleur::ChargerAnnee(int annee) {
   fenetre_.IntitulerAnnee(QStringLiteral("Année scolaire %1 - %2").arg(annee).arg(annee + 1));
   fenetre_.ConstruireArbre();
   fenetre_.CocherAnnee(annee);
-  fenetre_.SuspendreArbre(false);
 }
 
 void TControleur::ChoisirAnnee(int annee) {
@@ -125,22 +134,29 @@ void TControleur::FormClose() {
   Globals.Liberer();
 }
 
+void TControleur::EcrireReglage(const QString& nom, const QString& valeur) {
+  if (!reglages_.Ecrire(TRacine::Utilisateur, nom, valeur))
+    Dialogues().Message(
+        QStringLiteral("Le réglage « %1 » de cet ordinateur n'a pas pu être enregistré.").arg(nom));
+}
+
 void TControleur::PasserHorsLigne() {
-  reglages_.Ecrire(TRacine::Utilisateur, QStringLiteral("Offline"), QStringLiteral("1"));
+  EcrireReglage(QStringLiteral("Offline"), QStringLiteral("1"));
   base_.Deconnecter();
   Globals.ModeHorsLigne = true;
   PagesTablette();
 }
 
 void TControleur::PasserEnLigne() {
-  reglages_.Ecrire(TRacine::Utilisateur, QStringLiteral("Offline"), QStringLiteral("0"));
+  EcrireReglage(QStringLiteral("Offline"), QStringLiteral("0"));
   Globals.ModeHorsLigne = false;
-  if (Demarrer() && base_.EstConnecte()) PagesTablette();
+  Demarrer(true);
 }
 
 void TControleur::MemoriserDatePhoto() {
+  if (!Globals.Parametres) return;
   Globals.DatePhoto = Globals.Parametres->GetParametre(115);
-  reglages_.Ecrire(TRacine::Utilisateur, QStringLiteral("Photo"), Globals.DatePhoto);
+  EcrireReglage(QStringLiteral("Photo"), Globals.DatePhoto);
 }
 
 void TControleur::PagesTablette() {

@@ -38,7 +38,8 @@ class TControleur {
 
  private:
   bool Connecter();
-  bool Demarrer();
+  bool Demarrer(bool pagesTablette);
+  void EcrireReglage(const QString& nom, const QString& valeur);
   void PagesTablette();
   void PagesBureau();
   void PagesProfesseur();

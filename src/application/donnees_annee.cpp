@@ -1,7 +1,6 @@
 #include "application/donnees_annee.h"
 
 #include "core/calendrier_scolaire.h"
-#include "core/conversions.h"
 #include "core/parametres.h"
 #include "services/tarifs_garderies.h"
 
@@ -16,11 +15,11 @@ constexpr TPrixRepas kPrixRepas[] = {{101, 1}, {102, 2}, {106, 3}};
 
 void LireParametresPresences(const TParametres& parametres, TPresences& presences) {
   for (const TPrixRepas& prix : kPrixRepas) {
-    const QString valeur = parametres.GetParametre(prix.parametre);
-    if (!valeur.isEmpty()) presences.PrixRepas[prix.categorie] = StrToCurr(valeur);
+    if (!parametres.GetParametre(prix.parametre).isEmpty())
+      presences.PrixRepas[prix.categorie] = parametres.Montant(prix.parametre);
   }
-  const QString mode = parametres.GetParametre(105);
-  presences.ModeDeduction = static_cast<TModeDeduction>(mode.isEmpty() ? 0 : StrToInt(mode));
+  const bool sansMode = parametres.GetParametre(105).isEmpty();
+  presences.ModeDeduction = static_cast<TModeDeduction>(sansMode ? 0 : parametres.Entier(105));
   presences.GarderieUnique = parametres.EstVrai(30);
 }
 
@@ -29,7 +28,6 @@ void LireParametresPresences(const TParametres& parametres, TPresences& presence
 std::unique_ptr<TDonneesAnnee> ChargerDonneesAnnee(TDataModule1& base, int annee,
                                                    const TParametres& parametres, TTarifsGarderies& tarifs) {
   auto donnees = std::make_unique<TDonneesAnnee>();
-  donnees->Annee = annee;
   donnees->Eleves = std::make_unique<TEleves>(base, annee);
   TEleves& eleves = *donnees->Eleves;
   eleves.SynchroniserImplantations();

@@ -13,7 +13,6 @@ class TTarifsGarderies;
 
 /// The collections of one school year, which belong together: the pupils look at all the others.
 struct TDonneesAnnee {
-  int Annee = 0;
   std::unique_ptr<TPresences> Presences;
   std::unique_ptr<TPresencesParticulieres> PresencesParticulieres;
   std::unique_ptr<TPaiements> Paiements;

@@ -10,7 +10,7 @@
 /// `AnneeScolaire` is the working year, which changes only at a closing.
 struct TGlobals {
   int AnneeScolaire = 0;
-  // Of the year on display; null until the first load. Owned by `Annee`.
+  // Of the year on display; null until the first load. Owned by `annee_`.
   TEleves* Eleves = nullptr;
   TPresences* Presences = nullptr;
   TPresencesParticulieres* PresencesParticulieres = nullptr;

@@ -89,9 +89,11 @@ void TDataModule1::Deconnecter() {
   QSqlDatabase::removeDatabase(connexion_);
 }
 
-bool TDataModule1::ReadServerName(TRacine racine) {
-  ServerName = reglages_.Lire(racine, kServeur);
-  return true;
+void TDataModule1::ReadServerName(TRacine racine) { ServerName = reglages_.Lire(racine, kServeur); }
+
+void TDataModule1::ReadServerName() {
+  ReadServerName(TRacine::Machine);
+  if (ServerName.trimmed().isEmpty()) ReadServerName(TRacine::Utilisateur);
 }
 
 void TDataModule1::WriteServerName(TRacine racine) { reglages_.Ecrire(racine, kServeur, ServerName); }
@@ -114,8 +116,7 @@ void TDataModule1::AskServerName() {
 }
 
 bool TDataModule1::ConnectToServer() {
-  ReadServerName(TRacine::Machine);
-  if (ServerName.trimmed().isEmpty()) ReadServerName(TRacine::Utilisateur);
+  ReadServerName();
   if (ServerName.trimmed().isEmpty()) AskServerName();
   if (ServerName.trimmed().isEmpty()) return false;
   Connecter();
@@ -159,15 +160,20 @@ void TDataModule1::CreerFichier(const QString& chemin) {
     throw Exception(QStringLiteral("Le dossier « %1 » ne peut pas être créé.").arg(dossier));
   const QString ebauche = chemin + QStringLiteral(".nouveau");
   QFile::remove(ebauche);
-  Firebird::CreerBase(ebauche);
-  Firebird::EcrituresForcees(ebauche, false);  // nothing to lose yet
-  Ouvrir({}, ebauche);
-  RunScript(ScriptTablesDeBase());
-  MettreAJour();
-  Deconnecter();
-  Firebird::EcrituresForcees(ebauche, true);
-  if (!QFile::rename(ebauche, chemin))
-    throw Exception(QStringLiteral("Le fichier de données « %1 » ne peut pas être créé.").arg(chemin));
+  try {
+    Firebird::CreerBase(ebauche);
+    Firebird::EcrituresForcees(ebauche, false);  // nothing to lose yet
+    Ouvrir({}, ebauche);
+    CreerTables();
+    Deconnecter();
+    Firebird::EcrituresForcees(ebauche, true);
+    if (!QFile::rename(ebauche, chemin))
+      throw Exception(QStringLiteral("Le fichier de données « %1 » ne peut pas être créé.").arg(chemin));
+  } catch (const Exception&) {
+    Deconnecter();
+    QFile::remove(ebauche);
+    throw;
+  }
 }
 
 void TDataModule1::Ouvrir(const QString& hote, const QString& base) {
@@ -208,11 +214,21 @@ int NextId(TDataModule1& base, const QString& counterName) { return base.GetNext
 void TDataModule1::RunScript(const QString& lignes) {
   for (const QString& instruction : Instructions(lignes)) {
     QSqlQuery requete(UniConnection1());
-    requete.exec(instruction);  // a statement that fails has been run before, on purpose
+    requete.exec(instruction);  // most failures say that it has been run before
   }
 }
 
 void TDataModule1::MettreAJour() { RunScript(ScriptMiseAJour()); }
+
+void TDataModule1::CreerTables() {
+  const QStringList tables = ElementsDuSchema(*this);
+  if (!tables.contains(QStringLiteral("COUNTERS"))) RunScript(ScriptTablesDeBase());
+  MettreAJour();
+  const QStringList presents = ElementsDuSchema(*this);
+  for (const QString& attendu : ElementsAttendus(ScriptTablesDeBase() + ScriptMiseAJour()))
+    if (!presents.contains(attendu))
+      throw Exception(QStringLiteral("La base de données est incomplète : il y manque %1.").arg(attendu));
+}
 
 void TDataModule1::EcrituresForcees(bool forcees) {
   if (EstLocal()) Firebird::EcrituresForcees(FichierLocal(), forcees);

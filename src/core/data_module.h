@@ -28,8 +28,10 @@ class TDataModule1 {
   void Deconnecter();
   bool EstConnecte() const;
 
-  /// Copies `Serveur` of that scope into ServerName; whether the scope could be opened.
-  bool ReadServerName(TRacine racine);
+  /// Copies `Serveur` of that scope into ServerName; "" when the scope has none or cannot be opened.
+  void ReadServerName(TRacine racine);
+  /// The same of the machine, or else of the user.
+  void ReadServerName();
   /// Writes ServerName into `Serveur` of that scope when it opens.
   void WriteServerName(TRacine racine);
   bool CanWriteMachineKey() const;
@@ -42,6 +44,9 @@ class TDataModule1 {
   void RunScript(const QString& lignes);
   /// The upgrade script on the open database: brings any older layout to the present one.
   void MettreAJour();
+  /// The base tables, where there are none yet, and the upgrade script. Raises Exception when a table, a
+  /// column or a counter is missing afterwards.
+  void CreerTables();
   /// Forced writes, of a local file only: off while a whole school is loaded. Raises Exception.
   void EcrituresForcees(bool forcees);
 

@@ -44,6 +44,20 @@ class IDialogues {
   virtual void CurseurAttente(bool actif) = 0;
 };
 
+/// The progress of a long work, hidden when the work ends, however it ends.
+class TProgression {
+ public:
+  TProgression(IDialogues& dialogues, int total) : dialogues_(dialogues), total_(total) {}
+  ~TProgression() { dialogues_.Progression(0, 0, {}); }
+  TProgression(const TProgression&) = delete;
+  TProgression& operator=(const TProgression&) = delete;
+  void Avancer(int fait, const QString& nom) { dialogues_.Progression(fait, total_, nom); }
+
+ private:
+  IDialogues& dialogues_;
+  int total_;
+};
+
 /// The wait cursor for as long as it lives.
 class TAttente {
  public:

@@ -185,12 +185,15 @@ bool TDistributor::Save() {
       if (enregistrement.Supprimer(*Deleted[i]))
         Deleted.erase(Deleted.begin() + static_cast<std::ptrdiff_t>(i));
     const std::size_t nombre = Items.size();
+    bool sansCle = false;  // the counter has failed and the user knows: it is not asked again for each object
     for (std::size_t i = 0; i < nombre; ++i) {
       TBaseObject& objet = *Items[i];
       if (objet.Status == TStatus::Modifie) {
         if (!enregistrement.Modifier(objet)) continue;
       } else if (objet.Status == TStatus::Nouveau) {
+        if (sansCle) continue;
         if (CounterName != u"*") objet.Id = base_->GetNextId(CounterName);
+        sansCle = objet.Id == -1 && CounterName != u"*";
         if (objet.Id == -1) continue;
         enregistrement.Inserer(objet);
         Entre(objet);  // its key is known now

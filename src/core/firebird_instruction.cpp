@@ -77,23 +77,24 @@ void TTransaction::Valider() {
 TInstruction::TInstruction(isc_db_handle base, TTransaction& transaction, const QByteArray& sql)
     : transaction_(&transaction), resultat_(Tampon(40)) {
   ISC_STATUS_ARRAY statut;
-  isc_dsql_allocate_statement(statut, &base, &poignee_);
+  isc_dsql_allocate_statement(statut, &base, &poignee_.valeur);
   Verifier(statut);
-  isc_dsql_prepare(statut, transaction_->Poignee(), &poignee_, 0, sql.constData(), kDialecte, Resultat());
+  isc_dsql_prepare(statut, transaction_->Poignee(), &poignee_.valeur, 0, sql.constData(), kDialecte,
+                   Resultat());
   Verifier(statut);
   DecrireResultat();
 }
 
-TInstruction::~TInstruction() {
+TInstruction::TPoignee::~TPoignee() {
   ISC_STATUS_ARRAY statut;
-  if (poignee_ != 0) isc_dsql_free_statement(statut, &poignee_, DSQL_drop);
+  if (valeur != 0) isc_dsql_free_statement(statut, &valeur, DSQL_drop);
 }
 
 void TInstruction::DecrireResultat() {
   if (Resultat()->sqld > Resultat()->sqln) {
     resultat_ = Tampon(Resultat()->sqld);
     ISC_STATUS_ARRAY statut;
-    isc_dsql_describe(statut, &poignee_, kDialecte, Resultat());
+    isc_dsql_describe(statut, &poignee_.valeur, kDialecte, Resultat());
     Verifier(statut);
   }
   champs_.resize(static_cast<std::size_t>(Resultat()->sqld));
@@ -114,9 +115,9 @@ void TInstruction::Executer(const QByteArray* parametre) {
   ISC_STATUS_ARRAY statut;
   if (parametre != nullptr) {
     TParametreTexte texte(*parametre);
-    isc_dsql_execute(statut, transaction_->Poignee(), &poignee_, kDialecte, texte.Sqlda());
+    isc_dsql_execute(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, texte.Sqlda());
   } else {
-    isc_dsql_execute(statut, transaction_->Poignee(), &poignee_, kDialecte, nullptr);
+    isc_dsql_execute(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, nullptr);
   }
   Verifier(statut);
 }
@@ -124,18 +125,18 @@ void TInstruction::Executer(const QByteArray* parametre) {
 void TInstruction::ExecuterUneLigne(const QByteArray& parametre) {
   TParametreTexte texte(parametre);
   ISC_STATUS_ARRAY statut;
-  isc_dsql_execute2(statut, transaction_->Poignee(), &poignee_, kDialecte, texte.Sqlda(), Resultat());
+  isc_dsql_execute2(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, texte.Sqlda(), Resultat());
   Verifier(statut);
 }
 
 void TInstruction::Fermer() {
   ISC_STATUS_ARRAY statut;
-  isc_dsql_free_statement(statut, &poignee_, DSQL_close);
+  isc_dsql_free_statement(statut, &poignee_.valeur, DSQL_close);
 }
 
 bool TInstruction::Suivant() {
   ISC_STATUS_ARRAY statut;
-  if (isc_dsql_fetch(statut, &poignee_, kDialecte, Resultat()) == 100) return false;
+  if (isc_dsql_fetch(statut, &poignee_.valeur, kDialecte, Resultat()) == 100) return false;
   Verifier(statut);
   return true;
 }

@@ -43,7 +43,6 @@ struct TChamp {
 class TInstruction {
  public:
   TInstruction(isc_db_handle base, TTransaction& transaction, const QByteArray& sql);
-  ~TInstruction();
   TInstruction(const TInstruction&) = delete;
   TInstruction& operator=(const TInstruction&) = delete;
 
@@ -63,8 +62,14 @@ class TInstruction {
   XSQLDA* Resultat() { return reinterpret_cast<XSQLDA*>(resultat_.data()); }
   void DecrireResultat();
 
+  /// Drops the statement also when its preparation fails.
+  struct TPoignee {
+    isc_stmt_handle valeur = 0;
+    ~TPoignee();
+  };
+
   TTransaction* transaction_;
-  isc_stmt_handle poignee_ = 0;
+  TPoignee poignee_;
   std::vector<char> resultat_;
   std::vector<TChamp> champs_;
 };

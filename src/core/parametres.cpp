@@ -1,5 +1,21 @@
 #include "core/parametres.h"
 
+#include "core/conversions.h"
+#include "core/exceptions.h"
+
+namespace {
+
+template <class Conversion>
+auto Convertir(const TParametres& parametres, int id, Conversion conversion) {
+  try {
+    return conversion(parametres.GetParametre(id));
+  } catch (const EConvertError& e) {
+    throw EConvertError(QStringLiteral("Paramètre %1 : %2").arg(id).arg(e.Message));
+  }
+}
+
+}  // namespace
+
 TParametres::TParametres(TDataModule1& base) : TCollection(base) { Charger(); }
 
 void TParametres::DefineQuery() {
@@ -25,6 +41,10 @@ QString TParametres::GetParametre(int id) const {
   const TParametre* parametre = FindParametre(id);
   return parametre != nullptr ? parametre->Valeur : QString();
 }
+
+int TParametres::Entier(int id) const { return Convertir(*this, id, StrToInt); }
+
+Currency TParametres::Montant(int id) const { return Convertir(*this, id, StrToCurr); }
 
 void TParametres::SetParametre(int id, const QString& valeur) {
   if (TParametre* parametre = FindParametre(id)) {

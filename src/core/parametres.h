@@ -1,6 +1,4 @@
 #pragma once
-#include <unordered_map>
-
 #include "core/distributor.h"
 
 /// One school-wide setting. `Id` is the setting's own number.
@@ -15,6 +13,9 @@ class TParametres : public TCollection<TParametre> {
 
   /// "" for an identifier that has no row; nothing is created.
   QString GetParametre(int id) const;
+  /// The value as a number or an amount. Raises EConvertError, which names the setting.
+  int Entier(int id) const;
+  Currency Montant(int id) const;
   /// True when the value is exactly "1".
   bool EstVrai(int id) const { return GetParametre(id) == u"1"; }
   /// Marks the setting modified also when the value is the same.

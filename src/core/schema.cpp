@@ -1,5 +1,9 @@
 #include "core/schema.h"
 
+#include <QRegularExpression>
+
+#include "core/curseur.h"
+
 QString ScriptTablesDeBase() {
   return QStringLiteral(R"sql(
 CREATE TABLE COUNTERS (TABLE_NAME VARCHAR(60) CONSTRAINT PK_COUNTERS PRIMARY KEY NOT NULL, VALEUR INTEGER);
@@ -44,4 +48,38 @@ QStringList Instructions(const QString& script) {
   }
   ranger();
   return instructions;
+}
+
+QStringList ElementsAttendus(const QString& script) {
+  const auto forme = [](const char* texte) {
+    return QRegularExpression(QString::fromLatin1(texte), QRegularExpression::CaseInsensitiveOption);
+  };
+  static const QRegularExpression table = forme("^CREATE TABLE (\\w+)");
+  static const QRegularExpression colonne = forme("^ALTER TABLE (\\w+) ADD (\\w+)");
+  static const QRegularExpression compteur = forme("^INSERT INTO COUNTERS .*VALUES \\(\\s*'(\\w+)'");
+  QStringList elements;
+  for (const QString& instruction : Instructions(script)) {
+    if (const auto lu = table.match(instruction); lu.hasMatch()) elements += lu.captured(1).toUpper();
+    if (const auto lu = colonne.match(instruction); lu.hasMatch())
+      elements += lu.captured(1).toUpper() + u'.' + lu.captured(2).toUpper();
+    if (const auto lu = compteur.match(instruction); lu.hasMatch())
+      elements += QStringLiteral("compteur ") + lu.captured(1).toUpper();
+  }
+  return elements;
+}
+
+QStringList ElementsDuSchema(TDataModule1& base) {
+  QStringList elements;
+  TCurseur colonnes(
+      base, QStringLiteral("SELECT RDB$RELATION_NAME AS T, RDB$FIELD_NAME AS C FROM RDB$RELATION_FIELDS "
+                           "WHERE RDB$SYSTEM_FLAG = 0 ORDER BY 1"));
+  while (colonnes.Suivant()) {
+    const QString table = colonnes.Texte("T");
+    if (!elements.contains(table)) elements += table;
+    elements += table + u'.' + colonnes.Texte("C");
+  }
+  if (!elements.contains(QStringLiteral("COUNTERS"))) return elements;
+  TCurseur compteurs(base, QStringLiteral("SELECT TABLE_NAME FROM COUNTERS"));
+  while (compteurs.Suivant()) elements += QStringLiteral("compteur ") + compteurs.Texte("TABLE_NAME");
+  return elements;
 }

@@ -163,7 +163,9 @@ void TEleves::SynchroniserImplantations() {
   if (!Implantations) return;
   for (const TEleve& eleve : *this) {
     const QString code = eleve.CodeImplantation.trimmed();
-    if (code.isEmpty() || Implantations->TrouverParCode(code) != nullptr) continue;
+    // A code that the table of sites cannot hold must not keep the year from being loaded.
+    const bool tropLong = code.size() > kCodeImplantationMaximum;
+    if (code.isEmpty() || tropLong || Implantations->TrouverParCode(code) != nullptr) continue;
     auto nouvelle = std::make_unique<TImplantation>();
     nouvelle->Code = code;
     Implantations->AddImplantation(std::move(nouvelle));

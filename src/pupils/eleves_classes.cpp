@@ -75,6 +75,11 @@ TEleveClasse* TElevesClasses::Derniere(int eleveId, int annee) const {
   return derniere;
 }
 
+bool TElevesClasses::EstInscrit(int eleveId, int annee) const {
+  const TEleveClasse* inscription = Derniere(eleveId, annee);
+  return inscription != nullptr && inscription->Id != -1;
+}
+
 void TElevesClasses::Inscrire(int eleveId, const QString& classe, int annee, const QString& implantation,
                               const QString& sousClasse) {
   TEleveClasse* existante = Derniere(eleveId, annee);

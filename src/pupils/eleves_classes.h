@@ -29,6 +29,8 @@ class TElevesClasses : public TCollection<TEleveClasse> {
   QString SousClasseDe(int eleveId) const;
   QString ImplantationDe(int eleveId) const;
 
+  /// Whether the pupil has a stored enrolment for that year.
+  bool EstInscrit(int eleveId, int annee) const;
   /// Enrols a pupil for a year, or changes the enrolment of that year, and saves.
   void Inscrire(int eleveId, const QString& classe, int annee, const QString& implantation,
                 const QString& sousClasse);

@@ -3,6 +3,9 @@
 #include "core/exceptions.h"
 
 /// A site of the school.
+/// Letters that the code of a site may have.
+inline constexpr int kCodeImplantationMaximum = 10;
+
 struct TImplantation : TBaseObject {
   QString Code;
   QString LibelleCourt;

@@ -5,6 +5,7 @@
 
 #include "core/conversions.h"
 #include "core/exceptions.h"
+#include "core/formats.h"
 #include "core/lecture_dates.h"
 
 namespace {
@@ -34,6 +35,28 @@ QString NomArchive(TDateTime moment) {
       .arg(heure.second());
 }
 
+QStringList LigneRecapitulatif(const TPresence& presence) {
+  const TEleve* eleve = Globals.Eleves->TrouverParId(presence.EleveId);
+  return {eleve->Nom,
+          eleve->Prenom,
+          FormatJour(presence.DateReleve),
+          Texte(presence.TypePresence),
+          FormatHeureCourte(presence.HeureEntree),
+          FormatHeureCourte(presence.HeureSortie),
+          eleve->Matricule};
+}
+
+QStringList LigneAnomalie(const TAnomalie& anomalie) {
+  if (anomalie.Presence) return LigneRecapitulatif(*anomalie.Presence);
+  return {QStringLiteral("Matricule inconnu (") + anomalie.Matricule + u')',
+          QString(),
+          FormatJour(anomalie.Date),
+          Texte(static_cast<TTypePresence>(anomalie.TypePresence)),
+          FormatHeureCourte(anomalie.Entree),
+          FormatHeureCourte(anomalie.Sortie),
+          QString()};
+}
+
 TImportPresences::TImportPresences(TControleur& controleur) : controleur_(controleur) {}
 
 QString TImportPresences::SiteDuChemin(const QString& chemin) {
@@ -54,7 +77,6 @@ void TImportPresences::ImporterFichier(const QString& chemin) {
 }
 
 void TImportPresences::ImporterTablette(const QString& chemin) {
-  source_ = TSourcePresences::Main;
   Lire(chemin);
   Analyser(SiteDuChemin(chemin));
   pret_ = true;
@@ -63,9 +85,11 @@ void TImportPresences::ImporterTablette(const QString& chemin) {
 void TImportPresences::Lire(const QString& chemin) {
   pret_ = false;
   bons_.clear();
+  ajoutees_.clear();
   anomalies_.clear();
   grille_ = {};
   grille_ = TTexteSepare::Lire(chemin);
+  if (grille_.NombreLignes() == 0) throw Exception(QStringLiteral("Le fichier « %1 » est vide.").arg(chemin));
   // A study scan is always an exit, whatever the scanner recorded.
   for (QStringList& ligne : grille_.Lignes) {
     if (ligne.value(1).trimmed() != u"4") continue;
@@ -154,10 +178,18 @@ bool TImportPresences::Corriger(int anomalie, TTypePresence typePresence, TDateT
   return true;
 }
 
+// A failure leaves the rest pending: the step can be taken again.
 void TImportPresences::Enregistrer() {
-  for (auto& presence : bons_) Globals.Presences->AjoutePresence(std::move(presence));
+  for (auto& presence : bons_)
+    if (const TPresence* ajoutee = Globals.Presences->AjoutePresence(std::move(presence)))
+      ajoutees_.push_back(ajoutee);
   bons_.clear();
-  Globals.Presences->Save();  // a failure leaves the rest pending: the step can be taken again
+  Globals.Presences->Save();
+  for (const TPresence* presence : ajoutees_)
+    if (presence->Status == TStatus::Nouveau)
+      throw Exception(
+          QStringLiteral("Toutes les présences n'ont pas pu être mémorisées : le fichier est gardé."));
+  ajoutees_.clear();
   pret_ = false;
 }
 

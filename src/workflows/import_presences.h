@@ -4,9 +4,6 @@
 #include "application/controleur.h"
 #include "core/texte_separe.h"
 
-/// Where a file of scans comes from.
-enum class TSourcePresences { Scanner, Main, Ftp };
-
 /// A line that cannot be stored as it is.
 struct TAnomalie {
   QString Matricule;                    ///< as scanned when the pupil is unknown
@@ -50,6 +47,7 @@ class TImportPresences {
   int NombreEntrees() const { return grille_.NombreLignes(); }  ///< lines of the file
   int NombreBons() const;                                       ///< good lines with a time
   int NombreAnomalies() const;                                  ///< anomalies with a time
+  int NombreTotal() const { return NombreBons() + NombreAnomalies(); }
 
  private:
   struct TScan {
@@ -72,9 +70,14 @@ class TImportPresences {
   TTexteSepare grille_;
   std::vector<std::unique_ptr<TPresence>> bons_;
   std::vector<TAnomalie> anomalies_;
-  TSourcePresences source_ = TSourcePresences::Scanner;
+  std::vector<const TPresence*> ajoutees_;  // by a step 2 that has not yet succeeded
   bool pret_ = false;
 };
+
+/// A line of the grid "Récapitulatif": name, first name, day, kind, entry, exit, register number.
+QStringList LigneRecapitulatif(const TPresence& presence);
+/// A line of the grid "Anomalies", in the same columns.
+QStringList LigneAnomalie(const TAnomalie& anomalie);
 
 /// "Presences-3.9.2016-7h5m0s.txt": the name under which a stored file is archived.
 QString NomArchive(TDateTime moment);

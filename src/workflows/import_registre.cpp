@@ -1,5 +1,7 @@
 #include "workflows/import_registre.h"
 
+#include <numeric>
+
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "core/lecture_dates.h"
@@ -83,6 +85,8 @@ bool TImportRegistre::Etape1(const QString& fichier) {
   grille_ = {};
   fichier_ = fichier;
   grille_ = TTexteSepare::Lire(fichier);
+  numeros_.resize(grille_.Lignes.size());
+  std::iota(numeros_.begin(), numeros_.end(), 1);
   Filtrer();
   pret_ = VerifierAnnee();
   return pret_;
@@ -95,14 +99,27 @@ void TImportRegistre::Filtrer() {
     const QString& code = Globals.CodeEtablissement;
     const bool autreSite = !code.isEmpty() && !site.isEmpty() && site != code;
     const bool autreSorte = disposition_.Filtre >= 0 && !Champ(ligne, disposition_.Filtre).contains(u" M");
-    if (autreSite || autreSorte) grille_.Lignes.erase(grille_.Lignes.begin() + ligne);
+    if (!autreSite && !autreSorte) continue;
+    grille_.Lignes.erase(grille_.Lignes.begin() + ligne);
+    numeros_.erase(numeros_.begin() + ligne);
+  }
+}
+
+TDateTime TImportRegistre::DatePremierEleve() const {
+  try {
+    return DateDuFichier(Champ(1, disposition_.DateFichier));
+  } catch (const EConvertError& e) {
+    throw EConvertError(QStringLiteral("Date du fichier (ligne %1, colonne %2) : %3")
+                            .arg(numeros_[1])
+                            .arg(disposition_.DateFichier + 1)
+                            .arg(e.Message));
   }
 }
 
 bool TImportRegistre::VerifierAnnee() {
   if (NombreEleves() < kElevesMinimum) return false;
   const int annee = Globals.AnneeScolaire;
-  if (DateDuFichier(Champ(1, disposition_.DateFichier)) <= EncodeDate(annee + 1, 6, 30)) return true;
+  if (DatePremierEleve() <= EncodeDate(annee + 1, 6, 30)) return true;
   if (!controleur_.Dialogues().Confirmer(
           QStringLiteral("Votre fichiel SIEL contient des élèves d'une nouvelle année scolaire.\r\n"
                          "Voulez-vous clôturer l'année scolaire %1-%2 ?")
@@ -118,6 +135,7 @@ bool TImportRegistre::VerifierAnnee() {
 void TImportRegistre::Cloturer() {
   TDataModule1& base = controleur_.Base();
   IDialogues& dialogues = controleur_.Dialogues();
+  TProgression progression(dialogues, Globals.Eleves->Count());
   int fait = 0;
   for (TEleve& eleve : *Globals.Eleves) {
     const Currency frais = eleve.Solde(true, false);
@@ -135,9 +153,8 @@ void TImportRegistre::Cloturer() {
         .Parametre(QStringLiteral("mTotFrais"), frais.EnEuros())
         .Parametre(QStringLiteral("mTotal"), total.EnEuros())
         .Executer();
-    dialogues.Progression(++fait, Globals.Eleves->Count(), eleve.NomComplet());
+    progression.Avancer(++fait, eleve.NomComplet());
   }
-  dialogues.Progression(0, 0, {});
   TParametres& parametres = *Globals.Parametres;
   parametres.SetParametre(27, QString::number(StrToInt(parametres.GetParametre(27)) + 1));
   parametres.Save();
@@ -150,31 +167,41 @@ void TImportRegistre::Cloturer() {
 TBilanRegistre TImportRegistre::Etape2() {
   IDialogues& dialogues = controleur_.Dialogues();
   const TAttente attente(dialogues);
-  pret_ = false;
+  TProgression progression(dialogues, grille_.NombreLignes() - 2);
   TBilanRegistre bilan;
   {
     TEleves tous(controleur_.Base(), 0);
-    const int dernier = grille_.NombreLignes() - 2;
     for (int ligne = 1; ligne < grille_.NombreLignes(); ++ligne) {
       try {
         TransfererLigne(tous, ligne, bilan);
       } catch (const EConvertError& e) {
-        dialogues.Progression(0, 0, {});
-        throw EConvertError(
-            QStringLiteral("Élève n° %1 (%2 %3) : %4\nLes élèves qui précèdent sont enregistrés.")
-                .arg(ligne)
-                .arg(Champ(ligne, disposition_.Nom), Champ(ligne, disposition_.Prenom), e.Message));
+        throw EConvertError(Situer(ligne, e));
+      } catch (const Exception& e) {
+        throw Exception(Situer(ligne, e));
       }
-      dialogues.Progression(ligne - 1, dernier, Champ(ligne, disposition_.Nom));
+      progression.Avancer(ligne - 1, Champ(ligne, disposition_.Nom));
       dialogues.TraiterEvenements();
     }
   }
+  pret_ = false;
   controleur_.ChargerAnnee(Globals.AnneeScolaire);
-  dialogues.Progression(0, 0, {});
   return bilan;
 }
 
+/// The failure of a row, with the line of the file and the pupil's name.
+QString TImportRegistre::Situer(int ligne, const Exception& e) const {
+  return QStringLiteral(
+             "Ligne %1 du fichier (%2 %3) : %4\nLes élèves des lignes qui précèdent sont enregistrés.")
+      .arg(numeros_[static_cast<std::size_t>(ligne)])
+      .arg(Champ(ligne, disposition_.Nom), Champ(ligne, disposition_.Prenom), e.Message);
+}
+
 void TImportRegistre::TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan) {
+  const QString site = Champ(ligne, disposition_.Site);
+  if (site.size() > kCodeImplantationMaximum)
+    throw Exception(QStringLiteral("Le code d'implantation « %1 » a plus de %2 caractères.")
+                        .arg(site)
+                        .arg(kCodeImplantationMaximum));
   TEleve* eleve = eleves.TrouverParMatricule(Champ(ligne, disposition_.Matricule));
   const bool nouveau = eleve == nullptr;
   if (nouveau) {
@@ -191,8 +218,10 @@ void TImportRegistre::TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre
     throw Exception(QStringLiteral("Le transfert est arrêté : l'élève n'a pas reçu de numéro."));
   QString classe = Champ(ligne, disposition_.Classe);
   if (disposition_.NettoyerClasse) classe = Nettoyer(classe);
-  eleves.AddClasseEleve(eleve->Id, classe, Globals.AnneeScolaire, Champ(ligne, disposition_.Site),
+  eleves.AddClasseEleve(eleve->Id, classe, Globals.AnneeScolaire, site,
                         Champ(ligne, disposition_.SousClasse));
+  if (!eleves.ElevesClasses.EstInscrit(eleve->Id, Globals.AnneeScolaire))
+    throw Exception(QStringLiteral("Le transfert est arrêté : l'élève n'a pas pu être inscrit."));
   ++bilan.Lignes;
   ++(nouveau ? bilan.Crees : bilan.Modifies);
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include "application/controleur.h"
+#include "core/exceptions.h"
 #include "core/texte_separe.h"
 
 /// What the transfer of a register did.
@@ -45,6 +46,8 @@ class TImportRegistre {
  private:
   void Filtrer();
   bool VerifierAnnee();
+  TDateTime DatePremierEleve() const;
+  QString Situer(int ligne, const Exception& e) const;
   void Cloturer();
   void TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan);
   void RemplirEleve(TEleve& eleve, int ligne) const;
@@ -53,6 +56,7 @@ class TImportRegistre {
   TControleur& controleur_;
   const TDisposition& disposition_;
   TTexteSepare grille_;
+  std::vector<int> numeros_;  // of each row in the file
   QString fichier_;
   bool pret_ = false;
 };

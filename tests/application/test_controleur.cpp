@@ -73,7 +73,7 @@ TEST(Controleur, OffLineNeedsNoServer) {
   essai.Controleur.PasserEnLigne();
   EXPECT_TRUE(base->EstConnecte());
   EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, QStringLiteral("Offline")), u"0");
-  EXPECT_EQ(essai.Fenetre.Faits.last(), u"*pgRepas3");
+  EXPECT_TRUE(essai.Fenetre.Faits.contains(QStringLiteral("*pgRepas3")));
   Globals.Parametres->SetParametre(115, QStringLiteral("demain"));
   essai.Controleur.MemoriserDatePhoto();
   EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, QStringLiteral("Photo")), u"demain");

@@ -33,7 +33,7 @@ struct TEcoleChargee {
   TDialoguesDemo Dialogues;
   TReglagesPoste Reglages;
   TDataModule1 Base{Dialogues, Reglages};
-  IFenetrePrincipale Fenetre;
+  TSansFenetre Fenetre;
   THorloge Horloge;
   TControleur Controleur{Base, Reglages, Fenetre, Horloge};
   TBilanChargement Bilan;

@@ -18,6 +18,8 @@ class TFenetreEssai : public IFenetrePrincipale {
     Faits += oui ? QStringLiteral("+bouton") : QStringLiteral("-bouton");
   }
   void MontrerArbre(bool oui) override { Faits += oui ? QStringLiteral("+arbre") : QStringLiteral("-arbre"); }
+  void SuspendreArbre(bool) override {}
+  void DureeBulles(int) override {}
   void ConstruireArbre() override { Faits += QStringLiteral("arbre"); }
   void IntitulerAnnee(const QString& texte) override { Faits += texte; }
   void CocherAnnee(int annee) override { Faits += QStringLiteral("coche %1").arg(annee); }

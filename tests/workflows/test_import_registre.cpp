@@ -179,7 +179,7 @@ TEST(ImportRegistre, AMalformedRowStopsAndTheRowsBeforeStay) {
       import.Etape2();
       ADD_FAILURE() << "la ligne devait être refusée";
     } catch (const EConvertError& e) {
-      EXPECT_TRUE(e.Message.contains(c.attendu) && e.Message.contains(u"Élève n° 5 (Nom 1234-5 Zoé)"))
+      EXPECT_TRUE(e.Message.contains(c.attendu) && e.Message.contains(u"Ligne 6 du fichier (Nom 1234-5 Zoé)"))
           << e.what();
     }
     EXPECT_EQ(base.Valeur(QStringLiteral("SELECT COUNT(*) FROM ELEVES")), u"4");
