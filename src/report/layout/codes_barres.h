@@ -5,7 +5,7 @@
 // Bar codes as filled boxes whose widths are whole numbers of dots at 300 dpi, which they stay at 600.
 
 /// A dot at 300 dpi, px.
-constexpr float kPoint300 = 0.32F;
+constexpr double kPoint300 = 0.32;
 /// White left and right of a bar code, in modules.
 constexpr int kZoneCalme = 10;
 

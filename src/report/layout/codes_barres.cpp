@@ -1,0 +1,129 @@
+#include "report/layout/codes_barres.h"
+
+#include <zint.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using TSymbole = std::unique_ptr<zint_symbol, decltype([](zint_symbol* s) { ZBarcode_Delete(s); })>;
+
+constexpr int kPointsMin = 3;  ///< of a module: less is not read back from office printers
+constexpr int kLarge = 3;      ///< modules of a wide bar
+constexpr qreal kTolerance = 0.05;
+
+/// What a type can hold, how it is named, and what is put around the text before it is encoded.
+struct TRegle {
+  int Symbologie;
+  QLatin1String Nom;
+  QLatin1String Caracteres;
+  QLatin1String Bord;
+};
+
+TRegle Regle(TTypeCode type) {
+  if (type == TTypeCode::Codabar)
+    return {BARCODE_CODABAR, QLatin1String("Codabar"), QLatin1String("0123456789-$:/.+"), QLatin1String("A")};
+  return {BARCODE_CODE39, QLatin1String("Code 39"),
+          QLatin1String("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-. $/+%"), QLatin1String()};
+}
+
+/// Null when the text cannot be encoded.
+TSymbole Encoder(int symbologie, const QByteArray& texte, int niveau = -1) {
+  TSymbole symbole(ZBarcode_Create());
+  if (!symbole) throw std::bad_alloc();
+  symbole->symbology = symbologie;
+  symbole->input_mode = DATA_MODE;
+  symbole->option_1 = niveau;
+  const auto* octets = reinterpret_cast<const unsigned char*>(texte.constData());
+  if (ZBarcode_Encode(symbole.get(), octets, static_cast<int>(texte.size())) >= ZINT_ERROR) return nullptr;
+  return symbole;
+}
+
+bool Noir(const zint_symbol& symbole, int ligne, int colonne) {
+  return ((symbole.encoded_data[ligne][colonne >> 3] >> (colonne & 7)) & 1) != 0;
+}
+
+/// A run of modules of one colour.
+struct TSuite {
+  bool Noir;
+  int Debut;
+  int Modules;
+};
+
+std::vector<TSuite> Suites(const zint_symbol& symbole, int ligne) {
+  std::vector<TSuite> suites;
+  for (int colonne = 0; colonne < symbole.width; ++colonne) {
+    const bool noir = Noir(symbole, ligne, colonne);
+    if (suites.empty() || suites.back().Noir != noir) suites.push_back({noir, colonne, 0});
+    ++suites.back().Modules;
+  }
+  return suites;
+}
+
+/// Narrow or wide: the library draws wide bars two modules wide, which is too little for small modules.
+int Elargir(int modules) { return modules > 1 ? kLarge : 1; }
+
+TCodeDessine Refuser(const QString& defaut) { return {{}, defaut}; }
+
+/// Left edge of something `largeur` wide.
+qreal Gauche(const QRectF& place, qreal largeur, TAlignement alignement) {
+  if (alignement == TAlignement::Droite) return place.right() - largeur;
+  if (alignement == TAlignement::Centre) return place.left() + (place.width() - largeur) / 2;
+  return place.left();
+}
+
+}  // namespace
+
+TCodeDessine DessinerCode(TTypeCode type, const QString& texte, const QRectF& place, float module,
+                          TAlignement alignement) {
+  const TRegle regle = Regle(type);
+  if (texte.isEmpty()) return Refuser(QStringLiteral("Il n'y a rien à mettre dans le code à barres."));
+  for (const QChar c : texte)
+    if (!regle.Caracteres.contains(c))
+      return Refuser(
+          QStringLiteral("Le caractère « %1 » de « %2 » ne peut pas figurer dans un code à barres %3.")
+              .arg(QString(c), texte, regle.Nom));
+  const TSymbole symbole = Encoder(regle.Symbologie, (regle.Bord % texte % regle.Bord).toLatin1());
+  if (!symbole)
+    return Refuser(QStringLiteral("« %1 » est trop long pour un code à barres %2.").arg(texte, regle.Nom));
+
+  const std::vector<TSuite> suites = Suites(*symbole, 0);
+  int modules = 2 * kZoneCalme;
+  for (const TSuite& suite : suites) modules += Elargir(suite.Modules);
+  const auto largeur = [&](int points) { return modules * points * kPoint300; };
+  const auto tient = [&](int points) { return largeur(points) <= place.width() + kTolerance; };
+  int points = std::max(kPointsMin, static_cast<int>(std::lround(static_cast<double>(module) / kPoint300)));
+  while (points > kPointsMin && !tient(points)) --points;
+  if (!tient(points))
+    return Refuser(QStringLiteral("Le code à barres de « %1 » ne tient pas dans sa place.").arg(texte));
+
+  TCodeDessine code;
+  const qreal unite = points * kPoint300;
+  qreal x = Gauche(place, largeur(points), alignement) + kZoneCalme * unite;
+  for (const TSuite& suite : suites) {
+    const qreal large = Elargir(suite.Modules) * unite;
+    if (suite.Noir) code.Barres.Barres.emplace_back(x, place.top(), large, place.height());
+    x += large;
+  }
+  return code;
+}
+
+TCodeDessine DessinerQr(const QString& texte, const QRectF& place) {
+  if (texte.isEmpty()) return Refuser(QStringLiteral("Il n'y a rien à mettre dans le code QR."));
+  constexpr int niveauM = 2;
+  const TSymbole symbole = Encoder(BARCODE_QRCODE, texte.toUtf8(), niveauM);
+  if (!symbole) return Refuser(QStringLiteral("Le texte est trop long pour un code QR."));
+  const qreal cote = std::min(place.width(), place.height());
+  const int points = static_cast<int>((cote + kTolerance) / (symbole->width * kPoint300));
+  if (points < kPointsMin) return Refuser(QStringLiteral("Le code QR ne tient pas dans sa place."));
+  const qreal unite = points * kPoint300;
+  const QPointF coin = place.center() - QPointF(symbole->width, symbole->rows) * unite / 2;
+  TCodeDessine code;
+  for (int ligne = 0; ligne < symbole->rows; ++ligne)
+    for (const TSuite& suite : Suites(*symbole, ligne))
+      if (suite.Noir)
+        code.Barres.Barres.emplace_back(coin.x() + suite.Debut * unite, coin.y() + ligne * unite,
+                                        suite.Modules * unite, unite);
+  return code;
+}
