@@ -43,6 +43,11 @@ void TContexteImpression::Appeler(const QString& procedure, const QString& sende
   }
 }
 
+void TContexteImpression::Noter(const TBandeModele& bande, const TObjetModele& objet,
+                                const QString& message) {
+  Noter(bande, objet.Nom.isEmpty() ? QStringLiteral("ligne %1").arg(objet.Ligne) : objet.Nom, message);
+}
+
 void TContexteImpression::Noter(const TBandeModele& bande, const QString& objet, const QString& message) {
   for (const TDefaut& defaut : defauts_)
     if (defaut.Bande == bande.Nom && defaut.Objet == objet && defaut.Message == message) return;

@@ -34,7 +34,8 @@ class TContexteImpression {
   QString Valeur(const QString& nom) const;
   /// Runs a procedure, "" for none; what goes wrong is a fault of the band.
   void Appeler(const QString& procedure, const QString& sender, const TBandeModele& bande);
-  /// The same fault is kept once.
+  /// The same fault is kept once. An object without a name is known by its line in the template.
+  void Noter(const TBandeModele& bande, const TObjetModele& objet, const QString& message);
   void Noter(const TBandeModele& bande, const QString& objet, const QString& message);
 
   const TRapport& Rapport;

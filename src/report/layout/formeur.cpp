@@ -31,6 +31,11 @@ bool SousLui(const TObjetModele& dessus, const TObjetModele& dessous) {
          dessus.X < dessous.X + dessous.Largeur;
 }
 
+bool Dedans(const TObjetModele& cadre, const TObjetModele& objet) {
+  return objet.X >= cadre.X && objet.X + objet.Largeur <= cadre.X + cadre.Largeur && objet.Y >= cadre.Y &&
+         objet.Y + objet.Hauteur <= cadre.Y + cadre.Hauteur;
+}
+
 }  // namespace
 
 TResolveur TFormeur::Resolveur() const {
@@ -82,6 +87,22 @@ void TFormeur::ChoisirAjustes(std::vector<TObjetPret>& objets) const {
   }
 }
 
+/// Frames grow with the texts that stand in them; gives the lowest foot.
+float TFormeur::EtirerCadres(std::vector<TObjetPret>& objets, float bas) const {
+  for (TObjetPret& cadre : objets) {
+    if (cadre.Modele->Sorte != TSorteObjet::Cadre || !cadre.Modele->Etirable) continue;
+    const float avant = cadre.Etat.Y - cadre.Modele->Y;
+    float grandi = 0;
+    for (const TObjetPret& objet : objets)
+      if (&objet != &cadre && Dedans(*cadre.Modele, *objet.Modele))
+        grandi = std::max(
+            grandi, objet.Etat.Y + objet.Etat.Hauteur - objet.Modele->Y - objet.Modele->Hauteur - avant);
+    cadre.Etat.Hauteur += grandi;
+    if (avant + grandi > 0) bas = std::max(bas, cadre.Etat.Y + cadre.Etat.Hauteur);
+  }
+  return bas;
+}
+
 /// Moves what stands below a text that grew; gives by how much the band grows.
 float TFormeur::Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objets) const {
   std::vector<TObjetPret*> ordre;
@@ -104,6 +125,7 @@ float TFormeur::Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objet
     pousse[&objet] = plus + grandi;
     if (plus + grandi > 0) bas = std::max(bas, objet.Etat.Y + objet.Etat.Hauteur);
   }
+  bas = EtirerCadres(objets, bas);
   return bande.Etirable ? bas - hauteur : 0;
 }
 
@@ -164,7 +186,7 @@ void TFormeur::DessinerTexte(const TBandeModele& bande, const TObjetPret& objet,
     formee.Elements.emplace_back(TElementCadre{
         Rectangle(modele.X, objet.Etat.Y, objet.Etat.Largeur, objet.Etat.Hauteur), 0, 0, objet.Etat.Fond, 0});
   if (paragraphe.Deborde && !modele.Etirable)
-    contexte_.Noter(bande, modele.Nom, QStringLiteral("un texte est plus grand que sa place."));
+    contexte_.Noter(bande, modele, QStringLiteral("un texte est plus grand que sa place."));
   for (std::size_t ligne = 0; ligne < paragraphe.Lignes.size(); ++ligne)
     for (const TSegment& segment : paragraphe.Lignes[ligne]) {
       if (AvecNumeros(segment.Forme->Texte)) {
@@ -203,6 +225,6 @@ void TFormeur::DessinerCode(const TBandeModele& bande, const TObjetPret& objet, 
   TCodeDessine code = modele.Sorte == TSorteObjet::Qr ? DessinerQr(texte, place)
                                                       : ::DessinerCode(objet.Etat.TypeCode, texte, place,
                                                                        modele.Module, modele.Alignement);
-  if (!code.Defaut.isEmpty()) contexte_.Noter(bande, modele.Nom, code.Defaut);
+  if (!code.Defaut.isEmpty()) contexte_.Noter(bande, modele, code.Defaut);
   if (!code.Barres.Barres.empty()) formee.Elements.emplace_back(std::move(code.Barres));
 }

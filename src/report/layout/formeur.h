@@ -16,6 +16,7 @@ class TFormeur {
   std::vector<TObjetPret> Preparer(const TBandeModele& bande);
   void ChoisirAjustes(std::vector<TObjetPret>& objets) const;
   float Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objets) const;
+  float EtirerCadres(std::vector<TObjetPret>& objets, float bas) const;
   void Dessiner(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee);
   void DessinerTexte(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee);
   void DessinerImage(const TObjetPret& objet, TBandeFormee& formee) const;

@@ -171,7 +171,7 @@ void TMoteur::SousRapports(const TBandeModele& bande, int niveau, float x) {
     if (objet.Sorte != TSorteObjet::SousRapport || !contexte_.Etats.De(objet).Visible) continue;
     const auto page = std::ranges::find(contexte_.Modele.Pages, objet.Texte.trimmed(), &TPageModele::Nom);
     if (page == contexte_.Modele.Pages.end() || profondeur_ >= kSousRapportsImbriques) {
-      contexte_.Noter(bande, objet.Nom, QStringLiteral("le sous-rapport « %1 » manque.").arg(objet.Texte));
+      contexte_.Noter(bande, objet, QStringLiteral("le sous-rapport « %1 » manque.").arg(objet.Texte));
       continue;
     }
     ++profondeur_;

@@ -1,5 +1,7 @@
 #include "report/layout/pagination.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr float kTolerance = 0.05F;
@@ -120,9 +122,8 @@ void TPagination::Placer(std::vector<TBandeFormee> bandes, bool complet) {
     while (fin < bandes.size() && !coupures.Avant[fin]) ++fin;
     const bool dernier = complet && fin == bandes.size();
     const float besoin = HauteurBloc(bandes, debut, fin) + (dernier ? HauteurPied(true) : 0);
-    const bool enColonnes = bandes[debut].Modele->Colonnes > 1;
     const bool saute = bandes[debut].Modele->NouvellePage && y_ > debut_;
-    if (saute || (!enColonnes && y_ > debut_ && std::max(y_, plusBas_) + besoin > bas_ + kTolerance)) {
+    if (saute || (plusBas_ > debut_ && !TientIci(bandes, debut, fin, besoin))) {
       Changer(bandes[debut].Position);
       Repeter(bandes, coupures.Tetes[debut]);
     }
@@ -131,6 +132,17 @@ void TPagination::Placer(std::vector<TBandeFormee> bandes, bool complet) {
   }
   FermerColonnes();
   if (complet && y_ + HauteurPied(true) > bas_ + kTolerance) Changer(bandes.back().Position);
+}
+
+/// Cells find their own place; what stands below them must still fit under the tallest column.
+bool TPagination::TientIci(const std::vector<TBandeFormee>& bandes, std::size_t debut, std::size_t fin,
+                           float besoin) const {
+  const float cellule = bandes[debut].Modele->Colonnes > 1 ? bandes[debut].Hauteur : 0;
+  if (cellule == 0) return plusBas_ + besoin <= bas_ + kTolerance;
+  const bool suite = std::any_of(bandes.begin() + static_cast<std::ptrdiff_t>(debut),
+                                 bandes.begin() + static_cast<std::ptrdiff_t>(fin),
+                                 [](const TBandeFormee& bande) { return bande.Modele->Colonnes == 1; });
+  return !suite || plusBas_ + besoin - cellule <= bas_ + kTolerance;
 }
 
 void TPagination::Repeter(const std::vector<TBandeFormee>& bandes, const std::vector<std::size_t>& tetes) {

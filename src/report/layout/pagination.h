@@ -24,7 +24,8 @@ class TPagination {
   void Fermer(bool derniere);
   void Changer(const TPosition& position);
   void Poser(const TBandeFormee& bande, float x, float y);
-  void PlacerBloc(std::vector<TBandeFormee>& bandes, std::size_t debut, std::size_t fin, bool dernier);
+  bool TientIci(const std::vector<TBandeFormee>& bandes, std::size_t debut, std::size_t fin,
+                float besoin) const;
   void PlacerUne(const TBandeFormee& bande, const std::vector<TBandeFormee>& bandes,
                  const std::vector<std::size_t>& tetes);
   void Repeter(const std::vector<TBandeFormee>& bandes, const std::vector<std::size_t>& tetes);

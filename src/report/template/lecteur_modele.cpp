@@ -202,6 +202,8 @@ class TLecteurModele {
         LireBande(page);
       else if (xml_.name() == u"inclure")
         Inclure(&page, nullptr);
+      else if (xml_.name() == u"script")
+        LireScript();
       else
         Refuser(QStringLiteral("« %1 » n'a pas sa place dans une page").arg(xml_.name()));
     }
@@ -283,6 +285,7 @@ class TLecteurModele {
     objet.Epaisseur = a.Nombre("epaisseur", 1);
     if (objet.Sorte == TSorteObjet::Trait) objet.Tiret = a.Nombre("tiret", 0);
     if (objet.Sorte == TSorteObjet::Cadre) {
+      objet.Etirable = a.OuiNon("etirable", false);
       objet.Fond = a.Couleur("fond", 0);
       objet.FondBas = a.Couleur("fondBas", 0);
     }

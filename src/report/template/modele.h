@@ -43,7 +43,7 @@ struct TObjetModele {
   bool Souligne = false;
   TAlignement Alignement = TAlignement::Gauche;
   QRgb Couleur = 0xFF000000;
-  bool Etirable = false;  ///< grows with its text
+  bool Etirable = false;  ///< grows with its text; a frame, with the texts that stand in it
   bool Balises = false;   ///< <b>, <i>, <u> inside values count; in the text itself they also do in rich text
   float Interligne = 0;   ///< px; 0 is the type's own
   float Epaisseur = 1;
