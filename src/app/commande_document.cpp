@@ -5,6 +5,9 @@
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "documents/catalogue.h"
+#include "documents/modeles.h"
+#include "report/layout/mise_en_page.h"
+#include "report/output/pdf.h"
 
 namespace {
 
@@ -67,6 +70,38 @@ void Ecrire(const QString& chemin, const QByteArray& octets) {
         QStringLiteral("Le fichier « %1 » ne peut pas être écrit : %2").arg(chemin, fichier.errorString()));
 }
 
+QString TexteDefaut(const QString& modele, const TDefaut& defaut) {
+  QStringList ou;
+  for (const QString& nom : {modele, defaut.Bande, defaut.Objet})
+    if (!nom.isEmpty()) ou += nom;
+  return ou.join(QStringLiteral(", ")) + QStringLiteral(" : ") + defaut.Message;
+}
+
+/// All reports in one file, with a bookmark a pupil; false when there was nothing to write.
+bool MettreEnPdf(TSession& session, const QString& titre, const TChoixDocument& choix,
+                 const TResultat& resultat) {
+  if (resultat.Rapports.empty()) {
+    session.Dialogues.Message(QStringLiteral("Il n'y a rien à imprimer : le fichier PDF n'est pas écrit."));
+    return false;
+  }
+  const TImpression impression{session.Controleur.Horloge().Maintenant(), !choix.Classes.empty()};
+  std::vector<TDocumentPrepare> documents;
+  for (const TRapport& rapport : resultat.Rapports) {
+    const auto modele = ModeleDocument(rapport.Modele());
+    if (!modele)
+      throw Exception(
+          QStringLiteral("Le document « %1 » n'a pas encore de modèle (« %2 ») : demandez-le avec --json.")
+              .arg(rapport.Titre(), rapport.Modele()));
+    documents.push_back(MettreEnPage(rapport, *modele, impression));
+    for (const TDefaut& defaut : documents.back().Defauts)
+      session.Dialogues.Message(TexteDefaut(rapport.Modele(), defaut));
+  }
+  std::vector<const TDocumentPrepare*> tous;
+  for (const TDocumentPrepare& document : documents) tous.push_back(&document);
+  EcrirePdf(tous, titre, Globals.Parametres->GetParametre(1), session.Option(Nom("pdf")));
+  return true;
+}
+
 }  // namespace
 
 int CommandeDocument(TSession& session) {
@@ -74,9 +109,6 @@ int CommandeDocument(TSession& session) {
   TChoixDocument choix;
   choix.Indice = IndiceTitre(titre);
   if (choix.Indice < 0) throw Exception(QStringLiteral("Il n'y a pas de document « %1 ».").arg(titre));
-  if (session.Options.isSet(Nom("pdf")))
-    throw Exception(
-        QStringLiteral("Les documents ne peuvent pas encore être mis en page : demandez-les avec --json."));
   session.Ouvrir();
   Choisir(session, choix);
   const bool avecPeriode = TitresDocuments()[static_cast<std::size_t>(choix.Indice)].AvecPeriode;
@@ -91,5 +123,6 @@ int CommandeDocument(TSession& session) {
   const TResultat resultat = FaireDocument(ContexteDesGlobals(), choix);
   for (const QString& message : resultat.Messages) session.Dialogues.Message(message);
   if (session.Options.isSet(Nom("json"))) Ecrire(session.Option(Nom("json")), resultat.EnJson(titre));
-  return resultat.Echec ? 1 : 0;
+  const bool imprime = !session.Options.isSet(Nom("pdf")) || MettreEnPdf(session, titre, choix, resultat);
+  return resultat.Echec || !imprime ? 1 : 0;
 }
