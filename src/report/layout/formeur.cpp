@@ -109,7 +109,11 @@ float TFormeur::Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objet
   for (TObjetPret& objet : objets) ordre.push_back(&objet);
   std::ranges::stable_sort(ordre, {}, [](const TObjetPret* o) { return o->Modele->Y; });
   const float hauteur = contexte_.Etats.De(bande).Hauteur;
-  float bas = hauteur;
+  // A rule at the foot keeps its distance from what grew above it.
+  float limite = hauteur;
+  for (const TObjetPret& objet : objets)
+    if (objet.Modele->SousLaBande) limite = std::min(limite, objet.Modele->Y);
+  float bas = limite;
   std::unordered_map<const TObjetPret*, float> pousse;  // how much lower its foot came
   for (const TObjetPret* objet : ordre) pousse[objet] = 0;
   for (std::size_t i = 0; i < ordre.size(); ++i) {
@@ -126,7 +130,7 @@ float TFormeur::Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objet
     if (plus + grandi > 0) bas = std::max(bas, objet.Etat.Y + objet.Etat.Hauteur);
   }
   bas = EtirerCadres(objets, bas);
-  return bande.Etirable ? bas - hauteur : 0;
+  return bande.Etirable ? bas - limite : 0;
 }
 
 std::optional<TBandeFormee> TFormeur::Former(const TBandeModele& bande) {
