@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "forms/grille.h"
 #include "report/layout/mise_en_page.h"
 
 using namespace Qt::StringLiterals;
@@ -22,8 +23,21 @@ void EcrireValeurs(QStringView ligne, TValeurs& valeurs) {
   }
 }
 
+/// "|Name:120|Class:60" gives the columns of a list, further such lines its rows.
+TRapport LireListe(const QStringList& lignes) {
+  std::vector<TColonneGrille> colonnes;
+  for (const QString& titre : lignes[0].split(u'|').mid(1))
+    colonnes.push_back({titre.section(u':', 0, 0), titre.section(u':', 1).toInt()});
+  TGrille grille(colonnes);
+  for (const QString& ligne : lignes.mid(1)) grille.Ajouter(ligne.split(u'|').mid(1));
+  TRapport rapport(u"Liste"_s, u"Liste"_s);
+  rapport.ChargerColonnesListe(grille);
+  return rapport;
+}
+
 /// "A=1; B=2" lines: the document's variables, then a node a line that begins with one dash a level.
 TRapport LireDonnees(const QString& texte) {
+  if (texte.startsWith(u'|')) return LireListe(texte.split(u'\n', Qt::SkipEmptyParts));
   TRapport rapport(u"Cas"_s, u"Cas"_s);
   TArbreRapport arbre;
   TValeurs variables;

@@ -8,7 +8,7 @@ struct TNumeros {
   std::size_t Element = 0;  ///< its place in the list of items
   QString Texte;            ///< with marks
   TStyle Style;
-  TAlignement Alignement = TAlignement::Gauche;
+  TAlignementTexte Alignement = TAlignementTexte::Gauche;
   float X = 0, Largeur = 0;  ///< of its box
 };
 

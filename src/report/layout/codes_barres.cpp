@@ -67,16 +67,16 @@ int Elargir(int modules) { return modules > 1 ? kLarge : 1; }
 TCodeDessine Refuser(const QString& defaut) { return {{}, defaut}; }
 
 /// Left edge of something `largeur` wide.
-qreal Gauche(const QRectF& place, qreal largeur, TAlignement alignement) {
-  if (alignement == TAlignement::Droite) return place.right() - largeur;
-  if (alignement == TAlignement::Centre) return place.left() + (place.width() - largeur) / 2;
+qreal Gauche(const QRectF& place, qreal largeur, TAlignementTexte alignement) {
+  if (alignement == TAlignementTexte::Droite) return place.right() - largeur;
+  if (alignement == TAlignementTexte::Centre) return place.left() + (place.width() - largeur) / 2;
   return place.left();
 }
 
 }  // namespace
 
 TCodeDessine DessinerCode(TTypeCode type, const QString& texte, const QRectF& place, float module,
-                          TAlignement alignement) {
+                          TAlignementTexte alignement) {
   const TRegle regle = Regle(type);
   if (texte.isEmpty()) return Refuser(QStringLiteral("Il n'y a rien à mettre dans le code à barres."));
   for (const QChar c : texte)

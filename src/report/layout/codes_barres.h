@@ -20,7 +20,7 @@ struct TCodeDessine {
 /// dots; a code that does not fit is tried with narrower bars down to three dots. Start and stop are
 /// added and are no part of `texte`.
 TCodeDessine DessinerCode(TTypeCode type, const QString& texte, const QRectF& place, float module,
-                          TAlignement alignement);
+                          TAlignementTexte alignement);
 
 /// A QR code of level M, as large as whole dots allow, in the middle of a place without its quiet zone:
 /// four modules of white must surround the place.

@@ -14,6 +14,8 @@ struct TFormeur::TObjetPret {
 
 namespace {
 
+constexpr float kBlancColonne = 8;  // between two columns of a list
+
 bool EstTexte(const TObjetModele& objet) {
   return objet.Sorte == TSorteObjet::Texte || objet.Sorte == TSorteObjet::TexteRiche;
 }
@@ -55,7 +57,11 @@ TParagraphe TFormeur::Composer(const TObjetModele& objet, const TEtatObjet& etat
       etat.Texte ? Remplacer(
                        QStringLiteral("[]"), [&](const QString&) { return *etat.Texte; }, balises, debut)
                  : Remplacer(objet.Texte, Resolveur(), balises, debut);
-  return MettreEnLignes(morceaux, objet, etat.Largeur, etat.Hauteur);
+  if (colonne_ == nullptr || etat.Largeur > 0)
+    return MettreEnLignes(morceaux, objet, etat.Largeur, etat.Hauteur);
+  TObjetModele cellule = objet;
+  if (colonne_->Droite) cellule.Alignement = TAlignementTexte::Droite;
+  return MettreEnLignes(morceaux, cellule, std::max(1.0F, colonne_->Largeur - kBlancColonne), etat.Hauteur);
 }
 
 std::vector<TFormeur::TObjetPret> TFormeur::Preparer(const TBandeModele& bande) {
@@ -131,6 +137,13 @@ float TFormeur::Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objet
   }
   bas = EtirerCadres(objets, bas);
   return bande.Etirable ? bas - limite : 0;
+}
+
+std::optional<TBandeFormee> TFormeur::Former(const TBandeModele& bande, const TPlaceColonne& colonne) {
+  colonne_ = &colonne;
+  auto formee = Former(bande);
+  colonne_ = nullptr;
+  return formee;
 }
 
 std::optional<TBandeFormee> TFormeur::Former(const TBandeModele& bande) {
@@ -215,8 +228,8 @@ void TFormeur::DessinerImage(const TObjetPret& objet, TBandeFormee& formee) cons
                                     static_cast<qreal>(objet.Etat.Hauteur), Qt::KeepAspectRatio);
   qreal x = static_cast<qreal>(objet.Modele->X);
   const qreal reste = static_cast<qreal>(objet.Etat.Largeur) - taille.width();
-  if (objet.Modele->Alignement == TAlignement::Droite) x += reste;
-  if (objet.Modele->Alignement == TAlignement::Centre) x += reste / 2;
+  if (objet.Modele->Alignement == TAlignementTexte::Droite) x += reste;
+  if (objet.Modele->Alignement == TAlignementTexte::Centre) x += reste / 2;
   formee.Elements.emplace_back(
       TElementImage{QRectF(QPointF(x, static_cast<qreal>(objet.Etat.Y)), taille), std::move(image)});
 }

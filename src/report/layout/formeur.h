@@ -1,5 +1,6 @@
 #pragma once
 #include "report/layout/bande_formee.h"
+#include "report/layout/colonnes.h"
 #include "report/layout/contexte_impression.h"
 #include "report/layout/paragraphe.h"
 
@@ -10,6 +11,8 @@ class TFormeur {
 
   /// None when the band is hidden, perhaps by its own procedure.
   std::optional<TBandeFormee> Former(const TBandeModele& bande);
+  /// The same for a column of a list: a text without a width takes the column's, and its side.
+  std::optional<TBandeFormee> Former(const TBandeModele& bande, const TPlaceColonne& colonne);
 
  private:
   struct TObjetPret;
@@ -26,4 +29,5 @@ class TFormeur {
   TResolveur Resolveur() const;
 
   TContexteImpression& contexte_;
+  const TPlaceColonne* colonne_ = nullptr;  ///< in hand
 };

@@ -73,6 +73,8 @@ void TMoteur::CommencerPage() {
   bandes_.clear();
   const TPageModele& page = *pages_[page_];
   pagination_.Commencer(page);
+  if (contexte_.Rapport.ModeColonnes())
+    colonnes_ = PlacesColonnes(contexte_.Rapport, page.Largeur - 2 * page.Marge);
   Ajouter(page, TSorteBande::Entete, TRole::Seule, -1, 0);
   if (!parcours_->Fini(TJeu::Maitre)) AjouterDe(page, TSorteBande::Entete, TSorteBande::Maitre, 0);
 }
@@ -145,24 +147,49 @@ void TMoteur::Compter(std::size_t niveau, int ligne) {
 void TMoteur::Ajouter(const TPageModele& page, TSorteBande sorte, TRole role, int niveau, float x) {
   for (const TBandeModele& bande : page.Bandes)
     if (bande.Sorte == sorte && (role != TRole::Seule || bande.Jeu.isEmpty()))
-      AjouterBande(bande, role, niveau, x);
+      AjouterBande(page, bande, role, niveau, x);
 }
 
 void TMoteur::AjouterDe(const TPageModele& page, TSorteBande sorte, TSorteBande jeu, float x) {
   const TRole role = sorte == TSorteBande::Pied ? TRole::Pied : TRole::Tete;
   for (const TBandeModele& bande : page.Bandes)
-    if (bande.Sorte == sorte && JeuDe(page, bande) == jeu) AjouterBande(bande, role, NiveauDe(jeu), x);
+    if (bande.Sorte == sorte && JeuDe(page, bande) == jeu) AjouterBande(page, bande, role, NiveauDe(jeu), x);
 }
 
-void TMoteur::AjouterBande(const TBandeModele& bande, TRole role, int niveau, float x) {
-  auto formee = formeur_.Former(bande);
+void TMoteur::AjouterBande(const TPageModele& page, const TBandeModele& bande, TRole role, int niveau,
+                           float x) {
+  const bool enColonnes = !colonnes_.empty() && niveau == 0 && role != TRole::Pied;
+  auto formee = enColonnes ? formeur_.Former(bande, colonnes_[0]) : formeur_.Former(bande);
   if (!formee) return;
+  if (enColonnes)
+    AjouterColonnes(page, role == TRole::Ligne ? TSorteBande::Colonnes : TSorteBande::EnteteColonnes,
+                    *formee);
   formee->Role = role;
   formee->Niveau = niveau;
   formee->X = x;
   PoserSignet(*formee);
   bandes_.push_back(std::move(*formee));
   SousRapports(bande, niveau, x);
+}
+
+void TMoteur::AjouterColonnes(const TPageModele& page, TSorteBande sorte, TBandeFormee& ligne) {
+  parcours_->Premier(TJeu::Colonne);
+  for (std::size_t i = 1; !parcours_->Fini(TJeu::Colonne) && i < colonnes_.size(); ++i) {
+    Suivre();
+    for (const TBandeModele& bande : page.Bandes) {
+      if (bande.Sorte != sorte) continue;
+      auto cellule = formeur_.Former(bande, colonnes_[i]);
+      if (!cellule) continue;
+      for (TElement& element : cellule->Elements) {
+        Deplacer(element, colonnes_[i].X, 0);
+        ligne.Elements.push_back(std::move(element));
+      }
+      ligne.Hauteur = std::max(ligne.Hauteur, cellule->Hauteur);
+    }
+    parcours_->Suivant(TJeu::Colonne);
+  }
+  parcours_->Premier(TJeu::Colonne);
+  Suivre();
 }
 
 /// The bands of a sub-report follow the band that names it.

@@ -24,7 +24,9 @@ class TMoteur {
   void Ajouter(const TPageModele& page, TSorteBande sorte, TRole role, int niveau, float x);
   /// The heads or feet of a data band.
   void AjouterDe(const TPageModele& page, TSorteBande sorte, TSorteBande jeu, float x);
-  void AjouterBande(const TBandeModele& bande, TRole role, int niveau, float x);
+  void AjouterBande(const TPageModele& page, const TBandeModele& bande, TRole role, int niveau, float x);
+  /// The other columns of a list, beside the reference column.
+  void AjouterColonnes(const TPageModele& page, TSorteBande sorte, TBandeFormee& ligne);
   void SousRapports(const TBandeModele& bande, int niveau, float x);
   void Compter(std::size_t niveau, int ligne);
   void PoserSignet(TBandeFormee& bande);
@@ -42,6 +44,7 @@ class TMoteur {
   std::vector<TBandeFormee> bandes_;
   std::array<int, 3> lignes_{};  ///< rows so far in the whole report, by level
   int ligneMaitre_ = 0;
-  QString classe_;  ///< of the last bookmark
+  std::vector<TPlaceColonne> colonnes_;  ///< of the page in hand, in column mode
+  QString classe_;                       ///< of the last bookmark
   int profondeur_ = 0;
 };

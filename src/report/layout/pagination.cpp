@@ -208,6 +208,6 @@ void TPagination::EcrireNumeros(std::size_t page, const TNumeros& numeros, const
   element.Forme = Former(texte, numeros.Style);
   const float reste = numeros.Largeur > 0 ? numeros.Largeur - element.Forme->Largeur : 0;
   element.X = numeros.X;
-  if (numeros.Alignement == TAlignement::Droite) element.X += reste;
-  if (numeros.Alignement == TAlignement::Centre) element.X += reste / 2;
+  if (numeros.Alignement == TAlignementTexte::Droite) element.X += reste;
+  if (numeros.Alignement == TAlignementTexte::Centre) element.X += reste / 2;
 }

@@ -104,7 +104,7 @@ class TCoupeur {
   void Ligne(qsizetype debut, qsizetype fin, bool derniere) {
     std::vector<TSegment> segments;
     float largeur = 0;
-    const bool etendre = objet_.Alignement == TAlignement::Bloc && !derniere && largeur_ > 0;
+    const bool etendre = objet_.Alignement == TAlignementTexte::Bloc && !derniere && largeur_ > 0;
     if (etendre) {
       Etendre(debut, fin, segments);
     } else {
@@ -112,8 +112,8 @@ class TCoupeur {
       if (!Tient(largeur)) paragraphe_.Deborde = true;
       const float reste = largeur_ > 0 ? largeur_ - largeur : 0;
       for (TSegment& segment : segments) {
-        if (objet_.Alignement == TAlignement::Droite) segment.X += reste;
-        if (objet_.Alignement == TAlignement::Centre) segment.X += reste / 2;
+        if (objet_.Alignement == TAlignementTexte::Droite) segment.X += reste;
+        if (objet_.Alignement == TAlignementTexte::Centre) segment.X += reste / 2;
       }
     }
     paragraphe_.Lignes.push_back(std::move(segments));

@@ -31,10 +31,10 @@ constexpr std::pair<const char*, TSorteObjet> kSortesObjet[] = {
     {"image", TSorteObjet::Image}, {"code", TSorteObjet::CodeBarres},
     {"qr", TSorteObjet::Qr},       {"sousRapport", TSorteObjet::SousRapport}};
 
-constexpr std::pair<const char*, TAlignement> kAlignements[] = {{"gauche", TAlignement::Gauche},
-                                                                {"droite", TAlignement::Droite},
-                                                                {"centre", TAlignement::Centre},
-                                                                {"bloc", TAlignement::Bloc}};
+constexpr std::pair<const char*, TAlignementTexte> kAlignements[] = {{"gauche", TAlignementTexte::Gauche},
+                                                                     {"droite", TAlignementTexte::Droite},
+                                                                     {"centre", TAlignementTexte::Centre},
+                                                                     {"bloc", TAlignementTexte::Bloc}};
 
 constexpr std::pair<const char*, TTypeCode> kTypesCode[] = {{"code39", TTypeCode::Code39},
                                                             {"codabar", TTypeCode::Codabar}};

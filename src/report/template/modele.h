@@ -27,7 +27,7 @@ enum class TSorteBande {
 
 enum class TSorteObjet { Texte, TexteRiche, Trait, Cadre, Image, CodeBarres, Qr, SousRapport };
 
-enum class TAlignement { Gauche, Droite, Centre, Bloc };
+enum class TAlignementTexte { Gauche, Droite, Centre, Bloc };
 
 enum class TTypeCode { Code39, Codabar };
 
@@ -41,7 +41,7 @@ struct TObjetModele {
   QString Texte;  ///< with [Name]; of a code, of a sub-report its page's name
   TStyle Style;
   bool Souligne = false;
-  TAlignement Alignement = TAlignement::Gauche;
+  TAlignementTexte Alignement = TAlignementTexte::Gauche;
   QRgb Couleur = 0xFF000000;
   bool Etirable = false;  ///< grows with its text; a frame, with the texts that stand in it
   bool Balises = false;   ///< <b>, <i>, <u> inside values count; in the text itself they also do in rich text
