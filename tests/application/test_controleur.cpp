@@ -93,7 +93,17 @@ TEST(Controleur, RetryAndGiveUp) {
     base.Dialogues.Reessaie(false);
     essai.Controleur.FormShow();
     EXPECT_EQ(essai.Fenetre.Faits, QStringList{"fin"}) << "giving up at the first failure ends the program";
-    EXPECT_TRUE(base.Dialogues.Questions.last().contains(u"nommé : " + mauvais));
+    EXPECT_EQ(
+        base.Dialogues.Questions.last(),
+        QString(u"Erreur de connexion au serveur de données\n"
+                u"Un problème empêche le logiciel de se connecter au serveur de base de donnée nommé : " %
+                mauvais %
+                u"\nVeuillez vérifier si :\n"
+                u"1. Le nom du serveur est correctement orthographié.\n"
+                u"2. Le serveur est allumé et accessible via le réseau.\n"
+                u"3. Les paramètres réseau de votre ordinateur sont corrects\n"
+                u"Actions:\n"
+                u"Cliquez ici afin de modifier le nom du serveur de données."));
   }
   {
     TControleurEssai essai(base);
@@ -146,9 +156,34 @@ TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
   EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2015) << "the display stays as it was";
 }
 
-TEST(Controleur, AnUnreadableYearStopsTheStart) {
+TEST(Controleur, AnUnreadableYearStopsTheStartUntilItIsMended) {
   TBaseEssai base;
-  TEcoleEssai(base).parametre(27, QStringLiteral("deux mille seize"));
+  TEcoleEssai ecole(base);
+  ecole.parametre(27, QStringLiteral("deux mille seize"));
   TControleurEssai essai(base);
-  EXPECT_THROW(essai.Charger(), EConvertError);
+  try {
+    essai.Charger();
+    ADD_FAILURE() << "the year was read";
+  } catch (const EConvertError& e) {
+    EXPECT_TRUE(e.Message.startsWith(u"Paramètre 27 : ")) << e.what();
+  }
+  EXPECT_EQ(Globals.Parametres, nullptr);
+  ecole.parametre(27, QStringLiteral("2018"));
+  essai.Charger();
+  EXPECT_EQ(Globals.AnneeScolaire, 2018);
+}
+
+TEST(Controleur, TheFieldInHandIsLeftWhileItsDataAreThere) {
+  struct TFenetreQuiRegarde : TFenetreEssai {
+    void QuitterChamp() override {
+      Faits += Globals.Eleves && Globals.Parametres ? QStringLiteral("quitte") : QStringLiteral("trop tard");
+    }
+  } fenetre;
+  TBaseEssai base;
+  TControleurEssai essai(base);
+  essai.Charger();
+  TControleur controleur(*base, base.Reglages, fenetre, essai.Horloge);
+  controleur.FormClose();
+  EXPECT_EQ(fenetre.Faits, QStringList{"quitte"});
+  EXPECT_EQ(Globals.Parametres, nullptr);
 }

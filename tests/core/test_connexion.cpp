@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
 
@@ -144,4 +145,41 @@ TEST(Connexion, WhereTheServersNameComesFrom) {
   EXPECT_TRUE(base->ConnectToServer());
   EXPECT_EQ(base->ServerName, b);
   EXPECT_FALSE(QFile::exists(b + QStringLiteral(".nouveau")));
+}
+
+TEST(Connexion, OnlyWhoMayNotWriteTheMachinesSettingsIsWarned) {
+  struct TCheminMachine {
+    static void Mettre(const QString& chemin) {
+      QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope, chemin);
+    }
+    ~TCheminMachine() { Mettre(Avant); }
+    const QString Avant =
+        QFileInfo(QSettings(QSettings::NativeFormat, QSettings::SystemScope, QStringLiteral("x")).fileName())
+            .path();
+  } const machine;
+  const QString invite =
+      QStringLiteral("Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :");
+  const QString attention = QStringLiteral(
+      "\nAttention : Afin de ne plus afficher ce message, veuillez exécuter cette opération avec un compte "
+      "administrateur");
+  for (const bool inscriptible : {true, false}) {
+    struct TNote : TDialoguesScenario {
+      std::optional<QString> Saisir(const QString&, const QString& texte, const QString&) override {
+        Invite = texte;
+        return QStringLiteral("poste1");
+      }
+      QString Invite;
+    } dialogues;
+    TBaseEssai base;
+    // Behind a file there is no folder, not even for an administrator.
+    const QString racine = inscriptible ? base.Chemin(QStringLiteral("machine"))
+                                        : QString(base.Fichier(QStringLiteral("fichier"), "x") + u"/machine");
+    machine.Mettre(racine);
+    TDataModule1 module(dialogues, base.Reglages);
+    EXPECT_EQ(module.CanWriteMachineKey(), inscriptible);
+    module.AskServerName();
+    EXPECT_EQ(dialogues.Invite, inscriptible ? invite : QString(invite + attention));
+    const TRacine ou = inscriptible ? TRacine::Machine : TRacine::Utilisateur;
+    EXPECT_EQ(base.Reglages.Lire(ou, QStringLiteral("Serveur")), u"poste1");
+  }
 }

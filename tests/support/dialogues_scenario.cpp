@@ -67,7 +67,7 @@ std::optional<QString> TDialoguesScenario::FichierAEnregistrer(const QString& ti
 }
 
 bool TDialoguesScenario::Reessayer(const TReessai& reessai) {
-  Questions += reessai.Titre + u'\n' + reessai.Texte + u'\n' + reessai.Explication;
+  Questions += reessai.Titre + u'\n' + reessai.Texte + u'\n' + reessai.Explication + u'\n' + reessai.Lien;
   const TAttendu attendu = Suivant(TSorte::Reessai, reessai.Texte);
   if (attendu.reponse) reessai.SurLien();
   return attendu.oui;
