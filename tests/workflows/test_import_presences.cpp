@@ -48,15 +48,15 @@ TEST(ImportPresences, LinesBecomeRecords) {
   essai.Charger();
   TImportPresences import(essai.Controleur);
   ecole.base.Dialogues.Attend(kAnomalies);
-  import.ImporterFichier(ecole.fichier(
-      "11;1;20161003;073015000;1\r\n"   // entry; the seconds are lost
-      "11;1;20161004;110000000;2\r\n"   // an exit at 11:00 is an entry, in no window
-      "11;1;20161005;110100000;2\r\n"   // at 11:01 it stays an exit
-      "11;4;20161003;160000000;1\r\n"   // study is always an exit
-      "1-1;1;20161003;073000000;1\r\n"  // with its dash the number is unknown
-      "99;4;20161006;160000000;1\r\n"
-      "11;3;20161003;120000000;1\r\n"         // a soup is tested by the rows of meals
-      "11;1;20161008;073000000;1\r\n\r\n"));  // Saturday
+  import.ImporterFichier(
+      ecole.fichier("11;1;20161003;073015000;1\r\n"   // entry; the seconds are lost
+                    "11;1;20161004;110000000;2\r\n"   // an exit at 11:00 is an entry, in no window
+                    "11;1;20161005;110100000;2\r\n"   // at 11:01 it stays an exit
+                    "11;4;20161003;160000000;1\r\n"   // study is always an exit
+                    "1-1;1;20161003;073000000;1\r\n"  // with its dash the number is unknown
+                    "99;4;20161006;160000000;1\r\n"
+                    "11;3;20161003;120000000;1\r\n"         // a soup is tested by the rows of meals
+                    "11;1;20161008;073000000;1\r\n\r\n"));  // Saturday
   ASSERT_EQ(import.Bons().size(), 2U);
   EXPECT_EQ(import.Bons()[0]->HeureEntree, EncodeTime(7, 30));
   EXPECT_EQ(import.Bons()[1]->HeureSortie, EncodeTime(16, 0));
@@ -78,9 +78,8 @@ TEST(ImportPresences, LinesBecomeRecords) {
   ecole.base.Dialogues.Attend(kMemorisees);
   import.Etape2();
   EXPECT_FALSE(import.Pret());
-  EXPECT_EQ(ecole.rangees(),
-            (QStringList{"1;2016-10-03;07:30:00.000;-;",
-                         "4;2016-10-03;-;16:00:00.000;", "1;2016-10-07;15:45:00.000;17:00:00.000;"}));
+  EXPECT_EQ(ecole.rangees(), (QStringList{"1;2016-10-03;07:30:00.000;-;", "4;2016-10-03;-;16:00:00.000;",
+                                          "1;2016-10-07;15:45:00.000;17:00:00.000;"}));
   EXPECT_TRUE(QFile::exists(ecole.base.Chemin(QStringLiteral("scans.txt")))) << "a file chosen by hand stays";
 }
 
@@ -170,4 +169,39 @@ TEST(ImportPresences, ArchivingTheScannersAndTheTabletsFiles) {
   EXPECT_FALSE(QFile::exists(tablette));
   EXPECT_TRUE(QFile::exists(ecole.base.Chemin(QStringLiteral("archives/Presences-13.10.2016-15h35m9s.txt"))));
   EXPECT_EQ(ecole.rangees().size(), 2);
+}
+
+TEST(ImportPresences, WithoutItsCounterNothingIsCalledDone) {
+  TEcoleScannee ecole;
+  TControleurEssai essai(ecole.base);
+  essai.Charger();
+  TImportPresences import(essai.Controleur);
+  import.ImporterFichier(ecole.fichier("11;1;20161003;073000000;1\n11;1;20161004;160000000;2\n"));
+  ecole.base.Sql(QStringLiteral("DELETE FROM COUNTERS WHERE TABLE_NAME = 'PRESENCES'"));
+  ecole.base.Dialogues.Attend(QStringLiteral("Le compteur de table PRESENCES n'existe pas !"));
+  EXPECT_THROW(import.Etape2(), Exception);
+  EXPECT_TRUE(import.Pret());
+  EXPECT_TRUE(ecole.rangees().isEmpty());
+  ecole.base.Sql(QStringLiteral("INSERT INTO COUNTERS VALUES ('PRESENCES', 0)"));
+  ecole.base.Dialogues.Attend(kMemorisees);
+  import.Etape2();
+  EXPECT_EQ(ecole.rangees(), (QStringList{"1;2016-10-03;07:30:00.000;-;", "1;2016-10-04;-;16:00:00.000;"}));
+}
+
+TEST(ImportPresences, TheLinesOfTheTwoGrids) {
+  TEcoleScannee ecole;
+  TControleurEssai essai(ecole.base);
+  essai.Charger();
+  TImportPresences import(essai.Controleur);
+  ecole.base.Dialogues.Attend(kAnomalies);
+  import.ImporterFichier(
+      ecole.fichier("11;1;20161003;073015000;1\n99;4;20161006;160000000;1\n11;2;20161005;120000000;1\n"));
+  ASSERT_EQ(import.Bons().size(), 1U);
+  ASSERT_EQ(import.Anomalies().size(), 2U);
+  EXPECT_EQ(LigneRecapitulatif(*import.Bons()[0]),
+            (QStringList{"Eleve1", "Prenom1", "lundi 3 octobre", "Garderie", "07:30", "", "1-1"}));
+  EXPECT_EQ(LigneAnomalie(import.Anomalies()[0]),
+            (QStringList{"Matricule inconnu (99)", "", "jeudi 6 octobre", "Etude", "", "16:00", ""}));
+  EXPECT_EQ(LigneAnomalie(import.Anomalies()[1]),
+            (QStringList{"Eleve1", "Prenom1", "mercredi 5 octobre", "Repas", "12:00", "", "1-1"}));
 }

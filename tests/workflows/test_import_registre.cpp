@@ -186,3 +186,53 @@ TEST(ImportRegistre, AMalformedRowStopsAndTheRowsBeforeStay) {
     EXPECT_EQ(base.Valeur(QStringLiteral("SELECT COUNT(*) FROM ELEVES_CLASSES")), u"4");
   }
 }
+
+TEST(ImportRegistre, ATextThatIsTooLongStopsAndTheRestCanFollow) {
+  struct {
+    int colonne;
+    QString texte, attendu;
+    int eleves;
+  } const cas[] = {
+      {1, QString(11, u'S'),
+       QStringLiteral("Le code d'implantation « SSSSSSSSSSS » a plus de 10 caractères."), 4},
+      {22, QString(51, u'R'), QStringLiteral("Un texte est trop long pour la base de données."), 4},
+      {17, QString(41, u'C'), QStringLiteral("Un texte est trop long pour la base de données."), 5}};
+  for (const auto& c : cas) {
+    TBaseEssai base;
+    TControleurEssai essai(base);
+    essai.Charger();
+    TImportRegistre import(essai.Controleur);
+    ASSERT_TRUE(import.Etape1(TFichierRegistre(1).Mettre(5, c.colonne, c.texte).Ecrire(base)));
+    try {
+      import.Etape2();
+      ADD_FAILURE() << "la ligne devait être refusée";
+    } catch (const Exception& e) {
+      EXPECT_TRUE(e.Message.startsWith(u"Ligne 6 du fichier (Nom 1234-5 Zoé) : " + c.attendu)) << e.what();
+    }
+    EXPECT_EQ(base.Rangees(kEleves).size(), c.eleves);
+    EXPECT_EQ(base.Rangees(kClasses).size(), 4);
+    essai.Controleur.ChargerAnnee(2016);
+    EXPECT_EQ(Globals.Eleves->Count(), 4);
+    ASSERT_TRUE(import.Etape1(TFichierRegistre(1).Ecrire(base)));
+    EXPECT_EQ(import.Etape2().Crees, 9 - c.eleves);
+    EXPECT_EQ(Globals.Eleves->Count(), 9);
+  }
+}
+
+TEST(ImportRegistre, WithoutItsCounterNothingIsCalledDone) {
+  for (const QString& table : {QStringLiteral("ELEVES"), QStringLiteral("ELEVES_CLASSES")}) {
+    TBaseEssai base;
+    TControleurEssai essai(base);
+    essai.Charger();
+    TImportRegistre import(essai.Controleur);
+    ASSERT_TRUE(import.Etape1(TFichierRegistre(1).Ecrire(base)));
+    base.Sql(QString(u"DELETE FROM COUNTERS WHERE TABLE_NAME = '" % table % u"'"));
+    base.Dialogues.Attend(QString(u"Le compteur de table " % table % u" n'existe pas !"));
+    EXPECT_THROW(import.Etape2(), Exception);
+    EXPECT_TRUE(base.Rangees(kClasses).isEmpty());
+    base.Sql(QString(u"INSERT INTO COUNTERS VALUES ('" % table % u"', 0)"));
+    EXPECT_EQ(import.Etape2().Lignes, 9);
+    EXPECT_EQ(base.Rangees(kEleves).size(), 9);
+    EXPECT_EQ(base.Rangees(kClasses).size(), 9);
+  }
+}
