@@ -46,9 +46,6 @@ class TIndex {
     return liste.empty() ? nullptr : liste.front();
   }
 
-  /// Room for so many objects, to spare a load its growing.
-  void Reserver(std::size_t n) { cles_.reserve(n); }
-
  private:
   struct TPlace {
     Cle cle{};

@@ -21,6 +21,7 @@ QString Presenter(std::int64_t dixChiffres) {
 }
 
 bool Codable(IDialogues& dialogues, int eleveId) {
+  if (eleveId < 1) return false;  // not stored yet
   if (eleveId < kPremierIdentifiantTropGrand) return true;
   dialogues.Message(
       QStringLiteral("L'identifiant élève est trop grand pour générer une communication structurée !"));

@@ -2,10 +2,10 @@
 #include "core/distributor.h"
 #include "core/exceptions.h"
 
-/// A site of the school.
 /// Letters that the code of a site may have.
 inline constexpr int kCodeImplantationMaximum = 10;
 
+/// A site of the school.
 struct TImplantation : TBaseObject {
   QString Code;
   QString LibelleCourt;

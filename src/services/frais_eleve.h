@@ -93,6 +93,7 @@ class TAllFraisEleve : public TCollection<TFraisEleve> {
   void LoadItems(TCurseur& ligne) override;
   void StoreRecord(const TFraisEleve& frais, TLigne& ligne) const override;
   void Indexer(TFraisEleve& frais) override { frais.lignes_ = this; }
+  void Desindexer(TFraisEleve& frais) override { frais.lignes_ = nullptr; }
 
  private:
   /// The sum of COUT of the fees that are no forecast and that the condition holds for.

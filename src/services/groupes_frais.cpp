@@ -2,6 +2,7 @@
 
 int TGroupeFrais::DetailsPaiement(TDetails& details, int eleve) {
   if (!lus_ && base_ != nullptr) {
+    paiements_.clear();  // of a reading that failed half-way
     TCurseur ligne(*base_,
                    u"SELECT ELEVE_ID, REMARQUE, MONTANT_VERSE FROM FRAIS_ELEVE WHERE GROUPE_FRAIS_ID=" %
                        QString::number(Id));

@@ -1,6 +1,7 @@
 #include "workflows/import_registre.h"
 
 #include <numeric>
+#include <unordered_set>
 
 #include "core/conversions.h"
 #include "core/exceptions.h"
@@ -137,7 +138,9 @@ void TImportRegistre::Cloturer() {
   IDialogues& dialogues = controleur_.Dialogues();
   TProgression progression(dialogues, Globals.Eleves->Count());
   int fait = 0;
+  std::unordered_set<int> clotures;  // a pupil who is enrolled twice has one account
   for (TEleve& eleve : *Globals.Eleves) {
+    if (!clotures.insert(eleve.Id).second) continue;
     const Currency frais = eleve.Solde(true, false);
     const Currency services = eleve.Solde(false, true);
     const Currency total = eleve.Solde(true, true);

@@ -40,14 +40,13 @@ struct TGarderiesEssai : testing::Test {
     for (const TLigneService& ligne : lignes) liste += ligne.Texte();
     return liste.join(u' ').toStdString();
   }
-  std::string soir(int eleve, const char* date, bool deuxieme = false,
-                   TTypeActivitesExt ext = TTypeActivitesExt::Aucune) {
-    return Euros(
-        presences->CoutGarderieSoir(eleve, {J(date), J(date)}, deuxieme, ext, inscriptions.get(), lignes));
+  std::string soir(int eleve, const char* date, bool deuxieme = false) {
+    return Euros(presences->CoutGarderieSoir(eleve, {J(date), J(date)}, deuxieme, TTypeActivitesExt::Aucune,
+                                             inscriptions.get(), lignes));
   }
-  std::string mercredi(int eleve, const char* date, TTypeActivitesExt ext = TTypeActivitesExt::Aucune) {
-    return Euros(
-        presences->CoutGarderieMercredi(eleve, {J(date), J(date)}, false, ext, inscriptions.get(), lignes));
+  std::string mercredi(int eleve, const char* date) {
+    return Euros(presences->CoutGarderieMercredi(eleve, {J(date), J(date)}, false, TTypeActivitesExt::Aucune,
+                                                 inscriptions.get(), lignes));
   }
 };
 

@@ -165,6 +165,29 @@ TEST_F(TGarderiesEssai, ActiviteRecalculeeSurLEntreeDuReleve) {
   EXPECT_EQ(mercredi(2, kMercredi), "2.5000");
 }
 
+TEST_F(TGarderiesEssai, OrdreDesDeductionsEtSousZero) {
+  tarifsUsuels();
+  const int longue = ecole.activite("15:00", "17:00");
+  // Longer than the stay: the amount goes below zero and stays there.
+  ecole.unEleve().scan(Garderie, kLundi, "", "17:00").suit(longue, "1");
+  // The activity first, the day flat rate then, on what it left.
+  ecole.unEleve().scan(Garderie, kLundi, "07:30").scan(Garderie, kLundi, "", "17:00").suit(longue, "1");
+  // A Wednesday knows nothing of the study.
+  ecole.unEleve().scan(Garderie, kMercredi, "", "16:30").scan(Etude, kMercredi, "", "16:00");
+  // Gone before the activity begins: priced from the record's own entry, not from after the study.
+  const int tardive = ecole.activite("17:15", "18:00");
+  ecole.unEleve().scan(Garderie, kLundi, "", "17:00").scan(Etude, kLundi, "", "16:00").suit(tardive, "1");
+  charger(true);
+  EXPECT_EQ(soir(1, kLundi), "-1.5000");  // 1.50 less 120 minutes
+  EXPECT_EQ(mercredi(3, kMercredi), "2.5000");
+  EXPECT_EQ(soir(4, kLundi), "1.5000");
+  presences->ModeDeduction = TModeDeduction::QuartsHeure;
+  EXPECT_EQ(soir(1, kLundi), "-0.3000");  // a hair above eight quarters: nine
+  presences->ModeDeduction = TModeDeduction::UnEuro;
+  presences->GarderieUnique = true;
+  EXPECT_EQ(soir(2, kLundi), "-0.5000");
+}
+
 TEST(ActivitesExt, PeriodeDuParametre100) {
   TBaseEssai base;
   TEcoleEssai ecole(base, 2015);
