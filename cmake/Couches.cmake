@@ -20,7 +20,9 @@ if(CALPENNE_FUZZ)
   target_compile_options(calpenne_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(CALPENNE_ASAN)
-  target_compile_options(calpenne_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all)
+  target_compile_options(calpenne_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+    # Instrumented code makes g++ 12 see reads behind the end of every empty QByteArray.
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-array-bounds>)
   target_link_options(calpenne_options INTERFACE -fsanitize=address,undefined)
 endif()
 
