@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Half a second faster than the usual 6 on a thousand pages, and some percent larger.
-constexpr int kNiveau = 3;
+/// On 500 pages of text the fastest level saves 30 ms and makes the file a third larger.
+constexpr int kNiveau = 6;
 constexpr qsizetype kBloc = 1 << 20;
 
 Bytef* Octets(const char* debut) { return reinterpret_cast<Bytef*>(const_cast<char*>(debut)); }

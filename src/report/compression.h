@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-/// Compresses streams one after the other, as zlib does, for speed rather than for the last byte.
+/// Compresses streams one after the other, as zlib does.
 class TCompresseur {
  public:
   TCompresseur();

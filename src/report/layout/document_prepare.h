@@ -12,7 +12,7 @@
 // the upper left corner of the paper.
 
 struct TElementTexte {
-  std::shared_ptr<const TTexteForme> Forme;
+  std::shared_ptr<const TTexteForme> Forme;  ///< there always is one
   float X = 0.0F;
   float Base = 0.0F;  ///< y of the baseline
   QRgb Couleur = 0xFF000000;
@@ -36,7 +36,7 @@ struct TElementCadre {
 
 struct TElementImage {
   QRectF Place;
-  std::shared_ptr<const QImage> Image;
+  std::shared_ptr<const QImage> Image;  ///< there always is one
 };
 
 /// The dark bars of a code, each a filled box without smoothing.

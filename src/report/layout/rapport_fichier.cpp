@@ -107,20 +107,24 @@ class TLecteur {
   qsizetype place_ = 0;
 };
 
+/// A run is told by its place, a picture by its content, of which there may be many copies.
+const TTexteForme* Identite(const TTexteForme& forme) { return &forme; }
+qint64 Identite(const QImage& image) { return image.cacheKey(); }
+
 /// Runs and pictures that elements share, each written once.
 template <class T>
 class TTable {
  public:
-  std::uint32_t Indice(const std::shared_ptr<const T>& objet) {
+  std::uint32_t Indice(const T& objet) {
     const auto [place, nouveau] =
-        indices_.try_emplace(objet.get(), static_cast<std::uint32_t>(Objets.size()));
-    if (nouveau) Objets.push_back(objet.get());
+        indices_.try_emplace(Identite(objet), static_cast<std::uint32_t>(Objets.size()));
+    if (nouveau) Objets.push_back(&objet);
     return place->second;
   }
   std::vector<const T*> Objets;
 
  private:
-  std::unordered_map<const T*, std::uint32_t> indices_;
+  std::unordered_map<decltype(Identite(std::declval<const T&>())), std::uint32_t> indices_;
 };
 
 // ---- writing
@@ -172,7 +176,7 @@ class TCorps {
     }
   }
   void Element(const TElementTexte& e) {
-    pages_.Valeur(formes_.Indice(e.Forme));
+    pages_.Valeur(formes_.Indice(*e.Forme));
     for (const float longueur : {e.X, e.Base}) pages_.Valeur(longueur);
     pages_.Valeur(e.Couleur);
     pages_.Valeur(static_cast<std::uint8_t>(e.Souligne));
@@ -188,7 +192,7 @@ class TCorps {
   }
   void Element(const TElementImage& e) {
     pages_.Place(e.Place);
-    pages_.Valeur(images_.Indice(e.Image));
+    pages_.Valeur(images_.Indice(*e.Image));
   }
   void Element(const TElementBarres& e) {
     pages_.Nombre(e.Barres.size());

@@ -235,7 +235,6 @@ void TPagePdf::Dessiner(const TElementCadre& element) {
 }
 
 void TPagePdf::Dessiner(const TElementImage& element) {
-  if (!element.Image || element.Image->isNull()) return;
   SortirDuTexte();
   const TCentiemes gauche = Centiemes(element.Place.left()), bas = Y(element.Place.bottom());
   sortie_ += "q ";

@@ -50,6 +50,18 @@ TSousEnsemble Extraire(const TPolice& police, const std::vector<std::uint32_t>& 
   return extrait;
 }
 
+/// The box around all glyphs, in units of the font, from its header table.
+std::array<std::int16_t, 4> Boite(hb_face_t* face) {
+  constexpr unsigned place = 36;
+  std::array<std::int16_t, 4> boite{};
+  const TGarde<hb_blob_t, hb_blob_destroy> tete(hb_face_reference_table(face, HB_TAG('h', 'e', 'a', 'd')));
+  unsigned taille = 0;
+  const auto* octets = reinterpret_cast<const unsigned char*>(hb_blob_get_data(tete.get(), &taille));
+  for (unsigned i = 0; i < 4 && place + 2 * i + 1 < taille; ++i)
+    boite[i] = static_cast<std::int16_t>((octets[place + 2 * i] << 8) | octets[place + 2 * i + 1]);
+  return boite;
+}
+
 void AjouterHexa(std::string& sortie, std::uint16_t valeur) {
   for (int decalage = 12; decalage >= 0; decalage -= 4)
     sortie += "0123456789ABCDEF"[(valeur >> decalage) & 15];
@@ -114,24 +126,29 @@ std::string TPolicePdf::Correspondance() const {
 }
 
 std::string TPolicePdf::Description(int fichier) const {
-  const auto enMilliemes = [](float em) { return std::to_string(std::lround(em * 1000.0F)); };
-  const auto mesure = [this](hb_ot_metrics_tag_t nom) {
-    hb_position_t valeur = 0;
-    hb_ot_metrics_get_position_with_fallback(police_.Fonte(), nom, &valeur);
-    return static_cast<float>(valeur) / police_.UnitesParEm();
-  };
   constexpr int chasseFixe = 1, symbolique = 4, italique = 64;
+  const auto enMilliemes = [this](float unites) {
+    return std::to_string(std::lround(unites * 1000.0F / police_.UnitesParEm()));
+  };
+  const auto avance = [this](hb_codepoint_t caractere) {
+    hb_codepoint_t glyphe = 0;
+    hb_font_get_nominal_glyph(police_.Fonte(), caractere, &glyphe);
+    return hb_font_get_glyph_h_advance(police_.Fonte(), glyphe);
+  };
+  hb_position_t capitales = 0;
+  hb_ot_metrics_get_position_with_fallback(police_.Fonte(), HB_OT_METRICS_TAG_CAP_HEIGHT, &capitales);
   const float penche = hb_style_get_value(police_.Fonte(), HB_STYLE_TAG_SLANT_ANGLE);
-  const bool fixe =
-      hb_font_get_glyph_h_advance(police_.Fonte(), 36) == hb_font_get_glyph_h_advance(police_.Fonte(), 44);
   const bool gras = hb_style_get_value(police_.Fonte(), HB_STYLE_TAG_WEIGHT) >= 600.0F;
-  const int traits = symbolique | (fixe ? chasseFixe : 0) | (penche != 0.0F ? italique : 0);
-  const float haut = police_.Ascendante(), bas = -police_.Descendante();
+  const int traits =
+      symbolique | (avance('i') == avance('W') ? chasseFixe : 0) | (penche < 0 || penche > 0 ? italique : 0);
+  std::string boite;
+  for (const std::int16_t cote : Boite(police_.Face())) boite += enMilliemes(cote) + ' ';
+  const float em = police_.UnitesParEm();
   return "<</Type/FontDescriptor/FontName/" + NomDansLeFichier() + "/Flags " + std::to_string(traits) +
-         "/FontBBox[-500 " + enMilliemes(bas) + " 2000 " + enMilliemes(haut) + "]/ItalicAngle " +
-         std::to_string(std::lround(penche)) + "/Ascent " + enMilliemes(haut) + "/Descent " +
-         enMilliemes(bas) + "/CapHeight " + enMilliemes(mesure(HB_OT_METRICS_TAG_CAP_HEIGHT)) + "/StemV " +
-         (gras ? "140" : "80") + "/FontFile2 " + Renvoi(fichier) + ">>";
+         "/FontBBox[" + boite + "]/ItalicAngle " + std::to_string(std::lround(penche)) + "/Ascent " +
+         enMilliemes(police_.Ascendante() * em) + "/Descent " + enMilliemes(-police_.Descendante() * em) +
+         "/CapHeight " + enMilliemes(static_cast<float>(capitales)) + "/StemV " + (gras ? "140" : "80") +
+         "/FontFile2 " + Renvoi(fichier) + ">>";
 }
 
 int TPolicePdf::Ecrire(TEcrivainPdf& ecrivain) const {

@@ -105,7 +105,7 @@ class TPeintre {
     peintre_.drawRect(element.Place);
   }
   void operator()(const TElementImage& element) {
-    if (element.Image) peintre_.drawImage(element.Place, *element.Image);
+    peintre_.drawImage(element.Place, *element.Image);
   }
   /// Edges stand on the device's dots, so that equal bars stay equal; the first bar's place decides.
   void operator()(const TElementBarres& element) {

@@ -1,0 +1,112 @@
+#include "page_essai.h"
+#include "report/output/pdf.h"
+#include "report/output/peintre.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QRectF Etendue(const TElementBarres& barres) {
+  QRectF etendue;
+  for (const QRectF& barre : barres.Barres) etendue |= barre;
+  return etendue;
+}
+
+}  // namespace
+
+TEST(CodesBarres, LargeursEnPointsEntiers) {
+  struct TCas {
+    TTypeCode Type;
+    QString Texte;
+    float Module;
+    qreal Place;
+    int Modules, Points;
+  };
+  const auto code39 = TTypeCode::Code39, codabar = TTypeCode::Codabar;
+  for (const TCas& cas :
+       {TCas{code39, u"5537-01234"_s, 1.28F, 300, 191, 4}, TCas{codabar, u"5537-01234"_s, 1.28F, 300, 147, 4},
+        TCas{code39, u"5537-01234"_s, 0.96F, 202.6, 191, 3}, TCas{code39, u"A"_s, 0.96F, 300, 47, 3},
+        TCas{code39, u"5537-01234"_s, 1.28F, 260, 191, 3},  // narrower bars
+        TCas{codabar, u"553701234"_s, 0.1F, 300, 135, 3}}) {
+    for (const auto alignement :
+         {TAlignementTexte::Gauche, TAlignementTexte::Centre, TAlignementTexte::Droite}) {
+      const QRectF place(10, 20, cas.Place, 45);
+      const TCodeDessine code = DessinerCode(cas.Type, cas.Texte, place, cas.Module, alignement);
+      ASSERT_EQ(code.Defaut, QString());
+      const qreal module = cas.Points * kPoint300;
+      const QRectF etendue = Etendue(code.Barres);
+      EXPECT_NEAR(etendue.width(), cas.Modules * module, 1e-9) << qPrintable(cas.Texte);
+      EXPECT_EQ(etendue.top(), 20);
+      EXPECT_EQ(etendue.height(), 45);
+      EXPECT_GE(etendue.left(), place.left() + 10 * module - 0.05);
+      EXPECT_LE(etendue.right(), place.right() - 10 * module + 0.05);
+      for (std::size_t i = 0; i < code.Barres.Barres.size(); ++i) {
+        const qreal large = code.Barres.Barres[i].width() / module;
+        EXPECT_TRUE(qFuzzyCompare(large, 1) || qFuzzyCompare(large, 3)) << large;
+        if (i == 0) continue;
+        const qreal blanc = (code.Barres.Barres[i].left() - code.Barres.Barres[i - 1].right()) / module;
+        EXPECT_TRUE(qAbs(blanc - 1) < 1e-6 || qAbs(blanc - 3) < 1e-6) << blanc;
+      }
+    }
+  }
+}
+
+TEST(CodesBarres, Defauts) {
+  struct TCas {
+    TTypeCode Type;
+    QString Texte, Defaut;
+  };
+  const auto code39 = TTypeCode::Code39, codabar = TTypeCode::Codabar;
+  const QRectF place(0, 0, 200, 45);
+  for (const TCas& cas :
+       {TCas{code39, u"ab"_s,
+             u"Le caractère « a » de « ab » ne peut pas figurer dans un code à barres Code 39."_s},
+        TCas{code39, u"1*2"_s,
+             u"Le caractère « * » de « 1*2 » ne peut pas figurer dans un code à barres Code 39."_s},
+        TCas{codabar, u"1É"_s,
+             u"Le caractère « É » de « 1É » ne peut pas figurer dans un code à barres Codabar."_s},
+        TCas{codabar, u"A1A"_s,
+             u"Le caractère « A » de « A1A » ne peut pas figurer dans un code à barres Codabar."_s},
+        TCas{code39, u""_s, u"Il n'y a rien à mettre dans le code à barres."_s},
+        TCas{code39, u"5537-01234"_s, u"Le code à barres de « 5537-01234 » ne tient pas dans sa place."_s}}) {
+    const TCodeDessine code = DessinerCode(cas.Type, cas.Texte, place, 0.96F, TAlignementTexte::Gauche);
+    EXPECT_EQ(code.Defaut, cas.Defaut);
+    EXPECT_TRUE(code.Barres.Barres.empty());
+  }
+  EXPECT_TRUE(DessinerCode(code39, QString(500, u'1'), place, 1, TAlignementTexte::Gauche)
+                  .Defaut.contains(u"trop long"_s));
+  EXPECT_EQ(DessinerQr(u"BCD"_s, QRectF(0, 0, 15, 96)).Defaut, u"Le code QR ne tient pas dans sa place."_s);
+  EXPECT_EQ(DessinerQr(QString(5000, u'x'), place).Defaut, u"Le texte est trop long pour un code QR."_s);
+}
+
+TEST(CodesBarres, UnLecteurLesRelit) {
+  const QString virement =
+      u"BCD\n002\n1\nSCT\n\nEcole de Brumeval\nBE68539007547034\nEUR640.60\n\n\n+++001/2310/16185+++"_s;
+  TDocumentPrepare document;
+  TPagePreparee& page = document.Pages.emplace_back();
+  // Places that are no whole dots, as margins and columns make them.
+  float y = 38;
+  for (const float module : {0.96F, 1.28F})
+    for (const auto type : {TTypeCode::Code39, TTypeCode::Codabar}) {
+      const QString texte =
+          QString::number(qRound(module * 100)) % (type == TTypeCode::Code39 ? u"-39" : u"-18");
+      page.Elements.emplace_back(DessinerCode(type, texte, QRectF(38.13, static_cast<qreal>(y), 718, 45),
+                                              module, TAlignementTexte::Centre)
+                                     .Barres);
+      y += 77.7F;
+    }
+  page.Elements.emplace_back(DessinerQr(virement, QRectF(622.2, 660.1, 96, 96)).Barres);
+
+  const QTemporaryDir dossier;
+  const QString image = dossier.filePath(u"a.png"_s);
+  ASSERT_TRUE(Rasteriser(page, 300).save(image));
+  EcrirePdf({&document}, u"Codes"_s, {}, dossier.filePath(u"a.pdf"_s));
+  Sortie(u"pdftoppm"_s,
+         {u"-r"_s, u"300"_s, u"-gray"_s, dossier.filePath(u"a.pdf"_s), dossier.filePath(u"b"_s)});
+  for (const QString& lu : {image, dossier.filePath(u"b-1.pgm"_s)}) {
+    const QString codes = Sortie(u"zbarimg"_s, {u"-q"_s, u"--nodbus"_s, lu});
+    for (const QString& attendu : {u"CODE-39:96-39\n"_s, u"CODE-39:128-39\n"_s, u"Codabar:A96-18A\n"_s,
+                                   u"Codabar:A128-18A\n"_s, QString(u"QR-Code:" % virement % u'\n')})
+      EXPECT_TRUE(codes.contains(attendu)) << qPrintable(attendu) << "not in\n" << qPrintable(codes);
+  }
+}
