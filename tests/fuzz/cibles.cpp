@@ -1,6 +1,9 @@
 #include "fuzz/cibles.h"
 
+#include <QtEndian>
+
 #include "core/exceptions.h"
+#include "report/output/pdf.h"
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
 
@@ -53,6 +56,18 @@ void TCibles::Presences(const QByteArray& octets) {
     TImportPresences import(controleur);
     import.ImporterFichier(base_.Fichier(QStringLiteral("scans"), octets));
     import.Etape2();
+  } catch (const Exception&) {
+  }
+}
+
+void TCibles::Rapport(const QByteArray& octets) {
+  QByteArray fichier = QByteArrayLiteral("CALPRAP\x01????");
+  qToLittleEndian(static_cast<quint32>(octets.size()), fichier.data() + 8);
+  fichier += qCompress(octets, 1).mid(4);
+  try {
+    const TDocumentPrepare document = TDocumentPrepare::DepuisOctets(fichier);
+    document.Chercher(QStringLiteral("e"));
+    PdfEnOctets({&document}, document.Titre, {});
   } catch (const Exception&) {
   }
 }

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QtEndian>
 #include <random>
 
 #include "fuzz/cibles.h"
+#include "report/layout/document_prepare.h"
 
 namespace {
 
@@ -61,7 +63,35 @@ QByteArray RegistreValide() {
   return texte;
 }
 
+/// What a saved report holds once decompressed.
+QByteArray RapportValide() {
+  TDocumentPrepare document;
+  document.Titre = QStringLiteral("Facture");
+  document.Defauts.resize(2);
+  QImage image(3, 2, QImage::Format_ARGB32);
+  image.fill(0x80112233);
+  TPagePreparee& page = document.Pages.emplace_back();
+  page.Signets = {{QStringLiteral("P3 A"), 0}};
+  page.Elements = {TElementTexte{Former(QStringLiteral("Théâtre 12,50 €"), {}), 40, 60},
+                   TElementTrait{0, 0, 9, 9, 1},
+                   TElementCadre{{1, 2, 3, 4}, 1, 0xFF000000, 0xFF112233, 0xFF998877},
+                   TElementImage{{0, 0, 9, 9}, std::make_shared<const QImage>(image)},
+                   TElementBarres{{{1, 2, 3, 4}, {5, 2, 3, 4}}}};
+  const QByteArray fichier = document.EnOctets();
+  QByteArray taille(4, '\0');
+  qToBigEndian(qFromLittleEndian<quint32>(fichier.constData() + 8), taille.data());
+  return qUncompress(taille + fichier.mid(12));
+}
+
 }  // namespace
+
+TEST(Fuzz, SavedReportReader) {
+  TCibles cibles;
+  std::mt19937 tirage(33);
+  const QByteArray valide = RapportValide();
+  ASSERT_GT(valide.size(), 200);
+  for (int i = 0; i < 20'000; ++i) cibles.Rapport(Alterer(valide, tirage));
+}
 
 TEST(Fuzz, RegisterReader) {
   TCibles cibles;

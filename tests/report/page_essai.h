@@ -36,6 +36,7 @@ inline TPagePreparee PageDeTout() {
       Texte(u"École « Brumeval » 12,50 €"_s, 40, 60),
       souligne,
       Texte(u"BE68 5390"_s, 40, 90, {TFamille::LiberationMono, 11}),
+      Texte(u"AVATAR To. WAWA, AVATAR To. WAWA"_s, 200, 90, {TFamille::Carlito, 18}),
       TElementTrait{40, 110, 700, 110, 2},
       TElementTrait{40, 120, 700, 120, 1, 0xFF808080, 6},
       TElementCadre{{40, 140, 200, 60}, 2, 0xFF000000, 0xFFDDEEFF, 0},

@@ -12,6 +12,22 @@ QRectF Etendue(const TElementBarres& barres) {
   return etendue;
 }
 
+/// Runs of one colour across a row of dots, without the white around; empty when a dot is grey.
+std::vector<int> SuitesDePoints(const QImage& image, int y) {
+  std::vector<int> suites;
+  int avant = 255;
+  for (int x = 0; x < image.width(); ++x) {
+    const int gris = qGray(image.pixel(x, y));
+    if (gris != 0 && gris != 255) return {};
+    if (suites.empty() && gris == 255) continue;
+    if (gris != avant) suites.push_back(0);
+    ++suites.back();
+    avant = gris;
+  }
+  if (!suites.empty()) suites.pop_back();
+  return suites;
+}
+
 }  // namespace
 
 TEST(CodesBarres, LargeursEnPointsEntiers) {
@@ -101,9 +117,15 @@ TEST(CodesBarres, UnLecteurLesRelit) {
   const QString image = dossier.filePath(u"a.png"_s);
   ASSERT_TRUE(Rasteriser(page, 300).save(image));
   EcrirePdf({&document}, u"Codes"_s, {}, dossier.filePath(u"a.pdf"_s));
-  Sortie(u"pdftoppm"_s,
-         {u"-r"_s, u"300"_s, u"-gray"_s, dossier.filePath(u"a.pdf"_s), dossier.filePath(u"b"_s)});
+  Sortie(u"pdftoppm"_s, {u"-r"_s, u"300"_s, u"-gray"_s, u"-aaVector"_s, u"no"_s, dossier.filePath(u"a.pdf"_s),
+                         dossier.filePath(u"b"_s)});
   for (const QString& lu : {image, dossier.filePath(u"b-1.pgm"_s)}) {
+    const QImage points(lu);
+    for (const int module : {3, 4}) {
+      const std::vector<int> suites = SuitesDePoints(points, module == 3 ? 200 : 680);
+      EXPECT_GT(suites.size(), 40U) << qPrintable(lu);
+      for (const int suite : suites) EXPECT_TRUE(suite == module || suite == 3 * module) << suite;
+    }
     const QString codes = Sortie(u"zbarimg"_s, {u"-q"_s, u"--nodbus"_s, lu});
     for (const QString& attendu : {u"CODE-39:96-39\n"_s, u"CODE-39:128-39\n"_s, u"Codabar:A96-18A\n"_s,
                                    u"Codabar:A128-18A\n"_s, QString(u"QR-Code:" % virement % u'\n')})

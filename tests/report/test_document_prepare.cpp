@@ -65,21 +65,22 @@ TEST(DocumentPrepare, SEnregistreEtSOuvre) {
   }
   EXPECT_EQ(ouvert.EnOctets(), document.EnOctets());
   EXPECT_EQ(QDir(dossier.path()).entryList(QDir::Files), QStringList{u"facture.rap"_s});
-  EXPECT_EQ(std::get<TElementImage>(ouvert.Pages[0].Elements[7]).Image,
-            std::get<TElementImage>(ouvert.Pages[1].Elements[8]).Image);
+  EXPECT_EQ(std::get<TElementImage>(ouvert.Pages[0].Elements[8]).Image,
+            std::get<TElementImage>(ouvert.Pages[1].Elements[9]).Image);
   EXPECT_THROW(document.Enregistrer(dossier.filePath(u"absent/facture.rap"_s)), Exception);
   EXPECT_THROW(TDocumentPrepare::Ouvrir(dossier.filePath(u"absent.rap"_s)), Exception);
 }
 
 TEST(DocumentPrepare, RefuseCeQuiNEstPasUnRapport) {
   const QByteArray octets = Document().EnOctets();
-  QByteArray autreVersion = octets, autreTaille = octets, abime = octets;
+  QByteArray autreVersion = octets, plusLong = octets, plusCourt = octets, abime = octets;
   autreVersion[7] = 9;
-  autreTaille[8] = static_cast<char>(autreTaille[8] + 1);
+  plusLong[8] = static_cast<char>(octets[8] + 1);
+  plusCourt[8] = static_cast<char>(octets[8] - 1);
   abime[octets.size() / 2] = static_cast<char>(~abime[octets.size() / 2]);
   for (const QByteArray& faux :
        {QByteArray(), QByteArray("<?xml?>"), octets.left(8), octets.left(octets.size() / 2),
-        octets.left(octets.size() - 1), autreTaille, abime})
+        octets.left(octets.size() - 1), plusLong, plusCourt, abime})
     try {
       TDocumentPrepare::DepuisOctets(faux);
       ADD_FAILURE() << faux.size();

@@ -49,7 +49,7 @@ TEST_F(Pdf, LeTexteSeRelit) {
                            u"yx\u0323\u0301 ☐"_s,
                            u"mot \u0476 mot"_s,
                            u"AVANT To. WAWA Tél."_s,
-                           u"\u00b5 et \u03bc"_s};
+                           u"\u2044 et \u2215"_s};
   TDocumentPrepare document;
   for (const TStyle style :
        {TStyle{}, TStyle{TFamille::Carlito, 18, true, true}, TStyle{TFamille::LiberationMono, 11}}) {

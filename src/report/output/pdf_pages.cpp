@@ -27,6 +27,9 @@ void AjouterCode(std::string& sortie, std::uint16_t code) {
   }
 }
 
+/// Printers paint every dot that a shape touches: bars keep away from the next one, px.
+constexpr double kRetrait = 1 / kCentiemesParPixel;
+
 /// By how much a code must move so that it begins on a dot.
 double VersPoint(double pixels) { return std::round(pixels / kPoint300) * kPoint300 - pixels; }
 
@@ -251,6 +254,7 @@ void TPagePdf::Dessiner(const TElementBarres& element) {
   Couleur(0xFF000000, false);
   const QPointF coin = element.Barres.front().topLeft();
   const QPointF pas(VersPoint(coin.x()), VersPoint(coin.y()));
-  for (const QRectF& barre : element.Barres) Rectangle(barre.translated(pas));
+  for (const QRectF& barre : element.Barres)
+    Rectangle(barre.translated(pas).adjusted(kRetrait, 0, -kRetrait, 0));
   Operateur("f");
 }
