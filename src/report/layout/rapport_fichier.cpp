@@ -1,3 +1,4 @@
+#include <QFile>
 #include <QSaveFile>
 #include <bit>
 #include <cmath>
