@@ -1,0 +1,29 @@
+#pragma once
+#include "application/controleur.h"
+#include "forms/form.h"
+#include "report/apercu.h"
+
+/// How sure the user can be of what the status bar says.
+enum class TNiveauEtat { Neutre, Succes, Alerte, Erreur };
+
+/// How a screen reaches the main window.
+class ILienPrincipal {
+ public:
+  virtual ~ILienPrincipal() = default;
+
+  /// Gives the main window a message that it reacts to: EleveRadie, EleveChange, ImplantationsChange.
+  virtual void Envoyer(const TMessage& message) = 0;
+  /// The last thing done, or why it was not, for the left of the status bar.
+  virtual void Etat(TNiveauEtat niveau, const QString& texte) = 0;
+};
+
+/// What every screen is given. All that it points to outlives the screens.
+struct TContexteEcran {
+  TControleur& Controleur;
+  IFenetreModale& Modale;
+  IApercu& Apercu;
+  ILienPrincipal& Principal;
+  TComposant* Assistant = nullptr;  ///< the print wizard; set before the first screen opens
+
+  IDialogues& Dialogues() const { return Controleur.Dialogues(); }
+};
