@@ -78,18 +78,20 @@ qreal Gauche(const QRectF& place, qreal largeur, TAlignementTexte alignement) {
 TCodeDessine DessinerCode(TTypeCode type, const QString& texte, const QRectF& place, float module,
                           TAlignementTexte alignement) {
   const TRegle regle = Regle(type);
-  if (texte.isEmpty()) return Refuser(QStringLiteral("Il n'y a rien à mettre dans le code à barres."));
-  for (const QChar c : texte)
+  const QString donnees = QString(texte).remove(u'-');
+  if (donnees.isEmpty()) return Refuser(QStringLiteral("Il n'y a rien à mettre dans le code à barres."));
+  for (const QChar c : donnees)
     if (!regle.Caracteres.contains(c))
       return Refuser(
           QStringLiteral("Le caractère « %1 » de « %2 » ne peut pas figurer dans un code à barres %3.")
               .arg(QString(c), texte, regle.Nom));
-  const TSymbole symbole = Encoder(regle.Symbologie, (regle.Bord % texte % regle.Bord).toLatin1());
+  const TSymbole symbole = Encoder(regle.Symbologie, (regle.Bord % donnees % regle.Bord).toLatin1());
   if (!symbole)
     return Refuser(QStringLiteral("« %1 » est trop long pour un code à barres %2.").arg(texte, regle.Nom));
 
-  const std::vector<TSuite> suites = Suites(*symbole, 0);
-  int modules = 2 * kZoneCalme;
+  std::vector<TSuite> suites = Suites(*symbole, 0);
+  if (!suites.back().Noir) suites.pop_back();  // the gap before a next character
+  int modules = 0;
   for (const TSuite& suite : suites) modules += Elargir(suite.Modules);
   const auto largeur = [&](int points) { return modules * points * kPoint300; };
   const auto tient = [&](int points) { return largeur(points) <= place.width() + kTolerance; };
@@ -100,7 +102,7 @@ TCodeDessine DessinerCode(TTypeCode type, const QString& texte, const QRectF& pl
 
   TCodeDessine code;
   const qreal unite = points * kPoint300;
-  qreal x = Gauche(place, largeur(points), alignement) + kZoneCalme * unite;
+  qreal x = Gauche(place, largeur(points), alignement);
   for (const TSuite& suite : suites) {
     const qreal large = Elargir(suite.Modules) * unite;
     if (suite.Noir) code.Barres.Barres.emplace_back(x, place.top(), large, place.height());

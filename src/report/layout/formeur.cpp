@@ -237,7 +237,6 @@ void TFormeur::DessinerImage(const TObjetPret& objet, TBandeFormee& formee) cons
 void TFormeur::DessinerCode(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee) {
   const TObjetModele& modele = *objet.Modele;
   const QString texte = Texte(modele, objet.Etat);
-  if (texte.isEmpty()) return;
   const QRectF place = Rectangle(modele.X, objet.Etat.Y, objet.Etat.Largeur, objet.Etat.Hauteur);
   TCodeDessine code = modele.Sorte == TSorteObjet::Qr ? DessinerQr(texte, place)
                                                       : ::DessinerCode(objet.Etat.TypeCode, texte, place,
