@@ -1,0 +1,304 @@
+#include "screens/documents/frm_print_wizard.h"
+
+#include <QSet>
+#include <algorithm>
+
+#include "core/comparaisons.h"
+#include "core/formats.h"
+#include "pupils/eleves.h"
+
+namespace {
+
+constexpr TPageAssistant kPages[] = {TPageAssistant::Rapport, TPageAssistant::Qui, TPageAssistant::Periode};
+
+QString Combien(std::size_t nombre, const QString& un, const QString& plusieurs, const QString& aucun) {
+  if (nombre == 0) return aucun;
+  return QString::number(nombre) + u' ' + (nombre == 1 ? un : plusieurs);
+}
+
+QString CombienEleves(std::size_t nombre) {
+  return Combien(nombre, QStringLiteral("élève"), QStringLiteral("élèves"), QStringLiteral("aucun élève"));
+}
+
+QString CombienClasses(std::size_t nombre) {
+  return Combien(nombre, QStringLiteral("classe"), QStringLiteral("classes"),
+                 QStringLiteral("aucune classe"));
+}
+
+/// The objects of the ticked rows, in the order in which the list shows them.
+template <class T>
+std::vector<T*> Coches(const TGrille& liste) {
+  std::vector<T*> objets;
+  for (int ligne = 0; ligne < liste.NombreLignes(); ++ligne)
+    if (liste.Ligne(ligne).Coche) objets.push_back(liste.Ligne(ligne).Objet.En<T>());
+  return objets;
+}
+
+int AnneeAffichee() { return Globals.Eleves->AnneeScolaire; }
+
+}  // namespace
+
+TDemandeAssistant TDemandeAssistant::De(TForm& demandeur, std::vector<TTitreAssistant> titres) {
+  const bool periode = std::ranges::any_of(titres, &TTitreAssistant::AvecPeriode);
+  return {true, std::move(titres), periode, &demandeur};
+}
+
+TFrmPrintWizard::TFrmPrintWizard(const TContexteEcran& contexte) : contexte_(contexte) {
+  LstEleve.DefinirColonnes({{QStringLiteral("Nom de l'élève"), 104},
+                            {QStringLiteral("Classe"), 42},
+                            {QStringLiteral("Implantation"), 69}});
+  LstClasse.DefinirColonnes(
+      {{QStringLiteral("Nom de la classe"), 142}, {QStringLiteral("Implantation"), 73}});
+  LstEleve.CasesACocher = LstClasse.CasesACocher = true;
+  for (TGrille* liste : {&LstEleve, &LstClasse})
+    liste->SurChangement = [this](TGrille::TChangement) { Annoncer(); };
+  for (const int mois : kMoisFacturation) mois_ += NomMois(mois);
+}
+
+bool TFrmPrintWizard::RecevoirMessage(const TMessage& message) {
+  if (message.Code != TCodeMessage::ImprimerAssistant) return false;
+  const auto* demande = message.En<TDemandeAssistant>();
+  if (demande == nullptr) return false;
+  Preparer(*demande);
+  if (contexte_.Modale.MontrerModal(*this) == TResultatModal::Valide)
+    Diffuser(TCodeMessage::AssistantConfirme, *demande_.Demandeur, choix_);
+  return true;
+}
+
+void TFrmPrintWizard::Preparer(const TDemandeAssistant& demande) {
+  ResultatModal = TResultatModal::Aucun;
+  demande_ = demande;
+  FiltreEleve.clear();
+  FiltreClasse.clear();
+  RemplirListes();
+  PoserDates();
+  lblEleve = Globals.EleveCourant != nullptr ? Globals.EleveCourant->NomComplet() : QString();
+  lblClasse = Globals.ClasseCourante != nullptr ? Globals.ClasseCourante->Libelle() : QString();
+  ChoisirQui();
+  ChoixRapportClick(Titres().empty() ? -1 : 0);
+  const auto* premiere = std::ranges::find_if(kPages, [this](TPageAssistant p) { return PageVisible(p); });
+  OuvrirPage(premiere != std::end(kPages) ? *premiere : TPageAssistant::Rapport);
+}
+
+void TFrmPrintWizard::ChoisirQui() {
+  if (quiChoisi_ && ChoixQuiPossible(choixQui_)) return;
+  quiChoisi_ = false;
+  for (const TChoixQui choix : {TChoixQui::Eleve, TChoixQui::Classe, TChoixQui::Eleves})
+    if (ChoixQuiPossible(choix)) {
+      choixQui_ = choix;
+      return;
+    }
+}
+
+// The objects of another load are gone, so a list is filled again when the year no longer gives the
+// rows that it was filled with. Ticks and order outlive that.
+void TFrmPrintWizard::RemplirListes() {
+  const TEleves& eleves = *Globals.Eleves;
+  const QString annee = QString::number(eleves.AnneeScolaire);
+  TContenu pupilles, classes;
+  for (TEleve& eleve : eleves)
+    pupilles.push_back({&eleve,
+                        {eleve.NomComplet(), eleve.LibelleClasse(), eleve.LibelleImplantation()},
+                        annee % u'/' % QString::number(eleve.Id)});
+  for (const auto& classe : eleves.Classes())
+    classes.push_back({classe.get(),
+                       {classe->Libelle(), classe->LibelleImplantation()},
+                       annee % u'/' % classe->Libelle() % u'/' % classe->CodeImplantation});
+  std::ranges::stable_sort(classes, [](const TLigneListe& a, const TLigneListe& b) {
+    return ComparerTextes(a.Textes[0], b.Textes[0]) < 0;
+  });
+  Remplir(LstEleve, contenuEleves_, std::move(pupilles), triEleve_);
+  Remplir(LstClasse, contenuClasses_, std::move(classes), triClasse_);
+}
+
+void TFrmPrintWizard::Remplir(TGrille& liste, TContenu& avant, TContenu contenu, const TTri& tri) {
+  if (contenu == avant) return;
+  QSet<QString> coches;
+  for (const TLigneListe& ligne : avant)
+    if (liste.Ligne(liste.TrouverObjet(ligne.Objet)).Coche) coches += ligne.Cle;
+  avant = std::move(contenu);
+  const TGrille::TLot lot(liste);
+  liste.Vider();
+  for (const TLigneListe& ligne : avant)
+    liste.Cocher(liste.Ajouter(ligne.Textes, ligne.Objet), coches.contains(ligne.Cle));
+  if (tri.Colonne >= 0) liste.Trier(tri.Colonne, tri.Croissant);
+}
+
+void TFrmPrintWizard::PoserDates() {
+  if (dtDate1_ != 0.0) return;
+  const TDateTime aujourdhui = contexte_.Controleur.Horloge().Aujourdhui();
+  dtDate1_ = dtDate2_ = aujourdhui;
+  const auto* mois = std::ranges::find(kMoisFacturation, DecodeDate(aujourdhui).Mois);
+  indiceMois_ = mois != kMoisFacturation.end() ? static_cast<int>(mois - kMoisFacturation.begin()) : -1;
+}
+
+bool TFrmPrintWizard::PageVisible(TPageAssistant page) const {
+  switch (page) {
+    case TPageAssistant::Rapport:
+      return !Titres().empty();
+    case TPageAssistant::Qui:
+      return demande_.PageQui;
+    case TPageAssistant::Periode:
+      return demande_.PagePeriode && periodeDuTitre_;
+  }
+  return false;
+}
+
+TPageAssistant TFrmPrintWizard::PageVoisine(int sens) const {
+  for (int page = static_cast<int>(page_) + sens; page >= 0 && page < static_cast<int>(std::size(kPages));
+       page += sens)
+    if (PageVisible(kPages[page])) return kPages[page];
+  return page_;
+}
+
+void TFrmPrintWizard::OuvrirPage(TPageAssistant page) {
+  page_ = page;
+  Annoncer();
+}
+
+void TFrmPrintWizard::ChoixRapportClick(int indice) {
+  indice_ = indice;
+  periodeDuTitre_ = indice < 0 || Titres()[static_cast<std::size_t>(indice)].AvecPeriode;
+  Annoncer();
+}
+
+bool TFrmPrintWizard::ChoixQuiPossible(TChoixQui choix) const {
+  if (choix == TChoixQui::Eleve) return Globals.EleveCourant != nullptr;
+  return choix != TChoixQui::Classe || Globals.ClasseCourante != nullptr;
+}
+
+void TFrmPrintWizard::RbEleveClick(TChoixQui choix) {
+  if (!ChoixQuiPossible(choix)) return;
+  choixQui_ = choix;
+  quiChoisi_ = true;
+  Annoncer();
+}
+
+void TFrmPrintWizard::btnToutSelectionnerClick() {
+  TGrille& liste = LstClasseActive() ? LstClasse : LstEleve;
+  const QString& filtre = LstClasseActive() ? FiltreClasse : FiltreEleve;
+  if (!SelectionActive()) return;
+  const TGrille::TLot lot(liste);
+  for (int ligne = 0; ligne < liste.NombreLignes(); ++ligne)
+    if (liste.Contient(ligne, filtre)) liste.Cocher(ligne, true);
+}
+
+void TFrmPrintWizard::btnRienSelectionnerClick() {
+  if (LstClasseActive())
+    LstClasse.CocherTout(false);
+  else if (LstEleveActive())
+    LstEleve.CocherTout(false);
+}
+
+void TFrmPrintWizard::Trier(TGrille& liste, TTri& tri, int colonne) {
+  tri = {colonne, tri.Colonne != colonne || !tri.Croissant};
+  liste.Trier(tri.Colonne, tri.Croissant);
+}
+
+void TFrmPrintWizard::RbMoisClick(TChoixPeriode choix) {
+  choixPeriode_ = choix;
+  Annoncer();
+}
+
+void TFrmPrintWizard::ChoisirMois(int indice) {
+  indiceMois_ = indice;
+  Annoncer();
+}
+
+void TFrmPrintWizard::ChoisirDates(TDateTime debut, TDateTime fin) {
+  dtDate1_ = debut;
+  dtDate2_ = fin;
+  Annoncer();
+}
+
+void TFrmPrintWizard::btnAnnulerClick() {
+  ResultatModal = TResultatModal::Annule;
+  Fermer();
+}
+
+void TFrmPrintWizard::KWizard1FinishButtonClick() {
+  if (choixPeriode_ == TChoixPeriode::Mois && indiceMois_ < 0 && PageVisible(TPageAssistant::Periode))
+    return Refuser(QStringLiteral("Veuillez sélectionner un mois dans la liste déroulante"),
+                   TChampAssistant::Mois);
+  choix_ = {};
+  AjouterChoisis(choix_);
+  if (PageVisible(TPageAssistant::Qui) && choix_.Eleves.empty() && choix_.Classes.empty()) {
+    OuvrirPage(TPageAssistant::Qui);
+    return Refuser(QStringLiteral("Aucun élève n'a été sélectionné !"),
+                   LstClasseActive() ? TChampAssistant::LstClasse : TChampAssistant::LstEleve);
+  }
+  choix_.Indice = indice_;
+  const TPeriode periode = Periode();
+  choix_.DateDebut = periode.Premier;
+  choix_.DateFin = periode.Dernier;
+  ResultatModal = TResultatModal::Valide;
+  Fermer();
+}
+
+void TFrmPrintWizard::Refuser(const QString& texte, TChampAssistant champ) {
+  contexte_.Dialogues().Message(texte);
+  if (SurFoyer) SurFoyer(champ);
+}
+
+void TFrmPrintWizard::AjouterChoisis(TChoixDocument& choix) const {
+  switch (choixQui_) {
+    case TChoixQui::Eleve:
+      if (Globals.EleveCourant != nullptr) choix.Eleves.push_back(Globals.EleveCourant);
+      break;
+    case TChoixQui::Eleves:
+      choix.Eleves = Coches<TEleve>(LstEleve);
+      break;
+    case TChoixQui::Classe:
+      if (Globals.ClasseCourante != nullptr) choix.Classes.push_back(Globals.ClasseCourante);
+      break;
+    case TChoixQui::Classes:
+      for (const TClasse* classe : Coches<TClasse>(LstClasse)) choix.Classes.push_back(classe);
+      break;
+  }
+}
+
+TPeriode TFrmPrintWizard::Periode() const {
+  if (choixPeriode_ == TChoixPeriode::Periode) return {dtDate1_, dtDate2_};
+  if (choixPeriode_ == TChoixPeriode::Mois && indiceMois_ >= 0)
+    return BornesMois(kMoisFacturation[static_cast<std::size_t>(indiceMois_)], AnneeAffichee());
+  return BornesAnnee(AnneeAffichee());
+}
+
+QString TFrmPrintWizard::Compte() const {
+  TChoixDocument choix;
+  AjouterChoisis(choix);
+  if (choixQui_ == TChoixQui::Eleve || choixQui_ == TChoixQui::Eleves)
+    return CombienEleves(choix.Eleves.size());
+  std::size_t eleves = 0;
+  for (const TClasse* classe : choix.Classes) eleves += classe->ListeEleves.size();
+  return CombienClasses(choix.Classes.size()) % u", " % CombienEleves(eleves);
+}
+
+QString TFrmPrintWizard::TexteQui() const {
+  if (choixQui_ == TChoixQui::Eleve) return lblEleve;
+  if (choixQui_ == TChoixQui::Classe && Globals.ClasseCourante != nullptr)
+    return lblClasse % u", " % CombienEleves(Globals.ClasseCourante->ListeEleves.size());
+  return Compte();
+}
+
+QString TFrmPrintWizard::TexteAnnee() const {
+  const QString annee = QString::number(AnneeAffichee()), suivante = QString::number(AnneeAffichee() + 1);
+  return u"du 1er septembre " % annee % u" au 30 juin " % suivante;
+}
+
+QString TFrmPrintWizard::TextePeriode() const {
+  if (choixPeriode_ == TChoixPeriode::Annee) return TexteAnnee();
+  if (choixPeriode_ == TChoixPeriode::Periode)
+    return u"du " % FormatDate(dtDate1_) % u" au " % FormatDate(dtDate2_);
+  if (indiceMois_ < 0) return QStringLiteral("aucun mois choisi");
+  const int mois = kMoisFacturation[static_cast<std::size_t>(indiceMois_)];
+  return NomMois(mois).toLower() % u' ' % QString::number(Globals.Eleves->AnneeDuMois(mois));
+}
+
+QString TFrmPrintWizard::Resume() const {
+  QStringList parties;
+  if (indice_ >= 0) parties += Titres()[static_cast<std::size_t>(indice_)].Titre;
+  if (PageVisible(TPageAssistant::Qui)) parties += TexteQui();
+  if (PageVisible(TPageAssistant::Periode)) parties += TextePeriode();
+  return parties.join(QStringLiteral("  ·  "));
+}

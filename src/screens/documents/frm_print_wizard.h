@@ -1,0 +1,133 @@
+#pragma once
+#include <functional>
+
+#include "documents/catalogue.h"
+#include "forms/grille.h"
+#include "screens/contexte_ecran.h"
+
+/// A title that the wizard offers.
+struct TTitreAssistant {
+  QString Titre;
+  bool AvecPeriode = false;  ///< the document takes a period
+};
+
+/// Load of ImprimerAssistant: what the wizard asks for, and which screen gets the answer.
+struct TDemandeAssistant {
+  bool PageQui = true;
+  std::vector<TTitreAssistant> Titres;
+  bool PagePeriode = false;
+  TForm* Demandeur = nullptr;  ///< there always is one; gets AssistantConfirme with a TChoixDocument
+
+  /// With the who page, and with the period page when one of the titles takes a period.
+  static TDemandeAssistant De(TForm& demandeur, std::vector<TTitreAssistant> titres);
+};
+
+enum class TPageAssistant { Rapport, Qui, Periode };
+enum class TChoixQui { Eleve, Eleves, Classe, Classes };
+enum class TChoixPeriode { Mois, Periode, Annee };
+/// Where the wizard puts the focus after a refusal.
+enum class TChampAssistant { Mois, LstEleve, LstClasse };
+
+/// "Assistant d'impression": which document, for whom, for when. It knows nothing of documents: a screen
+/// gives it titles and gets the choice back, after the wizard has closed.
+class TFrmPrintWizard : public TForm {
+ public:
+  explicit TFrmPrintWizard(const TContexteEcran& contexte);
+  /// ImprimerAssistant opens it; returns when the answer has been dealt with.
+  bool RecevoirMessage(const TMessage& message) override;
+
+  // Pages. The last visible one has the finish button.
+  TPageAssistant Page() const { return page_; }
+  bool PageVisible(TPageAssistant page) const;
+  bool EstPremierePage() const { return PageVoisine(-1) == page_; }
+  bool EstDernierePage() const { return PageVoisine(1) == page_; }
+  void btnPrecedentClick() { OuvrirPage(PageVoisine(-1)); }
+  void btnSuivantClick() { OuvrirPage(PageVoisine(1)); }
+  void btnAnnulerClick();
+  void KWizard1FinishButtonClick();
+
+  // Title page.
+  const std::vector<TTitreAssistant>& Titres() const { return demande_.Titres; }
+  int Indice() const { return indice_; }  ///< of the checked title; -1 without titles
+  void ChoixRapportClick(int indice);
+
+  // Who page. Ticks of the two lists are the rows' own.
+  TChoixQui ChoixQui() const { return choixQui_; }
+  /// False for the current pupil or class when there is none.
+  bool ChoixQuiPossible(TChoixQui choix) const;
+  void RbEleveClick(TChoixQui choix);
+  bool LstEleveActive() const { return choixQui_ == TChoixQui::Eleves; }
+  bool LstClasseActive() const { return choixQui_ == TChoixQui::Classes; }
+  bool SelectionActive() const { return LstEleveActive() || LstClasseActive(); }
+  /// Ticks the rows of the enabled list that its filter shows.
+  void btnToutSelectionnerClick();
+  /// Clears every tick of the enabled list.
+  void btnRienSelectionnerClick();
+  /// A click on the header: by that column; again, the other way round.
+  void LstEleveColumnClick(int colonne) { Trier(LstEleve, triEleve_, colonne); }
+  void LstClasseColumnClick(int colonne) { Trier(LstClasse, triClasse_, colonne); }
+  /// "2 classes, 43 élèves"
+  QString Compte() const;
+
+  // Period page.
+  TChoixPeriode ChoixPeriode() const { return choixPeriode_; }
+  void RbMoisClick(TChoixPeriode choix);
+  const QStringList& cmbMois() const { return mois_; }
+  int IndiceMois() const { return indiceMois_; }  ///< 0 is September; -1 for none
+  void ChoisirMois(int indice);
+  void ChoisirDates(TDateTime debut, TDateTime fin);
+  TDateTime dtDate1() const { return dtDate1_; }
+  TDateTime dtDate2() const { return dtDate2_; }
+  /// "du 1er septembre 2018 au 30 juin 2019"
+  QString TexteAnnee() const;
+  /// What will be printed, in one line.
+  QString Resume() const;
+
+  QString lblEleve, lblClasse;  ///< names of the current pupil and class
+  TGrille LstEleve, LstClasse;
+  QString FiltreEleve, FiltreClasse;  ///< of the two lists; a hidden row keeps its tick
+  std::function<void(TChampAssistant)> SurFoyer;
+
+ private:
+  struct TTri {
+    int Colonne = -1;
+    bool Croissant = true;
+  };
+  /// A row as the year gives it; the key tells who it is when the year has been loaded again.
+  struct TLigneListe {
+    TObjetVu Objet;
+    QStringList Textes;
+    QString Cle;
+    bool operator==(const TLigneListe&) const = default;
+  };
+  using TContenu = std::vector<TLigneListe>;
+
+  void Preparer(const TDemandeAssistant& demande);
+  void ChoisirQui();
+  void RemplirListes();
+  void PoserDates();
+  static void Remplir(TGrille& liste, TContenu& avant, TContenu contenu, const TTri& tri);
+  void Trier(TGrille& liste, TTri& tri, int colonne);
+  TPageAssistant PageVoisine(int sens) const;
+  void OuvrirPage(TPageAssistant page);
+  void Refuser(const QString& texte, TChampAssistant champ);
+  void AjouterChoisis(TChoixDocument& choix) const;
+  TPeriode Periode() const;
+  QString TexteQui() const;
+  QString TextePeriode() const;
+
+  const TContexteEcran& contexte_;
+  TDemandeAssistant demande_;
+  TPageAssistant page_ = TPageAssistant::Rapport;
+  int indice_ = -1;
+  bool periodeDuTitre_ = true;  ///< the checked title takes a period
+  TChoixQui choixQui_ = TChoixQui::Eleve;
+  bool quiChoisi_ = false;  ///< by the user
+  TContenu contenuEleves_, contenuClasses_;
+  TTri triEleve_, triClasse_;
+  TChoixPeriode choixPeriode_ = TChoixPeriode::Mois;
+  QStringList mois_;
+  int indiceMois_ = -1;
+  TDateTime dtDate1_ = 0.0, dtDate2_ = 0.0;
+  TChoixDocument choix_;  ///< of the last finish
+};
