@@ -13,7 +13,8 @@ namespace {
 double Nombre(const QString& texte) {
   QString chiffres;
   for (QChar c : texte) {
-    if (c.isDigit() || (c == u'-' && chiffres.isEmpty())) chiffres += c;
+    if (c.isDigit()) chiffres += c;
+    if ((c == u'-' || c == u'\u2212') && chiffres.isEmpty()) chiffres += u'-';
     if (c == u',') chiffres += u'.';
   }
   bool lu = false;
@@ -21,14 +22,14 @@ double Nombre(const QString& texte) {
   return lu ? valeur : std::numeric_limits<double>::lowest();
 }
 
-int Comparer(double a, double b) { return a < b ? -1 : a > b ? 1 : 0; }
+int ComparerNombres(double a, double b) { return a < b ? -1 : a > b ? 1 : 0; }
 
 int ComparerCellules(TOrdre ordre, const QString& a, const QString& b) {
   switch (ordre) {
     case TOrdre::Nombre:
-      return Comparer(Nombre(a), Nombre(b));
+      return ComparerNombres(Nombre(a), Nombre(b));
     case TOrdre::Date:
-      return Comparer(LireDateBarre(a), LireDateBarre(b));
+      return ComparerNombres(LireDateBarre(a), LireDateBarre(b));
     case TOrdre::Texte:
       break;
   }
@@ -72,6 +73,25 @@ int TGrille::Ajouter(QStringList textes, TObjetVu objet, int etat) {
   lignes_.push_back({std::move(textes), objet, etat});
   Annoncer();
   return NombreLignes() - 1;
+}
+
+int TGrille::AjouterTete(QStringList textes, TObjetVu objet) {
+  lignes_.push_back({.Textes = std::move(textes), .Objet = objet, .Tete = true});
+  Annoncer();
+  return NombreLignes() - 1;
+}
+
+int TGrille::TeteDe(int ligne) const {
+  if (Ligne(ligne).Tete) return -1;
+  while (--ligne >= 0 && !Ligne(ligne).Tete) continue;
+  return ligne;
+}
+
+void TGrille::Fermer(int tete, bool ferme) {
+  if (ferme)
+    fermes_.insert(Texte(tete, 0));
+  else
+    fermes_.remove(Texte(tete, 0));
 }
 
 void TGrille::Retirer(int ligne) {
@@ -135,7 +155,11 @@ void TGrille::Trier(int colonne, bool croissant) {
 void TGrille::Trier(const std::function<int(const TLigneGrille&, const TLigneGrille&)>& comparer) {
   std::vector<size_t> rangs(lignes_.size());
   std::iota(rangs.begin(), rangs.end(), size_t{0});
-  std::ranges::stable_sort(rangs, [&](size_t a, size_t b) { return comparer(lignes_[a], lignes_[b]) < 0; });
+  for (auto debut = rangs.begin(); debut != rangs.end();) {
+    auto fin = std::find_if(debut, rangs.end(), [&](size_t rang) { return lignes_[rang].Tete; });
+    std::stable_sort(debut, fin, [&](size_t a, size_t b) { return comparer(lignes_[a], lignes_[b]) < 0; });
+    debut = fin == rangs.end() ? fin : fin + 1;
+  }
   std::vector<TLigneGrille> triees;
   triees.reserve(rangs.size());
   int courante = -1;
@@ -148,8 +172,26 @@ void TGrille::Trier(const std::function<int(const TLigneGrille&, const TLigneGri
   Annoncer();
 }
 
+int TGrille::Comparer(int a, int b, int colonne) const {
+  return ComparerCellules(Colonne(colonne).Ordre, TexteVu(a, colonne), TexteVu(b, colonne));
+}
+
+int TGrille::ColonneEtat() const {
+  if (Etats.empty()) return -1;
+  const auto colonne = std::ranges::find(colonnes_, QStringLiteral("État"), &TColonneGrille::Titre);
+  return colonne == colonnes_.end() ? -1 : static_cast<int>(colonne - colonnes_.begin());
+}
+
+QString TGrille::TexteVu(int ligne, int colonne) const {
+  const TLigneGrille& vue = Ligne(ligne);
+  return colonne == ColonneEtat() && !vue.Tete ? Etats.at(static_cast<size_t>(vue.Etat)).Texte
+                                               : vue.Texte(colonne);
+}
+
 bool TGrille::Contient(int ligne, const QString& cherche) const {
-  const QString textes = Simplifier(Ligne(ligne).Textes.join(u'\n'));
+  QStringList vus = Ligne(ligne).Textes;
+  if (const int colonne = ColonneEtat(); colonne >= 0) vus += TexteVu(ligne, colonne);
+  const QString textes = Simplifier(vus.join(u'\n'));
   const QStringList mots = Simplifier(cherche).split(u' ', Qt::SkipEmptyParts);
   return std::ranges::all_of(mots, [&](const QString& mot) { return textes.contains(mot); });
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -33,6 +34,7 @@ struct TLigneGrille {
   TObjetVu Objet;
   int Etat = 0;  ///< index into the states of the grid
   bool Coche = false;
+  bool Tete = false;  ///< heads the rows below it, down to the next head
 
   /// Empty for a cell that was never written.
   QString Texte(int colonne) const { return Textes.value(colonne); }
@@ -40,6 +42,7 @@ struct TLigneGrille {
 
 /// A table of texts: what a screen shows, sorts and filters, and what a list prints. Indexes are
 /// from 0; one outside the grid is a fault of the caller, but for those that say otherwise.
+/// Rows may stand in groups, each below its head; one before the first head belongs to none.
 class TGrille {
  public:
   /// What has changed; `Ligne` is -1 when it is more than one row.
@@ -74,6 +77,14 @@ class TGrille {
 
   /// Returns the index of the new row, which is the last.
   int Ajouter(QStringList textes, TObjetVu objet = {}, int etat = 0);
+  /// A head; the rows added after it are its group. Shut when the group of that name (column 0) was
+  /// shut before, so that a list that is filled again keeps what the user folded.
+  int AjouterTete(QStringList textes, TObjetVu objet = {});
+  /// The head above the row; -1 for a head and for a row of no group.
+  int TeteDe(int ligne) const;
+  bool EstFerme(int tete) const { return fermes_.contains(Texte(tete, 0)); }
+  /// The user folded or opened the group; announces nothing.
+  void Fermer(int tete, bool ferme);
   /// The row behind it becomes the current one if it was, or the last.
   void Retirer(int ligne);
   /// Removes the rows; columns stay.
@@ -85,10 +96,17 @@ class TGrille {
   void Cocher(int ligne, bool coche);
   void CocherTout(bool coche);
 
-  /// Stable; the current row stays on its row.
+  /// Stable; the current row stays on its row. Rows stay in their group, groups in their order.
   void Trier(int colonne, bool croissant = true);
   /// The same by a comparison of two rows (below 0, 0 or above 0).
   void Trier(const std::function<int(const TLigneGrille&, const TLigneGrille&)>& comparer);
+  /// Order of two rows by the value in that column: below 0, 0 or above 0.
+  int Comparer(int a, int b, int colonne) const;
+  /// The column that shows the word of the row's state: the one titled "État"; -1 when the grid has
+  /// no such column or no states.
+  int ColonneEtat() const;
+  /// What a user reads in the cell: its text, in the column of the states the word of the state.
+  QString TexteVu(int ligne, int colonne) const;
   /// Whether a cell of the row contains each word of the text, without regard to case and accents.
   bool Contient(int ligne, const QString& cherche) const;
   /// -1 when no row carries the object.
@@ -112,6 +130,7 @@ class TGrille {
 
   std::vector<TColonneGrille> colonnes_;
   std::vector<TLigneGrille> lignes_;
+  QSet<QString> fermes_;  ///< names of the groups that the user folded
   int courante_ = -1;
   int lots_ = 0;
   bool change_ = false;

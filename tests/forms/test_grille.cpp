@@ -87,6 +87,41 @@ TEST(Grille, FiltreSansCasseNiAccent) {
     EXPECT_FALSE(grille.Contient(0, QString::fromUtf8(non))) << non;
 }
 
+TEST(Grille, LesGroupesTiennentEnsemble) {
+  TGrille grille = Grille(TOrdre::Nombre, {QStringLiteral("9")});
+  const auto remplir = [&] {
+    grille.AjouterTete({QStringLiteral("Soir"), QStringLiteral("2 relevés")});
+    for (const char* texte : {"3", "\u22122,50 €"}) grille.Ajouter({QString(), QString::fromUtf8(texte)});
+    grille.AjouterTete({QStringLiteral("Matin")});
+    grille.Ajouter({QString(), QStringLiteral("1")});
+  };
+  remplir();
+  EXPECT_EQ(grille.TeteDe(0), -1);
+  EXPECT_EQ(grille.TeteDe(1), -1);
+  EXPECT_EQ(grille.TeteDe(3), 1);
+  EXPECT_EQ(grille.TeteDe(5), 4);
+  grille.Trier(1);
+  EXPECT_EQ(Colonne(grille, 1), QString::fromUtf8("9|2 relevés|\u22122,50 €|3||1").split(u'|'));
+  grille.Fermer(4, true);
+  grille.Vider();
+  remplir();
+  EXPECT_FALSE(grille.EstFerme(0));
+  EXPECT_TRUE(grille.EstFerme(3));
+}
+
+TEST(Grille, LEtatSeLitCommeUnTexte) {
+  TGrille grille({{QStringLiteral("Nom")}, {QStringLiteral("État")}});
+  EXPECT_EQ(grille.ColonneEtat(), -1);
+  grille.Etats = {
+      {}, {QStringLiteral("Payé"), QStringLiteral("dialog-ok-apply")}, {QStringLiteral("Dû"), {}}};
+  for (const int etat : {1, 0, 2}) grille.Ajouter({QStringLiteral("x")}, {}, etat);
+  EXPECT_EQ(grille.TexteVu(0, 1), QStringLiteral("Payé"));
+  EXPECT_TRUE(grille.Contient(2, QStringLiteral("du")));
+  EXPECT_FALSE(grille.Contient(1, QStringLiteral("du")));
+  EXPECT_GT(grille.Comparer(0, 2, 1), 0);
+  EXPECT_LT(grille.Comparer(1, 2, 1), 0);
+}
+
 TEST(Grille, AnnonceChaqueChangementOuUnLot) {
   TGrille grille = Grille(TOrdre::Texte, {QStringLiteral("a"), QStringLiteral("b")});
   std::vector<int> lignes;
