@@ -45,7 +45,10 @@ void TContexteImpression::Appeler(const QString& procedure, const QString& sende
 
 void TContexteImpression::Noter(const TBandeModele& bande, const TObjetModele& objet,
                                 const QString& message) {
-  Noter(bande, objet.Nom.isEmpty() ? QStringLiteral("ligne %1").arg(objet.Ligne) : objet.Nom, message);
+  QString nom = objet.Nom;
+  if (nom.isEmpty()) nom = QStringLiteral("ligne %1").arg(objet.Ligne);
+  if (objet.Nom.isEmpty() && objet.Fichier != Modele.Fichier) nom += QStringLiteral(" de ") + objet.Fichier;
+  Noter(bande, nom, message);
 }
 
 void TContexteImpression::Noter(const TBandeModele& bande, const QString& objet, const QString& message) {

@@ -4,25 +4,17 @@
 
 namespace {
 
+constexpr float kLongueurMaximum = 20'000;
+
 bool Meme(const QString& a, const char* b) { return a.compare(QLatin1String(b), Qt::CaseInsensitive) == 0; }
 
-/// A length of an object, by the name that scripts use; null for another property.
-float* Longueur(TEtatObjet& etat, const QString& propriete) {
-  if (Meme(propriete, "Top")) return &etat.Y;
-  if (Meme(propriete, "Width")) return &etat.Largeur;
-  if (Meme(propriete, "Height")) return &etat.Hauteur;
-  return nullptr;
-}
-
-/// A number, or a text that is one.
-std::optional<float> Nombre(const TValeurScript& valeur) {
-  if (const double* nombre = std::get_if<double>(&valeur)) return static_cast<float>(*nombre);
-  if (const QString* texte = std::get_if<QString>(&valeur)) {
-    bool ok = false;
-    const float nombre = texte->toFloat(&ok);
-    if (ok) return nombre;
-  }
-  return {};
+/// A length in px, or a text that is one; none outside of what templates take.
+std::optional<float> Longueur(const TValeurScript& valeur, float minimum) {
+  const QString* texte = std::get_if<QString>(&valeur);
+  const double* nombre = std::get_if<double>(&valeur);
+  bool ok = nombre != nullptr;
+  const float longueur = texte != nullptr ? texte->toFloat(&ok) : ok ? static_cast<float>(*nombre) : 0;
+  return ok && longueur >= minimum && longueur <= kLongueurMaximum ? std::optional(longueur) : std::nullopt;
 }
 
 /// "#rrggbb", or a number with red in its lowest byte.
@@ -37,6 +29,20 @@ std::optional<QRgb> Couleur(const TValeurScript& valeur) {
   return qRgb(bgr & 0xFF, bgr >> 8 & 0xFF, bgr >> 16 & 0xFF);
 }
 
+std::optional<TTypeCode> TypeCode(const TValeurScript& valeur) {
+  const QString* type = std::get_if<QString>(&valeur);
+  if (type != nullptr && Meme(*type, "Codabar")) return TTypeCode::Codabar;
+  if (type != nullptr && Meme(*type, "Code39")) return TTypeCode::Code39;
+  return {};
+}
+
+/// Sets a field unless there is nothing to set it to.
+template <class TSource, class T>
+bool Prendre(const TSource& source, T& champ) {
+  if (source) champ = *source;
+  return static_cast<bool>(source);
+}
+
 }  // namespace
 
 TEtatObjets::TEtatObjets(const TModele& modele, TResolveur valeur) : valeur_(std::move(valeur)) {
@@ -49,7 +55,8 @@ TEtatObjets::TEtatObjets(const TModele& modele, TResolveur valeur) : valeur_(std
       Nommer(bande.Nom, etat);
       for (const TObjetModele& objet : bande.Objets) {
         TEtatObjet& sien = etats_[&objet];
-        sien = {objet.Visible, objet.Y, objet.Largeur, objet.Hauteur, objet.Fond, {}, objet.TypeCode};
+        sien = {objet.Sorte,   objet.Visible, objet.Y, objet.Largeur,
+                objet.Hauteur, objet.Fond,    {},      objet.TypeCode};
         Nommer(objet.Nom, sien);
       }
     }
@@ -59,41 +66,24 @@ void TEtatObjets::Nommer(const QString& nom, TEtatObjet& etat) {
   if (!nom.isEmpty()) noms_.insert(nom.toLower(), &etat);
 }
 
-bool TEtatObjets::Poser(const QString& objet, const QString& propriete, const TValeurScript& valeur) {
+bool TEtatObjets::Poser(const QString& objet, TPropriete propriete, const TValeurScript& valeur) {
   TEtatObjet* etat = noms_.value(objet.toLower());
-  if (etat == nullptr) return false;
-  if (Meme(propriete, "Visible")) {
-    const bool* visible = std::get_if<bool>(&valeur);
-    if (visible != nullptr) etat->Visible = *visible;
-    return visible != nullptr;
+  if (etat == nullptr || !APropriete(etat->Sorte, propriete)) return false;
+  switch (propriete) {
+    case TPropriete::Visible:
+      return Prendre(std::get_if<bool>(&valeur), etat->Visible);
+    case TPropriete::Top:
+      return Prendre(Longueur(valeur, -kLongueurMaximum), etat->Y);
+    case TPropriete::Width:
+      return Prendre(Longueur(valeur, 0), etat->Largeur);
+    case TPropriete::Height:
+      return Prendre(Longueur(valeur, 0), etat->Hauteur);
+    case TPropriete::Color:
+      return Prendre(Couleur(valeur), etat->Fond);
+    case TPropriete::Text:
+      return Prendre(std::get_if<QString>(&valeur), etat->Texte);
+    case TPropriete::BarType:
+      return Prendre(TypeCode(valeur), etat->TypeCode);
   }
-  if (Meme(propriete, "Color")) {
-    const auto couleur = Couleur(valeur);
-    if (couleur) etat->Fond = *couleur;
-    return couleur.has_value();
-  }
-  if (Meme(propriete, "Text")) {
-    const QString* texte = std::get_if<QString>(&valeur);
-    if (texte != nullptr) etat->Texte = *texte;
-    return texte != nullptr;
-  }
-  if (Meme(propriete, "BarType")) {
-    const QString* type = std::get_if<QString>(&valeur);
-    if (type == nullptr || !(Meme(*type, "Codabar") || Meme(*type, "Code39"))) return false;
-    etat->TypeCode = Meme(*type, "Codabar") ? TTypeCode::Codabar : TTypeCode::Code39;
-    return true;
-  }
-  float* longueur = Longueur(*etat, propriete);
-  const auto nombre = Nombre(valeur);
-  if (longueur == nullptr || !nombre) return false;
-  *longueur = *nombre;
-  return true;
-}
-
-std::optional<TValeurScript> TEtatObjets::Lire(const QString& objet, const QString& propriete) {
-  TEtatObjet* etat = noms_.value(objet.toLower());
-  if (etat == nullptr) return {};
-  if (Meme(propriete, "Visible")) return etat->Visible;
-  if (const float* longueur = Longueur(*etat, propriete)) return static_cast<double>(*longueur);
-  return {};
+  return false;
 }

@@ -7,6 +7,7 @@
 
 /// What a script may change of a band or an object. The template itself is never touched.
 struct TEtatObjet {
+  std::optional<TSorteObjet> Sorte;  ///< none for a band
   bool Visible = true;
   float Y = 0, Largeur = 0, Hauteur = 0;
   QRgb Fond = 0;                 ///< alpha 0: none
@@ -24,8 +25,7 @@ class TEtatObjets : public IHoteScript {
   const TEtatObjet& De(const TObjetModele& objet) const { return etats_.at(&objet); }
 
   QString Variable(const QString& nom) override { return valeur_(nom); }
-  bool Poser(const QString& objet, const QString& propriete, const TValeurScript& valeur) override;
-  std::optional<TValeurScript> Lire(const QString& objet, const QString& propriete) override;
+  bool Poser(const QString& objet, TPropriete propriete, const TValeurScript& valeur) override;
 
  private:
   void Nommer(const QString& nom, TEtatObjet& etat);

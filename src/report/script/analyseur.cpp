@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "report/script/arbre.h"
 #include "report/script/lexeur.h"
 
@@ -17,14 +19,19 @@ constexpr TMot kComparaisons[] = {{"=", TOperation::Egal},
                                   {"<", TOperation::Inferieur},
                                   {">", TOperation::Superieur}};
 
+constexpr std::pair<const char*, TPropriete> kProprietes[] = {
+    {"Visible", TPropriete::Visible}, {"Top", TPropriete::Top},     {"Width", TPropriete::Width},
+    {"Height", TPropriete::Height},   {"Color", TPropriete::Color}, {"Text", TPropriete::Text},
+    {"BarType", TPropriete::BarType}};
+
 constexpr const char* kMotsRefuses[] = {"while", "for",  "repeat", "until", "case", "goto", "function",
                                         "try",   "with", "exit",   "const", "type", "uses", "div"};
 
 /// Recursive descent over the pieces of a script.
 class TAnalyseur {
  public:
-  TAnalyseur(TScript::TArbre& arbre, std::vector<TLexeme> lexemes)
-      : lexemes_(std::move(lexemes)), arbre_(&arbre) {}
+  TAnalyseur(TScript::TArbre& arbre, std::vector<TLexeme> lexemes, const QString& fichier)
+      : lexemes_(std::move(lexemes)), fichier_(fichier), arbre_(&arbre) {}
 
   void Tout() {
     while (Ici().Sorte != TSorteLexeme::Fin) {
@@ -82,7 +89,7 @@ class TAnalyseur {
       if (Ici().Est(QLatin1String(mot)))
         Refuser(QStringLiteral("« %1 » n'existe pas dans les scripts des modèles").arg(Ici().Texte));
     if (Ici().Sorte != TSorteLexeme::Nom)
-      Refuser(QStringLiteral("%1 est attendu, et non « %2 »").arg(quoi, Ici().Texte));
+      Refuser(QStringLiteral("il faut %1, et non « %2 »").arg(quoi, Ici().Texte));
     return Prendre().Texte;
   }
 
@@ -163,8 +170,10 @@ class TAnalyseur {
     const QString nom = ExigerNom(QStringLiteral("une instruction"));
     if (PrendreSigne(".")) {
       instruction.Sorte = TSorteInstruction::Poser;
-      instruction.Objet = Objet(nom);
-      instruction.Propriete = ExigerNom(QStringLiteral("une propriété"));
+      if (nom.compare(u"Sender", Qt::CaseInsensitive) != 0) instruction.Objet = nom;
+      instruction.Propriete = ExigerPropriete();
+      if (!instruction.Objet.isEmpty())
+        arbre_->References.push_back({nom, instruction.Propriete, fichier_, instruction.Ligne});
     } else {
       instruction.Sorte = TSorteInstruction::Affecter;
       instruction.Place = PlaceDe(nom);
@@ -174,8 +183,10 @@ class TAnalyseur {
     return instruction;
   }
 
-  static QString Objet(const QString& nom) {
-    return nom.compare(u"Sender", Qt::CaseInsensitive) == 0 ? QString() : nom;
+  TPropriete ExigerPropriete() {
+    for (const auto& [nom, propriete] : kProprietes)
+      if (PrendreMot(nom)) return propriete;
+    Refuser(QStringLiteral("« %1 » n'est pas une propriété").arg(Ici().Texte));
   }
   std::size_t PlaceDe(const QString& nom) const {
     const int place = arbre_->Place(nom);
@@ -209,8 +220,6 @@ class TAnalyseur {
       if (n > kProfondeurMaximum * 10) Refuser(QStringLiteral("l'expression est trop longue"));
       if (PrendreSigne("+"))
         gauche = Noeud(TOperation::Plus, std::move(gauche), LireTerme());
-      else if (PrendreSigne("-"))
-        gauche = Noeud(TOperation::Moins, std::move(gauche), LireTerme());
       else if (PrendreMot("or"))
         gauche = Noeud(TOperation::Ou, std::move(gauche), LireTerme());
       else
@@ -263,26 +272,26 @@ class TAnalyseur {
     } else if (PrendreMot("false")) {
       noeud->Valeur = false;
     } else {
-      const QString nom = ExigerNom(QStringLiteral("une valeur"));
-      if (PrendreSigne(".")) {
-        noeud->Operation = TOperation::Propriete;
-        noeud->Nom = Objet(nom);
-        noeud->Propriete = ExigerNom(QStringLiteral("une propriété"));
-      } else {
-        noeud->Operation = TOperation::VariableScript;
-        noeud->Place = PlaceDe(nom);
-      }
+      noeud->Operation = TOperation::VariableScript;
+      noeud->Place = PlaceDe(ExigerNom(QStringLiteral("une valeur")));
     }
     return noeud;
   }
 
   std::vector<TLexeme> lexemes_;
+  const QString& fichier_;
   std::size_t i_ = 0;
   int profondeur_ = 0;
   TScript::TArbre* arbre_;
 };
 
 }  // namespace
+
+QString NomPropriete(TPropriete propriete) {
+  const auto* trouvee =
+      std::ranges::find(kProprietes, propriete, &std::pair<const char*, TPropriete>::second);
+  return QString::fromLatin1(trouvee->first);
+}
 
 const TProcedure* TScript::TArbre::Procedure(const QString& nom) const {
   for (const TProcedure& procedure : Procedures)
@@ -303,8 +312,10 @@ TScript TScript::Lire(const QString& texte, int premiereLigne) {
   return script;
 }
 
-void TScript::Ajouter(const QString& texte, int premiereLigne) {
-  TAnalyseur(*arbre_, Lexemes(texte, premiereLigne)).Tout();
+void TScript::Ajouter(const QString& texte, int premiereLigne, const QString& fichier) {
+  TAnalyseur(*arbre_, Lexemes(texte, premiereLigne), fichier).Tout();
 }
+
+const std::vector<TScript::TReference>& TScript::References() const { return arbre_->References; }
 
 bool TScript::ConnaitProcedure(const QString& nom) const { return arbre_->Procedure(nom) != nullptr; }

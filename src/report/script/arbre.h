@@ -11,12 +11,10 @@
 enum class TOperation {
   Litteral,
   VariableRapport,
-  VariableScript,
-  Propriete,  // values
+  VariableScript,  // values
   Non,
   Oppose,  // of one operand
   Plus,
-  Moins,
   Modulo,
   Et,
   Ou,
@@ -31,9 +29,8 @@ enum class TOperation {
 struct TExpression {
   TOperation Operation = TOperation::Litteral;
   int Ligne = 1;
-  TValeurScript Valeur;  ///< of a literal
-  QString Nom;           ///< of a report variable; of an object, "" for Sender
-  QString Propriete;
+  TValeurScript Valeur;   ///< of a literal
+  QString Nom;            ///< of a report variable
   std::size_t Place = 0;  ///< of a script variable
   std::unique_ptr<TExpression> Gauche, Droite;
 };
@@ -43,8 +40,9 @@ enum class TSorteInstruction { Affecter, Poser, Si, Bloc };
 struct TInstructionScript {
   TSorteInstruction Sorte = TSorteInstruction::Bloc;
   int Ligne = 1;
-  std::size_t Place = 0;                    ///< of the script variable that is set
-  QString Objet, Propriete;                 ///< of the property that is set; "" is Sender
+  std::size_t Place = 0;  ///< of the script variable that is set
+  QString Objet;          ///< whose property is set; "" is Sender
+  TPropriete Propriete = TPropriete::Visible;
   std::unique_ptr<TExpression> Expression;  ///< the value, or the condition
   std::vector<TInstructionScript> Suite;    ///< of a block; of a condition: then, and perhaps else
 };
@@ -59,9 +57,13 @@ struct TProcedure {
   TInstructionScript Corps;
 };
 
+/// The name that scripts use.
+QString NomPropriete(TPropriete propriete);
+
 struct TScript::TArbre {
   std::vector<TVariableScript> Variables;
   std::vector<TProcedure> Procedures;
+  std::vector<TReference> References;
 
   const TProcedure* Procedure(const QString& nom) const;
   /// Place of a script variable; -1 when there is none of that name.

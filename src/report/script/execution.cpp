@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "core/conversions.h"
 #include "report/script/arbre.h"
 
 struct TExecution::TInterne {
@@ -18,22 +19,26 @@ struct TExecution::TInterne {
     Refuser(e.Ligne, QStringLiteral("une condition est attendue"));
   }
 
-  /// A text that is a whole number counts as one.
+  /// A text that is a number in the school's form, "-12,50", counts as one.
   static double Nombre(const TExpression& e, const TValeurScript& valeur) {
     if (const double* nombre = std::get_if<double>(&valeur)) return *nombre;
-    if (const QString* texte = std::get_if<QString>(&valeur)) {
-      bool ok = false;
-      const int entier = texte->toInt(&ok);
-      if (ok) return entier;
+    try {
+      if (const QString* texte = std::get_if<QString>(&valeur)) return StrToFloat(*texte);
+    } catch (const EConvertError&) {
     }
     Refuser(e.Ligne, QStringLiteral("un nombre est attendu"));
   }
 
+  /// A number that is joined to a text: no more decimals than it has.
+  static QString Texte(const TExpression& e, const TValeurScript& valeur) {
+    if (const QString* texte = std::get_if<QString>(&valeur)) return *texte;
+    return QString::number(Nombre(e, valeur), 'g', 15).replace(u'.', u',');
+  }
+
   TValeurScript Additionner(const TExpression& e) {
     const TValeurScript g = Evaluer(*e.Gauche), d = Evaluer(*e.Droite);
-    const QString* tg = std::get_if<QString>(&g);
-    const QString* td = std::get_if<QString>(&d);
-    if (tg != nullptr && td != nullptr) return QString(*tg + *td);
+    if (std::holds_alternative<QString>(g) || std::holds_alternative<QString>(d))
+      return QString(Texte(*e.Gauche, g) + Texte(*e.Droite, d));
     return Nombre(*e.Gauche, g) + Nombre(*e.Droite, d);
   }
 
@@ -72,12 +77,6 @@ struct TExecution::TInterne {
     return ComparerDe(e.Operation, Nombre(*e.Gauche, g), Nombre(*e.Droite, d));
   }
 
-  TValeurScript LirePropriete(const TExpression& e) {
-    auto valeur = hote.Lire(Objet(e.Nom), e.Propriete);
-    if (!valeur) Refuser(e.Ligne, QStringLiteral("« %1.%2 » n'existe pas").arg(Objet(e.Nom), e.Propriete));
-    return *valeur;
-  }
-
   TValeurScript Evaluer(const TExpression& e) {
     switch (e.Operation) {
       case TOperation::Litteral:
@@ -86,16 +85,12 @@ struct TExecution::TInterne {
         return hote.Variable(e.Nom);
       case TOperation::VariableScript:
         return valeurs[e.Place];
-      case TOperation::Propriete:
-        return LirePropriete(e);
       case TOperation::Non:
         return !Vrai(*e.Gauche, Evaluer(*e.Gauche));
       case TOperation::Oppose:
         return -Nombre(*e.Gauche, Evaluer(*e.Gauche));
       case TOperation::Plus:
         return Additionner(e);
-      case TOperation::Moins:
-        return Nombre(*e.Gauche, Evaluer(*e.Gauche)) - Nombre(*e.Droite, Evaluer(*e.Droite));
       case TOperation::Modulo:
         return Modulo(e);
       case TOperation::Et:
@@ -127,9 +122,8 @@ struct TExecution::TInterne {
       }
       case TSorteInstruction::Poser:
         if (!hote.Poser(Objet(instruction.Objet), instruction.Propriete, Evaluer(*instruction.Expression)))
-          Refuser(instruction.Ligne,
-                  QStringLiteral("« %1.%2 » n'existe pas ou ne peut pas recevoir cette valeur")
-                      .arg(Objet(instruction.Objet), instruction.Propriete));
+          Refuser(instruction.Ligne, QStringLiteral("« %1.%2 » ne peut pas recevoir cette valeur")
+                                         .arg(Objet(instruction.Objet), NomPropriete(instruction.Propriete)));
         break;
     }
   }

@@ -17,17 +17,18 @@ class EScript : public Exception {
   using Exception::Exception;
 };
 
+/// What a script may set of a band or an object.
+enum class TPropriete { Visible, Top, Width, Height, Color, Text, BarType };
+
 /// What a script sees of the report that runs it.
 class IHoteScript {
  public:
   virtual ~IHoteScript() = default;
   /// The value of `<Name>`.
   virtual QString Variable(const QString& nom) = 0;
-  /// Sets `Objet.Propriete`; `Sender` has been replaced by the object's name. False when there is no
-  /// such object or property.
-  virtual bool Poser(const QString& objet, const QString& propriete, const TValeurScript& valeur) = 0;
-  /// Reads it; none when there is no such object or property.
-  virtual std::optional<TValeurScript> Lire(const QString& objet, const QString& propriete) = 0;
+  /// Sets a property of an object; `Sender` has been replaced by its name. False when there is no such
+  /// object, it has no such property, or the value is of the wrong kind.
+  virtual bool Poser(const QString& objet, TPropriete propriete, const TValeurScript& valeur) = 0;
 };
 
 /// A template's script, read once and run many times: global variables `My...`, and procedures that
@@ -36,9 +37,20 @@ class TScript {
  public:
   /// Raises EScript. `premiereLigne` is the line of the file on which the text begins.
   static TScript Lire(const QString& texte, int premiereLigne = 1);
-  /// Adds the variables and procedures of a further text, as of a part that templates share.
-  void Ajouter(const QString& texte, int premiereLigne);
+  /// Adds the variables and procedures of a further text, as of a part that templates share; `fichier`
+  /// is for faults.
+  void Ajouter(const QString& texte, int premiereLigne, const QString& fichier = {});
   bool ConnaitProcedure(const QString& nom) const;
+
+  /// A named object whose property some procedure sets.
+  struct TReference {
+    QString Objet;
+    TPropriete Propriete;
+    QString Fichier;
+    int Ligne;
+  };
+  /// In the order of the texts read.
+  const std::vector<TReference>& References() const;
 
   struct TArbre;
   const TArbre& Arbre() const { return *arbre_; }

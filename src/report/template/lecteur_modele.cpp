@@ -1,11 +1,10 @@
 #include <QDir>
 #include <QFile>
-#include <QSet>
 #include <QXmlStreamReader>
 
 #include "core/exceptions.h"
 #include "report/template/attributs.h"
-#include "report/template/modele.h"
+#include "report/template/verification.h"
 
 namespace {
 
@@ -47,9 +46,13 @@ struct TFichierModele {
   QByteArray octets;
 };
 
+/// No folder, and nothing hidden.
+bool EstNomSimple(const QString& nom) {
+  return !nom.isEmpty() && !nom.contains(u'/') && !nom.contains(u'\\') && !nom.startsWith(u'.');
+}
+
 TFichierModele OuvrirFichier(const QString& nom, const QString& dossier) {
-  const bool simple = !nom.isEmpty() && !nom.contains(u'/') && !nom.contains(u'\\') && !nom.startsWith(u'.');
-  if (!simple) throw Exception(QStringLiteral("« %1 » n'est pas un nom de modèle.").arg(nom));
+  if (!EstNomSimple(nom)) throw Exception(QStringLiteral("« %1 » n'est pas un nom de modèle.").arg(nom));
   QStringList chemins;
   if (!dossier.isEmpty()) chemins += QDir(dossier).filePath(nom + QStringLiteral(".xml"));
   chemins += QStringLiteral(":/modeles/") + nom + QStringLiteral(".xml");
@@ -80,9 +83,10 @@ class TLecteurModele {
     Racine("modele");
     TAttributs attributs = Attributs();
     modele_.Nom = attributs.Texte("nom");
+    modele_.Fichier = fichier_.nom;
     attributs.Finir();
     LireContenuModele();
-    VerifierLeTout();
+    VerifierModele(modele_);
   }
   /// A part that templates share: its content goes where it is included.
   void LirePartie(TPageModele* page, TBandeModele* bande) {
@@ -175,7 +179,7 @@ class TLecteurModele {
     const QString texte = Contenu();
     try {
       if (!modele_.Script) modele_.Script = TScript::Lire({});
-      modele_.Script->Ajouter(texte, ligne);
+      modele_.Script->Ajouter(texte, ligne, fichier_.nom);
     } catch (const EScript& e) {
       throw Exception(QStringLiteral("%1, %2").arg(fichier_.nom, e.Message));
     }
@@ -212,6 +216,7 @@ class TLecteurModele {
   void LireBande(TPageModele& page) {
     TBandeModele bande;
     TAttributs a = Attributs();
+    bande.Fichier = fichier_.nom;
     bande.Ligne = static_cast<int>(xml_.lineNumber());
     bande.Sorte = a.Choix("sorte", kSortesBande, true);
     bande.Nom = a.Texte("nom");
@@ -260,6 +265,7 @@ class TLecteurModele {
     }
     if (!connu) Refuser(QStringLiteral("« %1 » n'a pas sa place dans une bande").arg(xml_.name()));
     TAttributs a = Attributs();
+    objet.Fichier = fichier_.nom;
     objet.Ligne = static_cast<int>(xml_.lineNumber());
     objet.Nom = a.Texte("nom");
     objet.X = a.Nombre("x", 0);
@@ -327,44 +333,20 @@ class TLecteurModele {
     QByteArray octets = QByteArray::fromBase64(objet.Texte.toLatin1());
     objet.Texte.clear();
     if (!nom.isEmpty()) {
-      if (nom.contains(u'/') || nom.contains(u'\\'))
-        Refuser(QStringLiteral("« %1 » n'est pas un nom d'image").arg(nom));
+      if (!EstNomSimple(nom))
+        Refuser(QStringLiteral("« %1 » n'est pas un nom d'image").arg(nom), objet.Ligne);
       QFile fichier(QDir(dossier_).filePath(nom));
       if (dossier_.isEmpty() || !fichier.exists()) fichier.setFileName(QStringLiteral(":/modeles/") + nom);
-      if (!fichier.open(QIODevice::ReadOnly) || fichier.size() > kTailleMaximum)
-        Refuser(QStringLiteral("l'image « %1 » manque").arg(nom));
+      if (!fichier.exists()) Refuser(QStringLiteral("l'image « %1 » manque").arg(nom), objet.Ligne);
+      if (fichier.size() > kTailleMaximum || !fichier.open(QIODevice::ReadOnly))
+        Refuser(QStringLiteral("l'image « %1 » ne peut pas être lue").arg(nom), objet.Ligne);
       octets = fichier.readAll();
     }
     if (octets.isEmpty()) return;  // a place for a picture that the program gives
     auto image = std::make_shared<QImage>();
     if (!image->loadFromData(octets) || image->width() > kImageMaximum || image->height() > kImageMaximum)
-      Refuser(QStringLiteral("l'image ne peut pas être lue"));
+      Refuser(QStringLiteral("l'image ne peut pas être lue"), objet.Ligne);
     objet.Image = std::move(image);
-  }
-
-  void VerifierLeTout() const {
-    QSet<QString> noms;
-    for (const TPageModele& page : modele_.Pages)
-      for (const TBandeModele& bande : page.Bandes) {
-        VerifierNom(noms, bande.Nom, bande.Ligne);
-        VerifierProcedure(bande.AvantImpression, bande.Ligne);
-        for (const TObjetModele& objet : bande.Objets) {
-          VerifierNom(noms, objet.Nom, objet.Ligne);
-          VerifierProcedure(objet.AvantImpression, objet.Ligne);
-        }
-      }
-    if (modele_.Pages.empty()) Refuser(QStringLiteral("le modèle n'a pas de page"));
-  }
-  void VerifierNom(QSet<QString>& noms, const QString& nom, int ligne) const {
-    if (nom.isEmpty()) return;
-    if (noms.contains(nom.toLower()))
-      Refuser(QStringLiteral("deux objets portent le nom « %1 »").arg(nom), ligne);
-    noms.insert(nom.toLower());
-  }
-  void VerifierProcedure(const QString& nom, int ligne) const {
-    if (nom.isEmpty()) return;
-    if (!modele_.Script || !modele_.Script->ConnaitProcedure(nom))
-      Refuser(QStringLiteral("la procédure « %1 » n'existe pas dans le script").arg(nom), ligne);
   }
 
   TModele& modele_;

@@ -35,7 +35,8 @@ enum class TTypeCode { Code39, Codabar };
 struct TObjetModele {
   TSorteObjet Sorte = TSorteObjet::Texte;
   QString Nom;
-  int Ligne = 0;  ///< of the file, for faults
+  QString Fichier;  ///< that holds it, for faults
+  int Ligne = 0;    ///< of the file
   float X = 0, Y = 0, Largeur = 0, Hauteur = 0;
   bool Visible = true;
   QString Texte;  ///< with [Name]; of a code, of a sub-report its page's name
@@ -61,7 +62,8 @@ struct TObjetModele {
 /// One band, with its options.
 struct TBandeModele {
   TSorteBande Sorte = TSorteBande::Detail;
-  QString Nom;  ///< `MasterData1` and so on: what binds it to a data set
+  QString Nom;  ///< `MasterData1` and so on
+  QString Fichier;
   int Ligne = 0;
   float Hauteur = 0;
   bool Visible = true;
@@ -93,9 +95,13 @@ struct TPageModele {
 
 struct TModele {
   QString Nom;
+  QString Fichier;
   std::vector<TPageModele> Pages;
   std::optional<TScript> Script;
 };
+
+/// Whether a script may set that property of an object of that kind, or of a band (none).
+bool APropriete(std::optional<TSorteObjet> sorte, TPropriete propriete);
 
 /// The template of that name: `NAME.xml` of the workstation's folder of templates ("" for none) goes
 /// before the one compiled in. Raises Exception with file, line and reason, in French.

@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "core/exceptions.h"
+#include "report/template/modele.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Modele : public testing::Test {
+ protected:
+  void Ecrire(const QString& nom, const QByteArray& octets) const {
+    QFile fichier(dossier_.filePath(nom));
+    EXPECT_TRUE(fichier.open(QIODevice::WriteOnly) && fichier.write(octets) == octets.size());
+  }
+  /// What the reader says, without the folder; "" when it has nothing to say.
+  QString Refus(const QByteArray& xml) const {
+    try {
+      LireModele(xml, u"essai.xml"_s, dossier_.path());
+      return {};
+    } catch (const Exception& e) {
+      return QString(e.Message).remove(dossier_.path() + u'/');
+    }
+  }
+
+  QTemporaryDir dossier_;
+};
+
+/// A master band, and what else stands on the page from line 3 on.
+QByteArray Page(const QByteArray& suite) {
+  return "<modele nom=\"M\"><page nom=\"P\">\n<bande sorte=\"maitre\" nom=\"MasterData1\"/>\n" + suite +
+         "</page></modele>";
+}
+
+QByteArray Script(const QByteArray& script) {
+  return Page(
+      "<bande sorte=\"pied\" nom=\"F\" jeu=\"MasterData1\"><texte nom=\"mem\"/><trait nom=\"tra\"/></bande>"
+      "<script>" +
+      script + "</script>");
+}
+
+}  // namespace
+
+TEST_F(Modele, RefuseAvecFichierLigneEtRaison) {
+  Ecrire(u"partie.xml"_s, "<partie>\n<bande sorte=\"pied\" nom=\"F\" jeu=\"DetailData1\"/>\n</partie>");
+  Ecrire(u"abimee.png"_s, "pas une image");
+  struct TCas {
+    QByteArray Xml;
+    QString Refus;
+  };
+  for (
+      const TCas& cas : {
+          TCas{Page(""), {}},
+          // A foot without rows, and a head of rows that are not there, would never be printed.
+          TCas{
+              Page(
+                  "<bande sorte=\"entete\" nom=\"H\"/><bande sorte=\"pied\" nom=\"F\" jeu=\"masterdata1\"/>"),
+              {}},
+          TCas{Page("<bande sorte=\"pied\" nom=\"F\"/>"),
+               u"essai.xml, ligne 3 : le pied « F » n'a pas de « jeu »."_s},
+          TCas{
+              Page("\n<bande sorte=\"entete\" nom=\"H\" jeu=\"MasterDat1\"/>"),
+              u"essai.xml, ligne 4 : la page n'a pas de bande maitre, detail ou sousDetail « MasterDat1 » (jeu de « H »)."_s},
+          TCas{
+              Page("<bande sorte=\"pied\" nom=\"F\" jeu=\"F\"/>"),
+              u"essai.xml, ligne 3 : la page n'a pas de bande maitre, detail ou sousDetail « F » (jeu de « F »)."_s},
+          TCas{
+              Page("<inclure modele=\"partie\"/>"),
+              u"partie.xml, ligne 2 : la page n'a pas de bande maitre, detail ou sousDetail « DetailData1 » (jeu de « F »)."_s},
+          TCas{Page("<bande sorte=\"detail\" nom=\"D\" jeu=\"MasterData1\"/>"),
+               u"essai.xml, ligne 3 : « jeu » est pour : entete, pied."_s},
+          TCas{Page("<bande sorte=\"pied\" nom=\"F\" jeu=\"MasterData1\" dernierePage=\"oui\"/>"),
+               u"essai.xml, ligne 3 : « dernierePage » est pour : piedPage."_s},
+          TCas{Page("<bande sorte=\"piedPage\" nom=\"F\" hauteur=\"18\" etirable=\"oui\"/>"),
+               u"essai.xml, ligne 3 : « etirable » est pour : toute sorte de bande sauf piedPage."_s},
+          TCas{Page("<bande sorte=\"detail\" nom=\"masterData1\"/>"),
+               u"essai.xml, ligne 3 : deux objets portent le nom « masterData1 »."_s},
+          TCas{Page("<bande sorte=\"detail\" nom=\"D\" avantImpression=\"Rien\"/>"),
+               u"essai.xml, ligne 3 : la procédure « Rien » n'existe pas dans le script."_s},
+          TCas{Page("<bande sorte=\"resume\" nom=\"R\"><sousRapport>P</sousRapport></bande>"),
+               u"essai.xml, ligne 3 : aucune page n'est le sous-rapport « P »."_s},
+          TCas{Page("<bande sorte=\"resume\" nom=\"R\"><image\nfichier=\"absente.png\"/></bande>"),
+               u"essai.xml, ligne 4 : l'image « absente.png » manque."_s},
+          TCas{Page("<bande sorte=\"resume\" nom=\"R\"><image fichier=\"abimee.png\"/></bande>"),
+               u"essai.xml, ligne 3 : l'image ne peut pas être lue."_s},
+          TCas{Page("<bande sorte=\"resume\" nom=\"R\"><image fichier=\"../x.png\"/></bande>"),
+               u"essai.xml, ligne 3 : « ../x.png » n'est pas un nom d'image."_s},
+          TCas{Page("<bande sorte=\"resume\" nom=\"R\"><texte tailel=\"9\"/></bande>"),
+               u"essai.xml, ligne 3 : l'attribut « tailel » n'existe pas ici."_s},
+          TCas{Page("perdu"), u"essai.xml, ligne 3 : le texte « perdu » n'a pas sa place ici."_s},
+          TCas{"<!DOCTYPE x []>\n<modele/>",
+               u"essai.xml, ligne 1 : une déclaration de type n'a pas sa place dans un modèle."_s},
+          TCas{"<modele/>", u"essai.xml : le modèle n'a pas de page."_s},
+          // What a script names is there, and has the property.
+          TCas{Script("procedure A;begin mem.Text := 'x'; F.Visible := false; end;"), {}},
+          TCas{Script("\nprocedure A;begin mme.Top := 1; end;"),
+               u"essai.xml, ligne 4 : le script nomme « mme », qui n'existe pas."_s},
+          TCas{Script("procedure A;begin tra.Text := 'x'; end;"),
+               u"essai.xml, ligne 3 : « tra » n'a pas la propriété que pose le script."_s},
+          TCas{Script("procedure A;begin mem.Left := 1; end;"),
+               u"essai.xml, ligne 3 : « Left » n'est pas une propriété."_s},
+      })
+    EXPECT_EQ(Refus(cas.Xml).toStdString(), cas.Refus.toStdString()) << cas.Xml.toStdString();
+}
+
+TEST_F(Modele, UneImageEstAuDossierOuDansLeProgramme) {
+  const auto largeur = [&](const QString& nom, const QString& dossier) {
+    const QByteArray bande =
+        "<bande sorte=\"resume\" nom=\"R\"><image fichier=\"" + nom.toUtf8() + "\"/></bande>";
+    return LireModele(Page(bande), u"essai.xml"_s, dossier).Pages[0].Bandes[1].Objets[0].Image->width();
+  };
+  EXPECT_EQ(largeur(u"damier.png"_s, {}), 4);
+  EXPECT_EQ(largeur(u"damier.png"_s, dossier_.path()), 4);
+  EXPECT_TRUE(QImage(7, 3, QImage::Format_RGB32).save(dossier_.filePath(u"damier.png"_s)));
+  EXPECT_EQ(largeur(u"damier.png"_s, dossier_.path()), 7);
+}
+
+TEST_F(Modele, LePremierDeDeuxModeles) {
+  const QByteArray xml = Page("");
+  EXPECT_EQ(LireModele(xml + "<modele nom=\"N\"/>", {}).Nom, u"M"_s);
+}
