@@ -1,0 +1,33 @@
+#include "ui/commun/champ_filtre.h"
+
+#include <QAction>
+#include <QKeyEvent>
+
+#include "ui/commun/theme.h"
+
+ChampFiltre::ChampFiltre(const QString& indication, QWidget* parent) : QLineEdit(parent) {
+  setPlaceholderText(indication);
+  setAccessibleName(indication);
+  setClearButtonEnabled(true);
+  addAction(Theme::Icone(QStringLiteral("view-filter"), TRole::Secondaire), QLineEdit::LeadingPosition);
+  setToolTip(QStringLiteral("Filtrer (Ctrl+F)"));
+}
+
+bool ChampFiltre::event(QEvent* evenement) {
+  // Escape is ours while there is something to empty; else it leaves the dialog.
+  if (evenement->type() == QEvent::ShortcutOverride && !text().isEmpty() &&
+      static_cast<QKeyEvent*>(evenement)->key() == Qt::Key_Escape) {
+    evenement->accept();
+    return true;
+  }
+  return QLineEdit::event(evenement);
+}
+
+void ChampFiltre::keyPressEvent(QKeyEvent* evenement) {
+  if (evenement->key() == Qt::Key_Escape && !text().isEmpty())
+    clear();
+  else if (evenement->key() == Qt::Key_Down && suite_)
+    suite_->setFocus(Qt::OtherFocusReason);
+  else
+    QLineEdit::keyPressEvent(evenement);
+}

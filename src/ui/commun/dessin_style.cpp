@@ -1,0 +1,242 @@
+#include "ui/commun/dessin_style.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+#include <QTreeView>
+
+#include "ui/commun/theme.h"
+
+namespace DessinStyle {
+namespace {
+
+constexpr double kRayon = 4.0;
+
+/// Sets the painter back at its end.
+class Crayon {
+ public:
+  explicit Crayon(QPainter& peintre) : peintre_(peintre) {
+    peintre.save();
+    peintre.setRenderHint(QPainter::Antialiasing);
+  }
+  ~Crayon() { peintre_.restore(); }
+  Crayon(const Crayon&) = delete;
+  Crayon& operator=(const Crayon&) = delete;
+
+ private:
+  QPainter& peintre_;
+};
+
+bool A(const QStyleOption& option, QStyle::StateFlag etat) { return option.state.testFlag(etat); }
+
+QColor Accent() { return Theme::Couleur(TRole::Accent); }
+
+/// A rounded box whose outline lies wholly inside the rectangle.
+void Boite(QPainter& peintre, const QRectF& place, const QBrush& fond, const QColor& contour,
+           double epaisseur, double rayon = kRayon) {
+  const Crayon crayon(peintre);
+  const double demi = epaisseur / 2;
+  peintre.setBrush(fond);
+  peintre.setPen(epaisseur > 0 ? QPen(contour, epaisseur) : QPen(Qt::NoPen));
+  peintre.drawRoundedRect(place.adjusted(demi, demi, -demi, -demi), rayon, rayon);
+}
+
+QColor Melange(const QColor& a, const QColor& b, double part) {
+  const auto moyenne = [part](int x, int y) { return static_cast<int>(x * (1 - part) + y * part); };
+  return {moyenne(a.red(), b.red()), moyenne(a.green(), b.green()), moyenne(a.blue(), b.blue())};
+}
+
+}  // namespace
+
+QColor CouleurTexte(const QStyleOption& option) {
+  return option.palette.color(A(option, QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled,
+                              QPalette::ButtonText);
+}
+
+void Champ(QPainter& peintre, const QStyleOption& option, const QWidget* widget) {
+  const bool actif = A(option, QStyle::State_Enabled);
+  const bool lecture = A(option, QStyle::State_ReadOnly);
+  const bool foyer = actif && A(option, QStyle::State_HasFocus);
+  const bool faute = widget && widget->property("faute").toBool();
+  const QColor fond = option.palette.color(actif && !lecture ? QPalette::Base : QPalette::Window);
+  QColor contour = actif && !lecture ? Theme::Bord() : Theme::Ligne();
+  if (foyer) contour = Accent();
+  if (faute) contour = Theme::Erreur();
+  Boite(peintre, option.rect, fond, contour, foyer || faute ? 2 : 1);
+}
+
+void Contour(QPainter& peintre, const QRect& place, const QColor& couleur) {
+  peintre.setPen(couleur);
+  peintre.setBrush(Qt::NoBrush);
+  peintre.drawRect(place.adjusted(0, 0, -1, -1));
+}
+
+void Bouton(QPainter& peintre, const QStyleOption& option, TGenreBouton genre) {
+  const bool actif = A(option, QStyle::State_Enabled);
+  const bool foyer = actif && A(option, QStyle::State_HasFocus);
+  const bool presse = A(option, QStyle::State_Sunken) || A(option, QStyle::State_On);
+  const bool survol = actif && A(option, QStyle::State_MouseOver);
+  const bool discret = genre == TGenreBouton::Discret || genre == TGenreBouton::Suppression;
+  if (genre == TGenreBouton::Principal && actif) {
+    const QColor fond = presse   ? Melange(Accent(), Theme::Couleur(TRole::Texte), 0.25)
+                        : survol ? Melange(Accent(), Theme::Couleur(TRole::Texte), 0.12)
+                                 : Accent();
+    Boite(peintre, option.rect, fond, fond, 0);
+    // The accent is the button itself: a ring of the text's colour inside it tells the focus.
+    if (foyer)
+      Boite(peintre, QRectF(option.rect).adjusted(2, 2, -2, -2), Qt::NoBrush,
+            Theme::Couleur(TRole::SurAccent), 2, 3);
+    return;
+  }
+  QBrush fond = discret ? QBrush(Qt::NoBrush) : QBrush(option.palette.color(QPalette::Button));
+  if (!actif && !discret) fond = option.palette.color(QPalette::Window);
+  if (survol) fond = Theme::Survol();
+  if (presse) fond = Theme::Selection();
+  const QColor contour = foyer ? Accent() : actif ? Theme::Bord() : Theme::Ligne();
+  Boite(peintre, option.rect, fond, contour, foyer ? 2 : discret ? 0 : 1);
+}
+
+void ListeFermee(QPainter& peintre, const QStyleOption& option) {
+  Bouton(peintre, option, TGenreBouton::Simple);
+}
+
+void Outil(QPainter& peintre, const QStyleOption& option) {
+  const bool actif = A(option, QStyle::State_Enabled);
+  const bool foyer = actif && A(option, QStyle::State_HasFocus);
+  QBrush fond(Qt::NoBrush);
+  if (actif && A(option, QStyle::State_MouseOver)) fond = Theme::Survol();
+  if (A(option, QStyle::State_On) || A(option, QStyle::State_Sunken)) fond = Theme::Selection();
+  const bool plat = A(option, QStyle::State_AutoRaise);
+  const QColor contour = foyer ? Accent() : actif ? Theme::Bord() : Theme::Ligne();
+  Boite(peintre, option.rect, fond, contour, foyer ? 2 : plat ? 0 : 1);
+}
+
+void Foyer(QPainter& peintre, const QStyleOption& option, const QWidget* widget) {
+  // Lists draw it on the row, above the ground of the selection.
+  QRect place = option.rect;
+  if (const auto* liste = qobject_cast<const QTreeView*>(widget); liste && place.left() <= 0)
+    place.setRight(std::max(place.right(), liste->viewport()->width() - 1));
+  Boite(peintre, place, Qt::NoBrush, Accent(), 2, 3);
+}
+
+void Case(QPainter& peintre, const QStyleOption& option, const QWidget* widget) {
+  const bool actif = A(option, QStyle::State_Enabled);
+  const bool plein = A(option, QStyle::State_On), partiel = A(option, QStyle::State_NoChange);
+  const bool lecture = widget && widget->property("lectureSeule").toBool();
+  const int cote = std::min(option.rect.width(), option.rect.height());
+  QRect place(0, 0, cote, cote);
+  place.moveCenter(option.rect.center());
+  const bool vif = actif && !lecture;
+  const QColor fond = plein || partiel ? (vif ? Accent() : Theme::Bord())
+                                       : option.palette.color(vif ? QPalette::Base : QPalette::Window);
+  const QColor contour = plein || partiel ? fond : vif ? Theme::Bord() : Theme::Ligne();
+  const Crayon crayon(peintre);
+  if (!actif && (plein || partiel)) peintre.setOpacity(0.5);
+  Boite(peintre, place, fond, contour, 1, 3);
+  if (!plein && !partiel) return;
+  const double u = cote / 16.0;
+  peintre.setPen(QPen(Theme::Couleur(TRole::SurAccent), 2 * u, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  peintre.translate(place.topLeft());
+  if (partiel)
+    peintre.drawLine(QPointF(4.5 * u, 8 * u), QPointF(11.5 * u, 8 * u));
+  else
+    peintre.drawPolyline(
+        QPolygonF({QPointF(4.2 * u, 8.4 * u), QPointF(6.9 * u, 11 * u), QPointF(11.8 * u, 5.4 * u)}));
+}
+
+void Choix(QPainter& peintre, const QStyleOption& option) {
+  const bool actif = A(option, QStyle::State_Enabled), choisi = A(option, QStyle::State_On);
+  const Crayon crayon(peintre);
+  const QColor vif = actif ? (choisi ? Accent() : Theme::Bord()) : Theme::Ligne();
+  peintre.setBrush(option.palette.color(actif ? QPalette::Base : QPalette::Window));
+  const QRectF rond = QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75);
+  peintre.setPen(QPen(vif, choisi ? 1.5 : 1));
+  peintre.drawEllipse(rond);
+  if (!choisi) return;
+  peintre.setPen(Qt::NoPen);
+  peintre.setBrush(actif ? Accent() : Theme::Bord());
+  const double retrait = rond.width() * 0.25;
+  peintre.drawEllipse(rond.adjusted(retrait, retrait, -retrait, -retrait));
+}
+
+void Fleche(QPainter& peintre, const QRect& place, Qt::ArrowType sens, const QColor& couleur, int demi) {
+  const Crayon crayon(peintre);
+  const double d = Theme::Px(demi);
+  peintre.translate(QRectF(place).center());
+  if (sens == Qt::RightArrow) peintre.rotate(-90);
+  if (sens == Qt::UpArrow) peintre.rotate(180);
+  peintre.setPen(Qt::NoPen);
+  peintre.setBrush(couleur);
+  peintre.drawPolygon(QPolygonF({QPointF(-d, -d / 2), QPointF(d, -d / 2), QPointF(0, d / 2)}));
+}
+
+void LigneDeListe(QPainter& peintre, const QStyleOption& option, const QWidget* widget, bool rangee) {
+  const auto* arbre = qobject_cast<const QTreeView*>(widget);
+  if (arbre && !rangee) return;  // the row behind the cell is drawn already
+  const auto* cellule = qstyleoption_cast<const QStyleOptionViewItem*>(&option);
+  if (cellule && cellule->backgroundBrush.style() != Qt::NoBrush)
+    peintre.fillRect(option.rect, cellule->backgroundBrush);
+  const auto* liste = qobject_cast<const QAbstractItemView*>(widget);
+  if (!A(option, QStyle::State_Selected)) {
+    if (!rangee && A(option, QStyle::State_MouseOver) && A(option, QStyle::State_Enabled))
+      peintre.fillRect(option.rect, Theme::Survol());
+    return;
+  }
+  QRect place = option.rect;
+  if (arbre) {
+    place.setLeft(0);
+    place.setRight(std::max(place.right(), arbre->viewport()->width() - 1));
+  }
+  const bool actif = A(option, QStyle::State_Enabled) && (!liste || liste->isEnabled());
+  peintre.fillRect(place, actif ? Theme::Selection() : Theme::Ligne());
+  peintre.fillRect(QRect(place.topLeft(), QSize(3, place.height())), Accent());
+}
+
+void Tete(QPainter& peintre, const QStyleOption& option) {
+  peintre.fillRect(option.rect, option.palette.color(QPalette::Window));
+  peintre.setPen(A(option, QStyle::State_Enabled) ? Theme::Bord() : Theme::Ligne());
+  peintre.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+}
+
+void TexteDeTete(QPainter& peintre, const QStyleOptionHeader& option) {
+  const Crayon crayon(peintre);
+  peintre.setFont(Theme::Gras());
+  peintre.setPen(A(option, QStyle::State_Enabled) ? Theme::Secondaire() : CouleurTexte(option));
+  const QString texte =
+      QFontMetrics(Theme::Gras()).elidedText(option.text, Qt::ElideRight, option.rect.width());
+  peintre.drawText(option.rect,
+                   static_cast<int>(option.textAlignment | Qt::AlignVCenter) | Qt::TextSingleLine, texte);
+}
+
+void Barre(QPainter& peintre, const QRect& place, const QColor& couleur) {
+  Boite(peintre, place, couleur, couleur, 0, place.height() / 2.0);
+}
+
+void Progression(QPainter& peintre, const QStyleOptionProgressBar& option) {
+  const int etendue = option.maximum - option.minimum;
+  if (etendue <= 0) {  // how long is not known
+    QRect milieu = option.rect;
+    milieu.setWidth(option.rect.width() / 3);
+    milieu.moveLeft(option.rect.width() / 3);
+    return Barre(peintre, milieu, Accent());
+  }
+  const int fait = std::clamp(option.progress - option.minimum, 0, etendue);
+  QRect place = option.rect;
+  place.setWidth(static_cast<int>(static_cast<qint64>(place.width()) * fait / etendue));
+  if (place.width() >= place.height()) Barre(peintre, place, Accent());
+}
+
+void Defilement(QPainter& peintre, const QStyleOptionSlider& option, const QRect& curseur) {
+  peintre.fillRect(option.rect, option.palette.color(QPalette::Window));
+  if (option.maximum <= option.minimum) return;
+  const bool vif = A(option, QStyle::State_MouseOver) || A(option, QStyle::State_Sunken);
+  const QColor couleur =
+      vif ? Theme::Bord() : Melange(Theme::Bord(), option.palette.color(QPalette::Window), 0.4);
+  const int retrait = Theme::Px(2);
+  const QRect place = option.orientation == Qt::Vertical ? curseur.adjusted(retrait, 0, -retrait, 0)
+                                                         : curseur.adjusted(0, retrait, 0, -retrait);
+  Boite(peintre, place, couleur, couleur, 0, std::min(place.width(), place.height()) / 2.0);
+}
+
+}  // namespace DessinStyle

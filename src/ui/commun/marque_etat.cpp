@@ -1,0 +1,68 @@
+#include "ui/commun/marque_etat.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+
+TRole RoleDeIcone(const QString& icone) {
+  static const struct {
+    QString Icone;
+    TRole Role;
+  } kRoles[] = {
+      {QStringLiteral("dialog-ok-apply"), TRole::Succes},
+      {QStringLiteral("data-warning"), TRole::Alerte},
+      {QStringLiteral("data-error"), TRole::Erreur},
+  };
+  for (const auto& [nom, role] : kRoles)
+    if (nom == icone) return role;
+  return TRole::Secondaire;
+}
+
+QString IconeDeNiveau(TNiveauEtat niveau) {
+  switch (niveau) {
+    case TNiveauEtat::Succes:
+      return QStringLiteral("dialog-ok-apply");
+    case TNiveauEtat::Alerte:
+      return QStringLiteral("data-warning");
+    case TNiveauEtat::Erreur:
+      return QStringLiteral("data-error");
+    case TNiveauEtat::Neutre:
+      break;
+  }
+  return {};
+}
+
+TRole RoleDeNiveau(TNiveauEtat niveau) { return RoleDeIcone(IconeDeNiveau(niveau)); }
+
+MarqueEtat::MarqueEtat(QWidget* parent)
+    : QWidget(parent), image_(new QLabel), texte_(new Etiquette({}, TRole::Secondaire)) {
+  auto* ligne = new QHBoxLayout(this);
+  ligne->setContentsMargins(0, 0, 0, 0);
+  ligne->setSpacing(Theme::Px(4));
+  image_->hide();
+  texte_->DefinirElision(true);
+  ligne->addWidget(image_);
+  ligne->addWidget(texte_, 1);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void MarqueEtat::Definir(const QString& icone, const QString& texte) {
+  icone_ = icone;
+  texte_->DefinirRole(RoleDeIcone(icone));
+  texte_->setText(texte);
+  setAccessibleName(texte);
+  Redessiner();
+}
+
+void MarqueEtat::Definir(TNiveauEtat niveau, const QString& texte) { Definir(IconeDeNiveau(niveau), texte); }
+
+void MarqueEtat::Redessiner() {
+  const int cote = Theme::Px(16);
+  image_->setVisible(!icone_.isEmpty());
+  if (icone_.isEmpty()) return;
+  image_->setPixmap(Theme::Icone(icone_, RoleDeIcone(icone_)).pixmap(QSize(cote, cote), devicePixelRatioF()));
+}
+
+void MarqueEtat::changeEvent(QEvent* evenement) {
+  QWidget::changeEvent(evenement);
+  if (evenement->type() == QEvent::PaletteChange || evenement->type() == QEvent::FontChange) Redessiner();
+}

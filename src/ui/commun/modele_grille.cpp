@@ -1,0 +1,170 @@
+#include "ui/commun/modele_grille.h"
+
+#include "ui/commun/marque_etat.h"
+#include "ui/commun/texte.h"
+#include "ui/commun/theme.h"
+
+namespace {
+
+Qt::Alignment Alignement(TAlignement alignement) {
+  switch (alignement) {
+    case TAlignement::Droite:
+      return Qt::AlignRight | Qt::AlignVCenter;
+    case TAlignement::Centre:
+      return Qt::AlignCenter;
+    case TAlignement::Gauche:
+      break;
+  }
+  return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+}  // namespace
+
+ModeleGrille::ModeleGrille(TGrille& grille, QObject* parent) : QAbstractItemModel(parent), grille_(grille) {
+  plan_ = Dresser();
+}
+
+ModeleGrille::TPlan ModeleGrille::Dresser() const {
+  TPlan plan;
+  plan.Colonnes = grille_.NombreColonnes();
+  plan.Places.reserve(static_cast<size_t>(grille_.NombreLignes()));
+  int sommet = -1;
+  int rang = 0;
+  for (int ligne = 0; ligne < grille_.NombreLignes(); ++ligne) {
+    const bool tete = grille_.Ligne(ligne).Tete;
+    if (!tete && sommet >= 0) {
+      plan.Places.push_back({sommet, rang++});
+      continue;
+    }
+    const int ici = static_cast<int>(plan.Sommets.size());
+    plan.Places.push_back({-1, ici});
+    plan.Sommets.push_back(ligne);
+    if (tete) sommet = ici;
+    rang = 0;
+  }
+  return plan;
+}
+
+void ModeleGrille::Suivre(int ligne) {
+  if (ligne >= 0) {
+    const QModelIndex debut = Index(ligne);
+    emit dataChanged(debut, debut.siblingAtColumn(grille_.NombreColonnes() - 1));
+    return;
+  }
+  beginResetModel();
+  plan_ = Dresser();
+  endResetModel();
+}
+
+int ModeleGrille::Ligne(const QModelIndex& index) const {
+  if (!index.isValid()) return -1;
+  const auto sommet = static_cast<size_t>(index.internalId());
+  const auto rang = static_cast<size_t>(index.row());
+  // On the first level the id is 0, below a head its rank and one.
+  return sommet == 0 ? plan_.Sommets[rang] : plan_.Sommets[sommet - 1] + 1 + index.row();
+}
+
+QModelIndex ModeleGrille::Index(int ligne, int colonne) const {
+  if (ligne < 0 || ligne >= static_cast<int>(plan_.Places.size())) return {};
+  const TPlace& place = plan_.Places[static_cast<size_t>(ligne)];
+  return createIndex(place.Rang, colonne, static_cast<quintptr>(place.Sommet + 1));
+}
+
+QModelIndex ModeleGrille::index(int rang, int colonne, const QModelIndex& parent) const {
+  if (!hasIndex(rang, colonne, parent)) return {};
+  return createIndex(rang, colonne, static_cast<quintptr>(parent.isValid() ? parent.row() + 1 : 0));
+}
+
+QModelIndex ModeleGrille::parent(const QModelIndex& enfant) const {
+  const auto sommet = static_cast<int>(enfant.internalId());
+  return sommet == 0 ? QModelIndex() : createIndex(sommet - 1, 0, quintptr{0});
+}
+
+int ModeleGrille::rowCount(const QModelIndex& parent) const {
+  const int sommets = static_cast<int>(plan_.Sommets.size());
+  if (!parent.isValid()) return sommets;
+  if (parent.internalId() != 0 || parent.column() > 0) return 0;
+  const int tete = plan_.Sommets[static_cast<size_t>(parent.row())];
+  const int suivant = parent.row() + 1 < sommets ? plan_.Sommets[static_cast<size_t>(parent.row()) + 1]
+                                                 : static_cast<int>(plan_.Places.size());
+  return suivant - tete - 1;
+}
+
+QVariant ModeleGrille::data(const QModelIndex& index, int role) const {
+  const int ligne = Ligne(index);
+  const int colonne = index.column();
+  if (ligne < 0) return {};
+  switch (role) {
+    case Qt::DisplayRole:
+      return grille_.Colonne(colonne).Ordre == TOrdre::Nombre
+                 ? TypographieMontant(grille_.TexteVu(ligne, colonne))
+                 : grille_.TexteVu(ligne, colonne);
+    case Qt::TextAlignmentRole:
+      return QVariant::fromValue(Alignement(grille_.Colonne(colonne).Alignement));
+    case Qt::CheckStateRole:
+      if (!grille_.CasesACocher || colonne != 0 || grille_.Ligne(ligne).Tete) return {};
+      return grille_.Ligne(ligne).Coche ? Qt::Checked : Qt::Unchecked;
+    default:
+      return Apparence(ligne, colonne, role);
+  }
+}
+
+QVariant ModeleGrille::Apparence(int ligne, int colonne, int role) const {
+  const TLigneGrille& vue = grille_.Ligne(ligne);
+  if (role == Qt::FontRole && vue.Tete) return Theme::Gras();
+  if (role == Qt::AccessibleDescriptionRole && vue.Tete && colonne == 0)
+    return grille_.EstFerme(ligne) ? QStringLiteral("groupe fermé") : QStringLiteral("groupe ouvert");
+  if (vue.Tete || colonne != grille_.ColonneEtat()) return {};
+  const TEtatGrille& etat = grille_.Etats.at(static_cast<size_t>(vue.Etat));
+  if (etat.Icone.isEmpty()) return {};
+  if (role == Qt::DecorationRole) return Theme::Icone(etat.Icone, RoleDeIcone(etat.Icone));
+  if (role == Qt::ForegroundRole) return Theme::Couleur(RoleDeIcone(etat.Icone));
+  return {};
+}
+
+QVariant ModeleGrille::headerData(int colonne, Qt::Orientation sens, int role) const {
+  if (sens != Qt::Horizontal || colonne < 0 || colonne >= grille_.NombreColonnes()) return {};
+  if (role == Qt::DisplayRole) return grille_.Colonne(colonne).Titre;
+  if (role == Qt::TextAlignmentRole)
+    return QVariant::fromValue(Alignement(grille_.Colonne(colonne).Alignement));
+  return {};
+}
+
+Qt::ItemFlags ModeleGrille::flags(const QModelIndex& index) const {
+  Qt::ItemFlags drapeaux = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+  if (grille_.CasesACocher && index.column() == 0) drapeaux |= Qt::ItemIsUserCheckable;
+  return drapeaux;
+}
+
+bool ModeleGrille::setData(const QModelIndex& index, const QVariant& valeur, int role) {
+  const int ligne = Ligne(index);
+  if (role != Qt::CheckStateRole || ligne < 0) return false;
+  const bool coche = valeur.toInt() == Qt::Checked;
+  grille_.Cocher(ligne, coche);
+  emit Cochee(ligne, coche);
+  return true;
+}
+
+FiltreGrille::FiltreGrille(const TGrille& grille, ModeleGrille& modele, QObject* parent)
+    : QSortFilterProxyModel(parent), grille_(grille), modele_(modele) {
+  setSourceModel(&modele);
+  setRecursiveFilteringEnabled(true);
+  setAutoAcceptChildRows(true);
+}
+
+void FiltreGrille::Chercher(const QString& texte) {
+  cherche_ = texte.trimmed();
+  invalidateFilter();
+}
+
+bool FiltreGrille::filterAcceptsRow(int rang, const QModelIndex& parent) const {
+  return cherche_.isEmpty() || grille_.Contient(modele_.Ligne(modele_.index(rang, 0, parent)), cherche_);
+}
+
+bool FiltreGrille::lessThan(const QModelIndex& a, const QModelIndex& b) const {
+  const int ligneA = modele_.Ligne(a), ligneB = modele_.Ligne(b);
+  // Groups keep their place whatever the order.
+  if (grille_.Ligne(ligneA).Tete || grille_.Ligne(ligneB).Tete)
+    return sortOrder() == Qt::AscendingOrder ? ligneA < ligneB : ligneB < ligneA;
+  return grille_.Comparer(ligneA, ligneB, a.column()) < 0;
+}

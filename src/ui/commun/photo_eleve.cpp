@@ -1,0 +1,42 @@
+#include "ui/commun/photo_eleve.h"
+
+#include <QPainter>
+
+#include "ui/commun/theme.h"
+
+PhotoEleve::PhotoEleve(QWidget* parent) : QAbstractButton(parent) {
+  setAccessibleName(QStringLiteral("Photo"));
+  setFocusPolicy(Qt::StrongFocus);
+  setCursor(Qt::PointingHandCursor);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void PhotoEleve::Definir(const QImage& image) {
+  image_ = QPixmap::fromImage(image);
+  setToolTip(image.isNull() ? QString() : QStringLiteral("Changer la photo"));
+  update();
+}
+
+QSize PhotoEleve::sizeHint() const { return {Theme::Px(82), Theme::Px(95)}; }
+
+void PhotoEleve::paintEvent(QPaintEvent*) {
+  QPainter peintre(this);
+  peintre.setRenderHint(QPainter::SmoothPixmapTransform);
+  if (image_.isNull()) {
+    peintre.fillRect(rect(), underMouse() ? Theme::Survol() : palette().color(QPalette::Base));
+    peintre.setPen(QPen(Theme::Bord(), 1, Qt::DashLine));
+    peintre.drawRect(rect().adjusted(0, 0, -1, -1));
+    peintre.setPen(Theme::Secondaire());
+    peintre.setFont(Theme::Petite());
+    const int marge = Theme::Px(4);
+    peintre.drawText(rect().adjusted(marge, marge, -marge, -marge), Qt::AlignCenter | Qt::TextWordWrap,
+                     QStringLiteral("Cliquez ici pour ajouter une photo"));
+  } else {
+    const QSize taille = image_.size().scaled(size(), Qt::KeepAspectRatio);
+    peintre.drawPixmap(
+        QRect(QPoint((width() - taille.width()) / 2, (height() - taille.height()) / 2), taille), image_);
+  }
+  if (!hasFocus()) return;
+  peintre.setPen(QPen(Theme::Couleur(TRole::Accent), 2));
+  peintre.drawRect(rect().adjusted(1, 1, -1, -1));
+}

@@ -1,0 +1,19 @@
+#pragma once
+#include <QAbstractButton>
+#include <QPixmap>
+
+/// The picture of a pupil, or the invitation to add one; a button for the keyboard as well.
+class PhotoEleve : public QAbstractButton {
+  Q_OBJECT
+ public:
+  explicit PhotoEleve(QWidget* parent = nullptr);
+  /// A null image shows "Cliquez ici pour ajouter une photo".
+  void Definir(const QImage& image);
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* evenement) override;
+
+ private:
+  QPixmap image_;
+};

@@ -1,0 +1,70 @@
+#include "ui/commun/pied_de_grille.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QScrollBar>
+
+#include "ui/commun/texte.h"
+#include "ui/commun/theme.h"
+#include "ui/commun/vue_grille.h"
+
+PiedDeGrille::PiedDeGrille(VueGrille& vue, QWidget* parent) : QWidget(parent), vue_(vue) {
+  setAccessibleName(QStringLiteral("Totaux"));
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  vue.GarderBarre();
+  const auto redessiner = [this] { update(); };
+  connect(vue.header(), &QHeaderView::sectionResized, this, redessiner);
+  connect(vue.header(), &QHeaderView::sectionMoved, this, redessiner);
+  connect(vue.header(), &QHeaderView::geometriesChanged, this, redessiner);
+  connect(vue.horizontalScrollBar(), &QScrollBar::valueChanged, this, redessiner);
+}
+
+void PiedDeGrille::Definir(std::vector<QStringList> lignes) {
+  const bool autreHauteur = lignes.size() != lignes_.size();
+  lignes_ = std::move(lignes);
+  QStringList dites;
+  for (const QStringList& ligne : lignes_)
+    dites += ligne.filter(QRegularExpression(QStringLiteral("."))).join(u' ');
+  setAccessibleDescription(dites.join(QStringLiteral(", ")));
+  if (autreHauteur) updateGeometry();
+  update();
+}
+
+QSize PiedDeGrille::sizeHint() const {
+  return {vue_.sizeHint().width(), static_cast<int>(lignes_.size()) * Theme::Px(27)};
+}
+
+QSize PiedDeGrille::minimumSizeHint() const { return {Theme::Px(48), sizeHint().height()}; }
+
+void PiedDeGrille::changeEvent(QEvent* evenement) {
+  QWidget::changeEvent(evenement);
+  if (evenement->type() == QEvent::FontChange) updateGeometry();
+}
+
+void PiedDeGrille::paintEvent(QPaintEvent*) {
+  QPainter peintre(this);
+  peintre.setFont(Theme::Gras());
+  const int hauteur = Theme::Px(27);
+  const int marge = Theme::Px(8);
+  const int decalage = vue_.frameWidth();
+  const QHeaderView& tetes = *vue_.header();
+  peintre.setClipRect(decalage, 0, vue_.viewport()->width(), height());
+  int haut = 0;
+  for (const QStringList& textes : lignes_) {
+    peintre.setPen(Theme::Couleur(TRole::Texte));
+    for (int colonne = 0; colonne < std::min<int>(tetes.count(), static_cast<int>(textes.size()));
+         ++colonne) {
+      const QRect place(tetes.sectionViewportPosition(colonne) + decalage + marge, haut,
+                        tetes.sectionSize(colonne) - 2 * marge, hauteur);
+      const bool droite = vue_.Grille().Colonne(colonne).Alignement == TAlignement::Droite;
+      // A word may run over the empty cells beside it; an amount never does.
+      peintre.drawText(place, (droite ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter | Qt::TextDontClip,
+                       TypographieMontant(textes[colonne]));
+    }
+    haut += hauteur;
+    peintre.setPen(Theme::Ligne());
+    peintre.drawLine(0, haut - 1, width(), haut - 1);
+  }
+}

@@ -1,0 +1,274 @@
+#include "ui/commun/theme.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QFontMetricsF>
+#include <QPointer>
+#include <QSlider>
+#include <cmath>
+
+#include "core/formats.h"
+#include "ui/commun/contraste.h"
+#include "ui/commun/style_calpenne.h"
+
+namespace {
+
+struct TCouleurs {
+  QColor Secondaire, Bord, Ligne, Selection, SurSelection, Survol, Succes, Alerte, Erreur;
+};
+
+struct TPresentation {
+  QPalette Palette;
+  TCouleurs Couleurs;
+  bool Sombre = false;
+};
+
+QColor C(QRgb rgb) { return QColor::fromRgb(rgb); }
+
+TPresentation Presentation(bool sombre) {
+  const auto deux = [sombre](QRgb clair, QRgb fonce) { return C(sombre ? fonce : clair); };
+  TPresentation p;
+  p.Sombre = sombre;
+  p.Couleurs = {
+      .Secondaire = deux(0x55606B, 0xA3ADB8),
+      .Bord = deux(0x7C8690, 0x727D88),
+      .Ligne = deux(0xDCE0E5, 0x363D45),
+      .Selection = deux(0xD5E8EF, 0x1F4453),
+      .SurSelection = deux(0x1A1F24, 0xE6E9ED),
+      .Survol = deux(0xE7ECF0, 0x2E353D),
+      .Succes = deux(0x1B6E3A, 0x6CC58B),
+      .Alerte = deux(0x8A5300, 0xE3B04B),
+      .Erreur = deux(0xB3261E, 0xFF9089),
+  };
+  const QColor fenetre = deux(0xF3F5F7, 0x22272D), texte = deux(0x1A1F24, 0xE6E9ED);
+  const QColor accent = deux(0x0B6480, 0x63B9D6), surAccent = deux(0xFFFFFF, 0x0C1519);
+  const QColor inactif = deux(0x7A848E, 0x7D8791);
+  const struct {
+    QPalette::ColorRole Role;
+    QColor Couleur;
+  } roles[] = {
+      {QPalette::Window, fenetre},
+      {QPalette::Base, deux(0xFFFFFF, 0x1A1E23)},
+      {QPalette::AlternateBase, fenetre},
+      {QPalette::WindowText, texte},
+      {QPalette::Text, texte},
+      {QPalette::ButtonText, texte},
+      {QPalette::BrightText, p.Couleurs.Erreur},
+      {QPalette::PlaceholderText, deux(0x6B7680, 0x8A949E)},
+      {QPalette::Button, deux(0xFFFFFF, 0x2D343B)},
+      {QPalette::Highlight, accent},
+      {QPalette::Link, accent},
+      {QPalette::LinkVisited, accent},
+      {QPalette::HighlightedText, surAccent},
+      {QPalette::Mid, p.Couleurs.Bord},
+      {QPalette::Midlight, p.Couleurs.Ligne},
+      {QPalette::Light, p.Couleurs.Ligne},
+      {QPalette::Dark, p.Couleurs.Bord},
+      {QPalette::Shadow, p.Couleurs.Bord},
+      {QPalette::ToolTipBase, deux(0x1A1F24, 0xE6E9ED)},
+      {QPalette::ToolTipText, deux(0xF3F5F7, 0x22272D)},
+  };
+  for (const auto& [role, couleur] : roles) p.Palette.setColor(QPalette::All, role, couleur);
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    p.Palette.setColor(QPalette::Disabled, role, inactif);
+  for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button})
+    p.Palette.setColor(QPalette::Disabled, role, fenetre);
+  p.Palette.setColor(QPalette::Disabled, QPalette::Highlight, p.Couleurs.Ligne);
+  p.Palette.setColor(QPalette::Disabled, QPalette::HighlightedText, inactif);
+  return p;
+}
+
+/// The palette of a system that asks for high contrast is kept as it is.
+TPresentation FortContraste(const QPalette& systeme) {
+  TPresentation p;
+  p.Palette = systeme;
+  const QColor texte = systeme.color(QPalette::WindowText);
+  p.Sombre = texte.lightness() > systeme.color(QPalette::Window).lightness();
+  p.Palette.setColor(QPalette::Mid, texte);
+  p.Palette.setColor(QPalette::Midlight, texte);
+  p.Couleurs = {.Secondaire = texte,
+                .Bord = texte,
+                .Ligne = texte,
+                .Selection = systeme.color(QPalette::Highlight),
+                .SurSelection = systeme.color(QPalette::HighlightedText),
+                .Survol = systeme.color(QPalette::Window),
+                .Succes = texte,
+                .Alerte = texte,
+                .Erreur = texte};
+  return p;
+}
+
+/// Qt 6.4 does not say it: such palettes have one surface for all, far from the text.
+bool EstFortContraste(const QPalette& p) {
+  const QColor fond = p.color(QPalette::Window);
+  return fond == p.color(QPalette::Base) && fond == p.color(QPalette::Button) &&
+         Contraste(fond, p.color(QPalette::WindowText)) >= 15.0;
+}
+
+TPresentation& Presente() {
+  static TPresentation presentation = Presentation(false);
+  return presentation;
+}
+
+/// What a style cannot give: the buttons of the command bar and its tabs.
+QString Feuille() {
+  const TPresentation& p = Presente();
+  const auto nom = [](const QColor& couleur) { return couleur.name(); };
+  return QStringLiteral(R"(
+QToolButton[genre="commande"] { border: 2px solid transparent; border-radius: %1px; padding: %2px %3px;
+  background: transparent; color: %4; }
+QToolButton[genre="commande"]:hover { background: %5; }
+QToolButton[genre="commande"]:checked { background: %6; color: %7; font-weight: 600; }
+QToolButton[genre="commande"]:focus { border-color: %8; }
+QToolButton[genre="commande"]:disabled { color: %9; }
+QToolButton[genre="onglet"] { border: 0; border-bottom: 3px solid transparent; padding: %2px %3px;
+  background: transparent; color: %10; }
+QToolButton[genre="onglet"]:hover { color: %4; }
+QToolButton[genre="onglet"]:checked { color: %4; font-weight: 600; border-bottom-color: %8; }
+QToolButton[genre="onglet"]:focus { background: %5; }
+QStatusBar::item { border: 0; }
+)")
+      .arg(Theme::Px(4))
+      .arg(Theme::Px(4))
+      .arg(Theme::Px(12))
+      .arg(nom(p.Palette.color(QPalette::ButtonText)), nom(p.Couleurs.Survol), nom(p.Couleurs.Selection),
+           nom(p.Couleurs.SurSelection), nom(p.Palette.color(QPalette::Highlight)),
+           nom(p.Palette.color(QPalette::Disabled, QPalette::ButtonText)), nom(p.Couleurs.Secondaire));
+}
+
+/// Follows the system, and keeps the wheel away from fields without focus.
+class Gardien : public QObject {
+ public:
+  Gardien(QApplication& application, Theme::TMode mode)
+      : QObject(&application), application_(application), mode_(mode) {
+    application.installEventFilter(this);
+    Rafraichir();
+  }
+
+  void Rafraichir() {
+    if (occupe_) return;
+    occupe_ = true;
+    application_.setPalette(QPalette());  // shows the system's own again
+    const QPalette systeme = QApplication::palette();
+    Presente() = Choisir(systeme);
+    QApplication::setPalette(Presente().Palette);
+    application_.setStyleSheet(Feuille());
+    occupe_ = false;
+  }
+
+ protected:
+  bool eventFilter(QObject* objet, QEvent* evenement) override {
+    const QEvent::Type type = evenement->type();
+    if (type == QEvent::Wheel) return RetenirMolette(objet, evenement);
+    if (objet == &application_ && (type == QEvent::ThemeChange || type == QEvent::ApplicationPaletteChange ||
+                                   type == QEvent::ApplicationFontChange))
+      Rafraichir();
+    return false;
+  }
+
+ private:
+  TPresentation Choisir(const QPalette& systeme) const {
+    if (mode_ != Theme::TMode::Systeme) return Presentation(mode_ == Theme::TMode::Sombre);
+    if (EstFortContraste(systeme)) return FortContraste(systeme);
+    return Presentation(systeme.color(QPalette::Window).lightness() <
+                        systeme.color(QPalette::WindowText).lightness());
+  }
+
+  /// The page scrolls instead.
+  static bool RetenirMolette(QObject* objet, QEvent* evenement) {
+    auto* champ = qobject_cast<QWidget*>(objet);
+    if (!champ || champ->hasFocus()) return false;
+    if (!qobject_cast<QComboBox*>(champ) && !qobject_cast<QAbstractSpinBox*>(champ) &&
+        !qobject_cast<QSlider*>(champ))
+      return false;
+    evenement->ignore();
+    return true;
+  }
+
+  QApplication& application_;
+  Theme::TMode mode_;
+  bool occupe_ = false;
+};
+
+QFont Police(double facteur, bool demiGras = false) {
+  QFont police = QApplication::font();
+  if (police.pointSizeF() > 0)
+    police.setPointSizeF(police.pointSizeF() * facteur);
+  else
+    police.setPixelSize(static_cast<int>(std::lround(police.pixelSize() * facteur)));
+  if (demiGras) police.setWeight(QFont::DemiBold);
+  return police;
+}
+
+/// Line height of the application's font over that of the same at 10 points.
+double Echelle() {
+  static QFont connue;
+  static double echelle = 0.0;
+  const QFont police = QApplication::font();
+  if (echelle == 0.0 || police != connue) {
+    QFont dix = police;
+    dix.setPointSizeF(10.0);
+    connue = police;
+    echelle = QFontMetricsF(police).height() / QFontMetricsF(dix).height();
+  }
+  return echelle;
+}
+
+}  // namespace
+
+namespace Theme {
+
+void Appliquer(QApplication& application, TMode mode) {
+  QLocale::setDefault(LocaleEcole());
+  static QPointer<Gardien> gardien;
+  delete gardien;
+  QApplication::setStyle(new StyleCalpenne);
+  gardien = new Gardien(application, mode);
+}
+
+bool EstSombre() { return Presente().Sombre; }
+
+int Px(int longueur) { return static_cast<int>(std::lround(longueur * Echelle())); }
+
+QColor Couleur(TRole role) {
+  switch (role) {
+    case TRole::Texte:
+      return Presente().Palette.color(QPalette::WindowText);
+    case TRole::Accent:
+      return Presente().Palette.color(QPalette::Highlight);
+    case TRole::Secondaire:
+      return Secondaire();
+    case TRole::Succes:
+      return Succes();
+    case TRole::Alerte:
+      return Alerte();
+    case TRole::Erreur:
+      return Erreur();
+    case TRole::SurAccent:
+      return Presente().Palette.color(QPalette::HighlightedText);
+  }
+  return {};
+}
+
+QColor Secondaire() { return Presente().Couleurs.Secondaire; }
+QColor Bord() { return Presente().Couleurs.Bord; }
+QColor Ligne() { return Presente().Couleurs.Ligne; }
+QColor Selection() { return Presente().Couleurs.Selection; }
+QColor SurSelection() { return Presente().Couleurs.SurSelection; }
+QColor Survol() { return Presente().Couleurs.Survol; }
+QColor Succes() { return Presente().Couleurs.Succes; }
+QColor Alerte() { return Presente().Couleurs.Alerte; }
+QColor Erreur() { return Presente().Couleurs.Erreur; }
+
+QPalette Palette(bool sombre) { return Presentation(sombre).Palette; }
+
+QFont TitreEcran() { return Police(1.6, true); }
+QFont TitreSection() { return Police(1.1, true); }
+QFont Compteur() { return Police(1.4, true); }
+QFont TitreAccueil() { return Police(2.0, true); }
+QFont TeteMois() { return Police(0.85); }
+QFont Petite() { return Police(0.9); }
+QFont Gras() { return Police(1.0, true); }
+
+}  // namespace Theme

@@ -1,0 +1,391 @@
+#include "ui/commun/vue_grille.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+#include <cmath>
+
+#include "core/reglages_poste.h"
+#include "ui/commun/champ_filtre.h"
+#include "ui/commun/modele_grille.h"
+#include "ui/commun/theme.h"
+
+namespace {
+
+constexpr int kHauteurLigne = 27;
+
+class DelegueGrille : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize taille = QStyledItemDelegate::sizeHint(option, index);
+    return {taille.width(), std::max(Theme::Px(kHauteurLigne), option.fontMetrics.height() + 2)};
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QVariant couleur = index.data(Qt::ForegroundRole);
+    if (couleur.isValid()) option->palette.setBrush(QPalette::HighlightedText, couleur.value<QColor>());
+  }
+};
+
+/// Sets a flag while it lives.
+class Pendant {
+ public:
+  explicit Pendant(bool& drapeau) : drapeau_(drapeau), avant_(std::exchange(drapeau, true)) {}
+  ~Pendant() { drapeau_ = avant_; }
+  Pendant(const Pendant&) = delete;
+  Pendant& operator=(const Pendant&) = delete;
+
+ private:
+  bool& drapeau_;
+  bool avant_;
+};
+
+}  // namespace
+
+VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, QWidget* parent)
+    : QTreeView(parent),
+      grille_(grille),
+      ecran_(ecran),
+      modele_(new ModeleGrille(grille, this)),
+      filtre_(new FiltreGrille(grille, *modele_, this)),
+      changementAvant_(grille.SurChangement),
+      choixAvant_(grille.SurChoix) {
+  setAccessibleName(nom);
+  setModel(filtre_);
+  setItemDelegate(new DelegueGrille(this));
+  setUniformRowHeights(true);
+  setAllColumnsShowFocus(true);
+  setSelectionMode(SingleSelection);
+  setEditTriggers(NoEditTriggers);
+  setExpandsOnDoubleClick(false);
+  setVerticalScrollMode(ScrollPerPixel);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setTabKeyNavigation(false);
+  setTextElideMode(Qt::ElideRight);
+  header()->setStretchLastSection(false);
+  header()->setSectionsClickable(true);
+  header()->setSortIndicatorShown(true);
+  header()->setSortIndicatorClearable(true);
+  header()->setSortIndicator(-1, Qt::AscendingOrder);
+  header()->setFocusPolicy(Qt::NoFocus);
+  setSortingEnabled(true);
+
+  grille.SurChangement = [this](TGrille::TChangement changement) {
+    if (changementAvant_) changementAvant_(changement);
+    SuivreGrille(changement.Ligne);
+  };
+  grille.SurChoix = [this] {
+    if (choixAvant_) choixAvant_();
+    SuivreChoix();
+  };
+  PoserColonnes();
+  RemettreGroupes();
+  SuivreChoix();
+
+  connect(modele_, &ModeleGrille::Cochee, this, &VueGrille::Cochee);
+  connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {
+    if (!enCours_) grille_.Fermer(LigneDe(index), false);
+  });
+  connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
+    if (!enCours_) grille_.Fermer(LigneDe(index), true);
+  });
+  connect(header(), &QHeaderView::sectionResized, this, [this](int colonne, int, int largeur) {
+    if (enCours_ || colonne == ColonneSouple()) return;
+    grille_.ChangerLargeur(colonne, static_cast<int>(std::lround(largeur * 96.0 / Theme::Px(96))));
+    Retenir();
+  });
+  connect(header(), &QHeaderView::sectionMoved, this, &VueGrille::Retenir);
+  connect(header(), &QHeaderView::sortIndicatorChanged, this, &VueGrille::Retenir);
+}
+
+VueGrille::~VueGrille() {
+  grille_.SurChangement = changementAvant_;
+  grille_.SurChoix = choixAvant_;
+}
+
+// Columns
+
+int VueGrille::ColonneSouple() const {
+  if (souple_ >= 0) return souple_;
+  int plusLarge = 0;
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
+    if (grille_.Colonne(colonne).Alignement == TAlignement::Gauche &&
+        grille_.Colonne(colonne).Largeur > grille_.Colonne(plusLarge).Largeur)
+      plusLarge = colonne;
+  return plusLarge;
+}
+
+void VueGrille::DefinirColonneSouple(int colonne) {
+  souple_ = colonne;
+  PoserColonnes();
+}
+
+void VueGrille::PoserColonnes() {
+  const Pendant pendant(enCours_);
+  header()->setMinimumSectionSize(Theme::Px(32));
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
+    header()->setSectionResizeMode(
+        colonne, colonne == ColonneSouple() ? QHeaderView::Stretch : QHeaderView::Interactive);
+    header()->resizeSection(colonne, Theme::Px(grille_.Colonne(colonne).Largeur));
+  }
+  Rappeler();
+}
+
+/// Under the user: columns in their order with their widths at 10 points, and what they are put in
+/// order by. By title, so that a list that has changed starts afresh.
+void VueGrille::Retenir() {
+  if (enCours_ || ecran_.isEmpty()) return;
+  QJsonArray colonnes;
+  for (int rang = 0; rang < header()->count(); ++rang) {
+    const TColonneGrille& colonne = grille_.Colonne(header()->logicalIndex(rang));
+    colonnes.append(QJsonArray{colonne.Titre, colonne.Largeur});
+  }
+  QJsonObject retenu{{QStringLiteral("colonnes"), colonnes}};
+  if (const int tri = header()->sortIndicatorSection(); tri >= 0)
+    retenu[QStringLiteral("tri")] =
+        QJsonArray{grille_.Colonne(tri).Titre, header()->sortIndicatorOrder() == Qt::AscendingOrder};
+  TReglagesPoste().Ecrire(TRacine::Utilisateur, u"Grilles/" % ecran_,
+                          QString::fromUtf8(QJsonDocument(retenu).toJson(QJsonDocument::Compact)));
+}
+
+void VueGrille::Rappeler() {
+  if (ecran_.isEmpty()) return;
+  const QString texte = TReglagesPoste().Lire(TRacine::Utilisateur, u"Grilles/" % ecran_);
+  const QJsonObject retenu = QJsonDocument::fromJson(texte.toUtf8()).object();
+  const QJsonArray colonnes = retenu[QStringLiteral("colonnes")].toArray();
+  const auto colonneDe = [this](const QString& titre) {
+    for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
+      if (grille_.Colonne(colonne).Titre == titre) return colonne;
+    return -1;
+  };
+  if (colonnes.size() != grille_.NombreColonnes()) return;
+  for (const QJsonValue& valeur : colonnes)
+    if (colonneDe(valeur[0].toString()) < 0) return;
+  for (int rang = 0; rang < static_cast<int>(colonnes.size()); ++rang) {
+    const int colonne = colonneDe(colonnes[rang][0].toString());
+    const int largeur = std::max(colonnes[rang][1].toInt(), 24);
+    header()->moveSection(header()->visualIndex(colonne), rang);
+    if (colonne == ColonneSouple()) continue;
+    grille_.ChangerLargeur(colonne, largeur);
+    header()->resizeSection(colonne, Theme::Px(largeur));
+  }
+  const QJsonArray tri = retenu[QStringLiteral("tri")].toArray();
+  if (tri.size() == 2)
+    sortByColumn(colonneDe(tri[0].toString()), tri[1].toBool() ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+// Following the grid
+
+QModelIndex VueGrille::IndexDe(int ligne) const { return filtre_->mapFromSource(modele_->Index(ligne)); }
+
+int VueGrille::LigneDe(const QModelIndex& index) const { return modele_->Ligne(filtre_->mapToSource(index)); }
+
+void VueGrille::SuivreGrille(int ligne) {
+  const int hauteur = verticalScrollBar()->value();
+  const int colonnes = header()->count();
+  {
+    const Pendant pendant(enCours_);
+    modele_->Suivre(ligne);
+    if (ligne < 0) {
+      if (header()->count() != colonnes) PoserColonnes();
+      RemettreGroupes();
+    }
+  }
+  if (ligne < 0) {
+    SuivreChoix();
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(hauteur);
+  }
+  emit Changee();
+}
+
+void VueGrille::SuivreChoix() {
+  const Pendant pendant(enCours_);
+  const QModelIndex voulu = IndexDe(grille_.LigneCourante());
+  if (voulu.isValid() && voulu.siblingAtColumn(0) != currentIndex().siblingAtColumn(0)) {
+    setCurrentIndex(voulu);
+  } else if (!voulu.isValid() && currentIndex().isValid()) {
+    setCurrentIndex({});
+    clearSelection();
+  }
+  emit Choisie(grille_.LigneCourante());
+}
+
+void VueGrille::RemettreGroupes() {
+  const Pendant pendant(enCours_);
+  bool groupes = false;
+  for (int rang = 0; rang < filtre_->rowCount(); ++rang) {
+    const QModelIndex index = filtre_->index(rang, 0);
+    const int ligne = LigneDe(index);
+    if (!grille_.Ligne(ligne).Tete) continue;
+    groupes = true;
+    setExpanded(index, filtre_->EstFiltre() || !grille_.EstFerme(ligne));
+  }
+  setRootIsDecorated(groupes);
+  setIndentation(groupes ? Theme::Px(15) : 0);
+}
+
+void VueGrille::currentChanged(const QModelIndex& courant, const QModelIndex& avant) {
+  QTreeView::currentChanged(courant, avant);
+  if (!enCours_) grille_.ChoisirLigne(LigneDe(courant));
+}
+
+// Filter
+
+void VueGrille::Filtrer(ChampFiltre& champ) {
+  champ_ = &champ;
+  champ.DefinirSuite(this);
+  connect(&champ, &QLineEdit::textChanged, this, [this](const QString& texte) {
+    {
+      const Pendant pendant(enCours_);
+      filtre_->Chercher(texte);
+      RemettreGroupes();
+    }
+    // A row out of sight is not one to work on.
+    if (!IndexDe(grille_.LigneCourante()).isValid()) grille_.ChoisirLigne(-1);
+    SuivreChoix();
+    emit Changee();
+  });
+}
+
+int VueGrille::NombreVisibles() const {
+  int nombre = 0;
+  for (int ligne = 0; ligne < grille_.NombreLignes(); ++ligne)
+    if (!grille_.Ligne(ligne).Tete && IndexDe(ligne).isValid()) ++nombre;
+  return nombre;
+}
+
+// Copying
+
+QString VueGrille::Copie(int ligne) const {
+  QStringList textes;
+  for (int rang = 0; rang < header()->count(); ++rang)
+    textes += grille_.TexteVu(ligne, header()->logicalIndex(rang));
+  return textes.join(u'\t');
+}
+
+void VueGrille::CopierLigne() {
+  if (grille_.LigneCourante() >= 0) QApplication::clipboard()->setText(Copie(grille_.LigneCourante()));
+}
+
+void VueGrille::CopierTout() {
+  QStringList titres;
+  for (int rang = 0; rang < header()->count(); ++rang)
+    titres += grille_.Colonne(header()->logicalIndex(rang)).Titre;
+  QStringList lignes{titres.join(u'\t')};
+  for (int sommet = 0; sommet < filtre_->rowCount(); ++sommet) {
+    const QModelIndex index = filtre_->index(sommet, 0);
+    lignes += Copie(LigneDe(index));
+    for (int rang = 0; rang < filtre_->rowCount(index); ++rang)
+      lignes += Copie(LigneDe(filtre_->index(rang, 0, index)));
+  }
+  QApplication::clipboard()->setText(lignes.join(u'\n'));
+}
+
+// Keyboard and mouse
+
+void VueGrille::keyPressEvent(QKeyEvent* evenement) {
+  const int ligne = grille_.LigneCourante();
+  const bool tete = ligne >= 0 && grille_.Ligne(ligne).Tete;
+  const Qt::KeyboardModifiers touches = evenement->modifiers() & ~Qt::KeypadModifier;
+  const int touche = evenement->key();
+  if (touche == Qt::Key_C && touches == Qt::ControlModifier) return CopierLigne();
+  if (touche == Qt::Key_C && touches == (Qt::ControlModifier | Qt::ShiftModifier)) return CopierTout();
+  if (touche == Qt::Key_F && touches == Qt::ControlModifier && champ_) {
+    champ_->setFocus(Qt::ShortcutFocusReason);
+    champ_->selectAll();
+    return;
+  }
+  if (touches == Qt::NoModifier && ligne >= 0) {
+    const bool entree = touche == Qt::Key_Return || touche == Qt::Key_Enter;
+    const QModelIndex index = IndexDe(ligne);
+    if (tete && (entree || touche == Qt::Key_Space)) return setExpanded(index, !isExpanded(index));
+    if (touche == Qt::Key_Space && grille_.CasesACocher) {
+      modele_->setData(modele_->Index(ligne), grille_.Ligne(ligne).Coche ? Qt::Unchecked : Qt::Checked,
+                       Qt::CheckStateRole);
+      return;
+    }
+    if (entree && isSignalConnected(QMetaMethod::fromSignal(&VueGrille::Activee))) return emit Activee(ligne);
+    if (touche == Qt::Key_Delete && !tete &&
+        isSignalConnected(QMetaMethod::fromSignal(&VueGrille::Suppression)))
+      return emit Suppression(ligne);
+  }
+  QTreeView::keyPressEvent(evenement);
+}
+
+void VueGrille::mouseDoubleClickEvent(QMouseEvent* evenement) {
+  const QModelIndex index = indexAt(evenement->position().toPoint());
+  const int ligne = LigneDe(index);
+  if (evenement->button() != Qt::LeftButton || ligne < 0) return QTreeView::mouseDoubleClickEvent(evenement);
+  if (grille_.Ligne(ligne).Tete)
+    setExpanded(index.siblingAtColumn(0), !isExpanded(index.siblingAtColumn(0)));
+  else
+    emit Activee(ligne);
+}
+
+int VueGrille::LigneA(const QPoint& place) const { return LigneDe(indexAt(place)); }
+
+bool VueGrille::viewportEvent(QEvent* evenement) {
+  if (evenement->type() != QEvent::ToolTip) return QTreeView::viewportEvent(evenement);
+  const auto* aide = static_cast<QHelpEvent*>(evenement);
+  const QModelIndex index = indexAt(aide->pos());
+  const bool coupe = index.isValid() && sizeHintForIndex(index).width() > visualRect(index).width();
+  QToolTip::showText(aide->globalPos(), coupe ? index.data().toString() : QString(), viewport(),
+                     visualRect(index));
+  return true;
+}
+
+// Looks
+
+void VueGrille::drawRow(QPainter* peintre, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+  QTreeView::drawRow(peintre, option, index);
+  const bool courant = selectionModel()->isSelected(index);
+  const QRect ligne(0, option.rect.y(), std::max(header()->length(), viewport()->width()),
+                    option.rect.height());
+  if (!courant || !hasFocus()) {
+    peintre->setPen(Theme::Ligne());
+    peintre->drawLine(ligne.bottomLeft(), ligne.bottomRight());
+  }
+}
+
+void VueGrille::drawBranches(QPainter* peintre, const QRect& place, const QModelIndex& index) const {
+  if (rootIsDecorated()) QTreeView::drawBranches(peintre, place, index);
+}
+
+void VueGrille::GarderBarre() { setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); }
+
+void VueGrille::MontrerLigne(int ligne) {
+  const QModelIndex index = IndexDe(ligne);
+  if (index.isValid()) scrollTo(index);
+}
+
+int VueGrille::HauteurPour(int lignes) const {
+  return header()->sizeHint().height() + lignes * Theme::Px(kHauteurLigne) + 2 * frameWidth();
+}
+
+QSize VueGrille::sizeHint() const { return {QTreeView::sizeHint().width(), HauteurPour(8)}; }
+
+void VueGrille::changeEvent(QEvent* evenement) {
+  QTreeView::changeEvent(evenement);
+  if (evenement->type() == QEvent::FontChange) {
+    const Pendant pendant(enCours_);
+    for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
+      header()->resizeSection(colonne, Theme::Px(grille_.Colonne(colonne).Largeur));
+    scheduleDelayedItemsLayout();
+  }
+}

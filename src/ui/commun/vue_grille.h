@@ -1,0 +1,88 @@
+#pragma once
+#include <QTreeView>
+
+#include "forms/grille.h"
+
+class ChampFiltre;
+class ModeleGrille;
+class FiltreGrille;
+
+/// The view of a TGrille, which outlives it. Rows are those of the grid, whatever order and filter
+/// show. It takes SurChangement and SurChoix of the grid and calls those that stood there before.
+/// Groups fold by arrow, click, Left and Right; Space ticks; Ctrl+C copies the row with tabs,
+/// Ctrl+Maj+C the whole with its headers.
+class VueGrille : public QTreeView {
+  Q_OBJECT
+ public:
+  /// `nom` says what the list is to a screen reader. Under `ecran` (the screen's name and the list's,
+  /// "Virements/Historique") the user's widths and order are kept.
+  VueGrille(TGrille& grille, const QString& nom, const QString& ecran, QWidget* parent = nullptr);
+  ~VueGrille() override;
+
+  TGrille& Grille() const { return grille_; }
+  /// The field filters as one types; Ctrl+F in the grid goes to it.
+  void Filtrer(ChampFiltre& champ);
+  /// The column that takes the room that is left, or gives way; the widest on the left by default.
+  void DefinirColonneSouple(int colonne);
+  int ColonneSouple() const;
+  /// Rows that the filter lets through, heads not counted.
+  int NombreVisibles() const;
+  /// The height for so many rows, its header included.
+  int HauteurPour(int lignes) const;
+  /// The scroll bar keeps its place even when there is nothing to scroll (see PiedDeGrille).
+  void GarderBarre();
+  /// The row of the grid is brought into view.
+  void MontrerLigne(int ligne);
+  /// The row of the grid at a place of the viewport; -1 for none. For context menus.
+  int LigneA(const QPoint& place) const;
+
+  QSize sizeHint() const override;
+
+ public slots:
+  void CopierLigne();
+  void CopierTout();
+
+ signals:
+  /// Enter or double click on a row that is no head.
+  void Activee(int ligne);
+  /// Another row is current, by whomever; -1 for none.
+  void Choisie(int ligne);
+  /// The user ticked the box of a row.
+  void Cochee(int ligne, bool coche);
+  /// The grid or what the filter shows of it has changed.
+  void Changee();
+  /// Suppr on a row that is no head.
+  void Suppression(int ligne);
+
+ protected:
+  void keyPressEvent(QKeyEvent* evenement) override;
+  void drawRow(QPainter* peintre, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+  void drawBranches(QPainter* peintre, const QRect& place, const QModelIndex& index) const override;
+  void currentChanged(const QModelIndex& courant, const QModelIndex& avant) override;
+  void changeEvent(QEvent* evenement) override;
+  void mouseDoubleClickEvent(QMouseEvent* evenement) override;
+  bool viewportEvent(QEvent* evenement) override;
+
+ private:
+  friend class PiedDeGrille;
+  void SuivreGrille(int ligne);
+  void SuivreChoix();
+  void RemettreGroupes();
+  void PoserColonnes();
+  void Retenir();
+  void Rappeler();
+  QModelIndex IndexDe(int ligne) const;
+  int LigneDe(const QModelIndex& index) const;
+  QString Copie(int ligne) const;
+
+  TGrille& grille_;
+  QString ecran_;
+  ModeleGrille* modele_;
+  FiltreGrille* filtre_;
+  ChampFiltre* champ_ = nullptr;
+  int souple_ = -1;
+  bool enCours_ = false;  ///< the view itself moves the current row, the folds or the widths
+  std::function<void(TGrille::TChangement)> changementAvant_;
+  std::function<void()> choixAvant_;
+};
