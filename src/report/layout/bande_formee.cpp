@@ -25,3 +25,24 @@ struct TDeplacement {
 }  // namespace
 
 void Deplacer(TElement& element, float dx, float dy) { std::visit(TDeplacement{dx, dy}, element); }
+
+void TBandeFormee::Agrandir(float hauteur) {
+  const float plus = hauteur - Hauteur;
+  if (plus <= 0) return;
+  for (const std::size_t place : AuPied) Deplacer(Elements[place], 0, plus);
+  if (Fond) std::get<TElementCadre>(Elements[0]).Place.setHeight(static_cast<qreal>(hauteur));
+  Hauteur = hauteur;
+}
+
+void TBandeFormee::Joindre(TBandeFormee autre, float x) {
+  const std::size_t premier = Elements.size();
+  for (TElement& element : autre.Elements) {
+    Deplacer(element, x, 0);
+    Elements.push_back(std::move(element));
+  }
+  for (TNumeros& numeros : autre.Numeros) {
+    numeros.Element += premier;
+    numeros.X += x;
+    Numeros.push_back(std::move(numeros));
+  }
+}

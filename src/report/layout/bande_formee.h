@@ -3,7 +3,7 @@
 #include "report/rapport.h"
 #include "report/template/modele.h"
 
-/// A text with page numbers, made for good when all pages are there.
+/// A text with numbers of pages or columns, made for good when all pages are there.
 struct TNumeros {
   std::size_t Element = 0;  ///< its place in the list of items
   QString Texte;            ///< with marks
@@ -25,7 +25,14 @@ struct TBandeFormee {
   std::vector<TElement> Elements;  ///< from the band's upper left corner
   std::vector<TNumeros> Numeros;
   std::vector<TSignet> Signets;
-  TPosition Position;  ///< of the walk when it was made
+  std::vector<std::size_t> AuPied;  ///< places of the items that stay at the foot
+  bool Fond = false;                ///< the first item is the band's own ground
+  TPosition Position;               ///< of the walk when it was made
+
+  /// Makes it higher; what stays at the foot goes down.
+  void Agrandir(float hauteur);
+  /// Takes the items of another band, `x` to the right.
+  void Joindre(TBandeFormee autre, float x);
 };
 
 /// Moves an item.

@@ -19,6 +19,7 @@ std::optional<QString> TContexteImpression::ValeurMoteur(QStringView nom, bool m
   if (est(u"TIME")) return FormatHeureCourte(instant);
   if (est(u"LINE#") || est(u"CURRENT#")) return QString::number(Compteurs.Ligne);
   if (est(u"LINETHROUGH#")) return QString::number(Compteurs.LigneTotale);
+  if (est(u"COLUMN#") && EnCellule) return marques ? QString(kMarqueColonne) : QString();
   if (est(u"COLUMN#")) return QString::number(Position.Colonne + 1);
   if (est(u"PAGE#")) return marques ? QString(kMarquePage) : QString::number(Compteurs.Page);
   if (est(u"TOTALPAGES")) return marques ? QString(kMarqueTotal) : QString();

@@ -20,6 +20,8 @@ struct TCompteurs {
 /// Stand for numbers that are known only when all pages are there.
 constexpr QChar kMarquePage(0xE000);
 constexpr QChar kMarqueTotal(0xE001);
+/// Stands for the column in which a cell comes to stand.
+constexpr QChar kMarqueColonne(0xE002);
 
 /// One run of a template on a report: who answers names, runs scripts and gathers faults.
 class TContexteImpression {
@@ -30,7 +32,7 @@ class TContexteImpression {
   TContexteImpression(const TContexteImpression&) = delete;
   TContexteImpression& operator=(const TContexteImpression&) = delete;
 
-  /// The value of a name in a text: page numbers are marks.
+  /// The value of a name in a text: numbers of pages and of cells' columns are marks.
   QString Valeur(const QString& nom) const;
   /// Runs a procedure, "" for none; what goes wrong is a fault of the band.
   void Appeler(const QString& procedure, const QString& sender, const TBandeModele& bande);
@@ -43,6 +45,7 @@ class TContexteImpression {
   const TImpression Impression;
   TPosition Position;
   TCompteurs Compteurs;
+  bool EnCellule = false;  ///< the band in hand is a cell of a page of several columns
   TEtatObjets Etats;
 
  private:

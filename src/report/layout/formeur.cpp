@@ -14,8 +14,6 @@ struct TFormeur::TObjetPret {
 
 namespace {
 
-constexpr float kBlancColonne = 8;  // between two columns of a list
-
 bool EstTexte(const TObjetModele& objet) {
   return objet.Sorte == TSorteObjet::Texte || objet.Sorte == TSorteObjet::TexteRiche;
 }
@@ -25,7 +23,9 @@ QRectF Rectangle(float x, float y, float largeur, float hauteur) {
                 static_cast<qreal>(hauteur));
 }
 
-bool AvecNumeros(const QString& texte) { return texte.contains(kMarquePage) || texte.contains(kMarqueTotal); }
+bool AvecNumeros(const QString& texte) {
+  return texte.contains(kMarquePage) || texte.contains(kMarqueTotal) || texte.contains(kMarqueColonne);
+}
 
 /// One stands below the other, at least in part.
 bool SousLui(const TObjetModele& dessus, const TObjetModele& dessous) {
@@ -61,7 +61,7 @@ TParagraphe TFormeur::Composer(const TObjetModele& objet, const TEtatObjet& etat
     return MettreEnLignes(morceaux, objet, etat.Largeur, etat.Hauteur);
   TObjetModele cellule = objet;
   if (colonne_->Droite) cellule.Alignement = TAlignementTexte::Droite;
-  return MettreEnLignes(morceaux, cellule, std::max(1.0F, colonne_->Largeur - kBlancColonne), etat.Hauteur);
+  return MettreEnLignes(morceaux, cellule, std::max(1.0F, colonne_->Largeur - colonne_->Blanc), etat.Hauteur);
 }
 
 std::vector<TFormeur::TObjetPret> TFormeur::Preparer(const TBandeModele& bande) {
@@ -147,6 +147,7 @@ std::optional<TBandeFormee> TFormeur::Former(const TBandeModele& bande, const TP
 }
 
 std::optional<TBandeFormee> TFormeur::Former(const TBandeModele& bande) {
+  contexte_.EnCellule = bande.Colonnes > 1;
   contexte_.Appeler(bande.AvantImpression, bande.Nom, bande);
   const TEtatObjet& etat = contexte_.Etats.De(bande);
   if (!etat.Visible) return {};
@@ -157,12 +158,17 @@ std::optional<TBandeFormee> TFormeur::Former(const TBandeModele& bande) {
   const float croissance = Etirer(bande, objets);
   formee.Hauteur = etat.Hauteur + croissance;
   if (qAlpha(etat.Fond) > 0) {
-    const QRectF place = Rectangle(0, 0, etat.Largeur, formee.Hauteur);
-    formee.Elements.emplace_back(TElementCadre{place, 0, 0, etat.Fond, 0});
+    const bool cellule = bande.Sorte == TSorteBande::Colonnes || bande.Sorte == TSorteBande::EnteteColonnes;
+    const float largeur = cellule && colonne_ != nullptr ? colonne_->Largeur : etat.Largeur;
+    formee.Elements.emplace_back(TElementCadre{Rectangle(0, 0, largeur, formee.Hauteur), 0, 0, etat.Fond, 0});
+    formee.Fond = true;
   }
   for (TObjetPret& objet : objets) {
+    const std::size_t premier = formee.Elements.size();
     if (objet.Modele->SousLaBande) objet.Etat.Y += croissance;
     Dessiner(bande, objet, formee);
+    for (std::size_t i = premier; objet.Modele->SousLaBande && i < formee.Elements.size(); ++i)
+      formee.AuPied.push_back(i);
   }
   if (!bande.Signet.isEmpty())
     formee.Signets.push_back({RemplacerNoms(bande.Signet, Resolveur()), bande.NiveauSignet});
@@ -196,14 +202,29 @@ void TFormeur::Dessiner(const TBandeModele& bande, const TObjetPret& objet, TBan
   }
 }
 
+void TFormeur::NoterTexte(const TBandeModele& bande, const TObjetModele& objet,
+                          const TParagraphe& paragraphe) {
+  if (paragraphe.Deborde && !objet.Etirable)
+    contexte_.Noter(bande, objet, QStringLiteral("un texte est plus grand que sa place."));
+  if (paragraphe.MotCoupe)
+    contexte_.Noter(bande, objet, QStringLiteral("un mot plus large que sa place est coupé."));
+  for (const auto& ligne : paragraphe.Lignes)
+    for (const TSegment& segment : ligne) {
+      const QString& texte = segment.Forme->Texte;
+      // Marks of numbers are in no font either. Once an object: the next rows would say the same.
+      if (!segment.Forme->Incomplet || AvecNumeros(texte) || !illisibles_.insert(&objet).second) continue;
+      contexte_.Noter(bande, objet,
+                      QStringLiteral("aucune police n'a tous les caractères de « %1 ».").arg(texte));
+    }
+}
+
 void TFormeur::DessinerTexte(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee) {
   const TObjetModele& modele = *objet.Modele;
   const TParagraphe& paragraphe = objet.Paragraphe;
   if (qAlpha(objet.Etat.Fond) > 0)
     formee.Elements.emplace_back(TElementCadre{
         Rectangle(modele.X, objet.Etat.Y, objet.Etat.Largeur, objet.Etat.Hauteur), 0, 0, objet.Etat.Fond, 0});
-  if (paragraphe.Deborde && !modele.Etirable)
-    contexte_.Noter(bande, modele, QStringLiteral("un texte est plus grand que sa place."));
+  NoterTexte(bande, modele, paragraphe);
   for (std::size_t ligne = 0; ligne < paragraphe.Lignes.size(); ++ligne)
     for (const TSegment& segment : paragraphe.Lignes[ligne]) {
       if (AvecNumeros(segment.Forme->Texte)) {

@@ -1,4 +1,6 @@
 #pragma once
+#include <unordered_set>
+
 #include "report/layout/bande_formee.h"
 #include "report/layout/colonnes.h"
 #include "report/layout/contexte_impression.h"
@@ -24,10 +26,12 @@ class TFormeur {
   void DessinerTexte(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee);
   void DessinerImage(const TObjetPret& objet, TBandeFormee& formee) const;
   void DessinerCode(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee);
+  void NoterTexte(const TBandeModele& bande, const TObjetModele& objet, const TParagraphe& paragraphe);
   TParagraphe Composer(const TObjetModele& objet, const TEtatObjet& etat) const;
   QString Texte(const TObjetModele& objet, const TEtatObjet& etat) const;
   TResolveur Resolveur() const;
 
   TContexteImpression& contexte_;
-  const TPlaceColonne* colonne_ = nullptr;  ///< in hand
+  const TPlaceColonne* colonne_ = nullptr;              ///< in hand
+  std::unordered_set<const TObjetModele*> illisibles_;  ///< that showed a character of no font
 };

@@ -34,6 +34,25 @@ TMoteur::TMoteur(TContexteImpression& contexte, TDocumentPrepare& document)
     if (!page.SousRapport) pages_.push_back(&page);
 }
 
+bool TMoteur::Sort(const TBandeModele& bande) const {
+  const int colonnes = contexte_.Rapport.NombreColonnes();
+  return !contexte_.Rapport.ModeColonnes() ||
+         (colonnes >= bande.ColonnesMin && colonnes <= bande.ColonnesMax);
+}
+
+/// Of the text that takes the width of its column, or of that of the reference column.
+TStyle TMoteur::StyleColonne(const TPageModele& page, TSorteBande sorte, TSorteBande reference) const {
+  for (const TSorteBande cherchee : {sorte, reference})
+    for (const TBandeModele& bande : page.Bandes) {
+      if (bande.Sorte != cherchee || !Sort(bande)) continue;
+      const auto objet = std::ranges::find_if(bande.Objets, [](const TObjetModele& o) {
+        return o.Sorte == TSorteObjet::Texte && o.Largeur <= 0;
+      });
+      if (objet != bande.Objets.end()) return objet->Style;
+    }
+  return {};
+}
+
 bool TMoteur::ParSuites() const {
   return std::ranges::all_of(pages_, [](const TPageModele* page) {
     const TBandeModele* maitre = Premiere(*page, TSorteBande::Maitre);
@@ -74,7 +93,9 @@ void TMoteur::CommencerPage() {
   const TPageModele& page = *pages_[page_];
   pagination_.Commencer(page);
   if (contexte_.Rapport.ModeColonnes())
-    colonnes_ = PlacesColonnes(contexte_.Rapport, page.Largeur - 2 * page.Marge);
+    colonnes_ = PlacesColonnes(contexte_.Rapport, page.Largeur - 2 * page.Marge,
+                               {StyleColonne(page, TSorteBande::EnteteColonnes, TSorteBande::Entete),
+                                StyleColonne(page, TSorteBande::Colonnes, TSorteBande::Maitre)});
   Ajouter(page, TSorteBande::Entete, TRole::Seule, -1, 0);
   if (!parcours_->Fini(TJeu::Maitre)) AjouterDe(page, TSorteBande::Entete, TSorteBande::Maitre, 0);
 }
@@ -95,13 +116,14 @@ void TMoteur::LigneMaitre(const TPageModele& page) {
       NoeudVide() && Existe(page, TSorteBande::Detail) && !ImprimeSiVide(page, TSorteBande::Maitre);
   const bool suite = maitre != nullptr && maitre->NouvellePage && !saute;
   if (suite) {
-    if (!bandes_.empty()) pagination_.Placer(std::move(bandes_), false);
+    if (!bandes_.empty()) pagination_.Placer(std::move(bandes_), true);
     bandes_.clear();
     pagination_.NouvelleSuite();
   }
   Compter(0, ++ligneMaitre_);
+  const TPosition ici = contexte_.Position;
   if (!saute) Ajouter(page, TSorteBande::Maitre, TRole::Ligne, 0, 0);
-  Details(page, 0);
+  if (EstSur(ici)) Details(page, 0);
   if (suite) {
     pagination_.Placer(std::move(bandes_), true);
     bandes_.clear();
@@ -118,8 +140,9 @@ void TMoteur::Details(const TPageModele& page, float x) {
     Compter(1, ligne);
     const bool saute =
         NoeudVide() && Existe(page, TSorteBande::SousDetail) && !ImprimeSiVide(page, TSorteBande::Detail);
+    const TPosition ici = contexte_.Position;
     if (!saute) Ajouter(page, TSorteBande::Detail, TRole::Ligne, 1, x);
-    SousDetails(page, x);
+    if (EstSur(ici)) SousDetails(page, x);
     parcours_->Suivant(TJeu::Detail);
   }
   AjouterDe(page, TSorteBande::Pied, TSorteBande::Detail, x);
@@ -146,14 +169,15 @@ void TMoteur::Compter(std::size_t niveau, int ligne) {
 
 void TMoteur::Ajouter(const TPageModele& page, TSorteBande sorte, TRole role, int niveau, float x) {
   for (const TBandeModele& bande : page.Bandes)
-    if (bande.Sorte == sorte && (role != TRole::Seule || bande.Jeu.isEmpty()))
+    if (bande.Sorte == sorte && Sort(bande) && (role != TRole::Seule || bande.Jeu.isEmpty()))
       AjouterBande(page, bande, role, niveau, x);
 }
 
 void TMoteur::AjouterDe(const TPageModele& page, TSorteBande sorte, TSorteBande jeu, float x) {
   const TRole role = sorte == TSorteBande::Pied ? TRole::Pied : TRole::Tete;
   for (const TBandeModele& bande : page.Bandes)
-    if (bande.Sorte == sorte && JeuDe(page, bande) == jeu) AjouterBande(page, bande, role, NiveauDe(jeu), x);
+    if (bande.Sorte == sorte && Sort(bande) && JeuDe(page, bande) == jeu)
+      AjouterBande(page, bande, role, NiveauDe(jeu), x);
 }
 
 void TMoteur::AjouterBande(const TPageModele& page, const TBandeModele& bande, TRole role, int niveau,
@@ -173,27 +197,34 @@ void TMoteur::AjouterBande(const TPageModele& page, const TBandeModele& bande, T
 }
 
 void TMoteur::AjouterColonnes(const TPageModele& page, TSorteBande sorte, TBandeFormee& ligne) {
+  std::vector<std::pair<TBandeFormee, float>> cellules;
+  float hauteur = ligne.Hauteur;
   parcours_->Premier(TJeu::Colonne);
   for (std::size_t i = 1; !parcours_->Fini(TJeu::Colonne) && i < colonnes_.size(); ++i) {
     Suivre();
     for (const TBandeModele& bande : page.Bandes) {
-      if (bande.Sorte != sorte) continue;
+      if (bande.Sorte != sorte || !Sort(bande) || colonnes_[i].Largeur <= 0) continue;
       auto cellule = formeur_.Former(bande, colonnes_[i]);
       if (!cellule) continue;
-      for (TElement& element : cellule->Elements) {
-        Deplacer(element, colonnes_[i].X, 0);
-        ligne.Elements.push_back(std::move(element));
-      }
-      ligne.Hauteur = std::max(ligne.Hauteur, cellule->Hauteur);
+      hauteur = std::max(hauteur, cellule->Hauteur);
+      cellules.emplace_back(std::move(*cellule), colonnes_[i].X);
     }
     parcours_->Suivant(TJeu::Colonne);
   }
   parcours_->Premier(TJeu::Colonne);
   Suivre();
+  // The tallest cell makes the row; the rules at the foot of all others follow.
+  ligne.Agrandir(hauteur);
+  for (auto& [cellule, x] : cellules) {
+    cellule.Agrandir(hauteur);
+    ligne.Joindre(std::move(cellule), x);
+  }
 }
 
-/// The bands of a sub-report follow the band that names it.
+/// The bands of a sub-report follow the band that names it. Its rows are walked once: who comes after it
+/// finds none left.
 void TMoteur::SousRapports(const TBandeModele& bande, int niveau, float x) {
+  const TPosition ici = contexte_.Position;
   for (const TObjetModele& objet : bande.Objets) {
     if (objet.Sorte != TSorteObjet::SousRapport || !contexte_.Etats.De(objet).Visible) continue;
     const auto page = std::ranges::find(contexte_.Modele.Pages, objet.Texte.trimmed(), &TPageModele::Nom);
@@ -203,11 +234,14 @@ void TMoteur::SousRapports(const TBandeModele& bande, int niveau, float x) {
     }
     ++profondeur_;
     Ajouter(*page, TSorteBande::Entete, TRole::Seule, niveau + 1, x + objet.X);
-    if (niveau == 0 && Existe(*page, TSorteBande::Detail)) Details(*page, x + objet.X);
-    if (niveau == 1 && Existe(*page, TSorteBande::SousDetail)) SousDetails(*page, x + objet.X);
+    if (EstSur(ici)) {
+      if (niveau == 0 && Existe(*page, TSorteBande::Detail)) Details(*page, x + objet.X);
+      if (niveau == 1 && Existe(*page, TSorteBande::SousDetail)) SousDetails(*page, x + objet.X);
+    }
     Ajouter(*page, TSorteBande::Resume, TRole::Seule, niveau + 1, x + objet.X);
     --profondeur_;
   }
+  contexte_.Position = ici;
 }
 
 void TMoteur::PoserSignet(TBandeFormee& bande) {

@@ -16,6 +16,9 @@ class TMoteur {
 
   /// Pages of their own for each master row: all pages of a row follow each other.
   bool ParSuites() const;
+  /// Bands for lists of so many columns, and no others.
+  bool Sort(const TBandeModele& bande) const;
+  TStyle StyleColonne(const TPageModele& page, TSorteBande sorte, TSorteBande reference) const;
   void CommencerPage();
   void FinirPage();
   void LigneMaitre(const TPageModele& page);
@@ -32,6 +35,8 @@ class TMoteur {
   void PoserSignet(TBandeFormee& bande);
   bool ImprimeSiVide(const TPageModele& page, TSorteBande sorte) const;
   bool NoeudVide() const;
+  /// False when a sub-report has walked the rows below.
+  bool EstSur(const TPosition& place) const { return parcours_->Position().Curseur == place.Curseur; }
   void Suivre() { contexte_.Position = parcours_->Position(); }
 
   TContexteImpression& contexte_;

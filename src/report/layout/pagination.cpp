@@ -25,12 +25,18 @@ void TPagination::Finir() {
   if (ouverte_) Fermer(true);
 }
 
-/// Height of the footers that are on every page, or of those on a last page only.
-float TPagination::HauteurPied(bool dernierePage) const {
+/// Height of the footers that are on every page, or of those on a last page only. Their procedures go
+/// first: one may hide its footer, or show it again.
+float TPagination::HauteurPied(bool dernierePage, const TPosition& position) {
+  const TPosition avant = std::exchange(contexte_.Position, position);
   float hauteur = 0;
-  for (const TBandeModele& bande : modele_->Bandes)
-    if (EstPied(bande) && bande.DernierePage == dernierePage && contexte_.Etats.De(bande).Visible)
-      hauteur += contexte_.Etats.De(bande).Hauteur;
+  for (const TBandeModele& bande : modele_->Bandes) {
+    if (!EstPied(bande) || bande.DernierePage != dernierePage) continue;
+    contexte_.Appeler(bande.AvantImpression, bande.Nom, bande);
+    const TEtatObjet& etat = contexte_.Etats.De(bande);
+    if (etat.Visible) hauteur += etat.Hauteur;
+  }
+  contexte_.Position = avant;
   return hauteur;
 }
 
@@ -55,7 +61,7 @@ void TPagination::Ouvrir(const TPosition& position, bool premiere) {
   }
   contexte_.Position = avant;
   debut_ = y_;
-  bas_ = modele_->Hauteur - modele_->Marge - HauteurPied(false);
+  bas_ = modele_->Hauteur - modele_->Marge - HauteurPied(false, position);
 }
 
 void TPagination::Fermer(bool derniere) {
@@ -71,6 +77,7 @@ void TPagination::Fermer(bool derniere) {
   }
   contexte_.Position = avant;
   float y = modele_->Hauteur - modele_->Marge - hauteur;
+  if (!pieds.empty() && y + kTolerance < std::max(debut_, plusBas_)) NoterTropHaute(pieds.front());
   for (const TBandeFormee& pied : pieds) {
     Poser(pied, 0, y);
     y += pied.Hauteur;
@@ -94,8 +101,9 @@ void TPagination::Poser(const TBandeFormee& bande, float x, float y) {
   for (TNumeros numeros : bande.Numeros) {
     numeros.Element += premier;
     numeros.X += dx;
-    EcrireNumeros(document_.Pages.size() - 1, numeros, {});
-    numeros_.push_back({document_.Pages.size() - 1, std::move(numeros)});
+    const int colonne = bande.Modele->Colonnes > 1 ? colonne_ : -1;
+    numeros_.push_back({document_.Pages.size() - 1, colonne, std::move(numeros)});
+    EcrireNumeros(numeros_.back(), {});
   }
   derniere_ = bande.Position;
 }
@@ -117,11 +125,12 @@ void TPagination::Placer(std::vector<TBandeFormee> bandes, bool complet) {
   if (bandes.empty()) return;
   if (!ouverte_) Ouvrir(bandes.front().Position, std::exchange(premiere_, false));
   const TCoupures coupures = TrouverCoupures(bandes, bas_ - debut_);
+  const float dernierPied = complet ? HauteurPied(true, bandes.back().Position) : 0;
   for (std::size_t debut = 0; debut < bandes.size();) {
     std::size_t fin = debut + 1;
     while (fin < bandes.size() && !coupures.Avant[fin]) ++fin;
     const bool dernier = complet && fin == bandes.size();
-    const float besoin = HauteurBloc(bandes, debut, fin) + (dernier ? HauteurPied(true) : 0);
+    const float besoin = HauteurBloc(bandes, debut, fin) + (dernier ? dernierPied : 0);
     const bool saute = bandes[debut].Modele->NouvellePage && y_ > debut_;
     if (saute || (plusBas_ > debut_ && !TientIci(bandes, debut, fin, besoin))) {
       Changer(bandes[debut].Position);
@@ -131,7 +140,7 @@ void TPagination::Placer(std::vector<TBandeFormee> bandes, bool complet) {
     debut = fin;
   }
   FermerColonnes();
-  if (complet && y_ + HauteurPied(true) > bas_ + kTolerance) Changer(bandes.back().Position);
+  if (complet && y_ + dernierPied > bas_ + kTolerance) Changer(bandes.back().Position);
 }
 
 /// Cells find their own place; what stands below them must still fit under the tallest column.
@@ -171,6 +180,7 @@ void TPagination::PlacerUne(const TBandeFormee& bande, const std::vector<TBandeF
       Repeter(bandes, tetes);
     }
   }
+  if (y_ + bande.Hauteur > bas_ + kTolerance) NoterTropHaute(bande);
   Poser(bande, x, y_);
   for (const TSignet& signet : bande.Signets) Page().Signets.push_back(signet);
   y_ += bande.Hauteur;
@@ -198,16 +208,25 @@ void TPagination::FermerColonnes() {
 
 void TPagination::PoserNumeros() {
   const QString total = QString::number(document_.Pages.size());
-  for (const TNumerosPage& place : numeros_) EcrireNumeros(place.Page, place.Numeros, total);
+  for (const TNumerosPage& place : numeros_) EcrireNumeros(place, total);
 }
 
-void TPagination::EcrireNumeros(std::size_t page, const TNumeros& numeros, const QString& total) {
+void TPagination::EcrireNumeros(const TNumerosPage& place, const QString& total) {
+  const TNumeros& numeros = place.Numeros;
   QString texte = numeros.Texte;
-  texte.replace(kMarquePage, QString::number(page + 1)).replace(kMarqueTotal, total);
-  auto& element = std::get<TElementTexte>(document_.Pages[page].Elements[numeros.Element]);
+  texte.replace(kMarquePage, QString::number(place.Page + 1))
+      .replace(kMarqueTotal, total)
+      .replace(kMarqueColonne, QString::number(place.Colonne + 1));
+  auto& element = std::get<TElementTexte>(document_.Pages[place.Page].Elements[numeros.Element]);
   element.Forme = Former(texte, numeros.Style);
   const float reste = numeros.Largeur > 0 ? numeros.Largeur - element.Forme->Largeur : 0;
   element.X = numeros.X;
   if (numeros.Alignement == TAlignementTexte::Droite) element.X += reste;
   if (numeros.Alignement == TAlignementTexte::Centre) element.X += reste / 2;
+}
+
+/// It stands over something all the same: a page with a fault is better than none.
+void TPagination::NoterTropHaute(const TBandeFormee& bande) {
+  contexte_.Noter(*bande.Modele, bande.Modele->Nom,
+                  QStringLiteral("la bande est plus haute que la place qui reste sur une page."));
 }

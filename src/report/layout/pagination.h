@@ -31,15 +31,16 @@ class TPagination {
   void Repeter(const std::vector<TBandeFormee>& bandes, const std::vector<std::size_t>& tetes);
   bool DansUneColonne(const TBandeFormee& bande);
   void FermerColonnes();
-  void EcrireNumeros(std::size_t page, const TNumeros& numeros, const QString& total);
-  float HauteurPied(bool dernierePage) const;
-  float HauteurBloc(const std::vector<TBandeFormee>& bandes, std::size_t debut, std::size_t fin) const;
-  TPagePreparee& Page() { return document_.Pages.back(); }
-
   struct TNumerosPage {
     std::size_t Page;
+    int Colonne;  ///< from 0; -1 outside columns
     TNumeros Numeros;
   };
+  void EcrireNumeros(const TNumerosPage& place, const QString& total);
+  float HauteurPied(bool dernierePage, const TPosition& position);
+  void NoterTropHaute(const TBandeFormee& bande);
+  float HauteurBloc(const std::vector<TBandeFormee>& bandes, std::size_t debut, std::size_t fin) const;
+  TPagePreparee& Page() { return document_.Pages.back(); }
 
   TContexteImpression& contexte_;
   TFormeur& formeur_;

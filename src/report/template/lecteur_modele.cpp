@@ -232,6 +232,8 @@ class TLecteurModele {
     bande.PremierePageSans = a.OuiNon("premierePageSans", false);
     bande.Colonnes = a.Entier("colonnes", 1);
     bande.LargeurColonne = a.Nombre("largeurColonne", 0);
+    bande.ColonnesMin = a.Entier("colonnesMin", bande.ColonnesMin);
+    bande.ColonnesMax = a.Entier("colonnesMax", bande.ColonnesMax);
     bande.Jeu = a.Texte("jeu");
     bande.AvantImpression = a.Texte("avantImpression");
     bande.Signet = a.Texte("signet");

@@ -77,7 +77,8 @@ struct TBandeModele {
   bool PremierePageSans = false;  ///< an overlay or header: not on the first page of a master row
   int Colonnes = 1;               ///< of a multi-column page: how many, filled downwards
   float LargeurColonne = 0;
-  QString Jeu;  ///< for Entete, Pied: name of the data band that it belongs to
+  int ColonnesMin = 0, ColonnesMax = 50;  ///< of a list: printed when it has so many
+  QString Jeu;                            ///< for Entete, Pied: name of the data band that it belongs to
   QString AvantImpression;
   QString Signet;  ///< text of a bookmark, with [Name]; "" for none
   int NiveauSignet = 0;

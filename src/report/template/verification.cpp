@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr const char* kMotsDeListe = "maitre, entete, pied, colonnes, enteteColonnes, resume";
+
 /// An option that would be passed over in silence on a band of another kind.
 struct TReserve {
   const char* Attribut;
@@ -32,6 +34,14 @@ const std::vector<TReserve>& Reserves() {
        [](const TBandeModele& b) { return b.Colonnes > 1; },
        {Maitre, Detail, SousDetail},
        "maitre, detail, sousDetail"},
+      {"colonnesMin",
+       [](const TBandeModele& b) { return b.ColonnesMin != TBandeModele().ColonnesMin; },
+       {Maitre, Entete, Pied, Colonnes, EnteteColonnes, Resume},
+       kMotsDeListe},
+      {"colonnesMax",
+       [](const TBandeModele& b) { return b.ColonnesMax != TBandeModele().ColonnesMax; },
+       {Maitre, Entete, Pied, Colonnes, EnteteColonnes, Resume},
+       kMotsDeListe},
       // The place of a footer is kept before its texts are known.
       {"etirable",
        [](const TBandeModele& b) { return b.Etirable; },
