@@ -2,7 +2,10 @@
 
 #include <stdexcept>
 
+#include "documents/badges.h"
+#include "documents/etiquettes.h"
 #include "documents/factures.h"
+#include "documents/listes_codes_barres.h"
 #include "documents/releve_detaille.h"
 #include "pupils/eleves.h"
 
@@ -18,12 +21,12 @@ enum TIndice {
 };
 
 constexpr TTitreDocument kTitres[] = {
-    {u"Etiquettes d'identification 89mm x 36mm (Etiquette Dymo 99012)", false, nullptr},
-    {u"Etiquettes d'identification 54mm x 25mm (Etiquette Dymo 11352)", false, nullptr},
-    {u"Badge individuel d'identification (85mm x 54mm)", false, nullptr},
-    {u"Badge individuel Xerox DocuCard (1 carte)", false, nullptr},
-    {u"Liste d'identification par classe", false, nullptr},
-    {u"Liste d'identification par classe - grand format", false, nullptr},
+    {u"Etiquettes d'identification 89mm x 36mm (Etiquette Dymo 99012)", false, EtiquettesGrandes},
+    {u"Etiquettes d'identification 54mm x 25mm (Etiquette Dymo 11352)", false, EtiquettesPetites},
+    {u"Badge individuel d'identification (85mm x 54mm)", false, Badge},
+    {u"Badge individuel Xerox DocuCard (1 carte)", false, Xerox},
+    {u"Liste d'identification par classe", false, ListeCodesBarres},
+    {u"Liste d'identification par classe - grand format", false, ListeCodesBarresLarge},
     {u"Facture", true, Factures},
     {u"Relevé des frais effectifs", true, nullptr},
     {u"Relevé détaillé des services", true, ReleveDetaille},

@@ -6,13 +6,15 @@
 
 class TEleve;
 class TEleves;
+class TEtiquettes;
 class TParametres;
 
 /// What the documents of a school year are made from. All must outlive it.
 struct TContexteDocument {
   const TEleves& Eleves;  ///< of the year on display, with the collections that their accounts read
   const TParametres& Parametres;
-  QString TitreGarderieSoir;  ///< how the evening service is called
+  QString TitreGarderieSoir;          ///< how the evening service is called
+  TEtiquettes* Etiquettes = nullptr;  ///< of the screen that prints; null: there is no printer of labels
 };
 
 /// From `Globals`: parameters and a year must have been loaded.

@@ -17,13 +17,16 @@ QByteArray TResultat::EnJson(const QString& titre) const {
 }
 
 TResultat Presenter(TRapport rapport, TArbreRapport arbre, const QString& siVide) {
+  if (!arbre.empty()) return PresenterMemeVide(std::move(rapport), std::move(arbre));
   TResultat resultat;
-  if (!arbre.empty()) {
-    rapport.CopierArbre(std::move(arbre));
-    resultat.Rapports.push_back(std::move(rapport));
-  } else if (!siVide.isEmpty()) {
-    resultat.Messages += siVide;
-  }
+  if (!siVide.isEmpty()) resultat.Messages += siVide;
+  return resultat;
+}
+
+TResultat PresenterMemeVide(TRapport rapport, TArbreRapport arbre) {
+  TResultat resultat;
+  rapport.CopierArbre(std::move(arbre));
+  resultat.Rapports.push_back(std::move(rapport));
   return resultat;
 }
 

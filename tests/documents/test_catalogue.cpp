@@ -71,11 +71,10 @@ TEST_F(TCatalogueEssai, LesElevesPuisCeuxDesClasses) {
 
 TEST_F(TCatalogueEssai, CeQuiNEstPasLaLeDit) {
   const int anne = UnEleve().Id;
-  const TResultat badge = Demander(TitresDocuments()[3].Titre, {anne}, "2016-10-01", "2016-10-31");
-  EXPECT_TRUE(badge.Echec && badge.Rapports.empty());
-  EXPECT_EQ(badge.Messages,
-            QStringList{
-                u"Le document « Badge individuel Xerox DocuCard (1 carte) » n'est pas encore disponible."_s});
+  const TResultat attestation = Demander(u"Attestation fiscale", {anne}, "2016-10-01", "2016-10-31");
+  EXPECT_TRUE(attestation.Echec && attestation.Rapports.empty());
+  EXPECT_EQ(attestation.Messages,
+            QStringList{u"Le document « Attestation fiscale » n'est pas encore disponible."_s});
   EXPECT_THROW(Demander(u"Facture ", {anne}, "2016-10-01", "2016-10-31"), std::out_of_range);
 }
 
