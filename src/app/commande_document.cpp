@@ -77,24 +77,30 @@ QString TexteDefaut(const QString& modele, const TDefaut& defaut) {
   return ou.join(QStringLiteral(", ")) + QStringLiteral(" : ") + defaut.Message;
 }
 
+/// Raises Exception when there is no template yet.
+TDocumentPrepare Preparer(TSession& session, const TRapport& rapport, const TImpression& impression) {
+  const auto modele = ModeleDocument(rapport.Modele(), DossierModeles(session.Controleur.Reglages()));
+  if (!modele)
+    throw Exception(
+        QStringLiteral("Le document « %1 » n'a pas encore de modèle (« %2 ») : demandez-le avec --json.")
+            .arg(rapport.Titre(), rapport.Modele()));
+  TDocumentPrepare document = MettreEnPage(rapport, *modele, impression);
+  for (const TDefaut& defaut : document.Defauts)
+    session.Dialogues.Message(TexteDefaut(rapport.Modele(), defaut));
+  return document;
+}
+
 /// All reports in one file, with a bookmark a pupil; false when there was nothing to write.
 bool MettreEnPdf(TSession& session, const QString& titre, const TChoixDocument& choix,
                  const TResultat& resultat) {
-  if (resultat.Rapports.empty()) {
-    session.Dialogues.Message(QStringLiteral("Il n'y a rien à imprimer : le fichier PDF n'est pas écrit."));
-    return false;
-  }
   const TImpression impression{session.Controleur.Horloge().Maintenant(), !choix.Classes.empty()};
   std::vector<TDocumentPrepare> documents;
-  for (const TRapport& rapport : resultat.Rapports) {
-    const auto modele = ModeleDocument(rapport.Modele());
-    if (!modele)
-      throw Exception(
-          QStringLiteral("Le document « %1 » n'a pas encore de modèle (« %2 ») : demandez-le avec --json.")
-              .arg(rapport.Titre(), rapport.Modele()));
-    documents.push_back(MettreEnPage(rapport, *modele, impression));
-    for (const TDefaut& defaut : documents.back().Defauts)
-      session.Dialogues.Message(TexteDefaut(rapport.Modele(), defaut));
+  for (const TRapport& rapport : resultat.Rapports)
+    documents.push_back(Preparer(session, rapport, impression));
+  std::erase_if(documents, [](const TDocumentPrepare& document) { return document.Pages.empty(); });
+  if (documents.empty()) {
+    session.Dialogues.Message(QStringLiteral("Il n'y a rien à imprimer : le fichier PDF n'est pas écrit."));
+    return false;
   }
   std::vector<const TDocumentPrepare*> tous;
   for (const TDocumentPrepare& document : documents) tous.push_back(&document);

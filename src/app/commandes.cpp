@@ -167,7 +167,8 @@ const std::vector<TCommande>& Commandes() {
       {"solde", 0, 0, "solde", Solde},
       {"document", 1, 1,
        "document TITRE (--mois M | --du jj/mm/aaaa --au jj/mm/aaaa | --annee-scolaire) "
-       "(--tous | --eleves ID,ID | --classes NOM,NOM) [--date-paiement jj/mm/aaaa] [--json FICHIER]",
+       "(--tous | --eleves ID,ID | --classes NOM,NOM) [--date-paiement jj/mm/aaaa] "
+       "[--pdf FICHIER] [--json FICHIER]",
        CommandeDocument},
   };
   return commandes;

@@ -3,8 +3,14 @@
 #include <QDir>
 #include <QFile>
 
+#include "core/reglages_poste.h"
+
 // The linker drops the resources of a static library that nothing names.
 static void AttacherModeles() { Q_INIT_RESOURCE(modeles); }
+
+QString DossierModeles(const TReglagesPoste& reglages) {
+  return QDir(DossierPresences(reglages)).filePath(QStringLiteral("modeles"));
+}
 
 std::shared_ptr<const TModele> ModeleDocument(const QString& nom, const QString& dossier) {
   AttacherModeles();
