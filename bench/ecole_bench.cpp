@@ -98,13 +98,76 @@ void RemplirPresences(TDataModule1& base, int eleves, int presences) {
   }
 }
 
-}  // namespace
+void RemplirParametres(TDataModule1& base) {
+  static constexpr std::pair<int, const char*> parametres[] = {
+      {1, "École fondamentale de Brumeval"},
+      {2, "rue du Vieux Moulin 27"},
+      {3, "5537"},
+      {4, "Brumeval"},
+      {5, "082 61 00 00"},
+      {10, "Communication à recopier : [ComStructParFacture]"},
+      {11, "BE68 5390 0754 7034"},
+      {102, "3,50"}};
+  for (const auto& [id, valeur] : parametres)
+    Executer(base, QStringLiteral("UPDATE OR INSERT INTO PARAMETRE (PARAMETRE_ID, VALEUR) VALUES (%1, '%2')")
+                       .arg(id)
+                       .arg(QString::fromUtf8(valeur)));
+}
 
-void RemplirEcole(TDataModule1& base, int eleves, int presences) {
+/// Fees of October, and who owes them: every second pupil those of the second kind.
+void RemplirFrais(TDataModule1& base) {
+  struct {
+    const char* libelle;
+    double cout;
+    int nonObligatoire, pas;
+  } const frais[] = {{"Piscine", 12.5, 0, 1},
+                     {"Photocopies", 4.0, 0, 1},
+                     {"Excursion à la ferme", 8.0, 0, 1},
+                     {"Photo de classe", 6.5, 1, 2}};
+  int cle = 0;
+  for (const auto& f : frais) {
+    Executer(base, QStringLiteral("INSERT INTO LISTE_FRAIS (LISTEFRAIS_ID, LIBELLE, COUT, TYPE_FRAIS, MOIS, "
+                                  "ANNEE_SCOLAIRE, FLG_PREVISIONNEL, FLG_NON_OBLIGATOIRE, FLG_SERVICE) "
+                                  "VALUES (%1, '%2', %3, 2, 10, 2016, 0, %4, 0)")
+                       .arg(++cle)
+                       .arg(QString::fromUtf8(f.libelle))
+                       .arg(f.cout)
+                       .arg(f.nonObligatoire));
+    Executer(base, QStringLiteral("INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ANNEE_SCOLAIRE, ELEVE_ID, "
+                                  "LISTEFRAIS_ID, REMARQUE, MONTANT_VERSE) "
+                                  "SELECT ELEVE_ID * 10 + %1, 2016, ELEVE_ID, %1, '', 0 FROM ELEVES "
+                                  "WHERE MOD(ELEVE_ID, %2) = 0")
+                       .arg(cle)
+                       .arg(f.pas));
+  }
+}
+
+void Remplir(TDataModule1& base, int eleves, int presences) {
   QSqlDatabase connexion = base.UniConnection1();
   connexion.transaction();
+  RemplirParametres(base);
   RemplirTarifs(base);
   RemplirEleves(base, eleves);
+  RemplirFrais(base);
   RemplirPresences(base, eleves, presences);
   if (!connexion.commit()) throw Exception(connexion.lastError().text());
+}
+
+}  // namespace
+
+void TSilence::Message(const QString& texte) { throw Exception(texte); }
+
+TEcole::TEcole(const QTemporaryDir& dossier, int eleves, int presences) : base_(dialogues_, reglages_) {
+  base_.ServerName = dossier.filePath(QStringLiteral("bench%1.fdb").arg(eleves));
+  base_.Connecter();
+  base_.Deconnecter();
+  base_.EcrituresForcees(false);
+  base_.Connecter();
+  Remplir(base_, eleves, presences);
+  parametres_ = std::make_unique<TParametres>(base_);
+  tarifs_ = std::make_unique<TTarifsGarderies>(base_);
+}
+
+std::unique_ptr<TDonneesAnnee> TEcole::Charger() {
+  return ChargerDonneesAnnee(base_, kAnnee, *parametres_, *tarifs_);
 }

@@ -1,0 +1,112 @@
+// A month's invoices, from the open year to the finished PDF, beside a script that only draws their pages.
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <cmath>
+#include <cstdio>
+
+#include "bench/barre.h"
+#include "bench/chronometre.h"
+#include "bench/sujets.h"
+#include "bench/vidage.h"
+#include "core/calendrier_scolaire.h"
+#include "core/exceptions.h"
+#include "documents/catalogue.h"
+#include "documents/modeles.h"
+#include "report/layout/mise_en_page.h"
+#include "report/output/pdf.h"
+
+namespace {
+
+constexpr int kTours = 7;
+constexpr int kPatience = 120'000;  // ms
+
+TDocumentPrepare Facturer(TEcole& ecole, const TDonneesAnnee& annee, const QString& chemin) {
+  const TPeriode octobre = BornesMois(10, TEcole::kAnnee);
+  TChoixDocument choix;
+  choix.Indice = IndiceTitre(u"Facture");
+  choix.DateDebut = octobre.Premier;
+  choix.DateFin = octobre.Dernier;
+  for (TEleve& eleve : *annee.Eleves) choix.Eleves.push_back(&eleve);
+  const TResultat resultat =
+      FaireDocument({*annee.Eleves, ecole.Parametres(), QStringLiteral("Garderies du soir")}, choix);
+  const TRapport& rapport = resultat.Rapports.at(0);
+  const auto modele = ModeleDocument(rapport.Modele());
+  TDocumentPrepare document = MettreEnPage(rapport, *modele, {octobre.Dernier, false});
+  EcrirePdf({&document}, rapport.Titre(), ecole.Parametres().GetParametre(1), chemin);
+  return document;
+}
+
+/// The drawing script, which waits for its turns.
+class TReportLab {
+ public:
+  TReportLab(const QString& vidage, const QString& pdf) {
+    processus_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    processus_.start(QStringLiteral("/usr/bin/python3"),
+                     {QStringLiteral(BENCH "/reportlab_factures.py"), vidage, pdf});
+    pret_ = Ligne() == "pret";
+  }
+  ~TReportLab() {
+    processus_.closeWriteChannel();
+    processus_.waitForFinished(kPatience);
+  }
+
+  /// False when ReportLab is not installed.
+  bool Pret() const { return pret_; }
+  /// Seconds of one more turn.
+  double Dessiner() {
+    processus_.write("\n");
+    return Ligne().split(' ').first().toDouble();
+  }
+
+ private:
+  QByteArray Ligne() {
+    while (!processus_.canReadLine() && processus_.waitForReadyRead(kPatience)) {
+    }
+    return processus_.readLine().trimmed();
+  }
+
+  QProcess processus_;
+  bool pret_ = false;
+};
+
+void Ecrire(const QString& chemin, const QByteArray& octets) {
+  QFile fichier(chemin);
+  if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size())
+    throw Exception(fichier.errorString());
+}
+
+}  // namespace
+
+void MesurerFactures(TEcole& ecole, const QTemporaryDir& dossier) {
+  const QString notre = dossier.filePath(QStringLiteral("factures.pdf"));
+  const QString leur = dossier.filePath(QStringLiteral("reportlab.pdf"));
+  const QString vidage = dossier.filePath(QStringLiteral("factures.json"));
+
+  auto annee = ecole.Charger();
+  const TDocumentPrepare document = Facturer(ecole, *annee, notre);
+  const double memoire = MemoireMaximale();
+  if (document.Pages.size() < 500) throw Exception(QStringLiteral("Il manque des factures."));
+  Ecrire(vidage, Vider(document));
+
+  TReportLab reportlab(vidage, leur);
+  if (!reportlab.Pret())
+    std::fprintf(stderr,
+                 "ReportLab manque (paquet python3-reportlab) : rien à quoi comparer les factures.\n");
+  std::vector<double> nous, eux;
+  for (int i = 0; i < kTours; ++i) {  // in turns, so that a busy machine slows both
+    annee.reset();
+    annee = ecole.Charger();  // what a first look at the pupils reads is part of the work
+    nous.push_back(Duree([&] { Facturer(ecole, *annee, notre); }));
+    if (reportlab.Pret()) eux.push_back(reportlab.Dessiner());
+  }
+  const double secondes = reportlab.Pret() ? Mediane(eux) : NAN;
+  const auto octets = static_cast<double>(QFileInfo(notre).size());
+  const double leurs = reportlab.Pret() ? static_cast<double>(QFileInfo(leur).size()) : NAN;
+  Barre("month's invoices, open year to finished PDF / ReportLab drawing the same pages",
+        secondes / Mediane(nous), 2.0, false);
+  Barre("octets of that PDF / those of ReportLab's", octets / leurs, 1.0, true);
+  Barre("peak memory of those invoices, MB", memoire, 300.0, true);
+  std::fprintf(stderr, "# %zu pages: %.3f s and %.0f octets, ReportLab %.3f s and %.0f octets\n",
+               document.Pages.size(), Mediane(nous), octets, secondes, leurs);
+}
