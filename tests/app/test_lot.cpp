@@ -1,32 +1,15 @@
 // What the batch program promises to a script that calls it: output, messages and exit code.
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 
-#include "support/ecole_essai.h"
+#include "lot_essai.h"
 
 namespace {
 
-constexpr int kLimiteMs = 60'000;
-
-/// A command line, what it prints, a piece of what it says, and its exit code.
-struct TAppel {
-  QStringList Arguments;
-  int Code;
-  QString Sortie, Message;
-};
-
-QStringList Mots(const QString& texte) { return texte.split(u' ', Qt::SkipEmptyParts); }
-
 /// A small school in a file that nobody holds open between two calls.
-class TLotEssai : public testing::Test {
+class TLotEssai : public TProgrammeEssai {
  protected:
-  TLotEssai() : ecole_(base_) {
+  TLotEssai() {
     using namespace Essai;
     ecole_.tarif(Matin, TousLesJours, QStringLiteral("07:00"), QStringLiteral("08:30"), Forfait,
                  QStringLiteral("1.25"), ScanPresence);
@@ -36,53 +19,6 @@ class TLotEssai : public testing::Test {
     ecole_.unEleve().enClasse(p1, a);
     base_->Deconnecter();
   }
-
-  QString Chemin(const char* nom) const { return base_.Chemin(QString::fromLatin1(nom)); }
-  QString Fichier(const char* nom, const QByteArray& contenu) const {
-    return base_.Fichier(QString::fromLatin1(nom), contenu);
-  }
-
-  static void Lancer(QProcess& programme, const QStringList& arguments) {
-    QProcessEnvironment milieu = QProcessEnvironment::systemEnvironment();
-    milieu.insert(QStringLiteral("XDG_CONFIG_DIRS"), milieu.value(QStringLiteral("XDG_CONFIG_HOME")));
-    programme.setProcessEnvironment(milieu);
-    programme.start(QStringLiteral(CALPENNE_LOT), arguments);
-    ASSERT_TRUE(programme.waitForFinished(kLimiteMs)) << programme.errorString().toStdString();
-    ASSERT_EQ(programme.exitStatus(), QProcess::NormalExit);
-  }
-
-  /// The calls one after the other, each as it is written.
-  static void VerifierTels(const std::vector<TAppel>& appels) {
-    for (const TAppel& appel : appels) {
-      SCOPED_TRACE(appel.Arguments.join(u' ').toStdString());
-      QProcess programme;
-      Lancer(programme, appel.Arguments);
-      const QString erreurs = QString::fromUtf8(programme.readAllStandardError());
-      EXPECT_EQ(programme.exitCode(), appel.Code) << erreurs.toStdString();
-      EXPECT_EQ(QString::fromUtf8(programme.readAllStandardOutput()), appel.Sortie);
-      EXPECT_TRUE(appel.Message.isEmpty() ? erreurs.isEmpty() : erreurs.contains(appel.Message))
-          << erreurs.toStdString();
-    }
-  }
-
-  QStringList Serveur() const { return {QStringLiteral("--serveur"), base_.FichierDeDonnees()}; }
-  /// The calls on the school's file.
-  void Verifier(std::vector<TAppel> appels) const {
-    for (TAppel& appel : appels) appel.Arguments = Serveur() + appel.Arguments;
-    VerifierTels(appels);
-  }
-
-  QJsonObject Json() const {
-    QFile fichier(Chemin("document.json"));
-    EXPECT_TRUE(fichier.open(QIODevice::ReadOnly));
-    QJsonParseError faute;
-    const QJsonDocument json = QJsonDocument::fromJson(fichier.readAll(), &faute);
-    EXPECT_EQ(faute.error, QJsonParseError::NoError) << faute.errorString().toStdString();
-    return json.object();
-  }
-
-  TBaseEssai base_;
-  TEcoleEssai ecole_;
 };
 
 /// A register in the first layout, of which the pupils entered on that day.
@@ -235,8 +171,7 @@ TEST_F(TLotEssai, Documents) {
   ASSERT_EQ(Json()[u"rapports"].toArray().size(), 1);
   EXPECT_TRUE(QJsonDocument(Json()).toJson().contains("lundi 14 novembre 2016"));
 
-  Verifier({{{QStringLiteral("document"), QStringLiteral("Badge individuel Xerox DocuCard (1 carte)"),
-              QStringLiteral("--tous")},
+  Verifier({{{QStringLiteral("document"), QStringLiteral("Attestation fiscale"), QStringLiteral("--tous")},
              1,
              {},
              QStringLiteral("n'est pas encore disponible.")}});

@@ -1,0 +1,70 @@
+// What runs the batch program as a script would: arguments in, output, messages and exit code out.
+#pragma once
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include "support/ecole_essai.h"
+
+/// A command line, what it prints, a piece of what it says, and its exit code.
+struct TAppel {
+  QStringList Arguments;
+  int Code;
+  QString Sortie, Message;
+};
+
+inline QStringList Mots(const QString& texte) { return texte.split(u' ', Qt::SkipEmptyParts); }
+
+/// A school in a file that nobody may hold open while the program runs.
+class TProgrammeEssai : public testing::Test {
+ protected:
+  QString Chemin(const char* nom) const { return base_.Chemin(QString::fromLatin1(nom)); }
+  QString Fichier(const char* nom, const QByteArray& contenu) const {
+    return base_.Fichier(QString::fromLatin1(nom), contenu);
+  }
+
+  static void Lancer(QProcess& programme, const QStringList& arguments) {
+    QProcessEnvironment milieu = QProcessEnvironment::systemEnvironment();
+    milieu.insert(QStringLiteral("XDG_CONFIG_DIRS"), milieu.value(QStringLiteral("XDG_CONFIG_HOME")));
+    programme.setProcessEnvironment(milieu);
+    programme.start(QStringLiteral(CALPENNE_LOT), arguments);
+    ASSERT_TRUE(programme.waitForFinished(60'000)) << programme.errorString().toStdString();
+    ASSERT_EQ(programme.exitStatus(), QProcess::NormalExit);
+  }
+
+  /// The calls one after the other, each as it is written.
+  static void VerifierTels(const std::vector<TAppel>& appels) {
+    for (const TAppel& appel : appels) {
+      SCOPED_TRACE(appel.Arguments.join(u' ').toStdString());
+      QProcess programme;
+      Lancer(programme, appel.Arguments);
+      const QString erreurs = QString::fromUtf8(programme.readAllStandardError());
+      EXPECT_EQ(programme.exitCode(), appel.Code) << erreurs.toStdString();
+      EXPECT_EQ(QString::fromUtf8(programme.readAllStandardOutput()), appel.Sortie);
+      EXPECT_TRUE(appel.Message.isEmpty() ? erreurs.isEmpty() : erreurs.contains(appel.Message))
+          << erreurs.toStdString();
+    }
+  }
+
+  QStringList Serveur() const { return {QStringLiteral("--serveur"), base_.FichierDeDonnees()}; }
+  /// The calls on the school's file.
+  void Verifier(std::vector<TAppel> appels) const {
+    for (TAppel& appel : appels) appel.Arguments = Serveur() + appel.Arguments;
+    VerifierTels(appels);
+  }
+
+  QJsonObject Json() const {
+    QFile fichier(Chemin("document.json"));
+    EXPECT_TRUE(fichier.open(QIODevice::ReadOnly));
+    QJsonParseError faute;
+    const QJsonDocument json = QJsonDocument::fromJson(fichier.readAll(), &faute);
+    EXPECT_EQ(faute.error, QJsonParseError::NoError) << faute.errorString().toStdString();
+    return json.object();
+  }
+
+  TBaseEssai base_;
+  TEcoleEssai ecole_{base_};
+};

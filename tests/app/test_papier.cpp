@@ -1,0 +1,243 @@
+// The papers of the batch program, read back from the PDF by programs that know nothing of it.
+#include <QDir>
+#include <QJsonArray>
+#include <QRegularExpression>
+
+#include "lot_essai.h"
+#include "support/affichage.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A pupil's entry in the table of contents: the class above it, or "", and the page, from 1.
+struct TEntree {
+  QString Classe, Nom;
+  int Page;
+};
+
+class TPapierEssai : public TProgrammeEssai {
+ protected:
+  static QString Outil(const QString& programme, const QStringList& arguments) {
+    QProcess outil;
+    outil.start(programme, arguments);
+    EXPECT_TRUE(outil.waitForFinished(60'000)) << programme.toStdString();
+    EXPECT_EQ(outil.exitCode(), 0) << programme.toStdString() << ": "
+                                   << outil.readAllStandardError().toStdString();
+    return QString::fromUtf8(outil.readAllStandardOutput());
+  }
+  /// The command line of a document that becomes a PDF.
+  QStringList EnPdf(const QStringList& document) const {
+    return QStringList{u"document"_s} + document + QStringList{u"--pdf"_s, Pdf()};
+  }
+  QString Pdf() const { return Chemin("document.pdf"); }
+
+  /// Makes the document, which must have nothing to say, and its PDF, which must be sound: every font is
+  /// in it, cut down to the letters in use.
+  void Imprimer(const QStringList& document) const {
+    QFile::remove(Pdf());
+    Verifier({{EnPdf(document) + QStringList{u"--json"_s, Chemin("document.json")}, 0, {}, {}}});
+    Outil(u"qpdf"_s, {u"--check"_s, Pdf()});
+    const QStringList polices = Outil(u"pdffonts"_s, {Pdf()}).split(u'\n', Qt::SkipEmptyParts).mid(2);
+    EXPECT_FALSE(polices.isEmpty());
+    for (const QString& police : polices)
+      EXPECT_TRUE(police.contains(QRegularExpression(u"^[A-Z]{6}\\+.* yes yes yes +\\d+ +\\d+$"_s)))
+          << police.toStdString();
+  }
+
+  QStringList Pages(const QStringList& options = {u"-layout"_s}) const {
+    QStringList pages = Outil(u"pdftotext"_s, options + QStringList{Pdf(), u"-"_s}).split(u'\f');
+    pages.removeLast();
+    return pages;
+  }
+
+  std::vector<TEntree> Signets() const {
+    const QString json = Outil(u"qpdf"_s, {u"--json=2"_s, u"--json-key=outlines"_s, Pdf()});
+    std::vector<TEntree> entrees;
+    for (const QJsonValue& racine : QJsonDocument::fromJson(json.toUtf8())[u"outlines"_s].toArray()) {
+      const auto ajouter = [&](const QString& classe, const QJsonValue& signet) {
+        entrees.push_back({classe, signet[u"title"_s].toString(), signet[u"destpageposfrom1"_s].toInt()});
+      };
+      const QJsonArray enfants = racine[u"kids"_s].toArray();
+      if (enfants.isEmpty()) ajouter({}, racine);
+      for (const QJsonValue& enfant : enfants) ajouter(racine[u"title"_s].toString(), enfant);
+    }
+    return entrees;
+  }
+
+  /// What a scanner reads on the pages at 300 dots an inch, sorted.
+  QStringList Codes() const {
+    const QDir dossier(Chemin("points"));
+    EXPECT_TRUE(QDir(dossier).removeRecursively() && QDir().mkpath(dossier.path()));
+    Outil(u"pdftoppm"_s, {u"-r"_s, u"300"_s, u"-gray"_s, Pdf(), dossier.filePath(u"p"_s)});
+    QStringList pages{u"-q"_s, u"--nodbus"_s};
+    for (const QFileInfo& page : dossier.entryInfoList(QDir::Files)) pages += page.filePath();
+    QStringList codes = Outil(u"zbarimg"_s, pages).split(u'\n', Qt::SkipEmptyParts);
+    codes.sort();
+    return codes;
+  }
+};
+
+/// What stands on a pupil's lines: "Piscine    12,50 €".
+void VerifierLigne(const QString& texte, const QString& libelle, const QString& montant) {
+  const QRegularExpression motif(
+      u"^ *%1 +%2 €$"_s.arg(QRegularExpression::escape(libelle), QRegularExpression::escape(montant)),
+      QRegularExpression::MultilineOption);
+  EXPECT_EQ(texte.count(motif), 1) << libelle.toStdString() << ' ' << montant.toStdString();
+}
+
+}  // namespace
+
+/// Two pupils of one class and one of another; the second one has two pages, and the odd names.
+class TFacturesEssai : public TPapierEssai {
+ protected:
+  TFacturesEssai() {
+    for (const auto& [id, valeur] : {std::pair(1, u"École de Brumeval"_s),
+                                     {11, u"BE68 5390 0754 7034"_s},
+                                     {10, u"Communication : [ComStructParFacture]"_s}})
+      ecole_.parametre(id, valeur);
+    TEleveEssai anne = ecole_.unEleve().nomme(u"ADAM"_s, u"Anne"_s).enClasse(u"P1"_s, u"A"_s);
+    TEleveEssai longue = ecole_.unEleve().nomme(Nom, u"[Total]"_s).enClasse(u"P1"_s, u"A"_s);
+    TEleveEssai noe = ecole_.unEleve().nomme(u"ZOLA"_s, u"Noé <b>"_s).enClasse(u"P2"_s, u"A"_s);
+    for (int i = 1; i <= 25; ++i) {
+      const int cahier = ecole_.frais(u"Cahier %1"_s.arg(i), u"%1.25"_s.arg(i), 10);
+      const int sortie =
+          ecole_.frais(u"Sortie %1"_s.arg(i), u"%1.10"_s.arg(100 + i), 10, u"non_obligatoire"_s);
+      anne.doit(cahier);
+      longue.doit(cahier).doit(sortie);
+    }
+    noe.doit(ecole_.frais(u"Dû : [Total] de <b>tous</b> (50 %) & \"Cie\" \\"_s, u"7"_s, 10));
+    base_->Deconnecter();
+  }
+
+  const QString Nom = u"VANDENBOSSCHE-DE LA CROIX DE MEULENAERE-VAN CAUWENBERGHE TER"_s;
+};
+
+TEST_F(TFacturesEssai, ChaqueEleveATousSesMontants) {
+  Imprimer(Mots(u"Facture --mois 10 --classes"_s) + QStringList{u"P1 A,P2 A"_s});
+  const QStringList pages = Pages();
+  const QStringList suites = Pages({});
+  const std::vector<TEntree> signets = Signets();
+  const QJsonArray eleves = Json()[u"rapports"_s][0][u"arbre"_s].toArray();
+  ASSERT_EQ(signets.size(), 3U);
+  ASSERT_EQ(pages.size(), 4);
+  ASSERT_EQ(eleves.size(), 3);
+  const QStringList totaux{u"331,25"_s, u"3158,75"_s, u"7,00"_s};
+  for (int i = 0; i < 3; ++i) {
+    const TEntree& signet = signets[static_cast<size_t>(i)];
+    EXPECT_EQ(signet.Classe, i < 2 ? u"P1 A"_s : u"P2 A"_s);
+    const QJsonValue eleve = eleves[i];
+    EXPECT_EQ(signet.Nom, eleve[u"texte"_s].toString());
+    const int fin = i < 2 ? signets[static_cast<size_t>(i) + 1].Page : 5;
+    EXPECT_EQ(fin - signet.Page, i == 1 ? 2 : 1) << "pages of pupil " << i;
+    const QString texte = pages.mid(signet.Page - 1, fin - signet.Page).join(u'\n');
+    for (int page = signet.Page; page < fin; ++page)
+      EXPECT_TRUE(suites[page - 1].simplified().contains(signet.Nom)) << suites[page - 1].toStdString();
+
+    const QJsonValue valeurs = eleve[u"valeurs"_s];
+    EXPECT_EQ(valeurs[u"TotalGeneral"_s].toString(), totaux[i]);
+    VerifierLigne(texte, u"Total général :"_s, totaux[i]);
+    const QString communication = valeurs[u"Communication"_s].toString();
+    EXPECT_TRUE(communication.contains(QRegularExpression(u"^Communication : \\+{3}[\\d/]+\\+{3}$"_s)));
+    EXPECT_EQ(texte.count(communication), 1) << communication.toStdString();
+    EXPECT_TRUE(texte.contains(u"somme de " % totaux[i] %
+                               u" € sur le numéro de compte suivant : BE68 5390 0754 7034"));
+    int lignes = 0;
+    for (const QJsonValue& section : eleve[u"enfants"_s].toArray()) {
+      VerifierLigne(texte, u"Sous-total"_s, section[u"valeurs"_s][u"TotalFrais"_s].toString());
+      for (const QJsonValue& ligne : section[u"enfants"_s].toArray()) {
+        VerifierLigne(texte, ligne[u"valeurs"_s][u"NomService"_s].toString(),
+                      ligne[u"valeurs"_s][u"Total"_s].toString());
+        ++lignes;
+      }
+    }
+    EXPECT_EQ(lignes, i == 0 ? 25 : i == 1 ? 50 : 1);
+  }
+  EXPECT_TRUE(pages[3].contains(u"Dû : [Total] de <b>tous</b> (50 %) & \"Cie\" \\ "_s))
+      << pages[3].toStdString();
+
+  Imprimer(Mots(u"Facture --mois 10 --eleves 3,1"_s));
+  const std::vector<TEntree> choisis = Signets();
+  ASSERT_EQ(choisis.size(), 2U);
+  EXPECT_EQ(choisis[0].Classe + choisis[0].Nom, u"ZOLA Noé <b>"_s);
+  EXPECT_EQ(choisis[1].Classe + choisis[1].Nom, u"ADAM Anne"_s);
+}
+
+/// A class that fills a page of each list, and one pupil more.
+class TCodesEssai : public TPapierEssai {
+ protected:
+  TCodesEssai() {
+    for (int i = 1; i <= 25; ++i)
+      ecole_.unEleve()
+          .nomme(u"NOM"_s, u"Zoé"_s)
+          .enClasse(u"P1"_s, u"A"_s)
+          .matricule(u"5537-%1"_s.arg(1200 + 7 * i, 5, 10, '0'_L1));
+    ecole_.unEleve().enClasse(u"P2"_s, u"A"_s).matricule(u"12-34-56"_s);
+    base_->Deconnecter();
+  }
+
+  static QStringList Attendus(const QString& debut, const QString& fin, int combien) {
+    QStringList codes;
+    for (int i = 1; i <= combien; ++i) codes += debut % u"5537%1"_s.arg(1200 + 7 * i, 5, 10, '0'_L1) % fin;
+    if (combien == 25) codes += debut % u"123456" % fin;
+    codes.sort();
+    return codes;
+  }
+};
+
+TEST_F(TCodesEssai, UnScannerLesRelitSansTirets) {
+  const QString liste = u"Liste d'identification par classe"_s;
+  const std::pair<QStringList, int> documents[] = {
+      {{u"Badge individuel d'identification (85mm x 54mm)"_s, u"--eleves"_s, u"1,2,3"_s}, 3},
+      {{u"Badge individuel Xerox DocuCard (1 carte)"_s, u"--eleves"_s, u"1"_s}, 1},
+      {{liste, u"--classes"_s, u"P1 A,P2 A"_s}, 25},
+      {{liste + u" - grand format"_s, u"--tous"_s}, 25}};
+  for (const auto& [type, debut, fin] : {std::tuple(u"1"_s, u"Codabar:A"_s, u"A"_s),
+                                         {u"2"_s, u"CODE-39:"_s, u""_s},
+                                         {u""_s, u"Codabar:A"_s, u"A"_s}}) {
+    base_->Connecter();
+    ecole_.parametre(28, type);
+    base_->Deconnecter();
+    for (const auto& [document, codes] : documents) {
+      SCOPED_TRACE(qPrintable(QString(document[0] % u", type " % type)));
+      Imprimer(document);
+      EXPECT_EQ(Codes(), Attendus(debut, fin, codes));
+      EXPECT_TRUE(Pages().join(QString()).contains(u"5537-01207"_s)) << "in clear with its dash";
+      const std::vector<TEntree> signets = Signets();
+      EXPECT_EQ(signets.size(), codes == 25 ? 26U : static_cast<size_t>(codes));
+      for (const TEntree& signet : signets) EXPECT_EQ(signet.Classe.isEmpty(), document[1] != u"--classes"_s);
+      if (type.isEmpty()) break;  // one paper says it
+    }
+  }
+}
+
+TEST_F(TCodesEssai, LesModelesDuPoste) {
+  const QDir dossier(qEnvironmentVariable("XDG_DATA_HOME") + u"/Calpenne/Presences/modeles"_s);
+  ASSERT_TRUE(QDir().mkpath(dossier.path()));
+  const auto ecrire = [&](const QString& nom, const QString& texte) {
+    QFile fichier(dossier.filePath(nom));
+    EXPECT_TRUE(fichier.open(QIODevice::WriteOnly) && fichier.write(texte.toUtf8()) > 0);
+  };
+  ecrire(
+      u"carte_eleve.xml"_s,
+      u"<partie><bande sorte='maitre' nom='MasterData1' hauteur='99' nouvellePage='oui'>"
+      "<texte x='9' y='9' largeur='300' hauteur='18'>De notre école : [PrenomEleve]</texte></bande></partie>"_s);
+  const QStringList badge{u"Badge individuel d'identification (85mm x 54mm)"_s, u"--eleves"_s, u"1"_s};
+  Imprimer(badge);
+  EXPECT_EQ(Pages().join(u'|').simplified(), u"De notre école : Zoé"_s);
+  ecrire(u"Badge.xml"_s, u"<modele>\n<bande/></modele>"_s);
+  Verifier({{EnPdf(badge), 1, {}, dossier.filePath(u"Badge.xml"_s) + u", ligne 2 : "}});
+  EXPECT_TRUE(QDir(dossier).removeRecursively());
+  // Nobody left to print.
+  base_->Connecter();
+  base_.Sql(u"UPDATE ELEVES SET FLG_RADIE = 1"_s);
+  base_->Deconnecter();
+  QFile::remove(Pdf());
+  Verifier(
+      {{EnPdf({badge[0], u"--tous"_s}), 1, {}, u"Il n'y a rien à imprimer"_s},
+       {{u"document"_s, u"Etiquettes d'identification 54mm x 25mm (Etiquette Dymo 11352)"_s, u"--tous"_s},
+        1,
+        {},
+        u"Impossible d'initialiser les pilotes d'impression."_s}});
+  EXPECT_FALSE(QFile::exists(Pdf()));
+}
