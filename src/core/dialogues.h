@@ -25,6 +25,8 @@ class IDialogues {
   virtual void Information(const QString& texte) = 0;
   /// A question answered by yes (true) or no.
   virtual bool Confirmer(const QString& question) = 0;
+  /// The same for what cannot be taken back: "Non" is the answer at hand.
+  virtual bool ConfirmerGrave(const QString& question) { return Confirmer(question); }
   /// A line of text; none when the user gives up.
   virtual std::optional<QString> Saisir(const QString& titre, const QString& invite,
                                         const QString& valeur) = 0;

@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "core/comparaisons.h"
+#include "core/formats.h"
 #include "core/lecture_dates.h"
 
 namespace {
@@ -24,12 +25,25 @@ double Nombre(const QString& texte) {
 
 int ComparerNombres(double a, double b) { return a < b ? -1 : a > b ? 1 : 0; }
 
+/// The place of "jeudi 22 novembre" in a school year; -1 when it is no day.
+int RangJour(const QString& texte) {
+  static const QStringList kMois = [] {
+    QStringList noms;
+    for (int rang = 0; rang < 12; ++rang) noms += LocaleEcole().monthName((rang + 8) % 12 + 1);
+    return noms;
+  }();
+  const auto mois = kMois.indexOf(texte.section(u' ', -1));
+  return mois < 0 ? -1 : static_cast<int>(mois) * 31 + texte.section(u' ', -2, -2).toInt();
+}
+
 int ComparerCellules(TOrdre ordre, const QString& a, const QString& b) {
   switch (ordre) {
     case TOrdre::Nombre:
       return ComparerNombres(Nombre(a), Nombre(b));
     case TOrdre::Date:
       return ComparerNombres(LireDateBarre(a), LireDateBarre(b));
+    case TOrdre::Jour:
+      return RangJour(a) - RangJour(b);
     case TOrdre::Texte:
       break;
   }

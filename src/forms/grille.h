@@ -14,6 +14,7 @@ enum class TOrdre {
   Texte,   ///< in the language of the school
   Nombre,  ///< "-1.234,50 €"; a text without digits comes first
   Date,    ///< "dd/mm/yyyy"; what cannot be read comes first
+  Jour,    ///< "jeudi 22 novembre", September first; what cannot be read comes first
 };
 
 struct TColonneGrille {

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 
 #include "core/conversions.h"
 #include "core/exceptions.h"
@@ -72,6 +73,10 @@ QString TImportPresences::SiteDuChemin(const QString& chemin) {
 void TImportPresences::ImporterFichier(const QString& chemin) {
   const TAttente attente(controleur_.Dialogues());
   ImporterTablette(chemin);
+  AnnoncerAnomalies();
+}
+
+void TImportPresences::AnnoncerAnomalies() const {
   if (!anomalies_.empty())
     controleur_.Dialogues().Message(QStringLiteral("Des anomalies ont été détectées !"));
 }
@@ -82,12 +87,23 @@ void TImportPresences::ImporterTablette(const QString& chemin) {
   pret_ = true;
 }
 
-void TImportPresences::Lire(const QString& chemin) {
+void TImportPresences::ImporterScanner(const QString& copie) {
+  Lire(copie);
+  Analyser({});
+  pret_ = true;
+}
+
+void TImportPresences::Vider() {
   pret_ = false;
   bons_.clear();
+  origines_.clear();
   ajoutees_.clear();
   anomalies_.clear();
   grille_ = {};
+}
+
+void TImportPresences::Lire(const QString& chemin) {
+  Vider();
   grille_ = TTexteSepare::Lire(chemin);
   if (grille_.NombreLignes() == 0) throw Exception(QStringLiteral("Le fichier « %1 » est vide.").arg(chemin));
   // A study scan is always an exit, whatever the scanner recorded.
@@ -158,6 +174,7 @@ void TImportPresences::Deriver(const TScan& scan, int eleve) {
   const bool entree = scan.Sens == kEntree && scan.Heure > 0.0;
   derive->HeureEntree = entree ? HeureAuMilliseconde(scan.Heure + kDecalage) : scan.Heure;
   derive->HeureSortie = entree ? 0.0 : scan.Heure;
+  origines_[derive.get()] = TOrigine::Derive;
   bons_.push_back(std::move(derive));
 }
 
@@ -173,6 +190,7 @@ bool TImportPresences::Corriger(int anomalie, TTypePresence typePresence, TDateT
   ligne.Presence->DateReleve = date;
   ligne.Presence->HeureEntree = entree;
   ligne.Presence->HeureSortie = sortie;
+  origines_[ligne.Presence.get()] = TOrigine::Corrige;
   bons_.push_back(std::move(ligne.Presence));
   anomalies_.erase(anomalies_.begin() + anomalie);
   return true;
@@ -184,6 +202,7 @@ void TImportPresences::Enregistrer() {
     if (const TPresence* ajoutee = Globals.Presences->AjoutePresence(std::move(presence)))
       ajoutees_.push_back(ajoutee);
   bons_.clear();
+  origines_.clear();
   Globals.Presences->Save();
   for (const TPresence* presence : ajoutees_)
     if (presence->Status == TStatus::Nouveau)
@@ -211,6 +230,13 @@ void TImportPresences::Archiver(const QString& fichier) const {
   const QDir dossier(DossierPresences(controleur_.Reglages()));
   QFile::rename(fichier, dossier.filePath(NomArchive(controleur_.Horloge().Maintenant())));
 }
+
+TOrigine TImportPresences::Origine(const TPresence& bon) const {
+  const auto origine = origines_.find(&bon);
+  return origine == origines_.end() ? TOrigine::Fichier : origine->second;
+}
+
+int TImportPresences::NombreNonMemorises() const { return static_cast<int>(bons_.size() + ajoutees_.size()); }
 
 int TImportPresences::NombreBons() const {
   int nombre = 0;

@@ -1,4 +1,5 @@
 #pragma once
+#include <unordered_map>
 #include <vector>
 
 #include "application/controleur.h"
@@ -14,6 +15,9 @@ struct TAnomalie {
   TDateTime Sortie = 0.0;
 };
 
+/// Where a good record comes from, besides a line of the file.
+enum class TOrigine { Fichier, Corrige, Derive };
+
 /// Bringing a file of scans in: each line becomes a record, the good ones are stored, and what is
 /// wrong is shown and can be corrected. What the lists show is what is stored.
 class TImportPresences {
@@ -27,6 +31,12 @@ class TImportPresences {
   void ImporterFichier(const QString& chemin);
   /// The same for the tablet's file, without a word.
   void ImporterTablette(const QString& chemin);
+  /// The same for the copy of the scanner's file, which tells no site.
+  void ImporterScanner(const QString& copie);
+  /// Forgets the file and what was not stored of it.
+  void Vider();
+  /// Says that there are anomalies, if there are.
+  void AnnoncerAnomalies() const;
   /// A line of the anomalies becomes a good record with these values; it is not tested again against
   /// the tariff. False, after a message, when the line has no record.
   bool Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie, TDateTime entree);
@@ -37,6 +47,9 @@ class TImportPresences {
 
   const std::vector<std::unique_ptr<TPresence>>& Bons() const { return bons_; }
   const std::vector<TAnomalie>& Anomalies() const { return anomalies_; }
+  TOrigine Origine(const TPresence& bon) const;
+  /// Records that are ready and not stored.
+  int NombreNonMemorises() const;
   /// A file has been read and not yet stored.
   bool Pret() const { return pret_; }
   /// The site that a path stands for, "" unless parameter 113 says that there are several: the code
@@ -70,7 +83,8 @@ class TImportPresences {
   TTexteSepare grille_;
   std::vector<std::unique_ptr<TPresence>> bons_;
   std::vector<TAnomalie> anomalies_;
-  std::vector<const TPresence*> ajoutees_;  // by a step 2 that has not yet succeeded
+  std::unordered_map<const TPresence*, TOrigine> origines_;  // of the good records that are not Fichier
+  std::vector<const TPresence*> ajoutees_;                   // by a step 2 that has not yet succeeded
   bool pret_ = false;
 };
 

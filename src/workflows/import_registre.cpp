@@ -5,6 +5,7 @@
 
 #include "core/conversions.h"
 #include "core/exceptions.h"
+#include "core/formats.h"
 #include "core/lecture_dates.h"
 #include "core/query_internal.h"
 
@@ -80,10 +81,39 @@ QString TImportRegistre::Champ(int ligne, int colonne) const {
   return colonne < 0 ? QString() : grille_.Cellule(ligne, colonne);
 }
 
-bool TImportRegistre::Etape1(const QString& fichier) {
-  const TAttente attente(controleur_.Dialogues());
+QString TImportRegistre::Classe(int ligne) const {
+  const QString classe = Champ(ligne, disposition_.Classe);
+  return disposition_.NettoyerClasse ? Nettoyer(classe) : classe;
+}
+
+TImportRegistre::TFiche TImportRegistre::Fiche(int ligne) const {
+  const TDisposition& d = disposition_;
+  QString naissance = Champ(ligne, d.DateNaissance);
+  try {
+    naissance = FormatDate(LireDateCompacte(naissance));
+  } catch (const EConvertError&) {  // shown as it stands: the transfer will refuse it
+  }
+  return {Champ(ligne, d.Matricule),
+          Champ(ligne, d.Nom),
+          Champ(ligne, d.Prenom),
+          naissance,
+          QString(Classe(ligne) % u' ' % Champ(ligne, d.SousClasse)).trimmed(),
+          Champ(ligne, d.Site),
+          QString(Champ(ligne, d.NomResponsable) % u' ' % Champ(ligne, d.PrenomResponsable)).trimmed(),
+          Champ(ligne, d.Localite)};
+}
+
+void TImportRegistre::Vider() {
   pret_ = false;
   grille_ = {};
+  numeros_.clear();
+  fichier_.clear();
+  ligneRefusee_ = 0;
+}
+
+bool TImportRegistre::Etape1(const QString& fichier) {
+  const TAttente attente(controleur_.Dialogues());
+  Vider();
   fichier_ = fichier;
   grille_ = TTexteSepare::Lire(fichier);
   numeros_.resize(grille_.Lignes.size());
@@ -111,7 +141,7 @@ TDateTime TImportRegistre::DatePremierEleve() const {
     return DateDuFichier(Champ(1, disposition_.DateFichier));
   } catch (const EConvertError& e) {
     throw EConvertError(QStringLiteral("Date du fichier (ligne %1, colonne %2) : %3")
-                            .arg(numeros_[1])
+                            .arg(NumeroLigne(1))
                             .arg(disposition_.DateFichier + 1)
                             .arg(e.Message));
   }
@@ -121,7 +151,7 @@ bool TImportRegistre::VerifierAnnee() {
   if (NombreEleves() < kElevesMinimum) return false;
   const int annee = Globals.AnneeScolaire;
   if (DatePremierEleve() <= EncodeDate(annee + 1, 6, 30)) return true;
-  if (!controleur_.Dialogues().Confirmer(
+  if (!controleur_.Dialogues().ConfirmerGrave(
           QStringLiteral("Votre fichiel SIEL contient des élèves d'une nouvelle année scolaire.\r\n"
                          "Voulez-vous clôturer l'année scolaire %1-%2 ?")
               .arg(annee)
@@ -172,6 +202,7 @@ TBilanRegistre TImportRegistre::Etape2() {
   const TAttente attente(dialogues);
   TProgression progression(dialogues, grille_.NombreLignes() - 2);
   TBilanRegistre bilan;
+  ligneRefusee_ = 0;
   {
     TEleves tous(controleur_.Base(), 0);
     for (int ligne = 1; ligne < grille_.NombreLignes(); ++ligne) {
@@ -183,6 +214,7 @@ TBilanRegistre TImportRegistre::Etape2() {
         throw Exception(Situer(ligne, e));
       }
       progression.Avancer(ligne - 1, Champ(ligne, disposition_.Nom));
+      if (SurLigneTransferee) SurLigneTransferee(ligne);
       dialogues.TraiterEvenements();
     }
   }
@@ -192,10 +224,11 @@ TBilanRegistre TImportRegistre::Etape2() {
 }
 
 /// The failure of a row, with the line of the file and the pupil's name.
-QString TImportRegistre::Situer(int ligne, const Exception& e) const {
+QString TImportRegistre::Situer(int ligne, const Exception& e) {
+  ligneRefusee_ = ligne;
   return QStringLiteral(
              "Ligne %1 du fichier (%2 %3) : %4\nLes élèves des lignes qui précèdent sont enregistrés.")
-      .arg(numeros_[static_cast<std::size_t>(ligne)])
+      .arg(NumeroLigne(ligne))
       .arg(Champ(ligne, disposition_.Nom), Champ(ligne, disposition_.Prenom), e.Message);
 }
 
@@ -219,9 +252,7 @@ void TImportRegistre::TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre
   eleves.Save();
   if (eleve->Id == -1)
     throw Exception(QStringLiteral("Le transfert est arrêté : l'élève n'a pas reçu de numéro."));
-  QString classe = Champ(ligne, disposition_.Classe);
-  if (disposition_.NettoyerClasse) classe = Nettoyer(classe);
-  eleves.AddClasseEleve(eleve->Id, classe, Globals.AnneeScolaire, site,
+  eleves.AddClasseEleve(eleve->Id, Classe(ligne), Globals.AnneeScolaire, site,
                         Champ(ligne, disposition_.SousClasse));
   if (!eleves.ElevesClasses.EstInscrit(eleve->Id, Globals.AnneeScolaire))
     throw Exception(QStringLiteral("Le transfert est arrêté : l'élève n'a pas pu être inscrit."));

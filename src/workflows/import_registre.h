@@ -1,4 +1,6 @@
 #pragma once
+#include <functional>
+
 #include "application/controleur.h"
 #include "core/exceptions.h"
 #include "core/texte_separe.h"
@@ -24,6 +26,8 @@ class TImportRegistre {
   /// Step 2: writes each pupil and enrolment at once, then loads the working year. A malformed row
   /// raises EConvertError, which names it; the rows before it stay.
   TBilanRegistre Etape2();
+  /// Forgets the file.
+  void Vider();
 
   const TTexteSepare& Grille() const { return grille_; }
   const QString& Fichier() const { return fichier_; }
@@ -33,6 +37,21 @@ class TImportRegistre {
   int NombreEleves() const;
   /// Step 1 has accepted the file.
   bool Pret() const { return pret_; }
+  /// The line of the file, from 1, behind a row of the grid.
+  int NumeroLigne(int ligne) const { return numeros_[static_cast<std::size_t>(ligne)]; }
+  /// The row of the grid at which step 2 stopped; 0 when it did not.
+  int LigneRefusee() const { return ligneRefusee_; }
+  /// Step 2 has written that row of the grid, and is about to let pending events through.
+  std::function<void(int)> SurLigneTransferee;
+
+  /// What the file says of a pupil, for lists.
+  struct TFiche {
+    QString Matricule, Nom, Prenom;
+    QString Naissance;  ///< "02/06/2010"; as it stands when it is no date
+    QString Classe;     ///< with its sub-class: "P3 A"
+    QString Site, Responsable, Localite;
+  };
+  TFiche Fiche(int ligne) const;
 
   /// Columns of the file, from 0; -1 is not read.
   struct TDisposition {
@@ -47,11 +66,12 @@ class TImportRegistre {
   void Filtrer();
   bool VerifierAnnee();
   TDateTime DatePremierEleve() const;
-  QString Situer(int ligne, const Exception& e) const;
+  QString Situer(int ligne, const Exception& e);
   void Cloturer();
   void TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan);
   void RemplirEleve(TEleve& eleve, int ligne) const;
   QString Champ(int ligne, int colonne) const;
+  QString Classe(int ligne) const;
 
   TControleur& controleur_;
   const TDisposition& disposition_;
@@ -59,4 +79,5 @@ class TImportRegistre {
   std::vector<int> numeros_;  // of each row in the file
   QString fichier_;
   bool pret_ = false;
+  int ligneRefusee_ = 0;
 };

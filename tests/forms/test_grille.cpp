@@ -30,6 +30,8 @@ TEST(Grille, TrieSelonLaNatureDeLaColonne) {
   } cas[] = {
       {TOrdre::Texte, "Zoé|élan|Eric|abbé", "abbé|élan|Eric|Zoé"},
       {TOrdre::Nombre, "1.234,50 €|-3,00 €||20,00 €|3", "|-3,00 €|3|20,00 €|1.234,50 €"},
+      {TOrdre::Jour, "samedi 1 juin|jeudi 22 novembre||lundi 3 septembre|mercredi 7 novembre",
+       "|lundi 3 septembre|mercredi 7 novembre|jeudi 22 novembre|samedi 1 juin"},
       {TOrdre::Date, "02/10/2016|03/09/2016||01/01/2017", "|03/09/2016|02/10/2016|01/01/2017"},
   };
   for (const auto& [ordre, melange, trie] : cas) {

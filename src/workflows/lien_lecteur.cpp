@@ -1,0 +1,49 @@
+#include "workflows/lien_lecteur.h"
+
+#include <QSaveFile>
+
+#include "core/exceptions.h"
+
+namespace {
+
+constexpr qint64 kBloc = 4096;
+
+/// An open file of the device.
+class TFichierDistant {
+ public:
+  TFichierDistant(ILienLecteur& lien, const QString& chemin)
+      : lien_(lien), poignee_(lien.CeCreateFile(chemin)) {
+    if (poignee_ == 0) throw Exception(QStringLiteral("Unable to open the remote file"));
+  }
+  ~TFichierDistant() { lien_.CeCloseHandle(poignee_); }
+  TFichierDistant(const TFichierDistant&) = delete;
+  TFichierDistant& operator=(const TFichierDistant&) = delete;
+
+  /// Empty at the end.
+  QByteArray LireBloc() {
+    QByteArray bloc;
+    if (!lien_.CeReadFile(poignee_, kBloc, bloc)) throw Exception(QStringLiteral("Unable to read data"));
+    return bloc;
+  }
+
+ private:
+  ILienLecteur& lien_;
+  ILienLecteur::TPoignee poignee_;
+};
+
+}  // namespace
+
+void CopierDepuisLecteur(ILienLecteur& lien, const QString& distant, const QString& local) {
+  TFichierDistant source(lien, distant);
+  QSaveFile copie(local);
+  bool ecrit = copie.open(QIODevice::WriteOnly);
+  for (QByteArray bloc = source.LireBloc(); ecrit && !bloc.isEmpty(); bloc = source.LireBloc())
+    ecrit = copie.write(bloc) == bloc.size();
+  if (!ecrit || !copie.commit())
+    throw Exception(
+        QStringLiteral("Le fichier « %1 » ne peut pas être écrit : %2").arg(local, copie.errorString()));
+}
+
+void EffacerDuLecteur(ILienLecteur& lien, const QString& distant) {
+  if (!lien.CeDeleteFile(distant)) throw Exception(QStringLiteral("Unable to delete the remote file"));
+}
