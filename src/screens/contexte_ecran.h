@@ -3,6 +3,8 @@
 #include "forms/form.h"
 #include "report/apercu.h"
 
+class ILienLecteur;
+
 /// How sure the user can be of what the status bar says.
 enum class TNiveauEtat { Neutre, Succes, Alerte, Erreur };
 
@@ -24,6 +26,7 @@ struct TContexteEcran {
   IApercu& Apercu;
   ILienPrincipal& Principal;
   TComposant* Assistant = nullptr;  ///< the print wizard; set before the first screen opens
+  ILienLecteur* Lecteur = nullptr;  ///< the hand scanner; null where there can be none
 
   IDialogues& Dialogues() const { return Controleur.Dialogues(); }
 };

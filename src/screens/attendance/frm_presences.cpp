@@ -1,0 +1,280 @@
+#include "screens/attendance/frm_presences.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "screens/attendance/frm_ajout_releve.h"
+#include "workflows/lien_lecteur.h"
+
+namespace {
+
+const QString kFichiersLecteur[] = {QStringLiteral("\\StorageCard\\Presences\\Presences.txt"),
+                                    QStringLiteral("\\Backup\\Presences\\Presences.txt")};
+const QString kErreur = QStringLiteral("L'erreur suivante s'est produite : ");
+
+std::vector<TColonneGrille> Colonnes() {
+  return {{QStringLiteral("Nom"), 295},
+          {QStringLiteral("Prénom"), 120},
+          {QStringLiteral("Date"), 180, TAlignement::Gauche, TOrdre::Jour},
+          {QStringLiteral("Type"), 88},
+          {QStringLiteral("Entrée"), 72, TAlignement::Droite},
+          {QStringLiteral("Sortie"), 72, TAlignement::Droite},
+          {QStringLiteral("Matricule"), 128},
+          {QStringLiteral("État"), 116}};
+}
+
+/// "1 relevé prêt", "2 relevés prêts"
+QString Releves(int nombre, const QString& un, const QString& plusieurs) {
+  return QString::number(nombre) % u' ' % (nombre > 1 ? plusieurs : un);
+}
+
+}  // namespace
+
+TfrmPresences::TfrmPresences(TContexteEcran& contexte)
+    : Recapitulatif(Colonnes()), Anomalies(Colonnes()), contexte_(contexte), import_(contexte.Controleur) {
+  Recapitulatif.Etats = {{},
+                         {QStringLiteral("Corrigé"), QStringLiteral("data-information")},
+                         {QStringLiteral("Forfait journée"), QStringLiteral("data-information")}};
+  Anomalies.Etats = {{},
+                     {QStringLiteral("Inconnu"), QStringLiteral("data-error")},
+                     {QStringLiteral("Sans tarif"), QStringLiteral("data-warning")}};
+}
+
+TfrmPresences::~TfrmPresences() { FermerLien(); }
+
+void TfrmPresences::FormShow() { scannerVisible_ = !Globals.Parametres->EstVrai(36); }
+
+void TfrmPresences::FormClose() {
+  FermerLien();
+  if (const int reste = import_.NombreNonMemorises())
+    Signaler(TNiveauEtat::Alerte,
+             Releves(reste, QStringLiteral("relevé non mémorisé"), QStringLiteral("relevés non mémorisés")));
+}
+
+QString TfrmPresences::TitreSource() const {
+  return scannerVisible_ ? QStringLiteral("Source : scanner local") : QStringLiteral("Source : site distant");
+}
+
+QString TfrmPresences::TitreMenuImportation() const {
+  return scannerVisible_ ? QStringLiteral("Importation depuis un site distant")
+                         : QStringLiteral("Importation depuis un scanner local");
+}
+
+void TfrmPresences::mnuImportationClick() {
+  scannerVisible_ = !scannerVisible_;
+  Annoncer();
+}
+
+QString TfrmPresences::NoteAnomalies() const {
+  const int nombre = Anomalies.NombreLignes();
+  if (nombre == 0) return lu_ ? QStringLiteral("Aucune anomalie") : QString();
+  if (!import_.Pret())
+    return Releves(nombre, QStringLiteral("ligne n'a pas été mémorisée"),
+                   QStringLiteral("lignes n'ont pas été mémorisées"));
+  return Releves(nombre, QStringLiteral("ligne ne sera pas mémorisée tant qu'elle n'est pas corrigée"),
+                 QStringLiteral("lignes ne seront pas mémorisées tant qu'elles ne sont pas corrigées"));
+}
+
+QString TfrmPresences::NoteRecapitulatif() const {
+  const int nombre = Recapitulatif.NombreLignes();
+  if (!lu_) return {};
+  if (!import_.Pret()) return QStringLiteral("Les présences sont mémorisées");
+  return Releves(nombre, QStringLiteral("relevé prêt"), QStringLiteral("relevés prêts"));
+}
+
+// Step 1.
+
+void TfrmPresences::btnImportScannerClick() {
+  const TAttente attente(contexte_.Dialogues());
+  Vider();
+  ILienLecteur* lien = contexte_.Lecteur;
+  if (lien == nullptr || !lien->CeRapiInit()) {
+    contexte_.Dialogues().Message(
+        QStringLiteral("Veuillez vérifier si votre lecteur de code à barre est allumé et connecté à votre "
+                       "ordinateur."));
+    return;
+  }
+  lienOuvert_ = true;
+  try {
+    const QString local = Globals.DossierTemporaire + QStringLiteral("/Presences.txt");
+    if (!CopierDuLecteur(local)) {
+      contexte_.Dialogues().Message(QStringLiteral("Aucune donnée à récupérer"));
+      FermerLien();
+    } else if (!QFile::exists(local)) {
+      contexte_.Dialogues().Message(QStringLiteral("Aucune données à récupérer !"));
+      FermerLien();
+    } else {
+      Lire(TSource::Scanner, local, QStringLiteral("Fichier du lecteur"));
+    }
+  } catch (...) {
+    FermerLien();
+    throw;
+  }
+}
+
+bool TfrmPresences::CopierDuLecteur(const QString& local) {
+  Signaler(TNiveauEtat::Neutre, QStringLiteral("Téléchargement des données..."));
+  contexte_.Dialogues().TraiterEvenements();
+  for (const QString& distant : kFichiersLecteur) {
+    try {
+      CopierDepuisLecteur(*contexte_.Lecteur, distant, local);
+      copie_ = distant;
+      return true;
+    } catch (const Exception& e) {
+      contexte_.Dialogues().Message(kErreur + e.Message);
+    }
+  }
+  return false;
+}
+
+void TfrmPresences::btnImportFTPClick() {
+  contexte_.Dialogues().Message(
+      QStringLiteral("L'importation depuis un site distant n'est pas encore disponible dans cette version."));
+}
+
+void TfrmPresences::Importerunfichierdeprsence1Click() {
+  const auto chemin = contexte_.Dialogues().ChoisirFichier(
+      QStringLiteral("Importer un fichier de présence"),
+      QStringLiteral("Fichiers de présences (*.txt);;Tous les fichiers (*)"));
+  if (!chemin) return;
+  const TAttente attente(contexte_.Dialogues());
+  QString nom = u"Fichier choisi : " % QFileInfo(*chemin).fileName();
+  const QString code = TImportPresences::SiteDuChemin(*chemin);
+  if (const TImplantation* site = Globals.Eleves->Implantations->TrouverParCode(code);
+      site && !code.isEmpty())
+    nom += u" · site " % site->LibelleCourt;
+  Vider();
+  Lire(TSource::Main, *chemin, nom);
+  Compter();
+}
+
+void TfrmPresences::ImporterTablette(const QString& chemin) {
+  Vider();
+  import_.ImporterTablette(chemin);
+  source_ = TSource::Main;
+  lu_ = true;
+  Afficher();
+  Compter();
+}
+
+void TfrmPresences::Vider() {
+  FermerLien();
+  import_.Vider();
+  source_ = TSource::Scanner;
+  fichier_.clear();
+  lu_ = false;
+  compteurs_.AJour = false;
+  Afficher();
+}
+
+void TfrmPresences::Lire(TSource source, const QString& chemin, const QString& nom) {
+  if (source == TSource::Scanner)
+    import_.ImporterScanner(chemin);
+  else
+    import_.ImporterTablette(chemin);
+  source_ = source;
+  fichier_ = nom;
+  lu_ = true;
+  Afficher();
+  if (Anomalies.NombreLignes() == 0) {
+    Signaler(TNiveauEtat::Succes, NoteRecapitulatif());
+    return;
+  }
+  Signaler(TNiveauEtat::Alerte, QStringLiteral("Des anomalies ont été détectées !"));
+  import_.AnnoncerAnomalies();
+}
+
+void TfrmPresences::Afficher() {
+  {
+    const TGrille::TLot bons(Recapitulatif), mauvais(Anomalies);
+    Recapitulatif.Vider();
+    for (const auto& presence : import_.Bons()) AjouterBon(*presence);
+    Anomalies.Vider();
+    for (const TAnomalie& a : import_.Anomalies())
+      Anomalies.Ajouter(LigneAnomalie(a), a.Presence.get(), a.Presence ? SansTarif : Inconnu);
+    Anomalies.ChoisirLigne(0);
+  }
+  Annoncer();
+}
+
+void TfrmPresences::AjouterBon(TPresence& presence) {
+  Recapitulatif.Ajouter(LigneRecapitulatif(presence), &presence, static_cast<int>(import_.Origine(presence)));
+}
+
+void TfrmPresences::Compter() {
+  compteurs_ = {import_.NombreEntrees(), import_.NombreBons(), import_.NombreAnomalies(),
+                import_.NombreTotal(), true};
+  Annoncer();
+}
+
+// Correction.
+
+void TfrmPresences::Corrigerlerelev1Click() {
+  const int ligne = Anomalies.LigneCourante();
+  const TPresence* presence = ligne < 0 ? nullptr : Anomalies.Ligne(ligne).Objet.En<TPresence>();
+  if (presence == nullptr) {
+    contexte_.Dialogues().Message(QStringLiteral("La correction ne peut se faire que sur un élève existant"));
+    return;
+  }
+  TFrmAjoutReleve saisie(contexte_);
+  saisie.Mode = TFrmAjoutReleve::Correction;
+  saisie.Charger(presence->TypePresence, presence->HeureSortie, presence->HeureEntree, presence->DateReleve);
+  if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
+  import_.Corriger(ligne, saisie.TypePresence(), saisie.DateReleve(), saisie.HeureSortie(),
+                   saisie.HeureEntree());
+  AjouterBon(*import_.Bons().back());
+  Anomalies.Retirer(ligne);
+  if (compteurs_.AJour) Compter();
+  const TLigneGrille& corrigee = Recapitulatif.Ligne(Recapitulatif.NombreLignes() - 1);
+  Signaler(TNiveauEtat::Succes,
+           QString(u"Relevé corrigé : " % corrigee.Texte(Nom) % u' ' % corrigee.Texte(Prenom)));
+  Annoncer();
+}
+
+// Step 2.
+
+void TfrmPresences::btnEtape2Click() {
+  if (!Etape2Active()) return;
+  const TAttente attente(contexte_.Dialogues());
+  OublierObjets(Recapitulatif);
+  import_.Etape2();
+  OublierObjets(Anomalies);
+  if (source_ == TSource::Scanner) EffacerDuLecteur();
+  FermerLien();
+  Signaler(TNiveauEtat::Succes, QStringLiteral("Les présences ont été mémorisées."));
+  Annoncer();
+}
+
+void TfrmPresences::MemoriserTablette(const QString& chemin) {
+  OublierObjets(Recapitulatif);
+  import_.StockerTablette(chemin);
+  OublierObjets(Anomalies);
+  Annoncer();
+}
+
+// The records go to the school's presences, which drop those that are there already.
+void TfrmPresences::OublierObjets(TGrille& grille) {
+  const TGrille::TLot lot(grille);
+  for (int ligne = 0; ligne < grille.NombreLignes(); ++ligne) grille.ChangerObjet(ligne, nullptr);
+}
+
+// Only the file that was copied must be there; the other one goes too when there is one.
+void TfrmPresences::EffacerDuLecteur() {
+  for (const QString& distant : kFichiersLecteur) {
+    try {
+      ::EffacerDuLecteur(*contexte_.Lecteur, distant);
+    } catch (const Exception& e) {
+      if (distant == copie_) contexte_.Dialogues().Message(kErreur + e.Message);
+    }
+  }
+}
+
+void TfrmPresences::FermerLien() {
+  if (!lienOuvert_) return;
+  lienOuvert_ = false;
+  contexte_.Lecteur->CeRapiUnInit();
+}
+
+void TfrmPresences::Signaler(TNiveauEtat niveau, const QString& texte) {
+  contexte_.Principal.Etat(niveau, texte);
+}

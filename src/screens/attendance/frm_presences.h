@@ -1,0 +1,83 @@
+#pragma once
+#include "forms/grille.h"
+#include "screens/contexte_ecran.h"
+#include "workflows/import_presences.h"
+
+/// "Présences": bringing the scans in, correcting what is wrong, storing the rest.
+class TfrmPresences : public TForm {
+ public:
+  explicit TfrmPresences(TContexteEcran& contexte);
+  ~TfrmPresences() override;
+
+  // Step 1, by source. A malformed file raises Exception; nothing has been stored then.
+  void btnImportScannerClick();
+  void btnImportFTPClick();
+  void Importerunfichierdeprsence1Click();
+  /// Step 2: stores the good records and archives the file.
+  void btnEtape2Click();
+  /// Swaps the two buttons of step 1.
+  void mnuImportationClick();
+  /// "Corriger le relevé" on the current line of the anomalies.
+  void Corrigerlerelev1Click();
+
+  // What the tablet does with its file, without a dialog.
+  void ImporterTablette(const QString& chemin);
+  void MemoriserTablette(const QString& chemin);
+
+  bool Etape2Active() const { return import_.Pret(); }
+  /// The button of step 1 is that of the scanner; else that of the FTP site.
+  bool ScannerVisible() const { return scannerVisible_; }
+  QString TitreSource() const;
+  QString TitreMenuImportation() const;
+  bool PeutCorriger() const { return import_.Pret() && Anomalies.NombreLignes() > 0; }
+
+  enum TColonne { Nom, Prenom, Date, Type, Entree, Sortie, Matricule, Etat };
+  enum TEtatRecapitulatif { Bon, Corrige, Derive };
+  enum TEtatAnomalie { Aucun, Inconnu, SansTarif };
+  TGrille Recapitulatif;  ///< the object of a row is its TPresence, until step 2
+  TGrille Anomalies;      ///< the same; none for an unknown pupil
+
+  /// What the counters say. Only an import by hand or by the tablet fills them.
+  struct TCompteurs {
+    int lblEntree = 0;
+    int lblRecap = 0;
+    int lblAnomalie = 0;
+    int lblTotal = 0;
+    bool AJour = true;  ///< false: they still speak of an earlier file
+  };
+  const TCompteurs& Compteurs() const { return compteurs_; }
+  /// "Fichier choisi : presences.txt · site Centre"
+  const QString& Fichier() const { return fichier_; }
+  /// A file was read since the screen was opened.
+  bool FichierLu() const { return lu_; }
+  QString NoteAnomalies() const;
+  QString NoteRecapitulatif() const;
+
+ protected:
+  void FormShow() override;
+  void FormClose() override;
+
+ private:
+  enum class TSource { Scanner, Main, Ftp };
+
+  void Lire(TSource source, const QString& chemin, const QString& nom);
+  void Vider();
+  void Afficher();
+  void Compter();
+  void AjouterBon(TPresence& presence);
+  void OublierObjets(TGrille& grille);
+  bool CopierDuLecteur(const QString& local);
+  void EffacerDuLecteur();
+  void FermerLien();
+  void Signaler(TNiveauEtat niveau, const QString& texte);
+
+  TContexteEcran& contexte_;
+  TImportPresences import_;
+  TCompteurs compteurs_;
+  QString fichier_;
+  QString copie_;  // the file of the device that was copied
+  TSource source_ = TSource::Scanner;
+  bool scannerVisible_ = true;
+  bool lienOuvert_ = false;
+  bool lu_ = false;
+};
