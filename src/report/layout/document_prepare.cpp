@@ -122,18 +122,19 @@ QRectF Boite(const TLigneLue& ligne, int debut, int fin) {
 
 }  // namespace
 
-std::vector<TTrouvaille> TDocumentPrepare::Chercher(const QString& texte) const {
+std::vector<TTrouvaille> TDocumentPrepare::Chercher(const QString& texte, int premiere, int fin) const {
   std::vector<TTrouvaille> trouvailles;
   const QString cherche = TTextePlie(texte.trimmed()).Texte;
   if (cherche.isEmpty()) return trouvailles;
-  for (std::size_t page = 0; page < Pages.size(); ++page)
-    for (const TLigneLue& ligne : Lignes(Pages[page])) {
+  if (fin < 0) fin = static_cast<int>(Pages.size());
+  for (int page = premiere; page < fin; ++page)
+    for (const TLigneLue& ligne : Lignes(Pages.at(static_cast<std::size_t>(page)))) {
       const TTextePlie plie(ligne.Texte);
       for (qsizetype ou = plie.Texte.indexOf(cherche); ou >= 0;
            ou = plie.Texte.indexOf(cherche, ou + cherche.size())) {
         const int debut = plie.Sources[static_cast<std::size_t>(ou)];
-        const int fin = plie.Sources[static_cast<std::size_t>(ou + cherche.size() - 1)] + 1;
-        trouvailles.push_back({static_cast<int>(page), Boite(ligne, debut, fin)});
+        const int apres = plie.Sources[static_cast<std::size_t>(ou + cherche.size() - 1)] + 1;
+        trouvailles.push_back({page, Boite(ligne, debut, apres)});
       }
     }
   return trouvailles;

@@ -79,8 +79,9 @@ class TDocumentPrepare {
   std::vector<TPagePreparee> Pages;
   std::vector<TDefaut> Defauts;
 
-  /// Places of a text in page order, without regard to case or accents.
-  std::vector<TTrouvaille> Chercher(const QString& texte) const;
+  /// Places of a text in page order, without regard to case or accents, on the pages from `premiere` up
+  /// to `fin`, which is left out; -1 for the end.
+  std::vector<TTrouvaille> Chercher(const QString& texte, int premiere = 0, int fin = -1) const;
   /// The words of a page in reading order: top to bottom, left to right, one line a row.
   QString TexteDePage(int page) const;
 
