@@ -1,0 +1,311 @@
+#include "screens/principal/frm_main.h"
+
+#include <QFileInfo>
+#include <algorithm>
+
+#include "screens/principal/arbre_eleves.h"
+
+namespace {
+
+constexpr int kPremiereAnnee = 2015;
+constexpr int kDerniereAnneeFixe = 2018;
+
+template <class T>
+bool Contient(const std::vector<T>& liste, T valeur) {
+  return std::ranges::find(liste, valeur) != liste.end();
+}
+
+template <class T>
+void Masquer(std::vector<T>& caches, T valeur, bool cache) {
+  std::erase(caches, valeur);
+  if (cache) caches.push_back(valeur);
+}
+
+TGestionnaire GestionnaireDe(TCommandePage commande) {
+  switch (commande) {
+    case TCommandePage::btnTicket:
+      return TGestionnaire::btnTicketClick;
+    case TCommandePage::btnCuisine:
+      return TGestionnaire::btnCuisineClick;
+    case TCommandePage::btnComptabilite:
+      break;
+  }
+  return TGestionnaire::btnComptabiliteClick;
+}
+
+}  // namespace
+
+QString AnneeEnTexte(int annee) { return QStringLiteral("%1 - %2").arg(annee).arg(annee + 1); }
+
+TFrmMain::TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge& horloge,
+                   IFenetreModale& modale, IApercu& apercu)
+    : Controleur(base, reglages, *this, horloge), Contexte{Controleur, modale, apercu, *this, nullptr} {
+  Arbre.SurSelection = [this] {
+    if (SurSelection) SurSelection();
+    tvEleveChange();
+  };
+  Panneau.SurEtape = [this](TForm& form, TEtapeForm etape) {
+    if (etape == TEtapeForm::Affichee) accueilDevant_ = false;
+    if (SurEtape) SurEtape(form, etape);
+    Annoncer();
+  };
+}
+
+TFrmMain::~TFrmMain() {
+  Panneau.Vider();
+  SurSelection = nullptr;
+  Arbre.SurSelection = nullptr;
+}
+
+void TFrmMain::FormShow() {
+  Controleur.FormShow();
+  if (EstRelie())
+    Etat(TNiveauEtat::Neutre, SansEleve() ? u"Aucun élève en " % AnneeEnTexte(anneeCochee_)
+                                          : QString(u"Année " % AnneeEnTexte(anneeCochee_) % u" : " %
+                                                    QString::number(NombreEleves()) % u" élèves"));
+  else if (!Globals.ModeHorsLigne)
+    Etat(TNiveauEtat::Erreur,
+         QStringLiteral("Pas de connexion au serveur de données : fermez le programme et recommencez."));
+  Annoncer();
+}
+
+void TFrmMain::FormClose() {
+  QuitterChamp();
+  Panneau.Vider();
+  Arbre.Vider();
+  Arbre.Annoncer();
+  Controleur.FormClose();
+}
+
+bool TFrmMain::FormCloseQuery() {
+  if (!enTravail_) return true;
+  Etat(TNiveauEtat::Alerte,
+       QStringLiteral("Un travail est en cours : la fenêtre pourra être fermée quand il sera terminé."));
+  return false;
+}
+
+// Bar.
+
+bool TFrmMain::PageVisible(TPage page) const { return !Contient(pagesCachees_, page); }
+
+TPage TFrmMain::PageActive() const {
+  if (PageVisible(page_)) return page_;
+  const auto pages = Pages();
+  return pages.empty() ? page_ : pages.front().Page;
+}
+
+std::vector<TPagePrincipale> TFrmMain::Pages() const {
+  std::vector<TPagePrincipale> pages;
+  for (const TPagePrincipale& page : PagesPrincipales())
+    if (PageVisible(page.Page)) pages.push_back(page);
+  if (PageVisible(TPage::pgRepasNew))  // two pages of one name would be one too many
+    for (TPagePrincipale& page : pages)
+      if (page.Page == TPage::pgRepas) page.Titre = QStringLiteral("Repas (tickets)");
+  return pages;
+}
+
+void TFrmMain::PageClick(TPage page) {
+  accueilDevant_ = page == TPage::PgEleve && SansEleve();
+  ActiverPage(page);
+}
+
+const TCommandePrincipale& TFrmMain::Commande(TGestionnaire gestionnaire) const {
+  return *std::ranges::find(Commandes, gestionnaire, &TCommandePrincipale::Gestionnaire);
+}
+
+bool TFrmMain::CommandeVisible(const TCommandePrincipale& commande) const {
+  return commande.Page == PageActive() && !Contient(commandesCachees_, commande.Gestionnaire);
+}
+
+QString TFrmMain::RaisonInactive(const TCommandePrincipale& commande) const {
+  if (enTravail_) return QStringLiteral("Un travail est en cours");
+  if (commande.Gestionnaire == TGestionnaire::AdvGlowButton4Click) return {};
+  if (!commande.Ecran) return QStringLiteral("Pas encore disponible dans cette version");
+  const bool horsLigne = Globals.ModeHorsLigne && commande.Page == TPage::pgRepas3;
+  if (!EstRelie() && !horsLigne) return QStringLiteral("Pas de connexion au serveur de données");
+  return {};
+}
+
+bool TFrmMain::CommandeActive(const TCommandePrincipale& commande) const {
+  return RaisonInactive(commande).isEmpty();
+}
+
+const TCommandePrincipale* TFrmMain::CommandeOuverte() const {
+  const TForm* form = Panneau.Courante();
+  if (form == nullptr || accueilDevant_) return nullptr;
+  const auto ouverte = std::ranges::find_if(Commandes, [&](const auto& commande) {
+    return commande.Ecran && commande.Ecran->Classe == form->Classe();
+  });
+  return ouverte == Commandes.end() ? nullptr : &*ouverte;
+}
+
+void TFrmMain::Executer(TGestionnaire gestionnaire) {
+  const TCommandePrincipale& commande = Commande(gestionnaire);
+  const QString raison = RaisonInactive(commande);
+  if (!raison.isEmpty()) {
+    Etat(TNiveauEtat::Alerte, commande.Nom() % u" : " % raison);
+    return;
+  }
+  if (gestionnaire == TGestionnaire::AdvGlowButton4Click) {
+    Terminer();
+    return;
+  }
+  QuitterChamp();
+  const TEcran& ecran = *commande.Ecran;
+  TForm* form = Panneau.Ouvrir(
+      ecran.Classe, [&] { return ecran.Creer(Contexte); }, {}, ecran.Remplacement);
+  if (form == nullptr) return;
+  page_ = commande.Page;
+  outils_ = commande.Outils.value_or(outils_);
+  if (commande.PrendEleve) ::Diffuser(TCodeMessage::EleveChange, *form);
+  Annoncer();
+}
+
+bool TFrmMain::OutilVisible(TOutil outil) const { return (outils_ & static_cast<int>(outil)) != 0; }
+
+bool TFrmMain::OutilActif(TOutil outil) const {
+  const TCommandePrincipale* ouverte = CommandeOuverte();
+  return OutilVisible(outil) && !enTravail_ && ouverte != nullptr &&
+         (ouverte->Reagit & static_cast<int>(outil)) != 0;
+}
+
+void TFrmMain::OutilClick(TOutil outil) {
+  if (!OutilActif(outil)) return;
+  QuitterChamp();
+  Diffuser(std::ranges::find(OutilsPrincipaux(), outil, &TOutilPrincipal::Outil)->Code);
+}
+
+void TFrmMain::Diffuser(TCodeMessage code) {
+  if (TForm* form = Panneau.Courante()) ::Diffuser(code, *form);
+}
+
+// Years.
+
+std::vector<int> TFrmMain::Annees() const {
+  std::vector<int> annees;
+  const int derniere = std::max(kDerniereAnneeFixe, Globals.AnneeScolaire + 1);
+  for (int annee = kPremiereAnnee; annee <= derniere; ++annee) annees.push_back(annee);
+  return annees;
+}
+
+void TFrmMain::mnuAnneeClick(int annee) {
+  if (enTravail_ || !EstRelie()) return;
+  QuitterChamp();
+  Controleur.ChoisirAnnee(annee);
+  Etat(TNiveauEtat::Neutre,
+       u"Année " % AnneeEnTexte(annee) % u" : " % QString::number(NombreEleves()) % u" élèves");
+}
+
+// Messages.
+
+bool TFrmMain::RecevoirMessage(const TMessage& message) {
+  TNoeud* noeud = Arbre.TrouverObjet(Globals.EleveCourant);
+  switch (message.Code) {
+    case TCodeMessage::EleveRadie:
+      if (noeud != nullptr) {
+        MarquerRadie(*noeud, *Globals.EleveCourant);
+        Arbre.Annoncer();
+      }
+      return true;
+    case TCodeMessage::EleveChange:
+      if (noeud != nullptr) Arbre.Selectionner(noeud);
+      return true;
+    case TCodeMessage::ImplantationsChange:
+      RenommerSites(Arbre);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void TFrmMain::Etat(TNiveauEtat niveau, const QString& texte) {
+  etat_ = {niveau, texte};
+  if (SurEtat) SurEtat();
+}
+
+// State.
+
+bool TFrmMain::EstRelie() const { return Globals.Eleves != nullptr && Controleur.Base().EstConnecte(); }
+
+QString TFrmMain::Serveur() const {
+  const TDataModule1& base = Controleur.Base();
+  if (!base.EstConnecte()) return {};
+  const bool fichier = base.EstLocal() && base.ServerName.trimmed().endsWith(u".fdb", Qt::CaseInsensitive);
+  return fichier ? QFileInfo(base.FichierLocal()).fileName() : base.ServerName.trimmed();
+}
+
+void TFrmMain::Travail(int fait, int total) {
+  const bool enTravail = total > 0;
+  if (enTravail)
+    Etat(TNiveauEtat::Neutre, QStringLiteral("Travail en cours : %1 sur %2").arg(fait).arg(total));
+  else if (enTravail_)
+    Etat(TNiveauEtat::Neutre, {});
+  if (enTravail == enTravail_) return;
+  enTravail_ = enTravail;
+  Annoncer();
+}
+
+bool TFrmMain::SansEleve() const {
+  return EstRelie() && Globals.Eleves->Count() == 0 && !Globals.ModeProfesseur && !Globals.ModeTablette;
+}
+
+bool TFrmMain::PremiereUtilisation() const {
+  return SansEleve() && (accueilDevant_ || Panneau.Courante() == nullptr);
+}
+
+// What the controller tells.
+
+void TFrmMain::MontrerPage(TPage page, bool oui) {
+  Masquer(pagesCachees_, page, !oui);
+  Annoncer();
+}
+
+void TFrmMain::ActiverPage(TPage page) {
+  page_ = page;
+  Annoncer();
+}
+
+void TFrmMain::MontrerCommande(TCommandePage commande, bool oui) {
+  Masquer(commandesCachees_, GestionnaireDe(commande), !oui);
+  Annoncer();
+}
+
+void TFrmMain::MontrerArbre(bool oui) {
+  arbreVisible_ = oui;
+  Annoncer();
+}
+
+void TFrmMain::ConstruireArbre() { ::ConstruireArbre(Arbre, true, true); }
+
+void TFrmMain::IntitulerAnnee(const QString& texte) {
+  intituleAnnee_ = texte;
+  Annoncer();
+}
+
+void TFrmMain::CocherAnnee(int annee) {
+  anneeCochee_ = annee;
+  Annoncer();
+}
+
+void TFrmMain::OuvrirReservationTablette() { Executer(TGestionnaire::btnReservationTabletteClick); }
+
+void TFrmMain::OuvrirReservation() { Executer(TGestionnaire::btnReservationClick); }
+
+void TFrmMain::FermerEcran() {
+  Panneau.Vider();
+  accueilDevant_ = false;
+  outils_ = 0;
+  Annoncer();
+}
+
+void TFrmMain::QuitterChamp() {
+  if (SurQuitterChamp) SurQuitterChamp();
+}
+
+void TFrmMain::DureeBulles(int ms) {
+  if (SurDureeBulles) SurDureeBulles(ms);
+}
+
+void TFrmMain::Terminer() {
+  if (SurTerminer) SurTerminer();
+}

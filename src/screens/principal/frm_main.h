@@ -1,0 +1,156 @@
+#pragma once
+#include "forms/arbre.h"
+#include "screens/principal/commandes.h"
+
+/// What the left of the status bar says.
+struct TEtatPrincipal {
+  TNiveauEtat Niveau = TNiveauEtat::Neutre;
+  QString Texte;
+};
+
+/// A line of what a school does first.
+struct TEtapeAccueil {
+  TGestionnaire Gestionnaire;
+  QString Titre;
+  QString Explication;
+  QString Bouton;
+  bool Faite;
+  bool Possible;   ///< its screen can be opened
+  bool Prochaine;  ///< the first one that is left and possible
+};
+
+/// The main window: pages and commands, the pupil tree and its search, the menu of years, and the
+/// panel with the open screen. Its view follows the `Sur...` operations.
+class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal {
+ public:
+  /// All must outlive it. Nothing is opened before `Montrer`.
+  TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge& horloge, IFenetreModale& modale,
+           IApercu& apercu);
+  ~TFrmMain() override;
+
+  // Bar.
+  bool PageVisible(TPage page) const;
+  /// A page that is shown.
+  TPage PageActive() const;
+  /// The pages that are shown, with their captions, in order.
+  std::vector<TPagePrincipale> Pages() const;
+  /// A click on the tab; with no pupil in the year the first page shows again what comes first.
+  void PageClick(TPage page);
+  std::vector<TCommandePrincipale> Commandes = CommandesPrincipales();
+  bool CommandeVisible(const TCommandePrincipale& commande) const;
+  bool CommandeActive(const TCommandePrincipale& commande) const;
+  /// Why the command is off, or "".
+  QString RaisonInactive(const TCommandePrincipale& commande) const;
+  /// The one whose screen is at the front; null for none.
+  const TCommandePrincipale* CommandeOuverte() const;
+  void Executer(TGestionnaire gestionnaire);
+  bool OutilVisible(TOutil outil) const;
+  bool OutilActif(TOutil outil) const;
+  /// Sends its message to the open screen (`btnPrintClick` and the others).
+  void OutilClick(TOutil outil);
+
+  // Years.
+  /// First years of the menu, the four fixed ones and on to the year after the working one.
+  std::vector<int> Annees() const;
+  int AnneeCochee() const { return anneeCochee_; }
+  QString IntituleAnnee() const { return intituleAnnee_; }
+  void mnuAnneeClick(int annee);
+
+  // Tree and search.
+  bool ArbreVisible() const { return arbreVisible_; }
+  /// Also when the control that the user left had something to say: the node chosen is the one selected.
+  void ChoisirNoeud(TNoeud* noeud) { Arbre.Selectionner(noeud); }
+  void edSearchChange(const QString& texte);
+  /// The text without what the search does not take.
+  static QString edSearchKeyPress(const QString& texte);
+  void btnRechercheClick();
+  const QString& TexteRecherche() const { return recherche_; }
+  int NombreEleves() const;
+  int NombreRadies() const;
+
+  // Teachers.
+  void Ajouterunprofesseur1Click();
+  bool PeutAjouterProfesseur() const { return EstRelie() && !EnTravail(); }
+  void Supprimerunprofesseur1Click();
+  /// The selected node is a teacher.
+  bool PeutSupprimerProfesseur() const;
+
+  // First use.
+  /// No pupil in the year, and no screen in front.
+  bool PremiereUtilisation() const;
+  bool SansEleve() const;
+  std::vector<TEtapeAccueil> Etapes() const;
+
+  // State.
+  /// A year is on display.
+  bool EstRelie() const;
+  const TEtatPrincipal& Etat() const { return etat_; }
+  /// "" without a connection.
+  QString Serveur() const;
+  /// A long work goes on; `total` 0 ends it. Commands, tree and closing are off meanwhile.
+  void Travail(int fait, int total);
+  bool EnTravail() const { return enTravail_; }
+
+  // What screens send.
+  bool RecevoirMessage(const TMessage& message) override;
+  void Envoyer(const TMessage& message) override { RecevoirMessage(message); }
+  void Etat(TNiveauEtat niveau, const QString& texte) override;
+
+  // What the controller tells.
+  void MontrerPage(TPage page, bool oui) override;
+  void ActiverPage(TPage page) override;
+  void MontrerCommande(TCommandePage commande, bool oui) override;
+  void MontrerArbre(bool oui) override;
+  void SuspendreArbre(bool oui) override { arbreSuspendu_ = oui; }
+  void ConstruireArbre() override;
+  void IntitulerAnnee(const QString& texte) override;
+  void CocherAnnee(int annee) override;
+  void OuvrirReservationTablette() override;
+  void OuvrirReservation() override;
+  void FermerEcran() override;
+  void QuitterChamp() override;
+  void DureeBulles(int ms) override;
+  void Terminer() override;
+
+  // Followed by the view, besides SurChangement.
+  std::function<void(TForm&, TEtapeForm)> SurEtape;
+  std::function<void()> SurSelection;  ///< before the screens are told
+  std::function<void()> SurEtat;
+  std::function<void()> SurQuitterChamp;
+  std::function<void()> SurTerminer;
+  std::function<void(int)> SurDureeBulles;
+
+  TControleur Controleur;
+  TContexteEcran Contexte;
+  TArbre Arbre;
+  TPanneau Panneau;
+
+ protected:
+  void FormShow() override;
+  void FormClose() override;
+  bool FormCloseQuery() override;
+
+ private:
+  const TCommandePrincipale& Commande(TGestionnaire gestionnaire) const;
+  void tvEleveChange();
+  void Diffuser(TCodeMessage code);
+  TNoeud* NoeudQuiCommence(TNoeud* debut) const;
+  void Inscrire(TEleve& professeur);
+  void OublierEleve(const TEleve& eleve);
+
+  std::vector<TPage> pagesCachees_{TPage::pgRepas, TPage::pgRepas3};
+  std::vector<TGestionnaire> commandesCachees_;
+  TPage page_ = TPage::PgEleve;
+  int outils_ = 0;
+  bool accueilDevant_ = false;  // what comes first stands before the open screen
+  bool arbreVisible_ = true;
+  bool arbreSuspendu_ = false;
+  QString intituleAnnee_;
+  int anneeCochee_ = 0;
+  QString recherche_;
+  TEtatPrincipal etat_;
+  bool enTravail_ = false;
+};
+
+/// "2018 - 2019"
+QString AnneeEnTexte(int annee);
