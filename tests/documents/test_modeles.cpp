@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QTemporaryDir>
 
+#include "core/reglages_poste.h"
 #include "documents/modeles.h"
 #include "report/layout/mise_en_page.h"
 
@@ -34,7 +36,7 @@ TNoeudRapport Eleve(const QString& nom, std::vector<TNoeudRapport> sections) {
   return eleve;
 }
 
-TDocumentPrepare Facture(std::vector<TNoeudRapport> eleves) {
+TDocumentPrepare Facture(std::vector<TNoeudRapport> eleves, const QImage& logo = {}) {
   TRapport rapport(u"Facture"_s, u"Facture"_s);
   for (const auto& [nom, valeur] :
        std::initializer_list<TValeurs::TValeur>{{u"EcoleNom"_s, u"École de Brumeval"_s},
@@ -45,6 +47,7 @@ TDocumentPrepare Facture(std::vector<TNoeudRapport> eleves) {
                                                 {u"MoisReleve"_s, u"du mois d'octobre 2016"_s},
                                                 {u"CompteBanque"_s, u"BE68 5390 0754 7034"_s}})
     rapport.AjouterVariable(nom, valeur);
+  rapport.Logo = logo;
   rapport.CopierArbre(std::move(eleves));
   return MettreEnPage(rapport, *ModeleDocument(u"Facture"_s));
 }
@@ -62,6 +65,24 @@ int Hauteur(const TPagePreparee& page, const QString& texte) {
   for (const auto& [y, sien] : Textes(page))
     if (sien == texte) return y;
   return -1;
+}
+
+/// The pictures of a page, each as "left,top width x height".
+QStringList Images(const TPagePreparee& page) {
+  QStringList images;
+  for (const TElement& element : page.Elements)
+    if (const auto* image = std::get_if<TElementImage>(&element))
+      images += u"%1,%2 %3x%4"_s.arg(image->Place.x())
+                    .arg(image->Place.y())
+                    .arg(image->Place.width())
+                    .arg(image->Place.height());
+  return images;
+}
+
+QImage Image(int largeur, int hauteur) {
+  QImage image(largeur, hauteur, QImage::Format_RGB32);
+  image.fill(0xFF804000);
+  return image;
 }
 
 }  // namespace
@@ -95,4 +116,45 @@ TEST(Modeles, UneFactureDeDeuxPages) {
   EXPECT_EQ(Hauteur(suite, u"Services 14"_s), Hauteur(suite, u"Services 13"_s) + 18);
   EXPECT_GT(Hauteur(suite, u"640,60 €"_s), Hauteur(suite, u"Services 14"_s));
   EXPECT_EQ(Hauteur(document.Pages[2], u"LEBON <b>Zoé</b>"_s), 192 + 16);
+}
+
+TEST(Modeles, LogoDuDocument) {
+  const auto eleve = [] { return std::vector{Eleve(u"LEBON"_s, {Section(u"Frais"_s, 2)})}; };
+  EXPECT_EQ(Images(Facture(eleve()).Pages[0]), QStringList());
+  EXPECT_EQ(Images(Facture(eleve(), Image(40, 20)).Pages[0]), QStringList{u"672,38 84x42"_s});
+}
+
+TEST(Modeles, DossierDuPoste) {
+  const QTemporaryDir dossier;
+  TReglagesPoste reglages;
+  reglages.Ecrire(TRacine::Utilisateur, u"DossierPresences"_s, dossier.path());
+  const QString modeles = DossierModeles(reglages);
+  reglages.Ecrire(TRacine::Utilisateur, u"DossierPresences"_s, {});
+  EXPECT_EQ(modeles, dossier.filePath(u"modeles"_s));
+  EXPECT_EQ(ModeleDocument(u"Badge"_s, modeles)->Pages[0].Marge, 0.0F);
+
+  ASSERT_TRUE(QDir().mkpath(modeles));
+  ASSERT_TRUE(Image(30, 10).save(modeles + u"/logo.png"_s));
+  QFile fichier(modeles + u"/carte_eleve.xml"_s);
+  ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
+  fichier.write(R"(<partie><bande sorte="maitre" nom="MasterData1" hauteur="200" nouvellePage="oui">
+    <image fichier="logo.png" x="10" y="10" largeur="60" hauteur="60"/>
+    <image nom="MyLogo" fichier="logo.png" x="10" y="40" largeur="60" hauteur="60"/>
+    <image nom="MyPhoto" x="200" y="20" largeur="95" hauteur="110"/></bande></partie>)");
+  fichier.close();
+  TRapport rapport(u"Badge d'identification"_s, u"Badge"_s);
+  for (const QString& eleve : {u"7"_s, u"8"_s}) {
+    TNoeudRapport noeud;
+    noeud.Valeurs.Ecrire(u"PhotoID", eleve);
+    TArbreRapport arbre = rapport.Arbre();
+    arbre.push_back(noeud);
+    rapport.CopierArbre(arbre);
+  }
+  rapport.ChargeurPhoto = [](const QString& identifiant, QImage& photo) {
+    if (identifiant == u"7") photo = Image(95, 110);
+  };
+  const TDocumentPrepare document = MettreEnPage(rapport, *ModeleDocument(u"Badge"_s, modeles));
+  const QStringList logos{u"10,10 60x20"_s, u"10,40 60x20"_s};
+  EXPECT_EQ(Images(document.Pages.at(0)), logos + QStringList{u"200,20 95x110"_s});
+  EXPECT_EQ(Images(document.Pages.at(1)), logos) << "a pupil without photo";
 }
