@@ -190,9 +190,10 @@ void TFrmPrintWizard::btnRienSelectionnerClick() {
     LstEleve.CocherTout(false);
 }
 
-void TFrmPrintWizard::Trier(TGrille& liste, TTri& tri, int colonne) {
-  tri = {colonne, tri.Colonne != colonne || !tri.Croissant};
-  liste.Trier(tri.Colonne, tri.Croissant);
+void TFrmPrintWizard::Trier(TGrille& liste, TTri& tri, int colonne, bool croissant) {
+  if (colonne < 0 || (tri.Colonne == colonne && tri.Croissant == croissant)) return;
+  tri = {colonne, croissant};
+  liste.Trier(colonne, croissant);
 }
 
 void TFrmPrintWizard::RbMoisClick(TChoixPeriode choix) {

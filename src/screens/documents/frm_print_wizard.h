@@ -63,9 +63,9 @@ class TFrmPrintWizard : public TForm {
   void btnToutSelectionnerClick();
   /// Clears every tick of the enabled list.
   void btnRienSelectionnerClick();
-  /// A click on the header: by that column; again, the other way round.
-  void LstEleveColumnClick(int colonne) { Trier(LstEleve, triEleve_, colonne); }
-  void LstClasseColumnClick(int colonne) { Trier(LstClasse, triClasse_, colonne); }
+  /// A click on the header of a list: what is chosen in it comes in the order that it shows.
+  void LstEleveColumnClick(int colonne, bool croissant) { Trier(LstEleve, triEleve_, colonne, croissant); }
+  void LstClasseColumnClick(int colonne, bool croissant) { Trier(LstClasse, triClasse_, colonne, croissant); }
   /// "2 classes, 43 élèves"
   QString Compte() const;
 
@@ -107,7 +107,7 @@ class TFrmPrintWizard : public TForm {
   void RemplirListes();
   void PoserDates();
   static void Remplir(TGrille& liste, TContenu& avant, TContenu contenu, const TTri& tri);
-  void Trier(TGrille& liste, TTri& tri, int colonne);
+  static void Trier(TGrille& liste, TTri& tri, int colonne, bool croissant);
   TPageAssistant PageVoisine(int sens) const;
   void OuvrirPage(TPageAssistant page);
   void Refuser(const QString& texte, TChampAssistant champ);

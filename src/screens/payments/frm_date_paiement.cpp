@@ -3,6 +3,7 @@
 void TFrmDatePaiement::FormShow() {
   constexpr TDateTime kDelai = 7.0;
   dtDatePaiement = contexte_.Controleur.Horloge().Aujourdhui() + kDelai;
+  Annoncer();
 }
 
 void TFrmDatePaiement::btnValiderClick() {

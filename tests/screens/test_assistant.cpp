@@ -1,0 +1,341 @@
+#include <gtest/gtest.h>
+
+#include "pupils/eleves.h"
+#include "screens/documents/frm_print_wizard.h"
+#include "screens/payments/frm_date_paiement.h"
+#include "support/affichage.h"
+#include "support/controleur_essai.h"
+#include "support/valeurs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Does with a modal form what the test says.
+struct TModaleGeste : IFenetreModale {
+  TResultatModal MontrerModal(TForm& form) override {
+    form.Montrer();
+    Geste();
+    return form.ResultatModal;
+  }
+  std::function<void()> Geste;
+};
+
+struct TSansApercu : IApercu {
+  void Afficher(TRapport&) override { FAIL(); }
+};
+
+struct TSansLien : ILienPrincipal {
+  void Envoyer(const TMessage&) override {}
+  void Etat(TNiveauEtat, const QString&) override {}
+};
+
+/// The screen that asks.
+struct TDemandeurEssai : TForm {
+  bool RecevoirMessage(const TMessage& message) override {
+    EXPECT_EQ(message.Code, TCodeMessage::AssistantConfirme);
+    Choix = *message.En<TChoixDocument>();
+    return true;
+  }
+  std::optional<TChoixDocument> Choix;
+};
+
+/// Site S1 with P2 A: Éva, Luc; site S2 with P1 A: Zoé, Adam; the year 2016 on display.
+struct Assistant : testing::Test {
+  void SetUp() override {
+    const std::pair<const char16_t*, const char16_t*> noms[] = {
+        {u"Zoé", u"P1"}, {u"Adam", u"P1"}, {u"Éva", u"P2"}, {u"Luc", u"P2"}};
+    for (const auto& [nom, classe] : noms)
+      eleves += ecole.unEleve()
+                    .nomme(QString::fromUtf16(nom), u"X"_s)
+                    .enClasse(QString::fromUtf16(classe), u"A"_s, classe[1] == u'1' ? u"S2"_s : u"S1"_s)
+                    .Id;
+    controleur.Charger();
+  }
+  /// Opens the wizard, does that, and gives the choice; none when it was given up.
+  std::optional<TChoixDocument> Ouvrir(const std::function<void()>& geste, TDemandeAssistant demande) {
+    demandeur.Choix.reset();
+    modale.Geste = geste;
+    demande.Demandeur = &demandeur;
+    EXPECT_TRUE(assistant.RecevoirMessage({TCodeMessage::ImprimerAssistant, demande}));
+    return demandeur.Choix;
+  }
+  std::optional<TChoixDocument> Ouvrir(const std::function<void()>& geste) {
+    return Ouvrir(geste, TDemandeAssistant::De(demandeur, {{u"Badge"_s, false}, {u"Facture"_s, true}}));
+  }
+  static QStringList Noms(const TChoixDocument& choix) {
+    QStringList noms;
+    for (const TEleve* eleve : choix.Eleves) noms += eleve->Nom;
+    for (const TClasse* classe : choix.Classes) noms += classe->Libelle();
+    return noms;
+  }
+  static QStringList Colonne0(const TGrille& liste) {
+    QStringList textes;
+    for (int i = 0; i < liste.NombreLignes(); ++i) textes += liste.Texte(i, 0);
+    return textes;
+  }
+  static void Cocher(TGrille& liste, const QString& texte) {
+    for (int i = 0; i < liste.NombreLignes(); ++i)
+      if (liste.Texte(i, 0).startsWith(texte)) liste.Cocher(i, true);
+  }
+  void Finir() { assistant.KWizard1FinishButtonClick(); }
+
+  TBaseEssai base;
+  TEcoleEssai ecole{base};
+  TControleurEssai controleur{base};
+  TModaleGeste modale;
+  TSansApercu apercu;
+  TSansLien lien;
+  TContexteEcran contexte{controleur.Controleur, modale, apercu, lien, nullptr};
+  TFrmPrintWizard assistant{contexte};
+  TDemandeurEssai demandeur;
+  QList<int> eleves;
+};
+
+using enum TPageAssistant;
+using enum TChoixQui;
+
+}  // namespace
+
+TEST_F(Assistant, PagesFollowWhatWasAskedAndTheTitle) {
+  const std::vector<TTitreAssistant> titres{{u"Badge"_s, false}, {u"Facture"_s, true}};
+  const struct {
+    const char* Nom;
+    TDemandeAssistant Demande;
+    int Titre;
+    std::vector<TPageAssistant> Pages;  ///< from the one it opens on to the one with the finish button
+  } cas[] = {
+      {"no period", {true, titres, true, nullptr}, 0, {Rapport, Qui}},
+      {"period", {true, titres, true, nullptr}, 1, {Rapport, Qui, Periode}},
+      {"never a period", {true, titres, false, nullptr}, 1, {Rapport, Qui}},
+      {"nobody", {false, titres, true, nullptr}, 1, {Rapport, Periode}},
+      {"one page", {false, titres, false, nullptr}, 0, {Rapport}},
+      {"no title", {true, {}, true, nullptr}, -1, {Qui, Periode}},
+  };
+  for (const auto& [nom, demande, titre, pages] : cas) {
+    Ouvrir(
+        [&] {
+          if (titre >= 0) {
+            EXPECT_EQ(assistant.Indice(), 0) << nom;
+            assistant.ChoixRapportClick(titre);
+          }
+          std::vector<TPageAssistant> vues{assistant.Page()};
+          EXPECT_TRUE(assistant.EstPremierePage()) << nom;
+          while (!assistant.EstDernierePage()) {
+            assistant.btnSuivantClick();
+            vues.push_back(assistant.Page());
+          }
+          EXPECT_EQ(vues, pages) << nom;
+          while (!assistant.EstPremierePage()) assistant.btnPrecedentClick();
+          EXPECT_EQ(assistant.Page(), pages.front()) << nom;
+          assistant.btnAnnulerClick();
+        },
+        demande);
+    EXPECT_FALSE(demandeur.Choix) << nom;
+  }
+}
+
+TEST_F(Assistant, WhoIsCheckedAtTheOpening) {
+  const auto coche = [&] {
+    TChoixQui choix{};
+    Ouvrir([&] {
+      choix = assistant.ChoixQui();
+      assistant.btnAnnulerClick();
+    });
+    return choix;
+  };
+  EXPECT_EQ(coche(), Eleves);
+  EXPECT_FALSE(assistant.ChoixQuiPossible(Eleve));
+  EXPECT_FALSE(assistant.ChoixQuiPossible(Classe));
+  Globals.ClasseCourante = &Globals.Eleves->GetClasse(1);
+  EXPECT_EQ(coche(), Classe);
+  EXPECT_EQ(assistant.lblClasse, u"P2 A"_s);
+  Globals.EleveCourant = Globals.Eleves->TrouverParId(eleves[2]);
+  EXPECT_EQ(coche(), Eleve) << "nobody has chosen yet";
+  EXPECT_EQ(assistant.lblEleve, u"Éva X"_s);
+  // Once the user has chosen, it stays.
+  Ouvrir([&] {
+    assistant.RbEleveClick(Classe);
+    assistant.btnAnnulerClick();
+  });
+  EXPECT_EQ(coche(), Classe);
+  Globals.EleveCourant = nullptr;
+  Globals.ClasseCourante = nullptr;
+  EXPECT_EQ(coche(), Eleves) << "what was chosen is not there any more";
+}
+
+TEST_F(Assistant, TheListsAndTheirTwoButtons) {
+  const auto choix = Ouvrir([&] {
+    EXPECT_EQ(Colonne0(assistant.LstEleve), (QStringList{u"Luc X"_s, u"Éva X"_s, u"Adam X"_s, u"Zoé X"_s}))
+        << "as the year has them";
+    EXPECT_EQ(assistant.LstEleve.Ligne(0).Textes, (QStringList{u"Luc X"_s, u"P2 A"_s, u"S1"_s}));
+    EXPECT_EQ(Colonne0(assistant.LstClasse), (QStringList{u"P1 A"_s, u"P2 A"_s}));
+    const struct {
+      TChoixQui Choix;
+      bool Eleves, Classes;
+    } cas[] = {{Eleve, false, false}, {Eleves, true, false}, {Classe, false, false}, {Classes, false, true}};
+    Globals.EleveCourant = Globals.Eleves->TrouverParId(eleves[0]);
+    Globals.ClasseCourante = Globals.EleveCourant->Classe;
+    for (const auto& [qui, listeEleves, listeClasses] : cas) {
+      assistant.RbEleveClick(qui);
+      EXPECT_EQ(assistant.LstEleveActive(), listeEleves);
+      EXPECT_EQ(assistant.LstClasseActive(), listeClasses);
+      EXPECT_EQ(assistant.SelectionActive(), listeEleves || listeClasses);
+      assistant.btnToutSelectionnerClick();
+    }
+    EXPECT_EQ(assistant.Compte(), u"2 classes, 4 élèves"_s);
+    EXPECT_TRUE(assistant.LstEleve.Ligne(3).Coche);
+    assistant.btnRienSelectionnerClick();
+    EXPECT_EQ(assistant.Compte(), u"aucune classe, aucun élève"_s);
+    EXPECT_TRUE(assistant.LstEleve.Ligne(3).Coche) << "the other list is left alone";
+
+    assistant.RbEleveClick(Eleves);
+    assistant.btnRienSelectionnerClick();
+    Cocher(assistant.LstEleve, u"Luc"_s);
+    assistant.FiltreEleve = u"p1 a"_s;
+    assistant.btnToutSelectionnerClick();
+    EXPECT_EQ(assistant.Compte(), u"3 élèves"_s) << "those that the filter shows, and a tick behind it";
+    assistant.LstEleveColumnClick(0, false);
+    Finir();
+  });
+  ASSERT_TRUE(choix);
+  EXPECT_EQ(Noms(*choix), (QStringList{u"Zoé"_s, u"Luc"_s, u"Adam"_s})) << "as the list shows them";
+}
+
+TEST_F(Assistant, ListsOfAYearThatWasLoadedAgain) {
+  Ouvrir([&] {
+    Cocher(assistant.LstEleve, u"Luc"_s);
+    Cocher(assistant.LstClasse, u"P1"_s);
+    assistant.LstEleveColumnClick(0, false);
+    assistant.btnAnnulerClick();
+  });
+  ecole.unEleve().nomme(u"Nora"_s, u"X"_s).enClasse(u"P1"_s, u"B"_s);
+  controleur.Charger();
+  const auto choix = Ouvrir([&] {
+    EXPECT_EQ(Colonne0(assistant.LstEleve),
+              (QStringList{u"Zoé X"_s, u"Nora X"_s, u"Luc X"_s, u"Éva X"_s, u"Adam X"_s}));
+    EXPECT_EQ(Colonne0(assistant.LstClasse), (QStringList{u"P1 A"_s, u"P1 B"_s, u"P2 A"_s}));
+    assistant.RbEleveClick(Eleves);
+    Finir();
+  });
+  ASSERT_TRUE(choix);
+  ASSERT_EQ(choix->Eleves.size(), 1U) << "the tick followed its pupil";
+  EXPECT_EQ(choix->Eleves[0], Globals.Eleves->TrouverParId(eleves[3]));
+
+  controleur.Charger(2015);
+  Ouvrir([&] {
+    EXPECT_EQ(assistant.LstEleve.NombreLignes() + assistant.LstClasse.NombreLignes(), 0);
+    assistant.btnAnnulerClick();
+  });
+}
+
+TEST_F(Assistant, PeriodOfTheChoice) {
+  controleur.Horloge.Moment = EncodeDate(2016, 11, 22) + EncodeTime(9, 30);
+  Ouvrir([&] {
+    EXPECT_EQ(assistant.cmbMois().size(), 10);
+    EXPECT_EQ(assistant.IndiceMois(), 2);
+    EXPECT_EQ(assistant.dtDate1(), J("2016-11-22"));
+    EXPECT_EQ(assistant.dtDate2(), J("2016-11-22"));
+    assistant.btnAnnulerClick();
+  });
+  const struct {
+    std::function<void()> Geste;
+    const char *Du, *Au;
+    const char16_t* Texte;
+  } cas[] = {
+      {[&] { assistant.ChoisirMois(0); }, "2016-09-01", "2016-09-30", u"septembre 2016"},
+      {[&] { assistant.ChoisirMois(5); }, "2017-02-01", "2017-02-28", u"février 2017"},
+      {[&] { assistant.ChoisirMois(9); }, "2017-06-01", "2017-06-30", u"juin 2017"},
+      {[&] {
+         assistant.RbMoisClick(TChoixPeriode::Periode);
+         assistant.ChoisirDates(J("2016-12-24"), J("2016-10-01"));
+       },
+       "2016-12-24", "2016-10-01", u"du 24/12/2016 au 01/10/2016"},
+      {[&] { assistant.RbMoisClick(TChoixPeriode::Annee); }, "2016-09-01", "2017-06-30",
+       u"du 1er septembre 2016 au 30 juin 2017"},
+  };
+  for (const auto& [geste, du, au, texte] : cas)
+    for (const int titre : {0, 1}) {
+      const auto choix = Ouvrir([&] {
+        assistant.RbEleveClick(Classes);
+        Cocher(assistant.LstClasse, u"P2"_s);
+        assistant.RbMoisClick(TChoixPeriode::Mois);
+        geste();
+        assistant.ChoixRapportClick(titre);
+        EXPECT_EQ(assistant.Resume(),
+                  titre == 0 ? u"Badge  ·  1 classe, 2 élèves"_s
+                             : u"Facture  ·  1 classe, 2 élèves  ·  "_s + QString::fromUtf16(texte));
+        Finir();
+      });
+      ASSERT_TRUE(choix);
+      EXPECT_EQ(choix->Indice, titre);
+      EXPECT_EQ(choix->DateDebut, J(du)) << "the dates that the page holds, shown or not";
+      EXPECT_EQ(choix->DateFin, J(au));
+    }
+}
+
+TEST_F(Assistant, BothRefusalsLeaveItOpen) {
+  controleur.Horloge.Moment = EncodeDate(2016, 7, 15);
+  std::vector<TChampAssistant> foyers;
+  assistant.SurFoyer = [&](TChampAssistant champ) { foyers.push_back(champ); };
+  const auto choix = Ouvrir([&] {
+    assistant.ChoixRapportClick(1);
+    while (!assistant.EstDernierePage()) assistant.btnSuivantClick();
+    EXPECT_EQ(assistant.IndiceMois(), -1) << "July is no month of school";
+    base.Dialogues.Attend(u"Veuillez sélectionner un mois dans la liste déroulante"_s);
+    Finir();
+    EXPECT_EQ(assistant.Page(), Periode);
+    assistant.ChoisirMois(1);
+    base.Dialogues.Attend(u"Aucun élève n'a été sélectionné !"_s);
+    Finir();
+    EXPECT_TRUE(assistant.EstMontree());
+    EXPECT_EQ(foyers, (std::vector{TChampAssistant::Mois, TChampAssistant::LstEleve}));
+    EXPECT_EQ(assistant.Page(), Qui);
+    Cocher(assistant.LstEleve, u"Adam"_s);
+    Finir();
+  });
+  ASSERT_TRUE(choix);
+  EXPECT_EQ(Noms(*choix), QStringList{u"Adam"_s});
+
+  // Without the page nobody is asked, and without a period no month.
+  assistant.ChoisirMois(-1);
+  const TDemandeAssistant sans{false, {{u"Cuisine"_s, true}}, false, nullptr};
+  const auto vide = Ouvrir(
+      [&] {
+        assistant.btnRienSelectionnerClick();
+        Finir();
+      },
+      sans);
+  ASSERT_TRUE(vide);
+  EXPECT_EQ(Noms(*vide), QStringList());
+}
+
+TEST_F(Assistant, CurrentPupilAndClass) {
+  Globals.EleveCourant = Globals.Eleves->TrouverParId(eleves[0]);
+  Globals.ClasseCourante = Globals.EleveCourant->Classe;
+  const struct {
+    TChoixQui Choix;
+    QStringList Noms;
+    const char16_t* Resume;
+  } cas[] = {{Eleve, {u"Zoé"_s}, u"Badge  ·  Zoé X"}, {Classe, {u"P1 A"_s}, u"Badge  ·  P1 A, 2 élèves"}};
+  for (const auto& [qui, noms, resume] : cas) {
+    const auto choix = Ouvrir([&] {
+      Cocher(assistant.LstEleve, u"Luc"_s);
+      assistant.RbEleveClick(qui);
+      EXPECT_EQ(assistant.Resume(), QString::fromUtf16(resume));
+      Finir();
+    });
+    ASSERT_TRUE(choix);
+    EXPECT_EQ(Noms(*choix), noms) << "a tick of a list that is off does not count";
+  }
+}
+
+TEST_F(Assistant, PaymentDateIsAWeekAhead) {
+  controleur.Horloge.Moment = EncodeDate(2016, 12, 28) + EncodeTime(16, 45);
+  TFrmDatePaiement form(contexte);
+  modale.Geste = [&] { form.btnValiderClick(); };
+  EXPECT_EQ(modale.MontrerModal(form), TResultatModal::Valide);
+  EXPECT_EQ(form.dtDatePaiement, J("2017-01-04"));
+  modale.Geste = [&] { form.btnAnnulerClick(); };
+  EXPECT_EQ(modale.MontrerModal(form), TResultatModal::Annule);
+}
