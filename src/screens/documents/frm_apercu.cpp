@@ -1,0 +1,358 @@
+#include "screens/documents/frm_apercu.h"
+
+#include <QElapsedTimer>
+#include <QPageSize>
+#include <QSet>
+#include <algorithm>
+#include <cmath>
+
+#include "core/exceptions.h"
+#include "documents/modeles.h"
+#include "report/output/pdf.h"
+
+namespace {
+
+constexpr double kZooms[] = {0.25, 0.5, 0.75, 1.0, 1.25, 1.5, 2.0, 3.0, 4.0};
+constexpr double kBordVue = 16.0;  ///< on each side of a page that is fitted
+constexpr double kPixelsParMm = 96.0 / 25.4;
+
+QString Largeur() { return QStringLiteral("Largeur"); }
+QString PageEntiere() { return QStringLiteral("Page entière"); }
+QString PourCent(double facteur) { return QString::number(std::lround(facteur * 100)) % u" %"; }
+
+QString Accorder(int nombre, const QString& un, const QString& plusieurs) {
+  return QString::number(nombre) % u' ' % (nombre < 2 ? un : plusieurs);
+}
+
+/// The pupils stand together by class, and there is more than one class: their bookmarks then stand
+/// under it.
+bool ClassesGroupees(const TRapport& rapport) {
+  QSet<QString> vues;
+  QString derniere;
+  const auto& plat = rapport.Plat();
+  for (int i = 0; i < static_cast<int>(plat.size()); ++i) {
+    if (plat[static_cast<std::size_t>(i)].Niveau != 0) continue;
+    const QString classe = rapport.Valeur(u"Classe", {i, 0}).value_or(QString());
+    if (classe == derniere) continue;
+    if (classe.isEmpty() || vues.contains(classe)) return false;
+    vues += classe;
+    derniere = classe;
+  }
+  return vues.size() > 1;
+}
+
+std::shared_ptr<const TModele> ModeleDe(const TRapport& rapport, const TReglagesPoste& reglages) {
+  auto modele = ModeleDocument(rapport.Modele(), DossierModeles(reglages));
+  if (!modele)
+    throw Exception(QStringLiteral("Le document « %1 » n'a pas encore de modèle (« %2 »).")
+                        .arg(rapport.Titre(), rapport.Modele()));
+  return modele;
+}
+
+/// A name for a file, without what a file's name cannot hold.
+QString NomDeFichier(QString titre) {
+  for (QChar& c : titre)
+    if (QStringLiteral("/\\:*?\"<>|").contains(c)) c = u'-';
+  titre = titre.trimmed();
+  return titre.isEmpty() ? QStringLiteral("Document") : titre;
+}
+
+}  // namespace
+
+TFrmApercu::TFrmApercu(const TContexteApercu& contexte, const TRapport& rapport)
+    : contexte_(contexte),
+      rapport_(rapport),
+      impression_{contexte.Horloge.Maintenant(), ClassesGroupees(rapport)},
+      modele_(ModeleDe(rapport, contexte.Reglages)) {
+  Commencer();
+}
+
+void TFrmApercu::Commencer() {
+  Remettre();
+  miseEnPage_ = std::make_unique<TMiseEnPage>(rapport_, *modele_, impression_);
+  Continuer(0);
+}
+
+void TFrmApercu::Montrer(TDocumentPrepare document) {
+  Remettre();
+  modele_.reset();
+  document_ = std::move(document);
+  Suivre();
+}
+
+void TFrmApercu::Remettre() {
+  miseEnPage_.reset();
+  document_ = {};
+  navigateur_.clear();
+  pagesSuivies_ = signets_ = page_ = 0;
+  recherche_.Commencer({});
+  choixAttendu_ = false;
+  ++version_;
+}
+
+const TDocumentPrepare& TFrmApercu::Document() const {
+  return miseEnPage_ ? miseEnPage_->Document() : document_;
+}
+
+bool TFrmApercu::Continuer(int millisecondes) {
+  if (Complet()) return false;
+  QElapsedTimer temps;
+  temps.start();
+  do {
+    if (!miseEnPage_->Continuer()) {
+      document_ = miseEnPage_->Prendre();
+      miseEnPage_.reset();
+      ++version_;  // totals of pages have come in
+    }
+  } while (!Complet() && temps.elapsed() < millisecondes);
+  Suivre();
+  return true;
+}
+
+void TFrmApercu::Terminer() {
+  const TAttente attente(Dialogues());
+  constexpr int kTranche = 200;
+  while (Continuer(kTranche)) {
+  }
+}
+
+int TFrmApercu::PagesPretes() const {
+  const int pages = static_cast<int>(Document().Pages.size());
+  return Complet() ? pages : std::max(pages - 1, 0);
+}
+
+/// Takes in what the new pages bring: entries of the navigator, places of the text looked for.
+void TFrmApercu::Suivre() {
+  const int pages = PagesPretes();
+  for (; pagesSuivies_ < pages; ++pagesSuivies_)
+    for (const TSignet& signet : Document().Pages[static_cast<std::size_t>(pagesSuivies_)].Signets) {
+      navigateur_.push_back({signet.Texte, signet.Niveau, pagesSuivies_});
+      if (signet.Niveau > 0 || !impression_.SignetsParClasse) ++signets_;
+    }
+  if (Complet() && navigateur_.empty())
+    for (int page = 0; page < pages; ++page)
+      navigateur_.push_back({u"Page " % QString::number(page + 1), 0, page});
+  recherche_.Avancer(Document(), pages);
+  if (choixAttendu_ && !recherche_.Trouvailles().empty()) MontrerTrouvaille(recherche_.Choisir(page_));
+  Annoncer();
+}
+
+QString TFrmApercu::TextePretes() const {
+  const QString texte = Accorder(PagesPretes(), QStringLiteral("page prête"), QStringLiteral("pages prêtes"));
+  return Complet() ? texte : texte + u'…';
+}
+
+void TFrmApercu::AllerPage(int page) {
+  page_ = std::clamp(page, 0, std::max(0, PagesPretes() - 1));
+  if (SurMontrer) SurMontrer(page_, {});
+  Annoncer();
+}
+
+void TFrmApercu::PageVue(int page) {
+  if (page == page_) return;
+  page_ = page;
+  Annoncer();
+}
+
+int TFrmApercu::EntreeCourante() const {
+  const auto apres = std::ranges::upper_bound(navigateur_, page_, {}, &TEntreeNavigateur::Page);
+  return static_cast<int>(apres - navigateur_.begin()) - 1;
+}
+
+void TFrmApercu::ChoisirEntree(int entree) {
+  if (entree < 0 || entree >= static_cast<int>(navigateur_.size())) return;
+  AllerPage(navigateur_[static_cast<std::size_t>(entree)].Page);
+}
+
+QString TFrmApercu::TitreNavigateur() const {
+  if (signets_ > 0) return Accorder(signets_, QStringLiteral("document"), QStringLiteral("documents"));
+  return Accorder(PagesPretes(), QStringLiteral("page"), QStringLiteral("pages"));
+}
+
+void TFrmApercu::Zoomer(TModeZoom mode, double facteur) {
+  modeZoom_ = mode;
+  facteur_ = std::clamp(facteur, kZooms[0], kZooms[std::size(kZooms) - 1]);
+  Annoncer();
+}
+
+bool TFrmApercu::ZoomerTexte(const QString& texte) {
+  const QString choix = texte.trimmed();
+  if (choix.compare(Largeur(), Qt::CaseInsensitive) == 0) return Zoomer(TModeZoom::Largeur), true;
+  if (choix.compare(PageEntiere(), Qt::CaseInsensitive) == 0) return Zoomer(TModeZoom::Page), true;
+  bool lu = false;
+  const int pourCent = QString(choix).remove(u'%').trimmed().toInt(&lu);
+  if (!lu || pourCent <= 0) return false;
+  Zoomer(TModeZoom::Facteur, pourCent / 100.0);
+  return true;
+}
+
+QStringList TFrmApercu::ChoixZoom() {
+  QStringList choix{Largeur(), PageEntiere()};
+  for (const double zoom : kZooms) choix += PourCent(zoom);
+  return choix;
+}
+
+QString TFrmApercu::TexteZoom() const { return PourCent(Echelle()); }
+
+void TFrmApercu::ChangerVue(const QSizeF& vue) {
+  if (vue == vue_) return;
+  vue_ = vue;
+  if (modeZoom_ != TModeZoom::Facteur) Annoncer();
+}
+
+double TFrmApercu::Echelle() const {
+  const auto& pages = Document().Pages;
+  if (modeZoom_ == TModeZoom::Facteur || pages.empty()) return facteur_;
+  const TPagePreparee& page = pages[std::min(static_cast<std::size_t>(page_), pages.size() - 1)];
+  const double largeur = (vue_.width() - 2 * kBordVue) / static_cast<double>(page.Largeur);
+  const double hauteur = (vue_.height() - 2 * kBordVue) / static_cast<double>(page.Hauteur);
+  constexpr double kMin = 0.1, kMax = 5.0;
+  return std::clamp(modeZoom_ == TModeZoom::Largeur ? largeur : std::min(largeur, hauteur), kMin, kMax);
+}
+
+void TFrmApercu::ZoomVoisin(int sens) {
+  constexpr double kEcart = 0.005;
+  const double echelle = Echelle();
+  const auto* fin = std::end(kZooms);
+  const auto* apres = std::upper_bound(std::begin(kZooms), fin, echelle + kEcart);
+  const auto* avant = std::lower_bound(std::begin(kZooms), fin, echelle - kEcart);
+  if (sens > 0 && apres != fin) Zoomer(TModeZoom::Facteur, *apres);
+  if (sens < 0 && avant != std::begin(kZooms)) Zoomer(TModeZoom::Facteur, *(avant - 1));
+}
+
+void TFrmApercu::Chercher(const QString& texte) {
+  recherche_.Commencer(texte);
+  recherche_.Avancer(Document(), PagesPretes());
+  choixAttendu_ = !recherche_.Texte().isEmpty();
+  MontrerTrouvaille(recherche_.Choisir(page_));
+  Annoncer();
+}
+
+void TFrmApercu::ChercherSuivant(int sens) {
+  MontrerTrouvaille(recherche_.Suivante(sens));
+  Annoncer();
+}
+
+void TFrmApercu::MontrerTrouvaille(const TTrouvaille* trouvaille) {
+  if (trouvaille == nullptr) return;
+  choixAttendu_ = false;
+  page_ = trouvaille->Page;
+  if (SurMontrer) SurMontrer(page_, trouvaille->Place);
+}
+
+QString TFrmApercu::TexteRecherche() const {
+  if (recherche_.Texte().isEmpty()) return {};
+  const int nombre = static_cast<int>(recherche_.Trouvailles().size());
+  if (nombre == 0) return Complet() ? QStringLiteral("Introuvable") : QStringLiteral("Recherche…");
+  return QString::number(recherche_.Courante() + 1) % u" sur " % QString::number(nombre);
+}
+
+std::optional<QString> TFrmApercu::Demander(const QString& titre, const QString& extension,
+                                            const QString& filtre) {
+  const QString nom = NomDeFichier(Document().Titre) + extension;
+  std::optional<QString> chemin = Dialogues().FichierAEnregistrer(titre, nom, filtre);
+  if (chemin && !chemin->endsWith(extension, Qt::CaseInsensitive)) *chemin += extension;
+  return chemin;
+}
+
+void TFrmApercu::btnExporterClick() {
+  const auto chemin =
+      Demander(QStringLiteral("Exporter en PDF"), QStringLiteral(".pdf"), QStringLiteral("PDF (*.pdf)"));
+  if (!chemin) return;
+  Terminer();
+  if (Essayer(
+          [&] { EcrirePdf({&document_}, document_.Titre, Globals.Parametres->GetParametre(1), *chemin); }))
+    Dire(TNiveauEtat::Succes, u"Exporté : " % *chemin);
+}
+
+void TFrmApercu::btnEnregistrerClick() {
+  const auto chemin = Demander(QStringLiteral("Enregistrer le rapport"), QStringLiteral(".rap"),
+                               QStringLiteral("Rapport (*.rap)"));
+  if (!chemin) return;
+  Terminer();
+  if (Essayer([&] { document_.Enregistrer(*chemin); })) Dire(TNiveauEtat::Succes, u"Enregistré : " % *chemin);
+}
+
+void TFrmApercu::btnOuvrirClick() {
+  const auto chemin =
+      Dialogues().ChoisirFichier(QStringLiteral("Ouvrir un rapport"), QStringLiteral("Rapport (*.rap)"));
+  if (!chemin) return;
+  if (!Essayer([&] { Montrer(TDocumentPrepare::Ouvrir(*chemin)); })) return;
+  AllerPage(0);
+  Dire(TNiveauEtat::Succes, u"Ouvert : " % *chemin);
+}
+
+void TFrmApercu::btnFermerClick() {
+  ResultatModal = TResultatModal::Annule;
+  Fermer();
+}
+
+bool TFrmApercu::Essayer(const std::function<void()>& action) {
+  try {
+    action();
+    return true;
+  } catch (const Exception& e) {
+    Dialogues().Message(e.Message);
+    return false;
+  }
+}
+
+void TFrmApercu::Dire(TNiveauEtat niveau, const QString& texte) {
+  NiveauEtat = niveau;
+  Etat = texte;
+  Annoncer();
+}
+
+TPapier TFrmApercu::Papier() const {
+  const auto& pages = Document().Pages;
+  TPapier papier{{210, 297}};
+  if (!pages.empty())
+    papier.Taille =
+        QSizeF(static_cast<double>(pages[0].Largeur), static_cast<double>(pages[0].Hauteur)) / kPixelsParMm;
+  if (modele_ && !modele_->Pages.empty())
+    papier.Marge = static_cast<double>(modele_->Pages[0].Marge) / kPixelsParMm;
+  return papier;
+}
+
+void TFrmApercu::ChangerPapier(const TPapier& papier) {
+  if (!PapierModifiable()) return;
+  auto modele = std::make_shared<TModele>(*modele_);
+  for (TPageModele& page : modele->Pages) {
+    page.Largeur = std::round(static_cast<float>(papier.Taille.width() * kPixelsParMm));
+    page.Hauteur = std::round(static_cast<float>(papier.Taille.height() * kPixelsParMm));
+    page.Marge = std::round(static_cast<float>(papier.Marge * kPixelsParMm));
+  }
+  const int page = page_;
+  miseEnPage_.reset();  // before the template that it walks
+  modele_ = std::move(modele);
+  Commencer();
+  AllerPage(page);
+}
+
+QString TFrmApercu::TextePapier() const {
+  const QSizeF taille = Papier().Taille;
+  const QPageSize format(taille, QPageSize::Millimeter, {}, QPageSize::FuzzyOrientationMatch);
+  const QString nom = format.id() == QPageSize::Custom
+                          ? QString::number(std::lround(taille.width())) % u" × " %
+                                QString::number(std::lround(taille.height())) % u" mm"
+                          : format.name();
+  return nom % u", " %
+         (taille.width() > taille.height() ? QStringLiteral("paysage") : QStringLiteral("portrait"));
+}
+
+QString TFrmApercu::TexteDefauts() const {
+  const int nombre = static_cast<int>(Document().Defauts.size());
+  if (nombre == 0) return {};
+  return Accorder(nombre, QStringLiteral("avertissement"), QStringLiteral("avertissements"));
+}
+
+QStringList TFrmApercu::Defauts() const {
+  QStringList textes;
+  for (const TDefaut& defaut : Document().Defauts) {
+    QStringList ou;
+    for (const QString& nom : {defaut.Bande, defaut.Objet})
+      if (!nom.isEmpty()) ou += nom;
+    textes += ou.isEmpty() ? defaut.Message : ou.join(QStringLiteral(", ")) % u" : " % defaut.Message;
+  }
+  return textes;
+}
