@@ -1,0 +1,308 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include "screens/attendance/frm_ajout_releve.h"
+#include "screens/attendance/frm_presences.h"
+#include "support/ecran_essai.h"
+#include "workflows/lien_lecteur.h"
+
+namespace {
+
+const QString kImporter = QStringLiteral("Importer un fichier de présence");
+const QString kAnomalies = QStringLiteral("Des anomalies ont été détectées !");
+const QString kMemorisees = QStringLiteral("Les présences ont été mémorisées.");
+const QString kInexistant = QStringLiteral("La correction ne peut se faire que sur un élève existant");
+
+/// A scanner that holds one file, under the first or the second of its names.
+struct TLecteurEssai : ILienLecteur {
+  bool CeRapiInit() override {
+    if (Present) ++Ouvertures;
+    return Present;
+  }
+  void CeRapiUnInit() override { --Ouvertures; }
+  TPoignee CeCreateFile(const QString& chemin) override {
+    place_ = 0;
+    return chemin == Chemin ? 7 : 0;
+  }
+  bool CeReadFile(TPoignee, qint64 maximum, QByteArray& lu) override {
+    lu = Contenu.mid(place_, maximum);
+    place_ += lu.size();
+    return !Panne;
+  }
+  void CeCloseHandle(TPoignee) override { ++Fermes; }
+  bool CeDeleteFile(const QString& chemin) override {
+    if (chemin != Chemin) return false;
+    Chemin.clear();
+    return true;
+  }
+  bool Present = true;
+  bool Panne = false;
+  int Ouvertures = 0;
+  int Fermes = 0;
+  QString Chemin = QStringLiteral("\\Backup\\Presences\\Presences.txt");
+  QByteArray Contenu;
+
+ private:
+  qsizetype place_ = 0;
+};
+
+/// One pupil, code 11, a school with morning day-care and meals, and the day flat rate.
+struct TEcole {
+  TEcole() {
+    using namespace Essai;
+    TEcoleEssai ecole(Base);
+    ecole.tarif(Matin, TousLesJours, QStringLiteral("07:00"), QStringLiteral("08:30"), Forfait,
+                QStringLiteral("1"), ScanPresence);
+    ecole.tarif(FamilleRepas, TousLesJours, QStringLiteral("11:30"), QStringLiteral("13:30"), Forfait,
+                QStringLiteral("1"), ScanPresence);
+    ecole.parametre(30, QStringLiteral("1"));
+    ecole.unEleve().enClasse(QStringLiteral("P1"), QStringLiteral("A"));
+  }
+  TBaseEssai Base;
+};
+
+class FrmPresences : public testing::Test {
+ protected:
+  void SetUp() override {
+    Globals.DossierTemporaire = Base.Chemin({});
+    Base.Reglages.Ecrire(TRacine::Utilisateur, QStringLiteral("DossierPresences"),
+                         Base.Chemin(QStringLiteral("archives")));
+    Form.Montrer();
+  }
+  void Importer(const QByteArray& lignes) {
+    Base.Dialogues.Saisit(kImporter, Base.Fichier(QStringLiteral("scans.txt"), lignes));
+    Form.Importerunfichierdeprsence1Click();
+  }
+  QStringList Lignes(const TGrille& grille) const {
+    QStringList lignes;
+    for (int i = 0; i < grille.NombreLignes(); ++i)
+      lignes += QString(grille.Texte(i, TfrmPresences::Nom) % u'|' % grille.Texte(i, TfrmPresences::Type) %
+                        u'|' % grille.TexteVu(i, TfrmPresences::Etat));
+    return lignes;
+  }
+  QString Comptes() const {
+    const auto& c = Form.Compteurs();
+    return QStringLiteral("%1 %2 %3 %4").arg(c.lblEntree).arg(c.lblRecap).arg(c.lblAnomalie).arg(c.lblTotal) %
+           (c.AJour ? u"" : u" ?");
+  }
+  QString Stockees() { return Base.Valeur(QStringLiteral("SELECT COUNT(*) FROM PRESENCES")); }
+
+  TEcole Ecole;
+  TBaseEssai& Base = Ecole.Base;
+  TEcranEssai Ecran{Base};
+  TLecteurEssai Lecteur;
+  TfrmPresences Form{Ecran.Contexte};
+};
+
+const QByteArray kScans =
+    "11;1;20161003;073015000;1\n99;4;20161006;160000000;1\n11;2;20161003;120000000;1\n"
+    "11;1;20161004;110100000;2\n";
+
+}  // namespace
+
+TEST_F(FrmPresences, AFileByHandIsCorrectedAndStored) {
+  Base.Dialogues.Saisit(kImporter, {});
+  Form.Importerunfichierdeprsence1Click();
+  EXPECT_FALSE(Form.FichierLu());
+  Base.Dialogues.Saisit(kImporter, Base.Fichier(QStringLiteral("scans.txt"), kScans)).Attend(kAnomalies);
+  Form.Importerunfichierdeprsence1Click();
+  EXPECT_EQ(Lignes(Form.Recapitulatif),
+            (QStringList{"Eleve1|Garderie|", "Eleve1|Repas|", "Eleve1|Garderie|Forfait journée"}));
+  EXPECT_EQ(Lignes(Form.Anomalies),
+            (QStringList{"Matricule inconnu (99)|Etude|Inconnu", "Eleve1|Garderie|Sans tarif"}));
+  EXPECT_EQ(Form.Recapitulatif.Ligne(0).Objet.En<TPresence>()->HeureEntree, EncodeTime(7, 30));
+  EXPECT_EQ(Comptes(), u"4 3 2 5");
+  EXPECT_EQ(Form.Fichier(), u"Fichier choisi : scans.txt");
+  EXPECT_EQ(Form.Anomalies.LigneCourante(), 0);
+  EXPECT_EQ(Form.NoteAnomalies(), u"2 lignes ne seront pas mémorisées tant qu'elles ne sont pas corrigées");
+
+  Base.Dialogues.Attend(kInexistant);
+  Form.Corrigerlerelev1Click();
+  Form.Anomalies.ChoisirLigne(1);
+  Ecran.SurModale = [](TForm& form) { dynamic_cast<TFrmAjoutReleve&>(form).BitBtn2Click(); };
+  Form.Corrigerlerelev1Click();
+  EXPECT_EQ(Form.Anomalies.NombreLignes(), 2) << "given up";
+  Ecran.SurModale = [](TForm& form) {
+    auto& saisie = dynamic_cast<TFrmAjoutReleve&>(form);
+    EXPECT_EQ(QStringList({saisie.Date, saisie.Debut, saisie.Fin}), (QStringList{"04/10/2016", "", "11:01"}));
+    EXPECT_EQ(saisie.PremierChamp(), TFrmAjoutReleve::TChamp::Debut);
+    saisie.Debut = QStringLiteral("07:45");
+    saisie.Fin = QStringLiteral("  :  ");
+    EXPECT_TRUE(saisie.BitBtn1Click());
+  };
+  Form.Corrigerlerelev1Click();
+  EXPECT_EQ(Lignes(Form.Recapitulatif).last(), u"Eleve1|Garderie|Corrigé");
+  EXPECT_EQ(Form.Anomalies.NombreLignes(), 1);
+  EXPECT_EQ(Comptes(), u"4 4 1 5");
+  EXPECT_EQ(Form.NoteAnomalies(), u"1 ligne ne sera pas mémorisée tant qu'elle n'est pas corrigée");
+  EXPECT_EQ(Stockees(), u"0");
+
+  Base.Dialogues.Attend(kMemorisees);
+  Form.btnEtape2Click();
+  EXPECT_EQ(Stockees(), u"4");
+  EXPECT_EQ(Base.Valeur(QStringLiteral("SELECT COUNT(*) FROM PRESENCES WHERE HEURE_ENTREE = '07:45'")), u"1");
+  EXPECT_FALSE(Form.Etape2Active());
+  EXPECT_FALSE(Form.PeutCorriger());
+  EXPECT_EQ(Form.NoteAnomalies(), u"1 ligne n'a pas été mémorisée");
+  Form.btnEtape2Click();
+  Base.Dialogues.Attend(kInexistant);
+  Form.Corrigerlerelev1Click();
+  EXPECT_TRUE(Form.Fermer());
+  EXPECT_EQ(Ecran.Etats.last(), kMemorisees) << "nothing is left to store";
+}
+
+TEST_F(FrmPresences, LeavingSaysWhatIsNotStored) {
+  Importer("11;1;20161003;073015000;1\n11;1;20161004;073015000;1\n");
+  EXPECT_TRUE(Form.Fermer());
+  EXPECT_EQ(Ecran.Etats.last(), u"2 relevés non mémorisés");
+  EXPECT_EQ(Ecran.Niveau, TNiveauEtat::Alerte);
+}
+
+TEST_F(FrmPresences, ABadFileLeavesNothingToStore) {
+  Importer("11;1;20161003;073015000;1\n");
+  EXPECT_TRUE(Form.Etape2Active());
+  EXPECT_THROW(Importer("11;1;20161003;073015000;1\n11;x;20161003;073015000;1\n"), EConvertError);
+  EXPECT_EQ(Form.Recapitulatif.NombreLignes(), 0);
+  EXPECT_FALSE(Form.Etape2Active());
+  EXPECT_EQ(Comptes(), u"1 1 0 1 ?");
+  EXPECT_THROW(Importer(""), Exception);
+}
+
+TEST_F(FrmPresences, AStepTwoThatFailsCanBeTakenAgain) {
+  Importer("11;1;20161003;073015000;1\n11;1;20161003;073015000;1\n");
+  Base.Sql(QStringLiteral("DELETE FROM COUNTERS WHERE TABLE_NAME = 'PRESENCES'"));
+  Base.Dialogues.Attend(QStringLiteral("Le compteur de table PRESENCES n'existe pas !"));
+  EXPECT_THROW(Form.btnEtape2Click(), Exception);
+  EXPECT_TRUE(Form.Etape2Active());
+  EXPECT_FALSE(Form.Recapitulatif.Ligne(1).Objet) << "the second was dropped";
+  EXPECT_TRUE(Form.Fermer());
+  EXPECT_EQ(Ecran.Etats.last(), u"1 relevé non mémorisé");
+  Base.Sql(QStringLiteral("INSERT INTO COUNTERS VALUES ('PRESENCES', 0)"));
+  Base.Dialogues.Attend(kMemorisees);
+  Form.btnEtape2Click();
+  EXPECT_EQ(Stockees(), u"1");
+}
+
+TEST_F(FrmPresences, TheScannersFileIsCopiedStoredAndDeleted) {
+  const QString eteint = QStringLiteral("Veuillez vérifier si votre lecteur de code à barre est allumé");
+  Base.Dialogues.Attend(eteint).Attend(eteint);
+  Form.btnImportScannerClick();  // a machine that knows no scanner
+  Ecran.Contexte.Lecteur = &Lecteur;
+  Lecteur.Present = false;
+  Form.btnImportScannerClick();
+
+  Lecteur.Present = true;
+  Lecteur.Contenu = "11;1;20161003;073015000;1\n" + QByteArray(5000, ' ');
+  const QString erreur = QStringLiteral("L'erreur suivante s'est produite : ");
+  Base.Dialogues.Attend(erreur + u"Unable to open the remote file");
+  Form.btnImportScannerClick();
+  EXPECT_EQ(Form.Recapitulatif.NombreLignes(), 1);
+  EXPECT_EQ(Comptes(), u"0 0 0 0 ?") << "the counters are left as they were";
+  EXPECT_EQ(Lecteur.Ouvertures, 1);
+  EXPECT_TRUE(QFile::exists(Base.Chemin(QStringLiteral("Presences.txt"))));
+  Base.Dialogues.Attend(kMemorisees);
+  Form.btnEtape2Click();
+  EXPECT_TRUE(Lecteur.Chemin.isEmpty());
+  EXPECT_EQ(Lecteur.Ouvertures, 0);
+  EXPECT_FALSE(QFile::exists(Base.Chemin(QStringLiteral("Presences.txt"))));
+  EXPECT_TRUE(QFile::exists(Base.Chemin(QStringLiteral("archives/Presences-3.10.2016-7h5m0s.txt"))));
+
+  // Nothing to fetch, then a link that breaks, then a malformed file: the link is closed each time.
+  Base.Dialogues.Attend(erreur).Attend(erreur).Attend(QStringLiteral("Aucune donnée à récupérer"));
+  Form.btnImportScannerClick();
+  Lecteur.Chemin = QStringLiteral("\\StorageCard\\Presences\\Presences.txt");
+  Lecteur.Panne = true;
+  Base.Dialogues.Attend(erreur + u"Unable to read data")
+      .Attend(erreur)
+      .Attend(QStringLiteral("Aucune donnée"));
+  Form.btnImportScannerClick();
+  EXPECT_FALSE(QFile::exists(Base.Chemin(QStringLiteral("Presences.txt"))));
+  EXPECT_EQ(Lecteur.Ouvertures, 0);
+  Lecteur.Panne = false;
+  Lecteur.Contenu = "11;x\n";
+  EXPECT_THROW(Form.btnImportScannerClick(), EConvertError);
+  EXPECT_EQ(Lecteur.Ouvertures, 0);
+  EXPECT_FALSE(Lecteur.Chemin.isEmpty()) << "the file stays on the device";
+  EXPECT_EQ(Lecteur.Fermes, 3);
+}
+
+TEST_F(FrmPresences, TheTwoButtonsOfStepOne) {
+  EXPECT_TRUE(Form.ScannerVisible());
+  EXPECT_EQ(Form.TitreMenuImportation(), u"Importation depuis un site distant");
+  Form.mnuImportationClick();
+  EXPECT_EQ(Form.TitreMenuImportation(), u"Importation depuis un scanner local");
+  TEcoleEssai(Base).parametre(36, QStringLiteral("1"));
+  Globals.Parametres = std::make_unique<TParametres>(*Base);
+  TfrmPresences autre(Ecran.Contexte);
+  autre.Montrer();
+  EXPECT_FALSE(autre.ScannerVisible());
+  Base.Dialogues.Attend(QStringLiteral("pas encore disponible"));
+  autre.btnImportFTPClick();
+}
+
+TEST_F(FrmPresences, TheTabletsFileWithoutAWord) {
+  const QString fichier = Base.Fichier(QStringLiteral("presences.txt"), kScans);
+  TfrmPresences cachee(Ecran.Contexte);
+  cachee.ImporterTablette(fichier);
+  EXPECT_EQ(cachee.Compteurs().lblTotal, 5);
+  cachee.MemoriserTablette(fichier);
+  EXPECT_FALSE(QFile::exists(fichier));
+  EXPECT_EQ(Stockees(), u"3");
+}
+
+TEST_F(FrmPresences, TheDialogOfARecord) {
+  using TChamp = TFrmAjoutReleve::TChamp;
+  const TDateTime date = EncodeDate(2016, 10, 4);
+  TFrmAjoutReleve neuf(Ecran.Contexte);
+  neuf.Charger(TTypePresence::Garderie, 0, 0, date);
+  EXPECT_EQ(neuf.PremierChamp(), TChamp::Type);
+  EXPECT_FALSE(neuf.BitBtn1Click()) << "the first pass asks for the other time";
+  EXPECT_EQ(neuf.ChampAttendu(), TChamp::Fin);
+  EXPECT_EQ(neuf.Debut, u"00:00");
+  EXPECT_TRUE(neuf.BitBtn1Click());
+  EXPECT_EQ(neuf.HeureEntree(), 0.0);
+  EXPECT_EQ(neuf.HeureSortie(), 0.0);
+  EXPECT_EQ(neuf.CodeImplantation(), u"");
+
+  TFrmAjoutReleve corrige(Ecran.Contexte);
+  corrige.Mode = TFrmAjoutReleve::Correction;
+  corrige.Charger(TTypePresence::Etude, 0, EncodeTime(16, 5), date);
+  EXPECT_EQ(corrige.PremierChamp(), TChamp::Fin);
+  corrige.Fin = QStringLiteral("16:75");
+  EXPECT_THROW(corrige.BitBtn1Click(), EConvertError);
+  EXPECT_EQ(corrige.ChampAttendu(), TChamp::Fin);
+  EXPECT_NE(corrige.ResultatModal, TResultatModal::Valide);
+  corrige.Fin = QStringLiteral("17:00");
+  EXPECT_EQ(corrige.PremierChamp(), TChamp::Type) << "no time is missing";
+  corrige.Date = QStringLiteral("31/02/2016");
+  EXPECT_THROW(corrige.BitBtn1Click(), EConvertError);
+  EXPECT_EQ(corrige.ChampAttendu(), TChamp::Date);
+  corrige.Date = QStringLiteral("5/10/16");
+  corrige.IndexType = -1;
+  Base.Dialogues.Attend(QStringLiteral("Veuillez sélectionner un type de relevé"));
+  EXPECT_FALSE(corrige.BitBtn1Click());
+  corrige.IndexType = 1;
+  EXPECT_TRUE(corrige.BitBtn1Click());
+  EXPECT_EQ(corrige.TypePresence(), TTypePresence::Repas);
+  EXPECT_EQ(corrige.DateReleve(), EncodeDate(2016, 10, 5));
+  EXPECT_EQ(corrige.HeureSortie(), EncodeTime(17, 0));
+}
+
+TEST_F(FrmPresences, TheDialogAsksForTheSite) {
+  Base.Sql(
+      QStringLiteral("INSERT INTO IMPLANTATION (IMPLANTATION_ID, CODE_IMPLANTATION, LIBELLE_COURT) VALUES "
+                     "(1, 'C1', 'Centre')"));
+  TEcoleEssai(Base).parametre(113, QStringLiteral("1"));
+  Globals.Parametres = std::make_unique<TParametres>(*Base);
+  Ecran.Essai.Controleur.ChargerAnnee(2016);
+  TFrmAjoutReleve saisie(Ecran.Contexte);
+  saisie.Charger(TTypePresence::Repas, 0, EncodeTime(12, 0), EncodeDate(2016, 10, 4));
+  EXPECT_TRUE(saisie.Implantations().contains(QStringLiteral("Centre")));
+  Base.Dialogues.Attend(QStringLiteral("Vous devez indiquer l'implantation où le relevé s'est effectué."));
+  EXPECT_FALSE(saisie.BitBtn1Click());
+  EXPECT_EQ(saisie.ChampAttendu(), TFrmAjoutReleve::TChamp::Implantation);
+  saisie.IndexImplantation = static_cast<int>(saisie.Implantations().indexOf(u"Centre"));
+  EXPECT_TRUE(saisie.BitBtn1Click());
+  EXPECT_EQ(saisie.CodeImplantation(), u"C1");
+}

@@ -1,0 +1,28 @@
+#pragma once
+#include "screens/contexte_ecran.h"
+#include "support/controleur_essai.h"
+
+/// What a screen is given in a test: it notes what the status bar says, and answers a modal form by
+/// what the test wants done with it.
+class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal {
+ public:
+  explicit TEcranEssai(TBaseEssai& base) : Essai(base) { Essai.Charger(); }
+
+  TResultatModal MontrerModal(TForm& form) override {
+    form.Montrer();
+    if (SurModale) SurModale(form);
+    return form.ResultatModal;
+  }
+  void Afficher(TRapport&) override {}
+  void Envoyer(const TMessage&) override {}
+  void Etat(TNiveauEtat niveau, const QString& texte) override {
+    Niveau = niveau;
+    Etats += texte;
+  }
+
+  TControleurEssai Essai;
+  std::function<void(TForm&)> SurModale;
+  TNiveauEtat Niveau{};
+  QStringList Etats;
+  TContexteEcran Contexte{Essai.Controleur, *this, *this, *this};
+};
