@@ -1,0 +1,39 @@
+#pragma once
+#include "core/currency.h"
+#include "forms/grille.h"
+
+class TEleve;
+
+/// How a row of the list stands: the index of its state in the grid.
+enum TEtatFrais { EtatPaye, EtatDu, EtatPartiel, EtatRecu, EtatPrevision };
+
+/// "Frais et paiements": the fees of the catalogue, the months whose services cost something, the free
+/// payments. The object of a row is its TFraisEleve, or the TPaiement of a month that was paid.
+class TFraisPaiements {
+ public:
+  enum TColonne { Libelle, Mois, MontantDu, MontantVerse };
+
+  TFraisPaiements();
+  TFraisPaiements(const TFraisPaiements&) = delete;
+  TFraisPaiements& operator=(const TFraisPaiements&) = delete;
+
+  void Remplir(const TEleve& eleve);
+  void Vider();
+
+  TGrille Grille;
+  /// The rows that end the list, always in sight: "Total", which like the account leaves the forecast
+  /// fees out, and "Balance".
+  std::vector<QStringList> Pied;
+  /// Of the whole account; positive when the family has paid more than it owes.
+  Currency Solde;
+
+ private:
+  void AjouterFrais(const TEleve& eleve);
+  void AjouterServices(const TEleve& eleve);
+  void AjouterPaiementsLibres(const TEleve& eleve);
+  void Compter(Currency du, Currency verse);
+  void EcrirePied();
+
+  Currency totalDu_;
+  Currency totalVerse_;
+};

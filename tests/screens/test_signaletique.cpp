@@ -1,0 +1,247 @@
+#include "screens/signaletique_essai.h"
+
+#include "documents/catalogue.h"
+
+namespace {
+
+using TSignaletique = TSignaletiqueEssai;
+
+QString Boites(const std::array<bool, 10>& mois) {
+  QString texte;
+  for (const bool coche : mois) texte += coche ? u'x' : u'.';
+  return texte;
+}
+
+}  // namespace
+
+TEST_F(TSignaletique, QuiEstLEleve) {
+  const TFrmSignaletique& fiche = Ouvrir(rose);
+  const TFicheEleve& e = fiche.Fiche();
+  EXPECT_EQ(e.NomComplet, u"LAMBERT Élise"_s);
+  EXPECT_EQ(e.SousTitre(), u"P3 A  ·  Matricule 212-04127-38"_s);
+  EXPECT_EQ(e.DateNaissance, u"14/03/2010"_s);
+  const auto& [premier, second] = e.Responsables;
+  EXPECT_EQ((QStringList{premier.Nom, premier.Prenom, premier.Adresse, premier.Numero, premier.CodePostal,
+                         premier.Localite})
+                .join(u'|'),
+            u"LAMBERT|Nathalie|Rue des Tanneurs|12|5000|Namur"_s);
+  EXPECT_EQ(second.Nom, u"COLLIN"_s);
+  EXPECT_EQ(second.CodePostal, QString());  // 0 is none
+  EXPECT_EQ(e.NumCompte, u"BE71 0961 2345 6769"_s);
+  EXPECT_EQ(e.NomTitulaireCompte, u"LAMBERT N."_s);
+  EXPECT_TRUE(e.FlgParentSepare && e.FlgImpotRespons2);
+  EXPECT_FALSE(e.Flg2eEnfant || e.Flg3eEnfant || e.FlgFactureDetail || e.FlgRadie);
+  EXPECT_EQ(Boites(fiche.Mois()[0].Mois), u"x........."_s);
+  EXPECT_EQ(Boites(fiche.Mois()[1].Mois), u"xxxxxxxxxx"_s);
+  EXPECT_EQ(Boites(fiche.Mois()[2].Mois), u"....x....."_s);  // of January 2017
+  EXPECT_TRUE(fiche.Mois()[1].Tous() && !fiche.Mois()[0].Tous());
+}
+
+TEST_F(TSignaletique, ReleveDuMoisParService) {
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  EXPECT_EQ(Lignes(fiche.Releve.Grille),
+            (QStringList{u"#Garderie du matin|2 relevés|||2,00 €"_s, u"|lun. 03/10|07:32||1,00 €"_s,
+                         u"|mar. 04/10|07:40||1,00 €"_s, u"#Garderie du midi|1 relevé|||0,50 €"_s,
+                         u"|lun. 03/10|12:15||0,50 €"_s, u"#Garderie du soir|1 relevé|||2,25 €"_s,
+                         u"|lun. 03/10||16:48|2,25 €"_s, u"#Garderie mercredi|1 relevé|||3,00 €"_s,
+                         u"|mer. 05/10|14:00|15:10|3,00 €"_s, u"#Etudes|1 relevé|||4,00 €"_s,
+                         u"|mar. 04/10|15:45||4,00 €"_s, u"#Repas|1 relevé|||5,00 €"_s,
+                         u"|mar. 04/10|12:00||5,00 €"_s, u"#Soupes|1 relevé|||0,75 €"_s,
+                         u"|mar. 04/10|12:00||0,75 €"_s}));
+  EXPECT_EQ(Euros(fiche.Releve.Total), "17.5000");
+  EXPECT_EQ(fiche.TexteSansReleve(), QString());
+
+  fiche.cmbMoisChange(4);
+  EXPECT_EQ(Lignes(fiche.Releve.Grille),
+            (QStringList{u"#Garderie du matin|1 relevé|||1,00 €"_s, u"|lun. 09/01|07:30||1,00 €"_s}));
+  fiche.cmbMoisChange(5);
+  EXPECT_EQ(fiche.TexteSansReleve(), u"Aucun relevé en février"_s);
+  EXPECT_EQ(Euros(fiche.Releve.Total), "0.0000");
+}
+
+TEST_F(TSignaletique, LaGratuiteNeVautQuePourLAccueil) {
+  rose.avec(u"FLG_3E_ENFANT"_s);
+  const TFrmSignaletique& fiche = Ouvrir(rose);
+  const TGrille& grille = fiche.Releve.Grille;
+  EXPECT_EQ(grille.NombreLignes(), 15);
+  EXPECT_EQ(grille.Texte(0, 4), u"0,00 €"_s);
+  EXPECT_EQ(grille.Texte(1, 4), u"0,00 €"_s);
+  EXPECT_EQ(Euros(fiche.Releve.Total), Euros(Globals.EleveCourant->TotalServices(BornesMois(10, 2016))));
+  EXPECT_EQ(Euros(fiche.Releve.Total), "5.7500");
+}
+
+TEST_F(TSignaletique, FraisEtPaiementsDansLOrdre) {
+  const TFrmSignaletique& fiche = Ouvrir(rose);
+  EXPECT_EQ(Lignes(fiche.Frais.Grille),
+            (QStringList{u"Classes de mer|Février|185,00 €|50,00 €|Partiel"_s,
+                         u"Photocopies|Septembre|25,00 €|25,00 €|Payé"_s, u"Stage|Octobre|3,00 €||Dû"_s,
+                         u"Voyage|Mai|400,00 €||Prévision"_s, u"Services octobre|Octobre|17,50 €||Dû"_s,
+                         u"Services novembre|Novembre|1,00 €|1,00 €|Payé"_s,
+                         u"Services janvier|Janvier|1,00 €|0,40 €|Partiel"_s,
+                         u"Acompte|Novembre||30,00 €|Reçu"_s}));
+  // The forecast stands in the list and in no total.
+  EXPECT_EQ(fiche.Frais.Pied[0].join(u'|'), u"Total||232,50 €|106,40 €"_s);
+  EXPECT_EQ(fiche.Frais.Pied[1].join(u'|'), u"Balance|||-126,10 €"_s);
+  EXPECT_EQ(fiche.Solde(), Globals.EleveCourant->Solde(true, true));
+  EXPECT_EQ(fiche.EtatSolde().Texte, u"À payer"_s);
+}
+
+TEST_F(TSignaletique, UnElevePuisUnAutreSansRienEcrire) {
+  const QStringList tables{u"ELEVES"_s, u"FRAIS_ELEVE"_s, u"PAIEMENTS"_s, u"PRESENCES"_s,
+                           u"PRESENCES_PARTICULIERES"_s};
+  const auto contenu = [&] {
+    QStringList tout;
+    for (const QString& table : tables) tout += base.Rangees(u"SELECT * FROM "_s + table);
+    return tout;
+  };
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  fiche.Releve.Grille.Fermer(0, true);
+  const QStringList avant = contenu();
+  Choisir(vide.Id);
+  EXPECT_EQ(fiche.Fiche().NomComplet, Globals.EleveCourant->NomComplet());
+  EXPECT_EQ(fiche.Fiche().Responsables[0].Nom + fiche.Fiche().NumCompte + fiche.Fiche().DateNaissance,
+            QString());
+  EXPECT_FALSE(fiche.Mois()[1].Mois[0]);
+  EXPECT_EQ(fiche.Releve.Grille.NombreLignes() + fiche.Frais.Grille.NombreLignes(), 0);
+  EXPECT_EQ(fiche.EtatSolde().Texte, u"En ordre"_s);
+  // A class leaves the screen on its pupil.
+  EXPECT_FALSE(Diffuser(TCodeMessage::ClasseChange, fiche));
+  EXPECT_TRUE(fiche.AvecEleve());
+  Choisir(rose.Id);
+  EXPECT_TRUE(fiche.Releve.Grille.EstFerme(0));
+  Globals.Eleves->Save();
+  Globals.PresencesParticulieres->Save();
+  EXPECT_EQ(contenu(), avant);
+  EXPECT_EQ(principal.Envois, 0);
+}
+
+TEST_F(TSignaletique, SansEleve) {
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  fiche.ModificationDemandee();  // read only, said without a dialog
+  EXPECT_EQ(principal.Etats.size(), 1);
+  // The year is loaded again: nobody is selected, and nothing of the pupil who went stays.
+  controleur.Charger();
+  EXPECT_TRUE(Diffuser(TCodeMessage::EleveChange, fiche));
+  EXPECT_FALSE(fiche.AvecEleve());
+  EXPECT_EQ(fiche.Fiche().NomComplet + fiche.TexteSansReleve(), QString());
+  EXPECT_EQ(fiche.Releve.Grille.NombreLignes() + fiche.Frais.Grille.NombreLignes(), 0);
+  fiche.cmbMoisChange(3);
+  base.Dialogues.Attend(u"Veuillez sélectionner un élève"_s);
+  fiche.ModificationDemandee();
+  // Classes can be printed all the same.
+  EXPECT_TRUE(Diffuser(TCodeMessage::Imprimer, fiche));
+  EXPECT_EQ(assistant.Demande.Titres.size(), 16U);
+}
+
+TEST_F(TSignaletique, UnePhotoIllisibleNeCachePasLEleve) {
+  base.Sql(u"INSERT INTO ELEVE_PHOTO (ELEVE_PHOTO_ID, ELEVE_ID, PHOTO) VALUES (1, %1, 'zut')"_s.arg(rose.Id));
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  EXPECT_TRUE(fiche.Photo().isNull());
+  EXPECT_EQ(principal.Etats.size(), 1);
+  EXPECT_EQ(fiche.Frais.Grille.NombreLignes(), 8);
+}
+
+TEST_F(TSignaletique, MoisDuJour) {
+  const struct {
+    TDateTime Jour;
+    int Indice;
+  } cas[] = {{J("2016-09-01"), 0}, {J("2016-12-31"), 3}, {J("2017-01-01"), 4},
+             {J("2017-06-30"), 9}, {J("2017-07-01"), 0}, {J("2017-08-31"), 0}};
+  for (const auto& [jour, indice] : cas) {
+    controleur.Horloge.Moment = jour + 0.5;
+    EXPECT_EQ(TFrmSignaletique(contexte).IndiceMois(), indice) << jour;
+  }
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  fiche.cmbMoisChange(6);
+  Choisir(vide.Id);
+  EXPECT_EQ(fiche.IndiceMois(), 6);
+}
+
+TEST_F(TSignaletique, ActivitesExterieures) {
+  EXPECT_FALSE(Ouvrir(rose).ActivitesExtVisibles());
+  EXPECT_FALSE(ecran->ActivitesVisibles());
+  rose.suit(ecole.activite(u"16:00"_s, u"17:00"_s), u"14"_s);
+  const struct {
+    const char* Parametre;
+    const char* Titre;
+  } cas[] = {{"1", "Activités extérieures (du 28 septembre au 30 juin)"},
+             {"2", "Activités extérieures (du 5 octobre au 30 juin)"},
+             {"3", ""}};
+  for (const auto& [parametre, titre] : cas) {
+    ecole.parametre(100, QString::fromLatin1(parametre));
+    const TFrmSignaletique& fiche = Ouvrir(rose);
+    EXPECT_EQ(fiche.TitreActivitesExt(), QString::fromUtf8(titre));
+    EXPECT_EQ(fiche.JoursActivite(), (std::array{true, false, false, true, false}));
+    EXPECT_TRUE(fiche.ActivitesVisibles());
+    EXPECT_TRUE(fiche.Activites().endsWith(u" (lundi, jeudi)"_s));
+  }
+}
+
+TEST_F(TSignaletique, TitresDeLAssistant) {
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  const TDemandeAssistant& demande = assistant.Demande;
+  EXPECT_TRUE(Diffuser(TCodeMessage::Imprimer, fiche));
+  ASSERT_EQ(demande.Titres.size(), 16U);
+  EXPECT_TRUE(demande.PageQui && demande.PagePeriode && demande.Demandeur == &fiche);
+  for (std::size_t i = 0; i < 16; ++i) {
+    EXPECT_EQ(IndiceTitre(demande.Titres[i].Titre), static_cast<int>(i));
+    EXPECT_EQ(demande.Titres[i].AvecPeriode, TitresDocuments()[i].AvecPeriode);
+  }
+  EXPECT_FALSE(fiche.DemandeCourriel());
+  EXPECT_TRUE(Diffuser(TCodeMessage::Courriel, fiche));
+  ASSERT_EQ(demande.Titres.size(), 6U);
+  EXPECT_EQ(demande.Titres[0].Titre, u"Facture"_s);
+  EXPECT_EQ(demande.Titres[5].Titre, u"Balance des comptes définitive"_s);
+  EXPECT_TRUE(demande.Titres[3].AvecPeriode && !demande.Titres[4].AvecPeriode);
+  EXPECT_TRUE(fiche.DemandeCourriel());
+}
+
+TEST_F(TSignaletique, LeChoixDeLAssistantFaitLeDocument) {
+  ecole.parametre(32, u"1"_s);
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  TChoixDocument choix;
+  choix.Eleves = {Globals.EleveCourant};
+  choix.DateDebut = J("2016-10-01");
+  choix.DateFin = J("2016-10-31");
+  const auto confirmer = [&](int indice) {
+    apercu.Titres.clear();
+    modale.Fois = 0;
+    choix.Indice = indice;
+    EXPECT_TRUE(Diffuser(TCodeMessage::AssistantConfirme, fiche, choix));
+    EXPECT_EQ(base.Dialogues.Attentes, 0);
+  };
+  modale.Date = J("2016-11-10");
+  confirmer(6);
+  EXPECT_EQ(modale.Fois, 1);
+  EXPECT_EQ(apercu.Titres.size(), 1);
+
+  modale.Date.reset();  // given up: nothing is made, nothing is said
+  confirmer(6);
+  EXPECT_EQ(modale.Fois, 1);
+  EXPECT_EQ(apercu.Titres.size(), 0);
+
+  confirmer(8);
+  EXPECT_EQ(modale.Fois, 0);
+  EXPECT_EQ(apercu.Titres, QStringList{u"Relevé détaillé des services"_s});
+
+  choix.Eleves = {Globals.Eleves->TrouverParId(vide.Id)};
+  base.Dialogues.Attend(u"Aucun relevé à imprimer."_s);
+  confirmer(8);
+  EXPECT_EQ(apercu.Titres.size(), 0);
+}
+
+// The six titles for mail are dispatched by the list of sixteen: "Facture", the first, gives labels.
+TEST_F(TSignaletique, LeCourrielEstServiParLaListeEntiere) {
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  Diffuser(TCodeMessage::Courriel, fiche);
+  TChoixDocument choix;
+  choix.Eleves = {Globals.EleveCourant};
+  const TResultat attendu = FaireDocument(ContexteDesGlobals(), choix);
+  for (const QString& message : attendu.Messages) base.Dialogues.Attend(message);
+  EXPECT_TRUE(Diffuser(TCodeMessage::AssistantConfirme, fiche, choix));
+  QStringList titres;
+  for (const TRapport& rapport : attendu.Rapports) titres += rapport.Titre();
+  EXPECT_EQ(apercu.Titres, titres);
+  EXPECT_FALSE(attendu.Messages.isEmpty() && titres.isEmpty());
+  EXPECT_FALSE(titres.contains(u"Facture"_s));
+}
