@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "screens/principal/frm_ajout_professeur.h"
+#include "ui/principal/vue_ajout_professeur.h"
 
 namespace {
 
@@ -13,7 +15,7 @@ struct TFabriqueVue {
 };
 
 template <class Form, class Vue>
-[[maybe_unused]] constexpr TFabriqueVue VueDe() {
+constexpr TFabriqueVue VueDe() {
   return {typeid(Form),
           [](TForm& form, QWidget* parent) -> QWidget* { return new Vue(static_cast<Form&>(form), parent); }};
 }
@@ -22,7 +24,9 @@ template <class Form, class Vue>
 
 QWidget* CreerVue(TForm& form, QWidget* parent) {
   // One line a screen: VueDe<TFrmImport, VueImport>(),
-  static const std::vector<TFabriqueVue> kVues;
+  static const std::vector<TFabriqueVue> kVues{
+      VueDe<TFrmAjoutProfesseur, VueAjoutProfesseur>(),
+  };
   for (const TFabriqueVue& vue : kVues)
     if (vue.Classe == typeid(form)) return vue.Creer(form, parent);
   return nullptr;

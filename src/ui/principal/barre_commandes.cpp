@@ -1,0 +1,188 @@
+#include "ui/principal/barre_commandes.h"
+
+#include <QActionGroup>
+#include <QMenu>
+
+#include "screens/principal/frm_main.h"
+#include "ui/commun/theme.h"
+
+namespace {
+
+constexpr int kHauteurOnglets = 30;
+constexpr int kHauteurCommandes = 76;
+
+/// A button of the bar: the Tab key reaches it, a click leaves the focus where the hand is.
+QToolButton* CreerOnglet(const QString& texte) {
+  auto* bouton = new QToolButton;
+  bouton->setText(texte);
+  bouton->setProperty("genre", QStringLiteral("onglet"));
+  bouton->setCheckable(true);
+  bouton->setFocusPolicy(Qt::TabFocus);
+  return bouton;
+}
+
+/// Its text in bold when it is checked, for which there is room from the start.
+class BoutonCommande : public QToolButton {
+ public:
+  BoutonCommande(const QString& texte, const QString& icone, TRole role) {
+    setText(QString(texte).remove(u'&'));
+    setShortcut(QKeySequence::mnemonic(texte));  // told by the tip
+    setProperty("genre", QStringLiteral("commande"));
+    setFocusPolicy(Qt::TabFocus);
+    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    setIcon(Theme::Icone(icone, role));
+    setIconSize({Theme::Px(32), Theme::Px(32)});
+  }
+  QSize sizeHint() const override {
+    return {qMax(Theme::Px(93), LargeurTexte() + Theme::Px(24)), Theme::Px(64)};
+  }
+  QSize minimumSizeHint() const override { return {LargeurTexte() + Theme::Px(8), Theme::Px(64)}; }
+
+ private:
+  int LargeurTexte() const { return QFontMetrics(Theme::Gras()).horizontalAdvance(text()); }
+};
+
+QString ToucheAlt(const QString& libelle) {
+  const auto place = libelle.indexOf(u'&');
+  return place < 0 ? QString() : QString(u" (Alt+" % libelle.at(place + 1).toUpper() % u')');
+}
+
+}  // namespace
+
+BarreCommandes::BarreCommandes(TFrmMain& form, QWidget* parent) : QWidget(parent), form_(form) {
+  setAccessibleName(QStringLiteral("Barre de commandes"));
+  auto* onglets = new QHBoxLayout;
+  onglets->setContentsMargins(Theme::Px(8), 0, Theme::Px(16), 0);
+  onglets->setSpacing(0);
+  CreerOnglets(*onglets);
+  auto* commandes = new QHBoxLayout;
+  commandes->setContentsMargins(Theme::Px(8), 0, Theme::Px(8), 0);
+  commandes->setSpacing(Theme::Px(6));
+  CreerCommandes(*commandes);
+  CreerOutils(*commandes);
+  commandes->addStretch();
+  auto* colonne = new QVBoxLayout(this);
+  colonne->setContentsMargins(0, 0, 0, 0);
+  colonne->setSpacing(0);
+  colonne->addLayout(onglets);
+  colonne->addLayout(commandes, 1);
+  setFixedHeight(Theme::Px(kHauteurOnglets + kHauteurCommandes));
+  Actualiser();
+}
+
+void BarreCommandes::CreerOnglets(QHBoxLayout& ligne) {
+  for (const TPagePrincipale& page : PagesPrincipales()) {
+    QToolButton* onglet = CreerOnglet(page.Titre);
+    onglet->setFixedHeight(Theme::Px(kHauteurOnglets));
+    connect(onglet, &QToolButton::clicked, this, [this, page] {
+      form_.PageClick(page.Page);
+      Actualiser();
+    });
+    ligne.addWidget(onglet);
+    onglets_[page.Page] = onglet;
+  }
+  ligne.addStretch();
+  annees_ = CreerOnglet({});
+  annees_->setCheckable(false);
+  annees_->setFixedHeight(Theme::Px(kHauteurOnglets));
+  annees_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  annees_->setIcon(Theme::Icone(QStringLiteral("view-calendar")));
+  annees_->setIconSize({Theme::Px(16), Theme::Px(16)});
+  annees_->setToolTip(QStringLiteral("Année affichée (Ctrl+0)"));
+  connect(annees_, &QToolButton::clicked, this, &BarreCommandes::OuvrirMenuAnnees);
+  ligne.addWidget(annees_);
+}
+
+void BarreCommandes::CreerCommandes(QHBoxLayout& ligne) {
+  for (const TCommandePrincipale& commande : form_.Commandes) {
+    auto* bouton = new BoutonCommande(commande.Libelle, commande.Icone, TRole::Accent);
+    bouton->setCheckable(true);
+    connect(bouton, &QToolButton::clicked, this, [this, quoi = commande.Gestionnaire] {
+      Actualiser();  // it is the screen that is open, and not the click, that checks a command
+      form_.Executer(quoi);
+    });
+    ligne.addWidget(bouton);
+    commandes_[commande.Gestionnaire] = bouton;
+  }
+}
+
+void BarreCommandes::CreerOutils(QHBoxLayout& ligne) {
+  separateur_ = new QWidget;  // drawn by paintEvent
+  separateur_->setFixedWidth(Theme::Px(16));
+  ligne.addWidget(separateur_);
+  for (const TOutilPrincipal& outil : OutilsPrincipaux()) {
+    const TRole role = outil.Outil == TOutil::btnDelete ? TRole::Erreur : TRole::Texte;
+    auto* bouton = new BoutonCommande(outil.Libelle, outil.Icone, role);
+    bouton->setToolTip(outil.Libelle % u" (" % outil.Touche % u')');
+    connect(bouton, &QToolButton::clicked, this, [this, quoi = outil.Outil] { form_.OutilClick(quoi); });
+    ligne.addWidget(bouton);
+    outils_[outil.Outil] = bouton;
+  }
+}
+
+void BarreCommandes::Actualiser() {
+  for (const auto& [page, onglet] : onglets_) onglet->setVisible(form_.PageVisible(page));
+  for (const TPagePrincipale& page : form_.Pages()) {
+    QToolButton* onglet = onglets_.at(page.Page);
+    onglet->setText(page.Titre);
+    onglet->setChecked(page.Page == form_.PageActive());
+    onglet->setEnabled(!form_.EnTravail());
+  }
+  const TCommandePrincipale* ouverte = form_.CommandeOuverte();
+  for (const TCommandePrincipale& commande : form_.Commandes) {
+    QToolButton* bouton = commandes_.at(commande.Gestionnaire);
+    const QString raison = form_.RaisonInactive(commande);
+    bouton->setVisible(form_.CommandeVisible(commande));
+    bouton->setChecked(&commande == ouverte);
+    bouton->setEnabled(raison.isEmpty());
+    bouton->setToolTip(commande.Nom() %
+                       (raison.isEmpty() ? ToucheAlt(commande.Libelle) : QString(u" : " % raison)));
+  }
+  bool unOutil = false;
+  for (const auto& [outil, bouton] : outils_) {
+    unOutil = unOutil || form_.OutilVisible(outil);
+    bouton->setVisible(form_.OutilVisible(outil));
+    bouton->setEnabled(form_.OutilActif(outil));
+  }
+  separateur_->setVisible(unOutil);
+  annees_->setVisible(!form_.IntituleAnnee().isEmpty());
+  annees_->setText(form_.IntituleAnnee() % u"  ▾");
+  annees_->setAccessibleName(form_.IntituleAnnee());
+  annees_->setEnabled(form_.EstRelie() && !form_.EnTravail());
+  update();
+}
+
+void BarreCommandes::OuvrirMenuAnnees() {
+  if (!annees_->isEnabled() || !annees_->isVisible()) return;
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  auto* groupe = new QActionGroup(menu);
+  for (const int annee : form_.Annees()) {
+    QAction* choix = menu->addAction(AnneeEnTexte(annee));
+    choix->setCheckable(true);
+    choix->setActionGroup(groupe);
+    choix->setChecked(annee == form_.AnneeCochee());
+    if (choix->isChecked()) menu->setActiveAction(choix);
+    connect(choix, &QAction::triggered, this, [this, annee] { form_.mnuAnneeClick(annee); });
+  }
+  const QSize taille = menu->sizeHint();
+  menu->popup(annees_->mapToGlobal(QPoint(annees_->width() - taille.width(), annees_->height())));
+}
+
+void BarreCommandes::ActiverPage(int rang) {
+  const auto pages = form_.Pages();
+  if (form_.EnTravail() || rang < 0 || rang >= static_cast<int>(pages.size())) return;
+  form_.PageClick(pages[static_cast<std::size_t>(rang)].Page);
+}
+
+void BarreCommandes::paintEvent(QPaintEvent*) {
+  QPainter peintre(this);
+  peintre.setPen(Theme::Ligne());
+  const int onglets = Theme::Px(kHauteurOnglets);
+  peintre.drawLine(0, onglets, width(), onglets);
+  peintre.drawLine(0, height() - 1, width(), height() - 1);
+  if (separateur_->isVisible()) {
+    const int x = separateur_->geometry().center().x();
+    peintre.drawLine(x, onglets + Theme::Px(6), x, height() - Theme::Px(6));
+  }
+}

@@ -1,0 +1,59 @@
+#include "ui/principal/barre_etat.h"
+
+#include <QAccessible>
+
+#include "screens/principal/frm_main.h"
+#include "ui/commun/marque_etat.h"
+
+BarreEtat::BarreEtat(const TFrmMain& form, QWidget* parent)
+    : QWidget(parent),
+      form_(form),
+      etat_(new MarqueEtat),
+      ecart_(new MarqueEtat),
+      affichee_(new Etiquette({}, TRole::Secondaire)),
+      travail_(new Etiquette({}, TRole::Secondaire)),
+      serveur_(new Etiquette({}, TRole::Secondaire)) {
+  setAccessibleName(QStringLiteral("État"));
+  auto* ligne = new QHBoxLayout(this);
+  ligne->setContentsMargins(Theme::Px(14), 1, Theme::Px(14), 0);
+  ligne->setSpacing(Theme::Px(24));
+  ligne->addWidget(etat_, 1);
+  ligne->addWidget(ecart_);
+  for (Etiquette* texte : {affichee_, travail_, serveur_}) ligne->addWidget(texte);
+  setFixedHeight(Theme::Px(24));
+  Actualiser();
+}
+
+void BarreEtat::Actualiser() {
+  const bool relie = form_.EstRelie();
+  const int affichee = form_.AnneeCochee(), travail = Globals.AnneeScolaire;
+  for (Etiquette* texte : {affichee_, travail_}) texte->setVisible(relie);
+  affichee_->setText(u"Affichée : " % AnneeEnTexte(affichee));
+  travail_->setText(u"Année de travail : " % AnneeEnTexte(travail));
+  ecart_->setVisible(relie && affichee != travail);
+  ecart_->Definir(TNiveauEtat::Alerte, QStringLiteral("Année affichée ≠ année de travail"));
+  const QString serveur = form_.Serveur();
+  serveur_->setText(!serveur.isEmpty()      ? QString(u"Serveur : " % serveur)
+                    : Globals.ModeHorsLigne ? QStringLiteral("Hors ligne")
+                                            : QStringLiteral("Non connecté"));
+}
+
+void BarreEtat::MontrerEtat() {
+  const TEtatPrincipal& etat = form_.Etat();
+  if (etat.Niveau == TNiveauEtat::Neutre && form_.EnTravail())
+    etat_->Definir(QStringLiteral("data-information"), etat.Texte);
+  else
+    etat_->Definir(etat.Niveau, etat.Texte);
+  etat_->setAccessibleName(etat.Texte);
+  if (etat.Texte.isEmpty()) return;
+  QAccessibleEvent annonce(etat_, QAccessible::Alert);
+  QAccessible::updateAccessibility(&annonce);
+}
+
+QString BarreEtat::Texte() const { return etat_->Texte(); }
+
+void BarreEtat::paintEvent(QPaintEvent*) {
+  QPainter peintre(this);
+  peintre.setPen(Theme::Ligne());
+  peintre.drawLine(0, 0, width(), 0);
+}

@@ -1,0 +1,36 @@
+#include "ui/principal/dialogue_saisie.h"
+
+#include <QLineEdit>
+
+#include "ui/commun/champ_libelle.h"
+
+namespace {
+
+/// What a person needs to know to answer, besides what is asked.
+QString Aide(const QString& titre) {
+  if (titre != u"Identification du Serveur de données") return {};
+  return QStringLiteral(
+      "Le nom « local » fait travailler ce poste seul, sans serveur : les données sont alors dans un fichier "
+      "de cet ordinateur, créé à la première ouverture.");
+}
+
+}  // namespace
+
+DialogueSaisie::DialogueSaisie(const QString& titre, const QString& invite, const QString& valeur,
+                               QWidget* parent)
+    : DialogueBase(titre, parent), champ_(new QLineEdit(valeur)) {
+  setMinimumWidth(Theme::Px(520));
+  auto* champ = new ChampLibelle(invite.section(u'\n', 0, 0), champ_, ChampLibelle::Dessus);
+  Contenu()->addWidget(champ);
+  const QStringList notes = invite.split(u'\n').mid(1) + QStringList{Aide(titre)};
+  for (const QString& texte : notes) {
+    if (texte.isEmpty()) continue;
+    auto* note = new Etiquette(texte, TRole::Secondaire);
+    note->setWordWrap(true);
+    Contenu()->addWidget(note);
+  }
+  champ_->selectAll();
+  champ_->setFocus();
+}
+
+QString DialogueSaisie::Texte() const { return champ_->text(); }

@@ -1,0 +1,147 @@
+#include "ui/principal/dialogues_qt.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+#include "ui/commun/bouton.h"
+#include "ui/commun/theme.h"
+#include "ui/principal/dialogue_reessai.h"
+#include "ui/principal/dialogue_saisie.h"
+
+namespace {
+
+/// A dialog is not to be clicked with a wait cursor.
+class TSansAttente {
+ public:
+  TSansAttente() : attente_(QApplication::overrideCursor() != nullptr) {
+    if (attente_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  }
+  ~TSansAttente() {
+    if (attente_) QApplication::restoreOverrideCursor();
+  }
+  TSansAttente(const TSansAttente&) = delete;
+  TSansAttente& operator=(const TSansAttente&) = delete;
+
+ private:
+  bool attente_;
+};
+
+void Preparer(QMessageBox& boite, const QString& texte, const QString& icone, TRole role) {
+  boite.setWindowTitle(QApplication::applicationDisplayName());
+  boite.setTextFormat(Qt::PlainText);  // a name is no markup
+  boite.setText(QString(texte).remove(u'\r'));
+  boite.setIconPixmap(
+      Theme::Icone(icone, role).pixmap(QSize(Theme::Px(32), Theme::Px(32)), boite.devicePixelRatioF()));
+}
+
+void Dire(const QString& texte, const QString& icone, TRole role) {
+  const TSansAttente sansAttente;
+  QMessageBox boite(FenetreDevant());
+  Preparer(boite, texte, icone, role);
+  QPushButton* ok = BoutonPrincipal(QStringLiteral("OK"));
+  boite.addButton(ok, QMessageBox::AcceptRole);
+  boite.setDefaultButton(ok);
+  boite.setEscapeButton(ok);
+  boite.exec();
+}
+
+/// Enter must not close a year or remove somebody by mistake.
+bool EstSansRetour(const QString& question) {
+  for (const QStringView mot : {u"clôturer", u"définitivement", u"supprimer", u"effacer"})
+    if (question.contains(mot, Qt::CaseInsensitive)) return true;
+  return false;
+}
+
+std::optional<QString> Choisi(QFileDialog& dialogue, QString& dossier) {
+  const TSansAttente sansAttente;
+  if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return {};
+  const QString fichier = dialogue.selectedFiles().constFirst();
+  dossier = QFileInfo(fichier).absolutePath();
+  return fichier;
+}
+
+QString DossierDepart(const QString& dernier) {
+  return dernier.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) : dernier;
+}
+
+}  // namespace
+
+QWidget* FenetreDevant() {
+  if (QWidget* modale = QApplication::activeModalWidget()) return modale;
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  for (QWidget* fenetre : QApplication::topLevelWidgets())
+    if (fenetre->isVisible() && fenetre->windowType() == Qt::Window) return fenetre;
+  return nullptr;
+}
+
+void DialoguesQt::Message(const QString& texte) {
+  Dire(texte, QStringLiteral("data-warning"), TRole::Alerte);
+}
+
+void DialoguesQt::Information(const QString& texte) {
+  Dire(texte, QStringLiteral("data-information"), TRole::Accent);
+}
+
+bool DialoguesQt::Confirmer(const QString& question) {
+  const TSansAttente sansAttente;
+  QMessageBox boite(FenetreDevant());
+  const bool sansRetour = EstSansRetour(question);
+  Preparer(boite, question, sansRetour ? QStringLiteral("data-warning") : QStringLiteral("data-information"),
+           sansRetour ? TRole::Alerte : TRole::Accent);
+  const auto genre = [](bool principal) {
+    return principal ? TGenreBouton::Principal : TGenreBouton::Simple;
+  };
+  QPushButton* oui = CreerBouton(genre(!sansRetour), QStringLiteral("&Oui"));
+  QPushButton* non = CreerBouton(genre(sansRetour), QStringLiteral("&Non"));
+  boite.addButton(oui, QMessageBox::YesRole);
+  boite.addButton(non, QMessageBox::NoRole);
+  boite.setDefaultButton(sansRetour ? non : oui);
+  boite.setEscapeButton(non);
+  boite.exec();
+  return boite.clickedButton() == oui;
+}
+
+std::optional<QString> DialoguesQt::Saisir(const QString& titre, const QString& invite,
+                                           const QString& valeur) {
+  const TSansAttente sansAttente;
+  DialogueSaisie dialogue(titre, invite, valeur, FenetreDevant());
+  if (dialogue.exec() != QDialog::Accepted) return {};
+  return dialogue.Texte();
+}
+
+std::optional<QString> DialoguesQt::ChoisirFichier(const QString& titre, const QString& filtre) {
+  QFileDialog dialogue(FenetreDevant(), titre, DossierDepart(dossier_));
+  dialogue.setFileMode(QFileDialog::ExistingFile);
+  dialogue.setNameFilters({filtre, QStringLiteral("Tous les fichiers (*)")});
+  return Choisi(dialogue, dossier_);
+}
+
+std::optional<QString> DialoguesQt::FichierAEnregistrer(const QString& titre, const QString& nom,
+                                                        const QString& filtre) {
+  QFileDialog dialogue(FenetreDevant(), titre, DossierDepart(dossier_));
+  dialogue.setAcceptMode(QFileDialog::AcceptSave);
+  dialogue.setNameFilter(filtre);
+  dialogue.setDefaultSuffix(QFileInfo(nom).suffix());
+  dialogue.selectFile(nom);
+  return Choisi(dialogue, dossier_);
+}
+
+bool DialoguesQt::Reessayer(const TReessai& reessai) {
+  const TSansAttente sansAttente;
+  return DialogueReessai(reessai, FenetreDevant()).exec() == QDialog::Accepted;
+}
+
+void DialoguesQt::Progression(int fait, int total, const QString& nom) {
+  if (SurProgression) SurProgression(fait, total, nom);
+}
+
+void DialoguesQt::TraiterEvenements() { QCoreApplication::processEvents(); }
+
+void DialoguesQt::CurseurAttente(bool actif) {
+  if (actif)
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QApplication::restoreOverrideCursor();
+}

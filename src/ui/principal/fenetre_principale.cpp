@@ -1,0 +1,283 @@
+#include "ui/principal/fenetre_principale.h"
+
+#include <QCloseEvent>
+#include <QFocusEvent>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTimer>
+
+#include "screens/principal/frm_main.h"
+#include "ui/commun/etat_vide.h"
+#include "ui/commun/feuille_progression.h"
+#include "ui/commun/theme.h"
+#include "ui/principal/barre_commandes.h"
+#include "ui/principal/barre_etat.h"
+#include "ui/principal/dialogues_qt.h"
+#include "ui/principal/panneau_eleves.h"
+#include "ui/principal/vue_accueil.h"
+#include "ui/vues.h"
+
+namespace {
+
+class Trait : public QWidget {
+ public:
+  Trait() { setFixedWidth(1); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), Theme::Ligne()); }
+};
+
+bool PeutPrendreFoyer(const QWidget* champ) {
+  return champ->isVisible() && champ->isEnabled() && (champ->focusPolicy() & Qt::TabFocus) != 0;
+}
+
+}  // namespace
+
+FenetrePrincipale::FenetrePrincipale(TFrmMain& form, DialoguesQt& dialogues)
+    : form_(form),
+      dialogues_(dialogues),
+      barre_(new BarreCommandes(form)),
+      eleves_(new PanneauEleves(form)),
+      trait_(new Trait),
+      feuille_(new FeuilleProgression),
+      contenu_(new QStackedWidget),
+      accueil_(new VueAccueil(form)),
+      rien_(new QWidget),
+      vide_(new EtatVide(rien_)),
+      etat_(new BarreEtat(form)) {
+  setWindowTitle(QStringLiteral("Calpenne"));
+  Disposer();
+  CreerTouches();
+  Suivre();
+  qApp->installEventFilter(this);
+  connect(vide_, &EtatVide::BoutonPresse, this,
+          [this] { form_.Executer(TGestionnaire::AdvGlowButton2Click); });
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* present) {
+    for (QWidget* zone :
+         {static_cast<QWidget*>(barre_), static_cast<QWidget*>(eleves_), static_cast<QWidget*>(contenu_)})
+      if (present != nullptr && zone->isAncestorOf(present)) foyers_[zone] = present;
+  });
+  Actualiser();
+}
+
+// The screens go before the window that holds their views.
+FenetrePrincipale::~FenetrePrincipale() {
+  form_.Panneau.Vider();
+  form_.SurChangement = nullptr;
+  form_.SurEtape = nullptr;
+  form_.SurSelection = nullptr;
+  form_.SurEtat = nullptr;
+  form_.SurQuitterChamp = nullptr;
+  form_.SurTerminer = nullptr;
+  form_.SurDureeBulles = nullptr;
+  dialogues_.SurProgression = nullptr;
+}
+
+void FenetrePrincipale::Disposer() {
+  contenu_->addWidget(rien_);
+  contenu_->addWidget(accueil_);
+  auto* droite = new QVBoxLayout;
+  droite->setContentsMargins(0, 0, 0, 0);
+  droite->setSpacing(0);
+  droite->addWidget(feuille_);
+  droite->addWidget(contenu_, 1);
+  auto* milieu = new QHBoxLayout;
+  milieu->setContentsMargins(0, 0, 0, 0);
+  milieu->setSpacing(0);
+  milieu->addWidget(eleves_);
+  milieu->addWidget(trait_);
+  milieu->addLayout(droite, 1);
+  auto* centre = new QWidget;
+  auto* colonne = new QVBoxLayout(centre);
+  colonne->setContentsMargins(0, 0, 0, 0);
+  colonne->setSpacing(0);
+  colonne->addWidget(barre_);
+  colonne->addLayout(milieu, 1);
+  colonne->addWidget(etat_);
+  setCentralWidget(centre);
+  setMinimumSize(1366, 690);
+  resize(1366, 768);
+}
+
+void FenetrePrincipale::Suivre() {
+  form_.SurChangement = [this] { Actualiser(); };
+  form_.SurEtape = [this](TForm& form, TEtapeForm etape) { SuivreEtape(form, etape); };
+  form_.SurSelection = [this] { eleves_->SuivreSelection(); };
+  form_.SurEtat = [this] { etat_->MontrerEtat(); };
+  form_.SurQuitterChamp = [this] { QuitterChamp(); };
+  form_.SurTerminer = [this] { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); };
+  form_.SurDureeBulles = [this](int ms) { dureeBulles_ = ms; };
+  dialogues_.SurProgression = [this](int fait, int total, const QString& nom) {
+    Progresser(fait, total, nom);
+  };
+}
+
+void FenetrePrincipale::Demarrer() {
+  show();
+  QTimer::singleShot(0, this, [this] {
+    form_.Montrer();
+    if (form_.PremiereUtilisation())
+      accueil_->PrendreFoyer();
+    else if (form_.ArbreVisible())
+      eleves_->AllerALaRecherche();
+  });
+}
+
+void FenetrePrincipale::Actualiser() {
+  barre_->Actualiser();
+  eleves_->setVisible(form_.ArbreVisible());
+  trait_->setVisible(form_.ArbreVisible());
+  eleves_->Actualiser();
+  etat_->Actualiser();
+  for (const auto& [touche, outil] : touchesOutils_) touche->setEnabled(form_.OutilActif(outil));
+  ActualiserContenu();
+}
+
+void FenetrePrincipale::ActualiserContenu() {
+  if (form_.PremiereUtilisation()) {
+    accueil_->Actualiser();
+    contenu_->setCurrentWidget(accueil_);
+    return;
+  }
+  QWidget* vue = VueCourante();
+  contenu_->setCurrentWidget(vue != nullptr ? vue : rien_);
+  if (vue != nullptr || !form_.EstRelie()) {
+    vide_->Cacher();
+    return;
+  }
+  const auto fiches = std::find_if(form_.Commandes.begin(), form_.Commandes.end(), [](const auto& commande) {
+    return commande.Gestionnaire == TGestionnaire::AdvGlowButton2Click;
+  });
+  const bool ouvrables = form_.PageVisible(TPage::PgEleve) && form_.CommandeActive(*fiches);
+  vide_->Montrer(QStringLiteral("Aucun écran ouvert"),
+                 QStringLiteral("Choisissez un écran dans la barre de commandes."),
+                 ouvrables ? QStringLiteral("Fiches des élèves") : QString());
+}
+
+QWidget* FenetrePrincipale::VueCourante() const { return vues_.value(form_.Panneau.Courante()); }
+
+// Views follow the forms of the panel: made when a form first shows, gone when it ends.
+void FenetrePrincipale::SuivreEtape(TForm& form, TEtapeForm etape) {
+  if (etape == TEtapeForm::Affichee) {
+    Montrer(form);
+    return;
+  }
+  QWidget* vue = vues_.value(&form);
+  if (vue != nullptr && focusWidget() != nullptr && vue->isAncestorOf(focusWidget())) {
+    foyerDuContenu_ = true;  // the screen that takes its place gets it
+    QTimer::singleShot(0, this, [this] { foyerDuContenu_ = false; });
+  }
+  if (etape == TEtapeForm::Liberee) delete vues_.take(&form);
+}
+
+void FenetrePrincipale::Montrer(TForm& form) {
+  QWidget* vue = vues_.value(&form);
+  if (vue == nullptr) {
+    vue = CreerVue(form, contenu_);
+    if (vue == nullptr) return;
+    vues_[&form] = vue;
+    contenu_->addWidget(vue);
+  }
+  contenu_->setCurrentWidget(vue);
+  if (foyerDuContenu_ || focusWidget() == nullptr) DonnerFoyer(*vue);
+}
+
+// The sheet of the open screen when it has one. A screen that has opened its own shuts it itself.
+void FenetrePrincipale::Progresser(int fait, int total, const QString& nom) {
+  const bool debut = total > 0 && !form_.EnTravail();
+  if (debut) {
+    QWidget* vue = VueCourante();
+    auto* sienne = vue != nullptr ? vue->findChild<FeuilleProgression*>() : nullptr;
+    feuilleEnCours_ = sienne != nullptr ? sienne : feuille_;
+    feuilleOuverte_ = feuilleEnCours_->isHidden();
+    if (feuilleOuverte_) feuilleEnCours_->Demarrer(QStringLiteral("Travail en cours"), total);
+  }
+  if (total > 0 && feuilleEnCours_) feuilleEnCours_->Avancer(fait, nom);
+  if (total <= 0 && feuilleEnCours_ && feuilleOuverte_) feuilleEnCours_->Terminer();
+  form_.Travail(fait, total);
+}
+
+// The control is told, and keeps the focus: its change is saved and the hand stays where it is. In an
+// inactive window it has not been told by Qt either.
+void FenetrePrincipale::QuitterChamp() {
+  const QPointer<QWidget> champ = focusWidget();
+  if (!champ || !contenu_->isAncestorOf(champ)) return;
+  QFocusEvent quitte(QEvent::FocusOut, Qt::OtherFocusReason);
+  QCoreApplication::sendEvent(champ, &quitte);
+  if (!champ || !champ->hasFocus()) return;
+  QFocusEvent revient(QEvent::FocusIn, Qt::OtherFocusReason);
+  QCoreApplication::sendEvent(champ, &revient);
+}
+
+void FenetrePrincipale::closeEvent(QCloseEvent* evenement) { evenement->setAccepted(form_.Fermer()); }
+
+bool FenetrePrincipale::eventFilter(QObject* objet, QEvent* evenement) {
+  if (evenement->type() == QEvent::ToolTip && dureeBulles_ > 0 && objet->isWidgetType()) {
+    auto* champ = static_cast<QWidget*>(objet);
+    if (champ->toolTipDuration() < 0) champ->setToolTipDuration(dureeBulles_);
+  }
+  return QMainWindow::eventFilter(objet, evenement);
+}
+
+void FenetrePrincipale::DonnerFoyer(QWidget& zone) {
+  if (QWidget* dernier = foyers_.value(&zone); dernier != nullptr && PeutPrendreFoyer(dernier)) {
+    dernier->setFocus(Qt::TabFocusReason);
+    return;
+  }
+  if (PeutPrendreFoyer(&zone) || zone.focusProxy() != nullptr) {
+    zone.setFocus(Qt::TabFocusReason);
+    return;
+  }
+  for (QWidget* suivant = zone.nextInFocusChain(); suivant != &zone; suivant = suivant->nextInFocusChain()) {
+    if (!zone.isAncestorOf(suivant) || !PeutPrendreFoyer(suivant)) continue;
+    suivant->setFocus(Qt::TabFocusReason);
+    return;
+  }
+}
+
+// F6: bar, tree, content, and round again; backwards for sens -1.
+void FenetrePrincipale::ZoneSuivante(int sens) {
+  QWidget* const zones[] = {barre_, eleves_, contenu_};
+  constexpr int kZones = 3;
+  int ici = sens > 0 ? kZones - 1 : 0;
+  for (int i = 0; i < kZones; ++i)
+    if (focusWidget() != nullptr && zones[i]->isAncestorOf(focusWidget())) ici = i;
+  for (int pas = 1; pas < kZones; ++pas) {
+    QWidget* zone = zones[(ici + sens * pas + 2 * kZones) % kZones];
+    if (!zone->isVisible()) continue;
+    DonnerFoyer(*zone);
+    if (focusWidget() != nullptr && zone->isAncestorOf(focusWidget())) return;
+  }
+}
+
+void FenetrePrincipale::Touche(const QKeySequence& touche, std::function<void()> action) {
+  auto* raccourci = new QShortcut(touche, this);
+  connect(raccourci, &QShortcut::activated, this, std::move(action));
+}
+
+// Off while the open screen has no use for it, so that the key is left to the control in hand.
+void FenetrePrincipale::ToucheOutil(const QKeySequence& touche, TOutil outil) {
+  auto* raccourci = new QShortcut(touche, this);
+  connect(raccourci, &QShortcut::activated, this, [this, outil] { form_.OutilClick(outil); });
+  touchesOutils_.emplace_back(raccourci, outil);
+}
+
+void FenetrePrincipale::CreerTouches() {
+  Touche(Qt::Key_F3, [this] { eleves_->AllerALaRecherche(); });
+  Touche(Qt::Key_F6, [this] { ZoneSuivante(1); });
+  Touche(Qt::SHIFT | Qt::Key_F6, [this] { ZoneSuivante(-1); });
+  Touche(Qt::CTRL | Qt::Key_0, [this] { barre_->OuvrirMenuAnnees(); });
+  for (int page = 0; page < 4; ++page)
+    Touche(QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(Qt::Key_1 + page)),
+           [this, page] { barre_->ActiverPage(page); });
+  const struct {
+    QKeySequence Touche;
+    TOutil Outil;
+  } kOutils[] = {
+      {Qt::Key_F2, TOutil::btnEdit},           {Qt::Key_F7, TOutil::btnNew},
+      {Qt::Key_F9, TOutil::btnSave},           {Qt::CTRL | Qt::Key_Delete, TOutil::btnDelete},
+      {Qt::Key_F8, TOutil::btnPrint},          {Qt::CTRL | Qt::Key_P, TOutil::btnPrint},
+      {Qt::CTRL | Qt::Key_M, TOutil::btnMail},
+  };
+  for (const auto& [touche, outil] : kOutils) ToucheOutil(touche, outil);
+}

@@ -1,0 +1,258 @@
+#include "ui/principal/panneau_eleves.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+#include <QTreeView>
+
+#include "screens/principal/frm_main.h"
+#include "ui/commun/etiquette.h"
+#include "ui/principal/modele_arbre.h"
+
+namespace {
+
+/// Name, and on the right the count of a class or the word for a pupil struck off.
+class DelegueEleves : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+    return {Theme::Px(60), Theme::Px(25)};
+  }
+
+  void paint(QPainter* peintre, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyleOptionViewItem vue = option;
+    initStyleOption(&vue, index);
+    const QString texte = vue.text;
+    vue.text.clear();
+    vue.widget->style()->drawControl(QStyle::CE_ItemViewItem, &vue, peintre, vue.widget);
+
+    const bool actif = option.state.testFlag(QStyle::State_Enabled);
+    const auto groupe = actif ? QPalette::Active : QPalette::Disabled;
+    peintre->save();
+    QFont police = option.font;
+    const QString droite = Droite(index);
+    QRect place = Place(option);
+    if (!droite.isEmpty()) {
+      const QFont petite = Theme::Petite();
+      peintre->setFont(petite);
+      peintre->setPen(actif ? Theme::Secondaire() : option.palette.color(groupe, QPalette::Text));
+      peintre->drawText(place, Qt::AlignRight | Qt::AlignVCenter, droite);
+      place.setRight(place.right() - QFontMetrics(petite).horizontalAdvance(droite) - Theme::Px(8));
+    }
+    if (!index.parent().isValid() && index.model()->rowCount(index.model()->index(0, 0, index)) > 0)
+      police.setBold(true);
+    police.setStrikeOut(EstBarre(index));
+    peintre->setFont(police);
+    peintre->setPen(EstBarre(index) && actif ? Theme::Secondaire()
+                                             : option.palette.color(groupe, QPalette::Text));
+    peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                      QFontMetrics(police).elidedText(texte, Qt::ElideRight, place.width()));
+    peintre->restore();
+  }
+
+  bool helpEvent(QHelpEvent* aide, QAbstractItemView* vue, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    const QString texte = index.data().toString();
+    const QString droite = Droite(index);
+    int place = Place(option).width();
+    if (!droite.isEmpty()) place -= QFontMetrics(Theme::Petite()).horizontalAdvance(droite) + Theme::Px(8);
+    const bool coupe = QFontMetrics(option.font).horizontalAdvance(texte) > place;
+    QToolTip::showText(aide->globalPos(), coupe ? texte : QString(), vue);
+    return true;
+  }
+
+ private:
+  static bool EstBarre(const QModelIndex& index) {
+    return index.data(ModeleArbre::kMarque).toInt() == static_cast<int>(TMarqueNoeud::Barree);
+  }
+  static QString Droite(const QModelIndex& index) {
+    return EstBarre(index) ? QStringLiteral("radié") : index.data(ModeleArbre::kCompte).toString();
+  }
+  static QRect Place(const QStyleOptionViewItem& option) {
+    return option.rect.adjusted(Theme::Px(2), 0, -Theme::Px(8), 0);
+  }
+};
+
+}  // namespace
+
+PanneauEleves::PanneauEleves(TFrmMain& form, QWidget* parent)
+    : QWidget(parent), form_(form), modele_(new ModeleArbre(form.Arbre, this)) {
+  CreerRecherche();
+  CreerArbre();
+  vide_ = new Etiquette({}, TRole::Texte, &Theme::Gras);
+  phrase_ = new Etiquette(
+      QStringLiteral("Importez l'export du registre SIEL pour créer les classes et les élèves."),
+      TRole::Secondaire);
+  sansEleve_ = new QWidget;
+  auto* textes = new QVBoxLayout(sansEleve_);
+  textes->setContentsMargins(0, Theme::Px(24), 0, 0);
+  textes->setSpacing(Theme::Px(8));
+  for (Etiquette* texte : {vide_, phrase_}) {
+    texte->setWordWrap(true);
+    texte->setAlignment(Qt::AlignHCenter);
+    textes->addWidget(texte);
+  }
+  textes->addStretch();
+  compte_ = new Etiquette({}, TRole::Secondaire, &Theme::Petite);
+
+  auto* colonne = new QVBoxLayout(this);
+  colonne->setContentsMargins(Theme::Px(12), Theme::Px(12), Theme::Px(12), Theme::Px(8));
+  colonne->setSpacing(Theme::Px(8));
+  colonne->addWidget(recherche_);
+  colonne->addWidget(arbre_, 1);
+  colonne->addWidget(sansEleve_, 1);
+  colonne->addWidget(compte_);
+  setFixedWidth(Theme::Px(248));
+
+  form_.Arbre.SurChangement = [this] { Relire(); };
+  Relire();
+}
+
+PanneauEleves::~PanneauEleves() { form_.Arbre.SurChangement = nullptr; }
+
+void PanneauEleves::CreerRecherche() {
+  recherche_ = new QLineEdit;
+  recherche_->setPlaceholderText(QStringLiteral("Rechercher (F3)"));
+  recherche_->setAccessibleName(QStringLiteral("Rechercher un élève"));
+  recherche_->setToolTip(QStringLiteral("Début du nom (F3) ; Entrée : élève suivant ; Début : effacer"));
+  recherche_->addAction(Theme::Icone(QStringLiteral("edit-find"), TRole::Secondaire),
+                        QLineEdit::LeadingPosition);
+  suivant_ = recherche_->addAction(Theme::Icone(QStringLiteral("go-down"), TRole::Secondaire),
+                                   QLineEdit::TrailingPosition);
+  suivant_->setText(QStringLiteral("Élève suivant"));
+  suivant_->setToolTip(QStringLiteral("Élève suivant (Entrée)"));
+  recherche_->installEventFilter(this);
+  connect(suivant_, &QAction::triggered, this, [this] { form_.btnRechercheClick(); });
+  connect(recherche_, &QLineEdit::textEdited, this, &PanneauEleves::Texter);
+}
+
+void PanneauEleves::CreerArbre() {
+  arbre_ = new QTreeView;
+  arbre_->setModel(modele_);
+  arbre_->setItemDelegate(new DelegueEleves(arbre_));
+  arbre_->setHeaderHidden(true);
+  arbre_->setUniformRowHeights(true);
+  arbre_->setIndentation(Theme::Px(15));
+  arbre_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  arbre_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  arbre_->setContextMenuPolicy(Qt::CustomContextMenu);
+  arbre_->setAccessibleName(QStringLiteral("Classes et élèves"));
+  arbre_->setTabKeyNavigation(false);
+  arbre_->header()->setStretchLastSection(true);
+  connect(arbre_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this](const QModelIndex& choisi) { form_.ChoisirNoeud(modele_->Noeud(choisi)); });
+  connect(arbre_, &QTreeView::collapsed, this, [this](const QModelIndex& index) { NoterPli(index, false); });
+  connect(arbre_, &QTreeView::expanded, this, [this](const QModelIndex& index) { NoterPli(index, true); });
+  connect(arbre_, &QWidget::customContextMenuRequested, this, &PanneauEleves::MontrerMenu);
+}
+
+void PanneauEleves::Relire() {
+  const QSignalBlocker muet(arbre_->selectionModel());
+  modele_->Relire();
+  for (int i = 0; i < modele_->rowCount(); ++i) Deplier(modele_->index(i, 0));
+  SuivreSelection();
+  Actualiser();
+}
+
+// Sites and the classes that the user had opened.
+void PanneauEleves::Deplier(const QModelIndex& index) {
+  const QString chemin = ModeleArbre::Chemin(*modele_->Noeud(index));
+  const QModelIndex premier = modele_->index(0, 0, index);
+  const bool site = modele_->rowCount(premier) > 0;
+  if (site ? !fermes_.contains(chemin) : ouverts_.contains(chemin)) arbre_->expand(index);
+  if (!site) return;
+  for (int i = 0; i < modele_->rowCount(index); ++i) Deplier(modele_->index(i, 0, index));
+}
+
+void PanneauEleves::NoterPli(const QModelIndex& index, bool ouvert) {
+  const QString chemin = ModeleArbre::Chemin(*modele_->Noeud(index));
+  ouvert ? (void)ouverts_.insert(chemin) : (void)ouverts_.remove(chemin);
+  ouvert ? (void)fermes_.remove(chemin) : (void)fermes_.insert(chemin);
+}
+
+void PanneauEleves::SuivreSelection() {
+  const QModelIndex index = modele_->Index(form_.Arbre.Selection());
+  if (index == arbre_->currentIndex()) return;
+  arbre_->setCurrentIndex(index);
+  if (index.isValid()) arbre_->scrollTo(index);
+}
+
+void PanneauEleves::Actualiser() {
+  const bool vide = form_.SansEleve();
+  const bool actif = form_.EstRelie() && !form_.EnTravail();
+  const int eleves = form_.NombreEleves(), radies = form_.NombreRadies();
+  recherche_->setEnabled(actif && !vide);
+  arbre_->setVisible(!vide);
+  arbre_->setEnabled(actif);
+  sansEleve_->setVisible(vide);
+  compte_->setVisible(form_.EstRelie() && !vide);
+  if (vide) vide_->setText(u"Aucun élève en " % AnneeEnTexte(form_.AnneeCochee()));
+  QString compte = QString::number(eleves) % (eleves > 1 ? u" élèves" : u" élève");
+  if (radies > 0) compte += u", dont " % QString::number(radies) % (radies > 1 ? u" radiés" : u" radié");
+  compte_->setText(compte);
+}
+
+// Typed or pasted: what the search does not take is dropped.
+void PanneauEleves::Texter(const QString& texte) {
+  const QString admis = TFrmMain::edSearchKeyPress(texte);
+  if (admis != texte) {
+    const auto apres = recherche_->cursorPosition() - (texte.size() - admis.size());
+    recherche_->setText(admis);
+    recherche_->setCursorPosition(static_cast<int>(apres));
+  }
+  if (admis != form_.TexteRecherche()) form_.edSearchChange(admis);
+}
+
+bool PanneauEleves::ToucheRecherche(int touche) {
+  switch (touche) {
+    case Qt::Key_Home:
+    case Qt::Key_Escape:
+      recherche_->clear();
+      form_.edSearchChange({});
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      form_.btnRechercheClick();
+      return true;
+    case Qt::Key_Down:
+      arbre_->setFocus(Qt::OtherFocusReason);
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool PanneauEleves::eventFilter(QObject* objet, QEvent* evenement) {
+  if (objet == recherche_ && evenement->type() == QEvent::KeyPress) {
+    const auto* touche = static_cast<QKeyEvent*>(evenement);
+    const bool nue = (touche->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (nue && ToucheRecherche(touche->key())) return true;
+  }
+  return QWidget::eventFilter(objet, evenement);
+}
+
+void PanneauEleves::AllerALaRecherche() {
+  if (!recherche_->isEnabled()) return;
+  recherche_->setFocus(Qt::ShortcutFocusReason);
+  recherche_->selectAll();
+}
+
+void PanneauEleves::MontrerMenu(const QPoint& position) {
+  const QModelIndex sous = arbre_->indexAt(position);
+  if (sous.isValid()) arbre_->setCurrentIndex(sous);
+  QMenu menu(this);
+  QAction* ajouter =
+      menu.addAction(Theme::Icone(QStringLiteral("list-add")), QStringLiteral("&Ajouter un professeur..."));
+  QAction* supprimer = menu.addAction(Theme::Icone(QStringLiteral("edit-delete"), TRole::Erreur),
+                                      QStringLiteral("&Supprimer ce professeur"));
+  ajouter->setEnabled(form_.PeutAjouterProfesseur());
+  supprimer->setEnabled(form_.PeutSupprimerProfesseur());
+  const QAction* choisi = menu.exec(arbre_->viewport()->mapToGlobal(position));
+  if (choisi == ajouter) form_.Ajouterunprofesseur1Click();
+  if (choisi == supprimer) form_.Supprimerunprofesseur1Click();
+}
