@@ -21,19 +21,29 @@ namespace {
 constexpr int kTours = 7;
 constexpr int kPatience = 120'000;  // ms
 
-TDocumentPrepare Facturer(TEcole& ecole, const TDonneesAnnee& annee, const QString& chemin) {
+/// Seconds of each step.
+struct TEtapes {
+  std::vector<double> Contenu, MiseEnPage, Pdf;
+};
+
+TDocumentPrepare Facturer(TEcole& ecole, const TDonneesAnnee& annee, const QString& chemin, TEtapes& etapes) {
   const TPeriode octobre = BornesMois(10, TEcole::kAnnee);
   TChoixDocument choix;
   choix.Indice = IndiceTitre(u"Facture");
   choix.DateDebut = octobre.Premier;
   choix.DateFin = octobre.Dernier;
   for (TEleve& eleve : *annee.Eleves) choix.Eleves.push_back(&eleve);
-  const TResultat resultat =
-      FaireDocument({*annee.Eleves, ecole.Parametres(), QStringLiteral("Garderies du soir")}, choix);
+  TResultat resultat;
+  etapes.Contenu.push_back(Duree([&] {
+    resultat = FaireDocument({*annee.Eleves, ecole.Parametres(), QStringLiteral("Garderies du soir")}, choix);
+  }));
   const TRapport& rapport = resultat.Rapports.at(0);
-  const auto modele = ModeleDocument(rapport.Modele());
-  TDocumentPrepare document = MettreEnPage(rapport, *modele, {octobre.Dernier, false});
-  EcrirePdf({&document}, rapport.Titre(), ecole.Parametres().GetParametre(1), chemin);
+  TDocumentPrepare document;
+  etapes.MiseEnPage.push_back(Duree([&] {
+    document = MettreEnPage(rapport, *ModeleDocument(rapport.Modele()), {octobre.Dernier, false});
+  }));
+  etapes.Pdf.push_back(
+      Duree([&] { EcrirePdf({&document}, rapport.Titre(), ecole.Parametres().GetParametre(1), chemin); }));
   return document;
 }
 
@@ -83,8 +93,9 @@ void MesurerFactures(TEcole& ecole, const QTemporaryDir& dossier) {
   const QString leur = dossier.filePath(QStringLiteral("reportlab.pdf"));
   const QString vidage = dossier.filePath(QStringLiteral("factures.json"));
 
+  TEtapes etapes;
   auto annee = ecole.Charger();
-  const TDocumentPrepare document = Facturer(ecole, *annee, notre);
+  const TDocumentPrepare document = Facturer(ecole, *annee, notre, etapes);
   const double memoire = MemoireMaximale();
   if (document.Pages.size() < 500) throw Exception(QStringLiteral("Il manque des factures."));
   Ecrire(vidage, Vider(document));
@@ -97,7 +108,7 @@ void MesurerFactures(TEcole& ecole, const QTemporaryDir& dossier) {
   for (int i = 0; i < kTours; ++i) {  // in turns, so that a busy machine slows both
     annee.reset();
     annee = ecole.Charger();  // what a first look at the pupils reads is part of the work
-    nous.push_back(Duree([&] { Facturer(ecole, *annee, notre); }));
+    nous.push_back(Duree([&] { Facturer(ecole, *annee, notre, etapes); }));
     if (reportlab.Pret()) eux.push_back(reportlab.Dessiner());
   }
   const double secondes = reportlab.Pret() ? Mediane(eux) : NAN;
@@ -107,6 +118,7 @@ void MesurerFactures(TEcole& ecole, const QTemporaryDir& dossier) {
         secondes / Mediane(nous), 2.0, false);
   Barre("octets of that PDF / those of ReportLab's", octets / leurs, 1.0, true);
   Barre("peak memory of those invoices, MB", memoire, 300.0, true);
-  std::fprintf(stderr, "# %zu pages: %.3f s and %.0f octets, ReportLab %.3f s and %.0f octets\n",
-               document.Pages.size(), Mediane(nous), octets, secondes, leurs);
+  std::fprintf(stderr, "# %zu pages: %.3f s (content %.3f, layout %.3f, PDF %.3f), ReportLab %.3f s\n",
+               document.Pages.size(), Mediane(nous), Mediane(etapes.Contenu), Mediane(etapes.MiseEnPage),
+               Mediane(etapes.Pdf), secondes);
 }

@@ -3,6 +3,7 @@
 #include "core/parametres.h"
 #include "documents/facture.h"
 #include "documents/releve_detaille.h"
+#include "pupils/eleves.h"
 
 namespace {
 
@@ -43,6 +44,7 @@ TResultat Factures(const TContexteDocument& contexte, const TDemandeDocument& de
   else if (!retenue.DatePaiement)
     return {};
 
+  contexte.Eleves.LireFrais(demande.Eleves);
   TResultat resultat;
   for (const TGeneration generation : GenerationsFacture(contexte.Parametres)) {
     const TRegle& regle = Regle(generation);

@@ -126,6 +126,7 @@ class TEleve : public TBaseObject {
   TDataModule1& Base() const;
   std::optional<QByteArray> OctetsPhoto() const;
 
+  friend class TEleves;  // reads the fees of many together
   mutable std::unique_ptr<TAllFraisEleve> allFrais_;
   mutable std::optional<QImage> photo_;
 };

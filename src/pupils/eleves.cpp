@@ -6,8 +6,12 @@
 #include "core/data_module.h"
 #include "core/data_set.h"
 #include "core/query_internal.h"
+#include "services/frais_eleve.h"
 
 namespace {
+
+/// The lines of the whole year are read as fast as those of so many pupils, one by one.
+constexpr std::size_t kLecturesUneAUne = 20;
 
 template <class T>
 struct TColonne {
@@ -194,6 +198,16 @@ int TEleves::ExtraitVersEleve(int extraitId) {
   }
   const auto i = eleveParExtrait_.find(extraitId);
   return i == eleveParExtrait_.end() ? 0 : i->second;
+}
+
+void TEleves::LireFrais(const std::vector<TEleve*>& eleves) const {
+  std::vector<int> cles;
+  for (const TEleve* eleve : eleves)
+    if (!eleve->allFrais_ && eleve->Id != -1) cles.push_back(eleve->Id);
+  if (HorsLigne || cles.size() < kLecturesUneAUne) return;
+  auto ensemble = TAllFraisEleve::LireEnsemble(Base(), cles, AnneeScolaire, ListeFrais);
+  for (TEleve* eleve : eleves)
+    if (!eleve->allFrais_ && eleve->Id != -1) eleve->allFrais_ = std::move(ensemble[eleve->Id]);
 }
 
 void TEleves::ComptesDonneurs(int eleveId, QStringList& numeros, QStringList& noms) const {

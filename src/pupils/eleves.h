@@ -54,6 +54,10 @@ class TEleves : public TCollection<TEleve> {
   /// Short name of the site with that code, or the code itself.
   QString LibelleImplantation(const QString& code) const;
 
+  /// Reads the fee lines of those pupils who still have to read theirs, in one statement: what goes
+  /// through a whole school begins with it.
+  void LireFrais(const std::vector<TEleve*>& eleves) const;
+
   /// Key of the pupil credited with a bank movement, 0 for none, as it was when first asked for; set
   /// ChargerExtraits to read again.
   int ExtraitVersEleve(int extraitId);

@@ -1,8 +1,38 @@
 #include "services/frais_eleve.h"
 
+#include "core/exceptions.h"
+
 TAllFraisEleve::TAllFraisEleve(TDataModule1& base, int eleve, int annee, const TListeFrais* catalogue)
     : TCollection(base), eleve_(eleve), annee_(annee), catalogue_(catalogue) {
   Charger();
+}
+
+TAllFraisEleve::TAllFraisEleve(TDataModule1& base, int eleve, int annee, const TListeFrais* catalogue,
+                               TSansLire)
+    : TCollection(base), eleve_(eleve), annee_(annee), catalogue_(catalogue) {
+  DefineQuery();
+}
+
+std::unordered_map<int, std::unique_ptr<TAllFraisEleve>> TAllFraisEleve::LireEnsemble(
+    TDataModule1& base, const std::vector<int>& eleves, int annee, const TListeFrais* catalogue) {
+  std::unordered_map<int, std::unique_ptr<TAllFraisEleve>> ensemble;
+  for (const int eleve : eleves)
+    ensemble.try_emplace(eleve, std::make_unique<TAllFraisEleve>(base, eleve, annee, catalogue, TSansLire{}));
+  try {
+    TCurseur ligne(base, u"SELECT * FROM FRAIS_ELEVE WHERE ANNEE_SCOLAIRE = " % QString::number(annee));
+    while (ligne.Suivant()) {
+      const auto i = ensemble.find(ligne.Entier("ELEVE_ID"));
+      if (i == ensemble.end()) continue;
+      TAllFraisEleve& lignes = *i->second;
+      lignes.LoadItems(ligne);
+      lignes.Indexer(lignes[lignes.Count() - 1]);
+    }
+  } catch (const EDistributor&) {
+    throw;
+  } catch (const Exception& e) {
+    throw EDistributor(e.Message);
+  }
+  return ensemble;
 }
 
 void TAllFraisEleve::DefineQuery() {

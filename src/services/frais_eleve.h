@@ -1,4 +1,6 @@
 #pragma once
+#include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include "core/calendrier_scolaire.h"
@@ -44,9 +46,18 @@ struct TFraisEleve : TBaseObject {
 /// The lines of one pupil for one school year. Lines of forecast fees are in no total. Months are
 /// those of the school year.
 class TAllFraisEleve : public TCollection<TFraisEleve> {
+  struct TSansLire {};
+
  public:
   /// `catalogue` may be null: then no line has a fee. It must outlive the collection.
   TAllFraisEleve(TDataModule1& base, int eleve, int annee, const TListeFrais* catalogue);
+  /// Not loaded: for `LireEnsemble`.
+  TAllFraisEleve(TDataModule1& base, int eleve, int annee, const TListeFrais* catalogue, TSansLire);
+  /// The same collections for many pupils, by key, in one reading of the year. Raises EDistributor.
+  static std::unordered_map<int, std::unique_ptr<TAllFraisEleve>> LireEnsemble(TDataModule1& base,
+                                                                               const std::vector<int>& eleves,
+                                                                               int annee,
+                                                                               const TListeFrais* catalogue);
 
   const TListeFrais* Catalogue() const { return catalogue_; }
   /// The first line of that fee, or null.

@@ -156,3 +156,29 @@ TEST_F(TSoldesEssai, SoldesDansLesDeuxModes) {
   // Nothing but the pupils: only what was paid on the lines is known.
   EXPECT_EQ(TEleves(*base, 2016)[0].Solde(true, true), Euros(118));
 }
+
+TEST_F(TSoldesEssai, FraisLusEnsembleOuUnParUn) {
+  const int excursion = ecole.frais(u"Excursion"_s, u"8"_s, 10);
+  for (int i = 1; i <= 30; ++i) {
+    TEleveEssai autre = ecole.unEleve().enClasse(u"P2"_s, u"B"_s);
+    if (i % 3 != 0) autre.doit(excursion, QString::number(i)).paie(u"1"_s, 10, 2, u"Services"_s);
+  }
+  TAnneeEssai annee(*base), temoin(*base);
+  std::vector<TEleve*> tous;
+  for (TEleve& e : annee.eleves) tous.push_back(&e);
+  tous.push_back(tous.front());  // chosen twice
+  std::vector<Currency> totaux;  // read one by one
+  for (const TEleve& e : temoin.eleves)
+    totaux.push_back(e.GetAllFrais()->TotalFrais() + e.GetAllFrais()->TotalVerse());
+  const TAllFraisEleve* deja = annee.eleves[1].GetAllFrais();
+  annee.eleves.LireFrais(tous);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE"_s);  // whatever is read now comes too late
+  EXPECT_EQ(annee.eleves[1].GetAllFrais(), deja);
+  int lignes = 0;
+  for (int i = 0; i < annee.eleves.Count(); ++i) {
+    const TAllFraisEleve& siennes = *annee.eleves[i].GetAllFrais();
+    lignes += siennes.Count();
+    EXPECT_EQ(siennes.TotalFrais() + siennes.TotalVerse(), totaux[static_cast<std::size_t>(i)]) << i;
+  }
+  EXPECT_EQ(lignes, 7 + 40);
+}
