@@ -4,8 +4,14 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "screens/attendance/frm_ajout_releve.h"
+#include "screens/attendance/frm_presences.h"
 #include "screens/principal/frm_ajout_professeur.h"
+#include "screens/pupils/frm_import.h"
+#include "ui/attendance/vue_ajout_releve.h"
+#include "ui/attendance/vue_presences.h"
 #include "ui/principal/vue_ajout_professeur.h"
+#include "ui/pupils/vue_import.h"
 
 namespace {
 
@@ -26,6 +32,9 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
   // One line a screen: VueDe<TFrmImport, VueImport>(),
   static const std::vector<TFabriqueVue> kVues{
       VueDe<TFrmAjoutProfesseur, VueAjoutProfesseur>(),
+      VueDe<TFrmImport, VueImport>(),
+      VueDe<TfrmPresences, VuePresences>(),
+      VueDe<TFrmAjoutReleve, VueAjoutReleve>(),
   };
   for (const TFabriqueVue& vue : kVues)
     if (vue.Classe == typeid(form)) return vue.Creer(form, parent);

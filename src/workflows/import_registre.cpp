@@ -187,6 +187,7 @@ void TImportRegistre::Cloturer() {
         .Parametre(QStringLiteral("mTotal"), total.EnEuros())
         .Executer();
     progression.Avancer(++fait, eleve.NomComplet());
+    dialogues.TraiterEvenements();
   }
   TParametres& parametres = *Globals.Parametres;
   parametres.SetParametre(27, QString::number(StrToInt(parametres.GetParametre(27)) + 1));

@@ -135,7 +135,7 @@ void TfrmPresences::btnImportFTPClick() {
 void TfrmPresences::Importerunfichierdeprsence1Click() {
   const auto chemin = contexte_.Dialogues().ChoisirFichier(
       QStringLiteral("Importer un fichier de présence"),
-      QStringLiteral("Fichiers de présences (*.txt);;Tous les fichiers (*)"));
+      QStringLiteral("Fichiers de présences (*.txt)"));
   if (!chemin) return;
   const TAttente attente(contexte_.Dialogues());
   QString nom = u"Fichier choisi : " % QFileInfo(*chemin).fileName();

@@ -52,7 +52,7 @@ void TFrmImport::btnEtape1Click() {
     RemplirGrille();
     const auto chemin = contexte_.Dialogues().ChoisirFichier(
         QStringLiteral("Ouvrir le fichier de données"),
-        QStringLiteral("Export du registre (*.csv *.txt);;Tous les fichiers (*)"));
+        QStringLiteral("Export du registre (*.csv *.txt)"));
     if (chemin) {
       try {
         DecrireFichier(*chemin, import_->Etape1(*chemin));

@@ -1,0 +1,223 @@
+#include "ui/attendance/vue_presences.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMenu>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "screens/attendance/frm_presences.h"
+#include "ui/commun/bouton.h"
+#include "ui/commun/champ_filtre.h"
+#include "ui/commun/compteur.h"
+#include "ui/commun/etat_vide.h"
+#include "ui/commun/titres.h"
+#include "ui/commun/vue_grille.h"
+
+namespace {
+
+constexpr int kLignesAnomalies = 8;
+constexpr int kLignesMinimum = 3;
+
+/// One word and several, by counter.
+const struct {
+  QString Un, Plusieurs;
+} kMots[] = {{QStringLiteral("ligne dans le fichier"), QStringLiteral("lignes dans le fichier")},
+             {QStringLiteral("relevé bon"), QStringLiteral("relevés bons")},
+             {QStringLiteral("anomalie"), QStringLiteral("anomalies")},
+             {QStringLiteral("total"), QStringLiteral("total")}};
+constexpr int kAnomalies = 2;
+
+/// Both ways: drawing a column in one grid draws it in the other.
+void Accorder(const VueGrille& a, const VueGrille& b) {
+  for (const auto& [de, vers] : {std::pair{&a, &b}, std::pair{&b, &a}})
+    QObject::connect(de->header(), &QHeaderView::sectionResized, vers->header(),
+                     [de = de, tete = vers->header()](int colonne, int, int largeur) {
+                       if (colonne != de->ColonneSouple() && tete->sectionSize(colonne) != largeur)
+                         tete->resizeSection(colonne, largeur);
+                     });
+}
+
+}  // namespace
+
+VuePresences::VuePresences(TfrmPresences& form, QWidget* parent)
+    : QWidget(parent),
+      form_(form),
+      etape1_(BoutonPrincipal(QStringLiteral("Etape n°1 : Importer les présences"),
+                              QStringLiteral("view-barcode"))),
+      etape2_(BoutonSimple(QStringLiteral("Etape n°2 : Mémoriser les présences"),
+                           QStringLiteral("document-save"))),
+      source_(BoutonDiscret({})),
+      menu_(new QMenu(this)),
+      fichier_(new Etiquette({}, TRole::Secondaire)),
+      titreAnomalies_(new TitreSection(QStringLiteral("Anomalies"))),
+      corriger_(BoutonSimple(QStringLiteral("Corriger le relevé"), QStringLiteral("document-edit"))),
+      anomalies_(
+          new VueGrille(form.Anomalies, QStringLiteral("Anomalies"), QStringLiteral("Presences/Anomalies"))),
+      titreRecapitulatif_(new TitreSection(QStringLiteral("Récapitulatif"))),
+      recapitulatif_(new VueGrille(form.Recapitulatif, QStringLiteral("Récapitulatif"),
+                                   QStringLiteral("Presences/Recapitulatif"))),
+      vide_(new EtatVide(recapitulatif_)) {
+  CreerMenu();
+  CreerGrilles();
+  Disposer();
+  connect(etape1_, &QPushButton::clicked, this, &VuePresences::Importer);
+  connect(etape2_, &QPushButton::clicked, this, [this] { form_.btnEtape2Click(); });
+  form_.SurChangement = [this] { Actualiser(); };
+  Actualiser();
+}
+
+VuePresences::~VuePresences() { form_.SurChangement = nullptr; }
+
+void VuePresences::CreerMenu() {
+  changerSource_ = menu_->addAction(QString(), this, [this] { form_.mnuImportationClick(); });
+  menu_->addAction(Theme::Icone(QStringLiteral("document-open")),
+                   QStringLiteral("Importer un fichier de présence"), this, &VuePresences::ImporterFichier);
+  source_->setMenu(menu_);
+  source_->setToolTip(QStringLiteral("D'où viennent les présences"));
+}
+
+void VuePresences::CreerGrilles() {
+  anomalies_->GarderBarre();
+  recapitulatif_->GarderBarre();
+  recapitulatif_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+  Accorder(*anomalies_, *recapitulatif_);
+  auto* corriger = new QAction(corriger_->icon(), corriger_->text(), anomalies_);
+  anomalies_->addAction(corriger);
+  anomalies_->setContextMenuPolicy(Qt::ActionsContextMenu);
+  corriger_->setToolTip(QStringLiteral("Corriger le relevé choisi (F2, Entrée)"));
+  connect(corriger, &QAction::triggered, this, &VuePresences::Corriger);
+  connect(corriger_, &QPushButton::clicked, this, &VuePresences::Corriger);
+  connect(anomalies_, &VueGrille::Activee, this, &VuePresences::Corriger);
+  auto* touche = new QShortcut(QKeySequence(Qt::Key_F2), this);
+  touche->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(touche, &QShortcut::activated, this, &VuePresences::Corriger);
+}
+
+QWidget* VuePresences::Etapes() {
+  auto* bande = new QWidget;
+  auto* ligne = new QHBoxLayout(bande);
+  ligne->setContentsMargins(0, 0, 0, 0);
+  ligne->setSpacing(Theme::Px(8));
+  for (QPushButton* bouton : {etape1_, etape2_, source_}) ligne->addWidget(bouton);
+  fichier_->DefinirElision(true);
+  fichier_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  ligne->addWidget(fichier_, 1);
+  return bande;
+}
+
+QWidget* VuePresences::Comptes() {
+  auto* bande = new QWidget;
+  auto* ligne = new QHBoxLayout(bande);
+  ligne->setContentsMargins(0, 0, 0, 0);
+  ligne->setSpacing(Theme::Px(32));
+  for (Compteur*& compteur : comptes_) ligne->addWidget(compteur = new Compteur({}));
+  ligne->addStretch(1);
+  return bande;
+}
+
+void VuePresences::Disposer() {
+  titreAnomalies_->AjouterAction(corriger_);
+  auto* filtre = new ChampFiltre(QStringLiteral("Filtrer le récapitulatif"));
+  filtre->setFixedWidth(Theme::Px(200));
+  recapitulatif_->Filtrer(*filtre);
+  QPushButton* copier = BoutonDiscret(QStringLiteral("Copier"), QStringLiteral("edit-copy"));
+  copier->setToolTip(QStringLiteral("Copier tout le récapitulatif (Ctrl+Maj+C)"));
+  connect(copier, &QPushButton::clicked, recapitulatif_, &VueGrille::CopierTout);
+  titreRecapitulatif_->AjouterAction(filtre);
+  titreRecapitulatif_->AjouterAction(copier);
+
+  auto* colonne = new QVBoxLayout(this);
+  const int marge = Theme::Px(16);
+  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
+  colonne->setSpacing(Theme::Px(12));
+  colonne->addWidget(new TitreEcran(QStringLiteral("Présences")));
+  colonne->addWidget(Etapes());
+  colonne->addWidget(Comptes());
+  colonne->addWidget(titreAnomalies_);
+  colonne->addWidget(anomalies_);
+  colonne->addWidget(titreRecapitulatif_);
+  colonne->addWidget(recapitulatif_, 1);
+}
+
+void VuePresences::Actualiser() {
+  const bool pret = form_.Etape2Active();
+  DefinirGenre(*etape1_, pret ? TGenreBouton::Simple : TGenreBouton::Principal);
+  DefinirGenre(*etape2_, pret ? TGenreBouton::Principal : TGenreBouton::Simple);
+  etape2_->setEnabled(pret);
+  source_->setText(form_.TitreSource());
+  changerSource_->setText(form_.TitreMenuImportation());
+  fichier_->setText(form_.Fichier());
+  ActualiserComptes();
+
+  const bool anomalies = form_.Anomalies.NombreLignes() > 0;
+  titreAnomalies_->setVisible(form_.FichierLu());
+  titreAnomalies_->DefinirTexte(anomalies ? QStringLiteral("Anomalies") : form_.NoteAnomalies());
+  titreAnomalies_->DefinirNote(anomalies ? form_.NoteAnomalies() : QString());
+  anomalies_->setVisible(anomalies);
+  corriger_->setVisible(anomalies);
+  corriger_->setEnabled(form_.PeutCorriger());
+  titreRecapitulatif_->DefinirNote(form_.NoteRecapitulatif());
+  MesurerAnomalies();
+  if (form_.FichierLu())
+    vide_->Cacher();
+  else
+    vide_->Montrer(QStringLiteral("Aucune présence à montrer"),
+                   QStringLiteral("Importez-les depuis le scanner local ou un site distant (Etape n°1), ou "
+                                  "choisissez « Importer un fichier de présence » sous Source."));
+}
+
+void VuePresences::ActualiserComptes() {
+  const TfrmPresences::TCompteurs& c = form_.Compteurs();
+  const int nombres[] = {c.lblEntree, c.lblRecap, c.lblAnomalie, c.lblTotal};
+  for (std::size_t i = 0; i < comptes_.size(); ++i) {
+    comptes_[i]->Definir(nombres[i]);
+    comptes_[i]->DefinirMot(nombres[i] > 1 ? kMots[i].Plusieurs : kMots[i].Un);
+    comptes_[i]->setEnabled(c.AJour);
+    comptes_[i]->setToolTip(c.AJour ? QString() : QStringLiteral("Comptes d'un fichier précédent"));
+  }
+  comptes_[kAnomalies]->DefinirRole(c.lblAnomalie > 0 ? TRole::Alerte : TRole::Texte);
+}
+
+// All the anomalies up to eight; where there is no room for both, the summary gives way first.
+void VuePresences::MesurerAnomalies() {
+  const int lignes = std::min(form_.Anomalies.NombreLignes(), kLignesAnomalies);
+  anomalies_->setMaximumHeight(anomalies_->HauteurPour(lignes));
+  anomalies_->setMinimumHeight(anomalies_->HauteurPour(std::min(lignes, kLignesMinimum)));
+  recapitulatif_->setMinimumHeight(recapitulatif_->HauteurPour(kLignesMinimum));
+}
+
+void VuePresences::changeEvent(QEvent* evenement) {
+  QWidget::changeEvent(evenement);
+  if (evenement->type() == QEvent::FontChange) MesurerAnomalies();
+}
+
+void VuePresences::contextMenuEvent(QContextMenuEvent* evenement) { menu_->popup(evenement->globalPos()); }
+
+void VuePresences::Importer() {
+  if (form_.ScannerVisible())
+    form_.btnImportScannerClick();
+  else
+    form_.btnImportFTPClick();
+  PlacerFoyer();
+}
+
+void VuePresences::ImporterFichier() {
+  form_.Importerunfichierdeprsence1Click();
+  PlacerFoyer();
+}
+
+void VuePresences::PlacerFoyer() {
+  if (!form_.Etape2Active()) return;
+  if (form_.Anomalies.NombreLignes() > 0)
+    anomalies_->setFocus(Qt::OtherFocusReason);
+  else
+    etape2_->setFocus(Qt::OtherFocusReason);
+}
+
+void VuePresences::Corriger() {
+  if (!form_.PeutCorriger()) return;
+  form_.Corrigerlerelev1Click();
+  PlacerFoyer();
+}

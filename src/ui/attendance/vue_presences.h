@@ -1,0 +1,54 @@
+#pragma once
+#include <QWidget>
+#include <array>
+
+class Compteur;
+class EtatVide;
+class Etiquette;
+class QAction;
+class QMenu;
+class QPushButton;
+class TfrmPresences;
+class TitreSection;
+class VueGrille;
+
+/// "Présences": the scans of a file.
+class VuePresences : public QWidget {
+  Q_OBJECT
+ public:
+  VuePresences(TfrmPresences& form, QWidget* parent);
+  ~VuePresences() override;
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent* evenement) override;
+  void changeEvent(QEvent* evenement) override;
+
+ private:
+  void CreerMenu();
+  QWidget* Etapes();
+  QWidget* Comptes();
+  void CreerGrilles();
+  void Disposer();
+  void Actualiser();
+  void ActualiserComptes();
+  void MesurerAnomalies();
+  void Importer();
+  void ImporterFichier();
+  void Corriger();
+  void PlacerFoyer();
+
+  TfrmPresences& form_;
+  QPushButton* etape1_;
+  QPushButton* etape2_;
+  QPushButton* source_;
+  QMenu* menu_;
+  QAction* changerSource_;
+  Etiquette* fichier_;
+  std::array<Compteur*, 4> comptes_{};
+  TitreSection* titreAnomalies_;
+  QPushButton* corriger_;
+  VueGrille* anomalies_;
+  TitreSection* titreRecapitulatif_;
+  VueGrille* recapitulatif_;
+  EtatVide* vide_;
+};

@@ -1,0 +1,106 @@
+#include "ui/pupils/vue_import.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "screens/pupils/frm_import.h"
+#include "ui/commun/bouton.h"
+#include "ui/commun/champ_filtre.h"
+#include "ui/commun/compteur.h"
+#include "ui/commun/etat_vide.h"
+#include "ui/commun/feuille_progression.h"
+#include "ui/commun/marque_etat.h"
+#include "ui/commun/titres.h"
+#include "ui/commun/vue_grille.h"
+
+VueImport::VueImport(TFrmImport& form, QWidget* parent)
+    : QWidget(parent),
+      form_(form),
+      etape1_(BoutonPrincipal(QStringLiteral("Etape n°1 : Ouvrir le fichier de données"),
+                              QStringLiteral("document-open"))),
+      etape2_(BoutonSimple(QStringLiteral("Etape n°2 : Démarrer le transfert des données"),
+                           QStringLiteral("document-import"))),
+      eleves_(new Compteur({})),
+      fichier_(new MarqueEtat),
+      feuille_(new FeuilleProgression),
+      grille_(new VueGrille(form.Grille, QStringLiteral("Contenu du fichier"),
+                            QStringLiteral("Importation/Fichier"))),
+      vide_(new EtatVide(grille_)) {
+  Disposer();
+  connect(etape1_, &QPushButton::clicked, this, [this] { form_.btnEtape1Click(); });
+  connect(etape2_, &QPushButton::clicked, this, [this] { form_.btnEtape2Click(); });
+  form_.SurChangement = [this] { Actualiser(); };
+  Actualiser();
+}
+
+VueImport::~VueImport() { form_.SurChangement = nullptr; }
+
+void VueImport::Disposer() {
+  auto* boutons = new QHBoxLayout;
+  boutons->setSpacing(Theme::Px(8));
+  boutons->addWidget(etape1_);
+  boutons->addWidget(etape2_);
+  boutons->addStretch(1);
+  auto* comptes = new QHBoxLayout;
+  comptes->setSpacing(Theme::Px(32));
+  comptes->addWidget(eleves_);
+  comptes->addWidget(fichier_, 1);
+
+  auto* filtre = new ChampFiltre(QStringLiteral("Filtrer"));
+  filtre->setFixedWidth(Theme::Px(200));
+  grille_->Filtrer(*filtre);
+  QPushButton* copier = BoutonDiscret(QStringLiteral("Copier"), QStringLiteral("edit-copy"));
+  copier->setToolTip(QStringLiteral("Copier toute la liste (Ctrl+Maj+C)"));
+  connect(copier, &QPushButton::clicked, grille_, &VueGrille::CopierTout);
+  auto* titre = new TitreSection(QStringLiteral("Contenu du fichier"));
+  titre->AjouterAction(filtre);
+  titre->AjouterAction(copier);
+
+  auto* colonne = new QVBoxLayout(this);
+  const int marge = Theme::Px(16);
+  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
+  colonne->setSpacing(Theme::Px(12));
+  colonne->addWidget(new TitreEcran(QStringLiteral("Importation des élèves")));
+  colonne->addLayout(boutons);
+  colonne->addLayout(comptes);
+  colonne->addWidget(feuille_);
+  colonne->addWidget(titre);
+  colonne->addWidget(grille_, 1);
+}
+
+void VueImport::Actualiser() {
+  const bool seconde = form_.Etape2Suivante();
+  DefinirGenre(*etape1_, seconde ? TGenreBouton::Simple : TGenreBouton::Principal);
+  DefinirGenre(*etape2_, seconde ? TGenreBouton::Principal : TGenreBouton::Simple);
+  etape1_->setEnabled(form_.Etape1Active());
+  etape2_->setEnabled(form_.Etape2Active());
+  const int nombre = form_.NombreEleves();
+  eleves_->Definir(nombre);
+  eleves_->DefinirMot(nombre > 1 ? QStringLiteral("élèves dans le fichier")
+                                 : QStringLiteral("élève dans le fichier"));
+  fichier_->Definir(form_.Fichier().Niveau, form_.Fichier().Texte);
+  if (form_.Grille.NombreLignes() > 0)
+    vide_->Cacher();
+  else
+    vide_->Montrer(
+        QStringLiteral("Aucun élève à montrer"),
+        QStringLiteral(
+            "Ouvrez l'export du registre de l'école : ses élèves s'affichent ici avant le transfert."));
+  ActualiserFeuille();
+}
+
+void VueImport::ActualiserFeuille() {
+  const TFrmImport::TFeuille& feuille = form_.Feuille();
+  if (!feuille.Visible) {
+    feuille_->Terminer();
+  } else if (feuille.Arretee) {
+    feuille_->Arreter(feuille.Titre, feuille.Note);
+  } else {
+    if (!feuilleOuverte_)
+      feuille_->Demarrer(feuille.Titre, feuille.Total, QStringLiteral("Elève actuellement traité :"),
+                         feuille.Note);
+    feuille_->Avancer(feuille.Fait, feuille.Nom);
+    grille_->MontrerLigne(form_.Grille.LigneCourante());
+  }
+  feuilleOuverte_ = feuille.Visible && !feuille.Arretee;
+}

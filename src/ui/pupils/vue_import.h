@@ -1,0 +1,33 @@
+#pragma once
+#include <QWidget>
+
+class Compteur;
+class EtatVide;
+class FeuilleProgression;
+class MarqueEtat;
+class QPushButton;
+class TFrmImport;
+class VueGrille;
+
+/// "Importation des élèves"
+class VueImport : public QWidget {
+  Q_OBJECT
+ public:
+  VueImport(TFrmImport& form, QWidget* parent);
+  ~VueImport() override;
+
+ private:
+  void Disposer();
+  void Actualiser();
+  void ActualiserFeuille();
+
+  TFrmImport& form_;
+  QPushButton* etape1_;
+  QPushButton* etape2_;
+  Compteur* eleves_;
+  MarqueEtat* fichier_;
+  FeuilleProgression* feuille_;
+  VueGrille* grille_;
+  EtatVide* vide_;
+  bool feuilleOuverte_ = false;
+};
