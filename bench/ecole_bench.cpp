@@ -68,7 +68,7 @@ void RemplirEleves(TDataModule1& base, int eleves) {
     Faire(eleve, eleve.exec());
     inscription.bindValue(0, i);
     inscription.bindValue(1, i);
-    inscription.bindValue(2, QStringLiteral("%1%2").arg(i % 3 == 0 ? u'M' : u'P').arg(i % 6 + 1));
+    inscription.bindValue(2, QStringLiteral("%1%2").arg(QChar(i % 3 == 0 ? u'M' : u'P')).arg(i % 6 + 1));
     inscription.bindValue(3, i % 2 == 0 ? QStringLiteral("A") : QStringLiteral("B"));
     Faire(inscription, inscription.exec());
   }

@@ -7,6 +7,7 @@
 
 #include "core/exceptions.h"
 #include "report/layout/fichiers_polices.h"
+#include "report/output/pdf_pages.h"
 
 namespace {
 
@@ -22,11 +23,12 @@ class TVidage {
  public:
   QByteArray Tout(const TDocumentPrepare& document) {
     for (const TPagePreparee& page : document.Pages) {
-      hauteur_ = static_cast<double>(page.Hauteur);
+      hauteur_ = CotePapier(page.Hauteur) / kCentiemesParPixel;
       elements_ = {};
       for (const TElement& element : page.Elements)
         std::visit([this](const auto& e) { Ajouter(e); }, element);
-      pages_.append(QJsonArray{Points(static_cast<double>(page.Largeur)), Points(hauteur_), elements_});
+      pages_.append(
+          QJsonArray{CotePapier(page.Largeur) / 100.0, CotePapier(page.Hauteur) / 100.0, elements_});
     }
     return QJsonDocument(
                QJsonObject{{QStringLiteral("polices"), polices_}, {QStringLiteral("pages"), pages_}})

@@ -2,9 +2,11 @@
 
 #include <array>
 #include <charconv>
-#include <cstdio>
 
 namespace {
+
+/// Objects in a stream; their ranks fit into one octet of the table.
+constexpr std::size_t kRassembles = 200;
 
 constexpr std::string_view kChiffresHexa = "0123456789ABCDEF";
 
@@ -54,20 +56,17 @@ std::string ChainePdf(const QString& texte) {
 TEcrivainPdf::TEcrivainPdf() : sortie_("%PDF-1.7\n%\xE2\xE3\xCF\xD3\n") {}
 
 int TEcrivainPdf::Reserver() {
-  places_.push_back(0);
+  places_.emplace_back();
   return static_cast<int>(places_.size());
 }
 
-void TEcrivainPdf::Commencer(int numero) {
-  places_[static_cast<std::size_t>(numero) - 1] = sortie_.size();
-  AjouterEntier(sortie_, numero);
-  sortie_ += " 0 obj\n";
-}
-
 void TEcrivainPdf::Objet(int numero, std::string_view contenu) {
-  Commencer(numero);
-  sortie_ += contenu;
-  sortie_ += "\nendobj\n";
+  if (rassemblement_ == 0) rassemblement_ = Reserver();
+  Place(numero) = {static_cast<std::size_t>(rassemblement_), rassembles_++, true};
+  tableRassembles_ += std::to_string(numero) + ' ' + std::to_string(rassemblesEcrits_.size()) + ' ';
+  rassemblesEcrits_ += contenu;
+  rassemblesEcrits_ += '\n';
+  if (rassembles_ == kRassembles) FermerRassemblement();
 }
 
 int TEcrivainPdf::Objet(std::string_view contenu) {
@@ -76,11 +75,23 @@ int TEcrivainPdf::Objet(std::string_view contenu) {
   return numero;
 }
 
+void TEcrivainPdf::FermerRassemblement() {
+  if (rassemblement_ == 0) return;
+  Flux(rassemblement_,
+       "/Type/ObjStm/N " + std::to_string(rassembles_) + "/First " + std::to_string(tableRassembles_.size()),
+       tableRassembles_ + rassemblesEcrits_);
+  rassemblement_ = 0;
+  rassembles_ = 0;
+  tableRassembles_.clear();
+  rassemblesEcrits_.clear();
+}
+
 void TEcrivainPdf::Flux(int numero, std::string_view entrees, std::string_view octets) {
   std::string comprime;
   compresseur_.Ajouter(octets, comprime);
-  Commencer(numero);
-  sortie_ += "<<";
+  Place(numero).Ou = sortie_.size();
+  AjouterEntier(sortie_, numero);
+  sortie_ += " 0 obj\n<<";
   sortie_ += entrees;
   sortie_ += "/Filter/FlateDecode/Length ";
   AjouterEntier(sortie_, static_cast<int>(comprime.size()));
@@ -96,15 +107,19 @@ int TEcrivainPdf::Flux(std::string_view entrees, std::string_view octets) {
 }
 
 std::string TEcrivainPdf::Terminer(int catalogue, int informations) {
-  const std::size_t table = sortie_.size();
-  const std::string nombre = std::to_string(places_.size() + 1);
-  sortie_ += "xref\n0 " + nombre + "\n0000000000 65535 f \n";
-  for (const std::size_t place : places_) {
-    std::array<char, 24> ligne;
-    std::snprintf(ligne.data(), ligne.size(), "%010zu 00000 n \n", place);
-    sortie_ += ligne.data();
+  FermerRassemblement();
+  const int table = Reserver();
+  const std::size_t debut = Place(table).Ou = sortie_.size();
+  std::string octets(6, '\0');  // of object 0, which is none
+  for (const TPlace& place : places_) {
+    octets += place.Rassemble ? '\2' : '\1';
+    for (const int decalage : {24, 16, 8, 0}) octets += static_cast<char>(place.Ou >> decalage);
+    octets += static_cast<char>(place.Rang);
   }
-  sortie_ += "trailer\n<</Size " + nombre + "/Root " + Renvoi(catalogue) + "/Info " + Renvoi(informations) +
-             ">>\nstartxref\n" + std::to_string(table) + "\n%%EOF\n";
+  Flux(table,
+       "/Type/XRef/W[1 4 1]/Size " + std::to_string(places_.size() + 1) + "/Root " + Renvoi(catalogue) +
+           "/Info " + Renvoi(informations),
+       octets);
+  sortie_ += "startxref\n" + std::to_string(debut) + "\n%%EOF\n";
   return std::move(sortie_);
 }

@@ -30,7 +30,8 @@ std::string Renvoi(int objet);
 /// A text for people, whatever its characters.
 std::string ChainePdf(const QString& texte);
 
-/// The objects of a PDF file, written one after the other, and where each of them stands.
+/// The objects of a PDF file, written one after the other, and where each of them stands. What is no
+/// stream is gathered in streams of objects: a third of a file of short pages would be their dictionaries.
 class TEcrivainPdf {
  public:
   TEcrivainPdf();
@@ -46,9 +47,19 @@ class TEcrivainPdf {
   std::string Terminer(int catalogue, int informations);
 
  private:
-  void Commencer(int numero);
+  struct TPlace {
+    std::size_t Ou = 0;  ///< in the file; of a gathered object, the number of its stream
+    std::size_t Rang = 0;
+    bool Rassemble = false;
+  };
+  TPlace& Place(int numero) { return places_[static_cast<std::size_t>(numero) - 1]; }
+  void FermerRassemblement();
 
   std::string sortie_;
-  std::vector<std::size_t> places_;
+  std::vector<TPlace> places_;
+  // The stream of objects in hand; number 0 is none.
+  int rassemblement_ = 0;
+  std::size_t rassembles_ = 0;
+  std::string tableRassembles_, rassemblesEcrits_;
   TCompresseur compresseur_;
 };
