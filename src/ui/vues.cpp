@@ -4,12 +4,18 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "screens/documents/frm_apercu.h"
+#include "screens/documents/frm_print_wizard.h"
+#include "screens/payments/frm_date_paiement.h"
 #include "screens/attendance/frm_ajout_releve.h"
 #include "screens/attendance/frm_presences.h"
 #include "screens/principal/frm_ajout_professeur.h"
 #include "screens/pupils/frm_import.h"
 #include "ui/attendance/vue_ajout_releve.h"
 #include "ui/attendance/vue_presences.h"
+#include "ui/documents/vue_apercu.h"
+#include "ui/documents/vue_print_wizard.h"
+#include "ui/payments/vue_date_paiement.h"
 #include "ui/principal/vue_ajout_professeur.h"
 #include "ui/pupils/vue_import.h"
 
@@ -32,6 +38,9 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
   // One line a screen: VueDe<TFrmImport, VueImport>(),
   static const std::vector<TFabriqueVue> kVues{
       VueDe<TFrmAjoutProfesseur, VueAjoutProfesseur>(),
+      VueDe<TFrmApercu, VueApercu>(),
+      VueDe<TFrmDatePaiement, VueDatePaiement>(),
+      VueDe<TFrmPrintWizard, VuePrintWizard>(),
       VueDe<TFrmImport, VueImport>(),
       VueDe<TfrmPresences, VuePresences>(),
       VueDe<TFrmAjoutReleve, VueAjoutReleve>(),

@@ -255,6 +255,14 @@ std::optional<QString> TFrmApercu::Demander(const QString& titre, const QString&
   return chemin;
 }
 
+void TFrmApercu::btnImprimerClick() {
+  if (!SurImprimer) return;
+  Terminer();
+  QString imprimante;
+  if (Essayer([&] { imprimante = SurImprimer(document_); }) && !imprimante.isEmpty())
+    Dire(TNiveauEtat::Succes, u"Envoyé : " % imprimante);
+}
+
 void TFrmApercu::btnExporterClick() {
   const auto chemin =
       Demander(QStringLiteral("Exporter en PDF"), QStringLiteral(".pdf"), QStringLiteral("PDF (*.pdf)"));

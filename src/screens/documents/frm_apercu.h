@@ -83,6 +83,7 @@ class TFrmApercu : public TForm {
   QString TexteRecherche() const;
 
   // Commands.
+  void btnImprimerClick();
   void btnExporterClick();
   void btnEnregistrerClick();
   void btnOuvrirClick();
@@ -100,6 +101,8 @@ class TFrmApercu : public TForm {
   QString TexteDefauts() const;
   QStringList Defauts() const;
 
+  /// Prints and gives the name of the printer, "" when the user gave up. Raises Exception.
+  std::function<QString(const TDocumentPrepare&)> SurImprimer;
   TNiveauEtat NiveauEtat = TNiveauEtat::Neutre;
   QString Etat;  ///< the last thing done
   /// A page is to be shown, and on it a place (null: its top).

@@ -1,23 +1,9 @@
 #include "ui/principal/programme.h"
 
-namespace {
-
-/// Until there is a preview window.
-class TSansApercu : public IApercu {
- public:
-  explicit TSansApercu(IDialogues& dialogues) : dialogues_(dialogues) {}
-  void Afficher(TRapport&) override {
-    dialogues_.Information(QStringLiteral("L'aperçu n'est pas encore disponible dans cette version."));
-  }
-
- private:
-  IDialogues& dialogues_;
-};
-
-}  // namespace
+#include "ui/documents/apercu_qt.h"
 
 Programme::Programme(const THorloge& horloge)
-    : Apercu(std::make_unique<TSansApercu>(Dialogues)),
+    : Apercu(std::make_unique<ApercuQt>(TContexteApercu{Dialogues, Reglages, horloge}, Modale)),
       Main(Base, Reglages, horloge, Modale, *Apercu),
       Assistant(Main.Contexte),
       Fenetre(Main, Dialogues) {

@@ -1,0 +1,367 @@
+#include "ui/documents/vue_print_wizard.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStackedWidget>
+
+#include "ui/commun/bouton.h"
+#include "ui/commun/champ_filtre.h"
+#include "ui/commun/saisie.h"
+#include "ui/commun/vue_grille.h"
+
+namespace {
+
+struct TTextesPage {
+  QString Etape;
+  QString Question;
+};
+
+/// By page.
+const std::vector<TTextesPage>& TextesPages() {
+  static const std::vector<TTextesPage> textes{
+      {QStringLiteral("Rapport"), QStringLiteral("Veuillez choisir le rapport que vous souhaitez imprimer:")},
+      {QStringLiteral("Élèves"),
+       QStringLiteral("Veuillez choisir le ou les élèves concernés par ce rapport:")},
+      {QStringLiteral("Période"), QStringLiteral("Veuillez choisir la période concernées par ce rapport:")},
+  };
+  return textes;
+}
+
+QWidget* Filet() {
+  auto* filet = new QFrame;
+  filet->setFrameShape(QFrame::HLine);
+  filet->setFixedHeight(1);
+  return filet;
+}
+
+/// A layout without margins, its parts that far apart.
+template <class T>
+T* SansMarge(QWidget* parent, int ecart) {
+  auto* disposition = new T(parent);
+  disposition->setContentsMargins(0, 0, 0, 0);
+  disposition->setSpacing(Theme::Px(ecart));
+  return disposition;
+}
+
+template <class T>
+int Id(T valeur) {
+  return static_cast<int>(valeur);
+}
+
+}  // namespace
+
+VuePrintWizard::VuePrintWizard(TFrmPrintWizard& form, QWidget* parent)
+    : DialogueBase(QStringLiteral("Assistant d'impression"), parent),
+      form_(form),
+      question_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
+      pages_(new QStackedWidget),
+      precedent_(AjouterBouton(QStringLiteral("< &Précédent"))),
+      titres_(new QButtonGroup(this)),
+      qui_(new QButtonGroup(this)),
+      periode_(new QButtonGroup(this)) {
+  question_->setWordWrap(true);
+  Contenu()->addWidget(CreerEtapes());
+  Contenu()->addWidget(question_);
+  Contenu()->addWidget(pages_, 1);
+  Contenu()->addWidget(Filet());
+  pages_->addWidget(CreerPageRapport());
+  pages_->addWidget(CreerPageQui());
+  pages_->addWidget(CreerPagePeriode());
+  const QSize place = QGuiApplication::primaryScreen()->availableSize();
+  resize(QSize(Theme::Px(720), Theme::Px(600)).boundedTo(place));
+  Suivre();
+  pages_->setCurrentIndex(Id(form_.Page()));
+  Rafraichir();
+  FoyerDePage();
+}
+
+VuePrintWizard::~VuePrintWizard() {
+  form_.SurChangement = nullptr;
+  form_.SurFoyer = nullptr;
+}
+
+void VuePrintWizard::Suivre() {
+  form_.SurChangement = [this] { Rafraichir(); };
+  form_.SurFoyer = [this](TChampAssistant champ) { AllerAuChamp(champ); };
+  connect(precedent_, &QPushButton::clicked, this, [this] { form_.btnPrecedentClick(); });
+  connect(titres_, &QButtonGroup::idClicked, this, [this](int id) { form_.ChoixRapportClick(id); });
+  connect(qui_, &QButtonGroup::idClicked, this,
+          [this](int id) { form_.RbEleveClick(static_cast<TChoixQui>(id)); });
+  connect(periode_, &QButtonGroup::idClicked, this,
+          [this](int id) { form_.RbMoisClick(static_cast<TChoixPeriode>(id)); });
+  connect(tout_, &QPushButton::clicked, this, [this] { form_.btnToutSelectionnerClick(); });
+  connect(rien_, &QPushButton::clicked, this, [this] { form_.btnRienSelectionnerClick(); });
+  connect(mois_, &QComboBox::activated, this, [this](int indice) { form_.ChoisirMois(indice); });
+  for (SaisieDate* date : dates_) connect(date, &Saisie::Saisi, this, [this] { LireDates(); });
+  const struct {
+    const TListe& Liste;
+    QString& Filtre;
+    void (TFrmPrintWizard::*Trier)(int, bool);
+  } listes[] = {{eleves_, form_.FiltreEleve, &TFrmPrintWizard::LstEleveColumnClick},
+                {classes_, form_.FiltreClasse, &TFrmPrintWizard::LstClasseColumnClick}};
+  for (const auto& [liste, filtre, trier] : listes) {
+    connect(liste.Filtre, &QLineEdit::textChanged, this, [&filtre](const QString& texte) { filtre = texte; });
+    const QHeaderView* tete = liste.Vue->header();
+    const auto ordonner = [this, trier](int colonne, Qt::SortOrder ordre) {
+      (form_.*trier)(colonne, ordre == Qt::AscendingOrder);
+    };
+    ordonner(tete->sortIndicatorSection(), tete->sortIndicatorOrder());
+    connect(tete, &QHeaderView::sortIndicatorChanged, this, ordonner);
+  }
+}
+
+QWidget* VuePrintWizard::CreerEtapes() {
+  auto* barre = new QWidget;
+  auto* ligne = SansMarge<QHBoxLayout>(barre, 8);
+  for (const TTextesPage& textes : TextesPages()) {
+    const QString numero = QString::number(etapes_.size() + 1);
+    if (!etapes_.empty()) ligne->addWidget(new Etiquette(QStringLiteral("›"), TRole::Secondaire));
+    etapes_.push_back(new Etiquette(numero % u"  " % textes.Etape, TRole::Secondaire));
+    ligne->addWidget(etapes_.back());
+  }
+  ligne->addStretch(1);
+  return barre;
+}
+
+QWidget* VuePrintWizard::CreerPageRapport() {
+  auto* page = new QWidget;
+  auto* colonne = new QVBoxLayout(page);
+  colonne->setContentsMargins(Theme::Px(10), 0, 0, 0);
+  colonne->setSpacing(Theme::Px(4));
+  auto* zone = new QScrollArea;
+  for (const TTitreAssistant& titre : form_.Titres()) {
+    auto* bouton = new QRadioButton(titre.Titre);
+    bouton->setMinimumSize(Theme::Px(420), Theme::Px(24));
+    titres_->addButton(bouton, static_cast<int>(titres_->buttons().size()));
+    colonne->addWidget(bouton, 0, Qt::AlignLeft);
+    connect(bouton, &QRadioButton::toggled, zone, [zone, bouton](bool coche) {
+      if (coche) zone->ensureWidgetVisible(bouton);
+    });
+  }
+  colonne->addStretch(1);
+  zone->setFrameShape(QFrame::NoFrame);
+  zone->setWidgetResizable(true);
+  zone->setFocusPolicy(Qt::NoFocus);
+  zone->setWidget(page);
+  return zone;
+}
+
+QWidget* VuePrintWizard::CreerListe(TListe& liste, const QString& courant, const QString& plusieurs,
+                                    TGrille& grille, const QString& nom) {
+  liste = {new QRadioButton(courant), new Etiquette({}, TRole::Texte, &Theme::Gras),
+           new QRadioButton(plusieurs), new ChampFiltre, new VueGrille(grille, nom, u"PrintWizard/" % nom)};
+  liste.Nom->setContentsMargins(Theme::Px(24), 0, 0, 0);
+  liste.Nom->DefinirElision(true);
+  liste.Filtre->setAccessibleName(u"Filtrer : " % nom);
+  liste.Filtre->setMaximumWidth(Theme::Px(140));
+  liste.Vue->Filtrer(*liste.Filtre);
+  auto* cote = new QWidget;
+  auto* colonne = SansMarge<QVBoxLayout>(cote, 4);
+  auto* ligne = SansMarge<QHBoxLayout>(nullptr, 8);
+  ligne->addWidget(liste.Plusieurs);
+  ligne->addWidget(liste.Filtre, 1);
+  colonne->addWidget(liste.Courant);
+  colonne->addWidget(liste.Nom);
+  colonne->addLayout(ligne);
+  colonne->addSpacing(Theme::Px(4));
+  colonne->addWidget(liste.Vue, 1);
+  return cote;
+}
+
+QWidget* VuePrintWizard::CreerPageQui() {
+  auto* page = new QWidget;
+  auto* colonne = SansMarge<QVBoxLayout>(page, 12);
+  auto* listes = SansMarge<QHBoxLayout>(nullptr, 24);
+  listes->addWidget(
+      CreerListe(eleves_, QStringLiteral("L'élève actuellement sélectionné :"),
+                 QStringLiteral("Les élèves suivants:"), form_.LstEleve, QStringLiteral("Élèves")),
+      1);
+  listes->addWidget(
+      CreerListe(classes_, QStringLiteral("La classe actuellement sélectionnée :"),
+                 QStringLiteral("Les classes suivantes:"), form_.LstClasse, QStringLiteral("Classes")),
+      1);
+  const std::pair<QRadioButton*, TChoixQui> choix[] = {{eleves_.Courant, TChoixQui::Eleve},
+                                                       {eleves_.Plusieurs, TChoixQui::Eleves},
+                                                       {classes_.Courant, TChoixQui::Classe},
+                                                       {classes_.Plusieurs, TChoixQui::Classes}};
+  for (const auto& [bouton, qui] : choix) qui_->addButton(bouton, Id(qui));
+  tout_ = BoutonSimple(QStringLiteral("Tout sélectionner"));
+  rien_ = BoutonSimple(QStringLiteral("Ne rien sélectionner"));
+  compte_ = new Etiquette({}, TRole::Texte, &Theme::Gras);
+  auto* pied = SansMarge<QHBoxLayout>(nullptr, 8);
+  pied->addWidget(tout_);
+  pied->addWidget(rien_);
+  pied->addStretch(1);
+  pied->addWidget(compte_);
+  colonne->addLayout(listes, 1);
+  colonne->addLayout(pied);
+  return page;
+}
+
+QWidget* VuePrintWizard::CreerLigneMois() {
+  mois_ = new QComboBox;
+  mois_->addItems(form_.cmbMois());
+  mois_->setPlaceholderText(QStringLiteral("Choisir un mois"));
+  mois_->setMinimumWidth(Theme::Px(160));
+  mois_->setAccessibleName(QStringLiteral("Mois"));
+  return mois_;
+}
+
+QWidget* VuePrintWizard::CreerLigneDates() {
+  auto* champs = new QWidget;
+  auto* ligne = SansMarge<QHBoxLayout>(champs, 12);
+  for (SaisieDate*& date : dates_) {
+    const bool premiere = &date == &dates_[0];
+    if (!premiere) ligne->addWidget(new Etiquette(QStringLiteral("au")));
+    date = new SaisieDate;
+    date->setMinimumWidth(Theme::Px(124));
+    date->setAccessibleName(premiere ? QStringLiteral("Premier jour") : QStringLiteral("Dernier jour"));
+    ligne->addWidget(date);
+  }
+  return champs;
+}
+
+QWidget* VuePrintWizard::CreerPagePeriode() {
+  auto* page = new QWidget;
+  auto* colonne = SansMarge<QVBoxLayout>(page, 12);
+  auto* grille = SansMarge<QGridLayout>(nullptr, 8);
+  annee_ = new Etiquette({}, TRole::Secondaire);
+  const struct {
+    QString Texte;
+    TChoixPeriode Choix;
+    QWidget* Champs;
+  } lignes[] = {{QStringLiteral("Le mois de :"), TChoixPeriode::Mois, CreerLigneMois()},
+                {QStringLiteral("La période du :"), TChoixPeriode::Periode, CreerLigneDates()},
+                {QStringLiteral("L'année scolaire"), TChoixPeriode::Annee, annee_}};
+  int rang = 0;
+  for (const auto& [texte, choix, champs] : lignes) {
+    auto* bouton = new QRadioButton(texte);
+    periode_->addButton(bouton, Id(choix));
+    grille->addWidget(bouton, rang, 0);
+    grille->addWidget(champs, rang++, 1, Qt::AlignLeft | Qt::AlignVCenter);
+  }
+  grille->setHorizontalSpacing(Theme::Px(16));
+  grille->setColumnStretch(1, 1);
+  resume_ = new Etiquette({}, TRole::Texte, &Theme::Gras);
+  resume_->setWordWrap(true);
+  colonne->addLayout(grille);
+  colonne->addSpacing(Theme::Px(8));
+  colonne->addWidget(Filet());
+  colonne->addWidget(new Etiquette(QStringLiteral("Sera imprimé"), TRole::Secondaire));
+  colonne->addWidget(resume_);
+  colonne->addStretch(1);
+  return page;
+}
+
+void VuePrintWizard::Rafraichir() {
+  const bool autrePage = pages_->currentIndex() != Id(form_.Page());
+  pages_->setCurrentIndex(Id(form_.Page()));
+  question_->setText(TextesPages()[static_cast<std::size_t>(form_.Page())].Question);
+  precedent_->setEnabled(!form_.EstPremierePage());
+  if (form_.EstDernierePage())
+    DefinirPrincipal(QStringLiteral("&Imprimer"), QStringLiteral("document-print"));
+  else
+    DefinirPrincipal(QStringLiteral("&Suivant >"));
+  if (form_.Indice() >= 0) titres_->button(form_.Indice())->setChecked(true);
+  RafraichirEtapes();
+  RafraichirQui();
+  RafraichirPeriode();
+  if (autrePage) FoyerDePage();
+}
+
+void VuePrintWizard::RafraichirEtapes() {
+  for (std::size_t i = 0; i < etapes_.size(); ++i) {
+    const auto page = static_cast<TPageAssistant>(i);
+    Etiquette& etape = *etapes_[i];
+    const bool ici = page == form_.Page();
+    etape.DefinirRole(ici ? TRole::Accent : TRole::Secondaire);
+    QFont police = etape.font();
+    police.setBold(ici);
+    etape.setFont(police);
+    etape.setEnabled(form_.PageVisible(page));
+  }
+}
+
+void VuePrintWizard::RafraichirQui() {
+  for (QAbstractButton* bouton : qui_->buttons())
+    bouton->setEnabled(form_.ChoixQuiPossible(static_cast<TChoixQui>(qui_->id(bouton))));
+  qui_->button(Id(form_.ChoixQui()))->setChecked(true);
+  const struct {
+    TListe& Liste;
+    const QString& Nom;
+    bool Active;
+  } listes[] = {{eleves_, form_.lblEleve, form_.LstEleveActive()},
+                {classes_, form_.lblClasse, form_.LstClasseActive()}};
+  for (const auto& [liste, nom, active] : listes) {
+    liste.Nom->setText(nom);
+    liste.Courant->setAccessibleDescription(nom);
+    liste.Filtre->setEnabled(active);
+    liste.Vue->setEnabled(active);
+  }
+  tout_->setEnabled(form_.SelectionActive());
+  rien_->setEnabled(form_.SelectionActive());
+  compte_->setText(form_.Compte());
+}
+
+void VuePrintWizard::RafraichirPeriode() {
+  periode_->button(Id(form_.ChoixPeriode()))->setChecked(true);
+  mois_->setEnabled(form_.ChoixPeriode() == TChoixPeriode::Mois);
+  mois_->setCurrentIndex(form_.IndiceMois());
+  for (SaisieDate* date : dates_) {
+    date->setEnabled(form_.ChoixPeriode() == TChoixPeriode::Periode);
+    // What cannot be read stays in sight.
+    if (date->EstValide()) date->DefinirDate(date == dates_[0] ? form_.dtDate1() : form_.dtDate2());
+  }
+  annee_->setText(form_.TexteAnnee());
+  resume_->setText(form_.Resume());
+}
+
+void VuePrintWizard::FoyerDePage() {
+  const QButtonGroup* groupes[] = {titres_, qui_, periode_};
+  if (QAbstractButton* coche = groupes[pages_->currentIndex()]->checkedButton())
+    coche->setFocus(Qt::OtherFocusReason);
+}
+
+void VuePrintWizard::AllerAuChamp(TChampAssistant champ) {
+  switch (champ) {
+    case TChampAssistant::Mois:
+      return mois_->setFocus(Qt::OtherFocusReason);
+    case TChampAssistant::LstEleve:
+      return eleves_.Vue->setFocus(Qt::OtherFocusReason);
+    case TChampAssistant::LstClasse:
+      return classes_.Vue->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+/// The field that holds no date; null when both do, and the form then has them.
+SaisieDate* VuePrintWizard::LireDates() {
+  TDateTime lues[2] = {};
+  for (int i = 0; i < 2; ++i) {
+    lues[i] = dates_[i]->Date().value_or(0.0);
+    if (lues[i] == 0.0) return dates_[i];
+  }
+  form_.ChoisirDates(lues[0], lues[1]);
+  return nullptr;
+}
+
+bool VuePrintWizard::Valider() {
+  const bool parDates =
+      form_.Page() == TPageAssistant::Periode && form_.ChoixPeriode() == TChoixPeriode::Periode;
+  if (SaisieDate* fautive = parDates ? LireDates() : nullptr) {
+    MontrerFaute(QStringLiteral("La date introduite est incorrecte."), fautive);
+    return false;
+  }
+  if (!form_.EstDernierePage()) {
+    form_.btnSuivantClick();
+    return false;
+  }
+  form_.KWizard1FinishButtonClick();
+  return !form_.EstMontree();
+}

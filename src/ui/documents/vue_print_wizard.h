@@ -1,0 +1,67 @@
+#pragma once
+#include "screens/documents/frm_print_wizard.h"
+#include "ui/commun/dialogue_base.h"
+
+class ChampFiltre;
+class QButtonGroup;
+class QComboBox;
+class QRadioButton;
+class QStackedWidget;
+class SaisieDate;
+class VueGrille;
+
+/// The wizard's three pages under their steps.
+class VuePrintWizard : public DialogueBase {
+  Q_OBJECT
+ public:
+  VuePrintWizard(TFrmPrintWizard& form, QWidget* parent);
+  ~VuePrintWizard() override;
+
+ protected:
+  /// Next page, or the finish on the last.
+  bool Valider() override;
+
+ private:
+  /// A list of the who page with what stands above it.
+  struct TListe {
+    QRadioButton* Courant;  ///< "L'élève actuellement sélectionné :"
+    Etiquette* Nom;
+    QRadioButton* Plusieurs;
+    ChampFiltre* Filtre;
+    VueGrille* Vue;
+  };
+
+  QWidget* CreerEtapes();
+  QWidget* CreerPageRapport();
+  QWidget* CreerPageQui();
+  QWidget* CreerPagePeriode();
+  QWidget* CreerListe(TListe& liste, const QString& courant, const QString& plusieurs, TGrille& grille,
+                      const QString& nom);
+  QWidget* CreerLigneMois();
+  QWidget* CreerLigneDates();
+  void Suivre();
+  void Rafraichir();
+  void RafraichirEtapes();
+  void RafraichirQui();
+  void RafraichirPeriode();
+  void FoyerDePage();
+  void AllerAuChamp(TChampAssistant champ);
+  SaisieDate* LireDates();
+
+  TFrmPrintWizard& form_;
+  std::vector<Etiquette*> etapes_;
+  Etiquette* question_;
+  QStackedWidget* pages_;
+  QPushButton* precedent_;
+  QButtonGroup* titres_;
+  QButtonGroup* qui_;
+  QButtonGroup* periode_;
+  TListe eleves_{}, classes_{};
+  QPushButton* tout_ = nullptr;
+  QPushButton* rien_ = nullptr;
+  Etiquette* compte_ = nullptr;
+  QComboBox* mois_ = nullptr;
+  SaisieDate* dates_[2] = {};
+  Etiquette* annee_ = nullptr;
+  Etiquette* resume_ = nullptr;
+};
