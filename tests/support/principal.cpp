@@ -1,21 +1,12 @@
-// The main of every test program: a private home, so that no test meets the user's own settings,
-// locks or data.
+// The main of every test program without widgets.
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QLocale>
-#include <QSettings>
-#include <QTemporaryDir>
+
+#include "support/maison.h"
 
 int main(int argc, char** argv) {
-  QTemporaryDir maison;
-  const QByteArray chemin = QFile::encodeName(maison.path());
-  for (const char* nom : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "FIREBIRD_LOCK", "TEMP"}) qputenv(nom, chemin);
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                     maison.filePath(QStringLiteral("utilisateur")));
-  QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
-                     maison.filePath(QStringLiteral("machine")));
-  QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
+  const TMaison maison;
   testing::InitGoogleTest(&argc, argv);
   QCoreApplication application(argc, argv);
   return RUN_ALL_TESTS();

@@ -172,25 +172,20 @@ void Fleche(QPainter& peintre, const QRect& place, Qt::ArrowType sens, const QCo
 }
 
 void LigneDeListe(QPainter& peintre, const QStyleOption& option, const QWidget* widget, bool rangee) {
-  const auto* arbre = qobject_cast<const QTreeView*>(widget);
-  if (arbre && !rangee) return;  // the row behind the cell is drawn already
   const auto* cellule = qstyleoption_cast<const QStyleOptionViewItem*>(&option);
   if (cellule && cellule->backgroundBrush.style() != Qt::NoBrush)
     peintre.fillRect(option.rect, cellule->backgroundBrush);
   const auto* liste = qobject_cast<const QAbstractItemView*>(widget);
+  const bool actif = A(option, QStyle::State_Enabled) && (!liste || liste->isEnabled());
   if (!A(option, QStyle::State_Selected)) {
-    if (!rangee && A(option, QStyle::State_MouseOver) && A(option, QStyle::State_Enabled))
+    if (!rangee && actif && A(option, QStyle::State_MouseOver) && !qobject_cast<const QTreeView*>(widget))
       peintre.fillRect(option.rect, Theme::Survol());
     return;
   }
-  QRect place = option.rect;
-  if (arbre) {
-    place.setLeft(0);
-    place.setRight(std::max(place.right(), arbre->viewport()->width() - 1));
-  }
-  const bool actif = A(option, QStyle::State_Enabled) && (!liste || liste->isEnabled());
-  peintre.fillRect(place, actif ? Theme::Selection() : Theme::Ligne());
-  peintre.fillRect(QRect(place.topLeft(), QSize(3, place.height())), Accent());
+  peintre.fillRect(option.rect, actif ? Theme::Selection() : Theme::Ligne());
+  // At the edge of the list, however far it is scrolled to the side.
+  if (option.rect.left() <= 0 && option.rect.right() >= 0)
+    peintre.fillRect(QRect(0, option.rect.y(), 3, option.rect.height()), Accent());
 }
 
 void Tete(QPainter& peintre, const QStyleOption& option) {

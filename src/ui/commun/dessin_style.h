@@ -25,7 +25,7 @@ void Case(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
 void Choix(QPainter& peintre, const QStyleOption& option);
 /// `demi` is half the width of the arrow, at 10 points.
 void Fleche(QPainter& peintre, const QRect& place, Qt::ArrowType sens, const QColor& couleur, int demi);
-/// The ground of a row: the whole row, or one cell of a list without rows of its own.
+/// The ground of a cell, or with `rangee` of what stands left of the first one.
 void LigneDeListe(QPainter& peintre, const QStyleOption& option, const QWidget* widget, bool rangee);
 void Tete(QPainter& peintre, const QStyleOption& option);
 void TexteDeTete(QPainter& peintre, const QStyleOptionHeader& option);

@@ -25,7 +25,8 @@ EtatVide::EtatVide(QWidget* hote)
   colonne->addWidget(bouton_, 0, Qt::AlignHCenter);
   colonne->addStretch(1);
   connect(bouton_, &QPushButton::clicked, this, &EtatVide::BoutonPresse);
-  hote->installEventFilter(this);
+  const auto* liste = qobject_cast<QAbstractScrollArea*>(hote);
+  (liste ? liste->viewport() : hote)->installEventFilter(this);
   hide();
 }
 
@@ -48,10 +49,8 @@ void EtatVide::Placer() {
   setGeometry(liste ? liste->viewport()->geometry() : parentWidget()->rect());
 }
 
-bool EtatVide::eventFilter(QObject* objet, QEvent* evenement) {
+bool EtatVide::eventFilter(QObject*, QEvent* evenement) {
   const QEvent::Type type = evenement->type();
-  if (objet == parentWidget() &&
-      (type == QEvent::Resize || type == QEvent::LayoutRequest || type == QEvent::Show))
-    Placer();
+  if (type == QEvent::Resize || type == QEvent::Move || type == QEvent::Show) Placer();
   return false;
 }

@@ -103,9 +103,9 @@ void StyleCalpenne::drawControl(ControlElement element, const QStyleOption* opti
     case CE_ItemViewItem:
       if (const auto* cellule = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
         QStyleOptionViewItem copie = *cellule;
-        // A cell with a colour of its own has put it there.
-        if (copie.palette.color(QPalette::HighlightedText) == Theme::Couleur(TRole::SurAccent))
-          copie.palette.setColor(QPalette::HighlightedText, Theme::SurSelection());
+        copie.palette.setColor(QPalette::HighlightedText, Theme::SurSelection());
+        copie.palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
+                               copie.palette.color(QPalette::Disabled, QPalette::Text));
         return QProxyStyle::drawControl(element, &copie, peintre, widget);
       }
       break;
@@ -118,7 +118,10 @@ void StyleCalpenne::drawControl(ControlElement element, const QStyleOption* opti
         return TexteDeTete(*peintre, *tete);
       break;
     case CE_ProgressBarGroove:
-      return Barre(*peintre, option->rect, Theme::Ligne());
+      // On the sheet of a long work the hairline's colour would not be seen.
+      return Barre(*peintre, option->rect,
+                   widget && widget->property("surSelection").toBool() ? option->palette.color(QPalette::Base)
+                                                                       : Theme::Ligne());
     case CE_ProgressBarContents:
       if (const auto* barre = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
         return Progression(*peintre, *barre);
@@ -141,7 +144,8 @@ void StyleCalpenne::drawComplexControl(ComplexControl element, const QStyleOptio
         else
           ListeFermee(*peintre, *option);
         const QRect place = proxy()->subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
-        return Fleche(*peintre, place, Qt::DownArrow, CouleurTexte(*option), 4);
+        return Fleche(*peintre, place, Qt::DownArrow,
+                      option->state & State_Enabled ? Theme::Secondaire() : CouleurTexte(*option), 4);
       }
       break;
     case CC_SpinBox:

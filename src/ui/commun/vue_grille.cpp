@@ -30,14 +30,25 @@ class DelegueGrille : public QStyledItemDelegate {
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QSize taille = QStyledItemDelegate::sizeHint(option, index);
-    return {taille.width(), std::max(Theme::Px(kHauteurLigne), option.fontMetrics.height() + 2)};
+    const int icone = index.data(Qt::DecorationRole).isValid() ? Theme::Px(4) : 0;
+    return {taille.width() - icone, std::max(Theme::Px(kHauteurLigne), option.fontMetrics.height() + 2)};
   }
 
- protected:
-  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-    QStyledItemDelegate::initStyleOption(option, index);
-    const QVariant couleur = index.data(Qt::ForegroundRole);
-    if (couleur.isValid()) option->palette.setBrush(QPalette::HighlightedText, couleur.value<QColor>());
+  /// A state is an icon and a word that stand close together; the rest is the style's.
+  void paint(QPainter* peintre, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QVariant icone = index.data(Qt::DecorationRole);
+    if (!icone.isValid()) return QStyledItemDelegate::paint(peintre, option, index);
+    option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, peintre, option.widget);
+    const bool actif = option.state.testFlag(QStyle::State_Enabled);
+    const int cote = Theme::Px(16), marge = Theme::Px(8);
+    QRect place = option.rect.adjusted(marge, 0, -Theme::Px(4), 0);
+    icone.value<QIcon>().paint(peintre, QRect(place.x(), place.center().y() - cote / 2, cote, cote),
+                               Qt::AlignCenter, actif ? QIcon::Normal : QIcon::Disabled);
+    place.setLeft(place.left() + cote + Theme::Px(4));
+    peintre->setPen(actif ? index.data(Qt::ForegroundRole).value<QColor>()
+                          : option.palette.color(QPalette::Disabled, QPalette::Text));
+    peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                      option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, place.width()));
   }
 };
 

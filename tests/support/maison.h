@@ -1,0 +1,24 @@
+#pragma once
+#include <QFile>
+#include <QLocale>
+#include <QSettings>
+#include <QTemporaryDir>
+
+/// A private home for a test program, so that no test meets the user's own settings, locks or data.
+/// Made before the application object.
+class TMaison {
+ public:
+  TMaison() {
+    const QByteArray chemin = QFile::encodeName(dossier_.path());
+    for (const char* nom : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "FIREBIRD_LOCK", "TEMP"})
+      qputenv(nom, chemin);
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       dossier_.filePath(QStringLiteral("utilisateur")));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
+                       dossier_.filePath(QStringLiteral("machine")));
+    QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
+  }
+
+ private:
+  QTemporaryDir dossier_;
+};

@@ -1,0 +1,120 @@
+#include "ui/programme_essai.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include "ui/commun/dialogue_base.h"
+#include "ui/principal/barre_commandes.h"
+
+namespace {
+
+constexpr int kRegardMs = 5;
+
+QString Nu(QString texte) { return texte.remove(u'&'); }
+
+}  // namespace
+
+QString TextesDe(const QWidget& fenetre) {
+  QStringList textes{fenetre.windowTitle()};
+  for (const QLabel* texte : fenetre.findChildren<QLabel*>())
+    if (!texte->isHidden()) textes += texte->text();
+  return textes.join(u'\n');
+}
+
+QAbstractButton* BoutonDe(const QWidget& fenetre, const QString& texte) {
+  for (QAbstractButton* bouton : fenetre.findChildren<QAbstractButton*>())
+    if (bouton->isVisible() && Nu(bouton->text()) == texte) return bouton;
+  return nullptr;
+}
+
+void Cliquer(const QWidget& fenetre, const QString& texte) {
+  QAbstractButton* bouton = BoutonDe(fenetre, texte);
+  ASSERT_NE(bouton, nullptr) << texte.toStdString() << " in " << TextesDe(fenetre).toStdString();
+  ASSERT_TRUE(bouton->isEnabled()) << texte.toStdString();
+  QTest::mouseClick(bouton, Qt::LeftButton);
+}
+
+TRepondeur::TRepondeur() { Revenir(); }
+
+TRepondeur::~TRepondeur() {
+  for (const TAttendu& attendu : attendus_) ADD_FAILURE() << "never came: " << attendu.extrait.toStdString();
+}
+
+TRepondeur& TRepondeur::Fait(const QString& extrait, std::function<void(QWidget&)> action) {
+  attendus_.push_back({extrait, std::move(action)});
+  return *this;
+}
+
+TRepondeur& TRepondeur::Clique(const QString& extrait, const QString& bouton) {
+  return Fait(extrait, [bouton](QWidget& fenetre) { Cliquer(fenetre, bouton); });
+}
+
+TRepondeur& TRepondeur::Saisit(const QString& extrait, const QString& texte) {
+  return Fait(extrait, [texte](QWidget& fenetre) {
+    auto* champ = fenetre.findChild<QLineEdit*>();
+    ASSERT_NE(champ, nullptr);
+    champ->selectAll();
+    QTest::keyClicks(champ, texte);
+    QTest::mouseClick(dynamic_cast<DialogueBase&>(fenetre).Principal(), Qt::LeftButton);
+  });
+}
+
+// A timer of its own each time: one that runs does not fire again, and an answer may open a dialog.
+void TRepondeur::Revenir() { QTimer::singleShot(kRegardMs, this, &TRepondeur::Regarder); }
+
+void TRepondeur::Regarder() {
+  Revenir();
+  QWidget* fenetre = QApplication::activeModalWidget();
+  if (fenetre == nullptr || !fenetre->isVisible()) return;
+  const QString textes = TextesDe(*fenetre);
+  Vus += textes;
+  if (attendus_.empty() || !textes.contains(attendus_.front().extrait)) {
+    ADD_FAILURE() << "unexpected dialog: " << textes.toStdString();
+    fenetre->close();
+    return;
+  }
+  const TAttendu attendu = attendus_.front();
+  attendus_.pop_front();
+  attendu.action(*fenetre);
+}
+
+TProgrammeEssai::TProgrammeEssai() {
+  Base.Reglages.Ecrire(TRacine::Machine, QStringLiteral("Serveur"), Base.FichierDeDonnees());
+}
+
+TProgrammeEssai::~TProgrammeEssai() {
+  Fermer();
+  Globals = {};
+}
+
+void TProgrammeEssai::Demarrer() {
+  programme_ = std::make_unique<Programme>(Horloge);
+  Fenetre().Demarrer();
+  QCoreApplication::processEvents();
+  if (!Fenetre().isVisible()) return;
+  Fenetre().activateWindow();  // without a window manager nobody does it after a dialog
+  const bool active = QTest::qWaitForWindowActive(&Fenetre());
+  EXPECT_TRUE(active);
+}
+
+void TProgrammeEssai::Fermer() {
+  if (programme_ == nullptr) return;
+  Fenetre().close();
+  QCoreApplication::processEvents();
+  programme_.reset();
+}
+
+void TProgrammeEssai::Ouvrir(TGestionnaire gestionnaire) {
+  const BarreCommandes& barre = *Fenetre().Barre();
+  for (const TCommandePrincipale& commande : Main().Commandes)
+    if (commande.Gestionnaire == gestionnaire) QTest::mouseClick(barre.Onglet(commande.Page), Qt::LeftButton);
+  QTest::mouseClick(barre.Bouton(gestionnaire), Qt::LeftButton);
+  QCoreApplication::processEvents();
+}

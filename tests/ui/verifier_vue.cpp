@@ -1,0 +1,175 @@
+#include "ui/verifier_vue.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QDialog>
+#include <QFontDatabase>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMetaObject>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QSet>
+#include <QSlider>
+#include <QTest>
+#include <QTextEdit>
+
+#include "ui/commun/theme.h"
+
+namespace {
+
+constexpr QSize kContenu(1117, 560);
+
+/// Made of parts by Qt itself: the parts are not controls of their own.
+bool EstCompose(const QObject* objet) {
+  return qobject_cast<const QComboBox*>(objet) || qobject_cast<const QLineEdit*>(objet) ||
+         qobject_cast<const QAbstractSpinBox*>(objet) || qobject_cast<const QCalendarWidget*>(objet) ||
+         qobject_cast<const QHeaderView*>(objet) || qobject_cast<const QScrollBar*>(objet) ||
+         objet->objectName().startsWith(QStringLiteral("qt_"));
+}
+
+bool EstPartie(const QWidget* widget, const QWidget* vue) {
+  for (const QObject* parent = widget->parent(); parent && parent != vue; parent = parent->parent())
+    if (EstCompose(parent)) return true;
+  return widget->objectName().startsWith(QStringLiteral("qt_")) || qobject_cast<const QScrollBar*>(widget) ||
+         qobject_cast<const QHeaderView*>(widget);
+}
+
+bool EstCommande(const QWidget* widget) {
+  const auto* defilable = qobject_cast<const QAbstractScrollArea*>(widget);
+  const bool liste =
+      defilable && (qobject_cast<const QAbstractItemView*>(widget) ||
+                    qobject_cast<const QTextEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget));
+  return liste || qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
+         qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget) ||
+         qobject_cast<const QAbstractSlider*>(widget);
+}
+
+QString Designer(const QWidget* widget) {
+  QString texte = widget->accessibleName();
+  if (texte.isEmpty()) texte = widget->objectName();
+  if (const auto* bouton = qobject_cast<const QAbstractButton*>(widget); bouton && texte.isEmpty())
+    texte = bouton->text();
+  if (const auto* libelle = qobject_cast<const QLabel*>(widget); libelle && texte.isEmpty())
+    texte = libelle->text();
+  const QWidget* parent = widget->parentWidget();
+  return QStringLiteral("%1 « %2 » dans %3")
+      .arg(QString::fromLatin1(widget->metaObject()->className()), texte,
+           parent ? QString::fromLatin1(parent->metaObject()->className()) : QString());
+}
+
+QList<QWidget*> Visibles(QWidget& vue) {
+  QList<QWidget*> visibles;
+  for (QWidget* widget : vue.findChildren<QWidget*>())
+    if (widget->isVisibleTo(&vue) && widget->window() == vue.window() && !EstPartie(widget, &vue))
+      visibles += widget;
+  return visibles;
+}
+
+/// All that gets the focus when Tab is pressed over and over.
+QSet<const QWidget*> Parcourir(QWidget& vue) {
+  QSet<const QWidget*> vus;
+  for (int pas = 0; pas < 2000; ++pas) {
+    QWidget* ici = vue.window()->focusWidget();
+    if (!ici) ici = &vue;
+    QTest::keyClick(ici, Qt::Key_Tab);
+    const QWidget* la = vue.window()->focusWidget();
+    if (!la || vus.contains(la)) break;
+    vus += la;
+    while ((la = la->parentWidget()) && la != &vue) vus += la;  // a combo box by its own line
+  }
+  return vus;
+}
+
+/// Tab goes to one of the group; the arrows lead to the others.
+bool GroupeAtteint(const QWidget* widget, const QSet<const QWidget*>& vus) {
+  const auto* bouton = qobject_cast<const QAbstractButton*>(widget);
+  if (!bouton || !widget->parentWidget()) return false;
+  const bool mois = widget->parentWidget()->inherits("GrilleMois");
+  if (!mois && !bouton->autoExclusive() && !bouton->group()) return false;
+  for (const auto* autre : widget->parentWidget()->findChildren<QAbstractButton*>())
+    if (vus.contains(autre)) return true;
+  return false;
+}
+
+bool EstCoupe(const QWidget* widget) {
+  const QWidget* parent = widget->parentWidget();
+  if (!parent) return false;
+  const auto* defilable = qobject_cast<const QAbstractScrollArea*>(parent->parentWidget());
+  if (defilable && defilable->viewport() == parent) return false;
+  return !parent->rect().contains(widget->geometry());
+}
+
+bool EstTropPetit(const QWidget* widget) {
+  const bool texte = qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLabel*>(widget) ||
+                     qobject_cast<const QComboBox*>(widget) || qobject_cast<const QLineEdit*>(widget);
+  if (!texte) return false;
+  const QSize moindre = widget->minimumSizeHint();
+  const auto* libelle = qobject_cast<const QLabel*>(widget);
+  if (libelle && libelle->wordWrap()) return widget->height() < libelle->heightForWidth(widget->width());
+  return widget->width() < moindre.width() || widget->height() < moindre.height();
+}
+
+}  // namespace
+
+QFont PoliceEssai(double points) {
+  const QStringList familles = QFontDatabase::families();
+  for (const char* nom : {"Noto Sans", "DejaVu Sans"})
+    if (familles.contains(QLatin1String(nom))) return QFont(QLatin1String(nom), static_cast<int>(points));
+  return {};
+}
+
+QStringList FautesDeVue(QWidget& vue) {
+  const bool dialogue = qobject_cast<QDialog*>(&vue) != nullptr;
+  QStringList fautes;
+  if (!dialogue) {
+    const QSize moindre = vue.minimumSizeHint();
+    if (QApplication::font().pointSize() <= 10 &&
+        (moindre.width() > kContenu.width() || moindre.height() > kContenu.height()))
+      fautes +=
+          QStringLiteral("plus grand que la place : %1 x %2").arg(moindre.width()).arg(moindre.height());
+    vue.resize(kContenu);
+  }
+  vue.show();
+  QApplication::setActiveWindow(vue.window());
+  QApplication::processEvents();
+
+  const QSet<const QWidget*> vus = Parcourir(vue);
+  for (const QWidget* widget : Visibles(vue)) {
+    if (EstCoupe(widget)) fautes += QStringLiteral("coupé : ") + Designer(widget);
+    if (EstTropPetit(widget)) fautes += QStringLiteral("trop petit pour son texte : ") + Designer(widget);
+    if (!EstCommande(widget)) continue;
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+    if (!interface || interface->text(QAccessible::Name).trimmed().isEmpty())
+      fautes += QStringLiteral("sans nom : ") + Designer(widget);
+    if (widget->isEnabledTo(nullptr) && !vus.contains(widget) && !GroupeAtteint(widget, vus))
+      fautes += QStringLiteral("hors de portée de Tab : ") + Designer(widget);
+  }
+  return fautes;
+}
+
+void VerifierVue(QWidget& vue) {
+  for (const QString& faute : FautesDeVue(vue)) ADD_FAILURE() << faute.toStdString();
+}
+
+void VerifierVuePartout(const std::function<std::unique_ptr<QWidget>()>& creer) {
+  for (const Theme::TMode mode : {Theme::TMode::Clair, Theme::TMode::Sombre})
+    for (const int points : {10, 15}) {
+      SCOPED_TRACE(testing::Message()
+                   << (mode == Theme::TMode::Clair ? "clair, " : "sombre, ") << points << " points");
+      QApplication::setFont(PoliceEssai(points));
+      Theme::Appliquer(*qApp, mode);
+      const std::unique_ptr<QWidget> vue = creer();
+      VerifierVue(*vue);
+    }
+  QApplication::setFont(PoliceEssai(10));
+  Theme::Appliquer(*qApp, Theme::TMode::Clair);
+}
