@@ -9,7 +9,8 @@ TForm* TPanneau::Ouvrir(std::type_index classe, const TFabrique& creer, std::opt
     return presente;
   }
   if (!FaireDeLaPlace(cle)) return nullptr;
-  TForm& form = *places_.emplace_back(creer(), remplacement).Form;
+  places_.push_back({creer(), remplacement});
+  TForm& form = *places_.back().Form;
   form.cle_ = cle;
   form.conteneur_ = this;
   try {
