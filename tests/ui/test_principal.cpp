@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
-#include <QPushButton>
 #include <QMenu>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -62,7 +62,9 @@ class Principal : public testing::Test {
     }
     return commandes;
   }
+  /// What is pending first: a window is active again a moment after a dialog.
   void Touche(QWidget* ou, Qt::Key touche, Qt::KeyboardModifiers avec = {}) {
+    QCoreApplication::processEvents();
     QTest::keyClick(ou, touche, avec);
   }
 
@@ -279,8 +281,9 @@ TEST_F(Principal, TheTreeKeepsItsFoldsWhenItIsBuiltAnew) {
   Programme.Main().mnuAnneeClick(2016);
   EXPECT_FALSE(ouverte(0));
   EXPECT_TRUE(ouverte(1));
-  EXPECT_EQ(Arbre()->model()->index(1, 0, Arbre()->model()->index(0, 0)).data(Qt::AccessibleTextRole).toString(),
-            u"Bastin X, radié");
+  EXPECT_EQ(
+      Arbre()->model()->index(1, 0, Arbre()->model()->index(0, 0)).data(Qt::AccessibleTextRole).toString(),
+      u"Bastin X, radié");
 }
 
 TEST_F(Principal, FirstUseLeadsToTheImport) {
@@ -328,8 +331,10 @@ TEST_F(Principal, WhatNobodyCatchesIsShownAndTheProgramGoesOn) {
   application.Dialogues = &Programme.Tout().Dialogues;
   QTimer::singleShot(0, &Fenetre(),
                      [] { throw EConvertError(QStringLiteral("« douze » n'est pas un nombre")); });
-  QTimer::singleShot(0, &Fenetre(), [] { throw std::out_of_range("place 12"); });
-  Programme.Dialogues.Attend(QStringLiteral("« douze » n'est pas un nombre"));
+  Programme.Dialogues.Fait(QStringLiteral("« douze » n'est pas un nombre"), [&](QWidget& fenetre) {
+    Cliquer(fenetre, QStringLiteral("OK"));
+    QTimer::singleShot(0, &Fenetre(), [] { throw std::out_of_range("place 12"); });
+  });
   Programme.Dialogues.Attend(QStringLiteral("Erreur inattendue : place 12"));
   while (Programme.Dialogues.Vus.size() < 2) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   QCoreApplication::processEvents();

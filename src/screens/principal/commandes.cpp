@@ -1,5 +1,9 @@
 #include "screens/principal/commandes.h"
 
+#include "screens/attendance/frm_presences.h"
+#include "screens/pupils/frm_import.h"
+#include "screens/pupils/frm_signaletique.h"
+
 namespace {
 
 template <class... T>
@@ -27,9 +31,16 @@ std::vector<TCommandePrincipale> CommandesPrincipales() {
        6,
        Masque(TOutil::btnPrint, TOutil::btnMail),
        true,
-       {}},
+       Ecran<TFrmSignaletique>(TRemplacement::Cache)},
       {AdvGlowButton7Click, PgEleve, T(u"&Statistiques"), T(u"office-chart-bar"), 6, kImprime, false, {}},
-      {AdvGlowButton1Click, PgEleve, T(u"&Présences"), T(u"view-barcode"), {}, 0, false, {}},
+      {AdvGlowButton1Click,
+       PgEleve,
+       T(u"&Présences"),
+       T(u"view-barcode"),
+       {},
+       0,
+       false,
+       Ecran<TfrmPresences>()},
       {btnVirementClick, PgEleve, T(u"&Virements"), T(u"view-bank"), {}, 0, false, {}},
 
       {btnCompteEleveClick, pgRepasNew, T(u"C&omptes"), T(u"wallet-open"), {}, kImprime, false, {}},
@@ -48,7 +59,8 @@ std::vector<TCommandePrincipale> CommandesPrincipales() {
       {btnCuisineClick, pgRepas, T(u"&Cuisine"), T(u"food"), 6, kImprime, false, {}},
       {btnComptabiliteClick, pgRepas, T(u"C&ompta"), T(u"wallet-open"), {}, kImprime, false, {}},
 
-      {AdvGlowButton8Click, PgParametre, T(u"&Importation"), T(u"document-import"), 0, 0, false, {}},
+      {AdvGlowButton8Click, PgParametre, T(u"&Importation"), T(u"document-import"), 0, 0, false,
+       Ecran<TFrmImport>()},
       {AdvGlowButton16Click, PgParametre, T(u"&Frais"), T(u"view-financial-list"), 120, kListe, false, {}},
       {AdvGlowButton3Click, PgParametre, T(u"&Mon école"), T(u"go-home"), {}, 0, false, {}},
       {AdvGlowButton5Click, PgParametre, T(u"S&ervices"), T(u"chronometer"), 120, kListe, false, {}},

@@ -12,22 +12,6 @@
 
 namespace {
 
-/// A dialog is not to be clicked with a wait cursor.
-class TSansAttente {
- public:
-  TSansAttente() : attente_(QApplication::overrideCursor() != nullptr) {
-    if (attente_) QApplication::setOverrideCursor(Qt::ArrowCursor);
-  }
-  ~TSansAttente() {
-    if (attente_) QApplication::restoreOverrideCursor();
-  }
-  TSansAttente(const TSansAttente&) = delete;
-  TSansAttente& operator=(const TSansAttente&) = delete;
-
- private:
-  bool attente_;
-};
-
 void Preparer(QMessageBox& boite, const QString& texte, const QString& icone, TRole role) {
   boite.setWindowTitle(QApplication::applicationDisplayName());
   boite.setTextFormat(Qt::PlainText);  // a name is no markup
@@ -37,8 +21,8 @@ void Preparer(QMessageBox& boite, const QString& texte, const QString& icone, TR
 }
 
 void Dire(const QString& texte, const QString& icone, TRole role) {
-  const TSansAttente sansAttente;
-  QMessageBox boite(FenetreDevant());
+  const TDevant devant;
+  QMessageBox boite(devant.Fenetre());
   Preparer(boite, texte, icone, role);
   QPushButton* ok = BoutonPrincipal(QStringLiteral("OK"));
   boite.addButton(ok, QMessageBox::AcceptRole);
@@ -55,7 +39,6 @@ bool EstSansRetour(const QString& question) {
 }
 
 std::optional<QString> Choisi(QFileDialog& dialogue, QString& dossier) {
-  const TSansAttente sansAttente;
   if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return {};
   const QString fichier = dialogue.selectedFiles().constFirst();
   dossier = QFileInfo(fichier).absolutePath();
@@ -76,6 +59,15 @@ QWidget* FenetreDevant() {
   return nullptr;
 }
 
+TDevant::TDevant() : fenetre_(FenetreDevant()), attente_(QApplication::overrideCursor() != nullptr) {
+  if (attente_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+}
+
+TDevant::~TDevant() {
+  if (attente_) QApplication::restoreOverrideCursor();
+  if (fenetre_ && fenetre_->isVisible()) fenetre_->activateWindow();
+}
+
 void DialoguesQt::Message(const QString& texte) {
   Dire(texte, QStringLiteral("data-warning"), TRole::Alerte);
 }
@@ -85,8 +77,8 @@ void DialoguesQt::Information(const QString& texte) {
 }
 
 bool DialoguesQt::Confirmer(const QString& question) {
-  const TSansAttente sansAttente;
-  QMessageBox boite(FenetreDevant());
+  const TDevant devant;
+  QMessageBox boite(devant.Fenetre());
   const bool sansRetour = EstSansRetour(question);
   Preparer(boite, question, sansRetour ? QStringLiteral("data-warning") : QStringLiteral("data-information"),
            sansRetour ? TRole::Alerte : TRole::Accent);
@@ -105,14 +97,15 @@ bool DialoguesQt::Confirmer(const QString& question) {
 
 std::optional<QString> DialoguesQt::Saisir(const QString& titre, const QString& invite,
                                            const QString& valeur) {
-  const TSansAttente sansAttente;
-  DialogueSaisie dialogue(titre, invite, valeur, FenetreDevant());
+  const TDevant devant;
+  DialogueSaisie dialogue(titre, invite, valeur, devant.Fenetre());
   if (dialogue.exec() != QDialog::Accepted) return {};
   return dialogue.Texte();
 }
 
 std::optional<QString> DialoguesQt::ChoisirFichier(const QString& titre, const QString& filtre) {
-  QFileDialog dialogue(FenetreDevant(), titre, DossierDepart(dossier_));
+  const TDevant devant;
+  QFileDialog dialogue(devant.Fenetre(), titre, DossierDepart(dossier_));
   dialogue.setFileMode(QFileDialog::ExistingFile);
   dialogue.setNameFilters({filtre, QStringLiteral("Tous les fichiers (*)")});
   return Choisi(dialogue, dossier_);
@@ -120,7 +113,8 @@ std::optional<QString> DialoguesQt::ChoisirFichier(const QString& titre, const Q
 
 std::optional<QString> DialoguesQt::FichierAEnregistrer(const QString& titre, const QString& nom,
                                                         const QString& filtre) {
-  QFileDialog dialogue(FenetreDevant(), titre, DossierDepart(dossier_));
+  const TDevant devant;
+  QFileDialog dialogue(devant.Fenetre(), titre, DossierDepart(dossier_));
   dialogue.setAcceptMode(QFileDialog::AcceptSave);
   dialogue.setNameFilter(filtre);
   dialogue.setDefaultSuffix(QFileInfo(nom).suffix());
@@ -129,8 +123,8 @@ std::optional<QString> DialoguesQt::FichierAEnregistrer(const QString& titre, co
 }
 
 bool DialoguesQt::Reessayer(const TReessai& reessai) {
-  const TSansAttente sansAttente;
-  return DialogueReessai(reessai, FenetreDevant()).exec() == QDialog::Accepted;
+  const TDevant devant;
+  return DialogueReessai(reessai, devant.Fenetre()).exec() == QDialog::Accepted;
 }
 
 void DialoguesQt::Progression(int fait, int total, const QString& nom) {

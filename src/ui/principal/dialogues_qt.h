@@ -1,10 +1,8 @@
 #pragma once
-#include <QHash>
+#include <QPointer>
+#include <QWidget>
 
 #include "core/dialogues.h"
-
-class QMessageBox;
-class QWidget;
 
 /// Answers with windows, above the one in front.
 class DialoguesQt : public IDialogues {
@@ -31,3 +29,19 @@ class DialoguesQt : public IDialogues {
 
 /// The window above which a dialog opens; null for none.
 QWidget* FenetreDevant();
+
+/// While a dialog is open there is no wait cursor; afterwards the window below it is in front again.
+class TDevant {
+ public:
+  TDevant();
+  ~TDevant();
+  TDevant(const TDevant&) = delete;
+  TDevant& operator=(const TDevant&) = delete;
+
+  /// The window below.
+  QWidget* Fenetre() const { return fenetre_; }
+
+ private:
+  QPointer<QWidget> fenetre_;
+  bool attente_;
+};

@@ -8,7 +8,8 @@
 
 TResultatModal FenetreModaleQt::MontrerModal(TForm& form) {
   form.ResultatModal = TResultatModal::Aucun;
-  const std::unique_ptr<QWidget> vue(CreerVue(form, FenetreDevant()));
+  const TDevant devant;
+  const std::unique_ptr<QWidget> vue(CreerVue(form, devant.Fenetre()));
   auto* dialogue = qobject_cast<QDialog*>(vue.get());
   if (dialogue == nullptr) throw Exception(QStringLiteral("Cette fenêtre ne peut pas être montrée."));
   form.Montrer();
