@@ -145,13 +145,14 @@ void Case(QPainter& peintre, const QStyleOption& option, const QWidget* widget) 
         QPolygonF({QPointF(4.2 * u, 8.4 * u), QPointF(6.9 * u, 11 * u), QPointF(11.8 * u, 5.4 * u)}));
 }
 
-void Choix(QPainter& peintre, const QStyleOption& option) {
-  const bool actif = A(option, QStyle::State_Enabled), choisi = A(option, QStyle::State_On);
+void Choix(QPainter& peintre, const QStyleOption& option, const QWidget* widget) {
+  const bool lecture = widget && widget->property("lectureSeule").toBool();
+  const bool actif = A(option, QStyle::State_Enabled) && !lecture, choisi = A(option, QStyle::State_On);
   const Crayon crayon(peintre);
   const QColor vif = actif ? (choisi ? Accent() : Theme::Bord()) : Theme::Ligne();
   peintre.setBrush(option.palette.color(actif ? QPalette::Base : QPalette::Window));
   const QRectF rond = QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75);
-  peintre.setPen(QPen(vif, choisi ? 1.5 : 1));
+  peintre.setPen(QPen(choisi && !actif ? Theme::Bord() : vif, choisi ? 1.5 : 1));
   peintre.drawEllipse(rond);
   if (!choisi) return;
   peintre.setPen(Qt::NoPen);

@@ -22,7 +22,7 @@ void ListeFermee(QPainter& peintre, const QStyleOption& option);
 void Outil(QPainter& peintre, const QStyleOption& option);
 void Foyer(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
 void Case(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
-void Choix(QPainter& peintre, const QStyleOption& option);
+void Choix(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
 /// `demi` is half the width of the arrow, at 10 points.
 void Fleche(QPainter& peintre, const QRect& place, Qt::ArrowType sens, const QColor& couleur, int demi);
 /// The ground of a cell, or with `rangee` of what stands left of the first one.

@@ -51,6 +51,7 @@ GrilleMois::GrilleMois(const QStringList& lignes, QWidget* parent) : QWidget(par
     const int ligne = static_cast<int>(lignes_.size());
     TLigneMois& nouvelle = lignes_.emplace_back();
     nouvelle.Libelle = new Etiquette(texte);
+    nouvelle.Libelle->setContentsMargins(0, 0, Theme::Px(8), 0);
     grille->addWidget(nouvelle.Libelle, ligne + 1, 0);
     for (int colonne = 0; colonne <= kMois; ++colonne) {
       const QString nom = NomAccessible(texte) % QStringLiteral(", ") % QString::fromUtf8(kNoms[colonne]);

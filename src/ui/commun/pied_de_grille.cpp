@@ -3,7 +3,6 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QScrollBar>
 
 #include "ui/commun/texte.h"
@@ -25,8 +24,10 @@ void PiedDeGrille::Definir(std::vector<QStringList> lignes) {
   const bool autreHauteur = lignes.size() != lignes_.size();
   lignes_ = std::move(lignes);
   QStringList dites;
-  for (const QStringList& ligne : lignes_)
-    dites += ligne.filter(QRegularExpression(QStringLiteral("."))).join(u' ');
+  for (QStringList ligne : lignes_) {
+    ligne.removeAll(QString());
+    dites += ligne.join(u' ');
+  }
   setAccessibleDescription(dites.join(QStringLiteral(", ")));
   if (autreHauteur) updateGeometry();
   update();

@@ -65,7 +65,7 @@ void StyleCalpenne::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     case PE_IndicatorItemViewItemCheck:
       return Case(*peintre, *option, nullptr);
     case PE_IndicatorRadioButton:
-      return Choix(*peintre, *option);
+      return Choix(*peintre, *option, widget);
     case PE_IndicatorBranch:
       if (option->state & State_Children)
         Fleche(*peintre, option->rect, option->state & State_Open ? Qt::DownArrow : Qt::RightArrow,
