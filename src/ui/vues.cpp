@@ -11,6 +11,7 @@
 #include "screens/attendance/frm_presences.h"
 #include "screens/principal/frm_ajout_professeur.h"
 #include "screens/pupils/frm_import.h"
+#include "screens/pupils/frm_signaletique.h"
 #include "ui/attendance/vue_ajout_releve.h"
 #include "ui/attendance/vue_presences.h"
 #include "ui/documents/vue_apercu.h"
@@ -18,6 +19,7 @@
 #include "ui/payments/vue_date_paiement.h"
 #include "ui/principal/vue_ajout_professeur.h"
 #include "ui/pupils/vue_import.h"
+#include "ui/pupils/vue_signaletique.h"
 
 namespace {
 
@@ -38,12 +40,13 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
   // One line a screen: VueDe<TFrmImport, VueImport>(),
   static const std::vector<TFabriqueVue> kVues{
       VueDe<TFrmAjoutProfesseur, VueAjoutProfesseur>(),
+      VueDe<TFrmImport, VueImport>(),
+      VueDe<TFrmSignaletique, VueSignaletique>(),
+      VueDe<TfrmPresences, VuePresences>(),
+      VueDe<TFrmAjoutReleve, VueAjoutReleve>(),
       VueDe<TFrmApercu, VueApercu>(),
       VueDe<TFrmDatePaiement, VueDatePaiement>(),
       VueDe<TFrmPrintWizard, VuePrintWizard>(),
-      VueDe<TFrmImport, VueImport>(),
-      VueDe<TfrmPresences, VuePresences>(),
-      VueDe<TFrmAjoutReleve, VueAjoutReleve>(),
   };
   for (const TFabriqueVue& vue : kVues)
     if (vue.Classe == typeid(form)) return vue.Creer(form, parent);

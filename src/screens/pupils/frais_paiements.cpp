@@ -23,20 +23,21 @@ TEtatFrais EtatDe(Currency du, Currency verse) {
 
 TFraisPaiements::TFraisPaiements() {
   Grille.DefinirColonnes({{Texte(u"Libellé"), 180},
-                          {Texte(u"Mois"), 92},
-                          {Texte(u"Dû"), 84, TAlignement::Droite, TOrdre::Nombre},
-                          {Texte(u"Payé"), 84, TAlignement::Droite, TOrdre::Nombre},
+                          {Texte(u"Mois"), 88},
+                          {Texte(u"Dû"), 80, TAlignement::Droite, TOrdre::Nombre},
+                          {Texte(u"Payé"), 80, TAlignement::Droite, TOrdre::Nombre},
                           {Texte(u"État"), 94}});
   Grille.Etats = {{Texte(u"Payé"), Texte(u"dialog-ok-apply")},
                   {Texte(u"Dû"), Texte(u"data-warning")},
                   {Texte(u"Partiel"), Texte(u"data-warning")},
                   {Texte(u"Reçu"), Texte(u"dialog-ok-apply")},
                   {Texte(u"Prévision"), Texte(u"data-information")}};
+  Vider();
 }
 
 void TFraisPaiements::Vider() {
   Grille.Vider();
-  Pied.clear();
+  Pied = {{Texte(u"Total")}, {Texte(u"Balance")}};
   Solde = totalDu_ = totalVerse_ = {};
 }
 

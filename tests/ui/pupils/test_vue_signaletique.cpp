@@ -57,7 +57,7 @@ TEST_F(TVueSignaletique, MontreLEleve) {
   EXPECT_TRUE(Montre(u"\u2212126,10\u00A0€"_s));
   EXPECT_EQ(Controle<QLineEdit>(u"Localité du responsable"_s).text(), u"Namur"_s);
   EXPECT_EQ(Controle<QLineEdit>(u"Date de naissance"_s).text(), u"14/03/2010"_s);
-  EXPECT_TRUE(Controle<QAbstractButton>(u"Au nom du second"_s).isChecked());
+  EXPECT_TRUE(Controle<QAbstractButton>(u"Attestation au nom du second"_s).isChecked());
   EXPECT_TRUE(Controle<QAbstractButton>(u"Parents séparés"_s).isChecked());
   EXPECT_TRUE(Controle<QAbstractButton>(u"Participe à l'étude, tous les mois"_s).isChecked());
   for (const QLineEdit* champ : vue->findChildren<QLineEdit*>()) EXPECT_TRUE(champ->isReadOnly());
@@ -75,7 +75,8 @@ TEST_F(TVueSignaletique, MontreLEleve) {
 TEST_F(TVueSignaletique, UnClicNeChangeRien) {
   Ouvrir(rose);
   Montrer();
-  const QString noms[] = {u"2e enfant"_s, u"Au nom du responsable"_s, u"Paiement forfaitaire, mars"_s};
+  const QString noms[] = {u"2e enfant"_s, u"Attestation au nom du responsable"_s,
+                          u"Paiement forfaitaire, mars"_s};
   for (const QString& nom : noms) {
     auto& bouton = Controle<QAbstractButton>(nom);
     bouton.setFocus();

@@ -1,0 +1,144 @@
+#include "ui/pupils/vue_signaletique.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QResizeEvent>
+
+#include "core/formats.h"
+#include "screens/pupils/frm_signaletique.h"
+#include "ui/commun/etat_vide.h"
+#include "ui/commun/pied_de_grille.h"
+#include "ui/commun/titres.h"
+#include "ui/commun/vue_grille.h"
+#include "ui/pupils/fiche_identite.h"
+
+namespace {
+
+// At 10 points.
+constexpr int kLargeurIdentite = 536;
+constexpr int kLargeurDeux = 1060;
+constexpr int kLargeurTrois = 1500;
+constexpr int kRangees = 5;
+
+QString T(const char* texte) { return QString::fromUtf8(texte); }
+
+QWidget* CreerBloc(TitreSection* titre, VueGrille* grille, PiedDeGrille* pied) {
+  titre->setMinimumHeight(Theme::Px(30));  // with and without a list of months
+  auto* bloc = new QWidget;
+  auto* colonne = new QVBoxLayout(bloc);
+  colonne->setContentsMargins(0, 0, 0, 0);
+  colonne->setSpacing(0);
+  colonne->addWidget(titre);
+  colonne->addSpacing(Theme::Px(6));
+  colonne->addWidget(grille, 1);
+  colonne->addSpacing(Theme::Px(6));
+  colonne->addWidget(pied);
+  return bloc;
+}
+
+}  // namespace
+
+VueSignaletique::VueSignaletique(TFrmSignaletique& form, QWidget* parent)
+    : QScrollArea(parent), form_(form), contenu_(new QWidget), grille_(new QGridLayout(contenu_)) {
+  setWidgetResizable(true);
+  setFrameShape(NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  identite_ = new FicheIdentite(form);
+  blocReleve_ = CreerReleve();
+  blocFrais_ = CreerFrais();
+  setWidget(contenu_);
+  Disposer();
+  identite_->OrdonnerTab();
+  form_.SurChangement = [this] { Actualiser(); };
+  Actualiser();
+}
+
+// The lists look at the grids of the form until their end.
+VueSignaletique::~VueSignaletique() { form_.SurChangement = nullptr; }
+
+QWidget* VueSignaletique::CreerReleve() {
+  cmbMois_ = new QComboBox;
+  cmbMois_->addItems(TFrmSignaletique::NomsMois());
+  cmbMois_->setAccessibleName(T("Mois du relevé"));
+  cmbMois_->setMaxVisibleItems(10);
+  cmbMois_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  connect(cmbMois_, &QComboBox::activated, this, [this](int indice) { form_.cmbMoisChange(indice); });
+  auto* titre = new TitreSection(T("Relevé mensuel des services"));
+  titre->AjouterSuite(cmbMois_);
+  releve_ = new VueGrille(form_.Releve.Grille, titre->Texte(), T("Signaletique/Releve"));
+  piedReleve_ = new PiedDeGrille(*releve_);
+  sansReleve_ = new EtatVide(releve_);
+  connect(releve_, &VueGrille::Changee, this, &VueSignaletique::ActualiserListes);
+  return CreerBloc(titre, releve_, piedReleve_);
+}
+
+QWidget* VueSignaletique::CreerFrais() {
+  auto* titre = new TitreSection(T("Frais et paiements"));
+  frais_ = new VueGrille(form_.Frais.Grille, titre->Texte(), T("Signaletique/Frais"));
+  piedFrais_ = new PiedDeGrille(*frais_);
+  sansFrais_ = new EtatVide(frais_);
+  return CreerBloc(titre, frais_, piedFrais_);
+}
+
+// Placing
+
+int VueSignaletique::ColonnesPour(int largeur) const {
+  if (largeur >= Theme::Px(kLargeurTrois)) return 3;
+  return largeur >= Theme::Px(kLargeurDeux) ? 2 : 1;
+}
+
+/// Wider than it should be when a broad font wants it.
+int VueSignaletique::LargeurIdentite() const {
+  return std::max(Theme::Px(kLargeurIdentite), identite_->minimumSizeHint().width());
+}
+
+void VueSignaletique::Disposer() {
+  colonnes_ = ColonnesPour(width());
+  const bool seule = colonnes_ == 1, trois = colonnes_ == 3;
+  for (QWidget* bloc : {static_cast<QWidget*>(identite_), blocReleve_, blocFrais_})
+    grille_->removeWidget(bloc);
+  grille_->addWidget(identite_, 0, 0, colonnes_ == 2 ? 2 : 1, 1);
+  grille_->addWidget(blocReleve_, seule ? 1 : 0, seule ? 0 : 1);
+  grille_->addWidget(blocFrais_, seule ? 2 : trois ? 0 : 1, seule ? 0 : trois ? 2 : 1);
+  for (int i = 0; i < 3; ++i) {
+    grille_->setColumnStretch(i, i < colonnes_ && (seule || i > 0) ? 1 : 0);
+    grille_->setRowStretch(i, (seule && i > 0) || (!seule && i < (trois ? 1 : 2)) ? 1 : 0);
+  }
+  const int marge = Theme::Px(16);
+  grille_->setContentsMargins(marge, Theme::Px(12), marge, Theme::Px(12));
+  grille_->setHorizontalSpacing(Theme::Px(24));
+  grille_->setVerticalSpacing(Theme::Px(seule ? 24 : 16));
+  identite_->Aerer(trois);
+  identite_->setMinimumWidth(seule ? 0 : LargeurIdentite());
+  identite_->setMaximumWidth(seule ? QWIDGETSIZE_MAX : LargeurIdentite());
+  for (VueGrille* liste : {releve_, frais_})
+    liste->setMinimumHeight(liste->HauteurPour(seule ? 8 : kRangees - 2));
+}
+
+void VueSignaletique::resizeEvent(QResizeEvent* evenement) {
+  if (ColonnesPour(width()) != colonnes_) Disposer();
+  QScrollArea::resizeEvent(evenement);
+}
+
+void VueSignaletique::changeEvent(QEvent* evenement) {
+  QScrollArea::changeEvent(evenement);
+  if (evenement->type() == QEvent::FontChange && colonnes_ > 0) Disposer();
+}
+
+// Showing
+
+void VueSignaletique::Actualiser() {
+  identite_->Actualiser();
+  cmbMois_->setCurrentIndex(form_.IndiceMois());
+  piedFrais_->Definir(form_.Frais.Pied);
+  ActualiserListes();
+}
+
+void VueSignaletique::ActualiserListes() {
+  const QString total = form_.AvecEleve() ? FormatMontant(form_.Releve.Total) : QString();
+  piedReleve_->Definir({{T("Total"), {}, {}, {}, total}});
+  const QString sansReleve = form_.TexteSansReleve();
+  sansReleve.isEmpty() ? sansReleve_->Cacher() : sansReleve_->Montrer(sansReleve);
+  const bool sansFrais = form_.AvecEleve() && form_.Frais.Grille.NombreLignes() == 0;
+  sansFrais ? sansFrais_->Montrer(T("Aucun frais ni paiement")) : sansFrais_->Cacher();
+}
