@@ -30,6 +30,7 @@ ChampLibelle::ChampLibelle(const QString& libelle, QWidget* champ, TPlace place,
   grille->addWidget(champ, dessus ? 1 : 0, dessus ? 0 : 1);
   grille->addWidget(faute_, dessus ? 2 : 1, dessus ? 0 : 1);
   grille->setColumnStretch(dessus ? 0 : 1, 1);
+  grille->setRowStretch(3, 1);
   libelle_->setVisible(!libelle.isEmpty());
   faute_->hide();
 }

@@ -13,6 +13,7 @@ Etiquette::Etiquette(const QString& texte, TRole role, QFont (*police)(), QWidge
 
 void Etiquette::DefinirRole(TRole role) {
   role_ = role;
+  if (role == TRole::Texte) setPalette({});  // the colour of the window again
   Habiller();
 }
 

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOption>
@@ -36,6 +37,8 @@ void StyleCalpenne::polish(QWidget* widget) {
   }
   if (auto* texte = qobject_cast<QTextEdit*>(widget)) texte->setTabChangesFocus(true);
   if (auto* texte = qobject_cast<QPlainTextEdit*>(widget)) texte->setTabChangesFocus(true);
+  // Qt asks for room for a text beside the size of the style.
+  if (qobject_cast<QProgressBar*>(widget)) widget->setFixedHeight(Theme::Px(8));
   // Hover is drawn, so these must be told of it.
   if (qobject_cast<QAbstractItemView*>(widget) || qobject_cast<QHeaderView*>(widget))
     widget->setAttribute(Qt::WA_Hover);
@@ -83,7 +86,7 @@ void StyleCalpenne::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     case PE_IndicatorArrowDown:
     case PE_IndicatorArrowUp:
       return Fleche(*peintre, option->rect, element == PE_IndicatorArrowUp ? Qt::UpArrow : Qt::DownArrow,
-                    CouleurTexte(*option), 4);
+                    option->state & State_Enabled ? Theme::Secondaire() : CouleurTexte(*option), 4);
     default:
       QProxyStyle::drawPrimitive(element, option, peintre, widget);
   }

@@ -41,7 +41,7 @@ class DelegueGrille : public QStyledItemDelegate {
     option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, peintre, option.widget);
     const bool actif = option.state.testFlag(QStyle::State_Enabled);
     const int cote = Theme::Px(16), marge = Theme::Px(8);
-    QRect place = option.rect.adjusted(marge, 0, -Theme::Px(4), 0);
+    QRect place = option.rect.adjusted(marge, 0, -Theme::Px(4), -1);  // above the hairline, as the texts
     icone.value<QIcon>().paint(peintre, QRect(place.x(), place.center().y() - cote / 2, cote, cote),
                                Qt::AlignCenter, actif ? QIcon::Normal : QIcon::Disabled);
     place.setLeft(place.left() + cote + Theme::Px(4));
@@ -106,6 +106,7 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
   PoserColonnes();
   RemettreGroupes();
   SuivreChoix();
+  enCours_ = false;
 
   connect(modele_, &ModeleGrille::Cochee, this, &VueGrille::Cochee);
   connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {

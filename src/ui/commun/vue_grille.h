@@ -82,7 +82,7 @@ class VueGrille : public QTreeView {
   FiltreGrille* filtre_;
   ChampFiltre* champ_ = nullptr;
   int souple_ = -1;
-  bool enCours_ = false;  ///< the view itself moves the current row, the folds or the widths
+  bool enCours_ = true;  ///< the view itself moves the current row, the folds or the widths
   std::function<void(TGrille::TChangement)> changementAvant_;
   std::function<void()> choixAvant_;
 };

@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QSet>
+
+#include "ui/commun/contraste.h"
+#include "ui/commun/theme.h"
+#include "ui/verifier_vue.h"
+
+TEST(Theme, LesCouleursSeDistinguentDansLesDeuxPalettes) {
+  for (const Theme::TMode mode : {Theme::TMode::Clair, Theme::TMode::Sombre}) {
+    Theme::Appliquer(*qApp, mode);
+    const QPalette p = QApplication::palette();
+    const QColor fenetre = p.color(QPalette::Window), base = p.color(QPalette::Base);
+    const struct {
+      QColor A, B;
+      double Moindre;
+    } paires[] = {
+        {p.color(QPalette::WindowText), fenetre, 4.5},
+        {p.color(QPalette::Text), base, 4.5},
+        {p.color(QPalette::ButtonText), p.color(QPalette::Button), 4.5},
+        {p.color(QPalette::Link), fenetre, 4.5},
+        {p.color(QPalette::HighlightedText), p.color(QPalette::Highlight), 4.5},
+        {Theme::SurSelection(), Theme::Selection(), 4.5},
+        {p.color(QPalette::Text), Theme::Survol(), 4.5},
+        {Theme::Secondaire(), fenetre, 4.5},
+        {Theme::Succes(), fenetre, 4.5},
+        {Theme::Alerte(), fenetre, 4.5},
+        {Theme::Erreur(), fenetre, 4.5},
+        {Theme::Secondaire(), Theme::Selection(), 4.5},
+        {Theme::Succes(), Theme::Selection(), 4.5},
+        {Theme::Alerte(), Theme::Selection(), 4.5},
+        {Theme::Erreur(), Theme::Selection(), 4.5},
+        {Theme::Bord(), fenetre, 3.0},
+        {Theme::Bord(), base, 3.0},
+        {p.color(QPalette::Highlight), fenetre, 3.0},
+        {p.color(QPalette::Highlight), Theme::Selection(), 3.0},
+        {p.color(QPalette::PlaceholderText), fenetre, 3.0},
+        {p.color(QPalette::Disabled, QPalette::Text), fenetre, 3.0},
+    };
+    for (const auto& [a, b, moindre] : paires)
+      EXPECT_GE(Contraste(a, b), moindre) << a.name().toStdString() << " sur " << b.name().toStdString();
+  }
+  Theme::Appliquer(*qApp, Theme::TMode::Clair);
+}
+
+TEST(Theme, UneIconeGardeeSuitLaPalette) {
+  Theme::Appliquer(*qApp, Theme::TMode::Sombre);
+  EXPECT_TRUE(Theme::EstSombre());
+  const QImage sombre = Theme::Icone(QStringLiteral("edit-find")).pixmap(16, 16).toImage();
+  const QIcon gardee = Theme::Icone(QStringLiteral("edit-find"));
+  Theme::Appliquer(*qApp, Theme::TMode::Clair);
+  EXPECT_FALSE(Theme::EstSombre());
+  EXPECT_NE(gardee.pixmap(16, 16).toImage(), sombre);  // an icon that is kept takes the new colour
+}
+
+TEST(Theme, LesChiffresOntUneLargeur) {
+  const QFontMetricsF mesure(QApplication::font());
+  QSet<double> avances;
+  for (QChar c = u'0'; c <= u'9'; c = QChar(c.unicode() + 1)) avances += mesure.horizontalAdvance(c);
+  EXPECT_EQ(avances.size(), 1);
+}
+
+TEST(Theme, LesLongueursSuiventLaPolice) {
+  EXPECT_EQ(Theme::Px(28), 28);
+  QApplication::setFont(PoliceEssai(15));
+  EXPECT_NEAR(Theme::Px(28), 42, 1);
+  QApplication::setFont(PoliceEssai(10));
+}
+
+TEST(Theme, LesIconesSontLaEtPrennentLaCouleurDuRole) {
+  for (const char* nom :
+       {"system-users", "office-chart-bar", "view-barcode", "view-bank", "tag", "view-calendar-day", "food",
+        "wallet-open", "document-import", "view-financial-list", "go-home", "chronometer", "configure",
+        "view-calendar-special-occasion", "data-warning", "data-error", "dialog-ok-apply", "edit-delete"})
+    for (const int cote : {16, 22, 32}) {
+      const QImage image = Theme::Icone(QLatin1String(nom), TRole::Erreur).pixmap(cote, cote).toImage();
+      bool peint = false;
+      for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+          const QColor point = image.pixelColor(x, y);
+          peint |= point.alpha() > 100 && std::abs(point.hue() - Theme::Erreur().hue()) < 4;
+        }
+      EXPECT_TRUE(peint) << nom << ' ' << cote;
+    }
+}
