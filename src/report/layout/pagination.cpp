@@ -140,7 +140,7 @@ void TPagination::Placer(std::vector<TBandeFormee> bandes, bool complet) {
     debut = fin;
   }
   FermerColonnes();
-  if (complet && y_ + dernierPied > bas_ + kTolerance) Changer(bandes.back().Position);
+  if (dernierPied > 0 && y_ + dernierPied > bas_ + kTolerance) Changer(bandes.back().Position);
 }
 
 /// Cells find their own place; what stands below them must still fit under the tallest column.
