@@ -30,10 +30,10 @@ QString CombienReleves(std::size_t nombre) {
 
 TReleveMensuel::TReleveMensuel() {
   Grille.DefinirColonnes({{Texte(u"Catégorie"), 180},
-                          {Texte(u"Date"), 96},
-                          {Texte(u"Entrée"), 70, TAlignement::Droite},
-                          {Texte(u"Sortie"), 70, TAlignement::Droite},
-                          {Texte(u"Montant"), 88, TAlignement::Droite, TOrdre::Nombre}});
+                          {Texte(u"Date"), 94},
+                          {Texte(u"Entrée"), 68, TAlignement::Droite},
+                          {Texte(u"Sortie"), 66, TAlignement::Droite},
+                          {Texte(u"Montant"), 84, TAlignement::Droite, TOrdre::Nombre}});
 }
 
 void TReleveMensuel::Vider() {

@@ -100,11 +100,12 @@ QLayout* FicheIdentite::CreerEntete() {
 }
 
 QLayout* FicheIdentite::CreerSolde() {
+  titreSolde_ = CreerLibelle(T("Solde"), nullptr);
   solde_ = new Etiquette({}, TRole::Texte, &Theme::Compteur);
   etatSolde_ = new MarqueEtat;
   auto* colonne = new QVBoxLayout;
   colonne->setSpacing(Theme::Px(4));
-  colonne->addWidget(CreerLibelle(T("Solde"), nullptr), 0, Qt::AlignRight);
+  colonne->addWidget(titreSolde_, 0, Qt::AlignRight);
   colonne->addWidget(solde_, 0, Qt::AlignRight);
   colonne->addWidget(etatSolde_, 0, Qt::AlignRight);
   colonne->addStretch(1);
@@ -193,7 +194,8 @@ void FicheIdentite::AjouterActivites() {
   AjouterSection(titreExt_)->addLayout(ligne);
   activites_ = new Etiquette({}, TRole::Texte);
   activites_->DefinirElision(true);
-  AjouterSection(CreerTitre("Activités"))->addWidget(activites_);
+  titreActivites_ = CreerTitre("Activités");
+  AjouterSection(titreActivites_)->addWidget(activites_);
 }
 
 // The photo comes last: whoever enters the record wants its fields.
@@ -227,6 +229,7 @@ void FicheIdentite::ActualiserEntete() {
   sousTitre_->setText(fiche.SousTitre());
   photo_->Definir(form_.Photo());
   naissance_->setText(fiche.DateNaissance);
+  titreSolde_->setVisible(form_.AvecEleve());
   if (!form_.AvecEleve()) {
     solde_->clear();
     etatSolde_->Definir({}, {});
@@ -269,5 +272,7 @@ void FicheIdentite::ActualiserCases() {
   for (std::size_t jour = 0; jour < jours_.size(); ++jour)
     jours_[jour]->setChecked(form_.JoursActivite()[jour]);
   activites_->parentWidget()->setVisible(form_.ActivitesVisibles());
-  activites_->setText(form_.Activites().isEmpty() ? T("Aucune activité") : form_.Activites());
+  titreActivites_->setVisible(!form_.ActivitesExtVisibles());  // one heading for both
+  activites_->setText(form_.AvecEleve() && form_.Activites().isEmpty() ? T("Aucune activité")
+                                                                       : form_.Activites());
 }

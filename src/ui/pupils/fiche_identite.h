@@ -63,6 +63,7 @@ class FicheIdentite : public QWidget {
   Etiquette* nom_;
   Etiquette* sousTitre_;
   SaisieDate* naissance_;
+  Etiquette* titreSolde_;
   Etiquette* solde_;
   MarqueEtat* etatSolde_;
   std::array<TChamps, 2> responsables_;
@@ -72,6 +73,7 @@ class FicheIdentite : public QWidget {
   GrilleMois* mois_;
   TitreSection* titreExt_;
   std::array<CaseLecture*, 5> jours_;
+  Etiquette* titreActivites_;
   Etiquette* activites_;
   std::vector<QVBoxLayout*> sections_;
 };
