@@ -44,11 +44,11 @@ TDemandeAssistant TDemandeAssistant::De(TForm& demandeur, std::vector<TTitreAssi
 }
 
 TFrmPrintWizard::TFrmPrintWizard(const TContexteEcran& contexte) : contexte_(contexte) {
-  LstEleve.DefinirColonnes({{QStringLiteral("Nom de l'élève"), 104},
-                            {QStringLiteral("Classe"), 42},
-                            {QStringLiteral("Implantation"), 69}});
+  LstEleve.DefinirColonnes({{QStringLiteral("Nom de l'élève"), 150},
+                            {QStringLiteral("Classe"), 60},
+                            {QStringLiteral("Implantation"), 100}});
   LstClasse.DefinirColonnes(
-      {{QStringLiteral("Nom de la classe"), 142}, {QStringLiteral("Implantation"), 73}});
+      {{QStringLiteral("Nom de la classe"), 210}, {QStringLiteral("Implantation"), 100}});
   LstEleve.CasesACocher = LstClasse.CasesACocher = true;
   for (TGrille* liste : {&LstEleve, &LstClasse})
     liste->SurChangement = [this](TGrille::TChangement) { Annoncer(); };

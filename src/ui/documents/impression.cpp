@@ -3,9 +3,13 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QProcess>
+#include <QStandardPaths>
 #include <algorithm>
+#include <cmath>
 
 #include "core/exceptions.h"
+#include "report/output/pdf.h"
 #include "report/output/peintre.h"
 
 namespace {
@@ -23,13 +27,12 @@ QPageLayout Papier(const TPagePreparee& page) {
   return {format, paysage ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
 }
 
-/// Indexes of the pages, in the order in which they leave the printer.
-std::vector<std::size_t> Ordre(const TDocumentPrepare& document, const QPrinter& imprimante) {
+/// Indexes of the pages, in the order in which they leave a printer that makes `copies` copies.
+std::vector<std::size_t> Ordre(const TDocumentPrepare& document, const QPrinter& imprimante, int copies) {
   const int nombre = static_cast<int>(document.Pages.size());
   const bool plage = imprimante.printRange() == QPrinter::PageRange && imprimante.fromPage() > 0;
   const int premiere = plage ? imprimante.fromPage() : 1;
   const int derniere = plage ? std::min(imprimante.toPage(), nombre) : nombre;
-  const int copies = imprimante.supportsMultipleCopies() ? 1 : std::max(1, imprimante.copyCount());
   const bool assemblees = imprimante.collateCopies();
   std::vector<std::size_t> ordre;
   for (int serie = 0; serie < (assemblees ? copies : 1); ++serie)
@@ -40,22 +43,84 @@ std::vector<std::size_t> Ordre(const TDocumentPrepare& document, const QPrinter&
   return ordre;
 }
 
+int Copies(const QPrinter& imprimante) { return std::max(1, imprimante.copyCount()); }
+
+TDocumentPrepare Extrait(const TDocumentPrepare& document, const std::vector<std::size_t>& ordre) {
+  TDocumentPrepare extrait;
+  extrait.Titre = document.Titre;
+  for (const std::size_t page : ordre) extrait.Pages.push_back(document.Pages[page]);
+  return extrait;
+}
+
+/// What the user chose in the dialog, as CUPS is told.
+QStringList ArgumentsLp(const TDocumentPrepare& document, const QPrinter& imprimante) {
+  static const std::pair<QPrinter::DuplexMode, QString> kFaces[] = {
+      {QPrinter::DuplexNone, QStringLiteral("sides=one-sided")},
+      {QPrinter::DuplexLongSide, QStringLiteral("sides=two-sided-long-edge")},
+      {QPrinter::DuplexShortSide, QStringLiteral("sides=two-sided-short-edge")}};
+  const QPageSize format = Papier(document.Pages[0]).pageSize();
+  const QSizeF taille = format.size(QPageSize::Millimeter);
+  const QString papier = format.id() == QPageSize::Custom ? QStringLiteral("Custom.%1x%2mm")
+                                                                .arg(std::lround(taille.width()))
+                                                                .arg(std::lround(taille.height()))
+                                                          : format.key();
+  const QString assemblees = imprimante.collateCopies() ? QStringLiteral("true") : QStringLiteral("false");
+  QStringList arguments{QStringLiteral("-d"), imprimante.printerName(), QStringLiteral("-t"),
+                        document.Titre,       QStringLiteral("-n"),     QString::number(Copies(imprimante)),
+                        QStringLiteral("-o"), u"collate=" % assemblees, QStringLiteral("-o"),
+                        u"media=" % papier};
+  for (const auto& [mode, option] : kFaces)
+    if (mode == imprimante.duplex()) arguments << QStringLiteral("-o") << option;
+  if (imprimante.colorMode() == QPrinter::GrayScale)
+    arguments << QStringLiteral("-o") << QStringLiteral("print-color-mode=monochrome");
+  return arguments << QStringLiteral("--") << QStringLiteral("-");
+}
+
+Exception EImpression(const QPrinter& imprimante, const QString& raison = {}) {
+  const QString ou =
+      imprimante.outputFileName().isEmpty() ? imprimante.printerName() : imprimante.outputFileName();
+  const QString texte = QStringLiteral("L'impression sur « %1 » n'a pas pu se faire.").arg(ou);
+  return Exception(raison.isEmpty() ? texte : texte + u'\n' + raison);
+}
+
+void EnvoyerACups(const QString& lp, const TDocumentPrepare& document, const QPrinter& imprimante) {
+  constexpr int kDelaiMs = 60'000;
+  QProcess processus;
+  processus.start(lp, ArgumentsLp(document, imprimante));
+  if (processus.waitForStarted()) {
+    processus.write(PdfEnOctets({&document}, document.Titre, {}));
+    processus.closeWriteChannel();
+  }
+  if (!processus.waitForFinished(kDelaiMs) || processus.exitStatus() != QProcess::NormalExit ||
+      processus.exitCode() != 0)
+    throw EImpression(imprimante, QString::fromLocal8Bit(processus.readAllStandardError()).trimmed());
+}
+
 }  // namespace
 
 void Imprimer(const TDocumentPrepare& document, QPrinter& imprimante) {
-  const std::vector<std::size_t> ordre = Ordre(document, imprimante);
-  if (ordre.empty()) return;
+  const QString fichier = imprimante.outputFileName();
+  const QString lp = fichier.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("lp")) : QString();
+  if (fichier.isEmpty() && lp.isEmpty()) return PeindreSurImprimante(document, imprimante);
+  const TDocumentPrepare extrait =
+      Extrait(document, Ordre(document, imprimante, fichier.isEmpty() ? 1 : Copies(imprimante)));
+  if (extrait.Pages.empty()) return;
+  if (lp.isEmpty())
+    EcrirePdf({&extrait}, extrait.Titre, {}, fichier);
+  else
+    EnvoyerACups(lp, extrait, imprimante);
+}
+
+void PeindreSurImprimante(const TDocumentPrepare& document, QPrinter& imprimante) {
+  const int copies = imprimante.supportsMultipleCopies() ? 1 : Copies(imprimante);
   imprimante.setFullPage(true);
   imprimante.setDocName(document.Titre);
   QPainter peintre;
-  for (const std::size_t rang : ordre) {
+  for (const std::size_t rang : Ordre(document, imprimante, copies)) {
     const TPagePreparee& page = document.Pages[rang];
     imprimante.setPageLayout(Papier(page));
-    const bool pret = peintre.isActive() ? imprimante.newPage() : peintre.begin(&imprimante);
-    if (!pret)
-      throw Exception(QStringLiteral("L'impression sur « %1 » n'a pas pu se faire.")
-                          .arg(imprimante.outputFileName().isEmpty() ? imprimante.printerName()
-                                                                     : imprimante.outputFileName()));
+    if (!(peintre.isActive() ? imprimante.newPage() : peintre.begin(&imprimante)))
+      throw EImpression(imprimante);
     peintre.resetTransform();
     const double echelle = imprimante.resolution() / kPouce;
     peintre.scale(echelle, echelle);

@@ -1,5 +1,6 @@
 #include "ui/documents/vue_apercu.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -18,22 +19,13 @@
 #include "ui/commun/dialogue_base.h"
 #include "ui/commun/marque_etat.h"
 #include "ui/documents/dialogue_papier.h"
+#include "ui/documents/filet.h"
 #include "ui/documents/impression.h"
 #include "ui/documents/pages_apercu.h"
 
 namespace {
 
 constexpr int kIconeBarre = 22;
-
-QWidget* Filet(QFrame::Shape sens) {
-  auto* filet = new QFrame;
-  filet->setFrameShape(sens);
-  if (sens == QFrame::HLine)
-    filet->setFixedHeight(1);
-  else
-    filet->setFixedWidth(1);
-  return filet;
-}
 
 }  // namespace
 
@@ -46,7 +38,7 @@ VueApercu::VueApercu(TFrmApercu& form, QWidget* parent) : QDialog(parent), form_
   colonne->setSpacing(0);
   barre_ = CreerBarre();
   colonne->addWidget(barre_);
-  colonne->addWidget(Filet(QFrame::HLine));
+  colonne->addWidget(new Filet(Qt::Horizontal));
   auto* milieu = new QHBoxLayout;
   milieu->setSpacing(0);
   cote_ = CreerNavigateur();
@@ -54,7 +46,7 @@ VueApercu::VueApercu(TFrmApercu& form, QWidget* parent) : QDialog(parent), form_
   milieu->addWidget(cote_);
   milieu->addWidget(pages_, 1);
   colonne->addLayout(milieu, 1);
-  colonne->addWidget(Filet(QFrame::HLine));
+  colonne->addWidget(new Filet(Qt::Horizontal));
   colonne->addWidget(CreerPied());
   CreerRaccourcis();
   Suivre();
@@ -98,12 +90,14 @@ QWidget* VueApercu::CreerBarre() {
   const int marge = Theme::Px(7);
   ligne->setContentsMargins(Theme::Px(8), marge, Theme::Px(8), marge);
   ligne->setSpacing(Theme::Px(4));
-  barre->setMinimumWidth(1);  // folds instead of holding the window wide
   CreerCommandes(*ligne);
-  ligne->addWidget(Filet(QFrame::VLine));
+  ligne->addWidget(new Filet(Qt::Vertical));
   CreerZoom(*ligne);
   ligne->addStretch(1);
   CreerRecherche(*ligne);
+  // Folded it may become as narrow as that, whatever the words need.
+  for (const auto& [bouton, texte] : pliables_) bouton->setText({});
+  barre->setMinimumWidth(ligne->minimumSize().width());
   return barre;
 }
 
@@ -117,7 +111,7 @@ void VueApercu::CreerCommandes(QHBoxLayout& ligne) {
   faire(Commande(ligne, QStringLiteral("Exporter en PDF"), QStringLiteral("document-export"),
                  QStringLiteral("Exporter en PDF (Ctrl+E)")),
         &TFrmApercu::btnExporterClick);
-  ligne.addWidget(Filet(QFrame::VLine));
+  ligne.addWidget(new Filet(Qt::Vertical));
   faire(Commande(ligne, QStringLiteral("Ouvrir"), QStringLiteral("document-open"),
                  QStringLiteral("Ouvrir un rapport enregistré (Ctrl+O)")),
         &TFrmApercu::btnOuvrirClick);
@@ -127,7 +121,7 @@ void VueApercu::CreerCommandes(QHBoxLayout& ligne) {
   papier_ = Commande(ligne, QStringLiteral("Mise en page"), QStringLiteral("document-properties"),
                      QStringLiteral("Format, orientation et marge du papier"));
   connect(papier_, &QPushButton::clicked, this, &VueApercu::ChoisirPapier);
-  ligne.addWidget(Filet(QFrame::VLine));
+  ligne.addWidget(new Filet(Qt::Vertical));
   navigateur_ = Commande(ligne, QStringLiteral("Navigateur"), QStringLiteral("view-list-tree"),
                          QStringLiteral("Montrer ou cacher le navigateur (Ctrl+N)"));
   navigateur_->setCheckable(true);
@@ -144,9 +138,9 @@ void VueApercu::CreerZoom(QHBoxLayout& ligne) {
   zoom_->setCompleter(nullptr);
   zoom_->setAccessibleName(QStringLiteral("Zoom"));
   zoom_->setToolTip(QStringLiteral("Zoom (Ctrl+0 : 100 %)"));
-  zoom_->setMinimumWidth(Theme::Px(84));
   zoom_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  zoom_->setMinimumContentsLength(6);
+  zoom_->setMinimumContentsLength(5);
+  zoom_->view()->setMinimumWidth(Theme::Px(140));
   ligne.addWidget(zoom_);
   const auto plus = Commande(ligne, {}, QStringLiteral("list-add"), QStringLiteral("Agrandir (Ctrl++)"));
   const auto largeur = Commande(ligne, {}, QStringLiteral("zoom-fit-best"), QStringLiteral("Page entière"));

@@ -15,6 +15,7 @@
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/saisie.h"
 #include "ui/commun/vue_grille.h"
+#include "ui/documents/filet.h"
 
 namespace {
 
@@ -32,13 +33,6 @@ const std::vector<TTextesPage>& TextesPages() {
       {QStringLiteral("Période"), QStringLiteral("Veuillez choisir la période concernées par ce rapport:")},
   };
   return textes;
-}
-
-QWidget* Filet() {
-  auto* filet = new QFrame;
-  filet->setFrameShape(QFrame::HLine);
-  filet->setFixedHeight(1);
-  return filet;
 }
 
 /// A layout without margins, its parts that far apart.
@@ -70,7 +64,7 @@ VuePrintWizard::VuePrintWizard(TFrmPrintWizard& form, QWidget* parent)
   Contenu()->addWidget(CreerEtapes());
   Contenu()->addWidget(question_);
   Contenu()->addWidget(pages_, 1);
-  Contenu()->addWidget(Filet());
+  Contenu()->addWidget(new Filet(Qt::Horizontal));
   pages_->addWidget(CreerPageRapport());
   pages_->addWidget(CreerPageQui());
   pages_->addWidget(CreerPagePeriode());
@@ -153,7 +147,7 @@ QWidget* VuePrintWizard::CreerPageRapport() {
   return zone;
 }
 
-QWidget* VuePrintWizard::CreerListe(TListe& liste, const QString& courant, const QString& plusieurs,
+QLayout* VuePrintWizard::CreerListe(TListe& liste, const QString& courant, const QString& plusieurs,
                                     TGrille& grille, const QString& nom) {
   liste = {new QRadioButton(courant), new Etiquette({}, TRole::Texte, &Theme::Gras),
            new QRadioButton(plusieurs), new ChampFiltre, new VueGrille(grille, nom, u"PrintWizard/" % nom)};
@@ -162,8 +156,7 @@ QWidget* VuePrintWizard::CreerListe(TListe& liste, const QString& courant, const
   liste.Filtre->setAccessibleName(u"Filtrer : " % nom);
   liste.Filtre->setMaximumWidth(Theme::Px(140));
   liste.Vue->Filtrer(*liste.Filtre);
-  auto* cote = new QWidget;
-  auto* colonne = SansMarge<QVBoxLayout>(cote, 4);
+  auto* colonne = SansMarge<QVBoxLayout>(nullptr, 4);
   auto* ligne = SansMarge<QHBoxLayout>(nullptr, 8);
   ligne->addWidget(liste.Plusieurs);
   ligne->addWidget(liste.Filtre, 1);
@@ -172,18 +165,18 @@ QWidget* VuePrintWizard::CreerListe(TListe& liste, const QString& courant, const
   colonne->addLayout(ligne);
   colonne->addSpacing(Theme::Px(4));
   colonne->addWidget(liste.Vue, 1);
-  return cote;
+  return colonne;
 }
 
 QWidget* VuePrintWizard::CreerPageQui() {
   auto* page = new QWidget;
   auto* colonne = SansMarge<QVBoxLayout>(page, 12);
   auto* listes = SansMarge<QHBoxLayout>(nullptr, 24);
-  listes->addWidget(
+  listes->addLayout(
       CreerListe(eleves_, QStringLiteral("L'élève actuellement sélectionné :"),
                  QStringLiteral("Les élèves suivants:"), form_.LstEleve, QStringLiteral("Élèves")),
       1);
-  listes->addWidget(
+  listes->addLayout(
       CreerListe(classes_, QStringLiteral("La classe actuellement sélectionnée :"),
                  QStringLiteral("Les classes suivantes:"), form_.LstClasse, QStringLiteral("Classes")),
       1);
@@ -253,7 +246,7 @@ QWidget* VuePrintWizard::CreerPagePeriode() {
   resume_->setWordWrap(true);
   colonne->addLayout(grille);
   colonne->addSpacing(Theme::Px(8));
-  colonne->addWidget(Filet());
+  colonne->addWidget(new Filet(Qt::Horizontal));
   colonne->addWidget(new Etiquette(QStringLiteral("Sera imprimé"), TRole::Secondaire));
   colonne->addWidget(resume_);
   colonne->addStretch(1);

@@ -35,7 +35,8 @@ class VuePrintWizard : public DialogueBase {
   QWidget* CreerPageRapport();
   QWidget* CreerPageQui();
   QWidget* CreerPagePeriode();
-  QWidget* CreerListe(TListe& liste, const QString& courant, const QString& plusieurs, TGrille& grille,
+  /// All four choices stand in one widget, so that arrows lead from one to the next.
+  QLayout* CreerListe(TListe& liste, const QString& courant, const QString& plusieurs, TGrille& grille,
                       const QString& nom);
   QWidget* CreerLigneMois();
   QWidget* CreerLigneDates();
