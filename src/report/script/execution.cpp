@@ -3,6 +3,12 @@
 #include "core/conversions.h"
 #include "report/script/arbre.h"
 
+namespace {
+
+constexpr qsizetype kTexteMaximum = 100'000;  // characters
+
+}  // namespace
+
 struct TExecution::TInterne {
   TInterne(const TScript::TArbre& a, IHoteScript& h) : arbre(a), hote(h) {
     for (const TVariableScript& variable : arbre.Variables) valeurs.push_back(variable.Initiale);
@@ -35,10 +41,17 @@ struct TExecution::TInterne {
     return QString::number(Nombre(e, valeur), 'g', 15).replace(u'.', u',');
   }
 
+  /// A variable that doubles at each row must not take all memory.
+  static QString Joindre(int ligne, const QString& gauche, const QString& droite) {
+    if (gauche.size() + droite.size() > kTexteMaximum)
+      Refuser(ligne, QStringLiteral("le texte devient trop long"));
+    return gauche + droite;
+  }
+
   TValeurScript Additionner(const TExpression& e) {
     const TValeurScript g = Evaluer(*e.Gauche), d = Evaluer(*e.Droite);
     if (std::holds_alternative<QString>(g) || std::holds_alternative<QString>(d))
-      return QString(Texte(*e.Gauche, g) + Texte(*e.Droite, d));
+      return Joindre(e.Ligne, Texte(*e.Gauche, g), Texte(*e.Droite, d));
     return Nombre(*e.Gauche, g) + Nombre(*e.Droite, d);
   }
 

@@ -11,6 +11,7 @@ namespace {
 constexpr qint64 kTailleMaximum = 8 * 1024 * 1024;
 constexpr int kImageMaximum = 4000;  // pixels a side
 constexpr int kInclusionsImbriquees = 8;
+constexpr int kInclusions = 200;  // of one template, all in all
 
 constexpr std::pair<const char*, TSorteBande> kSortesBande[] = {
     {"entetePage", TSorteBande::EntetePage},
@@ -72,11 +73,13 @@ TFichierModele OuvrirFichier(const QString& nom, const QString& dossier) {
 /// Reads one file, and those that it includes, into a template.
 class TLecteurModele {
  public:
-  TLecteurModele(TModele& modele, TFichierModele fichier, QString dossier, int profondeur)
+  /// `inclusions` counts those of the whole template.
+  TLecteurModele(TModele& modele, TFichierModele fichier, QString dossier, int profondeur, int& inclusions)
       : modele_(modele),
         fichier_(std::move(fichier)),
         dossier_(std::move(dossier)),
         profondeur_(profondeur),
+        inclusions_(inclusions),
         xml_(fichier_.octets) {}
 
   void LireRacineModele() {
@@ -147,7 +150,7 @@ class TLecteurModele {
     TAttributs attributs = Attributs();
     const QString nom = attributs.Texte("modele");
     attributs.Finir();
-    if (profondeur_ >= kInclusionsImbriquees)
+    if (profondeur_ >= kInclusionsImbriquees || ++inclusions_ > kInclusions)
       Refuser(QStringLiteral("trop de modèles s'incluent l'un l'autre"));
     const qint64 ligne = xml_.lineNumber();
     if (!Contenu().trimmed().isEmpty()) Refuser(QStringLiteral("« inclure » est vide"));
@@ -157,7 +160,8 @@ class TLecteurModele {
     } catch (const Exception& e) {
       Refuser(e.Message.chopped(1), ligne);
     }
-    TLecteurModele(modele_, std::move(partie), dossier_, profondeur_ + 1).LirePartie(page, bande);
+    TLecteurModele(modele_, std::move(partie), dossier_, profondeur_ + 1, inclusions_)
+        .LirePartie(page, bande);
   }
 
   void LireContenuModele() {
@@ -355,6 +359,7 @@ class TLecteurModele {
   const TFichierModele fichier_;
   const QString dossier_;
   const int profondeur_;
+  int& inclusions_;
   QXmlStreamReader xml_;
 };
 
@@ -362,7 +367,8 @@ class TLecteurModele {
 
 TModele LireModele(const QByteArray& xml, const QString& fichier, const QString& dossier) {
   TModele modele;
-  TLecteurModele(modele, {fichier, xml}, dossier, 0).LireRacineModele();
+  int inclusions = 0;
+  TLecteurModele(modele, {fichier, xml}, dossier, 0, inclusions).LireRacineModele();
   return modele;
 }
 
