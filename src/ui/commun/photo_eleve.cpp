@@ -6,6 +6,7 @@
 
 PhotoEleve::PhotoEleve(QWidget* parent) : QAbstractButton(parent) {
   setAccessibleName(QStringLiteral("Photo"));
+  setAttribute(Qt::WA_Hover);
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QTextCharFormat>
 #include <QToolButton>
 #include <QWidgetAction>
 
@@ -45,6 +46,20 @@ std::optional<TDateTime> LireDate(const QString& texte) {
   return Essayer(StrToDate, texte);
 }
 
+/// Qt's own arrows are coloured, and its red of the week-end is not read on a dark ground.
+void Habiller(QCalendarWidget& calendrier) {
+  QTextCharFormat repos;
+  repos.setForeground(Theme::Secondaire());
+  calendrier.setWeekdayTextFormat(Qt::Saturday, repos);
+  calendrier.setWeekdayTextFormat(Qt::Sunday, repos);
+  const struct {
+    const char *Bouton, *Icone;
+  } fleches[] = {{"qt_calendar_prevmonth", "go-previous"}, {"qt_calendar_nextmonth", "go-next"}};
+  for (const auto& [nom, icone] : fleches)
+    if (auto* bouton = calendrier.findChild<QToolButton*>(QLatin1String(nom)))
+      bouton->setIcon(Theme::Icone(QLatin1String(icone), TRole::SurAccent));
+}
+
 }  // namespace
 
 Saisie::Saisie(QWidget* parent) : QLineEdit(parent) {
@@ -62,7 +77,8 @@ void Saisie::Montrer(const QString& texte) {
 
 void Saisie::Terminer() {
   const std::optional<QString> forme = MettreEnForme(text());
-  MarquerFaute(*this, !forme);
+  // A text that can be read may still have been refused: typing takes that fault away.
+  if (!forme) MarquerFaute(*this, true);
   if (forme && *forme != text()) setText(*forme);
   if (text() == avant_) return;
   avant_ = text();
@@ -159,6 +175,7 @@ void SaisieDate::OuvrirCalendrier() {
   calendrier->setFirstDayOfWeek(Qt::Monday);
   calendrier->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   calendrier->setAccessibleName(accessibleName());
+  Habiller(*calendrier);
   const std::optional<TDateTime> date = Date();
   if (date && *date != 0.0) calendrier->setSelectedDate(DateVersQt(*date));
   const auto choisir = [this, menu](const QDate& jour) {

@@ -112,6 +112,14 @@ void StyleCalpenne::drawControl(ControlElement element, const QStyleOption* opti
         return QProxyStyle::drawControl(element, &copie, peintre, widget);
       }
       break;
+    case CE_MenuItem:
+      if (const auto* entree = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+          entree && entree->menuItemType == QStyleOptionMenuItem::Separator && entree->text.isEmpty()) {
+        peintre->fillRect(QRect(option->rect.x(), option->rect.center().y(), option->rect.width(), 1),
+                          Theme::Ligne());
+        return;
+      }
+      break;
     case CE_HeaderSection:
       return Tete(*peintre, *option);
     case CE_HeaderEmptyArea:

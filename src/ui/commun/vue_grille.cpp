@@ -45,8 +45,12 @@ class DelegueGrille : public QStyledItemDelegate {
     icone.value<QIcon>().paint(peintre, QRect(place.x(), place.center().y() - cote / 2, cote, cote),
                                Qt::AlignCenter, actif ? QIcon::Normal : QIcon::Disabled);
     place.setLeft(place.left() + cote + Theme::Px(4));
-    peintre->setPen(actif ? index.data(Qt::ForegroundRole).value<QColor>()
-                          : option.palette.color(QPalette::Disabled, QPalette::Text));
+    // In high contrast the ground of a chosen row is the accent itself.
+    const bool surAccent =
+        option.state.testFlag(QStyle::State_Selected) && Theme::Selection() == Theme::Couleur(TRole::Accent);
+    peintre->setPen(surAccent ? Theme::SurSelection()
+                    : actif   ? index.data(Qt::ForegroundRole).value<QColor>()
+                              : option.palette.color(QPalette::Disabled, QPalette::Text));
     peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                       option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, place.width()));
   }
@@ -155,6 +159,21 @@ void VueGrille::PoserColonnes() {
     header()->resizeSection(colonne, Theme::Px(grille_.Colonne(colonne).Largeur));
   }
   Rappeler();
+  ElargirPlusTard();
+}
+
+void VueGrille::ElargirPlusTard() {
+  if (std::exchange(elargir_, true)) return;
+  QMetaObject::invokeMethod(this, &VueGrille::ElargirMontants, Qt::QueuedConnection);
+}
+
+/// An amount that is cut is another amount.
+void VueGrille::ElargirMontants() {
+  const Pendant pendant(enCours_);
+  elargir_ = false;
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
+    if (grille_.Colonne(colonne).Ordre == TOrdre::Nombre && colonne != ColonneSouple())
+      header()->resizeSection(colonne, std::max(header()->sectionSize(colonne), sizeHintForColumn(colonne)));
 }
 
 /// Under the user: columns in their order with their widths at 10 points, and what they are put in
@@ -221,6 +240,7 @@ void VueGrille::SuivreGrille(int ligne) {
     SuivreChoix();
     executeDelayedItemsLayout();
     verticalScrollBar()->setValue(hauteur);
+    ElargirPlusTard();
   }
   emit Changee();
 }
@@ -399,5 +419,6 @@ void VueGrille::changeEvent(QEvent* evenement) {
     for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
       header()->resizeSection(colonne, Theme::Px(grille_.Colonne(colonne).Largeur));
     scheduleDelayedItemsLayout();
+    ElargirPlusTard();
   }
 }

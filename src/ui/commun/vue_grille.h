@@ -70,6 +70,8 @@ class VueGrille : public QTreeView {
   void SuivreChoix();
   void RemettreGroupes();
   void PoserColonnes();
+  void ElargirPlusTard();
+  void ElargirMontants();
   void Retenir();
   void Rappeler();
   QModelIndex IndexDe(int ligne) const;
@@ -82,7 +84,8 @@ class VueGrille : public QTreeView {
   FiltreGrille* filtre_;
   ChampFiltre* champ_ = nullptr;
   int souple_ = -1;
-  bool enCours_ = true;  ///< the view itself moves the current row, the folds or the widths
+  bool enCours_ = true;   ///< the view itself moves the current row, the folds or the widths
+  bool elargir_ = false;  ///< the widening is asked for
   std::function<void(TGrille::TChangement)> changementAvant_;
   std::function<void()> choixAvant_;
 };

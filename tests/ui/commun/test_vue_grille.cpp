@@ -127,6 +127,16 @@ TEST(VueGrille, RetientLargeursOrdreEtTri) {
   EXPECT_EQ(neuve.header()->sortIndicatorSection(), -1);
 }
 
+TEST(VueGrille, NeCoupePasUnMontant) {
+  TGrille grille({{T("Nom"), 200}, {T("Dû"), 20, TAlignement::Droite, TOrdre::Nombre}});
+  VueGrille vue(grille, T("Frais"), {});
+  Montrer(vue);
+  grille.Ajouter({T("Mer"), T("1 000 182,90 €")});
+  QApplication::processEvents();
+  EXPECT_GE(vue.header()->sectionSize(1),
+            vue.fontMetrics().horizontalAdvance(T("1\u00A0000\u00A0182,90\u00A0€")) + 2 * Theme::Px(7));
+}
+
 TEST(VueGrille, PlieLesGroupesAuClavier) {
   TGrille grille({{T("Catégorie"), 160}, {T("Montant"), 80, TAlignement::Droite, TOrdre::Nombre}});
   const auto remplir = [&] {
