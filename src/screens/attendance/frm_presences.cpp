@@ -13,14 +13,14 @@ const QString kFichiersLecteur[] = {QStringLiteral("\\StorageCard\\Presences\\Pr
 const QString kErreur = QStringLiteral("L'erreur suivante s'est produite : ");
 
 std::vector<TColonneGrille> Colonnes() {
-  return {{QStringLiteral("Nom"), 295},
+  return {{QStringLiteral("Nom"), 271},
           {QStringLiteral("Prénom"), 120},
           {QStringLiteral("Date"), 180, TAlignement::Gauche, TOrdre::Jour},
           {QStringLiteral("Type"), 88},
           {QStringLiteral("Entrée"), 72, TAlignement::Droite},
           {QStringLiteral("Sortie"), 72, TAlignement::Droite},
           {QStringLiteral("Matricule"), 128},
-          {QStringLiteral("État"), 116}};
+          {QStringLiteral("État"), 140}};
 }
 
 /// "1 relevé prêt", "2 relevés prêts"

@@ -16,11 +16,11 @@ QString Eleves(int nombre) {
 TFrmImport::TFrmImport(TContexteEcran& contexte) : contexte_(contexte) {
   Grille.DefinirColonnes({{QStringLiteral("État"), 110},
                           {QStringLiteral("Matricule"), 120},
-                          {QStringLiteral("Nom"), 169},
+                          {QStringLiteral("Nom"), 161},
                           {QStringLiteral("Prénom"), 120},
                           {QStringLiteral("Naissance"), 96, TAlignement::Gauche, TOrdre::Date},
                           {QStringLiteral("Classe"), 64},
-                          {QStringLiteral("Implantation"), 104},
+                          {QStringLiteral("Implantation"), 112},
                           {QStringLiteral("Responsable"), 168},
                           {QStringLiteral("Localité"), 112}});
   Grille.Etats = {{},

@@ -31,13 +31,6 @@ void Dire(const QString& texte, const QString& icone, TRole role) {
   boite.exec();
 }
 
-/// Enter must not close a year or remove somebody by mistake.
-bool EstSansRetour(const QString& question) {
-  for (const QStringView mot : {u"clôturer", u"définitivement", u"supprimer", u"effacer"})
-    if (question.contains(mot, Qt::CaseInsensitive)) return true;
-  return false;
-}
-
 std::optional<QString> Choisi(QFileDialog& dialogue, QString& dossier) {
   if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return {};
   const QString fichier = dialogue.selectedFiles().constFirst();
@@ -76,10 +69,13 @@ void DialoguesQt::Information(const QString& texte) {
   Dire(texte, QStringLiteral("data-information"), TRole::Accent);
 }
 
-bool DialoguesQt::Confirmer(const QString& question) {
+bool DialoguesQt::Confirmer(const QString& question) { return Demander(question, false); }
+
+bool DialoguesQt::ConfirmerGrave(const QString& question) { return Demander(question, true); }
+
+bool DialoguesQt::Demander(const QString& question, bool sansRetour) {
   const TDevant devant;
   QMessageBox boite(devant.Fenetre());
-  const bool sansRetour = EstSansRetour(question);
   Preparer(boite, question, sansRetour ? QStringLiteral("data-warning") : QStringLiteral("data-information"),
            sansRetour ? TRole::Alerte : TRole::Accent);
   const auto genre = [](bool principal) {

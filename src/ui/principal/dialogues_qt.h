@@ -9,8 +9,10 @@ class DialoguesQt : public IDialogues {
  public:
   void Message(const QString& texte) override;
   void Information(const QString& texte) override;
-  /// "Oui" is the default, but for what cannot be undone.
+  /// "Oui" is the default.
   bool Confirmer(const QString& question) override;
+  /// "Non" is the default.
+  bool ConfirmerGrave(const QString& question) override;
   std::optional<QString> Saisir(const QString& titre, const QString& invite, const QString& valeur) override;
   std::optional<QString> ChoisirFichier(const QString& titre, const QString& filtre) override;
   std::optional<QString> FichierAEnregistrer(const QString& titre, const QString& nom,
@@ -24,6 +26,8 @@ class DialoguesQt : public IDialogues {
   std::function<void(int fait, int total, const QString& nom)> SurProgression;
 
  private:
+  bool Demander(const QString& question, bool sansRetour);
+
   QString dossier_;  // of the file chosen last
 };
 

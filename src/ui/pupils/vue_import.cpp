@@ -70,7 +70,8 @@ void VueImport::Disposer() {
 
 void VueImport::Actualiser() {
   const bool seconde = form_.Etape2Suivante();
-  DefinirGenre(*etape1_, seconde ? TGenreBouton::Simple : TGenreBouton::Principal);
+  const bool premiere = form_.Etape1Active() && !seconde;
+  DefinirGenre(*etape1_, premiere ? TGenreBouton::Principal : TGenreBouton::Simple);
   DefinirGenre(*etape2_, seconde ? TGenreBouton::Principal : TGenreBouton::Simple);
   etape1_->setEnabled(form_.Etape1Active());
   etape2_->setEnabled(form_.Etape2Active());

@@ -1,0 +1,282 @@
+// The two imports through the real window: files chosen, read, refused, corrected, stored.
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+
+#include "screens/attendance/frm_ajout_releve.h"
+#include "screens/attendance/frm_presences.h"
+#include "screens/pupils/frm_import.h"
+#include "support/ecran_essai.h"
+#include "support/fichier_registre.h"
+#include "ui/attendance/vue_ajout_releve.h"
+#include "ui/attendance/vue_presences.h"
+#include "ui/commun/saisie.h"
+#include "ui/commun/vue_grille.h"
+#include "ui/principal/application.h"
+#include "ui/principal/barre_etat.h"
+#include "ui/programme_essai.h"
+#include "ui/pupils/vue_import.h"
+#include "ui/verifier_vue.h"
+
+namespace {
+
+const QString kRegistre1 = QStringLiteral("Etape n°1 : Ouvrir le fichier de données");
+const QString kRegistre2 = QStringLiteral("Etape n°2 : Démarrer le transfert des données");
+const QString kPresences1 = QStringLiteral("Etape n°1 : Importer les présences");
+const QString kPresences2 = QStringLiteral("Etape n°2 : Mémoriser les présences");
+const QString kImporter = QStringLiteral("Importer un fichier de présence");
+const QString kOuvrir = QStringLiteral("Ouvrir le fichier de données");
+const QString kAnomalies = QStringLiteral("Des anomalies ont été détectées !");
+
+void Ecole(TBaseEssai& base) {
+  using namespace Essai;
+  TEcoleEssai ecole(base);
+  ecole.tarif(Matin, TousLesJours, QStringLiteral("07:00"), QStringLiteral("08:30"), Forfait,
+              QStringLiteral("1"), ScanPresence);
+  ecole.unEleve().enClasse(QStringLiteral("P1"), QStringLiteral("A"));
+}
+
+/// Files of any sort that are no register and no scans, with what the program says to them.
+struct TMauvaisFichier {
+  QString Chemin, Message;
+};
+std::vector<TMauvaisFichier> MauvaisFichiers(TBaseEssai& base) {
+  const QString grand = base.Fichier(QStringLiteral("grand.txt"), "1;2;3\n");
+  EXPECT_TRUE(QFile::resize(grand, 200LL * 1024 * 1024));
+  return {{grand, QStringLiteral("est trop grand (plus de 64 Mo) : ce n'est pas le bon fichier.")},
+          {base.Fichier(QStringLiteral("binaire.txt"), QByteArray("MZ\0\x90;\0\0", 7)),
+           QStringLiteral("n'est pas un fichier de texte.")}};
+}
+
+class Importations : public testing::Test {
+ protected:
+  void SetUp() override { Ecole(Base); }
+  void TearDown() override { qobject_cast<Application*>(qApp)->Dialogues = nullptr; }
+  void Demarrer(TGestionnaire ecran) {
+    Programme.Demarrer();
+    qobject_cast<Application*>(qApp)->Dialogues = &Programme.Tout().Dialogues;
+    Programme.Ouvrir(ecran);
+  }
+  /// In the file dialog with this title the path is typed.
+  TRepondeur& Choisit(const QString& titre, const QString& chemin) {
+    return Programme.Dialogues.Fait(titre, [chemin](QWidget& dialogue) {
+      dialogue.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(chemin);
+      auto* boutons = dialogue.findChild<QDialogButtonBox*>();
+      QTest::mouseClick(boutons->button(QDialogButtonBox::Open), Qt::LeftButton);
+    });
+  }
+  TRepondeur& Abandonne(const QString& titre) {
+    return Programme.Dialogues.Fait(titre, [](QWidget& dialogue) { dialogue.close(); });
+  }
+  void Cliquer(const QString& bouton) { ::Cliquer(Programme.Fenetre(), bouton); }
+  bool EstActif(const QString& bouton) { return BoutonDe(Programme.Fenetre(), bouton)->isEnabled(); }
+  QString Etat() { return Programme.Fenetre().Etat()->Texte(); }
+  template <class T>
+  T& Form() {
+    return dynamic_cast<T&>(*Programme.Main().Panneau.Courante());
+  }
+  void ImporterPresences() {
+    for (QAction* action : Programme.Vue<VuePresences>()->findChild<QMenu*>()->actions())
+      if (action->text() == kImporter)
+        QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
+    QCoreApplication::processEvents();
+    Activer();
+  }
+  /// After a dialog: no window manager does it.
+  void Activer() { QApplication::setActiveWindow(&Programme.Fenetre()); }
+
+  TProgrammeEssai Programme;
+  TBaseEssai& Base = Programme.Base;
+};
+
+}  // namespace
+
+TEST_F(Importations, ARegisterOfANewYearClosesTheOldOne) {
+  Demarrer(TGestionnaire::AdvGlowButton8Click);
+  EXPECT_FALSE(EstActif(kRegistre2));
+  const QString fichier = TFichierRegistre(1).Mettre(1, 16, QStringLiteral("01/07/2017")).Ecrire(Base);
+  const QString question = QStringLiteral("Voulez-vous clôturer l'année scolaire 2016-2017 ?");
+  // Enter takes the answer at hand, which is "Non".
+  Choisit(kOuvrir, fichier).Fait(question, [](QWidget& dialogue) {
+    EXPECT_EQ(BoutonDe(dialogue, QStringLiteral("Non")), dialogue.focusWidget());
+    QTest::keyClick(dialogue.focusWidget(), Qt::Key_Return);
+  });
+  Cliquer(kRegistre1);
+  EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"Année non clôturée : pas de transfert"));
+  EXPECT_FALSE(EstActif(kRegistre2));
+
+  Choisit(kOuvrir, fichier).Repond(question, true).Attend(QStringLiteral("L'année scolaire est clôturée."));
+  Cliquer(kRegistre1);
+  int vues = 0;
+  auto& form = Form<TFrmImport>();
+  const auto suite = form.SurChangement;
+  form.SurChangement = [&] {
+    suite();
+    if (form.Feuille().Fait != 3 || ++vues > 1) return;
+    EXPECT_FALSE(EstActif(kRegistre1) || EstActif(kRegistre2));
+    EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"3 sur 9"));
+    Programme.Fenetre().close();
+    EXPECT_TRUE(Programme.EstOuvert());
+    EXPECT_TRUE(Etat().contains(u"en cours")) << Etat().toStdString();
+  };
+  Cliquer(kRegistre2);
+  form.SurChangement = suite;
+  EXPECT_GT(vues, 0);
+  EXPECT_EQ(Etat(), u"9 élèves transférés : 9 nouveaux, 0 mis à jour");
+  EXPECT_FALSE(EstActif(kRegistre2));
+  EXPECT_EQ(Programme.Main().AnneeCochee(), 2017);
+  EXPECT_EQ(Programme.Main().NombreEleves(), 9);
+  EXPECT_EQ(Base.Valeur(QStringLiteral("SELECT COUNT(*) FROM BALANCE")), u"1");
+}
+
+TEST_F(Importations, ARegisterThatCannotBeTakenIsRefusedAndTheWindowGoesOn) {
+  Demarrer(TGestionnaire::AdvGlowButton8Click);
+  for (const TMauvaisFichier& mauvais : MauvaisFichiers(Base)) {
+    Choisit(kOuvrir, mauvais.Chemin).Attend(mauvais.Message);
+    Cliquer(kRegistre1);
+    EXPECT_TRUE(Etat().startsWith(u"Fichier refusé : ")) << Etat().toStdString();
+    EXPECT_FALSE(EstActif(kRegistre2));
+  }
+  Choisit(kOuvrir, Base.Fichier(QStringLiteral("vide.csv"), {}));
+  Cliquer(kRegistre1);
+  EXPECT_EQ(Etat(), u"Fichier trop court : rien à transférer");
+  Choisit(kOuvrir, Base.Chemin({}));  // the dialog goes into a folder and stays
+  Abandonne(kOuvrir);
+  Cliquer(kRegistre1);
+
+  for (const auto& [colonne, texte, message] :
+       {std::tuple{14, "B-1300",
+                   "Ligne 6 du fichier (Nom 1234-5 Zoé) : « B-1300 » n'est pas un nombre entier."},
+        std::tuple{6, "20101345", "Ligne 6 du fichier (Nom 1234-5 Zoé) : "}}) {
+    Choisit(kOuvrir, TFichierRegistre(1).Mettre(5, colonne, QString::fromLatin1(texte)).Ecrire(Base));
+    Cliquer(kRegistre1);
+    Programme.Dialogues.Attend(QString::fromUtf8(message));
+    Cliquer(kRegistre2);
+    EXPECT_EQ(Etat(), u"Arrêté à la ligne 6");
+    EXPECT_EQ(Form<TFrmImport>().Grille.Ligne(4).Etat, TFrmImport::Refuse);
+    EXPECT_EQ(Form<TFrmImport>().Grille.Ligne(3).Etat, TFrmImport::Transfere);
+    EXPECT_EQ(Base.Valeur(QStringLiteral("SELECT COUNT(*) FROM ELEVES")), u"5");
+  }
+  Choisit(kOuvrir, TFichierRegistre(1).Ecrire(Base));
+  Cliquer(kRegistre1);
+  Cliquer(kRegistre2);
+  EXPECT_EQ(Etat(), u"9 élèves transférés : 5 nouveaux, 4 mis à jour");
+  EXPECT_EQ(Programme.Main().NombreEleves(), 10);
+}
+
+TEST_F(Importations, ScansAreCorrectedAndStored) {
+  Demarrer(TGestionnaire::AdvGlowButton1Click);
+  Programme.Dialogues.Attend(QStringLiteral("Veuillez vérifier si votre lecteur de code à barre est allumé"));
+  Cliquer(kPresences1);
+  Choisit(kImporter, Base.Fichier(QStringLiteral("scans.txt"),
+                                  "11;1;20161003;073000;1\n99;1;20161003;073000;1\n11;1;20161004;053000;1\n"))
+      .Attend(kAnomalies);
+  ImporterPresences();
+  auto& form = Form<TfrmPresences>();
+  auto* anomalies = dynamic_cast<VueGrille*>(QApplication::focusWidget());
+  ASSERT_NE(anomalies, nullptr);
+  EXPECT_EQ(&anomalies->Grille(), &form.Anomalies) << "the hand goes to the first anomaly";
+  EXPECT_EQ(form.Anomalies.LigneCourante(), 0);
+  Programme.Dialogues.Attend(QStringLiteral("La correction ne peut se faire que sur un élève existant"));
+  QTest::keyClick(anomalies, Qt::Key_Return);
+  Activer();
+
+  QTest::keyClick(anomalies, Qt::Key_Down);
+  Programme.Dialogues.Fait(QStringLiteral("Ajout de relevé"), [](QWidget& dialogue) {
+    const auto heures = dialogue.findChildren<SaisieHeure*>();
+    ASSERT_EQ(heures.size(), 2);
+    EXPECT_EQ(dialogue.focusWidget(), heures[1]) << "the time that is missing";
+    heures[0]->selectAll();
+    QTest::keyClicks(heures[0], QStringLiteral("07:61"));
+    ::Cliquer(dialogue, QStringLiteral("Valider"));
+    EXPECT_TRUE(TextesDe(dialogue).contains(u"« 07:61 »"));
+    EXPECT_EQ(dialogue.focusWidget(), heures[0]);
+    heures[0]->selectAll();
+    QTest::keyClicks(heures[0], QStringLiteral("7h45"));
+    QTest::keyClick(heures[0], Qt::Key_Return);
+  });
+  QTest::keyClick(anomalies, Qt::Key_F2);
+  Activer();
+  EXPECT_EQ(Etat(), u"Relevé corrigé : Eleve1 Prenom1");
+  EXPECT_EQ(form.Anomalies.NombreLignes(), 1);
+  EXPECT_TRUE(anomalies->hasFocus());
+
+  Programme.Dialogues.Attend(QStringLiteral("Les présences ont été mémorisées."));
+  Cliquer(kPresences2);
+  EXPECT_FALSE(EstActif(kPresences2));
+  EXPECT_EQ(Base.Rangees(QStringLiteral("SELECT DATE_RELEVE, HEURE_ENTREE FROM PRESENCES ORDER BY 1")),
+            (QStringList{"2016-10-03;07:30:00.000", "2016-10-04;07:45:00.000"}));
+}
+
+TEST_F(Importations, ScansThatCannotBeReadAreRefusedAndTheWindowGoesOn) {
+  Demarrer(TGestionnaire::AdvGlowButton1Click);
+  auto mauvais = MauvaisFichiers(Base);
+  mauvais.push_back({Base.Fichier(QStringLiteral("vide.txt"), {}), QStringLiteral("est vide.")});
+  mauvais.push_back(
+      {Base.Fichier(QStringLiteral("lettres.txt"), "11;1;20161003;073000;1\n11;x;20161003;073000;1\n"),
+       QStringLiteral("Ligne 2 : « x » n'est pas un nombre entier.\nRien n'a été enregistré.")});
+  for (const TMauvaisFichier& m : mauvais) {
+    Choisit(kImporter, m.Chemin).Attend(m.Message);
+    ImporterPresences();
+    EXPECT_FALSE(EstActif(kPresences2));
+    EXPECT_EQ(Form<TfrmPresences>().Recapitulatif.NombreLignes(), 0);
+  }
+  Choisit(kImporter, Base.Chemin({}));
+  Abandonne(kImporter);
+  ImporterPresences();
+
+  Choisit(kImporter, Base.Fichier(QStringLiteral("bon.txt"), "11;1;20161003;073000;1\n"));
+  ImporterPresences();
+  EXPECT_EQ(QApplication::focusWidget(), BoutonDe(Programme.Fenetre(), kPresences2)) << "nothing is wrong";
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton8Click);
+  EXPECT_EQ(Etat(), u"1 relevé non mémorisé");
+  EXPECT_EQ(Base.Valeur(QStringLiteral("SELECT COUNT(*) FROM PRESENCES")), u"0");
+}
+
+TEST(VuesDesImports, AreWithinReach) {
+  TBaseEssai base;
+  Ecole(base);
+  TEcranEssai ecran(base);
+  TFrmImport import(ecran.Contexte);
+  import.Montrer();
+  const auto vueImport = [&] { return std::make_unique<VueImport>(import, nullptr); };
+  VerifierVuePartout(vueImport);
+  base.Dialogues.Saisit(kOuvrir, TFichierRegistre(1).Mettre(5, 14, QStringLiteral("B")).Ecrire(base));
+  import.btnEtape1Click();
+  EXPECT_THROW(import.btnEtape2Click(), EConvertError);
+  VerifierVuePartout(vueImport);
+
+  TfrmPresences presences(ecran.Contexte);
+  presences.Montrer();
+  const auto vuePresences = [&] { return std::make_unique<VuePresences>(presences, nullptr); };
+  VerifierVuePartout(vuePresences);
+  QByteArray scans = "11;1;20161003;073000;1\n";
+  for (int i = 0; i < 20; ++i) scans += "99;1;20161003;073000;1\n";
+  base.Dialogues.Saisit(kImporter, base.Fichier(QStringLiteral("scans.txt"), scans)).Attend(kAnomalies);
+  presences.Importerunfichierdeprsence1Click();
+  VerifierVuePartout(vuePresences);
+
+  TFrmAjoutReleve releve(ecran.Contexte);
+  releve.Charger(TTypePresence::Etude, 0, EncodeTime(16, 0), EncodeDate(2016, 10, 3));
+  VerifierVuePartout([&] { return std::make_unique<VueAjoutReleve>(releve, nullptr); });
+}
+
+TEST(VuesDesImports, BothGridsOfThePresencesShareTheirWidths) {
+  TBaseEssai base;
+  TEcranEssai ecran(base);
+  TfrmPresences form(ecran.Contexte);
+  form.Montrer();
+  VuePresences vue(form, nullptr);
+  const auto grilles = vue.findChildren<VueGrille*>();
+  ASSERT_EQ(grilles.size(), 2);
+  for (int i = 0; i < 2; ++i) {
+    grilles[i]->header()->resizeSection(TfrmPresences::Date, 150 + i);
+    EXPECT_EQ(grilles[1 - i]->header()->sectionSize(TfrmPresences::Date), 150 + i);
+  }
+}
