@@ -348,7 +348,7 @@ TEST_F(Principal, AQuestionOnAClosingDefaultsToNo) {
   DialoguesQt& dialogues = Programme.Tout().Dialogues;
   const auto entree = [](QWidget& fenetre) { QTest::keyClick(&fenetre, Qt::Key_Return); };
   Programme.Dialogues.Fait(QStringLiteral("Voulez-vous clôturer l'année scolaire 2016-2017 ?"), entree);
-  EXPECT_FALSE(dialogues.Confirmer(QStringLiteral("Voulez-vous clôturer l'année scolaire 2016-2017 ?")));
+  EXPECT_FALSE(dialogues.ConfirmerGrave(QStringLiteral("Voulez-vous clôturer l'année scolaire 2016-2017 ?")));
   Programme.Dialogues.Fait(QStringLiteral("Continuer <b>ainsi</b> ?"), entree);
   EXPECT_TRUE(dialogues.Confirmer(QStringLiteral("Continuer <b>ainsi</b> ?")));
 }

@@ -125,7 +125,7 @@ bool TFrmMain::PeutSupprimerProfesseur() const {
 void TFrmMain::Supprimerunprofesseur1Click() {
   if (!PeutSupprimerProfesseur()) return;
   QuitterChamp();
-  if (!Contexte.Dialogues().Confirmer(QStringLiteral(
+  if (!Contexte.Dialogues().ConfirmerGrave(QStringLiteral(
           "Souhaitez-vous supprimer définitivement ce professeurs et les données de son compte ?")))
     return;
   TNoeud& noeud = *Arbre.Selection();
