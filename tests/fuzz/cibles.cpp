@@ -105,17 +105,18 @@ void TCibles::Rapport(const QByteArray& octets) {
   }
 }
 
-void TCibles::Modele(const QByteArray& octets) {
+bool TCibles::Modele(const QByteArray& octets) {
   TModele modele;
   try {
     modele = LireModele(octets, QStringLiteral("essai.xml"));
   } catch (const Exception&) {
-    return;
+    return false;
   }
   for (const bool liste : {false, true}) MettreEnPage(PetitRapport(liste), modele);
+  return true;
 }
 
-void TCibles::Script(const QByteArray& octets) {
+bool TCibles::Script(const QByteArray& octets) {
   THote hote;
   try {
     const TScript script = TScript::Lire(QString::fromUtf8(octets));
@@ -125,6 +126,8 @@ void TCibles::Script(const QByteArray& octets) {
           execution.Appeler(procedure.Nom, QStringLiteral("Bande"));
         } catch (const EScript&) {
         }
+    return true;
   } catch (const EScript&) {
+    return false;
   }
 }

@@ -12,10 +12,10 @@ class TCibles {
   void Presences(const QByteArray& octets);
   /// The bytes as what a saved report holds once decompressed, then into a PDF.
   void Rapport(const QByteArray& octets);
-  /// The bytes as a template; one that is read lays out a small report.
-  void Modele(const QByteArray& octets);
-  /// The bytes as a script, each of whose procedures is called.
-  void Script(const QByteArray& octets);
+  /// The bytes as a template; one that is read lays out a small report. Whether it was.
+  bool Modele(const QByteArray& octets);
+  /// The bytes as a script, each of whose procedures is called. Whether it was read.
+  bool Script(const QByteArray& octets);
 
  private:
   TBaseEssai base_;

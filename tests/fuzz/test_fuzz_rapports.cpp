@@ -68,11 +68,13 @@ TEST(Fuzz, TemplateReader) {
   std::mt19937 tirage(21);
   const auto modeles = Modeles();
   ASSERT_GT(modeles.size(), 5U);
+  int lus = 0;
   for (const QByteArray& modele : modeles) {
     cibles.Modele(modele);
-    for (int i = 0; i < 150; ++i) cibles.Modele(AltererLignes(modele, tirage));
+    for (int i = 0; i < 500; ++i) lus += cibles.Modele(AltererLignes(modele, tirage)) ? 1 : 0;
     for (int i = 0; i < 50; ++i) cibles.Modele(Alterer(modele, tirage));
   }
+  EXPECT_GT(lus, 300);  // the layout is met as well
 }
 
 TEST(Fuzz, ScriptReader) {
@@ -80,7 +82,11 @@ TEST(Fuzz, ScriptReader) {
   std::mt19937 tirage(22);
   const auto scripts = Scripts();
   ASSERT_GT(scripts.size(), 2U);
+  int lus = 0;
   for (const QByteArray& script : scripts)
-    for (int i = 0; i < 1500; ++i)
-      cibles.Script(i % 2 == 0 ? Alterer(script, tirage) : AltererLignes(script, tirage));
+    for (int i = 0; i < 1500; ++i) {
+      const QByteArray autre = i % 2 == 0 ? Alterer(script, tirage) : AltererLignes(script, tirage);
+      lus += cibles.Script(autre) ? 1 : 0;
+    }
+  EXPECT_GT(lus, 1000);
 }
