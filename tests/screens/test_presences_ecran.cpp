@@ -22,6 +22,7 @@ struct TLecteurEssai : ILienLecteur {
   }
   void CeRapiUnInit() override { --Ouvertures; }
   TPoignee CeCreateFile(const QString& chemin) override {
+    if (Pendant) Pendant();
     place_ = 0;
     return chemin == Chemin ? 7 : 0;
   }
@@ -38,6 +39,7 @@ struct TLecteurEssai : ILienLecteur {
   }
   bool Present = true;
   bool Panne = false;
+  std::function<void()> Pendant;  ///< while it is read
   int Ouvertures = 0;
   int Fermes = 0;
   QString Chemin = QStringLiteral("\\Backup\\Presences\\Presences.txt");
@@ -193,6 +195,11 @@ TEST_F(FrmPresences, TheScannersFileIsCopiedStoredAndDeleted) {
   Form.btnImportScannerClick();
 
   Lecteur.Present = true;
+  Lecteur.Pendant = [&] {
+    Form.btnImportScannerClick();
+    Form.Importerunfichierdeprsence1Click();
+    EXPECT_FALSE(Form.Fermer());
+  };
   Lecteur.Contenu = "11;1;20161003;073015000;1\n" + QByteArray(5000, ' ');
   const QString erreur = QStringLiteral("L'erreur suivante s'est produite : ");
   Base.Dialogues.Attend(erreur + u"Unable to open the remote file");

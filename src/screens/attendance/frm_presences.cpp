@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 #include "screens/attendance/frm_ajout_releve.h"
 #include "workflows/lien_lecteur.h"
@@ -10,6 +11,7 @@ namespace {
 
 const QString kFichiersLecteur[] = {QStringLiteral("\\StorageCard\\Presences\\Presences.txt"),
                                     QStringLiteral("\\Backup\\Presences\\Presences.txt")};
+const QString kTelechargement = QStringLiteral("Téléchargement des données...");
 const QString kErreur = QStringLiteral("L'erreur suivante s'est produite : ");
 
 std::vector<TColonneGrille> Colonnes() {
@@ -43,6 +45,12 @@ TfrmPresences::TfrmPresences(TContexteEcran& contexte)
 TfrmPresences::~TfrmPresences() { FermerLien(); }
 
 void TfrmPresences::FormShow() { scannerVisible_ = !Globals.Parametres->EstVrai(36); }
+
+bool TfrmPresences::FormCloseQuery() {
+  if (enCours_)
+    Signaler(TNiveauEtat::Alerte, QStringLiteral("Le lecteur est lu : l'écran reste ouvert jusqu'à la fin."));
+  return !enCours_;
+}
 
 void TfrmPresences::FormClose() {
   FermerLien();
@@ -85,6 +93,7 @@ QString TfrmPresences::NoteRecapitulatif() const {
 // Step 1.
 
 void TfrmPresences::btnImportScannerClick() {
+  if (enCours_) return;
   const TAttente attente(contexte_.Dialogues());
   Vider();
   ILienLecteur* lien = contexte_.Lecteur;
@@ -96,24 +105,31 @@ void TfrmPresences::btnImportScannerClick() {
   }
   lienOuvert_ = true;
   try {
-    const QString local = Globals.DossierTemporaire + QStringLiteral("/Presences.txt");
-    if (!CopierDuLecteur(local)) {
-      contexte_.Dialogues().Message(QStringLiteral("Aucune donnée à récupérer"));
-      FermerLien();
-    } else if (!QFile::exists(local)) {
-      contexte_.Dialogues().Message(QStringLiteral("Aucune données à récupérer !"));
-      FermerLien();
-    } else {
-      Lire(TSource::Scanner, local, QStringLiteral("Fichier du lecteur"));
-    }
+    ImporterDuLecteur();
   } catch (...) {
     FermerLien();
     throw;
   }
 }
 
+void TfrmPresences::ImporterDuLecteur() {
+  const QString local = Globals.DossierTemporaire + QStringLiteral("/Presences.txt");
+  if (!CopierDuLecteur(local)) {
+    contexte_.Dialogues().Message(QStringLiteral("Aucune donnée à récupérer"));
+    FermerLien();
+  } else if (!QFile::exists(local)) {
+    contexte_.Dialogues().Message(QStringLiteral("Aucune données à récupérer !"));
+    FermerLien();
+  } else {
+    Lire(TSource::Scanner, local, QStringLiteral("Fichier du lecteur"));
+  }
+}
+
 bool TfrmPresences::CopierDuLecteur(const QString& local) {
-  Signaler(TNiveauEtat::Neutre, QStringLiteral("Téléchargement des données..."));
+  const QScopedValueRollback enCours(enCours_, true);
+  TProgression progression(contexte_.Dialogues(), 1);
+  progression.Avancer(0, kTelechargement);
+  Signaler(TNiveauEtat::Neutre, kTelechargement);
   contexte_.Dialogues().TraiterEvenements();
   for (const QString& distant : kFichiersLecteur) {
     try {
@@ -133,9 +149,9 @@ void TfrmPresences::btnImportFTPClick() {
 }
 
 void TfrmPresences::Importerunfichierdeprsence1Click() {
-  const auto chemin = contexte_.Dialogues().ChoisirFichier(
-      QStringLiteral("Importer un fichier de présence"),
-      QStringLiteral("Fichiers de présences (*.txt)"));
+  if (enCours_) return;
+  const auto chemin = contexte_.Dialogues().ChoisirFichier(QStringLiteral("Importer un fichier de présence"),
+                                                           QStringLiteral("Fichiers de présences (*.txt)"));
   if (!chemin) return;
   const TAttente attente(contexte_.Dialogues());
   QString nom = u"Fichier choisi : " % QFileInfo(*chemin).fileName();

@@ -55,11 +55,13 @@ class TfrmPresences : public TForm {
 
  protected:
   void FormShow() override;
+  bool FormCloseQuery() override;
   void FormClose() override;
 
  private:
   enum class TSource { Scanner, Main, Ftp };
 
+  void ImporterDuLecteur();
   void Lire(TSource source, const QString& chemin, const QString& nom);
   void Vider();
   void Afficher();
@@ -80,4 +82,5 @@ class TfrmPresences : public TForm {
   bool scannerVisible_ = true;
   bool lienOuvert_ = false;
   bool lu_ = false;
+  bool enCours_ = false;  // the scanner is read, and pending events are let through
 };
