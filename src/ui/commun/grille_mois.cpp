@@ -42,6 +42,7 @@ GrilleMois::GrilleMois(const QStringList& lignes, QWidget* parent) : QWidget(par
   for (int colonne = 0; colonne <= kMois; ++colonne) {
     auto* tete = new Etiquette(QString::fromUtf8(kTetes[colonne]), TRole::Secondaire, &Theme::TeteMois);
     tete->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    tete->setContentsMargins(1, 0, 1, 0);
     // Behind the master stands the line that sets it apart.
     grille->addWidget(tete, 0, colonne == 0 ? 1 : colonne + 2);
     if (colonne == 1) premiereTete_ = tete;

@@ -112,6 +112,19 @@ void StyleCalpenne::drawControl(ControlElement element, const QStyleOption* opti
         return QProxyStyle::drawControl(element, &copie, peintre, widget);
       }
       break;
+    case CE_CheckBox:
+      // A box without words stands in the middle of its cell, and so does the focus.
+      if (const auto* boite = qstyleoption_cast<const QStyleOptionButton*>(option);
+          boite && boite->text.isEmpty()) {
+        const int cote = Theme::Px(16);
+        QStyleOptionButton copie = *boite;
+        copie.rect = alignedRect(option->direction, Qt::AlignCenter, {cote, cote}, option->rect);
+        Case(*peintre, copie, widget);
+        copie.rect.adjust(-3, -3, 3, 3);
+        if (option->state & State_HasFocus) Foyer(*peintre, copie, widget);
+        return;
+      }
+      break;
     case CE_MenuItem:
       if (const auto* entree = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
           entree && entree->menuItemType == QStyleOptionMenuItem::Separator && entree->text.isEmpty()) {
@@ -297,24 +310,6 @@ QRect StyleCalpenne::subElementRect(SubElement element, const QStyleOption* opti
       return option->rect;
     case SE_LineEditContents:
       return QProxyStyle::subElementRect(element, option, widget).adjusted(2, 0, -2, 0);
-    case SE_CheckBoxFocusRect:
-    case SE_RadioButtonFocusRect: {
-      // Round the words, or round the box when it has none.
-      const auto* bouton = qstyleoption_cast<const QStyleOptionButton*>(option);
-      const bool boite = element == SE_CheckBoxFocusRect;
-      if (bouton && bouton->text.isEmpty())
-        return QProxyStyle::subElementRect(boite ? SE_CheckBoxIndicator : SE_RadioButtonIndicator, option,
-                                           widget)
-            .adjusted(-3, -3, 3, 3);
-      return QProxyStyle::subElementRect(element, option, widget).adjusted(-3, 0, 3, 0) & option->rect;
-    }
-    case SE_CheckBoxIndicator: {
-      // A box without words stands in the middle of its cell.
-      const auto* bouton = qstyleoption_cast<const QStyleOptionButton*>(option);
-      QRect place = QProxyStyle::subElementRect(element, option, widget);
-      if (bouton && bouton->text.isEmpty() && bouton->icon.isNull()) place.moveCenter(option->rect.center());
-      return place;
-    }
     default:
       return QProxyStyle::subElementRect(element, option, widget);
   }
