@@ -253,7 +253,10 @@ void FicheIdentite::ActualiserResponsables() {
     champs.CodePostal->Montrer(responsable.CodePostal);
     champs.Localite->Montrer(responsable.Localite);
   }
-  responsables_[fiche.FlgImpotRespons2 ? 1 : 0].Attestation->setChecked(true);
+  // Of an exclusive pair one is always chosen; without a pupil none is.
+  for (const TChamps& champs : responsables_) champs.Attestation->setAutoExclusive(form_.AvecEleve());
+  for (std::size_t i = 0; i < responsables_.size(); ++i)
+    responsables_[i].Attestation->setChecked(form_.AvecEleve() && fiche.FlgImpotRespons2 == (i == 1));
   compte_->Montrer(fiche.NumCompte);
   titulaire_->Montrer(fiche.NomTitulaireCompte);
 }
@@ -271,8 +274,7 @@ void FicheIdentite::ActualiserCases() {
   titreExt_->DefinirTexte(form_.TitreActivitesExt());
   for (std::size_t jour = 0; jour < jours_.size(); ++jour)
     jours_[jour]->setChecked(form_.JoursActivite()[jour]);
-  activites_->parentWidget()->setVisible(form_.ActivitesVisibles());
+  activites_->parentWidget()->setVisible(form_.ActivitesVisibles() && form_.AvecEleve());
   titreActivites_->setVisible(!form_.ActivitesExtVisibles());  // one heading for both
-  activites_->setText(form_.AvecEleve() && form_.Activites().isEmpty() ? T("Aucune activité")
-                                                                       : form_.Activites());
+  activites_->setText(form_.Activites().isEmpty() ? T("Aucune activité") : form_.Activites());
 }

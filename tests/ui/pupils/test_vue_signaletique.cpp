@@ -87,6 +87,7 @@ TEST_F(TVueSignaletique, UnClicNeChangeRien) {
   Globals.EleveCourant = nullptr;
   Diffuser(TCodeMessage::EleveChange, *ecran);
   EXPECT_TRUE(Montre(u"Choisissez un élève dans la liste"_s));
+  EXPECT_FALSE(Controle<QAbstractButton>(u"Attestation au nom du second"_s).isChecked());
   base.Dialogues.Attend(u"Veuillez sélectionner un élève"_s);
   Controle<QAbstractButton>(u"2e enfant"_s).click();
 }
