@@ -1,0 +1,325 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "documents/catalogue.h"
+#include "pupils/eleves.h"
+#include "screens/payments/frm_date_paiement.h"
+#include "support/valeurs.h"
+#include "ui/commun/champ_filtre.h"
+#include "ui/commun/saisie.h"
+#include "ui/commun/vue_grille.h"
+#include "ui/documents/dialogue_papier.h"
+#include "ui/documents/impression.h"
+#include "ui/documents/pages_apercu.h"
+#include "ui/documents/vue_apercu.h"
+#include "ui/documents/vue_print_wizard.h"
+#include "ui/payments/vue_date_paiement.h"
+#include "ui/programme_essai.h"
+#include "ui/verifier_vue.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A screen that offers every document and shows what is chosen.
+struct TDemandeurEssai : TForm {
+  explicit TDemandeurEssai(Programme& programme) : Tout(programme) {}
+  void Imprimer() {
+    std::vector<TTitreAssistant> titres;
+    for (const TTitreDocument& titre : TitresDocuments())
+      titres.push_back({QString::fromUtf16(titre.Titre), titre.AvecPeriode});
+    Tout.Assistant.RecevoirMessage(
+        {TCodeMessage::ImprimerAssistant, TDemandeAssistant::De(*this, std::move(titres))});
+  }
+  bool RecevoirMessage(const TMessage& message) override {
+    Choix = *message.En<TChoixDocument>();
+    TResultat resultat = FaireDocument(ContexteDesGlobals(), *Choix);
+    for (TRapport& rapport : resultat.Rapports) Tout.Apercu->Afficher(rapport);
+    return true;
+  }
+  Programme& Tout;
+  std::optional<TChoixDocument> Choix;
+};
+
+struct TModaleGeste : IFenetreModale {
+  TResultatModal MontrerModal(TForm&) override {
+    Geste();
+    return TResultatModal::Annule;
+  }
+  std::function<void()> Geste;
+};
+
+/// Two pupils in "P1 A", one in "P2 A", each with a fee of October.
+class DocumentsVues : public testing::Test {
+ protected:
+  void SetUp() override {
+    TEcoleEssai ecole(programme.Base);
+    const int frais = ecole.frais(u"Classes de mer"_s, u"185"_s, 10);
+    for (const char16_t* nom : {u"Adam", u"Bastin", u"Pirard"})
+      ecole.unEleve()
+          .nomme(QString::fromUtf16(nom), u"Élise"_s)
+          .enClasse(nom[0] == u'P' ? u"P2"_s : u"P1"_s, u"A"_s)
+          .doit(frais);
+    programme.Demarrer();
+  }
+  TRapport Factures() {
+    TChoixDocument choix;
+    choix.Indice = IndiceTitre(u"Facture");
+    choix.DateDebut = J("2016-10-01");
+    choix.DateFin = J("2016-10-31");
+    for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
+    TResultat resultat = FaireDocument(ContexteDesGlobals(), choix);
+    return std::move(resultat.Rapports.at(0));
+  }
+  TContexteApercu Contexte() {
+    return {programme.Tout().Dialogues, programme.Tout().Reglages, programme.Horloge};
+  }
+  static void Touche(int touche, Qt::KeyboardModifiers avec = Qt::NoModifier) {
+    QWidget* fenetre =
+        QApplication::activeModalWidget() ? QApplication::activeModalWidget() : QApplication::activeWindow();
+    QTest::keyClick(fenetre->focusWidget() ? fenetre->focusWidget() : fenetre, static_cast<Qt::Key>(touche),
+                    avec);
+  }
+  /// A radio button, by its own words.
+  static void Choisir(QWidget& fenetre, const QString& texte) {
+    QAbstractButton* bouton = BoutonDe(fenetre, texte);
+    ASSERT_NE(bouton, nullptr) << texte.toStdString();
+    QTest::mouseClick(bouton, Qt::LeftButton, {}, {12, bouton->height() / 2});
+  }
+  /// Presses the key until the focus is there.
+  static void Jusqu(QWidget& fenetre, const QString& nom, int touche) {
+    for (int i = 0; i < 30 && !Foyer(fenetre, nom); ++i) Touche(touche);
+    EXPECT_TRUE(Foyer(fenetre, nom)) << nom.toStdString();
+  }
+  static bool Foyer(const QWidget& fenetre, const QString& nom) {
+    const QWidget* ici = fenetre.focusWidget();
+    return ici != nullptr && (TextesDe(*ici).contains(nom) || ici->accessibleName() == nom ||
+                              ici->property("text").toString() == nom);
+  }
+  static QString Lire(const QString& pdf) {
+    QProcess lecteur;
+    lecteur.start(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s});
+    lecteur.waitForFinished();
+    return QString::fromUtf8(lecteur.readAllStandardOutput());
+  }
+
+  TProgrammeEssai programme;
+};
+
+}  // namespace
+
+TEST_F(DocumentsVues, AnInvoiceByClassAndMonthFromTheKeyboard) {
+  TDemandeurEssai demandeur(programme.Tout());
+  programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
+    QApplication::setActiveWindow(&fenetre);
+    EXPECT_TRUE(Foyer(fenetre, u"Etiquettes d'identification 89mm x 36mm (Etiquette Dymo 99012)"_s));
+    for (int i = 0; i < 6; ++i) Touche(Qt::Key_Down);
+    EXPECT_TRUE(Foyer(fenetre, u"Facture"_s))
+        << fenetre.focusWidget()->property("text").toString().toStdString();
+    Touche(Qt::Key_Return);
+    EXPECT_TRUE(TextesDe(fenetre).contains(u"le ou les élèves"_s));
+    EXPECT_TRUE(Foyer(fenetre, u"Les élèves suivants:"_s)) << "nobody is selected in the tree";
+    Jusqu(fenetre, u"Les classes suivantes:"_s, Qt::Key_Right);
+    Jusqu(fenetre, u"Classes"_s, Qt::Key_Tab);
+    Touche(Qt::Key_Home);
+    Touche(Qt::Key_Space);
+    EXPECT_TRUE(TextesDe(fenetre).contains(u"1 classe, 2 élèves"_s));
+    Touche(Qt::Key_Return);
+    EXPECT_TRUE(TextesDe(fenetre).contains(u"octobre 2016"_s)) << "today's month";
+    EXPECT_NE(BoutonDe(fenetre, u"Imprimer"_s), nullptr);
+    Touche(Qt::Key_Return);
+  });
+  programme.Dialogues.Fait(u"Aperçu"_s, [](QWidget& fenetre) {
+    QApplication::setActiveWindow(&fenetre);
+    auto& vue = dynamic_cast<VueApercu&>(fenetre);
+    QTRY_VERIFY(TextesDe(fenetre).contains(u"2 pages prêtes"_s) && !TextesDe(fenetre).contains(u'…'));
+    auto* zoom = fenetre.findChild<QComboBox*>();
+    EXPECT_EQ(zoom->currentText(), u"100 %"_s);
+    Touche(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(zoom->currentText(), u"125 %"_s);
+    Touche(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(zoom->currentText(), u"100 %"_s);
+    EXPECT_TRUE(vue.Pages()->hasFocus());
+    Touche(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(fenetre.focusWidget(), u"bastin"_s);
+    EXPECT_TRUE(TextesDe(fenetre).contains(u"1 sur "_s)) << TextesDe(fenetre).toStdString();
+    EXPECT_EQ(fenetre.findChild<QTreeWidget*>()->currentItem()->text(0), u"Bastin Élise"_s);
+    Touche(Qt::Key_Escape);
+    EXPECT_TRUE(fenetre.isVisible()) << "Escape empties the field first";
+    Touche(Qt::Key_Escape);
+    EXPECT_FALSE(fenetre.isVisible());
+  });
+  demandeur.Imprimer();
+  ASSERT_TRUE(demandeur.Choix);
+  EXPECT_EQ(demandeur.Choix->DateDebut, J("2016-10-01"));
+  ASSERT_EQ(demandeur.Choix->Classes.size(), 1U);
+  EXPECT_EQ(demandeur.Choix->Classes[0]->Libelle(), u"P1 A"_s);
+}
+
+TEST_F(DocumentsVues, WizardWithoutPeriodAndItsRefusals) {
+  TDemandeurEssai demandeur(programme.Tout());
+  programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
+    Cliquer(fenetre, u"Suivant >"_s);
+    EXPECT_EQ(BoutonDe(fenetre, u"Suivant >"_s), nullptr) << "labels take no period";
+    Cliquer(fenetre, u"< Précédent"_s);
+    Choisir(fenetre, u"Facture"_s);
+    Cliquer(fenetre, u"Suivant >"_s);
+    Cliquer(fenetre, u"Suivant >"_s);
+    Choisir(fenetre, u"La période du :"_s);
+    auto* date = fenetre.findChildren<SaisieDate*>().at(1);
+    date->setFocus();
+    date->selectAll();
+    QTest::keyClicks(date, u"31/02/2017"_s);
+    Cliquer(fenetre, u"Imprimer"_s);
+    EXPECT_TRUE(TextesDe(fenetre).contains(u"La date introduite est incorrecte."_s));
+    EXPECT_EQ(date->text(), u"31/02/2017"_s);
+    Choisir(fenetre, u"Le mois de :"_s);
+    QTimer::singleShot(0, &fenetre, [&fenetre] { Cliquer(fenetre, u"Imprimer"_s); });
+  });
+  programme.Dialogues.Attend(u"Aucun élève n'a été sélectionné !"_s);
+  programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
+    EXPECT_TRUE(TextesDe(fenetre).contains(u"le ou les élèves"_s));
+    EXPECT_TRUE(Foyer(fenetre, u"Élèves"_s));
+    QTest::keyClicks(fenetre.findChild<ChampFiltre*>(), u"pirard"_s);
+    Cliquer(fenetre, u"Tout sélectionner"_s);
+    fenetre.findChild<ChampFiltre*>()->clear();
+    EXPECT_TRUE(TextesDe(fenetre).contains(u"1 élève"_s)) << "the filter held";
+    Touche(Qt::Key_Escape);
+  });
+  demandeur.Imprimer();
+  EXPECT_FALSE(demandeur.Choix);
+}
+
+TEST_F(DocumentsVues, PrintedPagesReadBack) {
+  const TRapport rapport = Factures();
+  TFrmApercu form(Contexte(), rapport);
+  form.Terminer();
+  // By the painter, as a printer gets them.
+  QPrinter imprimante(QPrinter::ScreenResolution);
+  imprimante.setOutputFormat(QPrinter::PdfFormat);
+  imprimante.setOutputFileName(programme.Base.Chemin(u"peint.pdf"_s));
+  PeindreSurImprimante(form.Document(), imprimante);
+  QProcess infos;
+  infos.start(u"pdfinfo"_s, {imprimante.outputFileName()});
+  ASSERT_TRUE(infos.waitForFinished());
+  const QString lu = QString::fromUtf8(infos.readAllStandardOutput());
+  EXPECT_TRUE(lu.contains(u"A4"_s)) << lu.toStdString();
+  EXPECT_EQ(lu.section(u"Pages:"_s, 1).section(u'\n', 0, 0).trimmed(), u"3"_s);
+
+  // To a file: the range that was asked for.
+  imprimante.setOutputFileName(programme.Base.Chemin(u"plage.pdf"_s));
+  imprimante.setPrintRange(QPrinter::PageRange);
+  imprimante.setFromTo(2, 9);
+  imprimante.setPageOrder(QPrinter::LastPageFirst);
+  Imprimer(form.Document(), imprimante);
+  const QStringList pages = Lire(imprimante.outputFileName()).split(u'\f', Qt::SkipEmptyParts);
+  ASSERT_EQ(pages.size(), 2);
+  EXPECT_TRUE(pages[0].contains(u"Pirard"_s) && pages[1].contains(u"Bastin"_s));
+
+  imprimante.setOutputFileName(programme.Base.Chemin(u"absent/plage.pdf"_s));
+  EXPECT_ANY_THROW(Imprimer(form.Document(), imprimante));
+}
+
+TEST_F(DocumentsVues, SentToCups) {
+  const TRapport rapport = Factures();
+  TFrmApercu form(Contexte(), rapport);
+  form.Terminer();
+  const QString lp = programme.Base.Fichier(
+      u"lp"_s,
+      "#!/bin/sh\ncd \"$(dirname \"$0\")\"\necho \"$@\" > demande.txt\ncat > recu.pdf\n"
+      "[ ! -e refus ] || { echo 'papier vide' >&2; exit 1; }\n");
+  QFile::setPermissions(lp, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  const QByteArray chemin = qgetenv("PATH");
+  qputenv("PATH", QFileInfo(lp).path().toLocal8Bit() + ':' + chemin);
+  QPrinter imprimante;
+  imprimante.setOutputFormat(QPrinter::NativeFormat);
+  imprimante.setOutputFileName({});
+  imprimante.setCopyCount(2);
+  imprimante.setPrintRange(QPrinter::PageRange);
+  imprimante.setFromTo(1, 2);
+  Imprimer(form.Document(), imprimante);
+  QFile demande(programme.Base.Chemin(u"demande.txt"_s));
+  ASSERT_TRUE(demande.open(QIODevice::ReadOnly));
+  const QString arguments = QString::fromUtf8(demande.readAll());
+  EXPECT_TRUE(arguments.contains(u"-n 2 "_s) && arguments.contains(u"media=A4"_s)) << arguments.toStdString();
+  const QString texte = Lire(programme.Base.Chemin(u"recu.pdf"_s));
+  EXPECT_TRUE(texte.contains(u"Bastin"_s) && !texte.contains(u"Pirard"_s));
+
+  programme.Base.Fichier(u"refus"_s, {});
+  try {
+    Imprimer(form.Document(), imprimante);
+    ADD_FAILURE();
+  } catch (const Exception& e) {
+    EXPECT_TRUE(e.Message.contains(u"papier vide"_s));
+  }
+  qputenv("PATH", chemin);
+}
+
+TEST_F(DocumentsVues, NavigatorPagesAndPaper) {
+  const TRapport rapport = Factures();
+  TFrmApercu form(Contexte(), rapport);
+  VueApercu vue(form, nullptr);
+  vue.setWindowState(Qt::WindowNoState);
+  vue.resize(1366, 768);
+  vue.show();
+  QTRY_VERIFY(form.Complet());
+  auto* arbre = vue.findChild<QTreeWidget*>();
+  EXPECT_EQ(arbre->topLevelItemCount(), 2) << "the two classes";
+  EXPECT_EQ(arbre->topLevelItem(1)->child(0)->text(1), u"p. 3"_s);
+  arbre->setCurrentItem(arbre->topLevelItem(1)->child(0));
+  EXPECT_EQ(form.PageCourante(), 2);
+  const QImage page = vue.Pages()->viewport()->grab().toImage();
+  EXPECT_EQ(page.pixelColor(page.width() / 2, 20), QColor(Qt::white));
+  vue.Pages()->setFocus();
+  QTest::keyClick(vue.Pages(), Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(form.PageCourante(), 1);
+  for (int i = 0; i < 2; ++i) QTest::keyClick(vue.Pages(), Qt::Key_PageUp);
+  EXPECT_EQ(form.PageCourante(), 0);
+  EXPECT_TRUE(TextesDe(vue).contains(u"A4, portrait"_s));
+  programme.Dialogues.Fait(u"Mise en page"_s, [](QWidget& fenetre) {
+    Choisir(fenetre, u"Paysage"_s);
+    Cliquer(fenetre, u"Valider"_s);
+  });
+  Cliquer(vue, u"Mise en page"_s);
+  QTRY_VERIFY(form.Complet());
+  EXPECT_TRUE(TextesDe(vue).contains(u"A4, paysage"_s));
+}
+
+TEST_F(DocumentsVues, WithinReachOfEveryone) {
+  Programme& tout = programme.Tout();
+  TFrmDatePaiement date(tout.Main.Contexte);
+  VerifierVuePartout([&] { return std::make_unique<VueDatePaiement>(date, nullptr); });
+  VerifierVuePartout([&] { return std::make_unique<DialoguePapier>(TPapier{{210, 297}}, nullptr); });
+  const TRapport rapport = Factures();
+  TFrmApercu apercu(Contexte(), rapport);
+  apercu.Terminer();
+  VerifierVuePartout([&] {
+    auto vue = std::make_unique<VueApercu>(apercu, nullptr);
+    vue->setWindowState(Qt::WindowNoState);
+    vue->resize(1366, 768);
+    return vue;
+  });
+  TModaleGeste modale;
+  const TContexteEcran contexte{tout.Main.Controleur, modale, *tout.Apercu, tout.Main, nullptr};
+  TFrmPrintWizard assistant(contexte);
+  TDemandeurEssai demandeur(tout);
+  modale.Geste = [&] {
+    assistant.RbEleveClick(TChoixQui::Classes);
+    for (int page = 0; page < 3; ++page) {
+      VerifierVuePartout([&] { return std::make_unique<VuePrintWizard>(assistant, nullptr); });
+      assistant.btnSuivantClick();
+    }
+  };
+  assistant.RecevoirMessage({TCodeMessage::ImprimerAssistant,
+                             TDemandeAssistant::De(demandeur, {{u"Badge"_s, true}, {u"Facture"_s, true}})});
+}
