@@ -1,8 +1,17 @@
 #include "report/noeud_rapport.h"
 
+namespace {
+
+/// Most names are told apart by their length.
+bool MemeNom(QStringView a, QStringView b) {
+  return a.size() == b.size() && a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
 void TValeurs::Ecrire(QStringView nom, const QString& valeur) {
   for (TValeur& paire : valeurs_)
-    if (nom.compare(paire.first, Qt::CaseInsensitive) == 0) {
+    if (MemeNom(nom, paire.first)) {
       paire.second = valeur;
       return;
     }
@@ -11,7 +20,7 @@ void TValeurs::Ecrire(QStringView nom, const QString& valeur) {
 
 const QString* TValeurs::Trouver(QStringView nom) const {
   for (const TValeur& paire : valeurs_)
-    if (nom.compare(paire.first, Qt::CaseInsensitive) == 0) return &paire.second;
+    if (MemeNom(nom, paire.first)) return &paire.second;
   return nullptr;
 }
 

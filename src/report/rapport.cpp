@@ -9,7 +9,10 @@ namespace {
 constexpr QStringView kNomsDuMoteur[] = {u"DATE",    u"TIME",     u"LINE#", u"LINETHROUGH#",
                                          u"COLUMN#", u"CURRENT#", u"PAGE#", u"TOTALPAGES"};
 
-bool MemeNom(QStringView a, QStringView b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
+/// Most names are told apart by their length.
+bool MemeNom(QStringView a, QStringView b) {
+  return a.size() == b.size() && a.compare(b, Qt::CaseInsensitive) == 0;
+}
 
 /// Names that the engine or the script of the template takes.
 bool EstDuMoteur(QStringView nom) {
