@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QTimer>
 #include <QToolTip>
 #include <cmath>
 
@@ -122,13 +123,14 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
   connect(header(), &QHeaderView::sectionResized, this, [this](int colonne, int, int largeur) {
     if (enCours_ || colonne == ColonneSouple()) return;
     grille_.ChangerLargeur(colonne, static_cast<int>(std::lround(largeur * 96.0 / Theme::Px(96))));
-    Retenir();
+    RetenirBientot();
   });
-  connect(header(), &QHeaderView::sectionMoved, this, &VueGrille::Retenir);
-  connect(header(), &QHeaderView::sortIndicatorChanged, this, &VueGrille::Retenir);
+  connect(header(), &QHeaderView::sectionMoved, this, &VueGrille::RetenirBientot);
+  connect(header(), &QHeaderView::sortIndicatorChanged, this, &VueGrille::RetenirBientot);
 }
 
 VueGrille::~VueGrille() {
+  if (aRetenir_) Retenir();
   grille_.SurChangement = changementAvant_;
   grille_.SurChoix = choixAvant_;
 }
@@ -176,10 +178,16 @@ void VueGrille::ElargirMontants() {
       header()->resizeSection(colonne, std::max(header()->sectionSize(colonne), sizeHintForColumn(colonne)));
 }
 
+/// Once the hand has let go of the column, not at each pixel.
+void VueGrille::RetenirBientot() {
+  if (enCours_ || ecran_.isEmpty() || std::exchange(aRetenir_, true)) return;
+  QTimer::singleShot(500, this, &VueGrille::Retenir);
+}
+
 /// Under the user: columns in their order with their widths at 10 points, and what they are put in
 /// order by. By title, so that a list that has changed starts afresh.
 void VueGrille::Retenir() {
-  if (enCours_ || ecran_.isEmpty()) return;
+  if (!std::exchange(aRetenir_, false)) return;
   QJsonArray colonnes;
   for (int rang = 0; rang < header()->count(); ++rang) {
     const TColonneGrille& colonne = grille_.Colonne(header()->logicalIndex(rang));

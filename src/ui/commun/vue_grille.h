@@ -72,6 +72,7 @@ class VueGrille : public QTreeView {
   void PoserColonnes();
   void ElargirPlusTard();
   void ElargirMontants();
+  void RetenirBientot();
   void Retenir();
   void Rappeler();
   QModelIndex IndexDe(int ligne) const;
@@ -84,8 +85,9 @@ class VueGrille : public QTreeView {
   FiltreGrille* filtre_;
   ChampFiltre* champ_ = nullptr;
   int souple_ = -1;
-  bool enCours_ = true;   ///< the view itself moves the current row, the folds or the widths
-  bool elargir_ = false;  ///< the widening is asked for
+  bool enCours_ = true;    ///< the view itself moves the current row, the folds or the widths
+  bool aRetenir_ = false;  ///< widths or order have changed since they were kept
+  bool elargir_ = false;   ///< the widening is asked for
   std::function<void(TGrille::TChangement)> changementAvant_;
   std::function<void()> choixAvant_;
 };
