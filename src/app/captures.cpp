@@ -1,13 +1,24 @@
 // Pictures of the screens on a sample school, for the documentation and for whoever works on them.
+#include <QAbstractButton>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFont>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <deque>
 
 #include "core/exceptions.h"
+#include "screens/attendance/frm_presences.h"
+#include "screens/pupils/frm_import.h"
+#include "ui/commun/dialogue_base.h"
 #include "ui/commun/theme.h"
+#include "ui/documents/vue_apercu.h"
 #include "ui/principal/application.h"
 #include "ui/principal/programme.h"
 
@@ -19,32 +30,163 @@ class THorlogeFixe : public THorloge {
   TDateTime Maintenant() const override { return EncodeDate(2016, 11, 22) + EncodeTime(9, 30, 0); }
 };
 
-class Photographe {
- public:
-  Photographe(Programme& programme, QString dossier) : programme_(programme), dossier_(std::move(dossier)) {}
+/// What the pictures are taken of.
+struct TSujet {
+  QString Registre;   ///< register file, first layout
+  QString Presences;  ///< scanner file
+  QString Dossier;    ///< where the pictures go
+};
 
-  /// The window as it stands, once it has dealt with what is pending.
+void Attendre(int ms) {
+  QEventLoop boucle;
+  QTimer::singleShot(ms, &boucle, &QEventLoop::quit);
+  boucle.exec();
+}
+
+QAbstractButton* Bouton(const QWidget& fenetre, const QString& texte) {
+  for (QAbstractButton* bouton : fenetre.findChildren<QAbstractButton*>())
+    if (QString(bouton->text()).remove(u'&') == texte) return bouton;
+  throw Exception(u"« " % texte % u" » manque.");
+}
+
+/// Goes through the screens and takes a picture of each.
+class Photographe : public QObject {
+ public:
+  Photographe(Programme& programme, TSujet sujet) : programme_(programme), sujet_(std::move(sujet)) {
+    minuterie_.setSingleShot(true);
+    connect(&minuterie_, &QTimer::timeout, this, &Photographe::Repondre);
+  }
+
+  void Tout(const QString& suffixe) {
+    suffixe_ = suffixe;
+    Signaletique();
+    Assistant();
+    Importation();
+    Presences();
+  }
+
+ private:
+  /// What is done in a dialog once it is there; true when its turn is over.
+  using TPas = std::function<bool(QWidget&)>;
+
   void Prendre(QWidget& fenetre, const QString& nom) {
-    for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
-    const QString chemin = dossier_ % u'/' % nom % u".png";
+    const QString chemin = sujet_.Dossier % u'/' % nom % suffixe_ % u".png";
     if (!fenetre.grab().save(chemin)) throw Exception(u"« " % chemin % u" » ne peut pas être écrit.");
     QTextStream(stdout) << chemin << '\n';
   }
 
-  void Ecrans(const QString& suffixe) {
-    TFrmMain& main = programme_.Main;
-    main.edSearchChange(QStringLiteral("L"));
-    main.Executer(TGestionnaire::AdvGlowButton2Click);
-    Prendre(programme_.Fenetre, u"signaletique" % suffixe);
-    main.Executer(TGestionnaire::AdvGlowButton8Click);
-    Prendre(programme_.Fenetre, u"importation" % suffixe);
-    main.Executer(TGestionnaire::AdvGlowButton1Click);
-    Prendre(programme_.Fenetre, u"presences" % suffixe);
+  void Suivre(std::deque<TPas> pas) {
+    pas_ = std::move(pas);
+    minuterie_.start(50);
   }
 
- private:
+  void Repondre() {
+    minuterie_.start(100);
+    QWidget* fenetre = QApplication::activeModalWidget();
+    if (fenetre == nullptr || !fenetre->isVisible()) return;
+    if (pas_.empty()) {  // a message is told, a second preview passed over
+      if (const auto* message = qobject_cast<QMessageBox*>(fenetre))
+        QTextStream(stderr) << message->text() << '\n';
+      fenetre->close();
+      return;
+    }
+    const TPas pas = pas_.front();
+    pas_.pop_front();
+    if (!pas(*fenetre)) pas_.push_front(pas);
+  }
+
+  void Signaletique() {
+    TFrmMain& main = programme_.Main;
+    main.edSearchChange({});
+    main.edSearchChange(QStringLiteral("LAMB"));
+    main.Executer(TGestionnaire::AdvGlowButton2Click);
+    Attendre(50);
+    Prendre(programme_.Fenetre, QStringLiteral("signaletique"));
+  }
+
+  void Assistant() {
+    const auto suivant = [](QWidget& fenetre) { dynamic_cast<DialogueBase&>(fenetre).Principal()->click(); };
+    TFrmPrintWizard& assistant = programme_.Assistant;
+    Suivre({
+        [=, this](QWidget& fenetre) {
+          Bouton(fenetre, QStringLiteral("Facture"))->click();
+          Prendre(fenetre, QStringLiteral("assistant-rapport"));
+          suivant(fenetre);
+          return true;
+        },
+        [=, this, &assistant](QWidget& fenetre) {
+          Bouton(fenetre, QStringLiteral("Les classes suivantes:"))->click();
+          for (int i = 0; i < assistant.LstClasse.NombreLignes(); ++i)
+            assistant.LstClasse.Cocher(i, assistant.LstClasse.Texte(i, 0).startsWith(u"P3"));
+          Attendre(50);
+          Prendre(fenetre, QStringLiteral("assistant-eleves"));
+          suivant(fenetre);
+          return true;
+        },
+        [=, this](QWidget& fenetre) {
+          Prendre(fenetre, QStringLiteral("assistant-periode"));
+          suivant(fenetre);
+          return true;
+        },
+        [=, this](QWidget& fenetre) {
+          if (dynamic_cast<VueApercu*>(&fenetre) == nullptr) {  // the date of the payment
+            suivant(fenetre);
+            return false;
+          }
+          fenetre.resize(programme_.Fenetre.size());
+          Attendre(2000);
+          Prendre(fenetre, QStringLiteral("apercu-facture"));
+          fenetre.close();
+          return true;
+        },
+    });
+    programme_.Main.OutilClick(TOutil::btnPrint);
+  }
+
+  /// Chooses the file and accepts.
+  TPas Fichier(const QString& chemin) {
+    return [chemin](QWidget& fenetre) {
+      auto& dialogue = dynamic_cast<QFileDialog&>(fenetre);
+      dialogue.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(chemin);
+      QMetaObject::invokeMethod(&dialogue, "accept");
+      return true;
+    };
+  }
+
+  void Importation() {
+    programme_.Main.Executer(TGestionnaire::AdvGlowButton8Click);
+    auto* form = dynamic_cast<TFrmImport*>(programme_.Main.Panneau.Courante());
+    if (form == nullptr) throw Exception(QStringLiteral("L'importation ne s'ouvre pas."));
+    Suivre({Fichier(QFileInfo(sujet_.Registre).absoluteFilePath())});
+    form->btnEtape1Click();
+    const auto montrer = programme_.Dialogues.SurProgression;
+    bool pris = false;
+    programme_.Dialogues.SurProgression = [&](int fait, int total, const QString& nom) {
+      montrer(fait, total, nom);
+      if (pris || total == 0 || 2 * fait < total) return;
+      pris = true;
+      QCoreApplication::processEvents();
+      Prendre(programme_.Fenetre, QStringLiteral("importation-registre"));
+    };
+    form->btnEtape2Click();
+    programme_.Dialogues.SurProgression = montrer;
+  }
+
+  void Presences() {
+    programme_.Main.Executer(TGestionnaire::AdvGlowButton1Click);
+    auto* form = dynamic_cast<TfrmPresences*>(programme_.Main.Panneau.Courante());
+    if (form == nullptr) throw Exception(QStringLiteral("Les présences ne s'ouvrent pas."));
+    Suivre({Fichier(QFileInfo(sujet_.Presences).absoluteFilePath())});
+    form->Importerunfichierdeprsence1Click();
+    Attendre(50);
+    Prendre(programme_.Fenetre, QStringLiteral("presences-scanner"));
+  }
+
   Programme& programme_;
-  QString dossier_;
+  TSujet sujet_;
+  QString suffixe_;
+  std::deque<TPas> pas_;
+  QTimer minuterie_;
 };
 
 /// A copy of the school that the pictures may change, known as this workstation's data.
@@ -57,34 +199,33 @@ void PreparerPoste(const QTemporaryDir& poste, const QString& base) {
   reglages.Ecrire(TRacine::Utilisateur, QStringLiteral("Serveur"), copie);
 }
 
-int Executer(Application& application, const QString& base, const QString& dossier) {
+void Executer(Application& application, const QString& base, const TSujet& sujet) {
   const QTemporaryDir poste;
   PreparerPoste(poste, base);
-  if (!QDir().mkpath(dossier)) throw Exception(u"« " % dossier % u" » ne peut pas être créé.");
+  if (!QDir().mkpath(sujet.Dossier)) throw Exception(u"« " % sujet.Dossier % u" » ne peut pas être créé.");
   const THorlogeFixe horloge;
   Programme programme(horloge);
   application.Dialogues = &programme.Dialogues;
   programme.Fenetre.Demarrer();
-  QCoreApplication::processEvents();
-  Photographe photographe(programme, dossier);
+  Attendre(50);
+  Photographe photographe(programme, sujet);
   const struct {
     Theme::TMode Mode;
     QSize Taille;
     QString Suffixe;
   } vues[] = {
-      {Theme::TMode::Clair, {1366, 768}, {}},
-      {Theme::TMode::Sombre, {1366, 768}, QStringLiteral("-sombre")},
-      {Theme::TMode::Clair, {1920, 1080}, QStringLiteral("-1920")},
-      {Theme::TMode::Sombre, {1920, 1080}, QStringLiteral("-1920-sombre")},
+      {Theme::TMode::Clair, {1366, 768}, QStringLiteral("-1366x768")},
+      {Theme::TMode::Sombre, {1366, 768}, QStringLiteral("-sombre-1366x768")},
+      {Theme::TMode::Clair, {1920, 1080}, QStringLiteral("-1920x1080")},
+      {Theme::TMode::Sombre, {1920, 1080}, QStringLiteral("-sombre-1920x1080")},
   };
   for (const auto& [mode, taille, suffixe] : vues) {
     Theme::Appliquer(application, mode);
     programme.Fenetre.resize(taille);
-    photographe.Ecrans(suffixe);
+    photographe.Tout(suffixe);
   }
   programme.Fenetre.close();
   application.Dialogues = nullptr;
-  return 0;
 }
 
 }  // namespace
@@ -95,16 +236,15 @@ int main(int argc, char** argv) {
   QApplication::setFont(QFont(QStringList{QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")}, 10));
   application.Preparer();
   QCommandLineParser options;
-  options.addPositionalArgument(QStringLiteral("base"), {});
-  options.addPositionalArgument(QStringLiteral("dossier"), {});
   options.process(application);
   const QStringList arguments = options.positionalArguments();
-  if (arguments.size() != 2) {
-    QTextStream(stderr) << "Usage : calpenne-captures BASE DOSSIER\n";
+  if (arguments.size() != 4) {
+    QTextStream(stderr) << "Usage : calpenne-captures BASE REGISTRE PRESENCES DOSSIER\n";
     return 2;
   }
   try {
-    return Executer(application, arguments[0], arguments[1]);
+    Executer(application, arguments[0], {arguments[1], arguments[2], arguments[3]});
+    return 0;
   } catch (const Exception& e) {
     QTextStream(stderr) << e.Message << '\n';
     return 1;
