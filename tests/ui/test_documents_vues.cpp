@@ -166,6 +166,30 @@ TEST_F(DocumentsVues, AnInvoiceByClassAndMonthFromTheKeyboard) {
   EXPECT_EQ(demandeur.Choix->Classes[0]->Libelle(), u"P1 A"_s);
 }
 
+TEST_F(DocumentsVues, FromTheRecordToThePreviewWithADateOfPayment) {
+  Globals.Parametres->SetParametre(32, u"1"_s);
+  Globals.Parametres->SetParametre(11, u"BE68 5390 0754 7034"_s);
+  programme.Main().edSearchChange(u"Bastin"_s);
+  programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
+  programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
+    Choisir(fenetre, u"Facture"_s);
+    Cliquer(fenetre, u"Suivant >"_s);
+    EXPECT_TRUE(TextesDe(fenetre).contains(u"Bastin Élise"_s));
+    Cliquer(fenetre, u"Suivant >"_s);
+    Cliquer(fenetre, u"Imprimer"_s);
+  });
+  programme.Dialogues.Saisit(u"Introduire la date de paiement"_s, u"24/12/2016"_s);
+  QString texte;
+  programme.Dialogues.Fait(u"Aperçu"_s, [&](QWidget& fenetre) {
+    QTRY_VERIFY(TextesDe(fenetre).contains(u"1 page prête\n"_s));
+    texte = dynamic_cast<VueApercu&>(fenetre).Form().Document().TexteDePage(0);
+    Cliquer(fenetre, u"Fermer"_s);
+  });
+  programme.Main().OutilClick(TOutil::btnPrint);
+  EXPECT_TRUE(texte.contains(u"Bastin"_s) && texte.contains(u"185,00"_s)) << texte.toStdString();
+  EXPECT_TRUE(texte.contains(u"24 décembre 2016"_s)) << texte.toStdString();
+}
+
 TEST_F(DocumentsVues, WizardWithoutPeriodAndItsRefusals) {
   TDemandeurEssai demandeur(programme.Tout());
   programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {

@@ -22,6 +22,7 @@ class VueApercu : public QDialog {
   ~VueApercu() override;
 
   PagesApercu* Pages() const { return pages_; }
+  const TFrmApercu& Form() const { return form_; }
 
  protected:
   void resizeEvent(QResizeEvent* evenement) override;
