@@ -345,7 +345,7 @@ TEST_F(FrmMain, YearsGoOnWithTheWorkingYear) {
 TEST_F(FrmMain, LongWorkKeepsTheWindowShut) {
   Ecole();
   Main.Montrer();
-  Main.Travail(3, 10);
+  Main.Travail(10);
   EXPECT_FALSE(Main.Fermer());
   EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Alerte);
   Main.Executer(TGestionnaire::AdvGlowButton2Click);
@@ -353,7 +353,7 @@ TEST_F(FrmMain, LongWorkKeepsTheWindowShut) {
   Main.Ajouterunprofesseur1Click();
   EXPECT_EQ(Main.Panneau.Courante(), nullptr);
   EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2016);
-  Main.Travail(0, 0);
+  Main.Travail(0);
   EXPECT_TRUE(Main.Fermer());
   EXPECT_EQ(Globals.Eleves, nullptr);
 }

@@ -24,14 +24,8 @@ std::vector<TCommandePrincipale> CommandesPrincipales() {
   using enum TGestionnaire;
   using enum TPage;
   return {
-      {AdvGlowButton2Click,
-       PgEleve,
-       T(u"É&lèves"),
-       T(u"system-users"),
-       6,
-       Masque(TOutil::btnPrint, TOutil::btnMail),
-       true,
-       Ecran<TFrmSignaletique>(TRemplacement::Cache)},
+      {AdvGlowButton2Click, PgEleve, T(u"É&lèves"), T(u"system-users"), 6,
+       Masque(TOutil::btnPrint, TOutil::btnMail), true, Ecran<TFrmSignaletique>(TRemplacement::Cache)},
       {AdvGlowButton7Click, PgEleve, T(u"&Statistiques"), T(u"office-chart-bar"), 6, kImprime, false, {}},
       {AdvGlowButton1Click,
        PgEleve,

@@ -7,6 +7,9 @@
 
 namespace {
 
+const QString kTravailEnCours = QStringLiteral("Travail en cours");
+const QString kFermetureRefusee =
+    QStringLiteral("Un travail est en cours : la fenêtre pourra être fermée quand il sera terminé.");
 constexpr int kPremiereAnnee = 2015;
 constexpr int kDerniereAnneeFixe = 2018;
 
@@ -79,8 +82,7 @@ void TFrmMain::FormClose() {
 
 bool TFrmMain::FormCloseQuery() {
   if (!enTravail_) return true;
-  Etat(TNiveauEtat::Alerte,
-       QStringLiteral("Un travail est en cours : la fenêtre pourra être fermée quand il sera terminé."));
+  Etat(TNiveauEtat::Alerte, kFermetureRefusee);
   return false;
 }
 
@@ -234,14 +236,15 @@ QString TFrmMain::Serveur() const {
   return fichier ? QFileInfo(base.FichierLocal()).fileName() : base.ServerName.trimmed();
 }
 
-void TFrmMain::Travail(int fait, int total) {
+// The numbers stand on the sheet of the progress; the status bar, which is read aloud, says it once.
+void TFrmMain::Travail(int total) {
   const bool enTravail = total > 0;
-  if (enTravail)
-    Etat(TNiveauEtat::Neutre, QStringLiteral("Travail en cours : %1 sur %2").arg(fait).arg(total));
-  else if (enTravail_)
-    Etat(TNiveauEtat::Neutre, {});
   if (enTravail == enTravail_) return;
   enTravail_ = enTravail;
+  if (enTravail)
+    Etat(TNiveauEtat::Neutre, kTravailEnCours);
+  else if (etat_.Texte == kTravailEnCours || etat_.Texte == kFermetureRefusee)
+    Etat(TNiveauEtat::Neutre, {});
   Annoncer();
 }
 

@@ -88,7 +88,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   /// "" without a connection.
   QString Serveur() const;
   /// A long work goes on; `total` 0 ends it. Commands, tree and closing are off meanwhile.
-  void Travail(int fait, int total);
+  void Travail(int total);
   bool EnTravail() const { return enTravail_; }
 
   // What screens send.

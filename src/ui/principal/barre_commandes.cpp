@@ -34,9 +34,9 @@ class BoutonCommande : public QToolButton {
     setIconSize({Theme::Px(32), Theme::Px(32)});
   }
   QSize sizeHint() const override {
-    return {qMax(Theme::Px(93), LargeurTexte() + Theme::Px(24)), Theme::Px(64)};
+    return {qMax(Theme::Px(93), LargeurTexte() + Theme::Px(36)), Theme::Px(64)};
   }
-  QSize minimumSizeHint() const override { return {LargeurTexte() + Theme::Px(8), Theme::Px(64)}; }
+  QSize minimumSizeHint() const override { return {LargeurTexte() + Theme::Px(32), Theme::Px(64)}; }
 
  private:
   int LargeurTexte() const { return QFontMetrics(Theme::Gras()).horizontalAdvance(text()); }

@@ -194,7 +194,7 @@ void FenetrePrincipale::Progresser(int fait, int total, const QString& nom) {
   }
   if (total > 0 && feuilleEnCours_) feuilleEnCours_->Avancer(fait, nom);
   if (total <= 0 && feuilleEnCours_ && feuilleOuverte_) feuilleEnCours_->Terminer();
-  form_.Travail(fait, total);
+  form_.Travail(total);
 }
 
 // The control is told, and keeps the focus: its change is saved and the hand stays where it is. In an
