@@ -97,7 +97,7 @@ QString Lister(const TDocumentPrepare& document) {
 TEST(MiseEnPage, ChaqueCasDonneSesPages) {
   const QDir dossier(QStringLiteral(CAS));
   const QStringList cas = dossier.entryList({u"*.xml"_s});
-  ASSERT_GE(cas.size(), 9);
+  ASSERT_GE(cas.size(), 19);
   for (const QString& fichier : cas) {
     const QString nom = dossier.filePath(fichier.chopped(4));
     const TModele modele = LireModele(Lire(nom + u".xml").toUtf8(), fichier);
@@ -108,6 +108,8 @@ TEST(MiseEnPage, ChaqueCasDonneSesPages) {
     }
     const QString pages = Lister(miseEnPage.Document());
     EXPECT_EQ(pages.toStdString(), Lire(nom + u".attendu").toStdString()) << fichier.toStdString();
-    EXPECT_EQ(Lister(MettreEnPage(rapport, modele, impression)), pages) << fichier.toStdString();
+    // A report that is built again, as for another paper, is the same to the last glyph.
+    EXPECT_EQ(MettreEnPage(rapport, modele, impression).EnOctets(), miseEnPage.Document().EnOctets())
+        << fichier.toStdString();
   }
 }
