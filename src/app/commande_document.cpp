@@ -1,9 +1,8 @@
-#include <QSaveFile>
-
 #include "app/commandes.h"
 #include "core/calendrier_scolaire.h"
 #include "core/conversions.h"
 #include "core/exceptions.h"
+#include "core/fichiers.h"
 #include "documents/catalogue.h"
 #include "documents/modeles.h"
 #include "report/layout/mise_en_page.h"
@@ -61,13 +60,6 @@ void Choisir(const TSession& session, TChoixDocument& choix) {
     for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
   if (choix.Eleves.empty() && choix.Classes.empty())
     throw Exception(QStringLiteral("Aucun élève n'a été sélectionné !"));
-}
-
-void Ecrire(const QString& chemin, const QByteArray& octets) {
-  QSaveFile fichier(chemin);
-  if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size() || !fichier.commit())
-    throw Exception(
-        QStringLiteral("Le fichier « %1 » ne peut pas être écrit : %2").arg(chemin, fichier.errorString()));
 }
 
 QString TexteDefaut(const QString& modele, const TDefaut& defaut) {
@@ -128,7 +120,7 @@ int CommandeDocument(TSession& session) {
 
   const TResultat resultat = FaireDocument(ContexteDesGlobals(), choix);
   for (const QString& message : resultat.Messages) session.Dialogues.Message(message);
-  if (session.Options.isSet(Nom("json"))) Ecrire(session.Option(Nom("json")), resultat.EnJson(titre));
+  if (session.Options.isSet(Nom("json"))) EcrireFichier(session.Option(Nom("json")), resultat.EnJson(titre));
   const bool imprime = !session.Options.isSet(Nom("pdf")) || MettreEnPdf(session, titre, choix, resultat);
   return resultat.Echec || !imprime ? 1 : 0;
 }

@@ -1,11 +1,11 @@
 #include <QFile>
-#include <QSaveFile>
 #include <bit>
 #include <cmath>
 #include <cstring>
 #include <unordered_map>
 
 #include "core/exceptions.h"
+#include "core/fichiers.h"
 #include "report/compression.h"
 #include "report/layout/document_prepare.h"
 
@@ -341,13 +341,7 @@ TDocumentPrepare TDocumentPrepare::DepuisOctets(const QByteArray& octets) {
   return TReconstruction(*corps).Document();
 }
 
-void TDocumentPrepare::Enregistrer(const QString& chemin) const {
-  const QByteArray octets = EnOctets();
-  QSaveFile fichier(chemin);
-  if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size() || !fichier.commit())
-    throw Exception(
-        QStringLiteral("Impossible d'écrire le fichier %1 : %2").arg(chemin, fichier.errorString()));
-}
+void TDocumentPrepare::Enregistrer(const QString& chemin) const { EcrireFichier(chemin, EnOctets()); }
 
 TDocumentPrepare TDocumentPrepare::Ouvrir(const QString& chemin) {
   QFile fichier(chemin);

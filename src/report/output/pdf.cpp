@@ -1,8 +1,7 @@
 #include "report/output/pdf.h"
 
-#include <QSaveFile>
-
 #include "core/exceptions.h"
+#include "core/fichiers.h"
 #include "report/output/pdf_pages.h"
 
 namespace {
@@ -134,10 +133,5 @@ QByteArray PdfEnOctets(const std::vector<const TDocumentPrepare*>& documents, co
 void EcrirePdf(const std::vector<const TDocumentPrepare*>& documents, const QString& titre,
                const QString& auteur, const QString& chemin) {
   const std::string octets = Pdf(documents, titre, auteur);
-  const auto taille = static_cast<qint64>(octets.size());
-  QSaveFile fichier(chemin);
-  if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets.data(), taille) != taille ||
-      !fichier.commit())
-    throw Exception(
-        QStringLiteral("Impossible d'écrire le fichier %1 : %2").arg(chemin, fichier.errorString()));
+  EcrireFichier(chemin, QByteArrayView(octets.data(), static_cast<qsizetype>(octets.size())));
 }
