@@ -8,8 +8,10 @@
 
 namespace {
 
-bool Ecrire(QFileDevice& fichier, QIODevice::OpenMode mode, QByteArrayView octets) {
-  return fichier.open(mode) && fichier.write(octets.data(), octets.size()) == octets.size();
+// Flushes by itself: QSaveFile::commit lets a failure of its own flush pass and keeps half a file.
+bool Ecrire(QFileDevice& fichier, QByteArrayView octets) {
+  return fichier.open(QIODevice::WriteOnly) && fichier.write(octets.data(), octets.size()) == octets.size() &&
+         fichier.flush();
 }
 
 [[noreturn]] void Refuser(const QString& chemin, const QFileDevice& fichier) {
@@ -23,9 +25,9 @@ void EcrireFichier(const QString& chemin, QByteArrayView octets) {
   const QFileInfo info(chemin);
   if (info.exists() && !info.isFile() && !info.isDir()) {
     QFile fichier(chemin);
-    if (!Ecrire(fichier, QIODevice::WriteOnly | QIODevice::Unbuffered, octets)) Refuser(chemin, fichier);
+    if (!Ecrire(fichier, octets)) Refuser(chemin, fichier);
     return;
   }
   QSaveFile fichier(chemin);
-  if (!Ecrire(fichier, QIODevice::WriteOnly, octets) || !fichier.commit()) Refuser(chemin, fichier);
+  if (!Ecrire(fichier, octets) || !fichier.commit()) Refuser(chemin, fichier);
 }

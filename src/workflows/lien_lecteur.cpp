@@ -39,7 +39,8 @@ void CopierDepuisLecteur(ILienLecteur& lien, const QString& distant, const QStri
   bool ecrit = copie.open(QIODevice::WriteOnly);
   for (QByteArray bloc = source.LireBloc(); ecrit && !bloc.isEmpty(); bloc = source.LireBloc())
     ecrit = copie.write(bloc) == bloc.size();
-  if (!ecrit || !copie.commit())
+  // A failure of the flush inside commit would pass for success.
+  if (!ecrit || !copie.flush() || !copie.commit())
     throw Exception(
         QStringLiteral("Le fichier « %1 » ne peut pas être écrit : %2").arg(local, copie.errorString()));
 }
