@@ -107,6 +107,7 @@ void RemplirParametres(TDataModule1& base) {
       {5, "082 61 00 00"},
       {10, "Communication à recopier : [ComStructParFacture]"},
       {11, "BE68 5390 0754 7034"},
+      {27, "2016"},
       {102, "3,50"}};
   for (const auto& [id, valeur] : parametres)
     Executer(base, QStringLiteral("UPDATE OR INSERT INTO PARAMETRE (PARAMETRE_ID, VALEUR) VALUES (%1, '%2')")

@@ -1,19 +1,28 @@
-#include <QCoreApplication>
 #include <QFile>
 #include <cstdio>
 
 #include "bench/sujets.h"
 #include "core/exceptions.h"
+#include "ui/principal/application.h"
 
+// Everything, or the subjects that are named.
 int main(int argc, char** argv) {
-  QCoreApplication application(argc, argv);
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  Application application(argc, argv);
+  application.Preparer();
   const QTemporaryDir dossier;
   qputenv("FIREBIRD_LOCK", QFile::encodeName(dossier.path()));
   try {
     TEcole ecole(dossier, 500, 250000);
-    MesurerChargement(ecole);
-    MesurerFactures(ecole, dossier);  // before the larger school takes memory
-    MesurerTarification(ecole, dossier);
+    const auto voulu = [&](const QString& sujet) {
+      const QStringList noms = QCoreApplication::arguments().mid(1);
+      return noms.isEmpty() || noms.contains(sujet);
+    };
+    if (voulu(QStringLiteral("chargement"))) MesurerChargement(ecole);
+    if (voulu(QStringLiteral("factures")))
+      MesurerFactures(ecole, dossier);  // before the larger school takes memory
+    if (voulu(QStringLiteral("ecran"))) MesurerEcran(ecole, dossier);
+    if (voulu(QStringLiteral("tarification"))) MesurerTarification(ecole, dossier);
   } catch (const Exception& e) {
     std::fprintf(stderr, "%s\n", e.what());
     return 1;

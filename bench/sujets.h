@@ -10,3 +10,5 @@ void MesurerChargement(TEcole& ecole);
 void MesurerTarification(TEcole& ecole, const QTemporaryDir& dossier);
 /// The peak of memory is that of the process so far.
 void MesurerFactures(TEcole& ecole, const QTemporaryDir& dossier);
+/// The school is disconnected and connected again meanwhile.
+void MesurerEcran(TEcole& ecole, const QTemporaryDir& dossier);
