@@ -133,6 +133,7 @@ class Photographe : public QObject {
             suivant(fenetre);
             return false;
           }
+          fenetre.setWindowState(Qt::WindowNoState);  // it opens as large as the screen
           fenetre.resize(programme_.Fenetre.size());
           Attendre(2000);
           Prendre(fenetre, QStringLiteral("apercu-facture"));
