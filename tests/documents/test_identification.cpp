@@ -144,3 +144,23 @@ TEST_F(TIdentificationEssai, UnNomLong) {
     EXPECT_TRUE(tout.contains(u"TER"_s) && tout.count(u"Antoinette"_s) == 2) << tout.toStdString();
   }
 }
+
+TEST_F(TIdentificationEssai, UnNomTresLongResteAuDessusDeSonCode) {
+  const int id =
+      Carte(u"VAN DEN BROECK-DE LA TORRE Y SANTIAGO DE COMPOSTELA VON UND ZU HOHENLOHE"_s,
+            u"Marie-Antoinette Joséphine Clémentine Bernadette Eulalie Philippine"_s, u"P1"_s, u"1"_s)
+          .Id;
+  for (const QStringView titre : {QStringView(kListe), QStringView(kListeLarge), QStringView(kBadge)}) {
+    const TDocumentPrepare document = Pages(Faire(titre, {id}));
+    EXPECT_TRUE(document.Defauts.empty()) << document.Defauts[0].Message.toStdString();
+    float basDuNom = 0, hautDuCode = 0;
+    for (const TElement& element : document.Pages.at(0).Elements) {
+      if (const auto* texte = std::get_if<TElementTexte>(&element))
+        if (texte->Forme->Texte.contains(u"Philippine"_s)) basDuNom = static_cast<float>(texte->Base);
+      if (const auto* barres = std::get_if<TElementBarres>(&element))
+        hautDuCode = static_cast<float>(barres->Barres[0].top());
+    }
+    EXPECT_GT(basDuNom, 0) << titre.toUtf8().toStdString();
+    EXPECT_LT(basDuNom + 2, hautDuCode) << titre.toUtf8().toStdString();
+  }
+}
