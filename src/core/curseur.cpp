@@ -1,6 +1,7 @@
 #include "core/curseur.h"
 
 #include <cstring>
+#include <optional>
 
 #include "core/data_module.h"
 #include "core/exceptions.h"
@@ -9,11 +10,20 @@
 using Firebird::TChamp;
 
 struct TCurseur::TInterne {
-  TInterne(isc_db_handle attache, const QByteArray& sql)
-      : base(attache), transaction(attache, false), instruction(attache, transaction, sql) {}
+  TInterne(isc_db_handle attache, const QByteArray& texte)
+      : base(attache),
+        propre(std::in_place, attache, false),
+        transaction(*propre),
+        instruction(std::make_unique<Firebird::TInstruction>(attache, transaction, texte)) {}
+  TInterne(isc_db_handle attache, std::shared_ptr<Firebird::TLectures> communes, const QByteArray& texte)
+      : base(attache),
+        lectures(std::move(communes)),
+        sql(texte),
+        transaction(lectures->Transaction()),
+        instruction(lectures->Prendre(texte)) {}
 
   const TChamp& Chercher(const char* nom) const {
-    for (const TChamp& champ : instruction.Champs())
+    for (const TChamp& champ : instruction->Champs())
       if (champ.nom == nom) return champ;
     throw Exception(QStringLiteral("La colonne %1 manque dans la base de données : lancez sa mise à jour.")
                         .arg(QString::fromLatin1(nom)));
@@ -29,8 +39,11 @@ struct TCurseur::TInterne {
   }
 
   isc_db_handle base;
-  Firebird::TTransaction transaction;
-  Firebird::TInstruction instruction;
+  std::optional<Firebird::TTransaction> propre;
+  std::shared_ptr<Firebird::TLectures> lectures;  // to give the statement back to
+  QByteArray sql;
+  Firebird::TTransaction& transaction;
+  std::unique_ptr<Firebird::TInstruction> instruction;
   // A load asks the same literals in the same order for each row: the position found for the first
   // row serves all the others.
   std::vector<std::pair<const char*, const TChamp*>> demandes;
@@ -39,14 +52,26 @@ struct TCurseur::TInterne {
 
 TCurseur::TCurseur(TDataModule1& base, const QString& sql)
     : d_(std::make_unique<TInterne>(Firebird::Attache(base.Attache()), sql.toUtf8())) {
-  d_->instruction.Executer();
+  d_->instruction->Executer();
 }
 
-TCurseur::~TCurseur() = default;
+TCurseur::TCurseur(TDataModule1& base, const QString& sql, const std::vector<int>& cles) {
+  try {
+    d_ = std::make_unique<TInterne>(Firebird::Attache(base.Attache()), base.Lectures(), sql.toUtf8());
+    d_->instruction->Executer(cles);
+  } catch (...) {
+    base.OublierLectures();  // what went wrong may be in them
+    throw;
+  }
+}
+
+TCurseur::~TCurseur() {
+  if (d_->lectures) d_->lectures->Rendre(d_->sql, std::move(d_->instruction));
+}
 
 bool TCurseur::Suivant() {
   d_->rangDemande = 0;
-  return d_->instruction.Suivant();
+  return d_->instruction->Suivant();
 }
 
 bool TCurseur::EstNul(const char* colonne) { return d_->Colonne(colonne).nul < 0; }

@@ -16,6 +16,9 @@ class TCurseur {
  public:
   /// Raises Exception with the database's message.
   TCurseur(TDataModule1& base, const QString& sql);
+  /// With a whole number for each "?". The statement stays prepared: for what is read again and again
+  /// by key.
+  TCurseur(TDataModule1& base, const QString& sql, const std::vector<int>& cles);
   ~TCurseur();
   TCurseur(const TCurseur&) = delete;
   TCurseur& operator=(const TCurseur&) = delete;

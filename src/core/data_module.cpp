@@ -10,6 +10,7 @@
 
 #include "core/exceptions.h"
 #include "core/firebird.h"
+#include "core/firebird_interne.h"
 #include "core/query_internal.h"
 #include "core/schema.h"
 #include "core/schema_script.h"
@@ -85,6 +86,7 @@ bool TDataModule1::EstConnecte() const {
 void TDataModule1::Deconnecter() {
   if (!QSqlDatabase::contains(connexion_)) return;
   compteurs_.reset();
+  OublierLectures();
   UniConnection1().close();
   QSqlDatabase::removeDatabase(connexion_);
 }
@@ -194,6 +196,11 @@ void TDataModule1::Ouvrir(const QString& hote, const QString& base) {
   throw Exception(MessageBaseDeDonnees(texte, hote.isEmpty() ? base : QString()));
 }
 
+std::shared_ptr<Firebird::TLectures> TDataModule1::Lectures() {
+  if (!lectures_) lectures_ = std::make_shared<Firebird::TLectures>(Firebird::Attache(Attache()));
+  return lectures_;
+}
+
 int TDataModule1::GetNextId(const QString& counterName) {
   try {
     if (!compteurs_) compteurs_ = std::make_unique<Firebird::TCompteurs>(Attache());
@@ -212,6 +219,7 @@ int TDataModule1::GetNextId(const QString& counterName) {
 int NextId(TDataModule1& base, const QString& counterName) { return base.GetNextId(counterName); }
 
 void TDataModule1::RunScript(const QString& lignes) {
+  OublierLectures();
   for (const QString& instruction : Instructions(lignes)) {
     QSqlQuery requete(UniConnection1());
     requete.exec(instruction);  // most failures say that it has been run before

@@ -9,7 +9,8 @@
 
 namespace Firebird {
 class TCompteurs;
-}
+class TLectures;
+}  // namespace Firebird
 
 /// The one connection of the program, the allocator of row keys and the runner of SQL scripts.
 class TDataModule1 {
@@ -58,6 +59,10 @@ class TDataModule1 {
   QSqlDatabase UniConnection1() const;
   /// The client library's attachment, for what Qt's driver cannot do.
   QVariant Attache() const;
+  /// The prepared selects of the open connection. Raises Exception when there is none.
+  std::shared_ptr<Firebird::TLectures> Lectures();
+  /// After a failure, and before tables change: the next reading prepares its statement again.
+  void OublierLectures() { lectures_.reset(); }
   IDialogues& Dialogues() const { return dialogues_; }
 
   /// A host, "host/port", "local", or the path of a ".fdb" file; as typed.
@@ -71,7 +76,8 @@ class TDataModule1 {
   IDialogues& dialogues_;
   TReglagesPoste& reglages_;
   QString connexion_;
-  std::unique_ptr<Firebird::TCompteurs> compteurs_;  // of the open connection
+  std::unique_ptr<Firebird::TCompteurs> compteurs_;  // of the open connection, as are
+  std::shared_ptr<Firebird::TLectures> lectures_;
 };
 
 /// `GetNextId` on the given module.

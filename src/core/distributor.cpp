@@ -104,7 +104,7 @@ void TDistributor::Charger() {
   }
   DefineQuery();
   try {
-    TCurseur ligne(*base_, SelectSql);
+    TCurseur ligne = Cles.empty() ? TCurseur(*base_, SelectSql) : TCurseur(*base_, SelectSql, Cles);
     while (ligne.Suivant()) {
       LoadItems(ligne);
       if (!Items.empty()) Entre(*Items.back());

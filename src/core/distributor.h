@@ -61,6 +61,7 @@ class TDistributor : public TBaseObject {
   TDataModule1& Base() const { return *base_; }
 
   QString SelectSql;
+  std::vector<int> Cles;  ///< for the "?" of SelectSql; with any, the statement stays prepared
   QString TableName;
   QByteArray KeyField;
   QString CounterName;  ///< "*": the owner chooses the key

@@ -122,6 +122,21 @@ void TInstruction::Executer(const QByteArray* parametre) {
   Verifier(statut);
 }
 
+void TInstruction::Executer(const std::vector<int>& cles) {
+  std::vector<char> tampon = Tampon(static_cast<short>(cles.size()));
+  auto* sqlda = reinterpret_cast<XSQLDA*>(tampon.data());
+  sqlda->sqld = sqlda->sqln;
+  for (std::size_t i = 0; i < cles.size(); ++i) {
+    XSQLVAR& v = sqlda->sqlvar[i];
+    v.sqltype = SQL_LONG;
+    v.sqllen = sizeof(int);
+    v.sqldata = reinterpret_cast<char*>(const_cast<int*>(&cles[i]));
+  }
+  ISC_STATUS_ARRAY statut;
+  isc_dsql_execute(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, sqlda);
+  Verifier(statut);
+}
+
 void TInstruction::ExecuterUneLigne(const QByteArray& parametre) {
   TParametreTexte texte(parametre);
   ISC_STATUS_ARRAY statut;
@@ -139,6 +154,16 @@ bool TInstruction::Suivant() {
   if (isc_dsql_fetch(statut, &poignee_.valeur, kDialecte, Resultat()) == 100) return false;
   Verifier(statut);
   return true;
+}
+
+std::unique_ptr<TInstruction> TLectures::Prendre(const QByteArray& sql) {
+  if (auto libre = libres_.extract(sql)) return std::move(libre.mapped());
+  return std::make_unique<TInstruction>(base_, transaction_, sql);
+}
+
+void TLectures::Rendre(const QByteArray& sql, std::unique_ptr<TInstruction> instruction) {
+  instruction->Fermer();
+  libres_.insert_or_assign(sql, std::move(instruction));
 }
 
 std::int64_t EntierBrut(const TChamp& champ) {

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QVariant>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -52,6 +53,8 @@ class TInstruction {
   void Fermer();
   /// Runs the statement; `parametre`, when given, is its one text parameter.
   void Executer(const QByteArray* parametre = nullptr);
+  /// The same with whole numbers for its parameters, in order.
+  void Executer(const std::vector<int>& cles);
   /// Runs a statement that gives exactly one row.
   void ExecuterUneLigne(const QByteArray& parametre);
   /// The next row into the fields; false at the end.
@@ -72,6 +75,24 @@ class TInstruction {
   TPoignee poignee_;
   std::vector<char> resultat_;
   std::vector<TChamp> champs_;
+};
+
+/// The selects by key of one connection: what the engine has prepared serves each later reading. They
+/// run in one read-only transaction that sees what others have committed and keeps nobody waiting.
+class TLectures {
+ public:
+  /// `base` must stay attached as long as the object.
+  explicit TLectures(isc_db_handle base) : base_(base), transaction_(base, false) {}
+  TTransaction& Transaction() { return transaction_; }
+  /// Prepared, and out of the store until it is given back.
+  std::unique_ptr<TInstruction> Prendre(const QByteArray& sql);
+  /// Once its rows are read.
+  void Rendre(const QByteArray& sql, std::unique_ptr<TInstruction> instruction);
+
+ private:
+  isc_db_handle base_;
+  TTransaction transaction_;
+  std::map<QByteArray, std::unique_ptr<TInstruction>> libres_;
 };
 
 /// Digits of a number field without regard to its scale; 0 when NULL or not a number.

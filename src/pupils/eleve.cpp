@@ -14,9 +14,7 @@ namespace {
 
 constexpr QSize kVignette(95, 110);
 
-QString SelectPhoto(int eleveId) {
-  return u"SELECT * FROM ELEVE_PHOTO WHERE ELEVE_ID=" % QString::number(eleveId);
-}
+QString SelectPhoto() { return QStringLiteral("SELECT * FROM ELEVE_PHOTO WHERE ELEVE_ID = ?"); }
 
 }  // namespace
 
@@ -50,7 +48,7 @@ std::optional<QByteArray> TEleve::OctetsPhoto() const {
     if (photos == nullptr || !photos->Localiser(QStringLiteral("ELEVE_ID"), Id)) return std::nullopt;
     return photos->Valeur(QStringLiteral("PHOTO")).toByteArray();
   }
-  TCurseur ligne(Base(), SelectPhoto(Id));
+  TCurseur ligne(Base(), SelectPhoto(), {Id});
   if (!ligne.Suivant()) return std::nullopt;
   return ligne.Octets("PHOTO");
 }
@@ -72,7 +70,7 @@ void TEleve::SetPhoto(const QImage& image) {
   TDataModule1& base = Base();
   int cle = 0;
   {
-    TCurseur ligne(base, SelectPhoto(Id));
+    TCurseur ligne(base, SelectPhoto(), {Id});
     if (ligne.Suivant()) cle = ligne.Entier("ELEVE_PHOTO_ID");
   }
   QString sql =

@@ -36,8 +36,8 @@ std::unordered_map<int, std::unique_ptr<TAllFraisEleve>> TAllFraisEleve::LireEns
 }
 
 void TAllFraisEleve::DefineQuery() {
-  SelectSql = u"SELECT * FROM FRAIS_ELEVE WHERE ELEVE_ID = " % QString::number(eleve_) %
-              u" AND ANNEE_SCOLAIRE =" % QString::number(annee_);
+  SelectSql = QStringLiteral("SELECT * FROM FRAIS_ELEVE WHERE ELEVE_ID = ? AND ANNEE_SCOLAIRE = ?");
+  Cles = {eleve_, annee_};
   TableName = QStringLiteral("FRAIS_ELEVE");
   KeyField = "FRAIS_ELEVE_ID";
   CounterName = QStringLiteral("FRAIS_ELEVE");

@@ -8,6 +8,7 @@
 #include "core/data_module.h"
 #include "core/exceptions.h"
 #include "core/parametres.h"
+#include "core/query_internal.h"
 #include "support/dialogues_scenario.h"
 #include "support/serveur_firebird.h"
 
@@ -113,6 +114,36 @@ TEST(Serveur, ARowThatHasGoneStaysModifiedAndHarmsNothing) {
 
   b.parametres->Remove(*b.parametres->FindParametre(901));
   EXPECT_TRUE(b.parametres->Save()) << "deleting a row that the other one has deleted";
+}
+
+TEST(Serveur, AReadingThatStaysPreparedSeesTheOthersAndKeepsNobodyWaiting) {
+  const TServeurFirebird serveur;
+  TPoste a(serveur.Nom()), b(serveur.Nom());
+  const auto lu = [&](int id) {
+    TCurseur ligne(a.base, QStringLiteral("SELECT * FROM PARAMETRE WHERE PARAMETRE_ID = ?"), {id});
+    return ligne.Suivant() ? ligne.Texte("VALEUR") : QStringLiteral("rien");
+  };
+  EXPECT_EQ(QStringLiteral("rien"), lu(901));
+  for (const QString& valeur : {QStringLiteral("un"), QStringLiteral("deux")}) {
+    b.parametres->SetParametre(901, valeur);
+    b.parametres->Save();
+    EXPECT_EQ(valeur, lu(901));
+  }
+  {  // one reading inside another of the same text
+    const QString sql = QStringLiteral("SELECT * FROM PARAMETRE WHERE PARAMETRE_ID = ?");
+    TCurseur dehors(a.base, sql, {901});
+    EXPECT_EQ(QStringLiteral("rien"), lu(902));
+    ASSERT_TRUE(dehors.Suivant());
+    EXPECT_EQ(QStringLiteral("deux"), dehors.Texte("VALEUR"));
+  }
+  TQueryInternal(b.base, QStringLiteral("ALTER TABLE PARAMETRE ADD ESSAI INTEGER DEFAULT 7 NOT NULL"))
+      .Executer();
+  EXPECT_EQ(QStringLiteral("deux"), lu(901)) << "the upgrade of another workstation was not held up";
+  TQueryInternal(b.base, QStringLiteral("ALTER TABLE PARAMETRE DROP ESSAI")).Executer();
+  EXPECT_EQ(QStringLiteral("deux"), lu(901));
+
+  EXPECT_THROW(TCurseur(a.base, QStringLiteral("SELECT * FROM ABSENTE WHERE CLE = ?"), {1}), Exception);
+  EXPECT_EQ(QStringLiteral("deux"), lu(901)) << "a failure is forgotten";
 }
 
 TEST(Serveur, AFailedConnectionIsToldInFrench) {

@@ -29,10 +29,17 @@ class DelegueGrille : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
+  /// What the style would say, without laying out each text for it: a list is measured at each change.
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    const QSize taille = QStyledItemDelegate::sizeHint(option, index);
-    const int icone = index.data(Qt::DecorationRole).isValid() ? Theme::Px(4) : 0;
-    return {taille.width() - icone, std::max(Theme::Px(kHauteurLigne), option.fontMetrics.height() + 2)};
+    const QStyle& style = *option.widget->style();
+    const int marges = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1);
+    const QVariant police = index.data(Qt::FontRole);
+    const QFontMetricsF mesures(police.isValid() ? police.value<QFont>() : option.font);
+    int largeur = static_cast<int>(std::ceil(mesures.horizontalAdvance(index.data().toString()))) + marges;
+    if (index.data(Qt::DecorationRole).isValid()) largeur += Theme::Px(16) - Theme::Px(4) + marges;
+    if (index.data(Qt::CheckStateRole).isValid())
+      largeur += style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget) + marges;
+    return {largeur, std::max(Theme::Px(kHauteurLigne), option.fontMetrics.height() + 2)};
   }
 
   /// A state is an icon and a word that stand close together; the rest is the style's.
@@ -246,8 +253,10 @@ void VueGrille::SuivreGrille(int ligne) {
   }
   if (ligne < 0) {
     SuivreChoix();
-    executeDelayedItemsLayout();
-    verticalScrollBar()->setValue(hauteur);
+    if (hauteur > 0) {
+      executeDelayedItemsLayout();
+      verticalScrollBar()->setValue(hauteur);
+    }
     ElargirPlusTard();
   }
   emit Changee();
