@@ -118,6 +118,18 @@ TEST(Modeles, UneFactureDeDeuxPages) {
   EXPECT_EQ(Hauteur(document.Pages[2], u"LEBON <b>Zoé</b>"_s), 192 + 16);
 }
 
+TEST(Modeles, LePaiementRecuRestePourLesSuivants) {
+  TNoeudRapport avec = Eleve(u"AVEC"_s, {Section(u"Frais"_s, 1)});
+  avec.Valeurs.Ecrire(u"Paiement"_s, u"20,00"_s);
+  const auto sans = [](const QString& nom) { return Eleve(nom, {Section(u"Frais"_s, 1)}); };
+  const TDocumentPrepare document = Facture({sans(u"AVANT"_s), avec, sans(u"APRES"_s)});
+  ASSERT_EQ(document.Pages.size(), 3U);
+  const QString paiement = u"Paiements reçus : -20,00 €"_s;
+  EXPECT_EQ(Hauteur(document.Pages[0], paiement), -1);
+  EXPECT_EQ(Hauteur(document.Pages[1], paiement), Hauteur(document.Pages[2], paiement));
+  EXPECT_GT(Hauteur(document.Pages[2], paiement), 0) << "as the school's invoices have always done";
+}
+
 TEST(Modeles, LogoDuDocument) {
   const auto eleve = [] { return std::vector{Eleve(u"LEBON"_s, {Section(u"Frais"_s, 2)})}; };
   EXPECT_EQ(Images(Facture(eleve()).Pages[0]), QStringList());
