@@ -1,3 +1,5 @@
+#include <QFileInfo>
+
 #include "app/commandes.h"
 #include "core/calendrier_scolaire.h"
 #include "core/conversions.h"
@@ -82,6 +84,19 @@ TDocumentPrepare Preparer(TSession& session, const TRapport& rapport, const TImp
   return document;
 }
 
+/// Raises Exception when one file would take the place of the other. A device takes both.
+void VerifierFichiers(const TSession& session) {
+  if (!session.Options.isSet(Nom("pdf")) || !session.Options.isSet(Nom("json"))) return;
+  const QFileInfo pdf(session.Option(Nom("pdf"))), json(session.Option(Nom("json")));
+  const auto chemin = [](const QFileInfo& fichier) {
+    const QString dossier = QFileInfo(fichier.absolutePath()).canonicalFilePath();
+    return fichier.exists() ? fichier.canonicalFilePath() : dossier % u'/' % fichier.fileName();
+  };
+  const bool appareil = pdf.exists() && !pdf.isFile();
+  if (!appareil && chemin(pdf) == chemin(json))
+    throw Exception(QStringLiteral("Donnez deux fichiers différents à --pdf et à --json."));
+}
+
 /// All reports in one file, with a bookmark a pupil; false when there was nothing to write.
 bool MettreEnPdf(TSession& session, const QString& titre, const TChoixDocument& choix,
                  const TResultat& resultat) {
@@ -91,7 +106,8 @@ bool MettreEnPdf(TSession& session, const QString& titre, const TChoixDocument& 
     documents.push_back(Preparer(session, rapport, impression));
   std::erase_if(documents, [](const TDocumentPrepare& document) { return document.Pages.empty(); });
   if (documents.empty()) {
-    session.Dialogues.Message(QStringLiteral("Il n'y a rien à imprimer : le fichier PDF n'est pas écrit."));
+    if (!resultat.Echec)
+      session.Dialogues.Message(QStringLiteral("Il n'y a rien à imprimer : le fichier PDF n'est pas écrit."));
     return false;
   }
   std::vector<const TDocumentPrepare*> tous;
@@ -107,6 +123,7 @@ int CommandeDocument(TSession& session) {
   TChoixDocument choix;
   choix.Indice = IndiceTitre(titre);
   if (choix.Indice < 0) throw Exception(QStringLiteral("Il n'y a pas de document « %1 ».").arg(titre));
+  VerifierFichiers(session);
   session.Ouvrir();
   Choisir(session, choix);
   const bool avecPeriode = TitresDocuments()[static_cast<std::size_t>(choix.Indice)].AvecPeriode;

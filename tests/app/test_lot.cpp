@@ -155,6 +155,10 @@ TEST_F(TLotEssai, Documents) {
       {Mots(QStringLiteral("document Facture --mois 10 --classes X")), 1, {}, QStringLiteral("classe « X »")},
       {Mots(QStringLiteral("document Facture --tous")), 1, {}, QStringLiteral("--mois, --du")},
       {Mots(QStringLiteral("document Rien --tous")), 1, {}, QStringLiteral("pas de document « Rien »")},
+      {tous + QStringList{QStringLiteral("--pdf"), Chemin("./document.json")},
+       1,
+       {},
+       QStringLiteral("Donnez deux fichiers différents")},
   });
   EXPECT_FALSE(QFile::exists(Chemin("document.json"))) << "a refusal writes nothing";
   Verifier({{tous, 0, {}, {}}});
