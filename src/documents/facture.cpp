@@ -158,6 +158,7 @@ QString TFactureEleve::Communication(const QString& datePaiement, IDialogues& di
 
 TResultat FactureFraisEffectifs(const TContexteDocument& contexte, const TDemandeDocument& demande) {
   TRapport rapport(QStringLiteral("Relevé des frais effectifs"), QStringLiteral("Facture"));
+  rapport.NomUsuel = QStringLiteral("Facture");  // another document is called what its title says
   rapport.EffacerVariables();
   const QString date = demande.DatePaiement ? FormatJourLong(*demande.DatePaiement) : QString();
   TRecueilMessages recueil;

@@ -35,6 +35,8 @@ class TRapport {
 
   const QString& Titre() const { return titre_; }
   const QString& Modele() const { return modele_; }
+  /// What the user knows the document by: it names the preview and its files.
+  const QString& Intitule() const { return NomUsuel.isEmpty() ? titre_ : NomUsuel; }
 
   /// A second call with the same name replaces the value.
   void AjouterVariable(QStringView nom, const QString& valeur) { variables_.Ecrire(nom, valeur); }
@@ -65,6 +67,8 @@ class TRapport {
   /// {"modele", "variables": {}, "arbre": [{"texte", "valeurs": {}, "enfants": []}]}, in order, UTF-8.
   QByteArray EnJson() const;
 
+  /// Where it is not the title.
+  QString NomUsuel;
   /// Goes before the logo of the template unless it is null.
   QImage Logo;
   /// Fills the picture of the photo with that identifier; may be empty.

@@ -5,7 +5,7 @@
 TMiseEnPage::TMiseEnPage(const TRapport& rapport, const TModele& modele, const TImpression& impression)
     : contexte_(rapport, modele, impression, document_.Defauts),
       moteur_(std::make_unique<TMoteur>(contexte_, document_)) {
-  document_.Titre = rapport.Titre();
+  document_.Titre = rapport.Intitule();
   for (const QString& manque : TPolices::Communes().Manques()) document_.Defauts.push_back({{}, {}, manque});
 }
 

@@ -165,6 +165,8 @@ void TFrmApercu::ChoisirEntree(int entree) {
 }
 
 QString TFrmApercu::TitreNavigateur() const {
+  if (signets_ > 0 && Document().Titre == u"Facture")
+    return Accorder(signets_, QStringLiteral("facture"), QStringLiteral("factures"));
   if (signets_ > 0) return Accorder(signets_, QStringLiteral("document"), QStringLiteral("documents"));
   return Accorder(PagesPretes(), QStringLiteral("page"), QStringLiteral("pages"));
 }

@@ -59,7 +59,7 @@ class TFrmApercu : public TForm {
   /// Index of the entry to which the page in hand belongs; -1 for none.
   int EntreeCourante() const;
   void ChoisirEntree(int entree);
-  /// "43 documents"; of a document without bookmarks, its pages.
+  /// "43 documents", of invoices "43 factures"; of a document without bookmarks, its pages.
   QString TitreNavigateur() const;
 
   // Zoom: 1 is the paper's own size.
