@@ -45,10 +45,10 @@ TDemandeAssistant TDemandeAssistant::De(TForm& demandeur, std::vector<TTitreAssi
 
 TFrmPrintWizard::TFrmPrintWizard(const TContexteEcran& contexte) : contexte_(contexte) {
   LstEleve.DefinirColonnes({{QStringLiteral("Nom de l'élève"), 150},
-                            {QStringLiteral("Classe"), 60},
-                            {QStringLiteral("Implantation"), 100}});
+                            {QStringLiteral("Classe"), 70},
+                            {QStringLiteral("Implantation"), 112}});
   LstClasse.DefinirColonnes(
-      {{QStringLiteral("Nom de la classe"), 210}, {QStringLiteral("Implantation"), 100}});
+      {{QStringLiteral("Nom de la classe"), 150}, {QStringLiteral("Implantation"), 112}});
   LstEleve.CasesACocher = LstClasse.CasesACocher = true;
   for (TGrille* liste : {&LstEleve, &LstClasse})
     liste->SurChangement = [this](TGrille::TChangement) { Annoncer(); };

@@ -84,12 +84,17 @@ VuePrintWizard::~VuePrintWizard() {
 void VuePrintWizard::Suivre() {
   form_.SurChangement = [this] { Rafraichir(); };
   form_.SurFoyer = [this](TChampAssistant champ) { AllerAuChamp(champ); };
-  connect(precedent_, &QPushButton::clicked, this, [this] { form_.btnPrecedentClick(); });
+  connect(precedent_, &QPushButton::clicked, this, [this] {
+    MontrerFaute({});
+    form_.btnPrecedentClick();
+  });
   connect(titres_, &QButtonGroup::idClicked, this, [this](int id) { form_.ChoixRapportClick(id); });
   connect(qui_, &QButtonGroup::idClicked, this,
           [this](int id) { form_.RbEleveClick(static_cast<TChoixQui>(id)); });
-  connect(periode_, &QButtonGroup::idClicked, this,
-          [this](int id) { form_.RbMoisClick(static_cast<TChoixPeriode>(id)); });
+  connect(periode_, &QButtonGroup::idClicked, this, [this](int id) {
+    MontrerFaute({});
+    form_.RbMoisClick(static_cast<TChoixPeriode>(id));
+  });
   connect(tout_, &QPushButton::clicked, this, [this] { form_.btnToutSelectionnerClick(); });
   connect(rien_, &QPushButton::clicked, this, [this] { form_.btnRienSelectionnerClick(); });
   connect(mois_, &QComboBox::activated, this, [this](int indice) { form_.ChoisirMois(indice); });
@@ -175,11 +180,11 @@ QWidget* VuePrintWizard::CreerPageQui() {
   listes->addLayout(
       CreerListe(eleves_, QStringLiteral("L'élève actuellement sélectionné :"),
                  QStringLiteral("Les élèves suivants:"), form_.LstEleve, QStringLiteral("Élèves")),
-      1);
+      4);  // one column more than the classes
   listes->addLayout(
       CreerListe(classes_, QStringLiteral("La classe actuellement sélectionnée :"),
                  QStringLiteral("Les classes suivantes:"), form_.LstClasse, QStringLiteral("Classes")),
-      1);
+      3);
   const std::pair<QRadioButton*, TChoixQui> choix[] = {{eleves_.Courant, TChoixQui::Eleve},
                                                        {eleves_.Plusieurs, TChoixQui::Eleves},
                                                        {classes_.Courant, TChoixQui::Classe},
@@ -316,7 +321,12 @@ void VuePrintWizard::RafraichirPeriode() {
   resume_->setText(form_.Resume());
 }
 
+/// To what is checked; of the period to its field, where the month is chosen by the arrows.
 void VuePrintWizard::FoyerDePage() {
+  if (form_.Page() == TPageAssistant::Periode && form_.ChoixPeriode() == TChoixPeriode::Mois)
+    return mois_->setFocus(Qt::OtherFocusReason);
+  if (form_.Page() == TPageAssistant::Periode && form_.ChoixPeriode() == TChoixPeriode::Periode)
+    return dates_[0]->setFocus(Qt::OtherFocusReason);
   const QButtonGroup* groupes[] = {titres_, qui_, periode_};
   if (QAbstractButton* coche = groupes[pages_->currentIndex()]->checkedButton())
     coche->setFocus(Qt::OtherFocusReason);
