@@ -47,6 +47,9 @@ VueSignaletique::VueSignaletique(TFrmSignaletique& form, QWidget* parent)
   blocReleve_ = CreerReleve();
   blocFrais_ = CreerFrais();
   setWidget(contenu_);
+  for (VueGrille* liste : {releve_, frais_})
+    connect(liste, &VueGrille::Suppression, this, [this] { form_.ModificationDemandee(); });
+  connect(frais_, &VueGrille::Activee, this, [this] { form_.ModificationDemandee(); });
   Disposer();
   identite_->OrdonnerTab();
   form_.SurChangement = [this] { Actualiser(); };

@@ -84,6 +84,13 @@ TEST_F(TVueSignaletique, UnClicNeChangeRien) {
     EXPECT_FALSE(bouton.isChecked()) << nom.toStdString();
   }
   EXPECT_EQ(principal.Etats.size(), 3);
+  auto& frais = Controle<VueGrille>(u"Frais et paiements"_s);
+  const int lignes = ecran->Frais.Grille.NombreLignes();
+  frais.setFocus();
+  for (const int touche : {Qt::Key_Home, Qt::Key_Return, Qt::Key_Delete})
+    QTest::keyClick(&frais, static_cast<Qt::Key>(touche));
+  EXPECT_EQ(principal.Etats.size(), 5) << "Enter would edit the fee, Suppr delete it";
+  EXPECT_EQ(ecran->Frais.Grille.NombreLignes(), lignes);
   Globals.EleveCourant = nullptr;
   Diffuser(TCodeMessage::EleveChange, *ecran);
   EXPECT_TRUE(Montre(u"Choisissez un élève dans la liste"_s));
