@@ -137,6 +137,7 @@ TEST_F(DocumentsVues, AnInvoiceByClassAndMonthFromTheKeyboard) {
     Touche(Qt::Key_Return);
     EXPECT_TRUE(TextesDe(fenetre).contains(u"octobre 2016"_s)) << "today's month";
     EXPECT_NE(BoutonDe(fenetre, u"Imprimer"_s), nullptr);
+    EXPECT_TRUE(Foyer(fenetre, u"Mois"_s));
     Touche(Qt::Key_Return);
   });
   programme.Dialogues.Fait(u"Aperçu"_s, [](QWidget& fenetre) {
@@ -208,6 +209,7 @@ TEST_F(DocumentsVues, WizardWithoutPeriodAndItsRefusals) {
     EXPECT_TRUE(TextesDe(fenetre).contains(u"La date introduite est incorrecte."_s));
     EXPECT_EQ(date->text(), u"31/02/2017"_s);
     Choisir(fenetre, u"Le mois de :"_s);
+    EXPECT_FALSE(TextesDe(fenetre).contains(u"incorrecte"_s)) << "no matter any more";
     QTimer::singleShot(0, &fenetre, [&fenetre] { Cliquer(fenetre, u"Imprimer"_s); });
   });
   programme.Dialogues.Attend(u"Aucun élève n'a été sélectionné !"_s);
