@@ -33,6 +33,22 @@ bool SousLui(const TObjetModele& dessus, const TObjetModele& dessous) {
          dessus.X < dessous.X + dessous.Largeur;
 }
 
+/// The first words of a text, for a fault that names it.
+QString Debut(const TParagraphe& paragraphe) {
+  constexpr qsizetype kLettres = 40;
+  QString texte;
+  for (const auto& ligne : paragraphe.Lignes) {
+    float fin = -1;  // each line, and each word that is spread over a line, follows a blank
+    for (const TSegment& segment : ligne) {
+      if (!texte.isEmpty() && segment.X > fin) texte += u' ';
+      texte += segment.Forme->Texte;
+      fin = segment.X + segment.Forme->Largeur + 1;
+    }
+  }
+  texte.removeIf([](QChar c) { return c.category() == QChar::Other_PrivateUse; });  // marks of numbers
+  return texte.size() <= kLettres ? texte : QString(texte.left(kLettres).trimmed() % u'…');
+}
+
 bool Dedans(const TObjetModele& cadre, const TObjetModele& objet) {
   return objet.X >= cadre.X && objet.X + objet.Largeur <= cadre.X + cadre.Largeur && objet.Y >= cadre.Y &&
          objet.Y + objet.Hauteur <= cadre.Y + cadre.Hauteur;
@@ -205,7 +221,8 @@ void TFormeur::Dessiner(const TBandeModele& bande, const TObjetPret& objet, TBan
 void TFormeur::NoterTexte(const TBandeModele& bande, const TObjetModele& objet,
                           const TParagraphe& paragraphe) {
   if (paragraphe.Deborde && !objet.Etirable)
-    contexte_.Noter(bande, objet, QStringLiteral("un texte est plus grand que sa place."));
+    contexte_.Noter(bande, objet,
+                    QStringLiteral("un texte est plus grand que sa place : « %1 ».").arg(Debut(paragraphe)));
   if (paragraphe.MotCoupe)
     contexte_.Noter(bande, objet, QStringLiteral("un mot plus large que sa place est coupé."));
   for (const auto& ligne : paragraphe.Lignes)
