@@ -96,6 +96,9 @@ void TMoteur::CommencerPage() {
     colonnes_ = PlacesColonnes(contexte_.Rapport, page.Largeur - 2 * page.Marge,
                                {StyleColonne(page, TSorteBande::EnteteColonnes, TSorteBande::Entete),
                                 StyleColonne(page, TSorteBande::Colonnes, TSorteBande::Maitre)});
+  const TBandeModele* maitre = Premiere(page, TSorteBande::Maitre);
+  if (!parcours_->Fini(TJeu::Maitre) && !(maitre != nullptr && maitre->NouvellePage))
+    pagination_.Preparer(contexte_.Position);
   Ajouter(page, TSorteBande::Entete, TRole::Seule, -1, 0);
   if (!parcours_->Fini(TJeu::Maitre)) AjouterDe(page, TSorteBande::Entete, TSorteBande::Maitre, 0);
 }
@@ -121,6 +124,7 @@ void TMoteur::LigneMaitre(const TPageModele& page) {
     pagination_.NouvelleSuite();
   }
   Compter(0, ++ligneMaitre_);
+  if (suite) pagination_.Preparer(contexte_.Position);
   const TPosition ici = contexte_.Position;
   if (!saute) Ajouter(page, TSorteBande::Maitre, TRole::Ligne, 0, 0);
   if (EstSur(ici)) Details(page, 0);

@@ -22,7 +22,18 @@ void TPagination::NouvelleSuite() {
 }
 
 void TPagination::Finir() {
-  if (ouverte_) Fermer(true);
+  if (ouverte_ && !vide_) return Fermer(true);
+  if (ouverte_) {
+    document_.Pages.pop_back();
+    std::erase_if(numeros_, [&](const TNumerosPage& n) { return n.Page == document_.Pages.size(); });
+  }
+  ouverte_ = vide_ = false;
+}
+
+void TPagination::Preparer(const TPosition& position) {
+  if (ouverte_) return;
+  Ouvrir(position, std::exchange(premiere_, false));
+  vide_ = true;
 }
 
 /// Height of the footers that are on every page, or of those on a last page only. Their procedures go
@@ -61,6 +72,10 @@ void TPagination::Ouvrir(const TPosition& position, bool premiere) {
   }
   contexte_.Position = avant;
   debut_ = y_;
+}
+
+/// Where the body must end, for the footers of the page.
+void TPagination::Reserver(const TPosition& position) {
   bas_ = modele_->Hauteur - modele_->Marge - HauteurPied(false, position);
 }
 
@@ -88,6 +103,7 @@ void TPagination::Fermer(bool derniere) {
 void TPagination::Changer(const TPosition& position) {
   Fermer(false);
   Ouvrir(position, false);
+  Reserver(position);
 }
 
 void TPagination::Poser(const TBandeFormee& bande, float x, float y) {
@@ -123,7 +139,8 @@ float TPagination::HauteurBloc(const std::vector<TBandeFormee>& bandes, std::siz
 
 void TPagination::Placer(std::vector<TBandeFormee> bandes, bool complet) {
   if (bandes.empty()) return;
-  if (!ouverte_) Ouvrir(bandes.front().Position, std::exchange(premiere_, false));
+  Preparer(bandes.front().Position);
+  if (std::exchange(vide_, false)) Reserver(bandes.front().Position);
   const TCoupures coupures = TrouverCoupures(bandes, bas_ - debut_);
   const float dernierPied = complet ? HauteurPied(true, bandes.back().Position) : 0;
   for (std::size_t debut = 0; debut < bandes.size();) {

@@ -12,6 +12,9 @@ class TPagination {
   void Commencer(const TPageModele& page);
   /// The next band begins a page, as a master row's first one.
   void NouvelleSuite();
+  /// Opens the page of the band to come, so that the procedures of its header go before those of the band.
+  /// A page on which nothing then comes to stand is not kept.
+  void Preparer(const TPosition& position);
   /// `complet`: the bands end a master row with pages of its own, or the run.
   void Placer(std::vector<TBandeFormee> bandes, bool complet);
   /// Closes the page in hand.
@@ -21,6 +24,7 @@ class TPagination {
 
  private:
   void Ouvrir(const TPosition& position, bool premiere);
+  void Reserver(const TPosition& position);
   void Fermer(bool derniere);
   void Changer(const TPosition& position);
   void Poser(const TBandeFormee& bande, float x, float y);
@@ -47,6 +51,7 @@ class TPagination {
   TDocumentPrepare& document_;
   const TPageModele* modele_ = nullptr;
   bool ouverte_ = false;
+  bool vide_ = false;     ///< only the header is on the page
   bool premiere_ = true;  ///< the next page is the first of a master row
   float y_ = 0;           ///< from the upper edge of the paper
   float debut_ = 0;       ///< where the body of the page began
