@@ -119,6 +119,7 @@ bool TImportRegistre::Etape1(const QString& fichier) {
   numeros_.resize(grille_.Lignes.size());
   std::iota(numeros_.begin(), numeros_.end(), 1);
   Filtrer();
+  if (SurLecture) SurLecture();
   pret_ = VerifierAnnee();
   return pret_;
 }
@@ -157,35 +158,24 @@ bool TImportRegistre::VerifierAnnee() {
               .arg(annee)
               .arg(annee + 1)))
     return false;
-  Cloturer();
+  try {
+    Cloturer();
+  } catch (const Exception& e) {
+    throw ECloture(u"La clôture est arrêtée : l'année scolaire n'a pas changé.\n" % e.Message);
+  }
   return true;
 }
 
 // The balances are those of the year on display. A second closing of a year meets the rows of the
 // first, and stops before the year moves.
 void TImportRegistre::Cloturer() {
-  TDataModule1& base = controleur_.Base();
   IDialogues& dialogues = controleur_.Dialogues();
   TProgression progression(dialogues, Globals.Eleves->Count());
   int fait = 0;
   std::unordered_set<int> clotures;  // a pupil who is enrolled twice has one account
   for (TEleve& eleve : *Globals.Eleves) {
     if (!clotures.insert(eleve.Id).second) continue;
-    const Currency frais = eleve.Solde(true, false);
-    const Currency services = eleve.Solde(false, true);
-    const Currency total = eleve.Solde(true, true);
-    const int cle = base.GetNextId(QStringLiteral("BALANCE"));
-    if (cle == -1)
-      throw Exception(QStringLiteral("La clôture est arrêtée : l'année scolaire n'a pas changé."));
-    TQueryInternal ajout(base, QStringLiteral("insert into balance values (:iBalanceID, :iEleveId, "
-                                              ":iAnneeScolaire, :mTotService, :mTotFrais, :mTotal)"));
-    ajout.Parametre(QStringLiteral("iBalanceID"), cle)
-        .Parametre(QStringLiteral("iEleveId"), eleve.Id)
-        .Parametre(QStringLiteral("iAnneeScolaire"), Globals.AnneeScolaire)
-        .Parametre(QStringLiteral("mTotService"), services.EnEuros())
-        .Parametre(QStringLiteral("mTotFrais"), frais.EnEuros())
-        .Parametre(QStringLiteral("mTotal"), total.EnEuros())
-        .Executer();
+    EcrireBalance(eleve);
     progression.Avancer(++fait, eleve.NomComplet());
     dialogues.TraiterEvenements();
   }
@@ -196,6 +186,24 @@ void TImportRegistre::Cloturer() {
   dialogues.Information(
       QStringLiteral("L'année scolaire est clôturée.\r\n"
                      "Vous pouvez commnencer le transfert des nouvelles informations."));
+}
+
+void TImportRegistre::EcrireBalance(const TEleve& eleve) {
+  TDataModule1& base = controleur_.Base();
+  const Currency frais = eleve.Solde(true, false);
+  const Currency services = eleve.Solde(false, true);
+  const Currency total = eleve.Solde(true, true);
+  const int cle = base.GetNextId(QStringLiteral("BALANCE"));
+  if (cle == -1) throw Exception(u"Le compte de " % eleve.NomComplet() % u" n'a pas reçu de numéro.");
+  TQueryInternal ajout(base, QStringLiteral("insert into balance values (:iBalanceID, :iEleveId, "
+                                            ":iAnneeScolaire, :mTotService, :mTotFrais, :mTotal)"));
+  ajout.Parametre(QStringLiteral("iBalanceID"), cle)
+      .Parametre(QStringLiteral("iEleveId"), eleve.Id)
+      .Parametre(QStringLiteral("iAnneeScolaire"), Globals.AnneeScolaire)
+      .Parametre(QStringLiteral("mTotService"), services.EnEuros())
+      .Parametre(QStringLiteral("mTotFrais"), frais.EnEuros())
+      .Parametre(QStringLiteral("mTotal"), total.EnEuros())
+      .Executer();
 }
 
 TBilanRegistre TImportRegistre::Etape2() {

@@ -12,6 +12,12 @@ struct TBilanRegistre {
   int Modifies = 0;
 };
 
+/// The closing of a year stopped: the year has not changed.
+class ECloture : public Exception {
+ public:
+  using Exception::Exception;
+};
+
 /// Loading the pupils from an export of the school register, in two steps; a file of a new school
 /// year offers the closing of the old one first.
 class TImportRegistre {
@@ -21,7 +27,7 @@ class TImportRegistre {
 
   /// Step 1: reads the file, leaves out what the filters drop, and decides about the year. True when
   /// step 2 may follow. Raises Exception for a file that cannot be read, EConvertError for one that
-  /// bears no date.
+  /// bears no date, ECloture.
   bool Etape1(const QString& fichier);
   /// Step 2: writes each pupil and enrolment at once, then loads the working year. A malformed row
   /// raises EConvertError, which names it; the rows before it stay.
@@ -41,6 +47,8 @@ class TImportRegistre {
   int NumeroLigne(int ligne) const { return numeros_[static_cast<std::size_t>(ligne)]; }
   /// The row of the grid at which step 2 stopped; 0 when it did not.
   int LigneRefusee() const { return ligneRefusee_; }
+  /// Step 1 has read the file, and is about to decide about the year.
+  std::function<void()> SurLecture;
   /// Step 2 has written that row of the grid, and is about to let pending events through.
   std::function<void(int)> SurLigneTransferee;
 
@@ -68,6 +76,7 @@ class TImportRegistre {
   TDateTime DatePremierEleve() const;
   QString Situer(int ligne, const Exception& e);
   void Cloturer();
+  void EcrireBalance(const TEleve& eleve);
   void TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan);
   void RemplirEleve(TEleve& eleve, int ligne) const;
   QString Champ(int ligne, int colonne) const;

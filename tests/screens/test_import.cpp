@@ -72,6 +72,8 @@ TEST_F(FrmImport, AFileIsShownThenTransferred) {
 }
 
 TEST_F(FrmImport, WhyAFileIsNotTaken) {
+  TEcoleEssai(Base).unEleve().enClasse(QStringLiteral("P1"), QStringLiteral("A"));
+  Ecran.Essai.Controleur.ChargerAnnee(2016);
   Ouvrir(TFichierRegistre(1, 8).Ecrire(Base));
   EXPECT_EQ(Form.Fichier().Texte, u"Fichier trop court : rien à transférer");
   EXPECT_EQ(Form.NombreEleves(), 8);
@@ -87,6 +89,14 @@ TEST_F(FrmImport, WhyAFileIsNotTaken) {
   Base.Dialogues.Saisit(kOuvrir, nouvelle).Repond(question, true).Attend(QStringLiteral("est clôturée."));
   Form.btnEtape1Click();
   EXPECT_TRUE(Form.Etape2Active());
+  // The rows of that closing stop another one.
+  Globals.AnneeScolaire = 2016;
+  Base.Dialogues.Saisit(kOuvrir, nouvelle).Repond(question, true);
+  EXPECT_THROW(Form.btnEtape1Click(), ECloture);
+  EXPECT_EQ(Form.Fichier().Texte, u"Année non clôturée : pas de transfert");
+  EXPECT_EQ(Ecran.Niveau, TNiveauEtat::Erreur);
+  EXPECT_TRUE(Form.Etape1Active());
+  EXPECT_FALSE(Form.Etape2Active());
 
   // No file, then files that cannot be read: what was shown is gone, and nothing can be transferred.
   Base.Dialogues.Saisit(kOuvrir, {});

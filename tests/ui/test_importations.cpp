@@ -103,7 +103,9 @@ TEST_F(Importations, ARegisterOfANewYearClosesTheOldOne) {
   const QString fichier = TFichierRegistre(1).Mettre(1, 16, QStringLiteral("01/07/2017")).Ecrire(Base);
   const QString question = QStringLiteral("Voulez-vous clôturer l'année scolaire 2016-2017 ?");
   // Enter takes the answer at hand, which is "Non".
-  Choisit(kOuvrir, fichier).Fait(question, [](QWidget& dialogue) {
+  Choisit(kOuvrir, fichier).Fait(question, [this](QWidget& dialogue) {
+    EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"Fichier lu : registre.csv")) << "what it is about";
+    EXPECT_EQ(Form<TFrmImport>().Grille.NombreLignes(), 9);
     EXPECT_EQ(BoutonDe(dialogue, QStringLiteral("Non")), dialogue.focusWidget());
     QTest::keyClick(dialogue.focusWidget(), Qt::Key_Return);
   });

@@ -107,7 +107,8 @@ TEST(ImportRegistre, TheClosingMovesTheYearOnce) {
   Globals.AnneeScolaire = 2016;
   essai.Controleur.ChargerAnnee(2016);
   base.Dialogues.Repond(kQuestion, true);
-  EXPECT_THROW(import.Etape1(nouvelle), Exception);
+  EXPECT_THROW(import.Etape1(nouvelle), ECloture);
+  EXPECT_FALSE(import.Pret());
   EXPECT_EQ(base.Valeur(QStringLiteral("SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 27")),
             u"2016");
 }

@@ -5,6 +5,8 @@
 
 namespace {
 
+const QString kNonCloturee = QStringLiteral("Année non clôturée : pas de transfert");
+
 QString NomSeul(const QString& chemin) { return QFileInfo(chemin).fileName(); }
 
 QString Eleves(int nombre) {
@@ -31,6 +33,10 @@ TFrmImport::TFrmImport(TContexteEcran& contexte) : contexte_(contexte) {
 
 void TFrmImport::FormShow() {
   import_ = std::make_unique<TImportRegistre>(contexte_.Controleur);
+  import_->SurLecture = [this] {  // shown before the question about the year
+    DefinirFichier(TNiveauEtat::Neutre, QString(u"Fichier lu : " % NomSeul(import_->Fichier())));
+    RemplirGrille();
+  };
   import_->SurLigneTransferee = [this](int ligne) { SuivreLigne(ligne); };
 }
 
@@ -51,29 +57,32 @@ void TFrmImport::btnEtape1Click() {
     fichier_ = {};
     RemplirGrille();
     const auto chemin = contexte_.Dialogues().ChoisirFichier(
-        QStringLiteral("Ouvrir le fichier de données"),
-        QStringLiteral("Export du registre (*.csv *.txt)"));
-    if (chemin) {
-      try {
-        DecrireFichier(*chemin, import_->Etape1(*chemin));
-      } catch (const Exception&) {
-        enCours_ = false;
-        DefinirFichier(TNiveauEtat::Erreur, QString(u"Fichier refusé : " % NomSeul(*chemin)));
-        RemplirGrille();
-        throw;
-      }
-    }
+        QStringLiteral("Ouvrir le fichier de données"), QStringLiteral("Export du registre (*.csv *.txt)"));
+    if (chemin) Ouvrir(*chemin);
   }
-  RemplirGrille();
+  Annoncer();
 }
 
-void TFrmImport::DecrireFichier(const QString& chemin, bool accepte) {
+void TFrmImport::Ouvrir(const QString& chemin) {
+  try {
+    DecrireFichier(import_->Etape1(chemin));
+  } catch (const Exception& e) {
+    enCours_ = false;
+    DefinirFichier(TNiveauEtat::Erreur, dynamic_cast<const ECloture*>(&e) != nullptr
+                                            ? kNonCloturee
+                                            : QString(u"Fichier refusé : " % NomSeul(chemin)));
+    Annoncer();
+    throw;
+  }
+}
+
+void TFrmImport::DecrireFichier(bool accepte) {
   if (accepte)
-    DefinirFichier(TNiveauEtat::Succes, QString(u"Fichier lu : " % NomSeul(chemin)));
+    DefinirFichier(TNiveauEtat::Succes, fichier_.Texte);
   else if (import_->NombreEleves() < TImportRegistre::kElevesMinimum)
     DefinirFichier(TNiveauEtat::Alerte, QStringLiteral("Fichier trop court : rien à transférer"));
   else
-    DefinirFichier(TNiveauEtat::Alerte, QStringLiteral("Année non clôturée : pas de transfert"));
+    DefinirFichier(TNiveauEtat::Alerte, kNonCloturee);
 }
 
 void TFrmImport::DefinirFichier(TNiveauEtat niveau, const QString& texte) {

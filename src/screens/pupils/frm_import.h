@@ -50,7 +50,8 @@ class TFrmImport : public TForm {
 
  private:
   void RemplirGrille();
-  void DecrireFichier(const QString& chemin, bool accepte);
+  void Ouvrir(const QString& chemin);
+  void DecrireFichier(bool accepte);
   void DefinirFichier(TNiveauEtat niveau, const QString& texte);
   void PrendreEnMain(int ligne);
   void SuivreLigne(int ligne);
