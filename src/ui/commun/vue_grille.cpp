@@ -219,7 +219,7 @@ void VueGrille::Rappeler() {
     return -1;
   };
   if (colonnes.size() != grille_.NombreColonnes()) return;
-  for (const QJsonValue& valeur : colonnes)
+  for (const auto& valeur : colonnes)
     if (colonneDe(valeur[0].toString()) < 0) return;
   for (int rang = 0; rang < static_cast<int>(colonnes.size()); ++rang) {
     const int colonne = colonneDe(colonnes[rang][0].toString());
