@@ -248,6 +248,7 @@ int StyleCalpenne::styleHint(StyleHint conseil, const QStyleOption* option, cons
     case SH_EtchDisabledText:
     case SH_ComboBox_Popup:
     case SH_ItemView_ActivateItemOnSingleClick:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_UnderlineShortcut:
       // Mnemonics show with the Alt key only where the platform does so by itself.
       return conseil == SH_UnderlineShortcut ? QProxyStyle::styleHint(conseil, option, widget, retour) : 0;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetricsF>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QSlider>
 #include <cmath>
@@ -126,7 +127,8 @@ QToolButton[genre="onglet"] { border: 0; border-bottom: 3px solid transparent; p
   background: transparent; color: %10; }
 QToolButton[genre="onglet"]:hover { color: %4; }
 QToolButton[genre="onglet"]:checked { color: %4; font-weight: 600; border-bottom-color: %8; }
-QToolButton[genre="onglet"]:focus { background: %5; }
+QToolButton[genre="onglet"]:focus { border: 2px solid %8; border-bottom: 3px solid %8; border-radius: %1px;
+  padding: %2px %11px; }
 QStatusBar::item { border: 0; }
 )")
       .arg(Theme::Px(4))
@@ -134,10 +136,12 @@ QStatusBar::item { border: 0; }
       .arg(Theme::Px(12))
       .arg(nom(p.Palette.color(QPalette::ButtonText)), nom(p.Couleurs.Survol), nom(p.Couleurs.Selection),
            nom(p.Couleurs.SurSelection), nom(p.Palette.color(QPalette::Highlight)),
-           nom(p.Palette.color(QPalette::Disabled, QPalette::ButtonText)), nom(p.Couleurs.Secondaire));
+           nom(p.Palette.color(QPalette::Disabled, QPalette::ButtonText)), nom(p.Couleurs.Secondaire))
+      .arg(Theme::Px(12) - 2);
 }
 
-/// Follows the system, and keeps the wheel away from fields without focus.
+/// Follows the system, keeps the wheel away from fields without focus, and lets Enter press the button
+/// that has the focus: Qt does so in dialogs only, and there the default button would win over it.
 class Gardien : public QObject {
  public:
   Gardien(QApplication& application, Theme::TMode mode)
@@ -161,6 +165,7 @@ class Gardien : public QObject {
   bool eventFilter(QObject* objet, QEvent* evenement) override {
     const QEvent::Type type = evenement->type();
     if (type == QEvent::Wheel) return RetenirMolette(objet, evenement);
+    if (type == QEvent::KeyPress) return PresserBouton(objet, static_cast<QKeyEvent*>(evenement));
     if (objet == &application_ && (type == QEvent::ThemeChange || type == QEvent::ApplicationPaletteChange ||
                                    type == QEvent::ApplicationFontChange))
       Rafraichir();
@@ -183,6 +188,15 @@ class Gardien : public QObject {
         !qobject_cast<QSlider*>(champ))
       return false;
     evenement->ignore();
+    return true;
+  }
+
+  static bool PresserBouton(QObject* objet, const QKeyEvent* touche) {
+    if (touche->key() != Qt::Key_Return && touche->key() != Qt::Key_Enter) return false;
+    QAbstractButton* bouton = qobject_cast<QPushButton*>(objet);
+    if (!bouton) bouton = qobject_cast<QToolButton*>(objet);
+    if (!bouton || !bouton->hasFocus() || touche->modifiers().testFlag(Qt::ControlModifier)) return false;
+    if (!touche->isAutoRepeat()) bouton->click();
     return true;
   }
 
