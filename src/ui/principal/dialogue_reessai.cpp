@@ -1,19 +1,60 @@
 #include "ui/principal/dialogue_reessai.h"
 
+#include <QKeyEvent>
+#include <QPainter>
 #include <QPushButton>
+
+namespace {
+
+constexpr int kLargeur = 560;
+
+/// A link that Enter and Space follow, and whose focus is seen.
+class Lien : public QLabel {
+ public:
+  explicit Lien(const QString& texte) : QLabel(u"<a href=\"#\">" % texte.toHtmlEscaped() % u"</a>") {
+    setTextInteractionFlags(Qt::LinksAccessibleByMouse);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(texte);
+    setContentsMargins(Theme::Px(4), Theme::Px(4), Theme::Px(4), Theme::Px(4));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* touche) override {
+    if (touche->key() == Qt::Key_Return || touche->key() == Qt::Key_Enter || touche->key() == Qt::Key_Space)
+      emit linkActivated(QStringLiteral("#"));
+    else
+      QLabel::keyPressEvent(touche);
+  }
+  void focusInEvent(QFocusEvent* evenement) override {
+    QLabel::focusInEvent(evenement);
+    update();
+  }
+  void focusOutEvent(QFocusEvent* evenement) override {
+    QLabel::focusOutEvent(evenement);
+    update();
+  }
+  void paintEvent(QPaintEvent* evenement) override {
+    QLabel::paintEvent(evenement);
+    if (!hasFocus()) return;
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    peintre.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Theme::Px(4), Theme::Px(4));
+  }
+};
+
+}  // namespace
 
 DialogueReessai::DialogueReessai(const TReessai& reessai, QWidget* parent)
     : DialogueBase(reessai.Titre, parent) {
   DefinirEntete(reessai.Texte);
-  setMinimumWidth(Theme::Px(560));
+  setMinimumWidth(Theme::Px(kLargeur));
   auto* explication = new Etiquette(reessai.Explication);
   explication->setWordWrap(true);
   Contenu()->addWidget(explication);
 
-  auto* lien = new QLabel(u"<a href=\"#\">" % reessai.Lien.toHtmlEscaped() % u"</a>");
-  lien->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-  lien->setFocusPolicy(Qt::StrongFocus);
-  lien->setAccessibleName(reessai.Lien);
+  auto* lien = new Lien(reessai.Lien);
   connect(lien, &QLabel::linkActivated, this, [surLien = reessai.SurLien] {
     if (surLien) surLien();
   });
@@ -24,9 +65,10 @@ DialogueReessai::DialogueReessai(const TReessai& reessai, QWidget* parent)
     cause->setWordWrap(true);
     cause->setTextFormat(Qt::PlainText);
     cause->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    Contenu()->addSpacing(Theme::Px(8));
     Contenu()->addWidget(cause);
   }
+  Contenu()->addStretch();
   DefinirPrincipal(QStringLiteral("&Réessayer"));
+  resize(minimumWidth(), layout()->totalHeightForWidth(minimumWidth()));
   Principal()->setFocus();
 }
