@@ -1,5 +1,6 @@
 #include "ui/principal/dialogues_qt.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -38,8 +39,12 @@ std::optional<QString> Choisi(QFileDialog& dialogue, QString& dossier) {
   return fichier;
 }
 
+/// The folder used last; else the documents', which a new account may not have yet.
 QString DossierDepart(const QString& dernier) {
-  return dernier.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) : dernier;
+  for (const QString& dossier :
+       {dernier, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)})
+    if (!dossier.isEmpty() && QFileInfo(dossier).isDir()) return dossier;
+  return QDir::homePath();
 }
 
 }  // namespace
