@@ -1,6 +1,8 @@
 #include "ui/pupils/vue_import.h"
 
+#include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 #include "screens/pupils/frm_import.h"
@@ -27,13 +29,21 @@ VueImport::VueImport(TFrmImport& form, QWidget* parent)
                             QStringLiteral("Importation/Fichier"))),
       vide_(new EtatVide(grille_)) {
   Disposer();
-  connect(etape1_, &QPushButton::clicked, this, [this] { form_.btnEtape1Click(); });
-  connect(etape2_, &QPushButton::clicked, this, [this] { form_.btnEtape2Click(); });
+  connect(etape1_, &QPushButton::clicked, this, [this] { Faire(&TFrmImport::btnEtape1Click); });
+  connect(etape2_, &QPushButton::clicked, this, [this] { Faire(&TFrmImport::btnEtape2Click); });
   form_.SurChangement = [this] { Actualiser(); };
   Actualiser();
 }
 
 VueImport::~VueImport() { form_.SurChangement = nullptr; }
+
+// Off during the work, the step in hand has lost the focus: it goes to the next one, also after a fault.
+void VueImport::Faire(void (TFrmImport::*etape)()) {
+  const auto foyer = qScopeGuard([this, vue = QPointer<VueImport>(this)] {
+    if (vue) (form_.Etape2Suivante() ? etape2_ : etape1_)->setFocus();
+  });
+  (form_.*etape)();
+}
 
 void VueImport::Disposer() {
   auto* boutons = new QHBoxLayout;

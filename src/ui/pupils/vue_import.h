@@ -17,6 +17,7 @@ class VueImport : public QWidget {
   ~VueImport() override;
 
  private:
+  void Faire(void (TFrmImport::*etape)());
   void Disposer();
   void Actualiser();
   void ActualiserFeuille();
