@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "report/layout/sens_ecriture.h"
+
 namespace {
 
 constexpr float kTolerance = 0.05F;
@@ -18,6 +20,7 @@ class TCoupeur {
       debuts_.push_back(tout_.size());
       tout_ += morceau.Texte;
     }
+    deuxSens_ = EcritDeDroiteAGauche(tout_);
   }
 
   void Tout() {
@@ -33,10 +36,18 @@ class TCoupeur {
  private:
   bool Tient(float largeur) const { return largeur_ <= 0 || largeur <= largeur_ + kTolerance; }
 
-  /// What a line shows of [debut, fin), one piece a style.
+  /// What a line shows of [debut, fin) from left to right, one piece a style and a direction.
   template <class TFonction>
   void ParMorceau(qsizetype debut, qsizetype fin, TFonction fonction) const {
-    for (std::size_t i = 0; i < morceaux_.size(); ++i) {
+    if (!deuxSens_) return ParStyle(debut, fin, false, fonction);
+    for (const TSuiteDeLettres& suite : SuitesDeGaucheADroite(QStringView(tout_).mid(debut, fin - debut)))
+      ParStyle(debut + suite.Debut, debut + suite.Fin, suite.ADroite, fonction);
+  }
+
+  template <class TFonction>
+  void ParStyle(qsizetype debut, qsizetype fin, bool aRebours, TFonction fonction) const {
+    for (std::size_t rang = 0; rang < morceaux_.size(); ++rang) {
+      const std::size_t i = aRebours ? morceaux_.size() - 1 - rang : rang;
       const qsizetype de = std::max(debut, debuts_[i]);
       const qsizetype a = std::min(fin, debuts_[i] + morceaux_[i].Texte.size());
       if (de < a) fonction(tout_.mid(de, a - de), morceaux_[i]);
@@ -104,7 +115,8 @@ class TCoupeur {
   void Ligne(qsizetype debut, qsizetype fin, bool derniere) {
     std::vector<TSegment> segments;
     float largeur = 0;
-    const bool etendre = objet_.Alignement == TAlignementTexte::Bloc && !derniere && largeur_ > 0;
+    const bool etendre =
+        objet_.Alignement == TAlignementTexte::Bloc && !derniere && largeur_ > 0 && !deuxSens_;
     if (etendre) {
       Etendre(debut, fin, segments);
     } else {
@@ -152,6 +164,7 @@ class TCoupeur {
   TParagraphe& paragraphe_;
   QString tout_;
   std::vector<qsizetype> debuts_;
+  bool deuxSens_ = false;
 };
 
 }  // namespace
