@@ -309,6 +309,19 @@ QRect StyleCalpenne::subElementRect(SubElement element, const QStyleOption* opti
     case SE_ProgressBarGroove:
     case SE_ProgressBarContents:
       return option->rect;
+    case SE_HeaderArrow:
+    case SE_HeaderLabel: {
+      // Fusion keeps twice the room that the arrow takes: the title of a narrow column would be cut.
+      const int marge = pixelMetric(PM_HeaderMargin, option, widget);
+      const int fleche = pixelMetric(PM_HeaderMarkSize, option, widget);
+      QRect place = option->rect.adjusted(marge, 0, -marge, 0);
+      const auto* tete = qstyleoption_cast<const QStyleOptionHeader*>(option);
+      if (element == SE_HeaderArrow)
+        place.setLeft(place.right() - fleche + 1);
+      else if (tete && tete->sortIndicator != QStyleOptionHeader::None)
+        place.setRight(place.right() - fleche - 2);
+      return visualRect(option->direction, option->rect, place);
+    }
     case SE_LineEditContents:
       return QProxyStyle::subElementRect(element, option, widget).adjusted(2, 0, -2, 0);
     default:

@@ -52,7 +52,7 @@ class DelegueGrille : public QStyledItemDelegate {
     QRect place = option.rect.adjusted(marge, 0, -Theme::Px(4), -1);  // above the hairline, as the texts
     icone.value<QIcon>().paint(peintre, QRect(place.x(), place.center().y() - cote / 2, cote, cote),
                                Qt::AlignCenter, actif ? QIcon::Normal : QIcon::Disabled);
-    place.setLeft(place.left() + cote + Theme::Px(4));
+    place.adjust(cote + Theme::Px(4), 0, 0, -1);  // where the style puts the other texts of the row
     // In high contrast the ground of a chosen row is the accent itself.
     const bool surAccent =
         option.state.testFlag(QStyle::State_Selected) && Theme::Selection() == Theme::Couleur(TRole::Accent);
