@@ -79,10 +79,12 @@ TTexteSepare TTexteSepare::Lire(const QString& chemin) {
                                    "fichier.")
                         .arg(chemin));
   QFile fichier(chemin);
-  if (!fichier.open(QIODevice::ReadOnly))
+  QByteArray octets;
+  if (fichier.open(QIODevice::ReadOnly)) octets = fichier.readAll();
+  if (fichier.error() != QFileDevice::NoError)  // half a file would pass for a whole one
     throw Exception(
         QStringLiteral("Le fichier « %1 » ne peut pas être lu : %2").arg(chemin, fichier.errorString()));
-  return Depuis(fichier.readAll(), chemin);
+  return Depuis(octets, chemin);
 }
 
 TTexteSepare TTexteSepare::Depuis(const QByteArray& octets, const QString& nom) {

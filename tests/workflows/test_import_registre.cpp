@@ -69,7 +69,9 @@ TEST(ImportRegistre, FiltersAndShortFiles) {
   EXPECT_EQ(import.NombreEleves(), 11);
   fichier.Mettre(4, 22, {}).Mettre(5, 22, {}).Mettre(6, 22, {});
   EXPECT_FALSE(import.Etape1(fichier.Ecrire(base))) << "nine rows with the header";
-  EXPECT_THROW(import.Etape1(base.Chemin(QStringLiteral("absent"))), Exception);
+  // A missing file, and one that opens but whose reading fails.
+  for (const QString& illisible : {base.Chemin(QStringLiteral("absent")), QStringLiteral("/proc/self/mem")})
+    EXPECT_THROW(import.Etape1(illisible), Exception) << illisible.toStdString();
   EXPECT_FALSE(import.Pret());
 }
 
