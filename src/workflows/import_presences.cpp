@@ -178,14 +178,20 @@ void TImportPresences::Deriver(const TScan& scan, int eleve) {
   bons_.push_back(std::move(derive));
 }
 
+// A teacher may have been removed since the analysis.
+bool TImportPresences::EstCorrigible(int anomalie) const {
+  const auto& presence = anomalies_[static_cast<std::size_t>(anomalie)].Presence;
+  return presence && Globals.Eleves->TrouverParId(presence->EleveId) != nullptr;
+}
+
 bool TImportPresences::Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie,
                                 TDateTime entree) {
-  TAnomalie& ligne = anomalies_[static_cast<std::size_t>(anomalie)];
-  if (!ligne.Presence) {
+  if (!EstCorrigible(anomalie)) {
     controleur_.Dialogues().Message(
         QStringLiteral("La correction ne peut se faire que sur un élève existant"));
     return false;
   }
+  TAnomalie& ligne = anomalies_[static_cast<std::size_t>(anomalie)];
   ligne.Presence->TypePresence = typePresence;
   ligne.Presence->DateReleve = date;
   ligne.Presence->HeureEntree = entree;

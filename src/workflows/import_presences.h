@@ -37,8 +37,10 @@ class TImportPresences {
   void Vider();
   /// Says that there are anomalies, if there are.
   void AnnoncerAnomalies() const;
+  /// The line of the anomalies has a record, and its pupil is still there.
+  bool EstCorrigible(int anomalie) const;
   /// A line of the anomalies becomes a good record with these values; it is not tested again against
-  /// the tariff. False, after a message, when the line has no record.
+  /// the tariff. False, after a message, when it cannot be corrected.
   bool Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie, TDateTime entree);
   /// Step 2: stores the good records in one go, then archives the local copy.
   void Etape2();

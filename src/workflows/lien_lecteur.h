@@ -12,6 +12,7 @@ class ILienLecteur {
 
   /// Opens the link; false when no device is there.
   virtual bool CeRapiInit() = 0;
+  /// Ends the link, one that could not be opened too.
   virtual void CeRapiUnInit() = 0;
   /// Opens an existing file of the device for reading; 0 when it cannot be opened.
   virtual TPoignee CeCreateFile(const QString& chemin) = 0;

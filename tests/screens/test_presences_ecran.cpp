@@ -17,10 +17,13 @@ const QString kInexistant = QStringLiteral("La correction ne peut se faire que s
 /// A scanner that holds one file, under the first or the second of its names.
 struct TLecteurEssai : ILienLecteur {
   bool CeRapiInit() override {
-    if (Present) ++Ouvertures;
+    ++Ouvertures;
     return Present;
   }
-  void CeRapiUnInit() override { --Ouvertures; }
+  void CeRapiUnInit() override {
+    --Ouvertures;
+    ++Fins;
+  }
   TPoignee CeCreateFile(const QString& chemin) override {
     if (Pendant) Pendant();
     place_ = 0;
@@ -41,6 +44,7 @@ struct TLecteurEssai : ILienLecteur {
   bool Panne = false;
   std::function<void()> Pendant;  ///< while it is read
   int Ouvertures = 0;
+  int Fins = 0;
   int Fermes = 0;
   QString Chemin = QStringLiteral("\\Backup\\Presences\\Presences.txt");
   QByteArray Contenu;
@@ -154,6 +158,16 @@ TEST_F(FrmPresences, AFileByHandIsCorrectedAndStored) {
   EXPECT_EQ(Ecran.Etats.last(), kMemorisees) << "nothing is left to store";
 }
 
+TEST_F(FrmPresences, APupilWhoIsGoneIsNotCorrected) {
+  Base.Dialogues.Saisit(kImporter, Base.Fichier(QStringLiteral("scans.txt"), "11;1;20161004;110100000;2\n"))
+      .Attend(kAnomalies)
+      .Attend(kInexistant);
+  Form.Importerunfichierdeprsence1Click();
+  Globals.Eleves->RemoveEleve(*Globals.Eleves->TrouverParCode(QStringLiteral("11")));
+  Form.Corrigerlerelev1Click();
+  EXPECT_EQ(Form.Anomalies.NombreLignes(), 1);
+}
+
 TEST_F(FrmPresences, LeavingSaysWhatIsNotStored) {
   Importer("11;1;20161003;073015000;1\n11;1;20161004;073015000;1\n");
   EXPECT_TRUE(Form.Fermer());
@@ -195,7 +209,9 @@ TEST_F(FrmPresences, TheScannersFileIsCopiedStoredAndDeleted) {
   Form.btnImportScannerClick();
 
   Lecteur.Present = true;
+  EXPECT_EQ(Lecteur.Fins, 1) << "a link that could not be opened is ended too";
   Lecteur.Pendant = [&] {
+    EXPECT_FALSE(Form.Etape1Active());
     Form.btnImportScannerClick();
     Form.Importerunfichierdeprsence1Click();
     EXPECT_FALSE(Form.Fermer());

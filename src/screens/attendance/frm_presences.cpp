@@ -96,14 +96,12 @@ void TfrmPresences::btnImportScannerClick() {
   if (enCours_) return;
   const TAttente attente(contexte_.Dialogues());
   Vider();
-  ILienLecteur* lien = contexte_.Lecteur;
-  if (lien == nullptr || !lien->CeRapiInit()) {
+  if (!OuvrirLien()) {
     contexte_.Dialogues().Message(
         QStringLiteral("Veuillez vérifier si votre lecteur de code à barre est allumé et connecté à votre "
                        "ordinateur."));
     return;
   }
-  lienOuvert_ = true;
   try {
     ImporterDuLecteur();
   } catch (...) {
@@ -112,9 +110,19 @@ void TfrmPresences::btnImportScannerClick() {
   }
 }
 
+bool TfrmPresences::OuvrirLien() {
+  ILienLecteur* lien = contexte_.Lecteur;
+  if (lien == nullptr) return false;
+  lienOuvert_ = lien->CeRapiInit();
+  if (!lienOuvert_) lien->CeRapiUnInit();
+  return lienOuvert_;
+}
+
 void TfrmPresences::ImporterDuLecteur() {
   const QString local = Globals.DossierTemporaire + QStringLiteral("/Presences.txt");
-  if (!CopierDuLecteur(local)) {
+  const bool copie = CopierDuLecteur(local);
+  Annoncer();
+  if (!copie) {
     contexte_.Dialogues().Message(QStringLiteral("Aucune donnée à récupérer"));
     FermerLien();
   } else if (!QFile::exists(local)) {
@@ -127,6 +135,7 @@ void TfrmPresences::ImporterDuLecteur() {
 
 bool TfrmPresences::CopierDuLecteur(const QString& local) {
   const QScopedValueRollback enCours(enCours_, true);
+  Annoncer();
   TProgression progression(contexte_.Dialogues(), 1);
   progression.Avancer(0, kTelechargement);
   Signaler(TNiveauEtat::Neutre, kTelechargement);
@@ -228,7 +237,7 @@ void TfrmPresences::Compter() {
 void TfrmPresences::Corrigerlerelev1Click() {
   const int ligne = Anomalies.LigneCourante();
   const TPresence* presence = ligne < 0 ? nullptr : Anomalies.Ligne(ligne).Objet.En<TPresence>();
-  if (presence == nullptr) {
+  if (presence == nullptr || !import_.EstCorrigible(ligne)) {
     contexte_.Dialogues().Message(QStringLiteral("La correction ne peut se faire que sur un élève existant"));
     return;
   }

@@ -24,6 +24,7 @@ class TfrmPresences : public TForm {
   void ImporterTablette(const QString& chemin);
   void MemoriserTablette(const QString& chemin);
 
+  bool Etape1Active() const { return !enCours_; }
   bool Etape2Active() const { return import_.Pret(); }
   /// The button of step 1 is that of the scanner; else that of the FTP site.
   bool ScannerVisible() const { return scannerVisible_; }
@@ -61,6 +62,7 @@ class TfrmPresences : public TForm {
  private:
   enum class TSource { Scanner, Main, Ftp };
 
+  bool OuvrirLien();
   void ImporterDuLecteur();
   void Lire(TSource source, const QString& chemin, const QString& nom);
   void Vider();

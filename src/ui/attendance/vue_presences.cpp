@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "screens/attendance/frm_presences.h"
 #include "ui/commun/bouton.h"
@@ -142,10 +143,7 @@ void VuePresences::Disposer() {
 }
 
 void VuePresences::Actualiser() {
-  const bool pret = form_.Etape2Active();
-  DefinirGenre(*etape1_, pret ? TGenreBouton::Simple : TGenreBouton::Principal);
-  DefinirGenre(*etape2_, pret ? TGenreBouton::Principal : TGenreBouton::Simple);
-  etape2_->setEnabled(pret);
+  ActualiserEtapes();
   source_->setText(form_.TitreSource());
   changerSource_->setText(form_.TitreMenuImportation());
   fichier_->setText(form_.Fichier());
@@ -166,6 +164,17 @@ void VuePresences::Actualiser() {
     vide_->Montrer(QStringLiteral("Aucune présence à montrer"),
                    QStringLiteral("Importez-les depuis le scanner local ou un site distant (Etape n°1), ou "
                                   "choisissez « Importer un fichier de présence » sous Source."));
+}
+
+void VuePresences::ActualiserEtapes() {
+  const bool pret = form_.Etape2Active(), libre = form_.Etape1Active();
+  DefinirGenre(*etape1_, pret ? TGenreBouton::Simple : TGenreBouton::Principal);
+  DefinirGenre(*etape2_, pret ? TGenreBouton::Principal : TGenreBouton::Simple);
+  if (!libre && etape1_->hasFocus()) foyerARendre_ = true;
+  etape1_->setEnabled(libre);
+  source_->setEnabled(libre);
+  etape2_->setEnabled(pret);
+  if (libre && std::exchange(foyerARendre_, false)) etape1_->setFocus(Qt::OtherFocusReason);
 }
 
 void VuePresences::ActualiserComptes() {

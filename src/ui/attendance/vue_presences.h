@@ -30,6 +30,7 @@ class VuePresences : public QWidget {
   void CreerGrilles();
   void Disposer();
   void Actualiser();
+  void ActualiserEtapes();
   void ActualiserComptes();
   void MesurerAnomalies();
   void Importer();
@@ -51,4 +52,5 @@ class VuePresences : public QWidget {
   TitreSection* titreRecapitulatif_;
   VueGrille* recapitulatif_;
   EtatVide* vide_;
+  bool foyerARendre_ = false;  // step 1 had the focus when it was disabled
 };
