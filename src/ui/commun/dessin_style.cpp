@@ -145,6 +145,15 @@ void Case(QPainter& peintre, const QStyleOption& option, const QWidget* widget) 
         QPolygonF({QPointF(4.2 * u, 8.4 * u), QPointF(6.9 * u, 11 * u), QPointF(11.8 * u, 5.4 * u)}));
 }
 
+void CaseSeule(QPainter& peintre, const QStyleOptionButton& option, const QWidget* widget) {
+  const int cote = Theme::Px(16);
+  QStyleOptionButton copie = option;
+  copie.rect = QStyle::alignedRect(option.direction, Qt::AlignCenter, {cote, cote}, option.rect);
+  Case(peintre, copie, widget);
+  copie.rect.adjust(-3, -3, 3, 3);
+  if (A(option, QStyle::State_HasFocus)) Foyer(peintre, copie, widget);
+}
+
 void Choix(QPainter& peintre, const QStyleOption& option, const QWidget* widget) {
   const bool lecture = widget && widget->property("lectureSeule").toBool();
   const bool actif = A(option, QStyle::State_Enabled) && !lecture, choisi = A(option, QStyle::State_On);

@@ -22,6 +22,8 @@ void ListeFermee(QPainter& peintre, const QStyleOption& option);
 void Outil(QPainter& peintre, const QStyleOption& option);
 void Foyer(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
 void Case(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
+/// A box without words stands in the middle of its cell, and so does the focus.
+void CaseSeule(QPainter& peintre, const QStyleOptionButton& option, const QWidget* widget);
 void Choix(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
 /// `demi` is half the width of the arrow, at 10 points.
 void Fleche(QPainter& peintre, const QRect& place, Qt::ArrowType sens, const QColor& couleur, int demi);

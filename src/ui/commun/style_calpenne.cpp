@@ -113,17 +113,9 @@ void StyleCalpenne::drawControl(ControlElement element, const QStyleOption* opti
       }
       break;
     case CE_CheckBox:
-      // A box without words stands in the middle of its cell, and so does the focus.
       if (const auto* boite = qstyleoption_cast<const QStyleOptionButton*>(option);
-          boite && boite->text.isEmpty()) {
-        const int cote = Theme::Px(16);
-        QStyleOptionButton copie = *boite;
-        copie.rect = alignedRect(option->direction, Qt::AlignCenter, {cote, cote}, option->rect);
-        Case(*peintre, copie, widget);
-        copie.rect.adjust(-3, -3, 3, 3);
-        if (option->state & State_HasFocus) Foyer(*peintre, copie, widget);
-        return;
-      }
+          boite && boite->text.isEmpty())
+        return CaseSeule(*peintre, *boite, widget);
       break;
     case CE_MenuItem:
       if (const auto* entree = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
