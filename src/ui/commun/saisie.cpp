@@ -142,7 +142,8 @@ void SaisieDate::MontrerFleche(bool montrer) {
 }
 
 void SaisieDate::PlacerFleche() {
-  const int cote = height() - 4;
+  // Before its first layout a widget is 480 high, and the margin counts in the width it asks for.
+  const int cote = std::min(height(), Theme::Px(28)) - 4;
   fleche_->setGeometry(width() - cote - 2, 2, cote, cote);
   setTextMargins(0, 0, fleche_->isHidden() ? 0 : cote, 0);
 }
