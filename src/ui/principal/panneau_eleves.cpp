@@ -85,9 +85,7 @@ PanneauEleves::PanneauEleves(TFrmMain& form, QWidget* parent)
   CreerRecherche();
   CreerArbre();
   vide_ = new Etiquette({}, TRole::Texte, &Theme::Gras);
-  phrase_ = new Etiquette(
-      QStringLiteral("Importez l'export du registre SIEL pour créer les classes et les élèves."),
-      TRole::Secondaire);
+  phrase_ = new Etiquette({}, TRole::Secondaire);
   sansEleve_ = new QWidget;
   auto* textes = new QVBoxLayout(sansEleve_);
   textes->setContentsMargins(0, Theme::Px(24), 0, 0);
@@ -191,7 +189,13 @@ void PanneauEleves::Actualiser() {
   arbre_->setEnabled(actif);
   sansEleve_->setVisible(vide);
   compte_->setVisible(form_.EstRelie() && !vide);
-  if (vide) vide_->setText(u"Aucun élève en " % AnneeEnTexte(form_.AnneeCochee()));
+  if (vide) {
+    vide_->setText(u"Aucun élève en " % AnneeEnTexte(form_.AnneeCochee()));
+    phrase_->setText(
+        form_.AnneeCochee() == Globals.AnneeScolaire
+            ? QStringLiteral("Importez l'export du registre SIEL pour créer les classes et les élèves.")
+            : QStringLiteral("Le menu des années (Ctrl+0) montre les autres."));
+  }
   QString compte = QString::number(eleves) % (eleves > 1 ? u" élèves" : u" élève");
   if (radies > 0) compte += u", dont " % QString::number(radies) % (radies > 1 ? u" radiés" : u" radié");
   compte_->setText(compte);
