@@ -182,6 +182,7 @@ TEST_F(FrmPresences, ABadFileLeavesNothingToStore) {
   EXPECT_EQ(Form.Recapitulatif.NombreLignes(), 0);
   EXPECT_FALSE(Form.Etape2Active());
   EXPECT_EQ(Comptes(), u"1 1 0 1 ?");
+  EXPECT_EQ(Ecran.Etats.last(), u"Fichier refusé : scans.txt");
   EXPECT_THROW(Importer(""), Exception);
 }
 
@@ -234,6 +235,7 @@ TEST_F(FrmPresences, TheScannersFileIsCopiedStoredAndDeleted) {
   // Nothing to fetch, then a link that breaks, then a malformed file: the link is closed each time.
   Base.Dialogues.Attend(erreur).Attend(erreur).Attend(QStringLiteral("Aucune donnée à récupérer"));
   Form.btnImportScannerClick();
+  EXPECT_EQ(Ecran.Etats.last(), u"Aucune donnée à récupérer") << "nothing is read any more";
   Lecteur.Chemin = QStringLiteral("\\StorageCard\\Presences\\Presences.txt");
   Lecteur.Panne = true;
   Base.Dialogues.Attend(erreur + u"Unable to read data")

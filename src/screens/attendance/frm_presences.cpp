@@ -122,15 +122,18 @@ void TfrmPresences::ImporterDuLecteur() {
   const QString local = Globals.DossierTemporaire + QStringLiteral("/Presences.txt");
   const bool copie = CopierDuLecteur(local);
   Annoncer();
-  if (!copie) {
-    contexte_.Dialogues().Message(QStringLiteral("Aucune donnée à récupérer"));
-    FermerLien();
-  } else if (!QFile::exists(local)) {
-    contexte_.Dialogues().Message(QStringLiteral("Aucune données à récupérer !"));
-    FermerLien();
-  } else {
+  if (!copie)
+    RienARecuperer(QStringLiteral("Aucune donnée à récupérer"));
+  else if (!QFile::exists(local))
+    RienARecuperer(QStringLiteral("Aucune données à récupérer !"));
+  else
     Lire(TSource::Scanner, local, QStringLiteral("Fichier du lecteur"));
-  }
+}
+
+void TfrmPresences::RienARecuperer(const QString& texte) {
+  Signaler(TNiveauEtat::Alerte, texte);
+  contexte_.Dialogues().Message(texte);
+  FermerLien();
 }
 
 bool TfrmPresences::CopierDuLecteur(const QString& local) {
@@ -193,10 +196,15 @@ void TfrmPresences::Vider() {
 }
 
 void TfrmPresences::Lire(TSource source, const QString& chemin, const QString& nom) {
-  if (source == TSource::Scanner)
-    import_.ImporterScanner(chemin);
-  else
-    import_.ImporterTablette(chemin);
+  try {
+    if (source == TSource::Scanner)
+      import_.ImporterScanner(chemin);
+    else
+      import_.ImporterTablette(chemin);
+  } catch (const Exception&) {
+    Signaler(TNiveauEtat::Erreur, QString(u"Fichier refusé : " % QFileInfo(chemin).fileName()));
+    throw;
+  }
   source_ = source;
   fichier_ = nom;
   lu_ = true;

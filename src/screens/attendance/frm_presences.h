@@ -64,6 +64,7 @@ class TfrmPresences : public TForm {
 
   bool OuvrirLien();
   void ImporterDuLecteur();
+  void RienARecuperer(const QString& texte);
   void Lire(TSource source, const QString& chemin, const QString& nom);
   void Vider();
   void Afficher();

@@ -158,8 +158,11 @@ void VuePresences::Actualiser() {
   corriger_->setEnabled(form_.PeutCorriger());
   titreRecapitulatif_->DefinirNote(form_.NoteRecapitulatif());
   MesurerAnomalies();
-  if (form_.FichierLu())
+  if (form_.Recapitulatif.NombreLignes() > 0)
     vide_->Cacher();
+  else if (form_.FichierLu())
+    vide_->Montrer(QStringLiteral("Aucun relevé bon dans ce fichier"),
+                   QStringLiteral("Corrigez les anomalies, ou importez un autre fichier."));
   else
     vide_->Montrer(QStringLiteral("Aucune présence à montrer"),
                    QStringLiteral("Importez-les depuis le scanner local ou un site distant (Etape n°1), ou "
@@ -168,7 +171,7 @@ void VuePresences::Actualiser() {
 
 void VuePresences::ActualiserEtapes() {
   const bool pret = form_.Etape2Active(), libre = form_.Etape1Active();
-  DefinirGenre(*etape1_, pret ? TGenreBouton::Simple : TGenreBouton::Principal);
+  DefinirGenre(*etape1_, libre && !pret ? TGenreBouton::Principal : TGenreBouton::Simple);
   DefinirGenre(*etape2_, pret ? TGenreBouton::Principal : TGenreBouton::Simple);
   if (!libre && etape1_->hasFocus()) foyerARendre_ = true;
   etape1_->setEnabled(libre);
