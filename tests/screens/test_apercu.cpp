@@ -188,6 +188,7 @@ TEST_F(Apercu, SavedAndOpenedAgain) {
   EXPECT_TRUE(rouvert.Complet());
   EXPECT_EQ(Texte(rouvert.Document()), texte);
   EXPECT_EQ(Entrees(rouvert), entrees);
+  EXPECT_EQ(rouvert.TitreNavigateur(), u"4 factures"_s) << "its classes are no invoices";
   EXPECT_FALSE(rouvert.PapierModifiable()) << "its data are not in the file";
 
   base.Dialogues.Saisit(u"Ouvrir un rapport"_s, base.Fichier(u"faux.rap"_s, "rien"));

@@ -311,6 +311,11 @@ TEST_F(DocumentsVues, NavigatorPagesAndPaper) {
   EXPECT_EQ(form.PageCourante(), 1);
   for (int i = 0; i < 2; ++i) QTest::keyClick(vue.Pages(), Qt::Key_PageUp);
   EXPECT_EQ(form.PageCourante(), 0);
+  form.Zoomer(TModeZoom::Largeur);
+  auto* zoom = vue.findChild<QComboBox*>();
+  zoom->setFocus();
+  vue.Pages()->setFocus();
+  EXPECT_EQ(form.ModeZoom(), TModeZoom::Largeur) << "the field was only passed through";
   EXPECT_TRUE(TextesDe(vue).contains(u"A4, portrait"_s));
   programme.Dialogues.Fait(u"Mise en page"_s, [](QWidget& fenetre) {
     Choisir(fenetre, u"Paysage"_s);

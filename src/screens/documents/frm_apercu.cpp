@@ -84,7 +84,7 @@ void TFrmApercu::Remettre() {
   miseEnPage_.reset();
   document_ = {};
   navigateur_.clear();
-  pagesSuivies_ = signets_ = page_ = 0;
+  pagesSuivies_ = signets_ = niveauSignets_ = page_ = 0;
   recherche_.Commencer({});
   choixAttendu_ = false;
   ++version_;
@@ -127,7 +127,10 @@ void TFrmApercu::Suivre() {
   for (; pagesSuivies_ < pages; ++pagesSuivies_)
     for (const TSignet& signet : Document().Pages[static_cast<std::size_t>(pagesSuivies_)].Signets) {
       navigateur_.push_back({signet.Texte, signet.Niveau, pagesSuivies_});
-      if (signet.Niveau > 0 || !impression_.SignetsParClasse) ++signets_;
+      // Documents are the entries of the lowest level, also in a saved report, whose classes nobody tells.
+      if (signet.Niveau > niveauSignets_) signets_ = 0;
+      niveauSignets_ = std::max(niveauSignets_, signet.Niveau);
+      if (signet.Niveau == niveauSignets_) ++signets_;
     }
   if (Complet() && navigateur_.empty())
     for (int page = 0; page < pages; ++page)

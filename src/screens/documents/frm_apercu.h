@@ -129,6 +129,7 @@ class TFrmApercu : public TForm {
   std::vector<TEntreeNavigateur> navigateur_;
   int pagesSuivies_ = 0;  ///< whose bookmarks are in the navigator
   int signets_ = 0;       ///< of the lowest level
+  int niveauSignets_ = 0;
   int page_ = 0;
   int version_ = 0;
   TModeZoom modeZoom_ = TModeZoom::Facteur;

@@ -219,7 +219,10 @@ void PagesApercu::keyPressEvent(QKeyEvent* evenement) {
 
 void PagesApercu::wheelEvent(QWheelEvent* evenement) {
   if (!(evenement->modifiers() & Qt::ControlModifier)) return QAbstractScrollArea::wheelEvent(evenement);
-  if (evenement->angleDelta().y() > 0) form_.ZoomPlus();
-  if (evenement->angleDelta().y() < 0) form_.ZoomMoins();
+  // A touch pad tells small parts of a notch.
+  constexpr int kCran = QWheelEvent::DefaultDeltasPerStep;
+  molette_ += evenement->angleDelta().y();
+  for (; molette_ >= kCran; molette_ -= kCran) form_.ZoomPlus();
+  for (; molette_ <= -kCran; molette_ += kCran) form_.ZoomMoins();
   evenement->accept();
 }

@@ -40,5 +40,6 @@ class PagesApercu : public QAbstractScrollArea {
   double echelle_ = 0.0;
   int version_ = -1;
   bool enCours_ = false;        ///< the program itself scrolls
+  int molette_ = 0;             ///< part of a notch turned with Ctrl
   QCache<int, QImage> images_;  ///< by page; costs are KiB
 };

@@ -13,6 +13,7 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTreeWidget>
+#include <algorithm>
 
 #include "screens/documents/frm_apercu.h"
 #include "ui/commun/bouton.h"
@@ -30,7 +31,6 @@ constexpr int kIconeBarre = 22;
 }  // namespace
 
 VueApercu::VueApercu(TFrmApercu& form, QWidget* parent) : QDialog(parent), form_(form) {
-  setWindowTitle(u"Aperçu : " % form_.Document().Titre);
   setWindowFlags(Qt::Window | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint);
   setWindowState(Qt::WindowMaximized);
   auto* colonne = new QVBoxLayout(this);
@@ -148,10 +148,14 @@ void VueApercu::CreerZoom(QHBoxLayout& ligne) {
   connect(plus, &QPushButton::clicked, this, [this] { form_.ZoomPlus(); });
   connect(largeur, &QPushButton::clicked, this, [this] { form_.Zoomer(TModeZoom::Page); });
   const auto lire = [this] {
+    zoom_->lineEdit()->setModified(false);
     if (!form_.ZoomerTexte(zoom_->currentText())) Rafraichir();
   };
   connect(zoom_, &QComboBox::activated, this, lire);
-  connect(zoom_->lineEdit(), &QLineEdit::editingFinished, this, lire);
+  // Leaving the field must not turn "Largeur" into the percentage that it shows.
+  connect(zoom_->lineEdit(), &QLineEdit::editingFinished, this, [this, lire] {
+    if (zoom_->lineEdit()->isModified()) lire();
+  });
 }
 
 void VueApercu::CreerRecherche(QHBoxLayout& ligne) {
@@ -190,6 +194,7 @@ QWidget* VueApercu::CreerNavigateur() {
   arbre_->setUniformRowHeights(true);
   arbre_->setAllColumnsShowFocus(true);
   arbre_->setRootIsDecorated(false);
+  arbre_->setIndentation(Theme::Px(12));
   arbre_->setAccessibleName(QStringLiteral("Navigateur"));
   arbre_->header()->setStretchLastSection(false);
   arbre_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
@@ -223,7 +228,11 @@ QWidget* VueApercu::CreerPied() {
   page_->setValidator(new QIntValidator(1, 99999, page_));
   page_->setFixedWidth(Theme::Px(48));
   page_->setAccessibleName(QStringLiteral("Page"));
-  connect(page_, &QLineEdit::editingFinished, this, [this] { form_.AllerPage(page_->text().toInt() - 1); });
+  connect(page_, &QLineEdit::editingFinished, this, [this] {
+    if (!page_->isModified()) return;
+    page_->setModified(false);
+    form_.AllerPage(page_->text().toInt() - 1);
+  });
   sur_ = new Etiquette;
   ligne->addWidget(new Etiquette(QStringLiteral("Page")));
   ligne->addWidget(page_);
@@ -283,8 +292,8 @@ void VueApercu::Plier() {
 }
 
 void VueApercu::keyPressEvent(QKeyEvent* evenement) {
-  if (evenement->key() == Qt::Key_PageDown || evenement->key() == Qt::Key_PageUp)
-    return pages_->keyPressEvent(evenement);
+  constexpr Qt::Key kDesPages[] = {Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Home, Qt::Key_End};
+  if (std::ranges::count(kDesPages, evenement->key()) > 0) return pages_->keyPressEvent(evenement);
   // No button answers Enter: a press too many must not print.
   if (evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter) return;
   QDialog::keyPressEvent(evenement);
@@ -311,13 +320,15 @@ void VueApercu::Rafraichir() {
   RafraichirPied();
   papier_->setEnabled(form_.PapierModifiable());
   const QSignalBlocker bloqueur(zoom_);
-  zoom_->setEditText(form_.TexteZoom());
+  if (!zoom_->lineEdit()->hasFocus() || !zoom_->lineEdit()->isModified())
+    zoom_->setEditText(form_.TexteZoom());
   trouve_->setText(form_.TexteRecherche());
 }
 
 void VueApercu::RafraichirNavigateur() {
   const QSignalBlocker bloqueur(arbre_);
   if (version_ != form_.Version()) {
+    setWindowTitle(u"Aperçu : " % form_.Document().Titre);
     const int nombre = static_cast<int>(form_.Navigateur().size());
     if (nombre < static_cast<int>(entrees_.size()) || !form_.Complet()) {
       arbre_->clear();
