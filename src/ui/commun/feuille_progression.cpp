@@ -40,6 +40,7 @@ void FeuilleProgression::Demarrer(const QString& titre, int total, const QString
   barre_->setAccessibleName(titre);
   barre_->setRange(0, total);
   libelle_->setText(libelle);
+  libelle_->setVisible(!libelle.isEmpty());
   note_->setText(note);
   Avancer(0, {});
   barre_->show();

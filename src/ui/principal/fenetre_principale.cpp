@@ -190,7 +190,8 @@ void FenetrePrincipale::Progresser(int fait, int total, const QString& nom) {
     auto* sienne = vue != nullptr ? vue->findChild<FeuilleProgression*>() : nullptr;
     feuilleEnCours_ = sienne != nullptr ? sienne : feuille_;
     feuilleOuverte_ = feuilleEnCours_->isHidden();
-    if (feuilleOuverte_) feuilleEnCours_->Demarrer(QStringLiteral("Travail en cours"), total);
+    // One step says nothing of how long it takes.
+    if (feuilleOuverte_) feuilleEnCours_->Demarrer(QStringLiteral("Travail en cours"), total > 1 ? total : 0);
   }
   if (total > 0 && feuilleEnCours_) feuilleEnCours_->Avancer(fait, nom);
   if (total <= 0 && feuilleEnCours_ && feuilleOuverte_) feuilleEnCours_->Terminer();
