@@ -235,10 +235,11 @@ TBilanRegistre TImportRegistre::Etape2() {
 /// The failure of a row, with the line of the file and the pupil's name.
 QString TImportRegistre::Situer(int ligne, const Exception& e) {
   ligneRefusee_ = ligne;
-  return QStringLiteral(
-             "Ligne %1 du fichier (%2 %3) : %4\nLes élèves des lignes qui précèdent sont enregistrés.")
-      .arg(NumeroLigne(ligne))
-      .arg(Champ(ligne, disposition_.Nom), Champ(ligne, disposition_.Prenom), e.Message);
+  const QString nom =
+      QString(Champ(ligne, disposition_.Nom) % u' ' % Champ(ligne, disposition_.Prenom)).trimmed();
+  return u"Ligne " % QString::number(NumeroLigne(ligne)) % u" du fichier" %
+         (nom.isEmpty() ? QString() : QString(u" (" % nom % u')')) % u" : " % e.Message %
+         u"\nLes élèves des lignes qui précèdent sont enregistrés.";
 }
 
 void TImportRegistre::TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan) {
