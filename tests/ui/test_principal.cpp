@@ -18,6 +18,7 @@
 #include "ui/principal/panneau_eleves.h"
 #include "ui/principal/vue_accueil.h"
 #include "ui/programme_essai.h"
+#include "ui/verifier_vue.h"
 
 namespace {
 
@@ -298,6 +299,27 @@ TEST_F(Principal, FirstUseLeadsToTheImport) {
   Programme.Main().mnuAnneeClick(2016);
   EXPECT_FALSE(Fenetre().Accueil()->isVisible());
   EXPECT_TRUE(Recherche()->isEnabled());
+}
+
+TEST_F(Principal, EveryControlOfTheWindowIsNamedReachedAndWhole) {
+  Partout([&] {
+    SCOPED_TRACE("first use");
+    Programme.Demarrer();
+    EXPECT_TRUE(Fenetre().Accueil()->isVisible());
+    VerifierVue(Fenetre());
+    Programme.Fermer();
+  });
+  PetiteEcole(Programme);
+  Partout([&] {
+    Programme.Demarrer();
+    VerifierVue(Fenetre());
+    SCOPED_TRACE("a pupil chosen");
+    QTest::keyClicks(Recherche(), QStringLiteral("dub"));
+    Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
+    EXPECT_EQ(Globals.EleveCourant->Nom, u"Dubois");
+    VerifierVue(Fenetre());
+    Programme.Fermer();
+  });
 }
 
 TEST_F(Principal, LongWorkKeepsTheWindowShutAndAlive) {

@@ -14,6 +14,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMetaObject>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -131,12 +132,13 @@ QStringList FautesDeVue(QWidget& vue) {
   const bool dialogue = qobject_cast<QDialog*>(&vue) != nullptr;
   QStringList fautes;
   if (!dialogue) {
+    const QSize place = qobject_cast<QMainWindow*>(&vue) ? vue.minimumSize() : kContenu;
     const QSize moindre = vue.minimumSizeHint();
     if (QApplication::font().pointSize() <= 10 &&
-        (moindre.width() > kContenu.width() || moindre.height() > kContenu.height()))
+        (moindre.width() > place.width() || moindre.height() > place.height()))
       fautes +=
           QStringLiteral("plus grand que la place : %1 x %2").arg(moindre.width()).arg(moindre.height());
-    vue.resize(kContenu);
+    vue.resize(place);
   }
   vue.show();
   QApplication::setActiveWindow(vue.window());
@@ -160,16 +162,19 @@ void VerifierVue(QWidget& vue) {
   for (const QString& faute : FautesDeVue(vue)) ADD_FAILURE() << faute.toStdString();
 }
 
-void VerifierVuePartout(const std::function<std::unique_ptr<QWidget>()>& creer) {
+void Partout(const std::function<void()>& verifier) {
   for (const Theme::TMode mode : {Theme::TMode::Clair, Theme::TMode::Sombre})
     for (const int points : {10, 15}) {
       SCOPED_TRACE(testing::Message()
                    << (mode == Theme::TMode::Clair ? "clair, " : "sombre, ") << points << " points");
       QApplication::setFont(PoliceEssai(points));
       Theme::Appliquer(*qApp, mode);
-      const std::unique_ptr<QWidget> vue = creer();
-      VerifierVue(*vue);
+      verifier();
     }
   QApplication::setFont(PoliceEssai(10));
   Theme::Appliquer(*qApp, Theme::TMode::Clair);
+}
+
+void VerifierVuePartout(const std::function<std::unique_ptr<QWidget>()>& creer) {
+  Partout([&] { VerifierVue(*creer()); });
 }

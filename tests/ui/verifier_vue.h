@@ -14,8 +14,12 @@ QFont PoliceEssai(double points);
 /// text. Shows the view.
 QStringList FautesDeVue(QWidget& vue);
 
-/// The test fails for each fault. A view of the content panel gets the room of the smallest window.
+/// The test fails for each fault. A view of the content panel gets the room of the smallest window, a
+/// main window its own smallest size.
 void VerifierVue(QWidget& vue);
 
-/// The same in light and dark and at 10 and 15 points; the view is made anew for each.
+/// Runs the check in light and dark and at 10 and 15 points.
+void Partout(const std::function<void()>& verifier);
+
+/// VerifierVue in all of them; the view is made anew for each.
 void VerifierVuePartout(const std::function<std::unique_ptr<QWidget>()>& creer);

@@ -15,8 +15,9 @@ struct TEtapeAccueil {
   QString Explication;
   QString Bouton;
   bool Faite;
-  bool Possible;   ///< its screen can be opened
-  bool Prochaine;  ///< the first one that is left and possible
+  bool Possible;           ///< its screen can be opened
+  QString RaisonInactive;  ///< why not, or ""
+  bool Prochaine;          ///< the first one that is left and possible
 };
 
 /// The main window: pages and commands, the pupil tree and its search, the menu of years, and the

@@ -158,6 +158,7 @@ std::vector<TEtapeAccueil> TFrmMain::Etapes() const {
                          QString::fromUtf16(bouton),
                          faite,
                          CommandeActive(Commande(gestionnaire)),
+                         RaisonInactive(Commande(gestionnaire)),
                          false};
   };
   std::vector<TEtapeAccueil> etapes{

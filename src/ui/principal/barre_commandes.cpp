@@ -56,7 +56,7 @@ BarreCommandes::BarreCommandes(TFrmMain& form, QWidget* parent) : QWidget(parent
   onglets->setSpacing(0);
   CreerOnglets(*onglets);
   auto* commandes = new QHBoxLayout;
-  commandes->setContentsMargins(Theme::Px(8), 0, Theme::Px(8), 0);
+  commandes->setContentsMargins(Theme::Px(8), Theme::Px(6), Theme::Px(8), Theme::Px(6));
   commandes->setSpacing(Theme::Px(6));
   CreerCommandes(*commandes);
   CreerOutils(*commandes);

@@ -5,16 +5,28 @@
 #include "ui/commun/etiquette.h"
 #include "ui/commun/marque_etat.h"
 
+namespace {
+
+constexpr int kIcone = 32;
+constexpr int kEcart = 16;
+
+/// Larger than a text, lighter than a heading.
+QFont Chapeau() {
+  QFont police = Theme::TitreSection();
+  police.setWeight(QFont::Normal);
+  return police;
+}
+
+}  // namespace
+
 /// A step: icon, what it is, whether it is done, and its button.
 class VueAccueil::Ligne : public QWidget {
  public:
   Ligne(TFrmMain& form, const TEtapeAccueil& etape, int numero)
-      : etat_(new MarqueEtat), bouton_(BoutonSimple(etape.Bouton)) {
+      : premiere_(numero == 1), etat_(new MarqueEtat), bouton_(BoutonSimple(etape.Bouton)) {
     const auto commande = std::find_if(form.Commandes.begin(), form.Commandes.end(),
                                        [&](const auto& c) { return c.Gestionnaire == etape.Gestionnaire; });
-    auto* image = new QLabel;
-    const QSize cote(Theme::Px(32), Theme::Px(32));
-    image->setPixmap(Theme::Icone(commande->Icone, TRole::Accent).pixmap(cote, devicePixelRatioF()));
+    icone_ = commande->Icone;
     auto* titre =
         new Etiquette(QString::number(numero) % u".  " % etape.Titre, TRole::Texte, &Theme::TitreSection);
     auto* explication = new Etiquette(etape.Explication, TRole::Secondaire);
@@ -24,27 +36,27 @@ class VueAccueil::Ligne : public QWidget {
     textes->addWidget(titre);
     textes->addWidget(explication);
     auto* ligne = new QHBoxLayout(this);
-    ligne->setContentsMargins(0, Theme::Px(16), 0, Theme::Px(16));
-    ligne->setSpacing(Theme::Px(16));
-    ligne->addWidget(image);
+    ligne->setContentsMargins(Theme::Px(kIcone + kEcart), Theme::Px(kEcart), 0, Theme::Px(kEcart));
+    ligne->setSpacing(Theme::Px(kEcart));
     ligne->addLayout(textes, 1);
     ligne->addWidget(etat_);
     ligne->addWidget(bouton_);
     etat_->setFixedWidth(Theme::Px(108));
-    bouton_->setFixedWidth(Theme::Px(176));
+    bouton_->setMinimumWidth(Theme::Px(176));
     bouton_->setAccessibleName(etape.Titre % u" : " % etape.Bouton);
     connect(bouton_, &QPushButton::clicked, this,
             [&form, quoi = etape.Gestionnaire] { form.Executer(quoi); });
   }
 
   void Actualiser(const TEtapeAccueil& etape) {
+    faite_ = etape.Faite;
     etat_->Definir(etape.Faite ? QStringLiteral("dialog-ok-apply") : QStringLiteral("data-information"),
                    etape.Faite ? QStringLiteral("Fait") : QStringLiteral("À faire"));
     DefinirGenre(*bouton_, etape.Prochaine ? TGenreBouton::Principal : TGenreBouton::Simple);
     bouton_->setEnabled(etape.Possible);
-    bouton_->setToolTip(etape.Possible ? QString()
-                                       : QStringLiteral("Pas encore disponible dans cette version"));
+    bouton_->setToolTip(etape.RaisonInactive);
     prochaine_ = etape.Prochaine;
+    update();
   }
 
   bool EstProchaine() const { return prochaine_; }
@@ -53,47 +65,69 @@ class VueAccueil::Ligne : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter peintre(this);
+    const int cote = Theme::Px(kIcone);
+    Theme::Icone(icone_, faite_ ? TRole::Secondaire : TRole::Accent)
+        .paint(&peintre, 0, (height() - cote) / 2, cote, cote);
     peintre.setPen(Theme::Ligne());
-    peintre.drawLine(0, height() - 1, width(), height() - 1);
+    if (!premiere_) peintre.drawLine(0, 0, width(), 0);
   }
 
  private:
+  bool premiere_;
+  QString icone_;
   MarqueEtat* etat_;
   QPushButton* bouton_;
+  bool faite_ = false;
   bool prochaine_ = false;
 };
 
 VueAccueil::VueAccueil(TFrmMain& form, QWidget* parent)
-    : QWidget(parent), form_(form), place_(new QVBoxLayout) {
+    : QScrollArea(parent),
+      form_(form),
+      titre_(new Etiquette({}, TRole::Texte, &Theme::TitreAccueil)),
+      phrase_(new Etiquette({}, TRole::Secondaire, &Chapeau)),
+      place_(new QVBoxLayout) {
+  setWidgetResizable(true);
+  setFrameShape(NoFrame);
+  setFocusPolicy(Qt::NoFocus);
   auto* colonne = new QVBoxLayout;
+  colonne->setContentsMargins(0, 0, 0, 0);
   colonne->setSpacing(Theme::Px(8));
-  colonne->addWidget(
-      new Etiquette(QStringLiteral("Bienvenue dans Calpenne"), TRole::Texte, &Theme::TitreAccueil));
-  colonne->addWidget(new Etiquette(
-      QStringLiteral("La base est prête et ne contient encore aucun élève. Voici par où commencer."),
-      TRole::Secondaire, &Theme::TitreSection));
-  colonne->addSpacing(Theme::Px(24));
-  place_->setSpacing(0);
-  colonne->addLayout(place_);
-  colonne->addSpacing(Theme::Px(24));
   auto* note =
       new Etiquette(QStringLiteral("Les tarifs et les frais peuvent être encodés ou corrigés plus tard : "
                                    "les montants sont recalculés à chaque demande."),
                     TRole::Secondaire);
-  note->setWordWrap(true);
+  for (Etiquette* texte : {phrase_, note}) texte->setWordWrap(true);
+  colonne->addWidget(titre_);
+  colonne->addWidget(phrase_);
+  colonne->addSpacing(Theme::Px(24));
+  place_->setSpacing(0);
+  colonne->addLayout(place_);
+  colonne->addSpacing(Theme::Px(16));
   colonne->addWidget(note);
   colonne->addStretch();
   auto* cadre = new QWidget;
   cadre->setLayout(colonne);
-  colonne->setContentsMargins(0, 0, 0, 0);
   cadre->setMaximumWidth(Theme::Px(880));
-  auto* ligne = new QHBoxLayout(this);
+  auto* page = new QWidget;
+  auto* ligne = new QHBoxLayout(page);
   ligne->setContentsMargins(Theme::Px(48), Theme::Px(40), Theme::Px(48), Theme::Px(16));
   ligne->addWidget(cadre, 1);
   ligne->addStretch();
+  setWidget(page);
 }
 
 void VueAccueil::Actualiser() {
+  const int affichee = form_.AnneeCochee(), travail = Globals.AnneeScolaire;
+  if (affichee == travail) {
+    titre_->setText(QStringLiteral("Bienvenue dans Calpenne"));
+    phrase_->setText(
+        QStringLiteral("La base est prête et ne contient encore aucun élève. Voici par où commencer."));
+  } else {
+    titre_->setText(u"Aucun élève en " % AnneeEnTexte(affichee));
+    phrase_->setText(u"L'importation remplit l'année de travail, " % AnneeEnTexte(travail) %
+                     u". Pour revoir une autre année : le menu des années (Ctrl+0).");
+  }
   const std::vector<TEtapeAccueil> etapes = form_.Etapes();
   for (std::size_t i = lignes_.size(); i < etapes.size(); ++i) {
     lignes_.push_back(new Ligne(form_, etapes[i], static_cast<int>(i) + 1));

@@ -1,11 +1,13 @@
 #pragma once
-#include <QWidget>
+#include <QScrollArea>
 
+class Etiquette;
 class QVBoxLayout;
 class TFrmMain;
 
 /// What a school does first, while the year has no pupil: four lines, each with state and button.
-class VueAccueil : public QWidget {
+/// On another year than the working one it says so: the import goes to the working year.
+class VueAccueil : public QScrollArea {
   Q_OBJECT
  public:
   explicit VueAccueil(TFrmMain& form, QWidget* parent = nullptr);
@@ -18,6 +20,8 @@ class VueAccueil : public QWidget {
   class Ligne;
 
   TFrmMain& form_;
+  Etiquette* titre_;
+  Etiquette* phrase_;
   QVBoxLayout* place_;
   std::vector<Ligne*> lignes_;
 };
