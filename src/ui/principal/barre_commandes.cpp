@@ -113,7 +113,6 @@ void BarreCommandes::CreerOutils(QHBoxLayout& ligne) {
   for (const TOutilPrincipal& outil : OutilsPrincipaux()) {
     const TRole role = outil.Outil == TOutil::btnDelete ? TRole::Erreur : TRole::Texte;
     auto* bouton = new BoutonCommande(outil.Libelle, outil.Icone, role);
-    bouton->setToolTip(outil.Libelle % u" (" % outil.Touche % u')');
     connect(bouton, &QToolButton::clicked, this, [this, quoi = outil.Outil] { form_.OutilClick(quoi); });
     ligne.addWidget(bouton);
     outils_[outil.Outil] = bouton;
@@ -139,10 +138,15 @@ void BarreCommandes::Actualiser() {
                        (raison.isEmpty() ? ToucheAlt(commande.Libelle) : QString(u" : " % raison)));
   }
   bool unOutil = false;
-  for (const auto& [outil, bouton] : outils_) {
-    unOutil = unOutil || form_.OutilVisible(outil);
-    bouton->setVisible(form_.OutilVisible(outil));
-    bouton->setEnabled(form_.OutilActif(outil));
+  for (const TOutilPrincipal& outil : OutilsPrincipaux()) {
+    QToolButton* bouton = outils_.at(outil.Outil);
+    const bool visible = form_.OutilVisible(outil.Outil), actif = form_.OutilActif(outil.Outil);
+    unOutil = unOutil || visible;
+    bouton->setVisible(visible);
+    bouton->setEnabled(actif);
+    bouton->setToolTip(outil.Libelle % (actif               ? QString(u" (" % outil.Touche % u')')
+                                        : form_.EnTravail() ? QStringLiteral(" : un travail est en cours")
+                                                            : QStringLiteral(" : pas sur cet écran")));
   }
   separateur_->setVisible(unOutil);
   annees_->setVisible(!form_.IntituleAnnee().isEmpty());
