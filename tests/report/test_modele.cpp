@@ -83,6 +83,8 @@ TEST_F(Modele, RefuseAvecFichierLigneEtRaison) {
                u"essai.xml, ligne 3 : la procédure « Rien » n'existe pas dans le script."_s},
           TCas{Page("<bande sorte=\"resume\" nom=\"R\"><sousRapport>P</sousRapport></bande>"),
                u"essai.xml, ligne 3 : aucune page n'est le sous-rapport « P »."_s},
+          TCas{Page("<bande sorte=\"piedPage\" nom=\"F\"><sousRapport>P</sousRapport></bande>"),
+               u"essai.xml, ligne 3 : la bande « F » ne peut pas avoir de sous-rapport."_s},
           TCas{Page("<bande sorte=\"resume\" nom=\"R\"><image\nfichier=\"absente.png\"/></bande>"),
                u"essai.xml, ligne 4 : l'image « absente.png » manque."_s},
           TCas{Page("<bande sorte=\"resume\" nom=\"R\"><image fichier=\"abimee.png\"/></bande>"),

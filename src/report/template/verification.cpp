@@ -84,7 +84,7 @@ class TVerification {
     for (const TObjetModele& objet : bande.Objets) {
       Nom(objet, objet.Sorte);
       Procedure(objet);
-      SousRapport(objet);
+      SousRapport(bande, objet);
     }
   }
 
@@ -119,8 +119,13 @@ class TVerification {
                   .arg(bande.Jeu, bande.Nom));
   }
 
-  void SousRapport(const TObjetModele& objet) const {
+  /// Its bands follow the one that names it, which those of the page's edge and of columns cannot have.
+  void SousRapport(const TBandeModele& bande, const TObjetModele& objet) const {
+    using enum TSorteBande;
     if (objet.Sorte != TSorteObjet::SousRapport) return;
+    for (const TSorteBande sorte : {EntetePage, PiedPage, Colonnes, EnteteColonnes})
+      if (bande.Sorte == sorte)
+        Refuser(objet, QStringLiteral("la bande « %1 » ne peut pas avoir de sous-rapport").arg(bande.Nom));
     const QString nom = objet.Texte.trimmed();
     const bool connu = std::ranges::any_of(
         modele_.Pages, [&](const TPageModele& page) { return page.SousRapport && page.Nom == nom; });
