@@ -5,6 +5,7 @@
 
 #include "core/exceptions.h"
 #include "documents/catalogue.h"
+#include "forms/grille.h"
 #include "pupils/eleves.h"
 #include "screens/documents/frm_apercu.h"
 #include "support/affichage.h"
@@ -237,6 +238,31 @@ TEST_F(Apercu, AnotherPaperAndBack) {
   EXPECT_EQ(Texte(form.Document()), texte);
   form.ChangerPapier({{85, 54}, 5});
   EXPECT_EQ(form.TextePapier(), u"85 × 54 mm, paysage"_s);
+}
+
+TEST_F(Apercu, AListTakesTheWholeWidthOfThePaper) {
+  TGrille grille({{u"Nom"_s, 120}, {u"Montant"_s, 60}});
+  grille.Ajouter({u"Anne"_s, u"3,00"_s});
+  TRapport rapport(u"Liste"_s, u"RepDynamicFromListviewPortrait"_s);
+  rapport.ChargerColonnesListe(grille);
+  TFrmApercu form(contexte, rapport);
+  const auto bord = [&form] {
+    form.Terminer();
+    float bord = 0;
+    for (const TElement& element : form.Document().Pages.at(0).Elements) {
+      if (const auto* trait = std::get_if<TElementTrait>(&element)) bord = std::max(bord, trait->X2);
+      if (const auto* texte = std::get_if<TElementTexte>(&element))
+        bord = std::max(bord, texte->X + texte->Forme->Largeur);
+    }
+    return bord;
+  };
+  EXPECT_NEAR(bord(), 794 - 38, 1);
+  form.ChangerPapier({{297, 210}, 10});
+  EXPECT_NEAR(bord(), 1123 - 38, 1);
+  form.ChangerPapier({{148, 210}, 10});
+  EXPECT_NEAR(bord(), 559 - 38, 1);
+  form.ChangerPapier({{210, 297}, 10});
+  EXPECT_NEAR(bord(), 794 - 38, 1);
 }
 
 TEST_F(Apercu, WithoutTemplateNothingOpens) {

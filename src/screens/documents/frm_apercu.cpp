@@ -49,6 +49,20 @@ std::shared_ptr<const TModele> ModeleDe(const TRapport& rapport, const TReglages
   return modele;
 }
 
+/// The columns of a list share the paper that there is: what reaches its right edge goes along.
+void SuivreLargeur(TPageModele& page, float avant) {
+  const float plus = page.Largeur - 2 * page.Marge - avant;
+  if (std::ranges::count(page.Bandes, TSorteBande::Colonnes, &TBandeModele::Sorte) == 0) return;
+  for (TBandeModele& bande : page.Bandes)
+    for (TObjetModele& objet : bande.Objets) {
+      if (std::abs(objet.X + objet.Largeur - avant) > 1) continue;
+      if (objet.X > 0)
+        objet.X = std::max(0.0F, objet.X + plus);
+      else
+        objet.Largeur = std::max(0.0F, objet.Largeur + plus);
+    }
+}
+
 /// A name for a file, without what a file's name cannot hold.
 QString NomDeFichier(QString titre) {
   for (QChar& c : titre)
@@ -63,7 +77,8 @@ TFrmApercu::TFrmApercu(const TContexteApercu& contexte, const TRapport& rapport)
     : contexte_(contexte),
       rapport_(rapport),
       impression_{contexte.Horloge.Maintenant(), ClassesGroupees(rapport)},
-      modele_(ModeleDe(rapport, contexte.Reglages)) {
+      origine_(ModeleDe(rapport, contexte.Reglages)),
+      modele_(origine_) {
   Commencer();
 }
 
@@ -329,11 +344,13 @@ TPapier TFrmApercu::Papier() const {
 
 void TFrmApercu::ChangerPapier(const TPapier& papier) {
   if (!PapierModifiable()) return;
-  auto modele = std::make_shared<TModele>(*modele_);
+  auto modele = std::make_shared<TModele>(*origine_);
   for (TPageModele& page : modele->Pages) {
+    const float avant = page.Largeur - 2 * page.Marge;
     page.Largeur = std::round(static_cast<float>(papier.Taille.width() * kPixelsParMm));
     page.Hauteur = std::round(static_cast<float>(papier.Taille.height() * kPixelsParMm));
     page.Marge = std::round(static_cast<float>(papier.Marge * kPixelsParMm));
+    SuivreLargeur(page, avant);
   }
   const int page = page_;
   miseEnPage_.reset();  // before the template that it walks

@@ -123,6 +123,7 @@ class TFrmApercu : public TForm {
   const TContexteApercu contexte_;
   const TRapport& rapport_;
   const TImpression impression_;
+  const std::shared_ptr<const TModele> origine_;
   std::shared_ptr<const TModele> modele_;  ///< as the paper was set; null once a saved report is shown
   std::unique_ptr<TMiseEnPage> miseEnPage_;
   TDocumentPrepare document_;  ///< once complete
