@@ -107,7 +107,6 @@ void TControleur::ChargerAnnee(int annee) {
   if (!Globals.Parametres || !base_.EstConnecte())
     throw Exception(QStringLiteral("Le programme n'est pas relié à ses données : fermez-le et recommencez."));
   const TSuspension suspension(fenetre_);
-  Globals.EleveCourant = nullptr;
   auto donnees = ChargerDonneesAnnee(base_, annee, *Globals.Parametres, *Globals.TarifsGarderies);
   auto groupes = std::make_unique<TGroupesFrais>(base_);
   Globals.Montrer(std::move(donnees));

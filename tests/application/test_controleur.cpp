@@ -152,7 +152,10 @@ TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
 
   ecole.parametre(101, QStringLiteral("deux"));
   Globals.Parametres = std::make_unique<TParametres>(*base);
+  TEleve eleve;
+  Globals.EleveCourant = &eleve;
   EXPECT_THROW(essai.Controleur.ChargerAnnee(2016), EConvertError);
+  EXPECT_EQ(Globals.EleveCourant, &eleve);
   EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2015) << "the display stays as it was";
 }
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/exceptions.h"
 #include "screens/principal/arbre_eleves.h"
 #include "screens/principal/frm_ajout_professeur.h"
 #include "screens/principal/frm_main.h"
@@ -396,4 +397,13 @@ TEST_F(FrmMain, WithoutConnectionNothingOpens) {
   Main.btnRechercheClick();
   Main.Ajouterunprofesseur1Click();
   Main.Supprimerunprofesseur1Click();
+}
+
+TEST_F(FrmMain, WithoutYearNothingOpensEither) {
+  TEcoleEssai(Base).parametre(27, QStringLiteral("deux mille"));
+  EXPECT_THROW(Main.Montrer(), EConvertError);
+  EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Erreur);
+  EXPECT_EQ(Main.RaisonInactive(Main.Commandes.front()), u"Aucune année scolaire n'est chargée");
+  Main.Executer(TGestionnaire::AdvGlowButton2Click);
+  EXPECT_EQ(Main.Panneau.Courante(), nullptr);
 }

@@ -61,7 +61,14 @@ TFrmMain::~TFrmMain() {
 }
 
 void TFrmMain::FormShow() {
-  Controleur.FormShow();
+  try {
+    Controleur.FormShow();
+  } catch (...) {  // what it is about is shown to the user by who catches it
+    Etat(TNiveauEtat::Erreur,
+         QStringLiteral("Aucune année scolaire n'a pu être chargée : fermez le programme et recommencez."));
+    Annoncer();
+    throw;
+  }
   if (EstRelie())
     Etat(TNiveauEtat::Neutre, SansEleve() ? u"Aucun élève en " % AnneeEnTexte(anneeCochee_)
                                           : QString(u"Année " % AnneeEnTexte(anneeCochee_) % u" : " %
@@ -124,7 +131,9 @@ QString TFrmMain::RaisonInactive(const TCommandePrincipale& commande) const {
   if (commande.Gestionnaire == TGestionnaire::AdvGlowButton4Click) return {};
   if (!commande.Ecran) return QStringLiteral("Pas encore disponible dans cette version");
   const bool horsLigne = Globals.ModeHorsLigne && commande.Page == TPage::pgRepas3;
-  if (!EstRelie() && !horsLigne) return QStringLiteral("Pas de connexion au serveur de données");
+  if (!EstRelie() && !horsLigne)
+    return Controleur.Base().EstConnecte() ? QStringLiteral("Aucune année scolaire n'est chargée")
+                                           : QStringLiteral("Pas de connexion au serveur de données");
   return {};
 }
 

@@ -61,7 +61,8 @@ void Etiquette::paintEvent(QPaintEvent* evenement) {
 bool Etiquette::event(QEvent* evenement) {
   if (evenement->type() == QEvent::ToolTip && elision_ && toolTip().isEmpty()) {
     const bool coupe = fontMetrics().horizontalAdvance(text()) > contentsRect().width();
-    QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), coupe ? text() : QString(), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), coupe ? text() : QString(), this, {},
+                       toolTipDuration());
     return true;
   }
   return QLabel::event(evenement);

@@ -394,7 +394,7 @@ bool VueGrille::viewportEvent(QEvent* evenement) {
   const QModelIndex index = indexAt(aide->pos());
   const bool coupe = index.isValid() && sizeHintForIndex(index).width() > visualRect(index).width();
   QToolTip::showText(aide->globalPos(), coupe ? index.data().toString() : QString(), viewport(),
-                     visualRect(index));
+                     visualRect(index), viewport()->toolTipDuration());
   return true;
 }
 

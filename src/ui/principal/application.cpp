@@ -28,7 +28,6 @@ void Application::Montrer(const QString& texte) {
 void Application::Preparer() {
   QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
   setApplicationName(QStringLiteral("Calpenne"));
-  setApplicationDisplayName(QStringLiteral("Calpenne"));
   auto* traduction = new QTranslator(this);
   if (traduction->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     installTranslator(traduction);

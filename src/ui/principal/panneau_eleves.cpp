@@ -62,7 +62,8 @@ class DelegueEleves : public QStyledItemDelegate {
     int place = Place(option).width();
     if (!droite.isEmpty()) place -= QFontMetrics(Theme::Petite()).horizontalAdvance(droite) + Theme::Px(8);
     const bool coupe = QFontMetrics(option.font).horizontalAdvance(texte) > place;
-    QToolTip::showText(aide->globalPos(), coupe ? texte : QString(), vue);
+    QToolTip::showText(aide->globalPos(), coupe ? texte : QString(), vue, {},
+                       vue->viewport()->toolTipDuration());
     return true;
   }
 
@@ -87,6 +88,9 @@ PanneauEleves::PanneauEleves(TFrmMain& form, QWidget* parent)
   vide_ = new Etiquette({}, TRole::Texte, &Theme::Gras);
   phrase_ = new Etiquette({}, TRole::Secondaire);
   sansEleve_ = new QWidget;
+  sansEleve_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(sansEleve_, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& position) { MontrerMenu(*sansEleve_, position); });
   auto* textes = new QVBoxLayout(sansEleve_);
   textes->setContentsMargins(0, Theme::Px(24), 0, 0);
   textes->setSpacing(Theme::Px(8));
@@ -146,7 +150,11 @@ void PanneauEleves::CreerArbre() {
           [this](const QModelIndex& choisi) { form_.ChoisirNoeud(modele_->Noeud(choisi)); });
   connect(arbre_, &QTreeView::collapsed, this, [this](const QModelIndex& index) { NoterPli(index, false); });
   connect(arbre_, &QTreeView::expanded, this, [this](const QModelIndex& index) { NoterPli(index, true); });
-  connect(arbre_, &QWidget::customContextMenuRequested, this, &PanneauEleves::MontrerMenu);
+  connect(arbre_, &QWidget::customContextMenuRequested, this, [this](const QPoint& position) {
+    const QModelIndex sous = arbre_->indexAt(position);
+    if (sous.isValid()) arbre_->setCurrentIndex(sous);
+    MontrerMenu(*arbre_->viewport(), position);
+  });
 }
 
 void PanneauEleves::Relire() {
@@ -246,9 +254,7 @@ void PanneauEleves::AllerALaRecherche() {
   recherche_->selectAll();
 }
 
-void PanneauEleves::MontrerMenu(const QPoint& position) {
-  const QModelIndex sous = arbre_->indexAt(position);
-  if (sous.isValid()) arbre_->setCurrentIndex(sous);
+void PanneauEleves::MontrerMenu(const QWidget& ou, const QPoint& position) {
   QMenu menu(this);
   QAction* ajouter =
       menu.addAction(Theme::Icone(QStringLiteral("list-add")), QStringLiteral("&Ajouter un professeur..."));
@@ -256,7 +262,7 @@ void PanneauEleves::MontrerMenu(const QPoint& position) {
                                       QStringLiteral("&Supprimer ce professeur"));
   ajouter->setEnabled(form_.PeutAjouterProfesseur());
   supprimer->setEnabled(form_.PeutSupprimerProfesseur());
-  const QAction* choisi = menu.exec(arbre_->viewport()->mapToGlobal(position));
+  const QAction* choisi = menu.exec(ou.mapToGlobal(position));
   if (choisi == ajouter) form_.Ajouterunprofesseur1Click();
   if (choisi == supprimer) form_.Supprimerunprofesseur1Click();
 }

@@ -36,7 +36,7 @@ class PanneauEleves : public QWidget {
   void NoterPli(const QModelIndex& index, bool ouvert);
   void Texter(const QString& texte);
   bool ToucheRecherche(int touche);
-  void MontrerMenu(const QPoint& position);
+  void MontrerMenu(const QWidget& ou, const QPoint& position);
 
   TFrmMain& form_;
   ModeleArbre* modele_;

@@ -20,6 +20,7 @@ void ChampLecture::Montrer(const QString& texte) {
 bool ChampLecture::event(QEvent* evenement) {
   if (evenement->type() != QEvent::ToolTip) return QLineEdit::event(evenement);
   const bool coupe = fontMetrics().horizontalAdvance(text()) > width() - Theme::Px(12);
-  QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), coupe ? text() : QString(), this);
+  QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), coupe ? text() : QString(), this, {},
+                     toolTipDuration());
   return true;
 }
