@@ -320,6 +320,17 @@ TEST_F(FrmMain, ATeacherIsEnrolledInTheWorkingYear) {
   EXPECT_FALSE(Textes().join(u' ').contains(u"Peeters"));
 }
 
+TEST_F(FrmMain, ATeacherThatIsNotStoredIsForgotten) {
+  Ecole();
+  Main.Montrer();
+  Modale.Nom = QString(300, u'x');
+  EXPECT_THROW(Main.Ajouterunprofesseur1Click(), Exception);
+  EXPECT_EQ(Globals.Eleves->Count(), 4);
+  Modale.Nom = QStringLiteral("Peeters");
+  Main.Ajouterunprofesseur1Click();
+  EXPECT_TRUE(Textes().contains(QStringLiteral(">Peeters Anne")));
+}
+
 TEST_F(FrmMain, ATeacherWithoutNameIsRefused) {
   Main.Montrer();
   Modale.Nom = QStringLiteral("   ");

@@ -285,6 +285,12 @@ TEST_F(Principal, TheTreeKeepsItsFoldsWhenItIsBuiltAnew) {
   EXPECT_EQ(
       Arbre()->model()->index(1, 0, Arbre()->model()->index(0, 0)).data(Qt::AccessibleTextRole).toString(),
       u"Bastin X, radié");
+
+  QTest::keyClicks(Recherche(), QStringLiteral("bas"));
+  EXPECT_TRUE(ouverte(0));
+  Arbre()->collapse(Arbre()->model()->index(0, 0));
+  Programme.Main().Envoyer({TCodeMessage::EleveChange, {}});
+  EXPECT_TRUE(ouverte(0)) << "a screen has found the pupil again";
 }
 
 TEST_F(Principal, FirstUseLeadsToTheImport) {

@@ -219,7 +219,10 @@ bool TFrmMain::RecevoirMessage(const TMessage& message) {
       }
       return true;
     case TCodeMessage::EleveChange:
-      if (noeud != nullptr) Arbre.Selectionner(noeud);
+      if (noeud != nullptr && noeud == Arbre.Selection() && SurSelection)
+        SurSelection();  // it may stand in a class that the user has shut
+      else if (noeud != nullptr)
+        Arbre.Selectionner(noeud);
       return true;
     case TCodeMessage::ImplantationsChange:
       RenommerSites(Arbre);

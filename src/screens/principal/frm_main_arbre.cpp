@@ -90,7 +90,12 @@ void TFrmMain::Ajouterunprofesseur1Click() {
   nouveau->Nom = saisie.Nom;
   nouveau->Prenom = saisie.Prenom;
   TEleve& professeur = eleves.AddEleve(std::move(nouveau));
-  eleves.Save();
+  try {
+    eleves.Save();
+  } catch (...) {  // a later save must not try it again
+    eleves.RemoveEleve(professeur);
+    throw;
+  }
   if (professeur.Id == -1) {  // no key could be had, which the user has been told
     eleves.RemoveEleve(professeur);
     return;

@@ -121,8 +121,10 @@ void BarreCommandes::CreerOutils(QHBoxLayout& ligne) {
 
 void BarreCommandes::Actualiser() {
   for (const auto& [page, onglet] : onglets_) onglet->setVisible(form_.PageVisible(page));
+  int rang = 0;
   for (const TPagePrincipale& page : form_.Pages()) {
     QToolButton* onglet = onglets_.at(page.Page);
+    onglet->setToolTip(page.Titre % u" (Ctrl+" % QString::number(++rang) % u')');
     onglet->setText(page.Titre);
     onglet->setChecked(page.Page == form_.PageActive());
     onglet->setEnabled(!form_.EnTravail());

@@ -183,8 +183,7 @@ void PanneauEleves::NoterPli(const QModelIndex& index, bool ouvert) {
 
 void PanneauEleves::SuivreSelection() {
   const QModelIndex index = modele_->Index(form_.Arbre.Selection());
-  if (index == arbre_->currentIndex()) return;
-  arbre_->setCurrentIndex(index);
+  if (index != arbre_->currentIndex()) arbre_->setCurrentIndex(index);
   if (index.isValid()) arbre_->scrollTo(index);
 }
 
