@@ -66,8 +66,10 @@ bool TMoteur::Continuer() {
   if (etape_ == TEtape::Debut) CommencerPage();
   if (!parcours_->Fini(TJeu::Maitre)) {
     const TParcours depart = *parcours_;
+    const auto lignes = lignes_;
     for (std::size_t i = suites ? 0 : page_; i < (suites ? pages_.size() : page_ + 1); ++i) {
       parcours_.emplace(depart);
+      lignes_ = lignes;
       if (suites && pages_.size() > 1) pagination_.Commencer(*pages_[i]);
       LigneMaitre(*pages_[i]);
     }
@@ -88,7 +90,6 @@ void TMoteur::CommencerPage() {
   Suivre();
   contexte_.Compteurs = {};
   lignes_ = {};
-  ligneMaitre_ = 0;
   bandes_.clear();
   const TPageModele& page = *pages_[page_];
   pagination_.Commencer(page);
@@ -123,7 +124,7 @@ void TMoteur::LigneMaitre(const TPageModele& page) {
     bandes_.clear();
     pagination_.NouvelleSuite();
   }
-  Compter(0, ++ligneMaitre_);
+  Compter(0, lignes_[0] + 1);
   if (suite) pagination_.Preparer(contexte_.Position);
   const TPosition ici = contexte_.Position;
   if (!saute) Ajouter(page, TSorteBande::Maitre, TRole::Ligne, 0, 0);

@@ -47,8 +47,7 @@ class TMoteur {
   TEtape etape_ = TEtape::Debut;
   std::optional<TParcours> parcours_;
   std::vector<TBandeFormee> bandes_;
-  std::array<int, 3> lignes_{};  ///< rows so far in the whole report, by level
-  int ligneMaitre_ = 0;
+  std::array<int, 3> lignes_{};          ///< rows so far in the whole report, by level
   std::vector<TPlaceColonne> colonnes_;  ///< of the page in hand, in column mode
   QString classe_;                       ///< of the last bookmark
   int profondeur_ = 0;
