@@ -10,13 +10,16 @@
 #include <QTreeView>
 
 #include "core/exceptions.h"
+#include "screens/principal/frm_ajout_professeur.h"
 #include "ui/commun/feuille_progression.h"
 #include "ui/principal/application.h"
 #include "ui/principal/barre_commandes.h"
 #include "ui/principal/barre_etat.h"
 #include "ui/principal/dialogue_reessai.h"
+#include "ui/principal/dialogue_saisie.h"
 #include "ui/principal/panneau_eleves.h"
 #include "ui/principal/vue_accueil.h"
+#include "ui/principal/vue_ajout_professeur.h"
 #include "ui/programme_essai.h"
 #include "ui/verifier_vue.h"
 
@@ -326,6 +329,27 @@ TEST_F(Principal, EveryControlOfTheWindowIsNamedReachedAndWhole) {
     VerifierVue(Fenetre());
     Programme.Fermer();
   });
+}
+
+TEST_F(Principal, EveryControlOfItsDialogsToo) {
+  TReessai reessai;
+  reessai.Titre = kErreurConnexion;
+  reessai.Texte =
+      QStringLiteral("Un problème empêche le logiciel de se connecter au serveur nommé : SECRETARIAT");
+  reessai.Explication = QStringLiteral("Veuillez vérifier si :\n1. Le serveur est allumé.");
+  reessai.Lien = QStringLiteral("Cliquez ici afin de modifier le nom du serveur de données.");
+  reessai.Cause = QStringLiteral("Unable to complete network request to host \"SECRETARIAT\".");
+  VerifierVuePartout([&] { return std::make_unique<DialogueReessai>(reessai); });
+  VerifierVuePartout([] {
+    return std::make_unique<DialogueSaisie>(
+        QStringLiteral("Identification du Serveur de données"),
+        QStringLiteral("Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :\n"
+                       "Attention : veuillez exécuter cette opération avec un compte administrateur"),
+        QStringLiteral("SECRETARIAT"));
+  });
+  Programme.Demarrer();
+  TFrmAjoutProfesseur ajout(Programme.Main().Contexte);
+  VerifierVuePartout([&] { return std::make_unique<VueAjoutProfesseur>(ajout, nullptr); });
 }
 
 TEST_F(Principal, LongWorkKeepsTheWindowShutAndAlive) {

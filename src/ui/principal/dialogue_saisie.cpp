@@ -19,8 +19,9 @@ QString Aide(const QString& titre) {
 DialogueSaisie::DialogueSaisie(const QString& titre, const QString& invite, const QString& valeur,
                                QWidget* parent)
     : DialogueBase(titre, parent), champ_(new QLineEdit(valeur)) {
-  setMinimumWidth(Theme::Px(520));
+  setMinimumWidth(Theme::Px(600));
   auto* champ = new ChampLibelle(invite.section(u'\n', 0, 0), champ_, ChampLibelle::Dessus);
+  champ->Libelle()->setWordWrap(true);
   Contenu()->addWidget(champ);
   const QStringList notes = invite.split(u'\n').mid(1) + QStringList{Aide(titre)};
   for (const QString& texte : notes) {
@@ -29,6 +30,7 @@ DialogueSaisie::DialogueSaisie(const QString& titre, const QString& invite, cons
     note->setWordWrap(true);
     Contenu()->addWidget(note);
   }
+  resize(minimumWidth(), layout()->totalHeightForWidth(minimumWidth()));
   champ_->selectAll();
   champ_->setFocus();
 }
