@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -311,6 +312,9 @@ TEST_F(DocumentsVues, NavigatorPagesAndPaper) {
   EXPECT_EQ(form.PageCourante(), 1);
   for (int i = 0; i < 2; ++i) QTest::keyClick(vue.Pages(), Qt::Key_PageUp);
   EXPECT_EQ(form.PageCourante(), 0);
+  form.Zoomer(TModeZoom::Facteur, 4);
+  QScrollBar* barre = vue.Pages()->horizontalScrollBar();
+  EXPECT_NEAR(barre->value(), barre->maximum() / 2, 2) << "the middle of the page stays in the middle";
   form.Zoomer(TModeZoom::Largeur);
   auto* zoom = vue.findChild<QComboBox*>();
   zoom->setFocus();

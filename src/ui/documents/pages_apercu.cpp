@@ -45,13 +45,19 @@ void PagesApercu::Rafraichir() {
     const double part =
         page < 0 ? 0.0 : (milieu - places_[static_cast<std::size_t>(page)].top()) / std::max(echelle_, 0.01);
     const bool zoome = echelle_ > 0.0 && echelle != echelle_ && page >= 0;
+    const double enLargeur =
+        zoome ? (viewport()->width() / 2.0 - Place(page).left()) / Place(page).width() : 0.0;
     echelle_ = echelle;
     Disposer();
     const QScopedValueRollback<bool> enCours(enCours_, true);
     PoserBarres();
-    if (zoome && page < static_cast<int>(places_.size()))
-      verticalScrollBar()->setValue(places_[static_cast<std::size_t>(page)].top() +
-                                    static_cast<int>(std::lround(part * echelle)) - viewport()->height() / 2);
+    if (zoome && page < static_cast<int>(places_.size())) {
+      const QRect& place = places_[static_cast<std::size_t>(page)];
+      verticalScrollBar()->setValue(place.top() + static_cast<int>(std::lround(part * echelle)) -
+                                    viewport()->height() / 2);
+      horizontalScrollBar()->setValue(
+          place.left() + static_cast<int>(std::lround(enLargeur * place.width())) - viewport()->width() / 2);
+    }
   }
   setAccessibleDescription(form_.PagesPretes() == 0 ? QString()
                                                     : u"Page " % QString::number(form_.PageCourante() + 1));
