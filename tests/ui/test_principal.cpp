@@ -43,6 +43,11 @@ void PetiteEcole(TProgrammeEssai& programme) {
   eleve("Pirard", "P2");
 }
 
+/// A list, whose view is not looked at.
+struct TListeEssai : TForm {
+  explicit TListeEssai(TContexteEcran&) {}
+};
+
 class Principal : public testing::Test {
  protected:
   FenetrePrincipale& Fenetre() { return Programme.Fenetre(); }
@@ -326,6 +331,14 @@ TEST_F(Principal, EveryControlOfTheWindowIsNamedReachedAndWhole) {
     QTest::keyClicks(Recherche(), QStringLiteral("dub"));
     Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
     EXPECT_EQ(Globals.EleveCourant->Nom, u"Dubois");
+    VerifierVue(Fenetre());
+    SCOPED_TRACE("the longest page of the bar");
+    for (TCommandePrincipale& commande : Programme.Main().Commandes)
+      if (commande.Gestionnaire == TGestionnaire::AdvGlowButton16Click) commande.Ecran = Ecran<TListeEssai>();
+    Programme.Main().Executer(TGestionnaire::AdvGlowButton16Click);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(Fenetre().Barre()->Bouton(TOutil::btnDelete)->isVisible());
+    EXPECT_LE(Fenetre().Barre()->minimumSizeHint().width(), 1366);
     VerifierVue(Fenetre());
     Programme.Fermer();
   });

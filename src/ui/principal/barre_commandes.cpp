@@ -11,9 +11,19 @@ namespace {
 constexpr int kHauteurOnglets = 30;
 constexpr int kHauteurCommandes = 76;
 
+int LargeurGras(const QString& texte) { return QFontMetrics(Theme::Gras()).horizontalAdvance(texte); }
+
+/// Its text in bold when it is checked, for which there is room from the start.
+class BoutonOnglet : public QToolButton {
+ public:
+  QSize sizeHint() const override {
+    return QToolButton::sizeHint() + QSize(LargeurGras(text()) - fontMetrics().horizontalAdvance(text()), 0);
+  }
+};
+
 /// A button of the bar: the Tab key reaches it, a click leaves the focus where the hand is.
 QToolButton* CreerOnglet(const QString& texte) {
-  auto* bouton = new QToolButton;
+  auto* bouton = new BoutonOnglet;
   bouton->setText(texte);
   bouton->setProperty("genre", QStringLiteral("onglet"));
   bouton->setCheckable(true);
@@ -21,7 +31,7 @@ QToolButton* CreerOnglet(const QString& texte) {
   return bouton;
 }
 
-/// Its text in bold when it is checked, for which there is room from the start.
+/// The same; with large text it gives way down to its text.
 class BoutonCommande : public QToolButton {
  public:
   BoutonCommande(const QString& texte, const QString& icone, TRole role) {
@@ -32,14 +42,16 @@ class BoutonCommande : public QToolButton {
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setIcon(Theme::Icone(icone, role));
     setIconSize({Theme::Px(32), Theme::Px(32)});
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    connect(this, &QToolButton::toggled, this, &QWidget::updateGeometry);
   }
   QSize sizeHint() const override {
-    return {qMax(Theme::Px(93), LargeurTexte() + Theme::Px(36)), Theme::Px(64)};
+    return {qMax(Theme::Px(93), LargeurGras(text()) + Theme::Px(36)), Theme::Px(64)};
   }
-  QSize minimumSizeHint() const override { return {LargeurTexte() + Theme::Px(32), Theme::Px(64)}; }
-
- private:
-  int LargeurTexte() const { return QFontMetrics(Theme::Gras()).horizontalAdvance(text()); }
+  QSize minimumSizeHint() const override {
+    const int texte = isChecked() ? LargeurGras(text()) : fontMetrics().horizontalAdvance(text());
+    return {texte + Theme::Px(14), Theme::Px(64)};
+  }
 };
 
 QString ToucheAlt(const QString& libelle) {
