@@ -255,7 +255,7 @@ TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
   Programme.Dialogues.Attend(QStringLiteral("Un nom est obligatoire"));
   Programme.Dialogues.Fait(QStringLiteral("Ajout d'un professeur"), [](QWidget& fenetre) {
     const auto champs = fenetre.findChildren<QLineEdit*>();
-    EXPECT_TRUE(champs.at(0)->hasFocus());
+    EXPECT_EQ(fenetre.focusWidget(), champs.at(0));
     champs.at(0)->selectAll();
     QTest::keyClicks(champs.at(0), QStringLiteral("Peeters"));
     QTest::keyClick(champs.at(0), Qt::Key_Tab);
