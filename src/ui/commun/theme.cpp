@@ -125,7 +125,7 @@ QToolButton[genre="commande"]:focus { border-color: %8; }
 QToolButton[genre="commande"]:disabled { color: %9; }
 QToolButton[genre="onglet"] { border: 0; border-bottom: 3px solid transparent; padding: %2px %3px;
   background: transparent; color: %10; }
-QToolButton[genre="onglet"]:hover { color: %4; }
+QToolButton[genre="onglet"]:hover, QToolButton#annees { color: %4; }
 QToolButton[genre="onglet"]:checked { color: %4; font-weight: 600; border-bottom-color: %8; }
 QToolButton[genre="onglet"]:focus { border: 2px solid %8; border-bottom: 3px solid %8; border-radius: %1px;
   padding: %2px %11px; }
@@ -140,8 +140,9 @@ QStatusBar::item { border: 0; }
       .arg(Theme::Px(12) - 2);
 }
 
-/// Follows the system, keeps the wheel away from fields without focus, and lets Enter press the button
-/// that has the focus: Qt does so in dialogs only, and there the default button would win over it.
+/// Follows the system, keeps the wheel away from fields without focus and a letter with Alt out of them
+/// (the shortcut of a command that is off), and lets Enter press the button that has the focus: Qt does
+/// so in dialogs only, and there the default button would win over it.
 class Gardien : public QObject {
  public:
   Gardien(QApplication& application, Theme::TMode mode)
@@ -165,7 +166,10 @@ class Gardien : public QObject {
   bool eventFilter(QObject* objet, QEvent* evenement) override {
     const QEvent::Type type = evenement->type();
     if (type == QEvent::Wheel) return RetenirMolette(objet, evenement);
-    if (type == QEvent::KeyPress) return PresserBouton(objet, static_cast<QKeyEvent*>(evenement));
+    if (type == QEvent::KeyPress) {
+      const auto* touche = static_cast<QKeyEvent*>(evenement);
+      return PresserBouton(objet, touche) || RetenirAlt(objet, touche);
+    }
     if (objet == &application_ && (type == QEvent::ThemeChange || type == QEvent::ApplicationPaletteChange ||
                                    type == QEvent::ApplicationFontChange))
       Rafraichir();
@@ -198,6 +202,11 @@ class Gardien : public QObject {
     if (!bouton || !bouton->hasFocus() || touche->modifiers().testFlag(Qt::ControlModifier)) return false;
     if (!touche->isAutoRepeat()) bouton->click();
     return true;
+  }
+
+  static bool RetenirAlt(const QObject* objet, const QKeyEvent* touche) {
+    return touche->modifiers() == Qt::AltModifier && !touche->text().isEmpty() &&
+           qobject_cast<const QLineEdit*>(objet) != nullptr;
   }
 
   QApplication& application_;
