@@ -13,6 +13,7 @@
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/compteur.h"
 #include "ui/commun/etat_vide.h"
+#include "ui/commun/rangee_pliante.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 
@@ -43,7 +44,7 @@ void Accorder(const VueGrille& a, const VueGrille& b) {
 }  // namespace
 
 VuePresences::VuePresences(TfrmPresences& form, QWidget* parent)
-    : QWidget(parent),
+    : QScrollArea(parent),
       form_(form),
       etape1_(BoutonPrincipal(QStringLiteral("Etape n°1 : Importer les présences"),
                               QStringLiteral("view-barcode"))),
@@ -96,16 +97,16 @@ void VuePresences::CreerGrilles() {
   connect(touche, &QShortcut::activated, this, &VuePresences::Corriger);
 }
 
-QWidget* VuePresences::Etapes() {
-  auto* bande = new QWidget;
-  auto* ligne = new QHBoxLayout(bande);
-  ligne->setContentsMargins(0, 0, 0, 0);
-  ligne->setSpacing(Theme::Px(8));
-  for (QPushButton* bouton : {etape1_, etape2_, source_}) ligne->addWidget(bouton);
+QLayout* VuePresences::Etapes() {
+  auto* boutons = new RangeePliante;
+  for (QPushButton* bouton : {etape1_, etape2_, source_}) boutons->addWidget(bouton);
   fichier_->DefinirElision(true);
   fichier_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* ligne = new QHBoxLayout;
+  ligne->setSpacing(Theme::Px(16));
+  ligne->addLayout(boutons);
   ligne->addWidget(fichier_, 1);
-  return bande;
+  return ligne;
 }
 
 QWidget* VuePresences::Comptes() {
@@ -129,17 +130,22 @@ void VuePresences::Disposer() {
   titreRecapitulatif_->AjouterAction(filtre);
   titreRecapitulatif_->AjouterAction(copier);
 
-  auto* colonne = new QVBoxLayout(this);
+  setWidgetResizable(true);
+  setFrameShape(NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  auto* page = new QWidget;
+  auto* colonne = new QVBoxLayout(page);
   const int marge = Theme::Px(16);
   colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
   colonne->setSpacing(Theme::Px(12));
   colonne->addWidget(new TitreEcran(QStringLiteral("Présences")));
-  colonne->addWidget(Etapes());
+  colonne->addLayout(Etapes());
   colonne->addWidget(Comptes());
   colonne->addWidget(titreAnomalies_);
   colonne->addWidget(anomalies_);
   colonne->addWidget(titreRecapitulatif_);
   colonne->addWidget(recapitulatif_, 1);
+  setWidget(page);
 }
 
 void VuePresences::Actualiser() {
@@ -201,7 +207,7 @@ void VuePresences::MesurerAnomalies() {
 }
 
 void VuePresences::changeEvent(QEvent* evenement) {
-  QWidget::changeEvent(evenement);
+  QScrollArea::changeEvent(evenement);
   if (evenement->type() == QEvent::FontChange) MesurerAnomalies();
 }
 

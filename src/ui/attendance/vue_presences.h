@@ -1,5 +1,5 @@
 #pragma once
-#include <QWidget>
+#include <QScrollArea>
 #include <array>
 
 class Compteur;
@@ -12,8 +12,8 @@ class TfrmPresences;
 class TitreSection;
 class VueGrille;
 
-/// "Présences": the scans of a file.
-class VuePresences : public QWidget {
+/// "Présences": the scans of a file. Scrolls where large text leaves no room for both lists.
+class VuePresences : public QScrollArea {
   Q_OBJECT
  public:
   VuePresences(TfrmPresences& form, QWidget* parent);
@@ -25,7 +25,7 @@ class VuePresences : public QWidget {
 
  private:
   void CreerMenu();
-  QWidget* Etapes();
+  QLayout* Etapes();
   QWidget* Comptes();
   void CreerGrilles();
   void Disposer();

@@ -23,6 +23,9 @@ void Titre::DefinirTexte(const QString& texte) { titre_->setText(texte); }
 void Titre::DefinirNote(const QString& note) {
   note_->setText(note);
   note_->setVisible(!note.isEmpty());
+  // Where there is no room for both it is the note that is shortened.
+  titre_->setSizePolicy(note.isEmpty() ? QSizePolicy::Preferred : QSizePolicy::Minimum,
+                        QSizePolicy::Preferred);
 }
 
 void Titre::AjouterAction(QWidget* action) { ligne_->addWidget(action); }

@@ -12,6 +12,7 @@
 #include "ui/commun/etat_vide.h"
 #include "ui/commun/feuille_progression.h"
 #include "ui/commun/marque_etat.h"
+#include "ui/commun/rangee_pliante.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 
@@ -46,11 +47,9 @@ void VueImport::Faire(void (TFrmImport::*etape)()) {
 }
 
 void VueImport::Disposer() {
-  auto* boutons = new QHBoxLayout;
-  boutons->setSpacing(Theme::Px(8));
+  auto* boutons = new RangeePliante;
   boutons->addWidget(etape1_);
   boutons->addWidget(etape2_);
-  boutons->addStretch(1);
   auto* comptes = new QHBoxLayout;
   comptes->setSpacing(Theme::Px(32));
   comptes->addWidget(eleves_);

@@ -1,0 +1,30 @@
+#pragma once
+#include <QLayout>
+#include <memory>
+#include <vector>
+
+/// A row of controls that goes on to a further line where the text is too large for one, so that no
+/// caption is cut.
+class RangeePliante : public QLayout {
+  Q_OBJECT
+ public:
+  RangeePliante();
+  ~RangeePliante() override;
+
+  void addItem(QLayoutItem* element) override;
+  int count() const override { return static_cast<int>(elements_.size()); }
+  QLayoutItem* itemAt(int rang) const override;
+  QLayoutItem* takeAt(int rang) override;
+  Qt::Orientations expandingDirections() const override { return {}; }
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int largeur) const override { return Placer({0, 0, largeur, 0}, false); }
+  QSize sizeHint() const override;
+  QSize minimumSize() const override;
+  void setGeometry(const QRect& place) override;
+
+ private:
+  /// Answers the height; moves the controls when `poser` is set.
+  int Placer(const QRect& place, bool poser) const;
+
+  std::vector<std::unique_ptr<QLayoutItem>> elements_;
+};
