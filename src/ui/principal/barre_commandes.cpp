@@ -17,7 +17,8 @@ int LargeurGras(const QString& texte) { return QFontMetrics(Theme::Gras()).horiz
 class BoutonOnglet : public QToolButton {
  public:
   QSize sizeHint() const override {
-    return QToolButton::sizeHint() + QSize(LargeurGras(text()) - fontMetrics().horizontalAdvance(text()), 0);
+    const int gras = LargeurGras(text()) - fontMetrics().horizontalAdvance(text());
+    return QToolButton::sizeHint() + QSize(isCheckable() ? gras : 0, 0);
   }
 };
 
@@ -95,6 +96,7 @@ void BarreCommandes::CreerOnglets(QHBoxLayout& ligne) {
   }
   ligne.addStretch();
   annees_ = CreerOnglet({});
+  annees_->setObjectName(QStringLiteral("annees"));  // no page: its text is never pale
   annees_->setCheckable(false);
   annees_->setFixedHeight(Theme::Px(kHauteurOnglets));
   annees_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
