@@ -36,6 +36,12 @@ TGestionnaire GestionnaireDe(TCommandePage commande) {
   return TGestionnaire::btnComptabiliteClick;
 }
 
+QString CombienEleves(int annee, int nombre) {
+  if (nombre == 0) return u"Aucun élève en " % AnneeEnTexte(annee);
+  return u"Année " % AnneeEnTexte(annee) % u" : " % QString::number(nombre) %
+         (nombre > 1 ? u" élèves" : u" élève");
+}
+
 }  // namespace
 
 QString AnneeEnTexte(int annee) { return QStringLiteral("%1 - %2").arg(annee).arg(annee + 1); }
@@ -70,9 +76,7 @@ void TFrmMain::FormShow() {
     throw;
   }
   if (EstRelie())
-    Etat(TNiveauEtat::Neutre, SansEleve() ? u"Aucun élève en " % AnneeEnTexte(anneeCochee_)
-                                          : QString(u"Année " % AnneeEnTexte(anneeCochee_) % u" : " %
-                                                    QString::number(NombreEleves()) % u" élèves"));
+    Etat(TNiveauEtat::Neutre, CombienEleves(anneeCochee_, NombreEleves()));
   else if (!Globals.ModeHorsLigne)
     Etat(TNiveauEtat::Erreur,
          QStringLiteral("Pas de connexion au serveur de données : fermez le programme et recommencez."));
@@ -203,8 +207,7 @@ void TFrmMain::mnuAnneeClick(int annee) {
   if (enTravail_ || !EstRelie()) return;
   QuitterChamp();
   Controleur.ChoisirAnnee(annee);
-  Etat(TNiveauEtat::Neutre,
-       u"Année " % AnneeEnTexte(annee) % u" : " % QString::number(NombreEleves()) % u" élèves");
+  Etat(TNiveauEtat::Neutre, CombienEleves(annee, NombreEleves()));
 }
 
 // Messages.

@@ -68,7 +68,8 @@ QVariant ModeleArbre::data(const QModelIndex& index, int role) const {
       return noeud->Texte;
     case Qt::AccessibleTextRole:
       if (barre) return QString(noeud->Texte % u", radié");
-      return feuilles > 0 ? QString(noeud->Texte % u", " % QString::number(feuilles) % u" élèves")
+      return feuilles > 0 ? QString(noeud->Texte % u", " % QString::number(feuilles) %
+                                    (feuilles > 1 ? u" élèves" : u" élève"))
                           : noeud->Texte;
     case kCompte:
       return noeud->Enfants().empty() ? QVariant() : QVariant(feuilles);
