@@ -24,7 +24,7 @@ QLayoutItem* RangeePliante::takeAt(int rang) {
 }
 
 QSize RangeePliante::sizeHint() const {
-  QSize voulue;
+  QSize voulue(0, 0);
   for (const auto& element : elements_) {
     if (element->isEmpty()) continue;
     const QSize taille = element->sizeHint();
@@ -35,7 +35,7 @@ QSize RangeePliante::sizeHint() const {
 }
 
 QSize RangeePliante::minimumSize() const {
-  QSize moindre;
+  QSize moindre(0, 0);
   for (const auto& element : elements_)
     if (!element->isEmpty()) moindre = moindre.expandedTo(element->minimumSize());
   return moindre;
