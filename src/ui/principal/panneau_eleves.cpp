@@ -29,7 +29,14 @@ class DelegueEleves : public QStyledItemDelegate {
     initStyleOption(&vue, index);
     const QString texte = vue.text;
     vue.text.clear();
+    vue.state.setFlag(QStyle::State_HasFocus, false);
     vue.widget->style()->drawControl(QStyle::CE_ItemViewItem, &vue, peintre, vue.widget);
+    if (option.state.testFlag(QStyle::State_HasFocus)) {  // around the row, as its ground is
+      QStyleOptionFocusRect foyer;
+      foyer.QStyleOption::operator=(option);
+      foyer.rect.setLeft(0);
+      vue.widget->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &foyer, peintre, vue.widget);
+    }
 
     const bool actif = option.state.testFlag(QStyle::State_Enabled);
     const auto groupe = actif ? QPalette::Active : QPalette::Disabled;
