@@ -107,6 +107,7 @@ void TControleur::ChargerAnnee(int annee) {
   if (!Globals.Parametres || !base_.EstConnecte())
     throw Exception(QStringLiteral("Le programme n'est pas relié à ses données : fermez-le et recommencez."));
   const TSuspension suspension(fenetre_);
+  const TAttente attente(Dialogues());
   auto donnees = ChargerDonneesAnnee(base_, annee, *Globals.Parametres, *Globals.TarifsGarderies);
   auto groupes = std::make_unique<TGroupesFrais>(base_);
   Globals.Montrer(std::move(donnees));
