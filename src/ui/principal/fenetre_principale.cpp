@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QFocusEvent>
+#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
@@ -113,6 +114,8 @@ void FenetrePrincipale::Suivre() {
 }
 
 void FenetrePrincipale::Demarrer() {
+  // On a smaller screen the columns fold, and nothing is out of reach.
+  setMinimumSize(minimumSize().boundedTo(screen()->availableSize()));
   show();
   QTimer::singleShot(0, this, [this] {
     form_.Montrer();
