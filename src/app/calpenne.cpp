@@ -1,4 +1,6 @@
 // The desktop program.
+#include <QScreen>
+
 #include "ui/principal/application.h"
 #include "ui/principal/programme.h"
 
@@ -19,6 +21,9 @@ int main(int argc, char** argv) {
   const THorloge horloge;
   Programme programme(horloge);
   application.Dialogues = &programme.Dialogues;
+  // On a smaller screen the columns fold, and nothing is out of reach.
+  programme.Fenetre.setMinimumSize(
+      programme.Fenetre.minimumSize().boundedTo(programme.Fenetre.screen()->availableSize()));
   programme.Fenetre.setWindowState(Qt::WindowMaximized);
   programme.Fenetre.Demarrer();
   const int code = QApplication::exec();

@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QFocusEvent>
-#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
@@ -114,8 +113,6 @@ void FenetrePrincipale::Suivre() {
 }
 
 void FenetrePrincipale::Demarrer() {
-  // On a smaller screen the columns fold, and nothing is out of reach.
-  setMinimumSize(minimumSize().boundedTo(screen()->availableSize()));
   show();
   QTimer::singleShot(0, this, [this] {
     form_.Montrer();
