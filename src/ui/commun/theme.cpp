@@ -117,7 +117,7 @@ QString Feuille() {
   const TPresentation& p = Presente();
   const auto nom = [](const QColor& couleur) { return couleur.name(); };
   return QStringLiteral(R"(
-QToolButton[genre="commande"] { border: 2px solid transparent; border-radius: %1px; padding: %2px;
+QToolButton[genre="commande"] { border: 2px solid transparent; border-radius: %1px; padding: 1px %2px;
   background: transparent; color: %4; }
 QToolButton[genre="commande"]:hover { background: %5; }
 QToolButton[genre="commande"]:checked { background: %6; color: %7; font-weight: 600; }
