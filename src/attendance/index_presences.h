@@ -20,7 +20,7 @@ class TIndexPresences {
   /// From one date to another, both included; of one date, in the order of the collection. Valid
   /// until the next change.
   std::span<const TEntree> Periode(int eleve, TDateTime premier, TDateTime dernier) const;
-  void Reserver(std::size_t n) { places_.reserve(n); }
+  void Reserver(std::size_t n) { places_.resize(n); }
 
  private:
   struct TPlace {

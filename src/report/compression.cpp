@@ -1,5 +1,6 @@
 #include "report/compression.h"
 
+#include <libdeflate.h>
 #include <zlib.h>
 
 #include <algorithm>
@@ -7,7 +8,7 @@
 
 namespace {
 
-/// On 500 pages of text the fastest level saves 30 ms and makes the file a third larger.
+/// Of libdeflate's 12 the one whose files are as small as zlib's, in less than half its time.
 constexpr int kNiveau = 6;
 constexpr qsizetype kBloc = 1 << 20;
 
@@ -15,28 +16,20 @@ Bytef* Octets(const char* debut) { return reinterpret_cast<Bytef*>(const_cast<ch
 
 }  // namespace
 
-struct TCompresseur::TFlux {
-  z_stream Zlib{};
-};
-
-TCompresseur::TCompresseur() : flux_(std::make_unique<TFlux>()) {
-  if (deflateInit(&flux_->Zlib, kNiveau) != Z_OK) throw std::bad_alloc();
+void TCompresseur::TLiberer::operator()(libdeflate_compressor* compresseur) const {
+  libdeflate_free_compressor(compresseur);
 }
 
-TCompresseur::~TCompresseur() { deflateEnd(&flux_->Zlib); }
+TCompresseur::TCompresseur() : compresseur_(libdeflate_alloc_compressor(kNiveau)) {
+  if (!compresseur_) throw std::bad_alloc();
+}
 
 void TCompresseur::Ajouter(std::string_view octets, std::string& sortie) {
-  z_stream& zlib = flux_->Zlib;
-  deflateReset(&zlib);
   const std::size_t debut = sortie.size();
-  const uLong borne = deflateBound(&zlib, static_cast<uLong>(octets.size()));
+  const std::size_t borne = libdeflate_zlib_compress_bound(compresseur_.get(), octets.size());
   sortie.resize(debut + borne);
-  zlib.next_in = Octets(octets.data());
-  zlib.avail_in = static_cast<uInt>(octets.size());
-  zlib.next_out = Octets(sortie.data() + debut);
-  zlib.avail_out = static_cast<uInt>(borne);
-  deflate(&zlib, Z_FINISH);
-  sortie.resize(debut + zlib.total_out);
+  sortie.resize(debut + libdeflate_zlib_compress(compresseur_.get(), octets.data(), octets.size(),
+                                                 sortie.data() + debut, borne));
 }
 
 std::optional<QByteArray> Decompresser(std::string_view octets, qsizetype taille) {

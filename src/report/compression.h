@@ -5,17 +5,20 @@
 #include <string>
 #include <string_view>
 
-/// Compresses streams one after the other, as zlib does.
+struct libdeflate_compressor;
+
+/// Compresses streams one after the other, in zlib's format.
 class TCompresseur {
  public:
   TCompresseur();
-  ~TCompresseur();
   /// Appends the compressed octets.
   void Ajouter(std::string_view octets, std::string& sortie);
 
  private:
-  struct TFlux;
-  std::unique_ptr<TFlux> flux_;
+  struct TLiberer {
+    void operator()(libdeflate_compressor* compresseur) const;
+  };
+  std::unique_ptr<libdeflate_compressor, TLiberer> compresseur_;
 };
 
 /// None when the octets are no compressed stream of just `taille` octets.
