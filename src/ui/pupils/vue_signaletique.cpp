@@ -105,7 +105,7 @@ void VueSignaletique::Disposer() {
   grille_->addWidget(blocFrais_, seule ? 2 : trois ? 0 : 1, seule ? 0 : trois ? 2 : 1);
   for (int i = 0; i < 3; ++i) {
     // Side by side the labels of the fees need more room than the categories of the month.
-    grille_->setColumnStretch(i, i >= colonnes_ || (!seule && i == 0) ? 0 : trois ? 3 + i : 1);
+    grille_->setColumnStretch(i, i >= colonnes_ || (!seule && i == 0) ? 0 : trois ? 6 + i : 1);
     grille_->setRowStretch(i, (seule && i > 0) || (!seule && i < (trois ? 1 : 2)) ? 1 : 0);
   }
   const int marge = Theme::Px(16);
