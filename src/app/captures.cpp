@@ -1,5 +1,6 @@
 // Pictures of the screens on a sample school, for the documentation and for whoever works on them.
 #include <QAbstractButton>
+#include <QAction>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
@@ -165,9 +166,9 @@ class Photographe : public QObject {
     programme_.Dialogues.SurProgression = [&](int fait, int total, const QString& nom) {
       montrer(fait, total, nom);
       if (pris || total == 0 || 2 * fait < total) return;
-      pris = true;
-      QCoreApplication::processEvents();
-      Prendre(programme_.Fenetre, QStringLiteral("importation-registre"));
+      pris = true;  // once the row in hand is told everywhere
+      QTimer::singleShot(0, &programme_.Fenetre,
+                         [this] { Prendre(programme_.Fenetre, QStringLiteral("importation-registre")); });
     };
     form->btnEtape2Click();
     programme_.Dialogues.SurProgression = montrer;
@@ -175,10 +176,12 @@ class Photographe : public QObject {
 
   void Presences() {
     programme_.Main.Executer(TGestionnaire::AdvGlowButton1Click);
-    auto* form = dynamic_cast<TfrmPresences*>(programme_.Main.Panneau.Courante());
-    if (form == nullptr) throw Exception(QStringLiteral("Les présences ne s'ouvrent pas."));
+    if (dynamic_cast<TfrmPresences*>(programme_.Main.Panneau.Courante()) == nullptr)
+      throw Exception(QStringLiteral("Les présences ne s'ouvrent pas."));
     Suivre({Fichier(QFileInfo(sujet_.Presences).absoluteFilePath())});
-    form->Importerunfichierdeprsence1Click();
+    // By its menu, so that the focus goes where it goes for a user.
+    for (QAction* action : programme_.Fenetre.findChildren<QAction*>())
+      if (action->text() == u"Importer un fichier de présence") action->trigger();
     Attendre(50);
     Prendre(programme_.Fenetre, QStringLiteral("presences-scanner"));
   }
