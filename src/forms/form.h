@@ -1,4 +1,5 @@
 #pragma once
+#include <QString>
 #include <functional>
 #include <optional>
 #include <typeindex>
@@ -44,6 +45,9 @@ class TForm : public TComposant {
   void AjouterComposant(TComposant& composant);
   void RetirerComposant(TComposant& composant);
   const std::vector<TComposant*>& Composants() const { return composants_; }
+
+  /// What the user has not stored yet and loses when the form ends without being closed; "" for nothing.
+  virtual QString EnSuspens() const { return {}; }
 
   /// How a modal form was answered; set before it is closed.
   TResultatModal ResultatModal = TResultatModal::Aucun;

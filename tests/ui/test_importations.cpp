@@ -238,6 +238,12 @@ TEST_F(Importations, ScansThatCannotBeReadAreRefusedAndTheWindowGoesOn) {
   EXPECT_EQ(QApplication::focusWidget(), BoutonDe(Programme.Fenetre(), kPresences2)) << "nothing is wrong";
   Programme.Ouvrir(TGestionnaire::AdvGlowButton8Click);
   EXPECT_EQ(Etat(), u"1 relevé non mémorisé");
+
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton1Click);
+  Choisit(kImporter, Base.Chemin(QStringLiteral("bon.txt")));
+  ImporterPresences();
+  Programme.Main().mnuAnneeClick(2015);
+  EXPECT_TRUE(Etat().endsWith(u" · 1 relevé non mémorisé")) << Etat().toStdString();
   EXPECT_EQ(Base.Valeur(QStringLiteral("SELECT COUNT(*) FROM PRESENCES")), u"0");
 }
 

@@ -54,9 +54,14 @@ bool TfrmPresences::FormCloseQuery() {
 
 void TfrmPresences::FormClose() {
   FermerLien();
-  if (const int reste = import_.NombreNonMemorises())
-    Signaler(TNiveauEtat::Alerte,
-             Releves(reste, QStringLiteral("relevé non mémorisé"), QStringLiteral("relevés non mémorisés")));
+  if (const QString reste = EnSuspens(); !reste.isEmpty()) Signaler(TNiveauEtat::Alerte, reste);
+}
+
+QString TfrmPresences::EnSuspens() const {
+  const int reste = import_.NombreNonMemorises();
+  return reste == 0
+             ? QString()
+             : Releves(reste, QStringLiteral("relevé non mémorisé"), QStringLiteral("relevés non mémorisés"));
 }
 
 QString TfrmPresences::TitreSource() const {

@@ -53,6 +53,7 @@ class TfrmPresences : public TForm {
   bool FichierLu() const { return lu_; }
   QString NoteAnomalies() const;
   QString NoteRecapitulatif() const;
+  QString EnSuspens() const override;
 
  protected:
   void FormShow() override;

@@ -207,7 +207,7 @@ void TFrmMain::mnuAnneeClick(int annee) {
   if (enTravail_ || !EstRelie()) return;
   QuitterChamp();
   Controleur.ChoisirAnnee(annee);
-  Etat(TNiveauEtat::Neutre, CombienEleves(annee, NombreEleves()));
+  EtatApresEcran(TNiveauEtat::Neutre, CombienEleves(annee, NombreEleves()));
 }
 
 // Messages.
@@ -238,6 +238,10 @@ bool TFrmMain::RecevoirMessage(const TMessage& message) {
 void TFrmMain::Etat(TNiveauEtat niveau, const QString& texte) {
   etat_ = {niveau, texte};
   if (SurEtat) SurEtat();
+}
+
+void TFrmMain::EtatApresEcran(TNiveauEtat niveau, const QString& fait) {
+  enSuspens_.isEmpty() ? Etat(niveau, fait) : Etat(TNiveauEtat::Alerte, fait % u" · " % enSuspens_);
 }
 
 // State.
@@ -310,6 +314,8 @@ void TFrmMain::OuvrirReservationTablette() { Executer(TGestionnaire::btnReservat
 void TFrmMain::OuvrirReservation() { Executer(TGestionnaire::btnReservationClick); }
 
 void TFrmMain::FermerEcran() {
+  const TForm* ecran = Panneau.Courante();
+  enSuspens_ = ecran != nullptr ? ecran->EnSuspens() : QString();
   Panneau.Vider();
   accueilDevant_ = false;
   outils_ = 0;

@@ -134,6 +134,8 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
  private:
   const TCommandePrincipale& Commande(TGestionnaire gestionnaire) const;
   void tvEleveChange();
+  /// What was done, and what the screen that had to go for it has left undone.
+  void EtatApresEcran(TNiveauEtat niveau, const QString& fait);
   void Diffuser(TCodeMessage code);
   TNoeud* NoeudQuiCommence(TNoeud* debut) const;
   void Inscrire(TEleve& professeur);
@@ -150,6 +152,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   int anneeCochee_ = 0;
   QString recherche_;
   TEtatPrincipal etat_;
+  QString enSuspens_;  // of the screen that was freed last
   bool enTravail_ = false;
 };
 

@@ -107,7 +107,7 @@ void TFrmMain::Ajouterunprofesseur1Click() {
   QString fait = u"Professeur ajouté : " % nom;
   if (Globals.Eleves->PlusieursImplantations())
     fait += QStringLiteral(" (sans implantation, il n'apparaît pas dans la liste)");
-  Etat(TNiveauEtat::Succes, fait);
+  EtatApresEcran(TNiveauEtat::Succes, fait);
 }
 
 // The pupils of an earlier year on display would enrol it in that year, so the enrolment goes through
