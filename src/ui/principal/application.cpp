@@ -32,4 +32,5 @@ void Application::Preparer() {
   if (traduction->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     installTranslator(traduction);
   Theme::Appliquer(*this);
+  setWindowIcon(Theme::Icone(QStringLiteral("system-users"), TRole::Accent));
 }
