@@ -9,6 +9,8 @@
 
 #include "support/ecole_essai.h"
 
+using namespace Qt::StringLiterals;
+
 /// A command line, what it prints, a piece of what it says, and its exit code.
 struct TAppel {
   QStringList Arguments;
@@ -28,7 +30,7 @@ class TProgrammeEssai : public testing::Test {
 
   static void Lancer(QProcess& programme, const QStringList& arguments) {
     QProcessEnvironment milieu = QProcessEnvironment::systemEnvironment();
-    milieu.insert(QStringLiteral("XDG_CONFIG_DIRS"), milieu.value(QStringLiteral("XDG_CONFIG_HOME")));
+    milieu.insert(u"XDG_CONFIG_DIRS"_s, milieu.value(u"XDG_CONFIG_HOME"_s));
     programme.setProcessEnvironment(milieu);
     programme.start(QStringLiteral(CALPENNE_LOT), arguments);
     ASSERT_TRUE(programme.waitForFinished(60'000)) << programme.errorString().toStdString();
@@ -49,7 +51,7 @@ class TProgrammeEssai : public testing::Test {
     }
   }
 
-  QStringList Serveur() const { return {QStringLiteral("--serveur"), base_.FichierDeDonnees()}; }
+  QStringList Serveur() const { return {u"--serveur"_s, base_.FichierDeDonnees()}; }
   /// The calls on the school's file.
   void Verifier(std::vector<TAppel> appels) const {
     for (TAppel& appel : appels) appel.Arguments = Serveur() + appel.Arguments;

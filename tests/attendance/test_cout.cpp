@@ -111,39 +111,32 @@ TEST_F(TGarderiesEssai, ModesDeDeductionDesActivites) {
   const int activite = ecole.activite("16:15", "17:00", "2016-10-03", "2016-10-07");
   // Half hours from 15:30: five at 18:00, three at 17:00 and 16:45, two at 16:30, one at 16:00.
   const struct {
-    const char* sortie;
-    const char* un[5];    // by mode
-    const char* deux[5];  // a second child
+    const char *sortie, *un, *deux;  // by mode, for a first and for a second child
   } cas[] = {
-      {"18:00",
-       {"1.3750", "1.5000", "0.1000", "1.9000", "2.5000"},
-       {"0.6875", "0.2500", "-1.1500", "0.6500", "1.2500"}},
-      {"17:00",
-       {"0.3750", "0.5000", "-0.9000", "0.9000", "1.5000"},
-       {"0.1875", "0.7500", "0.7500", "0.1500", "0.7500"}},
-      {"16:45",
-       {"1.0000", "0.5000", "-0.9000", "1.0000", "1.5000"},
-       {"0.5000", "0.7500", "0.7500", "0.5000", "0.7500"}},
-      {"16:30",
-       {"1.0000", "1.0000", "1.0000", "1.0000", "1.0000"},
-       {"0.5000", "0.5000", "0.5000", "0.5000", "0.5000"}},
-      {"16:00",
-       {"0.5000", "0.5000", "0.5000", "0.5000", "0.5000"},
-       {"0.2500", "0.2500", "0.2500", "0.2500", "0.2500"}},
+      {"18:00", "1.3750 1.5000 0.1000 1.9000 2.5000", "0.6875 0.2500 -1.1500 0.6500 1.2500"},
+      {"17:00", "0.3750 0.5000 -0.9000 0.9000 1.5000", "0.1875 0.7500 0.7500 0.1500 0.7500"},
+      {"16:45", "1.0000 0.5000 -0.9000 1.0000 1.5000", "0.5000 0.7500 0.7500 0.5000 0.7500"},
+      {"16:30", "1.0000 1.0000 1.0000 1.0000 1.0000", "0.5000 0.5000 0.5000 0.5000 0.5000"},
+      {"16:00", "0.5000 0.5000 0.5000 0.5000 0.5000", "0.2500 0.2500 0.2500 0.2500 0.2500"},
   };
   for (const auto& c : cas) ecole.unEleve().scan(Garderie, kLundi, "", c.sortie).suit(activite, "135");
   auto hors = ecole.unEleve().scan(Garderie, kMardi, "", "18:00").scan(Garderie, "2016-10-10", "", "18:00");
   hors.suit(activite, "1");
   charger();
-  for (std::size_t mode = 0; mode < 5; ++mode) {
-    presences->ModeDeduction = kModes[mode];
-    for (int eleve = 1; eleve <= 5; ++eleve) {
-      EXPECT_EQ(soir(eleve, kLundi), cas[eleve - 1].un[mode]) << mode << " " << eleve;
-      EXPECT_EQ(soir(eleve, kLundi, true), cas[eleve - 1].deux[mode]) << mode << " " << eleve;
+  const auto parMode = [&](int eleve, const char* jour, bool deuxieme) {
+    std::string montants;
+    for (const TModeDeduction mode : kModes) {
+      presences->ModeDeduction = mode;
+      montants += (montants.empty() ? "" : " ") + soir(eleve, jour, deuxieme);
     }
-    EXPECT_EQ(soir(hors.Id, kMardi), "2.5000");
-    EXPECT_EQ(soir(hors.Id, "2016-10-10"), "2.5000");
+    return montants;
+  };
+  for (int eleve = 1; eleve <= 5; ++eleve) {
+    EXPECT_EQ(parMode(eleve, kLundi, false), cas[eleve - 1].un) << eleve;
+    EXPECT_EQ(parMode(eleve, kLundi, true), cas[eleve - 1].deux) << eleve;
   }
+  for (const char* jour : {kMardi, "2016-10-10"})
+    EXPECT_EQ(parMode(hors.Id, jour, false), "2.5000 2.5000 2.5000 2.5000 2.5000") << jour;
 }
 
 TEST_F(TGarderiesEssai, ActiviteRecalculeeSurLEntreeDuReleve) {

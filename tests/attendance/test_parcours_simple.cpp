@@ -23,41 +23,30 @@ struct TParcours {
 
   std::pair<int, int> familleEtScan(int groupe, const TPresence& p) const {
     const TTarifGarderie *ligne = nullptr, *resultat = nullptr;
-    const auto parcourir = [&](auto meilleur) {
-      for (const TTarifGarderie& t : tarifs)
-        if (Groupe(static_cast<int>(t.TypeFamille)) == groupe && Tient(t.TypeJour, p.DateReleve) &&
-            meilleur(t))
-          ligne = &t;
+    double debut = 0, fin = 1;  // of the best row so far
+    const auto convient = [&](const TTarifGarderie& t) {
+      return Groupe(static_cast<int>(t.TypeFamille)) == groupe && Tient(t.TypeJour, p.DateReleve);
     };
-    double borne = 0;
-    if (p.HeureEntree > 0) {
-      parcourir([&](const TTarifGarderie& t) {
-        const bool oui = t.HeureDebutScan <= p.HeureEntree && t.HeureDebutScan > borne;
-        return oui ? (borne = t.HeureDebutScan, true) : false;
-      });
-      if (ligne && p.HeureEntree <= ligne->HeureFinScan) resultat = ligne;
-    }
-    if (p.HeureSortie > 0) {
-      borne = 1;
-      parcourir([&](const TTarifGarderie& t) {
-        const bool oui = t.HeureFinScan >= p.HeureSortie && t.HeureFinScan < borne;
-        return oui ? (borne = t.HeureFinScan, true) : false;
-      });
-      if (ligne) resultat = p.HeureSortie < ligne->HeureDebutScan ? nullptr : ligne;
-    }
+    for (const TTarifGarderie& t : tarifs)
+      if (p.HeureEntree > 0 && convient(t) && t.HeureDebutScan <= p.HeureEntree && t.HeureDebutScan > debut) {
+        ligne = &t;
+        debut = t.HeureDebutScan;
+      }
+    if (ligne && p.HeureEntree <= ligne->HeureFinScan) resultat = ligne;
+    for (const TTarifGarderie& t : tarifs)
+      if (p.HeureSortie > 0 && convient(t) && t.HeureFinScan >= p.HeureSortie && t.HeureFinScan < fin) {
+        ligne = &t;
+        fin = t.HeureFinScan;
+      }
+    if (p.HeureSortie > 0 && ligne) resultat = p.HeureSortie < ligne->HeureDebutScan ? nullptr : ligne;
     if (!resultat) return {0, 0};
     return {static_cast<int>(resultat->TypeFamille), static_cast<int>(resultat->TypeScan)};
   }
 
   bool autre(const TPresence& p, int famille) const {
     for (const TPresence& q : presences) {
-      const int type = static_cast<int>(q.TypePresence);
-      if (q.EleveId == p.EleveId && q.DateReleve == p.DateReleve &&
-          familleEtScan(type == 1   ? 1
-                        : type == 4 ? 2
-                                    : 0,
-                        q)
-                  .first == famille)
+      const int type = static_cast<int>(q.TypePresence), groupe = type == 1 ? 1 : type == 4 ? 2 : 0;
+      if (q.EleveId == p.EleveId && q.DateReleve == p.DateReleve && familleEtScan(groupe, q).first == famille)
         return true;
     }
     return false;
@@ -66,6 +55,7 @@ struct TParcours {
   /// A family of 1 to 7; meals cost 3 euro.
   std::int64_t service(int famille, int eleve, const TPeriode& periode, bool deux) const {
     const int types[] = {0, 1, 1, 1, 4, 2, 3, 1};
+    const auto f = static_cast<TTypeFamille>(famille);
     std::int64_t total = 0;
     std::vector<TDateTime> vues;
     for (const TPresence& p : presences) {
@@ -73,15 +63,14 @@ struct TParcours {
       const auto [trouvee, scan] = familleEtScan(Groupe(famille), p);
       if (static_cast<int>(p.TypePresence) != types[famille] || (famille != 5 && trouvee != famille))
         continue;
-      std::int64_t a =
-          famille == 5 ? 30000
-                       : tarifs
-                             .CoutPresence(static_cast<TTypeFamille>(famille), static_cast<TTypeScan>(scan),
-                                           deux && famille != 6, p.HeureSortie, p.HeureEntree)
-                             .EnBrut();
+      std::int64_t a = 30000;
+      if (famille != 5)
+        a = tarifs
+                .CoutPresence(f, static_cast<TTypeScan>(scan), deux && famille != 6, p.HeureSortie,
+                              p.HeureEntree)
+                .EnBrut();
       if (famille == 5 || famille == 6) {
-        const bool vue = std::ranges::find(vues, p.DateReleve) != vues.end() || JourLundi1(p.DateReleve) > 5;
-        if (vue) a = 0;
+        if (std::ranges::count(vues, p.DateReleve) > 0 || JourLundi1(p.DateReleve) > 5) a = 0;
         vues.push_back(p.DateReleve);
       }
       const bool venu = (famille == 2 && (autre(p, 1) || autre(p, 7))) || (famille == 7 && autre(p, 1));

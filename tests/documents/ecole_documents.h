@@ -51,9 +51,9 @@ struct TDocumentsEssai : testing::Test {
     }
   }
 
-  /// The document of that title for those pupils, the data as they stand in the database.
-  TResultat Demander(QStringView titre, const std::vector<int>& eleves, const char* du, const char* au,
-                     std::optional<TDateTime> datePaiement = {}) {
+  /// The document of that title for those pupils and October, the data as they stand in the database.
+  TResultat Demander(QStringView titre, const std::vector<int>& eleves, const char* du = "2016-10-01",
+                     const char* au = "2016-10-31", std::optional<TDateTime> datePaiement = {}) {
     Globals = {};
     controleur.Charger();
     TChoixDocument choix;
@@ -64,8 +64,8 @@ struct TDocumentsEssai : testing::Test {
     for (const int eleve : eleves) choix.Eleves.push_back(Globals.Eleves->TrouverParId(eleve));
     return FaireDocument(ContexteDesGlobals(), choix);
   }
-  TResultat Facturer(const std::vector<int>& eleves, const char* du, const char* au,
-                     std::optional<TDateTime> datePaiement = {}) {
+  TResultat Facturer(const std::vector<int>& eleves, const char* du = "2016-10-01",
+                     const char* au = "2016-10-31", std::optional<TDateTime> datePaiement = {}) {
     return Demander(u"Facture", eleves, du, au, datePaiement);
   }
 

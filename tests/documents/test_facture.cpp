@@ -45,7 +45,7 @@ TEST_F(TFactureEssai, UnMoisOuvert) {
   ecole.parametre(10, u"[ComStructParFacture] [DatePaiementFacture] [ComStructParFacture]"_s);
   ecole.parametre(103, u"1"_s);
 
-  const TResultat resultat = Facturer({anne.Id, sans, radie.Id}, "2016-10-01", "2016-10-31");
+  const TResultat resultat = Facturer({anne.Id, sans, radie.Id});
   EXPECT_EQ(resultat.Messages, QStringList());
   ASSERT_FALSE(resultat.Echec || resultat.Rapports.empty());
   const TRapport& facture = resultat.Rapports[0];
@@ -76,7 +76,7 @@ TEST_F(TFactureEssai, UnMoisOuvert) {
     Etudes: NomService=Etudes | Total=1,51
   Rappel: TypeFrais=Rappel | TotalFrais=4,23
     Septembre: NomService=Septembre | Total=4,23)"));
-  EXPECT_EQ(Valeur(Facturer({radie.Id}, "2016-10-01", "2016-10-31"), u"NomEleve"), u"Eleve3"_s);
+  EXPECT_EQ(Valeur(Facturer({radie.Id}), u"NomEleve"), u"Eleve3"_s);
 }
 
 TEST_F(TFactureEssai, UnMoisPayeSortDesMontantsOuverts) {
@@ -94,7 +94,7 @@ TEST_F(TFactureEssai, UnMoisPayeSortDesMontantsOuverts) {
   EXPECT_EQ(Valeur(resultat, u"TotalGeneral"), u"14,03"_s);
   EXPECT_EQ(Valeur(resultat, u"Communication"), QString());
   EXPECT_EQ(Valeur(resultat, u"MoisReleve"), u"du 1 octobre 2016 au 30 novembre 2016"_s);
-  EXPECT_EQ(Facturer({anne.Id}, "2016-10-01", "2016-10-31").Messages,
+  EXPECT_EQ(Facturer({anne.Id}).Messages,
             QStringList{u"Aucune facture n'est à établir pour la période choisie."_s});
 
   base.Sql(u"UPDATE PAIEMENTS SET MONTANT = 5.4344"_s);  // no longer exactly
@@ -171,7 +171,7 @@ TEST_F(TFactureEssai, DateDePaiementEtCommunication) {
   EXPECT_EQ(resultat.Messages,
             QStringList{u"L'identifiant élève est trop grand pour générer une communication structurée !"_s});
   // Given up: silence, and no detail either.
-  const TResultat rien = Facturer({anne.Id}, "2016-10-01", "2016-10-31");
+  const TResultat rien = Facturer({anne.Id});
   EXPECT_EQ(rien.EnJson(u"Facture"_s), R"({"titre":"Facture","messages":[],"rapports":[]})");
   EXPECT_FALSE(rien.Echec);
 }

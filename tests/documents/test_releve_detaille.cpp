@@ -6,7 +6,7 @@ namespace {
 
 struct TReleveDetailleEssai : TDocumentsEssai {
   TResultat Relever(const std::vector<int>& eleves) {
-    return Demander(u"Relevé détaillé des services", eleves, "2016-10-01", "2016-10-31");
+    return Demander(u"Relevé détaillé des services", eleves);
   }
   int AvecUnMatin(const QString& drapeau = {}) {
     TEleveEssai eleve = UnEleve(drapeau);
@@ -85,7 +85,7 @@ TEST_F(TReleveDetailleEssai, ApresUneFacture) {
       {{vide}, {}},  // nothing to print: silence
   };
   for (const auto& [factures, details] : cas) {
-    const TResultat resultat = Facturer(factures, "2016-10-01", "2016-10-31");
+    const TResultat resultat = Facturer(factures);
     EXPECT_EQ(resultat.Messages, QStringList());
     QStringList noms;
     if (resultat.Rapports.size() > 1)

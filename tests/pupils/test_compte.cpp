@@ -44,21 +44,17 @@ struct TAnneeEssai {
 struct TCompteEssai : testing::Test {
   TCompteEssai() {
     using namespace Essai;
-    ecole.tarif(Matin, TousLesJours, u"07:00"_s, u"08:30"_s, Forfait, u"1.00"_s, ScanPresence, u"0.10"_s);
-    ecole.tarif(Midi, TousLesJours, u"12:00"_s, u"13:00"_s, Forfait, u"0.50"_s, ScanPresence, u"0.20"_s);
-    ecole.tarif(Soir, LundiMardiJeudiVendredi, u"15:30"_s, u"18:00"_s, Forfait, u"2"_s, ScanPresence,
-                u"0.30"_s);
-    ecole.tarif(Mercredi, 3, u"12:30"_s, u"18:00"_s, Forfait, u"3.00"_s, ScanPresence, u"0.40"_s);
-    ecole.tarif(FamilleEtude, TousLesJours, u"15:30"_s, u"16:30"_s, Forfait, u"4.00"_s, ScanPresence,
-                u"0.60"_s);
-    ecole.tarif(FamilleSoupe, TousLesJours, u"11:00"_s, u"14:00"_s, Forfait, u"0.75"_s, ScanPresence,
-                u"0.05"_s);
-    eleve.enClasse(u"P1"_s, u"A"_s);
-    eleve.scan(Garderie, u"2016-10-03"_s, u"07:30"_s).scan(Garderie, u"2016-10-03"_s, u"12:15"_s);
-    eleve.scan(Garderie, u"2016-10-03"_s, u"16:00"_s)
-        .scan(Garderie, u"2016-10-05"_s, u"14:00"_s);  // a Wednesday
-    eleve.scan(Etude, u"2016-10-04"_s, u"15:45"_s).scan(Repas, u"2016-10-04"_s, u"12:00"_s);
-    eleve.scan(Soupe, u"2016-10-04"_s, u"12:00"_s).scan(Garderie, u"2016-11-07"_s, u"07:30"_s);
+    ecole.tarif(Matin, TousLesJours, "07:00", "08:30", Forfait, "1", ScanPresence, "0.10");
+    ecole.tarif(Midi, TousLesJours, "12:00", "13:00", Forfait, "0.50", ScanPresence, "0.20");
+    ecole.tarif(Soir, LundiMardiJeudiVendredi, "15:30", "18:00", Forfait, "2", ScanPresence, "0.30");
+    ecole.tarif(Mercredi, 3, "12:30", "18:00", Forfait, "3", ScanPresence, "0.40");
+    ecole.tarif(FamilleEtude, TousLesJours, "15:30", "16:30", Forfait, "4", ScanPresence, "0.60");
+    ecole.tarif(FamilleSoupe, TousLesJours, "11:00", "14:00", Forfait, "0.75", ScanPresence, "0.05");
+    eleve.enClasse("P1", "A");
+    eleve.scan(Garderie, "2016-10-03", "07:30").scan(Garderie, "2016-10-03", "12:15");
+    eleve.scan(Garderie, "2016-10-03", "16:00").scan(Garderie, "2016-10-05", "14:00");  // a Wednesday
+    eleve.scan(Etude, "2016-10-04", "15:45").scan(Repas, "2016-10-04", "12:00");
+    eleve.scan(Soupe, "2016-10-04", "12:00").scan(Garderie, "2016-11-07", "07:30");
   }
   TBaseEssai base;
   TEcoleEssai ecole{base};
@@ -101,8 +97,8 @@ TEST_F(TCompteEssai, LesActivitesPassentParLEleve) {
   eleve.suit(ecole.activite(u"16:00"_s, u"17:00"_s), u"13"_s);
   TAnneeEssai annee(*base);
   annee.presences.ModeDeduction = TModeDeduction::UnEuro;
-  EXPECT_EQ(annee.eleves[0].TotalServices(octobre),
-            Euros(14.25));  // one euro off Monday's evening and Wednesday
+  // One euro off Monday's evening and Wednesday.
+  EXPECT_EQ(annee.eleves[0].TotalServices(octobre), Euros(14.25));
   annee.eleves.TypeActivitesExt = TTypeActivitesExt::DepuisSeptembre;  // of the year 2015: too late
   EXPECT_EQ(annee.eleves[0].TotalServices(octobre), Euros(16.25));
 }

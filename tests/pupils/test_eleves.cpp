@@ -131,15 +131,10 @@ TEST_F(TElevesEssai, MouvementsDonneursEtTickets) {
     base.Sql(
         u"INSERT INTO EXTRAITS (EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, NUM_CPT_DONNEUR) "
         u"VALUES (%1, 'De %2', '2016-10-03', 5, '%2')"_s.arg(n, compte));
-    base.Sql(
-        u"INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ANNEE_SCOLAIRE, ELEVE_ID, EXTRAIT_ID) "
-        u"VALUES (%1, %2, %3, %1)"_s.arg(n)
-            .arg(annee)
-            .arg(eleve));
+    ecole.Ajouter(u"FRAIS_ELEVE"_s, u"FRAIS_ELEVE_ID, ANNEE_SCOLAIRE, ELEVE_ID, EXTRAIT_ID"_s,
+                  {QString::number(annee), QString::number(eleve), n});
   };
-  mouvement(11, 1, 2016, u"BE1"_s);
-  mouvement(12, 1, 2016, u"BE2"_s);
-  mouvement(13, 1, 2016, u"BE1"_s);
+  for (const int extrait : {11, 12, 13}) mouvement(extrait, 1, 2016, extrait == 12 ? u"BE2"_s : u"BE1"_s);
   mouvement(14, 1, 2015, u"BE3"_s);
   mouvement(15, 2, 2016, u"BE4"_s);
   TEleves eleves(*base, 2016);

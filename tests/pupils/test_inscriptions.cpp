@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "pupils/eleves.h"
-#include "pupils/eleves_classes.h"
-#include "pupils/implantations.h"
 #include "support/affichage.h"
 #include "support/ecole_essai.h"
 
@@ -12,13 +10,12 @@ TEST(Inscriptions, UnEleveInscritDeuxFoisLaMemeAnnee) {
   TBaseEssai base;
   TEcoleEssai ecole(base);
   auto eleve = ecole.unEleve();
-  eleve.enClasse(QStringLiteral("P1"), QStringLiteral("A"))
-      .enClasse(QStringLiteral("P2"), QStringLiteral("B"));
+  eleve.enClasse(u"P1"_s, u"A"_s).enClasse(u"P2"_s, u"B"_s);
   TEleves eleves(*base, 2016);
   ASSERT_EQ(eleves.Count(), 2);
   EXPECT_EQ(eleves[1].CodeClasse, u"P1") << "both are in the class of the first row";
-  eleves.AddClasseEleve(eleve.Id, QStringLiteral("P3"), 2016, {}, QStringLiteral("C"));
-  EXPECT_EQ(base.Rangees(QStringLiteral("SELECT CLASSE FROM ELEVES_CLASSES ORDER BY ELEVE_CLASSE_ID")),
+  eleves.AddClasseEleve(eleve.Id, u"P3"_s, 2016, {}, u"C"_s);
+  EXPECT_EQ(base.Rangees(u"SELECT CLASSE FROM ELEVES_CLASSES ORDER BY ELEVE_CLASSE_ID"_s),
             (QStringList{"P1", "P3"}))
       << "the last row of the year is the one that changes";
   EXPECT_EQ(eleves.ElevesClasses.ClasseDe(eleve.Id), u"P1");

@@ -36,6 +36,8 @@ class TEleveEssai {
   TEleveEssai& suit(int activite, const QString& jours);
 
  private:
+  TEleveEssai& poser(const QString& colonne, const QString& valeur);
+  TEleveEssai& ajouter(const QString& table, const QString& colonnes, const QStringList& valeurs);
   TEcoleEssai& ecole_;
 
  public:
@@ -58,8 +60,8 @@ class TEcoleEssai {
   /// A catalogue fee; flags among "previsionnel", "non_obligatoire", "service", joined by spaces.
   int frais(const QString& libelle, const QString& cout, int mois, const QString& drapeaux = {});
 
-  /// The next key of the counter, as the program would take it.
-  int Cle(const QString& compteur);
+  /// A row with the next key of its table in the first column; the other values in SQL. Returns the key.
+  int Ajouter(const QString& table, const QString& colonnes, const QStringList& valeurs);
 
   TBaseEssai& Base;
   const int Annee;

@@ -1,9 +1,10 @@
 #pragma once
+#include "report/rapport.h"
 #include "screens/contexte_ecran.h"
 #include "support/controleur_essai.h"
 
-/// What a screen is given in a test: it notes what the status bar says, and answers a modal form by
-/// what the test wants done with it.
+/// What a screen is given in a test: it notes what the status bar says and what is previewed, and
+/// answers a modal form by what the test wants done with it.
 class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal {
  public:
   explicit TEcranEssai(TBaseEssai& base) : Essai(base) { Essai.Charger(); }
@@ -13,8 +14,8 @@ class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal
     if (SurModale) SurModale(form);
     return form.ResultatModal;
   }
-  void Afficher(TRapport&) override {}
-  void Envoyer(const TMessage&) override {}
+  void Afficher(TRapport& rapport) override { Apercus += rapport.Titre(); }
+  void Envoyer(const TMessage&) override { ++Envois; }
   void Etat(TNiveauEtat niveau, const QString& texte) override {
     Niveau = niveau;
     Etats += texte;
@@ -24,5 +25,7 @@ class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal
   std::function<void(TForm&)> SurModale;
   TNiveauEtat Niveau{};
   QStringList Etats;
+  QStringList Apercus;
+  int Envois = 0;
   TContexteEcran Contexte{Essai.Controleur, *this, *this, *this};
 };

@@ -42,8 +42,8 @@ class TFichierRegistre {
     lignes_[ligne] = cellules.join(u';');
     return *this;
   }
-  QString Ecrire(TBaseEssai& base) const {
-    return base.Fichier(QStringLiteral("registre.csv"), lignes_.join(QStringLiteral("\r\n")).toUtf8());
+  QString Ecrire(TBaseEssai& base, const QString& nom = QStringLiteral("registre.csv")) const {
+    return base.Fichier(nom, lignes_.join(QStringLiteral("\r\n")).toUtf8());
   }
 
  private:

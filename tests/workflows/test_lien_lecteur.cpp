@@ -9,6 +9,8 @@
 #include "core/exceptions.h"
 #include "workflows/lien_lecteur.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A device with one file, which it can be made unable to read beyond its first blocks.
@@ -40,7 +42,7 @@ struct TAppareil : ILienLecteur {
 
 TEST(LienLecteur, ACopyIsWholeOrNotMade) {
   const QTemporaryDir dossier;
-  const QString local = dossier.filePath(QStringLiteral("Presences.txt"));
+  const QString local = dossier.filePath(u"Presences.txt"_s);
   const auto contenu = [&] {
     QFile fichier(local);
     return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
