@@ -3,15 +3,14 @@
 
 #include "pupils/eleves.h"
 #include "screens/documents/frm_print_wizard.h"
-#include "screens/payments/frm_date_paiement.h"
 #include "screens/pupils/frm_signaletique.h"
-#include "support/controleur_essai.h"
+#include "support/ecran_essai.h"
 #include "support/valeurs.h"
 
 using namespace Qt::StringLiterals;
 
 /// A pupil of whom there is something to see in each place of its record, and one of whom there is
-/// nothing. What the screen asks of the main window and the wizard is noted.
+/// nothing. What the screen asks of the wizard is noted.
 struct TSignaletiqueEssai : testing::Test {
   struct TAssistant : TComposant {
     bool RecevoirMessage(const TMessage& message) override {
@@ -21,30 +20,6 @@ struct TSignaletiqueEssai : testing::Test {
     }
     TDemandeAssistant Demande;
   };
-  /// The date dialog is answered by that date, or given up.
-  struct TModale : IFenetreModale {
-    TResultatModal MontrerModal(TForm& form) override {
-      ++Fois;
-      form.Montrer();
-      auto& date = dynamic_cast<TFrmDatePaiement&>(form);
-      if (Date) date.dtDatePaiement = *Date;
-      Date ? date.btnValiderClick() : date.btnAnnulerClick();
-      return form.ResultatModal;
-    }
-    std::optional<TDateTime> Date;
-    int Fois = 0;
-  };
-  struct TApercu : IApercu {
-    void Afficher(TRapport& rapport) override { Titres += rapport.Titre(); }
-    QStringList Titres;
-  };
-  struct TPrincipal : ILienPrincipal {
-    void Envoyer(const TMessage&) override { ++Envois; }
-    void Etat(TNiveauEtat, const QString& texte) override { Etats += texte; }
-    QStringList Etats;
-    int Envois = 0;
-  };
-
   void SetUp() override {
     using namespace Essai;
     ecole.tarif(Matin, TousLesJours, u"07:00"_s, u"08:30"_s, Forfait, u"1.00"_s, ScanPresence);
@@ -75,12 +50,13 @@ struct TSignaletiqueEssai : testing::Test {
     rose.mois(11, u"1"_s).mois(1, u"0.40"_s);
     rose.marque(1, 9).marque(3, 1);
     for (const int mois : kMoisFacturation) rose.marque(2, mois);
+    monde.Contexte.Assistant = &assistant;
   }
   /// The school on display, the screen open on that pupil, as the main window opens it.
   TFrmSignaletique& Ouvrir(const TEleveEssai& eleve) {
     Globals = {};
-    controleur.Charger();
-    ecran = std::make_unique<TFrmSignaletique>(contexte);
+    monde.Essai.Charger();
+    ecran = std::make_unique<TFrmSignaletique>(monde.Contexte);
     ecran->Montrer();
     Choisir(eleve.Id);
     return *ecran;
@@ -105,11 +81,7 @@ struct TSignaletiqueEssai : testing::Test {
   TEcoleEssai ecole{base};
   TEleveEssai rose = ecole.unEleve();
   TEleveEssai vide = ecole.unEleve().enClasse(u"P3"_s, u"A"_s);
-  TControleurEssai controleur{base};
+  TEcranEssai monde{base};
   TAssistant assistant;
-  TModale modale;
-  TApercu apercu;
-  TPrincipal principal;
-  TContexteEcran contexte{controleur.Controleur, modale, apercu, principal, &assistant};
   std::unique_ptr<TFrmSignaletique> ecran;
 };

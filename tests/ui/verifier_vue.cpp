@@ -29,29 +29,26 @@ namespace {
 
 constexpr QSize kContenu(1117, 560);
 
+template <class... Classes>
+bool EstUn(const QObject* objet) {
+  return (qobject_cast<const Classes*>(objet) || ...);
+}
+
 /// Made of parts by Qt itself: the parts are not controls of their own.
 bool EstCompose(const QObject* objet) {
-  return qobject_cast<const QComboBox*>(objet) || qobject_cast<const QLineEdit*>(objet) ||
-         qobject_cast<const QAbstractSpinBox*>(objet) || qobject_cast<const QCalendarWidget*>(objet) ||
-         qobject_cast<const QHeaderView*>(objet) || qobject_cast<const QScrollBar*>(objet) ||
+  return EstUn<QComboBox, QLineEdit, QAbstractSpinBox, QCalendarWidget, QHeaderView, QScrollBar>(objet) ||
          objet->objectName().startsWith(QStringLiteral("qt_"));
 }
 
 bool EstPartie(const QWidget* widget, const QWidget* vue) {
   for (const QObject* parent = widget->parent(); parent && parent != vue; parent = parent->parent())
     if (EstCompose(parent)) return true;
-  return widget->objectName().startsWith(QStringLiteral("qt_")) || qobject_cast<const QScrollBar*>(widget) ||
-         qobject_cast<const QHeaderView*>(widget);
+  return EstUn<QScrollBar, QHeaderView>(widget) || widget->objectName().startsWith(QStringLiteral("qt_"));
 }
 
 bool EstCommande(const QWidget* widget) {
-  const auto* defilable = qobject_cast<const QAbstractScrollArea*>(widget);
-  const bool liste =
-      defilable && (qobject_cast<const QAbstractItemView*>(widget) ||
-                    qobject_cast<const QTextEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget));
-  return liste || qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
-         qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget) ||
-         qobject_cast<const QAbstractSlider*>(widget);
+  return EstUn<QAbstractItemView, QTextEdit, QPlainTextEdit, QAbstractButton, QLineEdit, QComboBox,
+               QAbstractSpinBox, QAbstractSlider>(widget);
 }
 
 QString Designer(const QWidget* widget) {
@@ -110,9 +107,7 @@ bool EstCoupe(const QWidget* widget) {
 }
 
 bool EstTropPetit(const QWidget* widget) {
-  const bool texte = qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLabel*>(widget) ||
-                     qobject_cast<const QComboBox*>(widget) || qobject_cast<const QLineEdit*>(widget);
-  if (!texte) return false;
+  if (!EstUn<QAbstractButton, QLabel, QComboBox, QLineEdit>(widget)) return false;
   const QSize moindre = widget->minimumSizeHint();
   const auto* libelle = qobject_cast<const QLabel*>(widget);
   if (libelle && libelle->wordWrap()) return widget->height() < libelle->heightForWidth(widget->width());

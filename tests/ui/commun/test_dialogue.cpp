@@ -6,10 +6,12 @@
 #include <QVBoxLayout>
 
 #include "support/affichage.h"
+#include "ui/commun/bouton.h"
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/dialogue_base.h"
 #include "ui/commun/panneau_edition.h"
 #include "ui/commun/saisie.h"
+#include "ui/commun/titres.h"
 #include "ui/verifier_vue.h"
 
 namespace {
@@ -21,7 +23,10 @@ class DialogueEssai : public DialogueBase {
  public:
   DialogueEssai() : DialogueBase(T("Essai")), Montant(new SaisieMontant) {
     DefinirPrincipal(T("&Enregistrer"), T("document-save"));
-    Contenu()->addWidget(new ChampLibelle(T("Coût:"), Montant));
+    auto* titre = new TitreSection(T("Une section"));
+    titre->AjouterAction(BoutonSupprimer(T("Supprimer le coût")));
+    Contenu()->addWidget(titre);
+    Contenu()->addWidget(new ChampLibelle(T("Coût:"), Montant, ChampLibelle::Dessus));
   }
   SaisieMontant* Montant;
 
@@ -56,7 +61,12 @@ TEST(DialogueBase, RefuseResteOuvertEtMontreLeChamp) {
 }
 
 TEST(DialogueBase, SeParcourt) {
-  VerifierVuePartout([] { return std::make_unique<DialogueEssai>(); });
+  VerifierVuePartout([] {
+    auto dialogue = std::make_unique<DialogueEssai>();
+    dialogue->show();
+    dialogue->Principal()->click();  // with the line of its fault
+    return dialogue;
+  });
 }
 
 TEST(PanneauEdition, EnLectureRienNeChange) {

@@ -53,14 +53,32 @@ TEST_F(TVueSignaletique, RienNeManqueAuClavierNiALaVue) {
 TEST_F(TVueSignaletique, MontreLEleve) {
   Ouvrir(rose);
   Montrer();
-  EXPECT_TRUE(Montre(u"LAMBERT Élise"_s) && Montre(u"À payer"_s));
-  EXPECT_TRUE(Montre(u"\u2212126,10\u00A0€"_s));
-  EXPECT_EQ(Controle<QLineEdit>(u"Localité du responsable"_s).text(), u"Namur"_s);
-  EXPECT_EQ(Controle<QLineEdit>(u"Date de naissance"_s).text(), u"14/03/2010"_s);
-  EXPECT_TRUE(Controle<QAbstractButton>(u"Attestation au nom du second"_s).isChecked());
-  EXPECT_TRUE(Controle<QAbstractButton>(u"Parents séparés"_s).isChecked());
+  for (const char16_t* texte :
+       {u"LAMBERT Élise", u"P3 A  ·  Matricule 212-04127-38", u"À payer", u"\u2212126,10\u00A0€"})
+    EXPECT_TRUE(Montre(QString::fromUtf16(texte))) << QString::fromUtf16(texte).toStdString();
+  QStringList champs;
+  for (const QLineEdit* champ : vue->findChildren<QLineEdit*>()) {
+    EXPECT_TRUE(champ->isReadOnly());
+    if (!champ->text().isEmpty()) champs += champ->accessibleName() % u'=' % champ->text();
+  }
+  champs.sort();
+  EXPECT_EQ(champs,
+            (QStringList{u"Adresse du responsable=Rue des Tanneurs"_s, u"Code postal du responsable=5000"_s,
+                         u"Date de naissance=14/03/2010"_s, u"Localité du responsable=Namur"_s,
+                         u"Nom du responsable=LAMBERT"_s, u"Nom du second responsable=COLLIN"_s,
+                         u"Nom du titulaire=LAMBERT N."_s, u"Numéro du responsable=12"_s,
+                         u"N° compte=BE71 0961 2345 6769"_s, u"Prénom du responsable=Nathalie"_s}))
+      << "a postcode of 0 is none";
+  QStringList coches;
+  for (const QAbstractButton* boite : vue->findChildren<QAbstractButton*>()) {
+    const QString nom = boite->accessibleName().isEmpty() ? boite->text() : boite->accessibleName();
+    if (boite->isChecked() && !nom.contains(u"tous les mois") && !nom.startsWith(u"Participe à l'étude"))
+      coches += nom;
+  }
+  EXPECT_EQ(coches, (QStringList{u"Attestation au nom du second"_s, u"Parents séparés"_s,
+                                 u"Rentre à son domicile pendant midi, septembre"_s,
+                                 u"Paiement forfaitaire, janvier"_s}));
   EXPECT_TRUE(Controle<QAbstractButton>(u"Participe à l'étude, tous les mois"_s).isChecked());
-  for (const QLineEdit* champ : vue->findChildren<QLineEdit*>()) EXPECT_TRUE(champ->isReadOnly());
 
   auto& mois = Controle<QComboBox>(u"Mois du relevé"_s);
   EXPECT_EQ(mois.currentText(), u"Octobre"_s);
@@ -83,13 +101,13 @@ TEST_F(TVueSignaletique, UnClicNeChangeRien) {
     QTest::keyClick(&bouton, Qt::Key_Space);
     EXPECT_FALSE(bouton.isChecked()) << nom.toStdString();
   }
-  EXPECT_EQ(principal.Etats.size(), 3);
+  EXPECT_EQ(monde.Etats.size(), 3);
   auto& frais = Controle<VueGrille>(u"Frais et paiements"_s);
   const int lignes = ecran->Frais.Grille.NombreLignes();
   frais.setFocus();
   for (const int touche : {Qt::Key_Home, Qt::Key_Return, Qt::Key_Delete})
     QTest::keyClick(&frais, static_cast<Qt::Key>(touche));
-  EXPECT_EQ(principal.Etats.size(), 5) << "Enter would edit the fee, Suppr delete it";
+  EXPECT_EQ(monde.Etats.size(), 5) << "Enter would edit the fee, Suppr delete it";
   EXPECT_EQ(ecran->Frais.Grille.NombreLignes(), lignes);
   Globals.EleveCourant = nullptr;
   Diffuser(TCodeMessage::EleveChange, *ecran);

@@ -3,14 +3,8 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTextEdit>
 
-#include "ui/commun/galerie.h"
 #include "ui/verifier_vue.h"
-
-TEST(Galerie, ToutADuNomEtDeLaPlace) {
-  VerifierVuePartout([] { return std::make_unique<Galerie>(); });
-}
 
 TEST(VerifierVue, TrouveCeQuiManque) {
   QWidget vue;
