@@ -169,7 +169,8 @@ void VueApercu::CreerRecherche(QHBoxLayout& ligne) {
                         QLineEdit::LeadingPosition);
   recherche_->setMinimumWidth(Theme::Px(140));
   recherche_->setMaximumWidth(Theme::Px(200));
-  recherche_->installEventFilter(this);
+  for (QWidget* champ : {static_cast<QWidget*>(recherche_), static_cast<QWidget*>(zoom_->lineEdit())})
+    champ->installEventFilter(this);
   ligne.addWidget(trouve_);
   ligne.addWidget(recherche_, 2);
   connect(recherche_, &QLineEdit::textChanged, this, [this](const QString& texte) { form_.Chercher(texte); });
@@ -301,12 +302,18 @@ void VueApercu::keyPressEvent(QKeyEvent* evenement) {
 
 /// Escape in the search field empties it first.
 bool VueApercu::eventFilter(QObject* objet, QEvent* evenement) {
-  const bool touche = evenement->type() == QEvent::ShortcutOverride || evenement->type() == QEvent::KeyPress;
-  if (objet != recherche_ || !touche || static_cast<QKeyEvent*>(evenement)->key() != Qt::Key_Escape)
-    return QDialog::eventFilter(objet, evenement);
+  const bool annonce = evenement->type() == QEvent::ShortcutOverride;
+  if (!annonce && evenement->type() != QEvent::KeyPress) return QDialog::eventFilter(objet, evenement);
+  const auto* touche = static_cast<QKeyEvent*>(evenement);
+  // On some systems a field would take the export's key for the end of its line.
+  if (annonce && touche->modifiers() == Qt::ControlModifier && touche->key() == Qt::Key_E) {
+    evenement->ignore();
+    return true;
+  }
+  if (objet != recherche_ || touche->key() != Qt::Key_Escape) return QDialog::eventFilter(objet, evenement);
   if (recherche_->text().isEmpty()) return false;
   evenement->accept();
-  if (evenement->type() == QEvent::KeyPress) recherche_->clear();
+  if (!annonce) recherche_->clear();
   return true;
 }
 
