@@ -308,11 +308,8 @@ TEST_F(FrmMain, WithoutConnectionNothingOpens) {
   Main.Montrer();
   EXPECT_FALSE(journal.contains(u"fin"_s)) << "the window stays";
   EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Erreur);
-  for (const TCommandePrincipale& commande : Main.Commandes) {
-    if (commande.Page != TPage::PgEleve) continue;
-    EXPECT_FALSE(Main.CommandeActive(commande));
-    Main.Executer(commande.Gestionnaire);
-  }
+  EXPECT_FALSE(Main.CommandeActive(Main.Commandes.front()));
+  Main.Executer(TGestionnaire::AdvGlowButton2Click);
   EXPECT_EQ(Main.Panneau.Courante(), nullptr);
   Main.mnuAnneeClick(2015);
   Main.btnRechercheClick();

@@ -192,23 +192,14 @@ TEST_F(Principal, TheSearchChoosesAPupil) {
 
 TEST_F(Principal, TheKeysOfTheWindow) {
   DemarrerLEcole();
-  const auto zone = [&]() -> QString {
-    const QWidget* foyer = QApplication::focusWidget();
-    if (foyer == nullptr) return {};
-    return Fenetre().Barre()->isAncestorOf(foyer)    ? u"barre"_s
-           : Fenetre().Eleves()->isAncestorOf(foyer) ? u"eleves"_s
-                                                     : u"contenu"_s;
-  };
   Arbre()->setFocus();
   Touche(&Fenetre(), Qt::Key_F6, Qt::ShiftModifier);
-  EXPECT_EQ(zone(), u"barre");
+  EXPECT_TRUE(Fenetre().Barre()->isAncestorOf(QApplication::focusWidget()));
   Touche(&Fenetre(), Qt::Key_F6);
   EXPECT_EQ(QApplication::focusWidget(), Arbre()) << "the zone gives back the last focus";
 
   Touche(&Fenetre(), Qt::Key_3, Qt::ControlModifier);
   EXPECT_EQ(Pages(), (QStringList{"Accueil", "Repas", "Administration*"}));
-  Touche(&Fenetre(), Qt::Key_2, Qt::ControlModifier);
-  EXPECT_EQ(Pages(), (QStringList{"Accueil", "Repas*", "Administration"}));
   Touche(&Fenetre(), Qt::Key_1, Qt::ControlModifier);
   EXPECT_EQ(QApplication::focusWidget(), Arbre()) << "the hand stays where it is";
 
