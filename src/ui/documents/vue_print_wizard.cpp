@@ -99,21 +99,20 @@ void VuePrintWizard::Suivre() {
   connect(rien_, &QPushButton::clicked, this, [this] { form_.btnRienSelectionnerClick(); });
   connect(mois_, &QComboBox::activated, this, [this](int indice) { form_.ChoisirMois(indice); });
   for (SaisieDate* date : dates_) connect(date, &Saisie::Saisi, this, [this] { LireDates(); });
-  const struct {
-    const TListe& Liste;
-    QString& Filtre;
-    void (TFrmPrintWizard::*Trier)(int, bool);
-  } listes[] = {{eleves_, form_.FiltreEleve, &TFrmPrintWizard::LstEleveColumnClick},
-                {classes_, form_.FiltreClasse, &TFrmPrintWizard::LstClasseColumnClick}};
-  for (const auto& [liste, filtre, trier] : listes) {
-    connect(liste.Filtre, &QLineEdit::textChanged, this, [&filtre](const QString& texte) { filtre = texte; });
-    const QHeaderView* tete = liste.Vue->header();
-    const auto ordonner = [this, trier](int colonne, Qt::SortOrder ordre) {
-      (form_.*trier)(colonne, ordre == Qt::AscendingOrder);
-    };
-    ordonner(tete->sortIndicatorSection(), tete->sortIndicatorOrder());
-    connect(tete, &QHeaderView::sortIndicatorChanged, this, ordonner);
-  }
+  SuivreListe(eleves_, form_.FiltreEleve, &TFrmPrintWizard::LstEleveColumnClick);
+  SuivreListe(classes_, form_.FiltreClasse, &TFrmPrintWizard::LstClasseColumnClick);
+}
+
+void VuePrintWizard::SuivreListe(const TListe& liste, QString& filtre,
+                                 void (TFrmPrintWizard::*trier)(int, bool)) {
+  QString* retenu = &filtre;
+  connect(liste.Filtre, &QLineEdit::textChanged, this, [retenu](const QString& texte) { *retenu = texte; });
+  const QHeaderView* tete = liste.Vue->header();
+  const auto ordonner = [this, trier](int colonne, Qt::SortOrder ordre) {
+    (form_.*trier)(colonne, ordre == Qt::AscendingOrder);
+  };
+  ordonner(tete->sortIndicatorSection(), tete->sortIndicatorOrder());
+  connect(tete, &QHeaderView::sortIndicatorChanged, this, ordonner);
 }
 
 QWidget* VuePrintWizard::CreerEtapes() {

@@ -62,6 +62,7 @@ FenetrePrincipale::FenetrePrincipale(TFrmMain& form, DialoguesQt& dialogues)
 
 // The screens go before the window that holds their views.
 FenetrePrincipale::~FenetrePrincipale() {
+  disconnect(qApp, nullptr, this, nullptr);  // the focus still moves while the widgets end
   form_.Panneau.Vider();
   form_.SurChangement = nullptr;
   form_.SurEtape = nullptr;
