@@ -197,6 +197,7 @@ TEST_F(FrmMain, TheFieldInHandIsLeftBeforeThePupilChanges) {
   Globals.EleveCourant = &(*Globals.Eleves)[1];
   Main.Envoyer({TCodeMessage::EleveChange, {}});
   EXPECT_EQ(Choisi(), u"Bastin X");
+  Main.SurQuitterChamp = nullptr;  // the window is closed after this
 }
 
 TEST_F(FrmMain, SearchFromTheStartThenOnward) {
