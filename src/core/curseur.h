@@ -16,8 +16,8 @@ class TCurseur {
  public:
   /// Raises Exception with the database's message.
   TCurseur(TDataModule1& base, const QString& sql);
-  /// With a whole number for each "?". The statement stays prepared: for what is read again and again
-  /// by key.
+  /// With a whole number for each "?": for what is read again and again by key. The statement stays
+  /// prepared, in a read-only transaction of the connection that keeps no snapshot either.
   TCurseur(TDataModule1& base, const QString& sql, const std::vector<int>& cles);
   ~TCurseur();
   TCurseur(const TCurseur&) = delete;
