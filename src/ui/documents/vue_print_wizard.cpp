@@ -99,17 +99,19 @@ void VuePrintWizard::Suivre() {
   connect(rien_, &QPushButton::clicked, this, [this] { form_.btnRienSelectionnerClick(); });
   connect(mois_, &QComboBox::activated, this, [this](int indice) { form_.ChoisirMois(indice); });
   for (SaisieDate* date : dates_) connect(date, &Saisie::Saisi, this, [this] { LireDates(); });
-  SuivreListe(eleves_, form_.FiltreEleve, &TFrmPrintWizard::LstEleveColumnClick);
-  SuivreListe(classes_, form_.FiltreClasse, &TFrmPrintWizard::LstClasseColumnClick);
+  SuivreListe(eleves_, form_.FiltreEleve,
+              [this](int colonne, bool croissant) { form_.LstEleveColumnClick(colonne, croissant); });
+  SuivreListe(classes_, form_.FiltreClasse,
+              [this](int colonne, bool croissant) { form_.LstClasseColumnClick(colonne, croissant); });
 }
 
 void VuePrintWizard::SuivreListe(const TListe& liste, QString& filtre,
-                                 void (TFrmPrintWizard::*trier)(int, bool)) {
+                                 const std::function<void(int, bool)>& trier) {
   QString* retenu = &filtre;
   connect(liste.Filtre, &QLineEdit::textChanged, this, [retenu](const QString& texte) { *retenu = texte; });
   const QHeaderView* tete = liste.Vue->header();
-  const auto ordonner = [this, trier](int colonne, Qt::SortOrder ordre) {
-    (form_.*trier)(colonne, ordre == Qt::AscendingOrder);
+  const auto ordonner = [trier](int colonne, Qt::SortOrder ordre) {
+    trier(colonne, ordre == Qt::AscendingOrder);
   };
   ordonner(tete->sortIndicatorSection(), tete->sortIndicatorOrder());
   connect(tete, &QHeaderView::sortIndicatorChanged, this, ordonner);

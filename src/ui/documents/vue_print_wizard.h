@@ -41,7 +41,7 @@ class VuePrintWizard : public DialogueBase {
   QWidget* CreerLigneMois();
   QWidget* CreerLigneDates();
   void Suivre();
-  void SuivreListe(const TListe& liste, QString& filtre, void (TFrmPrintWizard::*trier)(int, bool));
+  void SuivreListe(const TListe& liste, QString& filtre, const std::function<void(int, bool)>& trier);
   void Rafraichir();
   void RafraichirEtapes();
   void RafraichirQui();
