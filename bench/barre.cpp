@@ -3,10 +3,12 @@
 #include <QFile>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 double Etat(const QByteArray& nom) {
-  QFile fichier(QStringLiteral("/proc/self/status"));
+  QFile fichier(u"/proc/self/status"_s);
   if (!fichier.open(QIODevice::ReadOnly)) return 0.0;
   for (const QByteArray& ligne : fichier.readAll().split('\n'))
     if (ligne.startsWith(nom))

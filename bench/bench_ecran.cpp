@@ -13,6 +13,8 @@
 #include "ui/principal/panneau_eleves.h"
 #include "ui/principal/programme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kTours = 7;
@@ -41,7 +43,7 @@ std::unique_ptr<Programme> Demarrer(const THorloge& horloge) {
   programme->Fenetre.Demarrer();
   for (int tour = 0; tour < kPatience && !image.Vue; ++tour) QCoreApplication::processEvents();
   QCoreApplication::processEvents();
-  if (!image.Vue) throw Exception(QStringLiteral("La fenêtre principale n'a pas montré les élèves."));
+  if (!image.Vue) throw Exception(u"La fenêtre principale n'a pas montré les élèves."_s);
   return programme;
 }
 
@@ -100,7 +102,7 @@ void MesurerFiches(const THorloge& horloge) {
   arbre.setFocus();
   arbre.setCurrentIndex(arbre.model()->index(0, 0));
   QCoreApplication::processEvents();
-  if (fenetre.VueCourante() == nullptr) throw Exception(QStringLiteral("La fiche ne s'est pas ouverte."));
+  if (fenetre.VueCourante() == nullptr) throw Exception(u"La fiche ne s'est pas ouverte."_s);
 
   std::vector<double> rapports, fiches, peintes, calculs;
   for (const TEleve* avant = nullptr;; avant = Globals.EleveCourant) {
@@ -115,7 +117,7 @@ void MesurerFiches(const THorloge& horloge) {
     peintes.push_back(1e3 * (fiche + peinture));
     calculs.push_back(1e6 * calcul);
   }
-  if (rapports.size() < 500) throw Exception(QStringLiteral("Il manque des élèves dans l'arbre."));
+  if (rapports.size() < 500) throw Exception(u"Il manque des élèves dans l'arbre."_s);
   Barre("record of the next pupil by the arrow key / its seven cost operations", Mediane(rapports), 20.0,
         true);
   std::fprintf(stderr, "# record in the view %.2f ms, painted %.2f ms, seven operations %.0f µs\n",
@@ -128,7 +130,7 @@ void MesurerFiches(const THorloge& horloge) {
 void MesurerEcran(TEcole& ecole, const QTemporaryDir& dossier) {
   for (const auto portee : {QSettings::UserScope, QSettings::SystemScope})
     QSettings::setPath(QSettings::NativeFormat, portee, dossier.path());
-  TReglagesPoste().Ecrire(TRacine::Utilisateur, QStringLiteral("Serveur"), ecole.Base().ServerName);
+  TReglagesPoste().Ecrire(TRacine::Utilisateur, u"Serveur"_s, ecole.Base().ServerName);
   const THorloge horloge;
   MesurerDemarrage(ecole, horloge);
   MesurerFiches(horloge);

@@ -16,6 +16,8 @@
 #include "report/layout/mise_en_page.h"
 #include "report/output/pdf.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kTours = 7;
@@ -35,7 +37,7 @@ TDocumentPrepare Facturer(TEcole& ecole, const TDonneesAnnee& annee, const QStri
   for (TEleve& eleve : *annee.Eleves) choix.Eleves.push_back(&eleve);
   TResultat resultat;
   etapes.Contenu.push_back(Duree([&] {
-    resultat = FaireDocument({*annee.Eleves, ecole.Parametres(), QStringLiteral("Garderies du soir")}, choix);
+    resultat = FaireDocument({*annee.Eleves, ecole.Parametres(), u"Garderies du soir"_s}, choix);
   }));
   const TRapport& rapport = resultat.Rapports.at(0);
   TDocumentPrepare document;
@@ -52,8 +54,7 @@ class TReportLab {
  public:
   TReportLab(const QString& vidage, const QString& pdf) {
     processus_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    processus_.start(QStringLiteral("/usr/bin/python3"),
-                     {QStringLiteral(BENCH "/reportlab_factures.py"), vidage, pdf});
+    processus_.start(u"/usr/bin/python3"_s, {QStringLiteral(BENCH "/reportlab_factures.py"), vidage, pdf});
     pret_ = Ligne() == "pret";
   }
   ~TReportLab() {
@@ -89,15 +90,15 @@ void Ecrire(const QString& chemin, const QByteArray& octets) {
 }  // namespace
 
 void MesurerFactures(TEcole& ecole, const QTemporaryDir& dossier) {
-  const QString notre = dossier.filePath(QStringLiteral("factures.pdf"));
-  const QString leur = dossier.filePath(QStringLiteral("reportlab.pdf"));
-  const QString vidage = dossier.filePath(QStringLiteral("factures.json"));
+  const QString notre = dossier.filePath(u"factures.pdf"_s);
+  const QString leur = dossier.filePath(u"reportlab.pdf"_s);
+  const QString vidage = dossier.filePath(u"factures.json"_s);
 
   TEtapes etapes;
   auto annee = ecole.Charger();
   const TDocumentPrepare document = Facturer(ecole, *annee, notre, etapes);
   const double memoire = MemoireMaximale();
-  if (document.Pages.size() < 500) throw Exception(QStringLiteral("Il manque des factures."));
+  if (document.Pages.size() < 500) throw Exception(u"Il manque des factures."_s);
   Ecrire(vidage, Vider(document));
 
   TReportLab reportlab(vidage, leur);

@@ -7,6 +7,8 @@
 #include "core/dates.h"
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Faire(QSqlQuery& requete, bool reussi) {
@@ -31,45 +33,44 @@ void RemplirTarifs(TDataModule1& base) {
       {4, "15:30", "16:30", 1, 1.0, 3},  {5, "00:00", "23:59", 1, 0.0, 1}, {6, "00:30", "23:59", 1, 0.6, 1}};
   int cle = 0;
   for (const auto& t : tarifs)
-    Executer(base, QStringLiteral(
-                       "INSERT INTO TARIF_GARDERIE (TARIF_GARDERIE_ID, TYPE_FAMILLE, TYPE_JOUR, "
-                       "HEURE_DEBUT_SCAN, HEURE_FIN_SCAN, TYPE_FORFAIT, COUT, TYPE_SCAN, COUT_2E_ENFANT) "
-                       "VALUES (%1, %2, %3, '%4', '%5', %6, %7, %8, %7)")
-                       .arg(++cle)
-                       .arg(t.famille)
-                       .arg(t.famille == 3   ? 3
-                            : t.famille == 2 ? 7
-                                             : 6)
-                       .arg(QLatin1String(t.debut), QLatin1String(t.fin))
-                       .arg(t.forfait)
-                       .arg(t.cout)
-                       .arg(t.scan));
+    Executer(base,
+             u"INSERT INTO TARIF_GARDERIE (TARIF_GARDERIE_ID, TYPE_FAMILLE, TYPE_JOUR, "
+             "HEURE_DEBUT_SCAN, HEURE_FIN_SCAN, TYPE_FORFAIT, COUT, TYPE_SCAN, COUT_2E_ENFANT) "
+             "VALUES (%1, %2, %3, '%4', '%5', %6, %7, %8, %7)"_s.arg(++cle)
+                 .arg(t.famille)
+                 .arg(t.famille == 3   ? 3
+                      : t.famille == 2 ? 7
+                                       : 6)
+                 .arg(QLatin1String(t.debut), QLatin1String(t.fin))
+                 .arg(t.forfait)
+                 .arg(t.cout)
+                 .arg(t.scan));
 }
 
 void RemplirEleves(TDataModule1& base, int eleves) {
   QSqlQuery eleve(base.UniConnection1()), inscription(base.UniConnection1());
   Faire(eleve,
-        eleve.prepare(QStringLiteral(
-            "INSERT INTO ELEVES (ELEVE_ID, NOM, PRENOM, MATRICULE, ADRESSE, LOCALITE, NOM_RESPONSABLE, "
-            "CODE_POSTAL, FLG_2E_ENFANT) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)")));
-  Faire(inscription, inscription.prepare(QStringLiteral(
-                         "INSERT INTO ELEVES_CLASSES (ELEVE_CLASSE_ID, ELEVE_ID, ANNEE_SCOLAIRE, CLASSE, "
-                         "SOUS_CLASSE, CODE_IMPLANTATION) VALUES (?, ?, 2016, ?, ?, '')")));
+        eleve.prepare(
+            u"INSERT INTO ELEVES (ELEVE_ID, NOM, PRENOM, MATRICULE, ADRESSE, LOCALITE, NOM_RESPONSABLE, "
+            "CODE_POSTAL, FLG_2E_ENFANT) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"_s));
+  Faire(inscription,
+        inscription.prepare(u"INSERT INTO ELEVES_CLASSES (ELEVE_CLASSE_ID, ELEVE_ID, ANNEE_SCOLAIRE, CLASSE, "
+                            "SOUS_CLASSE, CODE_IMPLANTATION) VALUES (?, ?, 2016, ?, ?, '')"_s));
   for (int i = 1; i <= eleves; ++i) {
     eleve.bindValue(0, i);
-    eleve.bindValue(1, QStringLiteral("Famille %1").arg(i * 7 % 911));
-    eleve.bindValue(2, QStringLiteral("Prénom %1").arg(i % 97));
-    eleve.bindValue(3, QStringLiteral("%1-%2").arg(i / 10).arg(i));
-    eleve.bindValue(4, QStringLiteral("rue des Tilleuls"));
-    eleve.bindValue(5, QStringLiteral("Ottignies"));
-    eleve.bindValue(6, QStringLiteral("Responsable %1").arg(i));
+    eleve.bindValue(1, u"Famille %1"_s.arg(i * 7 % 911));
+    eleve.bindValue(2, u"Prénom %1"_s.arg(i % 97));
+    eleve.bindValue(3, u"%1-%2"_s.arg(i / 10).arg(i));
+    eleve.bindValue(4, u"rue des Tilleuls"_s);
+    eleve.bindValue(5, u"Ottignies"_s);
+    eleve.bindValue(6, u"Responsable %1"_s.arg(i));
     eleve.bindValue(7, 1340);
     eleve.bindValue(8, i % 3 == 0 ? QVariant(1) : QVariant());
     Faire(eleve, eleve.exec());
     inscription.bindValue(0, i);
     inscription.bindValue(1, i);
-    inscription.bindValue(2, QStringLiteral("%1%2").arg(QChar(i % 3 == 0 ? u'M' : u'P')).arg(i % 6 + 1));
-    inscription.bindValue(3, i % 2 == 0 ? QStringLiteral("A") : QStringLiteral("B"));
+    inscription.bindValue(2, u"%1%2"_s.arg(QChar(i % 3 == 0 ? u'M' : u'P')).arg(i % 6 + 1));
+    inscription.bindValue(3, i % 2 == 0 ? u"A"_s : u"B"_s);
     Faire(inscription, inscription.exec());
   }
 }
@@ -78,9 +79,9 @@ void RemplirPresences(TDataModule1& base, int eleves, int presences) {
   std::mt19937 tirage(2016);
   QSqlQuery presence(base.UniConnection1());
   Faire(presence,
-        presence.prepare(QStringLiteral(
-            "INSERT INTO PRESENCES (PRESENCE_ID, ELEVE_ID, TYPE_PRESENCE, DATE_RELEVE, HEURE_ENTREE, "
-            "HEURE_SORTIE, CODE_IMPLANTATION) VALUES (?, ?, ?, ?, ?, ?, 'S1')")));
+        presence.prepare(
+            u"INSERT INTO PRESENCES (PRESENCE_ID, ELEVE_ID, TYPE_PRESENCE, DATE_RELEVE, HEURE_ENTREE, "
+            "HEURE_SORTIE, CODE_IMPLANTATION) VALUES (?, ?, ?, ?, ?, ?, 'S1')"_s));
   const QDate premier(2016, 9, 1);
   for (int i = 1; i <= presences; ++i) {
     const int sorte = static_cast<int>(tirage() % 6);  // morning, midday, evening, evening, meal, study
@@ -110,9 +111,8 @@ void RemplirParametres(TDataModule1& base) {
       {27, "2016"},
       {102, "3,50"}};
   for (const auto& [id, valeur] : parametres)
-    Executer(base, QStringLiteral("UPDATE OR INSERT INTO PARAMETRE (PARAMETRE_ID, VALEUR) VALUES (%1, '%2')")
-                       .arg(id)
-                       .arg(QString::fromUtf8(valeur)));
+    Executer(base, u"UPDATE OR INSERT INTO PARAMETRE (PARAMETRE_ID, VALEUR) VALUES (%1, '%2')"_s.arg(id).arg(
+                       QString::fromUtf8(valeur)));
 }
 
 /// Fees of October, and who owes them: every second pupil those of the second kind.
@@ -127,19 +127,19 @@ void RemplirFrais(TDataModule1& base) {
                      {"Photo de classe", 6.5, 1, 2}};
   int cle = 0;
   for (const auto& f : frais) {
-    Executer(base, QStringLiteral("INSERT INTO LISTE_FRAIS (LISTEFRAIS_ID, LIBELLE, COUT, TYPE_FRAIS, MOIS, "
-                                  "ANNEE_SCOLAIRE, FLG_PREVISIONNEL, FLG_NON_OBLIGATOIRE, FLG_SERVICE) "
-                                  "VALUES (%1, '%2', %3, 2, 10, 2016, 0, %4, 0)")
-                       .arg(++cle)
-                       .arg(QString::fromUtf8(f.libelle))
-                       .arg(f.cout)
-                       .arg(f.nonObligatoire));
-    Executer(base, QStringLiteral("INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ANNEE_SCOLAIRE, ELEVE_ID, "
-                                  "LISTEFRAIS_ID, REMARQUE, MONTANT_VERSE) "
-                                  "SELECT ELEVE_ID * 10 + %1, 2016, ELEVE_ID, %1, '', 0 FROM ELEVES "
-                                  "WHERE MOD(ELEVE_ID, %2) = 0")
-                       .arg(cle)
-                       .arg(f.pas));
+    Executer(base,
+             u"INSERT INTO LISTE_FRAIS (LISTEFRAIS_ID, LIBELLE, COUT, TYPE_FRAIS, MOIS, "
+             "ANNEE_SCOLAIRE, FLG_PREVISIONNEL, FLG_NON_OBLIGATOIRE, FLG_SERVICE) "
+             "VALUES (%1, '%2', %3, 2, 10, 2016, 0, %4, 0)"_s.arg(++cle)
+                 .arg(QString::fromUtf8(f.libelle))
+                 .arg(f.cout)
+                 .arg(f.nonObligatoire));
+    Executer(base,
+             u"INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ANNEE_SCOLAIRE, ELEVE_ID, "
+             "LISTEFRAIS_ID, REMARQUE, MONTANT_VERSE) "
+             "SELECT ELEVE_ID * 10 + %1, 2016, ELEVE_ID, %1, '', 0 FROM ELEVES "
+             "WHERE MOD(ELEVE_ID, %2) = 0"_s.arg(cle)
+                 .arg(f.pas));
   }
 }
 
@@ -159,7 +159,7 @@ void Remplir(TDataModule1& base, int eleves, int presences) {
 void TSilence::Message(const QString& texte) { throw Exception(texte); }
 
 TEcole::TEcole(const QTemporaryDir& dossier, int eleves, int presences) : base_(dialogues_, reglages_) {
-  base_.ServerName = dossier.filePath(QStringLiteral("bench%1.fdb").arg(eleves));
+  base_.ServerName = dossier.filePath(u"bench%1.fdb"_s.arg(eleves));
   base_.Connecter();
   base_.Deconnecter();
   base_.EcrituresForcees(false);

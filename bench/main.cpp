@@ -5,6 +5,8 @@
 #include "core/exceptions.h"
 #include "ui/principal/application.h"
 
+using namespace Qt::StringLiterals;
+
 // Everything, or the subjects that are named.
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -18,11 +20,10 @@ int main(int argc, char** argv) {
       const QStringList noms = QCoreApplication::arguments().mid(1);
       return noms.isEmpty() || noms.contains(sujet);
     };
-    if (voulu(QStringLiteral("chargement"))) MesurerChargement(ecole);
-    if (voulu(QStringLiteral("factures")))
-      MesurerFactures(ecole, dossier);  // before the larger school takes memory
-    if (voulu(QStringLiteral("ecran"))) MesurerEcran(ecole, dossier);
-    if (voulu(QStringLiteral("tarification"))) MesurerTarification(ecole, dossier);
+    if (voulu(u"chargement"_s)) MesurerChargement(ecole);
+    if (voulu(u"factures"_s)) MesurerFactures(ecole, dossier);  // before the larger school takes memory
+    if (voulu(u"ecran"_s)) MesurerEcran(ecole, dossier);
+    if (voulu(u"tarification"_s)) MesurerTarification(ecole, dossier);
   } catch (const Exception& e) {
     std::fprintf(stderr, "%s\n", e.what());
     return 1;

@@ -9,6 +9,8 @@
 #include "report/layout/fichiers_polices.h"
 #include "report/output/pdf_pages.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Hundredths of a point, as in our own file.
@@ -30,8 +32,7 @@ class TVidage {
       pages_.append(
           QJsonArray{CotePapier(page.Largeur) / 100.0, CotePapier(page.Hauteur) / 100.0, elements_});
     }
-    return QJsonDocument(
-               QJsonObject{{QStringLiteral("polices"), polices_}, {QStringLiteral("pages"), pages_}})
+    return QJsonDocument(QJsonObject{{u"polices"_s, polices_}, {u"pages"_s, pages_}})
         .toJson(QJsonDocument::Compact);
   }
 
@@ -42,33 +43,32 @@ class TVidage {
   QString Police(const TTexteForme& forme) {
     const QString& nom = forme.Police->Nom();
     if (!polices_.contains(nom)) {
-      const QString famille = forme.Style.Famille == TFamille::Carlito ? QStringLiteral("Carlito")
-                                                                       : QStringLiteral("Liberation Mono");
+      const QString famille = forme.Style.Famille == TFamille::Carlito ? u"Carlito"_s : u"Liberation Mono"_s;
       polices_.insert(nom, chercher_({famille, forme.Style.Gras, forme.Style.Italique}));
     }
     if (polices_[nom].toString().isEmpty() || forme.Police != &TPolices::Communes().Trouver(forme.Style))
-      throw Exception(QStringLiteral("La police %1 n'est pas celle que le texte demande.").arg(nom));
+      throw Exception(u"La police %1 n'est pas celle que le texte demande."_s.arg(nom));
     return nom;
   }
 
   void Ajouter(const TElementTexte& e) {
-    if (e.Souligne) throw Exception(QStringLiteral("Un texte souligné n'est pas prévu."));
-    elements_.append(QJsonArray{QStringLiteral("t"), X(e.X), Y(static_cast<double>(e.Base)), Police(*e.Forme),
+    if (e.Souligne) throw Exception(u"Un texte souligné n'est pas prévu."_s);
+    elements_.append(QJsonArray{u"t"_s, X(e.X), Y(static_cast<double>(e.Base)), Police(*e.Forme),
                                 static_cast<double>(e.Forme->Style.Taille), Couleur(e.Couleur),
                                 e.Forme->Texte});
   }
   void Ajouter(const TElementTrait& e) {
-    elements_.append(QJsonArray{QStringLiteral("l"), X(e.X1), Y(static_cast<double>(e.Y1)), X(e.X2),
+    elements_.append(QJsonArray{u"l"_s, X(e.X1), Y(static_cast<double>(e.Y1)), X(e.X2),
                                 Y(static_cast<double>(e.Y2)), X(e.Epaisseur), Couleur(e.Couleur),
                                 X(e.Tiret)});
   }
   void Ajouter(const TElementCadre& e) {
-    if (qAlpha(e.FondBas) != 0) throw Exception(QStringLiteral("Un dégradé n'est pas prévu."));
-    elements_.append(QJsonArray{QStringLiteral("r"), Points(e.Place.left()), Y(e.Place.bottom()),
-                                Points(e.Place.width()), Points(e.Place.height()), X(e.Epaisseur),
-                                Couleur(e.Trait), Couleur(e.Fond, qAlpha(e.Fond) == 0)});
+    if (qAlpha(e.FondBas) != 0) throw Exception(u"Un dégradé n'est pas prévu."_s);
+    elements_.append(QJsonArray{u"r"_s, Points(e.Place.left()), Y(e.Place.bottom()), Points(e.Place.width()),
+                                Points(e.Place.height()), X(e.Epaisseur), Couleur(e.Trait),
+                                Couleur(e.Fond, qAlpha(e.Fond) == 0)});
   }
-  void Ajouter(const TElementImage&) { throw Exception(QStringLiteral("Une image n'est pas prévue.")); }
+  void Ajouter(const TElementImage&) { throw Exception(u"Une image n'est pas prévue."_s); }
   void Ajouter(const TElementBarres& e) {
     for (const QRectF& barre : e.Barres) Ajouter(TElementCadre{barre, 0, 0xFF000000, 0xFF000000, 0});
   }

@@ -4,6 +4,8 @@
 
 #include "demo/calendrier.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Currency Centimes(int centimes) { return Currency::Brut(std::int64_t{100} * centimes); }
@@ -188,7 +190,7 @@ void PayerAuSecretariat(TEcoleExemple& ecole, int eleve, TTirage& tirage) {
     if (mois == 6 || !tirage.Chance(800)) continue;
     const Currency montant = Currency::Euros(5 * tirage.Entier(4, 9));
     ecole.Paiements.push_back(
-        {eleve, QStringLiteral("Paiement au secrétariat"), montant, mois, tirage.Chance(500) ? 2 : 0, 2});
+        {eleve, u"Paiement au secrétariat"_s, montant, mois, tirage.Chance(500) ? 2 : 0, 2});
   }
   if (!fiche.Radie) ecole.MoisPayes.push_back({eleve, 6});
 }
@@ -197,15 +199,15 @@ void PaiementsDivers(TEcoleExemple& ecole, int eleve, TTirage& tirage) {
   const TEleveExemple& fiche = ecole.Eleves[static_cast<std::size_t>(eleve)];
   if (fiche.Niveau > 0 && tirage.Chance(90)) {
     const Currency montant = Centimes(5 * tirage.Entier(-300, 900));
-    ecole.Paiements.push_back({eleve, QStringLiteral("Transfert de l'année scolaire 2015-2016"), montant, 9,
+    ecole.Paiements.push_back({eleve, u"Transfert de l'année scolaire 2015-2016"_s, montant, 9,
                                tirage.Choix(std::array{0, 1, 2}), -1});
   }
   if (fiche.Niveau >= 7 && tirage.Chance(150))
-    ecole.Paiements.push_back({eleve, QStringLiteral("Paiement au secrétariat, classe de dépaysement"),
+    ecole.Paiements.push_back({eleve, u"Paiement au secrétariat, classe de dépaysement"_s,
                                Currency::Euros(tirage.Choix(std::array{60, 120})), 10, 1, 0});
   if (fiche.Rang == 1 && tirage.Chance(60))
-    ecole.Paiements.push_back({eleve, QStringLiteral("Galettes vendues en famille"),
-                               Currency::Euros(7 * tirage.Entier(1, 3)), 11, 1, 1});
+    ecole.Paiements.push_back(
+        {eleve, u"Galettes vendues en famille"_s, Currency::Euros(7 * tirage.Entier(1, 3)), 11, 1, 1});
   // The last days of June bring many parents to the counter.
   if (ecole.Familles[static_cast<std::size_t>(fiche.Famille)].Payeur == TPayeur::Caisse)
     PayerAuSecretariat(ecole, eleve, tirage);
@@ -226,13 +228,10 @@ void MarquerMois(TEcoleExemple& ecole, int eleve, TTirage& tirage) {
 }  // namespace
 
 void RemplirCatalogue(TEcoleExemple& ecole) {
-  ecole.Sites = {
-      {QStringLiteral("0451"), QStringLiteral("Centre"), QStringLiteral("Implantation du Centre"),
-       QStringLiteral("rue du Vieux Moulin 27"), QStringLiteral("5537"), QStringLiteral("Brumeval"),
-       QStringLiteral("082 61 00 00"), QStringLiteral("DELVAUX"), QStringLiteral("Bénédicte")},
-      {QStringLiteral("0452"), QStringLiteral("Tilleuls"), QStringLiteral("Implantation des Tilleuls"),
-       QStringLiteral("avenue des Tilleuls 112"), QStringLiteral("5364"), QStringLiteral("Vesperval"),
-       QStringLiteral("083 61 00 00"), QStringLiteral("HENROTTE"), QStringLiteral("Vinciane")}};
+  ecole.Sites = {{u"0451"_s, u"Centre"_s, u"Implantation du Centre"_s, u"rue du Vieux Moulin 27"_s, u"5537"_s,
+                  u"Brumeval"_s, u"082 61 00 00"_s, u"DELVAUX"_s, u"Bénédicte"_s},
+                 {u"0452"_s, u"Tilleuls"_s, u"Implantation des Tilleuls"_s, u"avenue des Tilleuls 112"_s,
+                  u"5364"_s, u"Vesperval"_s, u"083 61 00 00"_s, u"HENROTTE"_s, u"Vinciane"_s}};
   for (const TParametre& p : kParametres) ecole.Parametres.push_back({p.Id, QString::fromUtf16(p.Valeur)});
   for (const TTarif& t : kTarifs)
     ecole.Tarifs.push_back({t.Famille, t.Jour, QString::fromUtf16(t.Debut), QString::fromUtf16(t.Fin),

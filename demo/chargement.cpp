@@ -12,6 +12,8 @@
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The movements from this day on are left in a statement file, for the reader to import.
@@ -40,8 +42,7 @@ TBilanChargement TChargement::Tout() {
   // Nothing that waits in the machine's temporary folder is to be archived by the imports.
   Globals.DossierTemporaire = dossier_;
   if (TEleves(controleur_.Base(), 0).Count() > 0)
-    throw Exception(
-        QStringLiteral("La base contient déjà des élèves : l'école d'exemple veut une base vide."));
+    throw Exception(u"La base contient déjà des élèves : l'école d'exemple veut une base vide."_s);
   Parametres();
   controleur_.ChargerAnnee(kAnneeExemple);
   Registre();
@@ -69,14 +70,13 @@ void TChargement::Recharger() {
   eleves_.clear();
   for (const TEleveExemple& eleve : ecole_.Eleves) {
     TEleve* trouve = Globals.Eleves->TrouverParMatricule(eleve.Matricule);
-    if (trouve == nullptr)
-      throw Exception(QStringLiteral("L'élève %1 n'a pas été importé.").arg(eleve.Matricule));
+    if (trouve == nullptr) throw Exception(u"L'élève %1 n'a pas été importé."_s.arg(eleve.Matricule));
     eleves_.push_back(trouve);
   }
 }
 
 void TChargement::Parametres() {
-  Etape(QStringLiteral("Paramètres et tarifs"));
+  Etape(u"Paramètres et tarifs"_s);
   for (const TParametreExemple& parametre : ecole_.Parametres)
     Globals.Parametres->SetParametre(parametre.Id, parametre.Valeur);
   Globals.Parametres->Save();
@@ -99,9 +99,9 @@ void TChargement::Registre() {
   const QString chemin = dossier_ % u"/registre-disposition-1.csv";
   EcrireFichier(chemin, TexteRegistre(ecole_, TDisposition::Premiere));
   EcrireFichier(dossier_ % u"/registre-disposition-2.csv", TexteRegistre(ecole_, TDisposition::Seconde));
-  Etape(QStringLiteral("Importation du registre : %1 élèves").arg(ecole_.Eleves.size()));
+  Etape(u"Importation du registre : %1 élèves"_s.arg(ecole_.Eleves.size()));
   TImportRegistre import(controleur_);
-  if (!import.Etape1(chemin)) throw Exception(QStringLiteral("Le registre écrit n'est pas accepté."));
+  if (!import.Etape1(chemin)) throw Exception(u"Le registre écrit n'est pas accepté."_s);
   import.Etape2();
 }
 
@@ -110,7 +110,7 @@ void TChargement::Sites() {
   TImplantations& sites = *Globals.Eleves->Implantations;
   for (const TSiteExemple& exemple : ecole_.Sites) {
     TImplantation* site = sites.TrouverParCode(exemple.Code);
-    if (site == nullptr) throw Exception(QStringLiteral("Le site %1 n'a pas été créé.").arg(exemple.Code));
+    if (site == nullptr) throw Exception(u"Le site %1 n'a pas été créé."_s.arg(exemple.Code));
     site->LibelleCourt = exemple.LibelleCourt;
     site->LibelleLong = exemple.LibelleLong;
     site->Adresse = exemple.Adresse;
@@ -148,7 +148,7 @@ void TChargement::Fiches() {
 }
 
 void TChargement::Personnel() {
-  Etape(QStringLiteral("Personnel : %1 personnes").arg(ecole_.Professeurs.size()));
+  Etape(u"Personnel : %1 personnes"_s.arg(ecole_.Professeurs.size()));
   for (const TProfesseurExemple& exemple : ecole_.Professeurs) {
     auto professeur = std::make_unique<TEleve>();
     professeur->Nom = exemple.Nom;
@@ -156,13 +156,13 @@ void TChargement::Personnel() {
     professeur->Matricule = exemple.Matricule;
     const TEleve& ajoute = Globals.Eleves->AddEleve(std::move(professeur));
     Globals.Eleves->Save();
-    Globals.Eleves->AddClasseEleve(ajoute.Id, QStringLiteral("PROFESSEURS"), kAnneeExemple,
+    Globals.Eleves->AddClasseEleve(ajoute.Id, u"PROFESSEURS"_s, kAnneeExemple,
                                    ecole_.Sites[static_cast<std::size_t>(exemple.Site)].Code, {});
   }
 }
 
 void TChargement::Activites() {
-  Etape(QStringLiteral("Activités, frais, paiements au secrétariat"));
+  Etape(u"Activités, frais, paiements au secrétariat"_s);
   std::vector<const TActivite*> activites;
   for (const TActiviteExemple& exemple : ecole_.Activites) {
     auto activite = std::make_unique<TActivite>();
@@ -236,7 +236,7 @@ void TChargement::Marques() {
 
 void TChargement::Presences() {
   const auto fichiers = FichiersPresences(ecole_);
-  Etape(QStringLiteral("Importation des présences : %1 fichiers de scanner").arg(fichiers.size()));
+  Etape(u"Importation des présences : %1 fichiers de scanner"_s.arg(fichiers.size()));
   IDialogues& dialogues = controleur_.Dialogues();
   TImportPresences import(controleur_);
   int fait = 0;
@@ -269,7 +269,7 @@ void TChargement::MoisPayes() {
 
 /// What the families pay by transfer, from the amounts that the program itself works out.
 void TChargement::Virements() {
-  Etape(QStringLiteral("Virements des familles"));
+  Etape(u"Virements des familles"_s);
   const auto facture = [this](int index, int mois) {
     const TEleve& eleve = Eleve(index);
     Currency montant = eleve.TotalServices(BornesMois(mois, kAnneeExemple));
@@ -282,7 +282,7 @@ void TChargement::Virements() {
   for (const TVirementExemple& virement : TirerVirements(ecole_, facture)) {
     TEleve& eleve = Eleve(virement.Eleve);
     if (virement.Date < kDebutReleve) {
-      const QString libelle = u"Votre virement du " % virement.Date.toString(QStringLiteral("dd/MM/yyyy"));
+      const QString libelle = u"Votre virement du " % virement.Date.toString(u"dd/MM/yyyy"_s);
       eleve.GetAllFrais()->Add(Paiement(libelle, virement.Montant, virement.Mois, 2));
       ++bilan_.Virements;
       continue;
@@ -302,12 +302,9 @@ void TChargement::Releve(const std::vector<TMouvementBanque>& mouvements) {
   for (std::size_t i = 7; i < releve.size(); i += 15)
     releve[i].Communication = u"Facture de mai " % releve[i].Donneur;
   if (releve.empty()) return;
-  releve.push_back({QDate(2017, 6, 30), QStringLiteral("Commune de Brumeval"),
-                    QStringLiteral("BE11 0910 0053 5848"), Currency::Euros(1250),
-                    QStringLiteral("Subside garderies 2e trimestre")});
-  releve.push_back({QDate(2017, 6, 30), QStringLiteral("Traiteur Les Saveurs"),
-                    QStringLiteral("BE43 0682 0467 0001"), -Currency::Euros(2318),
-                    QStringLiteral("Repas de mai, facture 2017/118")});
-  EcrireFichier(dossier_ % u"/releve-2017-06.csv",
-                TexteReleve(releve, QStringLiteral("BE68 5390 0754 7034")));
+  releve.push_back({QDate(2017, 6, 30), u"Commune de Brumeval"_s, u"BE11 0910 0053 5848"_s,
+                    Currency::Euros(1250), u"Subside garderies 2e trimestre"_s});
+  releve.push_back({QDate(2017, 6, 30), u"Traiteur Les Saveurs"_s, u"BE43 0682 0467 0001"_s,
+                    -Currency::Euros(2318), u"Repas de mai, facture 2017/118"_s});
+  EcrireFichier(dossier_ % u"/releve-2017-06.csv", TexteReleve(releve, u"BE68 5390 0754 7034"_s));
 }

@@ -6,6 +6,8 @@
 #include "demo/calendrier.h"
 #include "demo/noms.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using TPlaces = std::array<std::array<int, kNiveaux>, 2>;  // free seats by site and level
@@ -162,14 +164,14 @@ void RepartirSousClasses(TEcoleExemple& ecole, TTirage& tirage, bool petite) {
     TEleveExemple& eleve = ecole.Eleves[i];
     eleve.Classe = QString::fromUtf16(kNomsNiveaux[static_cast<std::size_t>(eleve.Niveau)]);
     if (eleve.Site == 1) {
-      eleve.SousClasse = QStringLiteral("C");
+      eleve.SousClasse = u"C"_s;
       continue;
     }
     int& nombre = compte[static_cast<std::size_t>(eleve.Niveau)];
     const bool jumeau =
         i > 0 && eleve.Famille == ecole.Eleves[i - 1].Famille && eleve.Niveau == ecole.Eleves[i - 1].Niveau;
     const bool premiere = petite || (jumeau ? ecole.Eleves[i - 1].SousClasse == u"A" : nombre % 2 == 0);
-    eleve.SousClasse = premiere ? QStringLiteral("A") : QStringLiteral("B");
+    eleve.SousClasse = premiere ? u"A"_s : u"B"_s;
     if (!jumeau) nombre += tirage.Chance(100) ? 2 : 1;
   }
 }
@@ -184,7 +186,7 @@ void NumeroterEleves(TEcoleExemple& ecole, TTirage& tirage) {
   int numero = 800;
   for (TEleveExemple* eleve : ordre) {
     numero += tirage.Entier(1, 3);
-    eleve->Matricule = QStringLiteral("5537-%1").arg(numero, 5, 10, QLatin1Char('0'));
+    eleve->Matricule = u"5537-%1"_s.arg(numero, 5, 10, QLatin1Char('0'));
   }
 }
 
@@ -260,7 +262,7 @@ void EngagerProfesseurs(TEcoleExemple& ecole, TTirage& tirage, bool petite) {
     TProfesseurExemple professeur;
     professeur.Nom = tirage.Choix(origine.Noms);
     professeur.Prenom = tirage.Choix(tirage.Chance(820) ? origine.Meres : origine.Peres);
-    professeur.Matricule = QStringLiteral("5537-%1").arg(i + 1, 5, 10, QLatin1Char('0'));
+    professeur.Matricule = u"5537-%1"_s.arg(i + 1, 5, 10, QLatin1Char('0'));
     professeur.Site = i % 10 < 7 ? 0 : 1;
     const int appetit = tirage.Choix(std::array{0, 0, 150, 400, 700});
     for (const std::size_t jour : {0U, 1U, 3U, 4U}) professeur.Repas[jour] = appetit;

@@ -9,13 +9,15 @@
 #include "demo/calendrier.h"
 #include "demo/passages.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kFinLigne = QStringLiteral("\r\n");
-const QString kEtablissement = QStringLiteral("2208");
+const QString kFinLigne = u"\r\n"_s;
+const QString kEtablissement = u"2208"_s;
 const QDate kDateFichier(2016, 10, 3);
 
-QString Compacte(const QDate& date) { return date.toString(QStringLiteral("yyyyMMdd")); }
+QString Compacte(const QDate& date) { return date.toString(u"yyyyMMdd"_s); }
 
 /// As the register protects numbers from spreadsheets: ="12".
 QString Protege(const QString& texte) {
@@ -36,20 +38,18 @@ QString CodePostal(const TAdulteExemple& adulte) {
   return adulte.CodePostal == 0 ? QString() : QString::number(adulte.CodePostal);
 }
 
-QString Sexe(const TEleveExemple& eleve) { return eleve.Fille ? QStringLiteral("F") : QStringLiteral("M"); }
+QString Sexe(const TEleveExemple& eleve) { return eleve.Fille ? u"F"_s : u"M"_s; }
 
 QStringList EntetePremiere() {
-  return QStringLiteral(
-             "Etablissement;Implantation;Matricule;Nom;Prénom;Sexe;Date de naissance;Lieu de naissance;Pays;"
-             "Nationalité;Langue maternelle;Registre national;Rue;Numéro;Code postal;Localité;Date de "
-             "situation;"
-             "Année d'études;Classe;Date d'entrée;Date de sortie;Lien responsable 1;Nom responsable 1;"
-             "Prénom responsable 1;Téléphone 1;GSM 1;Courriel 1;Etat civil 1;Langue 1;Cours philosophique;"
-             "Langue moderne;Primo-arrivant;Intégration;Lien responsable 2;Nom responsable 2;Prénom "
-             "responsable 2;"
-             "Téléphone 2;GSM 2;Courriel 2;Etat civil 2;Langue 2;Rue 2;Numéro 2;Code postal 2;Localité "
-             "2;Remarque")
-      .split(u';');
+  return u"Etablissement;Implantation;Matricule;Nom;Prénom;Sexe;Date de naissance;Lieu de naissance;Pays;"
+         "Nationalité;Langue maternelle;Registre national;Rue;Numéro;Code postal;Localité;Date de "
+         "situation;"
+         "Année d'études;Classe;Date d'entrée;Date de sortie;Lien responsable 1;Nom responsable 1;"
+         "Prénom responsable 1;Téléphone 1;GSM 1;Courriel 1;Etat civil 1;Langue 1;Cours philosophique;"
+         "Langue moderne;Primo-arrivant;Intégration;Lien responsable 2;Nom responsable 2;Prénom "
+         "responsable 2;"
+         "Téléphone 2;GSM 2;Courriel 2;Etat civil 2;Langue 2;Rue 2;Numéro 2;Code postal 2;Localité "
+         "2;Remarque"_s.split(u';');
 }
 
 QStringList LignePremiere(const TEcoleExemple& ecole, const TEleveExemple& eleve) {
@@ -69,7 +69,7 @@ QStringList LignePremiere(const TEcoleExemple& ecole, const TEleveExemple& eleve
   champs[13] = Protege(r1.Numero);
   champs[14] = CodePostal(r1);
   champs[15] = r1.Localite;
-  champs[16] = kDateFichier.toString(QStringLiteral("yyyy/MM/dd"));
+  champs[16] = kDateFichier.toString(u"yyyy/MM/dd"_s);
   champs[17] = eleve.Classe;
   champs[18] = eleve.SousClasse;
   champs[19] = Compacte(eleve.Arrivee);
@@ -87,20 +87,18 @@ QStringList LignePremiere(const TEcoleExemple& ecole, const TEleveExemple& eleve
 }
 
 QStringList EnteteSeconde() {
-  return QStringLiteral(
-             "Année scolaire;Etablissement;Implantation;Matricule;Sexe;Registre national;Date de naissance;"
-             "Lieu de naissance;Pays;Nationalité;Nom;Prénom;Langue;Rue;Numéro;Code INS;Code postal;Localité;"
-             "Pays de résidence;Téléphone;Courriel;Date d'entrée;Statut;Date de situation;Niveau;Forme;"
-             "Année d'études;Classe;Nom responsable 1;Prénom responsable 1;Lien 1;GSM 1;Courriel 1;Langue 1;"
-             "Lien 2;Nom responsable 2;Prénom responsable 2;GSM 2;Courriel 2;Remarque")
-      .split(u';');
+  return u"Année scolaire;Etablissement;Implantation;Matricule;Sexe;Registre national;Date de naissance;"
+         "Lieu de naissance;Pays;Nationalité;Nom;Prénom;Langue;Rue;Numéro;Code INS;Code postal;Localité;"
+         "Pays de résidence;Téléphone;Courriel;Date d'entrée;Statut;Date de situation;Niveau;Forme;"
+         "Année d'études;Classe;Nom responsable 1;Prénom responsable 1;Lien 1;GSM 1;Courriel 1;Langue 1;"
+         "Lien 2;Nom responsable 2;Prénom responsable 2;GSM 2;Courriel 2;Remarque"_s.split(u';');
 }
 
 QStringList LigneSeconde(const TEcoleExemple& ecole, const TEleveExemple& eleve) {
   const TFamilleExemple& famille = ecole.Familles[static_cast<std::size_t>(eleve.Famille)];
   const TAdulteExemple &r1 = famille.Responsable, &r2 = famille.Responsable2;
   QStringList champs(EnteteSeconde().size());
-  champs[0] = QStringLiteral("%1-%2").arg(kAnneeExemple).arg(kAnneeExemple + 1);
+  champs[0] = u"%1-%2"_s.arg(kAnneeExemple).arg(kAnneeExemple + 1);
   champs[1] = kEtablissement;
   champs[2] = ecole.Sites[static_cast<std::size_t>(eleve.Site)].Code;
   champs[3] = eleve.Matricule;
@@ -115,9 +113,9 @@ QStringList LigneSeconde(const TEcoleExemple& ecole, const TEleveExemple& eleve)
   champs[16] = CodePostal(r1);
   champs[17] = r1.Localite;
   champs[21] = Compacte(eleve.Arrivee);
-  champs[22] = QStringLiteral("Inscrit M");
-  champs[23] = kDateFichier.toString(QStringLiteral("dd/MM/yyyy"));
-  champs[24] = eleve.Niveau < 3 ? QStringLiteral("MAT") : QStringLiteral("PRI");
+  champs[22] = u"Inscrit M"_s;
+  champs[23] = kDateFichier.toString(u"dd/MM/yyyy"_s);
+  champs[24] = eleve.Niveau < 3 ? u"MAT"_s : u"PRI"_s;
   champs[26] = Protege(eleve.Classe);
   champs[27] = eleve.SousClasse;
   champs[28] = r1.Nom;
@@ -132,14 +130,14 @@ QStringList LigneSeconde(const TEcoleExemple& ecole, const TEleveExemple& eleve)
 /// Pupils of sixth year who left in June are still in the export, with another status.
 QStringList LigneAncien(const TEcoleExemple& ecole, int rang) {
   TEleveExemple ancien = ecole.Eleves[static_cast<std::size_t>(rang) * ecole.Eleves.size() / 7];
-  ancien.Matricule = QStringLiteral("5537-%1").arg(640 + 3 * rang, 5, 10, QLatin1Char('0'));
+  ancien.Matricule = u"5537-%1"_s.arg(640 + 3 * rang, 5, 10, QLatin1Char('0'));
   ancien.DateNaissance = ancien.DateNaissance.addYears(2004 - ancien.DateNaissance.year());
-  ancien.Prenom = ancien.Fille ? QStringLiteral("Marie-Antoinette") : QStringLiteral("Maximilien");
+  ancien.Prenom = ancien.Fille ? u"Marie-Antoinette"_s : u"Maximilien"_s;
   ancien.Niveau = kNiveaux - 1;
   ancien.Classe = QString::fromUtf16(kNomsNiveaux.back());
-  ancien.SousClasse = QStringLiteral("A");
+  ancien.SousClasse = u"A"_s;
   QStringList champs = LigneSeconde(ecole, ancien);
-  champs[22] = QStringLiteral("Sorti D");
+  champs[22] = u"Sorti D"_s;
   return champs;
 }
 
@@ -160,13 +158,12 @@ std::vector<TFichierPresences> FichiersPresences(const TEcoleExemple& ecole) {
     for (const TPassage& p : PassagesAnnee(ecole, static_cast<int>(site))) {
       const QDate lundi = p.Jour.addDays(1 - p.Jour.dayOfWeek());
       TFichierPresences& fichier = semaines[{lundi, site}];
-      const QString instant =
-          Compacte(p.Jour) % u';' %
-          QTime::fromMSecsSinceStartOfDay(1000 * p.Seconde).toString(QStringLiteral("hhmmss'000'"));
+      const QString instant = Compacte(p.Jour) % u';' %
+                              QTime::fromMSecsSinceStartOfDay(1000 * p.Seconde).toString(u"hhmmss'000'"_s);
       const QString ligne = p.Matricule % u';' % QString::number(p.Type) % u';' % instant % u';' %
                             QString::number(p.Sens) % kFinLigne;
-      fichier.Nom = u"Presences-" % ecole.Sites[site].LibelleCourt % u'-' %
-                    lundi.toString(QStringLiteral("yyyy-MM-dd")) % u".txt";
+      fichier.Nom =
+          u"Presences-" % ecole.Sites[site].LibelleCourt % u'-' % lundi.toString(u"yyyy-MM-dd"_s) % u".txt";
       fichier.Texte += ligne.toLatin1();
       ++fichier.Lignes;
     }

@@ -10,6 +10,8 @@
 #include "demo/chargement.h"
 #include "demo/terminal.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The collections go before the connection that they look at.
@@ -50,19 +52,18 @@ void DeclarerOptions(QCommandLineParser& options) {
                        valeur == nullptr ? QString() : QString::fromLatin1(valeur), defaut});
   };
   options.setApplicationDescription(
-      QStringLiteral("Crée l'école d'exemple : 500 élèves, l'année 2016-2017 et ses fichiers."));
+      u"Crée l'école d'exemple : 500 élèves, l'année 2016-2017 et ses fichiers."_s);
   ajouter("serveur", "la base à créer : un chemin en .fdb, « local » ou un serveur à la base vide", "S");
   ajouter("dossier", "où écrire les fichiers du registre, des scanners et de la banque", "D");
-  ajouter("graine", "le nombre dont toute l'école découle (2016)", "N", QStringLiteral("2016"));
+  ajouter("graine", "le nombre dont toute l'école découle (2016)", "N", u"2016"_s);
   ajouter("petite", "un dixième de l'école");
-  options.addOption({QStringLiteral("aide"), QStringLiteral("ce texte")});
+  options.addOption({u"aide"_s, u"ce texte"_s});
 }
 
 void Annoncer(const TBilanChargement& bilan, IDialogues& dialogues) {
   dialogues.Information(
-      QStringLiteral("L'école d'exemple est prête : %1 élèves, %2 passages lus, %3 présences "
-                     "mémorisées, %4 anomalies laissées de côté, %5 virements.")
-          .arg(bilan.Eleves)
+      u"L'école d'exemple est prête : %1 élèves, %2 passages lus, %3 présences "
+      "mémorisées, %4 anomalies laissées de côté, %5 virements."_s.arg(bilan.Eleves)
           .arg(bilan.LignesPresences)
           .arg(bilan.Presences)
           .arg(bilan.Anomalies)
@@ -75,7 +76,7 @@ void Executer(const QCommandLineParser& options, IDialogues& dialogues) {
       throw Exception(u"L'option --" % QString::fromLatin1(nom) % u" manque.");
   TReglagesPoste reglages;
   TDataModule1 base(dialogues, reglages);
-  base.ServerName = options.value(QStringLiteral("serveur"));
+  base.ServerName = options.value(u"serveur"_s);
   const QString fichier = base.FichierLocal();
   if (!fichier.isEmpty() && QFile::exists(fichier))
     throw Exception(u"Le fichier « " % fichier % u" » existe déjà : choisissez-en un autre.");
@@ -85,10 +86,9 @@ void Executer(const QCommandLineParser& options, IDialogues& dialogues) {
   const THorloge horloge;
   TControleur controleur(base, reglages, sansFenetre, horloge);
   const TLiberation liberation;
-  const TEcoleExemple ecole =
-      CreerEcoleExemple(static_cast<std::uint64_t>(StrToInt(options.value(QStringLiteral("graine")))),
-                        options.isSet(QStringLiteral("petite")));
-  const QString dossier = QDir(options.value(QStringLiteral("dossier"))).absolutePath();
+  const TEcoleExemple ecole = CreerEcoleExemple(
+      static_cast<std::uint64_t>(StrToInt(options.value(u"graine"_s))), options.isSet(u"petite"_s));
+  const QString dossier = QDir(options.value(u"dossier"_s)).absolutePath();
   Annoncer(TChargement(controleur, ecole, dossier).Tout(), dialogues);
 }
 
@@ -96,7 +96,7 @@ void Executer(const QCommandLineParser& options, IDialogues& dialogues) {
 
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
-  QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
+  QLocale::setDefault(QLocale(u"fr_BE"_s));
   TDialoguesDemo dialogues;
   QCommandLineParser options;
   DeclarerOptions(options);
@@ -104,7 +104,7 @@ int main(int argc, char** argv) {
     dialogues.Message(options.errorText());
     return 2;
   }
-  if (options.isSet(QStringLiteral("aide"))) {
+  if (options.isSet(u"aide"_s)) {
     dialogues.Message(options.helpText());
     return 0;
   }

@@ -1,12 +1,14 @@
 #include "demo/noms.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-QStringList Liste(const char16_t* texte) { return QString::fromUtf16(texte).split(QStringLiteral(", ")); }
+QStringList Liste(const char16_t* texte) { return QString::fromUtf16(texte).split(u", "_s); }
 
 TOrigine Wallonne() {
   TOrigine o;
-  o.Nationalite = QStringLiteral("Belge");
+  o.Nationalite = u"Belge"_s;
   o.Poids = 640;
   o.Noms = Liste(
       u"ADAM, ANDRÉ, ANTOINE, BASTIN, BAUDOIN, BERNARD, BERTRAND, BODART, BODSON, BOUCHAT, BRASSEUR, "
@@ -158,7 +160,7 @@ int Modulo97(const QString& chiffres) {
   return reste;
 }
 
-QString DeuxChiffres(int nombre) { return QStringLiteral("%1").arg(nombre, 2, 10, QLatin1Char('0')); }
+QString DeuxChiffres(int nombre) { return u"%1"_s.arg(nombre, 2, 10, QLatin1Char('0')); }
 
 }  // namespace
 
@@ -185,8 +187,7 @@ const QStringList& LieuxNaissance() {
 }
 
 QString IbanBelge(int banque, int numero) {
-  const QString dix =
-      QStringLiteral("%1%2").arg(banque, 3, 10, QLatin1Char('0')).arg(numero, 7, 10, QLatin1Char('0'));
+  const QString dix = u"%1%2"_s.arg(banque, 3, 10, QLatin1Char('0')).arg(numero, 7, 10, QLatin1Char('0'));
   const int reste = Modulo97(dix);
   const QString national = dix % DeuxChiffres(reste == 0 ? 97 : reste);
   // "BE" counts as 11 14 behind the number, with 00 for the check digits sought.

@@ -2,11 +2,13 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kLignesEntete = 12;
 
-QString Jour(const QDate& date) { return date.toString(QStringLiteral("dd/MM/yyyy")); }
+QString Jour(const QDate& date) { return date.toString(u"dd/MM/yyyy"_s); }
 
 /// The bank writes names in capitals without accents.
 QString SansAccent(const QString& texte) {
@@ -19,19 +21,19 @@ QString SansAccent(const QString& texte) {
 QStringList Entete(const std::vector<TMouvementBanque>& mouvements, const QString& compte) {
   QStringList lignes{u"Date de comptabilisation à partir de;" % Jour(mouvements.front().Date),
                      u"Date de comptabilisation jusqu'au;" % Jour(mouvements.back().Date),
-                     QStringLiteral("Montant à partir de;"),
-                     QStringLiteral("Montant jusqu'à;"),
-                     QStringLiteral("Numéro d'extrait à partir de;"),
-                     QStringLiteral("Numéro d'extrait jusqu'au;"),
-                     QStringLiteral("Communication;"),
-                     QStringLiteral("Nom contrepartie contient;"),
-                     QStringLiteral("Compte contrepartie;"),
+                     u"Montant à partir de;"_s,
+                     u"Montant jusqu'à;"_s,
+                     u"Numéro d'extrait à partir de;"_s,
+                     u"Numéro d'extrait jusqu'au;"_s,
+                     u"Communication;"_s,
+                     u"Nom contrepartie contient;"_s,
+                     u"Compte contrepartie;"_s,
                      u"Compte;" % compte};
-  while (lignes.size() < kLignesEntete) lignes.append(QStringLiteral(";"));
-  lignes.append(QStringLiteral(
-      "Compte;Date de comptabilisation;Numéro d'extrait;Numéro de transaction;Compte contrepartie;"
+  while (lignes.size() < kLignesEntete) lignes.append(u";"_s);
+  lignes.append(
+      u"Compte;Date de comptabilisation;Numéro d'extrait;Numéro de transaction;Compte contrepartie;"
       "Nom contrepartie;Rue et numéro;Code postal et localité;Transaction;Date valeur;Montant;Devise;BIC;"
-      "Code pays;Communications"));
+      "Code pays;Communications"_s);
   return lignes;
 }
 
@@ -43,10 +45,9 @@ QByteArray TexteReleve(const std::vector<TMouvementBanque>& mouvements, const QS
   int numero = 0;
   for (const TMouvementBanque& m : mouvements) {
     const QString date = Jour(m.Date);
-    lignes.append(QStringList{compteEcole, date, QStringLiteral("00006"), QString::number(++numero), m.Compte,
-                              SansAccent(m.Donneur), QString(), QString(), QStringLiteral("Virement"), date,
-                              FormatDeuxDecimales(m.Montant), QStringLiteral("EUR"), QString(),
-                              QStringLiteral("BE"), m.Communication}
+    lignes.append(QStringList{compteEcole, date, u"00006"_s, QString::number(++numero), m.Compte,
+                              SansAccent(m.Donneur), QString(), QString(), u"Virement"_s, date,
+                              FormatDeuxDecimales(m.Montant), u"EUR"_s, QString(), u"BE"_s, m.Communication}
                       .join(u';'));
   }
   return QString(lignes.join(u"\r\n") % u"\r\n").toLatin1();

@@ -3,6 +3,8 @@
 #include <QTextStream>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Ecrire(const QString& texte) { QTextStream(stderr) << texte << '\n'; }
@@ -27,6 +29,6 @@ bool TDialoguesDemo::Reessayer(const TReessai& reessai) {
 
 void TDialoguesDemo::Progression(int fait, int total, const QString& nom) {
   const int dixieme = total > 0 ? 10 * fait / total : -1;
-  if (dixieme > 0 && dixieme != dixieme_) Ecrire(QStringLiteral("  %1 %  %2").arg(10 * dixieme, 3).arg(nom));
+  if (dixieme > 0 && dixieme != dixieme_) Ecrire(u"  %1 %  %2"_s.arg(10 * dixieme, 3).arg(nom));
   dixieme_ = dixieme;
 }

@@ -23,6 +23,8 @@
 #include "ui/principal/application.h"
 #include "ui/principal/programme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The day of the pictures, so that two runs give the same.
@@ -99,10 +101,10 @@ class Photographe : public QObject {
   void Signaletique() {
     TFrmMain& main = programme_.Main;
     main.edSearchChange({});
-    main.edSearchChange(QStringLiteral("LAMB"));
+    main.edSearchChange(u"LAMB"_s);
     main.Executer(TGestionnaire::AdvGlowButton2Click);
     Attendre(50);
-    Prendre(programme_.Fenetre, QStringLiteral("signaletique"));
+    Prendre(programme_.Fenetre, u"signaletique"_s);
   }
 
   void Assistant() {
@@ -110,22 +112,22 @@ class Photographe : public QObject {
     TFrmPrintWizard& assistant = programme_.Assistant;
     Suivre({
         [=, this](QWidget& fenetre) {
-          Bouton(fenetre, QStringLiteral("Facture"))->click();
-          Prendre(fenetre, QStringLiteral("assistant-rapport"));
+          Bouton(fenetre, u"Facture"_s)->click();
+          Prendre(fenetre, u"assistant-rapport"_s);
           suivant(fenetre);
           return true;
         },
         [=, this, &assistant](QWidget& fenetre) {
-          Bouton(fenetre, QStringLiteral("Les classes suivantes:"))->click();
+          Bouton(fenetre, u"Les classes suivantes:"_s)->click();
           for (int i = 0; i < assistant.LstClasse.NombreLignes(); ++i)
             assistant.LstClasse.Cocher(i, assistant.LstClasse.Texte(i, 0).startsWith(u"P3"));
           Attendre(50);
-          Prendre(fenetre, QStringLiteral("assistant-eleves"));
+          Prendre(fenetre, u"assistant-eleves"_s);
           suivant(fenetre);
           return true;
         },
         [=, this](QWidget& fenetre) {
-          Prendre(fenetre, QStringLiteral("assistant-periode"));
+          Prendre(fenetre, u"assistant-periode"_s);
           suivant(fenetre);
           return true;
         },
@@ -137,7 +139,7 @@ class Photographe : public QObject {
           fenetre.setWindowState(Qt::WindowNoState);  // it opens as large as the screen
           fenetre.resize(programme_.Fenetre.size());
           Attendre(2000);
-          Prendre(fenetre, QStringLiteral("apercu-facture"));
+          Prendre(fenetre, u"apercu-facture"_s);
           fenetre.close();
           return true;
         },
@@ -149,7 +151,7 @@ class Photographe : public QObject {
   TPas Fichier(const QString& chemin) {
     return [chemin](QWidget& fenetre) {
       auto& dialogue = dynamic_cast<QFileDialog&>(fenetre);
-      dialogue.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(chemin);
+      dialogue.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(chemin);
       QMetaObject::invokeMethod(&dialogue, "accept");
       return true;
     };
@@ -158,7 +160,7 @@ class Photographe : public QObject {
   void Importation() {
     programme_.Main.Executer(TGestionnaire::AdvGlowButton8Click);
     auto* form = dynamic_cast<TFrmImport*>(programme_.Main.Panneau.Courante());
-    if (form == nullptr) throw Exception(QStringLiteral("L'importation ne s'ouvre pas."));
+    if (form == nullptr) throw Exception(u"L'importation ne s'ouvre pas."_s);
     Suivre({Fichier(QFileInfo(sujet_.Registre).absoluteFilePath())});
     form->btnEtape1Click();
     const auto montrer = programme_.Dialogues.SurProgression;
@@ -168,7 +170,7 @@ class Photographe : public QObject {
       if (pris || total == 0 || 2 * fait < total) return;
       pris = true;  // once the row in hand is told everywhere
       QTimer::singleShot(0, &programme_.Fenetre,
-                         [this] { Prendre(programme_.Fenetre, QStringLiteral("importation-registre")); });
+                         [this] { Prendre(programme_.Fenetre, u"importation-registre"_s); });
     };
     form->btnEtape2Click();
     programme_.Dialogues.SurProgression = montrer;
@@ -177,13 +179,13 @@ class Photographe : public QObject {
   void Presences() {
     programme_.Main.Executer(TGestionnaire::AdvGlowButton1Click);
     if (dynamic_cast<TfrmPresences*>(programme_.Main.Panneau.Courante()) == nullptr)
-      throw Exception(QStringLiteral("Les présences ne s'ouvrent pas."));
+      throw Exception(u"Les présences ne s'ouvrent pas."_s);
     Suivre({Fichier(QFileInfo(sujet_.Presences).absoluteFilePath())});
     // By its menu, so that the focus goes where it goes for a user.
     for (QAction* action : programme_.Fenetre.findChildren<QAction*>())
       if (action->text() == u"Importer un fichier de présence") action->trigger();
     Attendre(50);
-    Prendre(programme_.Fenetre, QStringLiteral("presences-scanner"));
+    Prendre(programme_.Fenetre, u"presences-scanner"_s);
   }
 
   Programme& programme_;
@@ -195,12 +197,12 @@ class Photographe : public QObject {
 
 /// A copy of the school that the pictures may change, known as this workstation's data.
 void PreparerPoste(const QTemporaryDir& poste, const QString& base) {
-  const QString copie = poste.filePath(QStringLiteral("ecole.fdb"));
+  const QString copie = poste.filePath(u"ecole.fdb"_s);
   if (!QFile::copy(base, copie)) throw Exception(u"« " % base % u" » ne peut pas être lu.");
   for (const auto portee : {QSettings::UserScope, QSettings::SystemScope})
     QSettings::setPath(QSettings::NativeFormat, portee, poste.path());
   TReglagesPoste reglages;
-  reglages.Ecrire(TRacine::Utilisateur, QStringLiteral("Serveur"), copie);
+  reglages.Ecrire(TRacine::Utilisateur, u"Serveur"_s, copie);
 }
 
 void Executer(Application& application, const QString& base, const TSujet& sujet) {
@@ -218,10 +220,10 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
     QSize Taille;
     QString Suffixe;
   } vues[] = {
-      {Theme::TMode::Clair, {1366, 768}, QStringLiteral("-1366x768")},
-      {Theme::TMode::Sombre, {1366, 768}, QStringLiteral("-sombre-1366x768")},
-      {Theme::TMode::Clair, {1920, 1080}, QStringLiteral("-1920x1080")},
-      {Theme::TMode::Sombre, {1920, 1080}, QStringLiteral("-sombre-1920x1080")},
+      {Theme::TMode::Clair, {1366, 768}, u"-1366x768"_s},
+      {Theme::TMode::Sombre, {1366, 768}, u"-sombre-1366x768"_s},
+      {Theme::TMode::Clair, {1920, 1080}, u"-1920x1080"_s},
+      {Theme::TMode::Sombre, {1920, 1080}, u"-sombre-1920x1080"_s},
   };
   for (const auto& [mode, taille, suffixe] : vues) {
     Theme::Appliquer(application, mode);
@@ -237,7 +239,7 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   Application application(argc, argv);
-  QApplication::setFont(QFont(QStringList{QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")}, 10));
+  QApplication::setFont(QFont(QStringList{u"Noto Sans"_s, u"DejaVu Sans"_s}, 10));
   application.Preparer();
   QCommandLineParser options;
   options.process(application);

@@ -10,6 +10,8 @@
 #include "report/layout/mise_en_page.h"
 #include "report/output/pdf.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString Nom(const char* option) { return QString::fromLatin1(option); }
@@ -19,9 +21,7 @@ QString UneSeule(const TSession& session, const QStringList& noms) {
   QStringList donnees;
   for (const QString& nom : noms)
     if (session.Options.isSet(nom)) donnees += nom;
-  if (donnees.size() != 1)
-    throw Exception(
-        QStringLiteral("Donnez une seule des options --%1.").arg(noms.join(QStringLiteral(", --"))));
+  if (donnees.size() != 1) throw Exception(u"Donnez une seule des options --%1."_s.arg(noms.join(u", --"_s)));
   return donnees[0];
 }
 
@@ -38,16 +38,14 @@ void ChoisirClasses(const QStringList& noms, TChoixDocument& choix) {
     const std::size_t avant = choix.Classes.size();
     for (const auto& classe : Globals.Eleves->Classes())
       if (classe->Libelle().trimmed() == nom.trimmed()) choix.Classes.push_back(classe.get());
-    if (choix.Classes.size() == avant)
-      throw Exception(QStringLiteral("Il n'y a pas de classe « %1 ».").arg(nom));
+    if (choix.Classes.size() == avant) throw Exception(u"Il n'y a pas de classe « %1 »."_s.arg(nom));
   }
 }
 
 void ChoisirEleves(const QStringList& numeros, TChoixDocument& choix) {
   for (const QString& numero : numeros) {
     TEleve* eleve = Globals.Eleves->TrouverParId(StrToInt(numero));
-    if (eleve == nullptr)
-      throw Exception(QStringLiteral("Il n'y a pas d'élève n° %1 cette année-là.").arg(numero));
+    if (eleve == nullptr) throw Exception(u"Il n'y a pas d'élève n° %1 cette année-là."_s.arg(numero));
     choix.Eleves.push_back(eleve);
   }
 }
@@ -60,24 +58,22 @@ void Choisir(const TSession& session, TChoixDocument& choix) {
     ChoisirClasses(session.Option(qui).split(u',', Qt::SkipEmptyParts), choix);
   else
     for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
-  if (choix.Eleves.empty() && choix.Classes.empty())
-    throw Exception(QStringLiteral("Aucun élève n'a été sélectionné !"));
+  if (choix.Eleves.empty() && choix.Classes.empty()) throw Exception(u"Aucun élève n'a été sélectionné !"_s);
 }
 
 QString TexteDefaut(const QString& modele, const TDefaut& defaut) {
   QStringList ou;
   for (const QString& nom : {modele, defaut.Bande, defaut.Objet})
     if (!nom.isEmpty()) ou += nom;
-  return ou.join(QStringLiteral(", ")) + QStringLiteral(" : ") + defaut.Message;
+  return ou.join(u", "_s) + u" : "_s + defaut.Message;
 }
 
 /// Raises Exception when there is no template yet.
 TDocumentPrepare Preparer(TSession& session, const TRapport& rapport, const TImpression& impression) {
   const auto modele = ModeleDocument(rapport.Modele(), DossierModeles(session.Controleur.Reglages()));
   if (!modele)
-    throw Exception(
-        QStringLiteral("Le document « %1 » n'a pas encore de modèle (« %2 ») : demandez-le avec --json.")
-            .arg(rapport.Titre(), rapport.Modele()));
+    throw Exception(u"Le document « %1 » n'a pas encore de modèle (« %2 ») : demandez-le avec --json."_s.arg(
+        rapport.Titre(), rapport.Modele()));
   TDocumentPrepare document = MettreEnPage(rapport, *modele, impression);
   for (const TDefaut& defaut : document.Defauts)
     session.Dialogues.Message(TexteDefaut(rapport.Modele(), defaut));
@@ -94,7 +90,7 @@ void VerifierFichiers(const TSession& session) {
   };
   const bool appareil = pdf.exists() && !pdf.isFile();
   if (!appareil && chemin(pdf) == chemin(json))
-    throw Exception(QStringLiteral("Donnez deux fichiers différents à --pdf et à --json."));
+    throw Exception(u"Donnez deux fichiers différents à --pdf et à --json."_s);
 }
 
 /// All reports in one file, with a bookmark a pupil; false when there was nothing to write.
@@ -107,7 +103,7 @@ bool MettreEnPdf(TSession& session, const QString& titre, const TChoixDocument& 
   std::erase_if(documents, [](const TDocumentPrepare& document) { return document.Pages.empty(); });
   if (documents.empty()) {
     if (!resultat.Echec)
-      session.Dialogues.Message(QStringLiteral("Il n'y a rien à imprimer : le fichier PDF n'est pas écrit."));
+      session.Dialogues.Message(u"Il n'y a rien à imprimer : le fichier PDF n'est pas écrit."_s);
     return false;
   }
   std::vector<const TDocumentPrepare*> tous;
@@ -122,7 +118,7 @@ int CommandeDocument(TSession& session) {
   const QString titre = session.Arguments[0];
   TChoixDocument choix;
   choix.Indice = IndiceTitre(titre);
-  if (choix.Indice < 0) throw Exception(QStringLiteral("Il n'y a pas de document « %1 ».").arg(titre));
+  if (choix.Indice < 0) throw Exception(u"Il n'y a pas de document « %1 »."_s.arg(titre));
   VerifierFichiers(session);
   session.Ouvrir();
   Choisir(session, choix);

@@ -11,12 +11,14 @@
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int Creer(TSession& session) {
   if (session.Connecter()) return 0;
   session.Base.CreerTables();
-  session.Dialogues.Information(QStringLiteral("Votre base de données est à jour !"));
+  session.Dialogues.Information(u"Votre base de données est à jour !"_s);
   return 0;
 }
 
@@ -35,19 +37,18 @@ int Parametre(TSession& session) {
 int Registre(TSession& session) {
   session.Ouvrir();
   TImportRegistre import(session.Controleur);
-  session.Dialogues.Oui = session.Options.isSet(QStringLiteral("cloturer"));
+  session.Dialogues.Oui = session.Options.isSet(u"cloturer"_s);
   if (!import.Etape1(session.Arguments[0])) {
     session.Dialogues.Message(
         import.NombreEleves() < TImportRegistre::kElevesMinimum
-            ? QStringLiteral(
-                  "Le fichier ne compte que %1 élève(s) : il en faut au moins %2. Rien n'a été transféré.")
+            ? u"Le fichier ne compte que %1 élève(s) : il en faut au moins %2. Rien n'a été transféré."_s
                   .arg(import.NombreEleves())
                   .arg(TImportRegistre::kElevesMinimum)
-            : QStringLiteral("L'année scolaire n'est pas clôturée : rien n'a été transféré."));
+            : u"L'année scolaire n'est pas clôturée : rien n'a été transféré."_s);
     return 1;
   }
   const TBilanRegistre bilan = import.Etape2();
-  TCsv csv({QStringLiteral("lignes"), QStringLiteral("crees"), QStringLiteral("modifies")});
+  TCsv csv({u"lignes"_s, u"crees"_s, u"modifies"_s});
   csv.Ligne({QString::number(bilan.Lignes), QString::number(bilan.Crees), QString::number(bilan.Modifies)});
   return 0;
 }
@@ -68,15 +69,14 @@ int Presences(TSession& session) {
   TImportPresences import(session.Controleur);
   import.ImporterFichier(session.Arguments[0]);
   {
-    TCsv csv(QStringLiteral("etat;matricule;date;type;entree;sortie").split(u';'));
+    TCsv csv(u"etat;matricule;date;type;entree;sortie"_s.split(u';'));
     for (const auto& bon : import.Bons())
-      csv.Ligne(
-          LignePresence(QStringLiteral("bon"), Globals.Eleves->TrouverParId(bon->EleveId)->Matricule, *bon));
+      csv.Ligne(LignePresence(u"bon"_s, Globals.Eleves->TrouverParId(bon->EleveId)->Matricule, *bon));
     for (const TAnomalie& a : import.Anomalies()) {
       if (a.Presence)
-        csv.Ligne(LignePresence(QStringLiteral("sans_tarif"), a.Matricule, *a.Presence));
+        csv.Ligne(LignePresence(u"sans_tarif"_s, a.Matricule, *a.Presence));
       else
-        csv.Ligne({QStringLiteral("inconnu"), a.Matricule, DateIso(a.Date), QString::number(a.TypePresence),
+        csv.Ligne({u"inconnu"_s, a.Matricule, DateIso(a.Date), QString::number(a.TypePresence),
                    FormatHeureCourte(a.Entree), FormatHeureCourte(a.Sortie)});
     }
   }
@@ -98,7 +98,7 @@ int Couts(TSession& session) {
   const int mois = session.Mois();
   session.Ouvrir();
   const TPeriode periode = BornesMois(mois, Globals.Eleves->AnneeScolaire);
-  TCsv csv(QStringLiteral("eleve_id;service;montant").split(u';'));
+  TCsv csv(u"eleve_id;service;montant"_s.split(u';'));
   for (const TEleve& eleve : *Globals.Eleves) {
     const auto ligne = [&](const QString& service, Currency montant) {
       csv.Ligne({QString::number(eleve.Id), service, FormatQuatreDecimales(montant)});
@@ -106,14 +106,14 @@ int Couts(TSession& session) {
     TLignesService lignes;
     for (const TServiceCsv& service : kServices)
       ligne(QString::fromLatin1(service.code), eleve.CoutService(service.service, periode, lignes));
-    ligne(QStringLiteral("total"), eleve.TotalServices(periode));
+    ligne(u"total"_s, eleve.TotalServices(periode));
   }
   return 0;
 }
 
 int Solde(TSession& session) {
   session.Ouvrir();
-  TCsv csv(QStringLiteral("eleve_id;frais;services;total").split(u';'));
+  TCsv csv(u"eleve_id;frais;services;total"_s.split(u';'));
   for (TEleve& eleve : *Globals.Eleves)
     csv.Ligne({QString::number(eleve.Id), FormatQuatreDecimales(eleve.Solde(true, false)),
                FormatQuatreDecimales(eleve.Solde(false, true)),
@@ -124,35 +124,35 @@ int Solde(TSession& session) {
 }  // namespace
 
 bool TSession::Connecter() const {
-  const QString serveur = Options.value(QStringLiteral("serveur")).trimmed();
+  const QString serveur = Options.value(u"serveur"_s).trimmed();
   Base.ServerName = serveur;
   if (serveur.isEmpty()) Base.ReadServerName();
   if (Base.ServerName.trimmed().isEmpty())
     throw Exception(
-        QStringLiteral("Aucun serveur de données n'est connu sur cet ordinateur : indiquez-le avec --serveur "
-                       "(un nom de serveur, « local », ou le chemin d'un fichier .fdb)."));
+        u"Aucun serveur de données n'est connu sur cet ordinateur : indiquez-le avec --serveur "
+        "(un nom de serveur, « local », ou le chemin d'un fichier .fdb)."_s);
   const QString fichier = Base.FichierLocal();
   const bool nouveau = !fichier.isEmpty() && !QFile::exists(fichier);
   Base.Connecter();
-  if (nouveau) Dialogues.Information(QStringLiteral("La base de données « %1 » est créée.").arg(fichier));
+  if (nouveau) Dialogues.Information(u"La base de données « %1 » est créée."_s.arg(fichier));
   return nouveau;
 }
 
 void TSession::Ouvrir() const {
   Connecter();
   Controleur.ChargerParametres();
-  const QString annee = Options.value(QStringLiteral("annee"));
+  const QString annee = Options.value(u"annee"_s);
   Controleur.ChargerAnnee(annee.isEmpty() ? Globals.AnneeScolaire : StrToInt(annee));
 }
 
 int TSession::Mois() const {
-  const int mois = StrToInt(Option(QStringLiteral("mois")));
-  if (mois < 1 || mois > 12) throw Exception(QStringLiteral("Le mois est un nombre de 1 à 12."));
+  const int mois = StrToInt(Option(u"mois"_s));
+  if (mois < 1 || mois > 12) throw Exception(u"Le mois est un nombre de 1 à 12."_s);
   return mois;
 }
 
 QString TSession::Option(const QString& nom) const {
-  if (!Options.isSet(nom)) throw Exception(QStringLiteral("L'option --%1 manque.").arg(nom));
+  if (!Options.isSet(nom)) throw Exception(u"L'option --%1 manque."_s.arg(nom));
   return Options.value(nom);
 }
 

@@ -4,13 +4,15 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 TCsv::TCsv(const QStringList& entete) { Ligne(entete); }
 
 void TCsv::Ligne(const QStringList& champs) {
   QStringList cites;
   for (QString champ : champs) {
     if (champ.contains(u';') || champ.contains(u'"') || champ.contains(u'\n') || champ.contains(u'\r'))
-      champ = u'"' + champ.replace(u'"', QStringLiteral("\"\"")) + u'"';
+      champ = u'"' + champ.replace(u'"', u"\"\""_s) + u'"';
     cites += champ;
   }
   EcrireLigne(cites.join(u';'));
@@ -21,5 +23,5 @@ void TCsv::EcrireLigne(const QString& texte) {
   const std::size_t ecrits =
       std::fwrite(octets.constData(), 1, static_cast<std::size_t>(octets.size()), stdout);
   if (ecrits != static_cast<std::size_t>(octets.size()))
-    throw Exception(QStringLiteral("Le résultat ne peut pas être écrit."));
+    throw Exception(u"Le résultat ne peut pas être écrit."_s);
 }

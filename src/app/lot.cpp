@@ -13,6 +13,8 @@
 #include "app/commandes.h"
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum { kReussi = 0, kEchec = 1, kMauvaisAppel = 2 };
@@ -27,7 +29,7 @@ struct TLiberation {
 
 void DeclarerOptions(QCommandLineParser& options) {
   const auto valeur = [&](const char* nom) {
-    options.addOption({QString::fromLatin1(nom), {}, QStringLiteral("valeur")});
+    options.addOption({QString::fromLatin1(nom), {}, u"valeur"_s});
   };
   for (const char* nom :
        {"serveur", "annee", "mois", "du", "au", "eleves", "classes", "date-paiement", "json", "pdf"})
@@ -37,7 +39,7 @@ void DeclarerOptions(QCommandLineParser& options) {
 }
 
 QString Usage() {
-  QString texte = QStringLiteral("Usage : calpenne-lot [--serveur S] [--annee A] [--oui] COMMANDE\n");
+  QString texte = u"Usage : calpenne-lot [--serveur S] [--annee A] [--oui] COMMANDE\n"_s;
   for (const TCommande& commande : Commandes()) texte += u"  " + QString::fromUtf8(commande.Usage) + u'\n';
   return texte.trimmed();
 }
@@ -56,11 +58,11 @@ int Executer(const QCommandLineParser& options, TDialoguesTerminal& dialogues) {
     const TLiberation liberation;
     TSession session{options, arguments, dialogues, base, controleur};
     const int code = commande.Executer(session);
-    if (std::fflush(stdout) != 0) throw Exception(QStringLiteral("Le résultat ne peut pas être écrit."));
+    if (std::fflush(stdout) != 0) throw Exception(u"Le résultat ne peut pas être écrit."_s);
     return code;
   }
   dialogues.Message(Usage());
-  return options.isSet(QStringLiteral("aide")) ? kReussi : kMauvaisAppel;
+  return options.isSet(u"aide"_s) ? kReussi : kMauvaisAppel;
 }
 
 }  // namespace
@@ -72,9 +74,9 @@ int main(int argc, char** argv) {
   if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
 #endif
   QCoreApplication application(argc, argv);
-  QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
+  QLocale::setDefault(QLocale(u"fr_BE"_s));
   QTranslator traduction;
-  if (traduction.load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+  if (traduction.load(u"qtbase_fr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QCoreApplication::installTranslator(&traduction);
 
   TDialoguesTerminal dialogues;
@@ -84,13 +86,13 @@ int main(int argc, char** argv) {
     dialogues.Message(options.errorText() + u'\n' + Usage());
     return kMauvaisAppel;
   }
-  dialogues.Oui = options.isSet(QStringLiteral("oui"));
+  dialogues.Oui = options.isSet(u"oui"_s);
   try {
     return Executer(options, dialogues);
   } catch (const Exception& e) {
     dialogues.Message(e.Message);
   } catch (const std::exception& e) {
-    dialogues.Message(QStringLiteral("Erreur inattendue : ") + QString::fromUtf8(e.what()));
+    dialogues.Message(u"Erreur inattendue : "_s + QString::fromUtf8(e.what()));
   }
   return kEchec;
 }

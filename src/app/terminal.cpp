@@ -3,6 +3,8 @@
 #include <QTextStream>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Ecrire(const QString& texte) {
@@ -15,7 +17,7 @@ void Ecrire(const QString& texte) {
 void TDialoguesTerminal::Message(const QString& texte) { Ecrire(texte); }
 
 bool TDialoguesTerminal::Confirmer(const QString& question) {
-  Ecrire(question + (Oui ? QStringLiteral(" [oui]") : QStringLiteral(" [non]")));
+  Ecrire(question + (Oui ? u" [oui]"_s : u" [non]"_s));
   return Oui;
 }
 
@@ -44,5 +46,5 @@ void TDialoguesTerminal::Progression(int fait, int total, const QString& nom) {
   const int dixieme = static_cast<int>(10LL * fait / total);
   if (dixieme == dixieme_) return;
   dixieme_ = dixieme;
-  Ecrire(QStringLiteral("%1 % : %2").arg(qMin(100, dixieme * 10)).arg(nom));
+  Ecrire(u"%1 % : %2"_s.arg(qMin(100, dixieme * 10)).arg(nom));
 }

@@ -2,6 +2,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kDureeBulles = 5000;
@@ -30,8 +32,8 @@ TControleur::TControleur(TDataModule1& base, TReglagesPoste& reglages, IFenetreP
 
 void TControleur::FormShow() {
   Globals.Parametres.reset();
-  Globals.ModeHorsLigne = EstUn(reglages_, QStringLiteral("Offline"));
-  Globals.DatePhoto = reglages_.Lire(TRacine::Utilisateur, QStringLiteral("Photo"));
+  Globals.ModeHorsLigne = EstUn(reglages_, u"Offline"_s);
+  Globals.DatePhoto = reglages_.Lire(TRacine::Utilisateur, u"Photo"_s);
   if (Globals.ModeHorsLigne) {
     PagesTablette();
     fenetre_.OuvrirReservationTablette();
@@ -52,8 +54,8 @@ bool TControleur::Demarrer(bool pagesTablette) {
     return false;
   }
   if (!base_.EstConnecte()) return true;
-  Globals.ModeProfesseur = EstUn(reglages_, QStringLiteral("Mode"));
-  Globals.ModeTablette = EstUn(reglages_, QStringLiteral("Tablette"));
+  Globals.ModeProfesseur = EstUn(reglages_, u"Mode"_s);
+  Globals.ModeTablette = EstUn(reglages_, u"Tablette"_s);
   fenetre_.DureeBulles(kDureeBulles);
   ChargerParametres();
   if (Globals.ModeTablette || pagesTablette)
@@ -82,18 +84,17 @@ bool TControleur::Connecter() {
     return base_.ConnectToServer();
   } catch (const Exception& e) {
     TReessai reessai;
-    reessai.Titre = QStringLiteral("Erreur de connexion au serveur de données");
+    reessai.Titre = u"Erreur de connexion au serveur de données"_s;
     reessai.Texte =
-        QStringLiteral(
-            "Un problème empêche le logiciel de se connecter au serveur de base de donnée nommé : ") +
+        u"Un problème empêche le logiciel de se connecter au serveur de base de donnée nommé : "_s +
         base_.ServerName;
-    reessai.Explication = QStringLiteral(
-        "Veuillez vérifier si :\n"
+    reessai.Explication =
+        u"Veuillez vérifier si :\n"
         "1. Le nom du serveur est correctement orthographié.\n"
         "2. Le serveur est allumé et accessible via le réseau.\n"
         "3. Les paramètres réseau de votre ordinateur sont corrects\n"
-        "Actions:");
-    reessai.Lien = QStringLiteral("Cliquez ici afin de modifier le nom du serveur de données.");
+        "Actions:"_s;
+    reessai.Lien = u"Cliquez ici afin de modifier le nom du serveur de données."_s;
     reessai.SurLien = [this] { base_.AskServerName(); };
     reessai.Cause = e.Message;
     if (!Dialogues().Reessayer(reessai)) return false;
@@ -105,7 +106,7 @@ bool TControleur::Connecter() {
 
 void TControleur::ChargerAnnee(int annee) {
   if (!Globals.Parametres || !base_.EstConnecte())
-    throw Exception(QStringLiteral("Le programme n'est pas relié à ses données : fermez-le et recommencez."));
+    throw Exception(u"Le programme n'est pas relié à ses données : fermez-le et recommencez."_s);
   const TSuspension suspension(fenetre_);
   const TAttente attente(Dialogues());
   auto donnees = ChargerDonneesAnnee(base_, annee, *Globals.Parametres, *Globals.TarifsGarderies);
@@ -114,12 +115,11 @@ void TControleur::ChargerAnnee(int annee) {
   Globals.GroupesFrais = std::move(groupes);
   Globals.TypeActivitesExt = LireTypeActivitesExt(Globals.Parametres->GetParametre(100));
   Globals.DateDebutActivitesExt = PeriodeActivitesExt(Globals.TypeActivitesExt).Premier;
-  Globals.TitreActivitesExt = Globals.TypeActivitesExt == TTypeActivitesExt::Aucune
-                                  ? QString()
-                                  : QStringLiteral("Activités extérieures");
-  Globals.TitreGarderieSoir = Globals.Parametres->EstVrai(103) ? QStringLiteral("Garderies du soir / études")
-                                                               : QStringLiteral("Garderies du soir");
-  fenetre_.IntitulerAnnee(QStringLiteral("Année scolaire %1 - %2").arg(annee).arg(annee + 1));
+  Globals.TitreActivitesExt =
+      Globals.TypeActivitesExt == TTypeActivitesExt::Aucune ? QString() : u"Activités extérieures"_s;
+  Globals.TitreGarderieSoir =
+      Globals.Parametres->EstVrai(103) ? u"Garderies du soir / études"_s : u"Garderies du soir"_s;
+  fenetre_.IntitulerAnnee(u"Année scolaire %1 - %2"_s.arg(annee).arg(annee + 1));
   fenetre_.ConstruireArbre();
   fenetre_.CocherAnnee(annee);
 }
@@ -136,19 +136,18 @@ void TControleur::FormClose() {
 
 void TControleur::EcrireReglage(const QString& nom, const QString& valeur) {
   if (!reglages_.Ecrire(TRacine::Utilisateur, nom, valeur))
-    Dialogues().Message(
-        QStringLiteral("Le réglage « %1 » de cet ordinateur n'a pas pu être enregistré.").arg(nom));
+    Dialogues().Message(u"Le réglage « %1 » de cet ordinateur n'a pas pu être enregistré."_s.arg(nom));
 }
 
 void TControleur::PasserHorsLigne() {
-  EcrireReglage(QStringLiteral("Offline"), QStringLiteral("1"));
+  EcrireReglage(u"Offline"_s, u"1"_s);
   base_.Deconnecter();
   Globals.ModeHorsLigne = true;
   PagesTablette();
 }
 
 void TControleur::PasserEnLigne() {
-  EcrireReglage(QStringLiteral("Offline"), QStringLiteral("0"));
+  EcrireReglage(u"Offline"_s, u"0"_s);
   Globals.ModeHorsLigne = false;
   Demarrer(true);
 }
@@ -156,7 +155,7 @@ void TControleur::PasserEnLigne() {
 void TControleur::MemoriserDatePhoto() {
   if (!Globals.Parametres) return;
   Globals.DatePhoto = Globals.Parametres->GetParametre(115);
-  EcrireReglage(QStringLiteral("Photo"), Globals.DatePhoto);
+  EcrireReglage(u"Photo"_s, Globals.DatePhoto);
 }
 
 void TControleur::PagesTablette() {

@@ -1,8 +1,9 @@
 #include "attendance/presence.h"
 
+using namespace Qt::StringLiterals;
+
 const QStringList& TextesTypePresence() {
-  static const QStringList textes{QStringLiteral("Garderie"), QStringLiteral("Repas"),
-                                  QStringLiteral("Soupe"), QStringLiteral("Etude")};
+  static const QStringList textes{u"Garderie"_s, u"Repas"_s, u"Soupe"_s, u"Etude"_s};
   return textes;
 }
 

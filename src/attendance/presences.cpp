@@ -6,6 +6,8 @@
 #include "core/formats.h"
 #include "services/tarifs_garderies.h"
 
+using namespace Qt::StringLiterals;
+
 TPresences::TPresences(TDataModule1& base, const TPeriode& periode, bool deductionEtude)
     : TCollection(base), DeductionEtude(deductionEtude), periode_(periode) {
   Charger();
@@ -15,9 +17,9 @@ void TPresences::DefineQuery() {
   SelectSql = u"SELECT * FROM PRESENCES WHERE DATE_RELEVE >= " % FormatDateSql(periode_.Premier) %
               u" AND DATE_RELEVE <= " % FormatDateSql(periode_.Dernier) %
               u" ORDER BY DATE_RELEVE, HEURE_ENTREE";
-  TableName = QStringLiteral("PRESENCES");
+  TableName = u"PRESENCES"_s;
   KeyField = "PRESENCE_ID";
-  CounterName = QStringLiteral("PRESENCES");
+  CounterName = u"PRESENCES"_s;
 }
 
 void TPresences::LoadItems(TCurseur& ligne) {

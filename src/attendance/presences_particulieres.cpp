@@ -1,5 +1,7 @@
 #include "attendance/presences_particulieres.h"
 
+using namespace Qt::StringLiterals;
+
 TPresencesParticulieres::TPresencesParticulieres(TDataModule1& base, int annee)
     : TCollection(base), annee_(annee) {
   Charger();
@@ -9,9 +11,9 @@ void TPresencesParticulieres::DefineQuery() {
   SelectSql = u"SELECT * FROM PRESENCES_PARTICULIERES WHERE (ANNEE = " % QString::number(annee_) %
               u" AND MOIS > 6) OR (ANNEE = " % QString::number(annee_ + 1) %
               u" AND MOIS < 7) ORDER BY MOIS, ANNEE";
-  TableName = QStringLiteral("PRESENCES_PARTICULIERES");
+  TableName = u"PRESENCES_PARTICULIERES"_s;
   KeyField = "PRESENCEPARTICULIERE_ID";
-  CounterName = QStringLiteral("PRESENCES_PARTICULIERES");
+  CounterName = u"PRESENCES_PARTICULIERES"_s;
 }
 
 void TPresencesParticulieres::LoadItems(TCurseur& ligne) {

@@ -5,6 +5,8 @@
 #include "core/conversions.h"
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 QString Remplacer(const QString& texte, const QString& ancien, const QString& nouveau) {
   if (ancien.isEmpty()) return texte;
   const QString enUnePasse = QString(texte).replace(ancien, nouveau);
@@ -23,9 +25,7 @@ QString Remplacer(const QString& texte, const QString& ancien, const QString& no
   return pos < 0 ? resultat : enUnePasse;
 }
 
-QString SansRetourLigne(const QString& texte) {
-  return QString(texte).replace(QStringLiteral("\r\n"), QStringLiteral(" "));
-}
+QString SansRetourLigne(const QString& texte) { return QString(texte).replace(u"\r\n"_s, u" "_s); }
 
 void Decouper(const QString& texte, QChar separateur, QStringList& liste) {
   liste += texte.split(separateur, Qt::SkipEmptyParts);

@@ -5,6 +5,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Decimal text of `unites` with `decimales` digits behind `separateur`.
@@ -19,7 +21,7 @@ QString Decimal(std::int64_t unites, int decimales, QChar separateur) {
 Currency Currency::Arrondi(long double euros) {
   // The default rounding mode of the processor is half to even, which is the rule of the type.
   const long double unites = std::nearbyint(euros * 10000.0L);
-  if (!(std::abs(unites) < 9.2e18L)) throw EConvertError(QStringLiteral("Le montant est trop grand."));
+  if (!(std::abs(unites) < 9.2e18L)) throw EConvertError(u"Le montant est trop grand."_s);
   return Brut(static_cast<std::int64_t>(unites));
 }
 

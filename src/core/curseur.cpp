@@ -7,6 +7,8 @@
 #include "core/exceptions.h"
 #include "core/firebird_interne.h"
 
+using namespace Qt::StringLiterals;
+
 using Firebird::TChamp;
 
 struct TCurseur::TInterne {
@@ -25,8 +27,8 @@ struct TCurseur::TInterne {
   const TChamp& Chercher(const char* nom) const {
     for (const TChamp& champ : instruction->Champs())
       if (champ.nom == nom) return champ;
-    throw Exception(QStringLiteral("La colonne %1 manque dans la base de données : lancez sa mise à jour.")
-                        .arg(QString::fromLatin1(nom)));
+    throw Exception(u"La colonne %1 manque dans la base de données : lancez sa mise à jour."_s.arg(
+        QString::fromLatin1(nom)));
   }
 
   const TChamp& Colonne(const char* nom) {

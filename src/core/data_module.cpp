@@ -15,18 +15,20 @@
 #include "core/schema.h"
 #include "core/schema_script.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kServeur = QStringLiteral("Serveur");
-const QString kBase = QStringLiteral("PRESENCES");
-const QString kUtilisateur = QStringLiteral("sysdba");
-const QString kMotDePasse = QStringLiteral("corvusnet");
+const QString kServeur = u"Serveur"_s;
+const QString kBase = u"PRESENCES"_s;
+const QString kUtilisateur = u"sysdba"_s;
+const QString kMotDePasse = u"corvusnet"_s;
 
 /// The embedded engine keeps its locks in a folder that the whole machine would share; a private
 /// one leaves the next user of the machine out of nothing.
 void PreparerVerrous() {
   if (!qEnvironmentVariableIsEmpty("FIREBIRD_LOCK")) return;
-  const QString dossier = DossierDonnees() + QStringLiteral("/verrous");
+  const QString dossier = DossierDonnees() + u"/verrous"_s;
   QDir().mkpath(dossier);
   QFile::setPermissions(dossier, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
   qputenv("FIREBIRD_LOCK", QFile::encodeName(dossier));
@@ -66,7 +68,7 @@ const TSignaux& SignauxDuProgramme() {
 TDataModule1::TDataModule1(IDialogues& dialogues, TReglagesPoste& reglages)
     : dialogues_(dialogues), reglages_(reglages) {
   static std::atomic<int> numero{0};
-  connexion_ = QStringLiteral("UniConnection%1").arg(++numero);
+  connexion_ = u"UniConnection%1"_s.arg(++numero);
   PreparerVerrous();
   SignauxDuProgramme();
 }
@@ -103,15 +105,14 @@ void TDataModule1::WriteServerName(TRacine racine) { reglages_.Ecrire(racine, kS
 bool TDataModule1::CanWriteMachineKey() const { return reglages_.MachineInscriptible(); }
 
 void TDataModule1::AskServerName() {
-  QString invite =
-      QStringLiteral("Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :");
+  QString invite = u"Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :"_s;
   const bool machine = CanWriteMachineKey();
   if (!machine)
-    invite += QStringLiteral(
-        "\nAttention : Afin de ne plus afficher ce message, veuillez exécuter cette opération avec un compte "
-        "administrateur");
-  const auto reponse =
-      dialogues_.Saisir(QStringLiteral("Identification du Serveur de données"), invite, ServerName);
+    invite +=
+        u"\nAttention : Afin de ne plus afficher ce message, veuillez exécuter cette opération avec un "
+        u"compte "
+        "administrateur"_s;
+  const auto reponse = dialogues_.Saisir(u"Identification du Serveur de données"_s, invite, ServerName);
   if (!reponse || reponse->trimmed().isEmpty()) return;
   ServerName = *reponse;
   WriteServerName(machine ? TRacine::Machine : TRacine::Utilisateur);
@@ -127,8 +128,7 @@ bool TDataModule1::ConnectToServer() {
 
 QString TDataModule1::FichierLocal() const {
   const QString nom = ServerName.trimmed();
-  if (nom.compare(u"local", Qt::CaseInsensitive) == 0)
-    return DossierDonnees() + QStringLiteral("/PRESENCES.fdb");
+  if (nom.compare(u"local", Qt::CaseInsensitive) == 0) return DossierDonnees() + u"/PRESENCES.fdb"_s;
   if (nom.endsWith(u".fdb", Qt::CaseInsensitive)) return QFileInfo(nom).absoluteFilePath();
   return {};
 }
@@ -144,13 +144,11 @@ void TDataModule1::Connecter() {
 
 void TDataModule1::OuvrirFichier(const QString& chemin) {
   const QFileInfo fichier(chemin);
-  if (fichier.isDir())
-    throw Exception(QStringLiteral("« %1 » est un dossier et non un fichier de données.").arg(chemin));
+  if (fichier.isDir()) throw Exception(u"« %1 » est un dossier et non un fichier de données."_s.arg(chemin));
   if (fichier.exists() && fichier.size() == 0)
     throw Exception(
-        QStringLiteral("Le fichier de données « %1 » est vide. Effacez-le pour qu'il soit créé, ou "
-                       "remettez sa dernière sauvegarde à sa place.")
-            .arg(chemin));
+        u"Le fichier de données « %1 » est vide. Effacez-le pour qu'il soit créé, ou "
+        "remettez sa dernière sauvegarde à sa place."_s.arg(chemin));
   if (!fichier.exists()) CreerFichier(chemin);
   Ouvrir({}, chemin);
 }
@@ -158,9 +156,8 @@ void TDataModule1::OuvrirFichier(const QString& chemin) {
 // Made beside its place and renamed when complete, so that an interruption leaves no half database.
 void TDataModule1::CreerFichier(const QString& chemin) {
   const QString dossier = QFileInfo(chemin).absolutePath();
-  if (!QDir().mkpath(dossier))
-    throw Exception(QStringLiteral("Le dossier « %1 » ne peut pas être créé.").arg(dossier));
-  const QString ebauche = chemin + QStringLiteral(".nouveau");
+  if (!QDir().mkpath(dossier)) throw Exception(u"Le dossier « %1 » ne peut pas être créé."_s.arg(dossier));
+  const QString ebauche = chemin + u".nouveau"_s;
   QFile::remove(ebauche);
   try {
     Firebird::CreerBase(ebauche);
@@ -170,7 +167,7 @@ void TDataModule1::CreerFichier(const QString& chemin) {
     Deconnecter();
     Firebird::EcrituresForcees(ebauche, true);
     if (!QFile::rename(ebauche, chemin))
-      throw Exception(QStringLiteral("Le fichier de données « %1 » ne peut pas être créé.").arg(chemin));
+      throw Exception(u"Le fichier de données « %1 » ne peut pas être créé."_s.arg(chemin));
   } catch (const Exception&) {
     Deconnecter();
     QFile::remove(ebauche);
@@ -179,14 +176,14 @@ void TDataModule1::CreerFichier(const QString& chemin) {
 }
 
 void TDataModule1::Ouvrir(const QString& hote, const QString& base) {
-  QSqlDatabase connexion = QSqlDatabase::addDatabase(QStringLiteral("QIBASE"), connexion_);
+  QSqlDatabase connexion = QSqlDatabase::addDatabase(u"QIBASE"_s, connexion_);
   if (!connexion.isValid())
-    throw Exception(QStringLiteral("Le pilote QIBASE de Qt n'est pas installé sur cet ordinateur."));
+    throw Exception(u"Le pilote QIBASE de Qt n'est pas installé sur cet ordinateur."_s);
   connexion.setHostName(hote);
   connexion.setDatabaseName(base);
   connexion.setUserName(kUtilisateur);
   connexion.setPassword(kMotDePasse);
-  connexion.setConnectOptions(QStringLiteral("ISC_DPB_LC_CTYPE=UTF8"));
+  connexion.setConnectOptions(u"ISC_DPB_LC_CTYPE=UTF8"_s);
   const bool ouverte = connexion.open();
   SignauxDuProgramme().Rendre();
   if (ouverte) return;
@@ -205,9 +202,7 @@ int TDataModule1::GetNextId(const QString& counterName) {
   try {
     if (!compteurs_) compteurs_ = std::make_unique<Firebird::TCompteurs>(Attache());
     const int cle = compteurs_->ProchaineCle(counterName);
-    if (cle == -1)
-      dialogues_.Message(QStringLiteral("Le compteur de table ") + counterName +
-                         QStringLiteral(" n'existe pas !"));
+    if (cle == -1) dialogues_.Message(u"Le compteur de table "_s + counterName + u" n'existe pas !"_s);
     return cle;
   } catch (const Exception& e) {
     compteurs_.reset();  // what went wrong may be in its statements
@@ -230,12 +225,12 @@ void TDataModule1::MettreAJour() { RunScript(ScriptMiseAJour()); }
 
 void TDataModule1::CreerTables() {
   const QStringList tables = ElementsDuSchema(*this);
-  if (!tables.contains(QStringLiteral("COUNTERS"))) RunScript(ScriptTablesDeBase());
+  if (!tables.contains(u"COUNTERS"_s)) RunScript(ScriptTablesDeBase());
   MettreAJour();
   const QStringList presents = ElementsDuSchema(*this);
   for (const QString& attendu : ElementsAttendus(ScriptTablesDeBase() + ScriptMiseAJour()))
     if (!presents.contains(attendu))
-      throw Exception(QStringLiteral("La base de données est incomplète : il y manque %1.").arg(attendu));
+      throw Exception(u"La base de données est incomplète : il y manque %1."_s.arg(attendu));
 }
 
 void TDataModule1::EcrituresForcees(bool forcees) {

@@ -4,6 +4,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 kJulienOrigine = 2415019;  // 30 December 1899
@@ -14,15 +16,14 @@ constexpr double kMillisecondesParJour = 86400000.0;
 TDateTime EncodeDate(int annee, int mois, int jour) {
   const QDate date(annee, mois, jour);
   if (!date.isValid() || annee < 1 || annee > 9999)
-    throw EConvertError(QStringLiteral("La date %1/%2/%3 n'existe pas.").arg(jour).arg(mois).arg(annee));
+    throw EConvertError(u"La date %1/%2/%3 n'existe pas."_s.arg(jour).arg(mois).arg(annee));
   return DateDeQt(date);
 }
 
 TDateTime EncodeTime(int heure, int minute, int seconde, int milliseconde) {
   const QTime temps(heure, minute, seconde, milliseconde);
   if (!temps.isValid())
-    throw EConvertError(
-        QStringLiteral("L'heure %1:%2 n'existe pas.").arg(heure).arg(minute, 2, 10, QChar(u'0')));
+    throw EConvertError(u"L'heure %1:%2 n'existe pas."_s.arg(heure).arg(minute, 2, 10, QChar(u'0')));
   return HeureDeQt(temps);
 }
 

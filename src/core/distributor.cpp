@@ -9,6 +9,8 @@
 #include "core/exceptions.h"
 #include "core/firebird.h"
 
+using namespace Qt::StringLiterals;
+
 /// The statements of one Save, prepared when first needed.
 class TDistributor::TEnregistrement {
  public:
@@ -42,7 +44,7 @@ class TDistributor::TEnregistrement {
     Remplir(objet);
     if (!insertion_ || colonnesInsertion_ != ligne_.Colonnes()) {
       QString sql = u"INSERT INTO " % c_.TableName % u" (" % QString::fromLatin1(c_.KeyField);
-      QString places = QStringLiteral("?");
+      QString places = u"?"_s;
       for (const QByteArray& colonne : ligne_.Colonnes()) {
         sql += u", " % QString::fromLatin1(colonne);
         places += u", ?";
@@ -117,7 +119,7 @@ void TDistributor::Charger() {
 }
 
 void TDistributor::LoadFromSource(TDataSet&) {
-  throw EDistributor(QStringLiteral("Cette liste n'existe pas hors ligne."));
+  throw EDistributor(u"Cette liste n'existe pas hors ligne."_s);
 }
 
 void TDistributor::LireCle(TCurseur& ligne, TBaseObject& objet) const {
@@ -178,7 +180,7 @@ std::unique_ptr<TBaseObject> TDistributor::Oublier(TBaseObject& objet) {
 }
 
 bool TDistributor::Save() {
-  if (base_ == nullptr) throw EDistributor(QStringLiteral("Une liste hors ligne ne s'enregistre pas."));
+  if (base_ == nullptr) throw EDistributor(u"Une liste hors ligne ne s'enregistre pas."_s);
   TEnregistrement enregistrement(*this);
   try {
     for (std::size_t i = Deleted.size(); i-- > 0;)

@@ -6,6 +6,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Flushes by itself: QSaveFile::commit lets a failure of its own flush pass and keeps half a file.
@@ -15,8 +17,7 @@ bool Ecrire(QFileDevice& fichier, QByteArrayView octets) {
 }
 
 [[noreturn]] void Refuser(const QString& chemin, const QFileDevice& fichier) {
-  throw Exception(
-      QStringLiteral("Impossible d'écrire le fichier « %1 » : %2").arg(chemin, fichier.errorString()));
+  throw Exception(u"Impossible d'écrire le fichier « %1 » : %2"_s.arg(chemin, fichier.errorString()));
 }
 
 }  // namespace

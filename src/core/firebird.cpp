@@ -3,6 +3,8 @@
 #include "core/exceptions.h"
 #include "core/firebird_interne.h"
 
+using namespace Qt::StringLiterals;
+
 namespace Firebird {
 namespace {
 
@@ -18,7 +20,7 @@ struct TAttacheLocale {
 }  // namespace
 
 void CreerBase(const QString& chemin) {
-  const QByteArray sql = "CREATE DATABASE '" + QString(chemin).replace(u'\'', QStringLiteral("''")).toUtf8() +
+  const QByteArray sql = "CREATE DATABASE '" + QString(chemin).replace(u'\'', u"''"_s).toUtf8() +
                          "' USER 'sysdba' PAGE_SIZE 16384 DEFAULT CHARACTER SET UTF8";
   TAttacheLocale base;
   isc_tr_handle aucune = 0;
@@ -49,8 +51,7 @@ struct TCompteurs::TInterne {
   void Preparer(TTransaction& transaction) {
     if (ajout) return;
     const TInstruction colonnes(base, transaction, "SELECT * FROM COUNTERS");
-    if (colonnes.Champs().size() < 2)
-      throw Exception(QStringLiteral("La table COUNTERS n'a pas deux colonnes."));
+    if (colonnes.Champs().size() < 2) throw Exception(u"La table COUNTERS n'a pas deux colonnes."_s);
     const QByteArray cle = '"' + colonnes.Champs()[0].nom + '"';
     const QByteArray valeur = '"' + colonnes.Champs()[1].nom + '"';
     // Waiting here, and not at the update, is what lets eight workstations in without a failure.
@@ -133,11 +134,11 @@ constexpr TErreurConnue kErreurs[] = {
 }  // namespace
 
 QString MessageBaseDeDonnees(const QString& texteDuPilote, const QString& fichier) {
-  QString phrase = QStringLiteral("La base de données a refusé l'opération.");
+  QString phrase = u"La base de données a refusé l'opération."_s;
   for (const TErreurConnue& e : kErreurs) {
     if (!texteDuPilote.contains(QString::fromUtf8(e.extrait), Qt::CaseInsensitive)) continue;
-    phrase = QString::fromUtf8(e.phrase).replace(QStringLiteral("%1"),
-                                                 fichier.isEmpty() ? QString() : u"« " + fichier + u" »");
+    phrase =
+        QString::fromUtf8(e.phrase).replace(u"%1"_s, fichier.isEmpty() ? QString() : u"« " + fichier + u" »");
     break;
   }
   return phrase.simplified() + u'\n' + texteDuPilote.trimmed();

@@ -2,6 +2,8 @@
 #include "core/firebird.h"
 #include "core/firebird_interne.h"
 
+using namespace Qt::StringLiterals;
+
 namespace Firebird {
 namespace {
 
@@ -51,7 +53,7 @@ void Verifier(const ISC_STATUS_ARRAY statut, const QString& fichier) {
 isc_db_handle Attache(const QVariant& poignee) {
   // Qt's driver hands out the handle by value, under the name of its underlying integer type.
   if (poignee.metaType() != QMetaType::fromType<isc_db_handle>())
-    throw Exception(QStringLiteral("La connexion à la base de données n'est pas ouverte."));
+    throw Exception(u"La connexion à la base de données n'est pas ouverte."_s);
   return *static_cast<const isc_db_handle*>(poignee.constData());
 }
 

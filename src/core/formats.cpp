@@ -1,5 +1,7 @@
 #include "core/formats.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Unlike DateVersQt, takes 0 as the day it stands for.
@@ -19,27 +21,25 @@ const QLocale& LocaleEcole() {
   return locale;
 }
 
-QString FormatDate(TDateTime date) {
-  return date == 0.0 ? QString() : Ecrire(date, QStringLiteral("dd/MM/yyyy"));
-}
+QString FormatDate(TDateTime date) { return date == 0.0 ? QString() : Ecrire(date, u"dd/MM/yyyy"_s); }
 
-QString FormatHeure(TDateTime heure) { return EcrireHeure(heure, QStringLiteral("hh'h'mm")); }
+QString FormatHeure(TDateTime heure) { return EcrireHeure(heure, u"hh'h'mm"_s); }
 
-QString FormatHeureCourte(TDateTime heure) { return EcrireHeure(heure, QStringLiteral("hh:mm")); }
+QString FormatHeureCourte(TDateTime heure) { return EcrireHeure(heure, u"hh:mm"_s); }
 
-QString FormatDateLongue(TDateTime date) { return Ecrire(date, QStringLiteral("d MMMM yyyy")); }
+QString FormatDateLongue(TDateTime date) { return Ecrire(date, u"d MMMM yyyy"_s); }
 
-QString FormatJourLong(TDateTime date) { return Ecrire(date, QStringLiteral("dddd d MMMM yyyy")); }
+QString FormatJourLong(TDateTime date) { return Ecrire(date, u"dddd d MMMM yyyy"_s); }
 
-QString FormatJour(TDateTime date) { return Ecrire(date, QStringLiteral("dddd d MMMM")); }
+QString FormatJour(TDateTime date) { return Ecrire(date, u"dddd d MMMM"_s); }
 
 QString FormatDateSql(TDateTime date) {
-  QString texte = Ecrire(date, QStringLiteral("MM/dd/yyyy"));
-  texte.replace(u'\'', QStringLiteral("''"));
+  QString texte = Ecrire(date, u"MM/dd/yyyy"_s);
+  texte.replace(u'\'', u"''"_s);
   return u'\'' % texte % u'\'';
 }
 
-QString FormatDateCompacte(TDateTime date) { return Ecrire(date, QStringLiteral("yyyyMMdd")); }
+QString FormatDateCompacte(TDateTime date) { return Ecrire(date, u"yyyyMMdd"_s); }
 
 QString FormatMontant(Currency montant) {
   // Whole euros and cents apart: a floating-point number would move the half cents.

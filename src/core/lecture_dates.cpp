@@ -7,13 +7,15 @@
 #include "core/conversions.h"
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The digits at a fixed place. A field cut short is refused: "201609 1" is no day.
 int Champ(const QString& texte, qsizetype debut, qsizetype longueur) {
   const QString champ = texte.mid(debut, longueur);
   if (champ.size() != longueur || !EstChiffres(champ))
-    throw EConvertError(QStringLiteral("« %1 » n'est pas une date ou une heure.").arg(texte.left(60)));
+    throw EConvertError(u"« %1 » n'est pas une date ou une heure."_s.arg(texte.left(60)));
   return StrToInt(champ);
 }
 

@@ -1,5 +1,7 @@
 #include "core/ligne.h"
 
+using namespace Qt::StringLiterals;
+
 void TLigne::Poser(const char* colonne, const QVariant& valeur) {
   colonnes_.emplace_back(colonne);
   valeurs_.push_back(valeur);
@@ -7,7 +9,7 @@ void TLigne::Poser(const char* colonne, const QVariant& valeur) {
 
 void TLigne::Ecrire(const char* colonne, const QString& texte) {
   // A null QString would travel as NULL.
-  Poser(colonne, texte.isNull() ? QStringLiteral("") : texte);
+  Poser(colonne, texte.isNull() ? u""_s : texte);
 }
 
 // The driver takes decimals as doubles; ten-thousandths divided once are exact both ways.

@@ -3,6 +3,8 @@
 #include "core/conversions.h"
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template <class Conversion>
@@ -10,7 +12,7 @@ auto Convertir(const TParametres& parametres, int id, Conversion conversion) {
   try {
     return conversion(parametres.GetParametre(id));
   } catch (const EConvertError& e) {
-    throw EConvertError(QStringLiteral("Paramètre %1 : %2").arg(id).arg(e.Message));
+    throw EConvertError(u"Paramètre %1 : %2"_s.arg(id).arg(e.Message));
   }
 }
 
@@ -19,10 +21,10 @@ auto Convertir(const TParametres& parametres, int id, Conversion conversion) {
 TParametres::TParametres(TDataModule1& base) : TCollection(base) { Charger(); }
 
 void TParametres::DefineQuery() {
-  SelectSql = QStringLiteral("SELECT * FROM PARAMETRE");
-  TableName = QStringLiteral("PARAMETRE");
+  SelectSql = u"SELECT * FROM PARAMETRE"_s;
+  TableName = u"PARAMETRE"_s;
   KeyField = "PARAMETRE_ID";
-  CounterName = QStringLiteral("*");
+  CounterName = u"*"_s;
 }
 
 void TParametres::LoadItems(TCurseur& ligne) { Nouveau(ligne).Valeur = ligne.Texte("VALEUR"); }

@@ -4,12 +4,14 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QSettings Ouvrir(TRacine racine) {
   return QSettings(QSettings::NativeFormat,
-                   racine == TRacine::Machine ? QSettings::SystemScope : QSettings::UserScope,
-                   QStringLiteral("Tarnvale"), QStringLiteral("Orbelin"));
+                   racine == TRacine::Machine ? QSettings::SystemScope : QSettings::UserScope, u"Tarnvale"_s,
+                   u"Orbelin"_s);
 }
 
 QString Creer(const QString& dossier) {
@@ -37,17 +39,16 @@ bool TReglagesPoste::Ecrire(TRacine racine, const QString& nom, const QString& v
 bool TReglagesPoste::MachineInscriptible() const { return Ouvrir(TRacine::Machine).isWritable(); }
 
 QString DossierDonnees() {
-  return Creer(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-               QStringLiteral("/Calpenne"));
+  return Creer(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Calpenne"_s);
 }
 
 QString DossierPresences(const TReglagesPoste& reglages) {
-  const QString choisi = reglages.Lire(TRacine::Utilisateur, QStringLiteral("DossierPresences")).trimmed();
+  const QString choisi = reglages.Lire(TRacine::Utilisateur, u"DossierPresences"_s).trimmed();
   if (!choisi.isEmpty()) return Creer(choisi);
 #ifdef Q_OS_WIN
-  return Creer(QStringLiteral("C:/Presences"));
+  return Creer(u"C:/Presences"_s);
 #else
-  return Creer(DossierDonnees() + QStringLiteral("/Presences"));
+  return Creer(DossierDonnees() + u"/Presences"_s);
 #endif
 }
 

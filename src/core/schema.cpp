@@ -4,8 +4,10 @@
 
 #include "core/curseur.h"
 
+using namespace Qt::StringLiterals;
+
 QString ScriptTablesDeBase() {
-  return QStringLiteral(R"sql(
+  return uR"sql(
 CREATE TABLE COUNTERS (TABLE_NAME VARCHAR(60) CONSTRAINT PK_COUNTERS PRIMARY KEY NOT NULL, VALEUR INTEGER);
 CREATE TABLE COMPTEUR_FONCTIONEL (
   TABLE_NAME VARCHAR(60) CONSTRAINT PK_COMPTEUR_FONCTIONEL PRIMARY KEY NOT NULL, VALEUR INTEGER);
@@ -27,7 +29,7 @@ CREATE TABLE PRESENCES_PARTICULIERES (
 CREATE TABLE PAIEMENTS (
   PAIEMENT_ID INTEGER CONSTRAINT PK_PAIEMENTS PRIMARY KEY NOT NULL, ELEVE_ID INTEGER NOT NULL,
   TYPE_PAIEMENT INTEGER, MOIS INTEGER, ANNEE INTEGER, MONTANT DECIMAL(10,4));
-)sql");
+)sql"_s;
 }
 
 QStringList Instructions(const QString& script) {
@@ -63,23 +65,23 @@ QStringList ElementsAttendus(const QString& script) {
     if (const auto lu = colonne.match(instruction); lu.hasMatch())
       elements += lu.captured(1).toUpper() + u'.' + lu.captured(2).toUpper();
     if (const auto lu = compteur.match(instruction); lu.hasMatch())
-      elements += QStringLiteral("compteur ") + lu.captured(1).toUpper();
+      elements += u"compteur "_s + lu.captured(1).toUpper();
   }
   return elements;
 }
 
 QStringList ElementsDuSchema(TDataModule1& base) {
   QStringList elements;
-  TCurseur colonnes(
-      base, QStringLiteral("SELECT RDB$RELATION_NAME AS T, RDB$FIELD_NAME AS C FROM RDB$RELATION_FIELDS "
-                           "WHERE RDB$SYSTEM_FLAG = 0 ORDER BY 1"));
+  TCurseur colonnes(base,
+                    u"SELECT RDB$RELATION_NAME AS T, RDB$FIELD_NAME AS C FROM RDB$RELATION_FIELDS "
+                    "WHERE RDB$SYSTEM_FLAG = 0 ORDER BY 1"_s);
   while (colonnes.Suivant()) {
     const QString table = colonnes.Texte("T");
     if (!elements.contains(table)) elements += table;
     elements += table + u'.' + colonnes.Texte("C");
   }
-  if (!elements.contains(QStringLiteral("COUNTERS"))) return elements;
-  TCurseur compteurs(base, QStringLiteral("SELECT TABLE_NAME FROM COUNTERS"));
-  while (compteurs.Suivant()) elements += QStringLiteral("compteur ") + compteurs.Texte("TABLE_NAME");
+  if (!elements.contains(u"COUNTERS"_s)) return elements;
+  TCurseur compteurs(base, u"SELECT TABLE_NAME FROM COUNTERS"_s);
+  while (compteurs.Suivant()) elements += u"compteur "_s + compteurs.Texte("TABLE_NAME");
   return elements;
 }

@@ -6,6 +6,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 kTailleMaximum = 64LL * 1024 * 1024;
@@ -71,27 +73,25 @@ QString TexteDepuisOctets(const QByteArray& octets) {
 
 TTexteSepare TTexteSepare::Lire(const QString& chemin) {
   const QFileInfo infos(chemin);
-  if (!infos.exists()) throw Exception(QStringLiteral("Le fichier « %1 » n'existe pas.").arg(chemin));
-  if (infos.isDir()) throw Exception(QStringLiteral("« %1 » est un dossier et non un fichier.").arg(chemin));
-  if (!infos.isFile()) throw Exception(QStringLiteral("« %1 » n'est pas un fichier ordinaire.").arg(chemin));
+  if (!infos.exists()) throw Exception(u"Le fichier « %1 » n'existe pas."_s.arg(chemin));
+  if (infos.isDir()) throw Exception(u"« %1 » est un dossier et non un fichier."_s.arg(chemin));
+  if (!infos.isFile()) throw Exception(u"« %1 » n'est pas un fichier ordinaire."_s.arg(chemin));
   if (infos.size() > kTailleMaximum)
-    throw Exception(QStringLiteral("Le fichier « %1 » est trop grand (plus de 64 Mo) : ce n'est pas le bon "
-                                   "fichier.")
-                        .arg(chemin));
+    throw Exception(
+        u"Le fichier « %1 » est trop grand (plus de 64 Mo) : ce n'est pas le bon "
+        "fichier."_s.arg(chemin));
   QFile fichier(chemin);
   QByteArray octets;
   if (fichier.open(QIODevice::ReadOnly)) octets = fichier.readAll();
   if (fichier.error() != QFileDevice::NoError)  // half a file would pass for a whole one
-    throw Exception(
-        QStringLiteral("Le fichier « %1 » ne peut pas être lu : %2").arg(chemin, fichier.errorString()));
+    throw Exception(u"Le fichier « %1 » ne peut pas être lu : %2"_s.arg(chemin, fichier.errorString()));
   return Depuis(octets, chemin);
 }
 
 TTexteSepare TTexteSepare::Depuis(const QByteArray& octets, const QString& nom) {
-  if (octets.contains('\0'))
-    throw Exception(QStringLiteral("Le fichier « %1 » n'est pas un fichier de texte.").arg(nom));
+  if (octets.contains('\0')) throw Exception(u"Le fichier « %1 » n'est pas un fichier de texte."_s.arg(nom));
   QString texte = TexteDepuisOctets(octets);
-  texte.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  texte.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
   TTexteSepare resultat;
   qsizetype debut = 0;
   while (debut < texte.size()) {

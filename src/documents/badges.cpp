@@ -4,10 +4,12 @@
 #include "documents/sections.h"
 #include "pupils/eleve.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TResultat Badges(const QString& modele, const TContexteDocument& contexte, const TDemandeDocument& demande) {
-  TRapport rapport(QStringLiteral("Badge d'identification"), modele);
+  TRapport rapport(u"Badge d'identification"_s, modele);
   TArbreRapport arbre;
   for (const TEleve* eleve : SansRadies(demande.Eleves)) {
     TNoeudRapport& noeud = arbre.emplace_back(NoeudEleve(*eleve));
@@ -20,9 +22,9 @@ TResultat Badges(const QString& modele, const TContexteDocument& contexte, const
 }  // namespace
 
 TResultat Badge(const TContexteDocument& contexte, const TDemandeDocument& demande) {
-  return Badges(QStringLiteral("Badge"), contexte, demande);
+  return Badges(u"Badge"_s, contexte, demande);
 }
 
 TResultat Xerox(const TContexteDocument& contexte, const TDemandeDocument& demande) {
-  return Badges(QStringLiteral("Xerox"), contexte, demande);
+  return Badges(u"Xerox"_s, contexte, demande);
 }

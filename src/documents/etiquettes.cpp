@@ -6,6 +6,8 @@
 #include "core/dialogues.h"
 #include "pupils/eleve.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TRegleModele {
@@ -33,14 +35,14 @@ TResultat Echouer(const QString& message) {
 
 TResultat SansMoteur() {
   return Echouer(
-      QStringLiteral("Impossible d'initialiser les pilotes d'impression. Veuillez vérifier l'installation de "
-                     "votre imprimante Dymo."));
+      u"Impossible d'initialiser les pilotes d'impression. Veuillez vérifier l'installation de "
+      "votre imprimante Dymo."_s);
 }
 
 /// "device on port"; a name without port is all device.
 struct TImprimante {
   explicit TImprimante(const QString& nom) {
-    const QString separateur = QStringLiteral(" on ");
+    const QString separateur = u" on "_s;
     const qsizetype ici = nom.indexOf(separateur);
     Appareil = ici < 0 ? nom : nom.left(ici);
     if (ici >= 0) Port = nom.mid(ici + separateur.size());
@@ -74,12 +76,12 @@ QStringList TEtiquettes::ImprimerUne(const TEleve& eleve) {
     if (IObjetEtiquette* trouve = moteur_->TrouverObjet(objet))
       (trouve->*operation)(texte);
     else
-      messages += QStringLiteral("Le modèle d'étiquette de contient pas de champs \"%1\".").arg(objet);
+      messages += u"Le modèle d'étiquette de contient pas de champs \"%1\"."_s.arg(objet);
   };
-  remplir(QStringLiteral("NomEleve"), &IObjetEtiquette::EcrireTexte, eleve.NomComplet());
+  remplir(u"NomEleve"_s, &IObjetEtiquette::EcrireTexte, eleve.NomComplet());
   // That object shows the class, whatever its name says.
-  remplir(QStringLiteral("NomEcole"), &IObjetEtiquette::EcrireTexte, eleve.LibelleClasse());
-  remplir(QStringLiteral("CodeBarre"), &IObjetEtiquette::EcrireCodeBarres, eleve.Matricule);
+  remplir(u"NomEcole"_s, &IObjetEtiquette::EcrireTexte, eleve.LibelleClasse());
+  remplir(u"CodeBarre"_s, &IObjetEtiquette::EcrireCodeBarres, eleve.Matricule);
   const TImprimante imprimante(poste_.Imprimante ? poste_.Imprimante() : QString());
   moteur_->Imprimer(imprimante.Appareil, imprimante.Port, 1);
   return messages;

@@ -11,6 +11,8 @@
 #include "pupils/eleve.h"
 #include "services/frais_eleve.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One pupil's invoice in the making.
@@ -39,11 +41,10 @@ class TFactureEleve {
   const TEleve& eleve_;
   const TPeriodeDocument& periode_;
   const bool balanceAnnuelle_;
-  TSection obligatoires_{QStringLiteral("Frais Obligatoire"), QStringLiteral("Frais obligatoires")};
-  TSection nonObligatoires_{QStringLiteral("Frais Non Obligatoire"),
-                            QStringLiteral("Frais non obligatoires")};
-  TSection services_{QStringLiteral("Services"), QStringLiteral("Services")};
-  TSection rappel_{QStringLiteral("Rappel"), QStringLiteral("Rappel")};
+  TSection obligatoires_{u"Frais Obligatoire"_s, u"Frais obligatoires"_s};
+  TSection nonObligatoires_{u"Frais Non Obligatoire"_s, u"Frais non obligatoires"_s};
+  TSection services_{u"Services"_s, u"Services"_s};
+  TSection rappel_{u"Rappel"_s, u"Rappel"_s};
 };
 
 std::optional<TNoeudRapport> TFactureEleve::Faire(const QString& datePaiement, IDialogues& dialogues) {
@@ -108,13 +109,12 @@ void TFactureEleve::AjouterArrieres() {
 
   const QString annee = QString::number(periode_.Annee);
   const QString jusque = FormatDateLongue(avant.Dernier);
-  rappel_.Noeud.Valeurs.Ecrire(u"TypeFrais", QStringLiteral("Arriérés"));
-  rappel_.Montrer(QStringLiteral("Total des factures"),
+  rappel_.Noeud.Valeurs.Ecrire(u"TypeFrais", u"Arriérés"_s);
+  rappel_.Montrer(u"Total des factures"_s,
                   u"Total des factures émises du 1 septembre " % annee % u" au " % jusque,
                   FormatDeuxDecimales(factures.Absolu()));
   // The second "au" belongs to the wording that the parents know.
-  rappel_.Montrer(QStringLiteral("Total payé"),
-                  u"Total des paiements reçus du 1 septembre au " % annee % u" au " % jusque,
+  rappel_.Montrer(u"Total payé"_s, u"Total des paiements reçus du 1 septembre au " % annee % u" au " % jusque,
                   u'-' % FormatDeuxDecimales(paiements.Absolu()));
 }
 
@@ -149,16 +149,16 @@ QString TFactureEleve::Communication(const QString& datePaiement, IDialogues& di
   if (const int mois = periode_.MoisFacture())
     structuree = CommunicationServices(dialogues, eleve_.Id, mois, periode_.Annee);
   QString communication = contexte_.Parametres.GetParametre(10);
-  communication.replace(QStringLiteral("[ComStructParFacture]"), structuree);
-  if (!datePaiement.isEmpty()) communication.replace(QStringLiteral("[DatePaiementFacture]"), datePaiement);
+  communication.replace(u"[ComStructParFacture]"_s, structuree);
+  if (!datePaiement.isEmpty()) communication.replace(u"[DatePaiementFacture]"_s, datePaiement);
   return communication;
 }
 
 }  // namespace
 
 TResultat FactureFraisEffectifs(const TContexteDocument& contexte, const TDemandeDocument& demande) {
-  TRapport rapport(QStringLiteral("Relevé des frais effectifs"), QStringLiteral("Facture"));
-  rapport.NomUsuel = QStringLiteral("Facture");  // another document is called what its title says
+  TRapport rapport(u"Relevé des frais effectifs"_s, u"Facture"_s);
+  rapport.NomUsuel = u"Facture"_s;  // another document is called what its title says
   rapport.EffacerVariables();
   const QString date = demande.DatePaiement ? FormatJourLong(*demande.DatePaiement) : QString();
   TRecueilMessages recueil;
@@ -174,6 +174,6 @@ TResultat FactureFraisEffectifs(const TContexteDocument& contexte, const TDemand
   TResultat resultat;
   resultat.Messages = recueil.Messages;
   resultat.Ajouter(Presenter(std::move(rapport), std::move(arbre),
-                             QStringLiteral("Aucune facture n'est à établir pour la période choisie.")));
+                             u"Aucune facture n'est à établir pour la période choisie."_s));
   return resultat;
 }

@@ -1,21 +1,23 @@
 #include "documents/libelles_services.h"
 
+using namespace Qt::StringLiterals;
+
 QString LibelleFacture(TService service, const TContexteDocument& contexte) {
   switch (service) {
     case TService::Matin:
-      return QStringLiteral("Garderies du matin");
+      return u"Garderies du matin"_s;
     case TService::Midi:
-      return QStringLiteral("Garderies du midi");
+      return u"Garderies du midi"_s;
     case TService::Soir:
       return contexte.TitreGarderieSoir;
     case TService::Mercredi:
-      return QStringLiteral("Garderies du mercredi");
+      return u"Garderies du mercredi"_s;
     case TService::Etude:
-      return QStringLiteral("Etudes");
+      return u"Etudes"_s;
     case TService::Repas:
-      return QStringLiteral("Repas chaud");
+      return u"Repas chaud"_s;
     case TService::Soupe:
-      return QStringLiteral("Soupes");
+      return u"Soupes"_s;
   }
   return {};
 }

@@ -3,10 +3,12 @@
 #include "core/parametres.h"
 #include "pupils/eleve.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TResultat Lister(const QString& modele, const TContexteDocument& contexte, const TDemandeDocument& demande) {
-  TRapport rapport(QStringLiteral("Liste des élèves"), modele);
+  TRapport rapport(u"Liste des élèves"_s, modele);
   TArbreRapport arbre;
   const TEleve* precedent = nullptr;
   for (const TEleve* eleve : SansRadies(demande.Eleves)) {
@@ -27,9 +29,9 @@ TResultat Lister(const QString& modele, const TContexteDocument& contexte, const
 }  // namespace
 
 TResultat ListeCodesBarres(const TContexteDocument& contexte, const TDemandeDocument& demande) {
-  return Lister(QStringLiteral("ListeEleveCodeBarre"), contexte, demande);
+  return Lister(u"ListeEleveCodeBarre"_s, contexte, demande);
 }
 
 TResultat ListeCodesBarresLarge(const TContexteDocument& contexte, const TDemandeDocument& demande) {
-  return Lister(QStringLiteral("ListeEleveCodeBarreLarge"), contexte, demande);
+  return Lister(u"ListeEleveCodeBarreLarge"_s, contexte, demande);
 }

@@ -2,6 +2,8 @@
 
 #include "core/formats.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TTextesMois {
@@ -48,6 +50,6 @@ QString TPeriodeDocument::PeriodeTexte() const {
     return TexteDuMois(mois) % u' ' % QString::number(annee);
   }
   if (EstAnneeComplete(Annee, DateDebut, DateFin))
-    return QStringLiteral("de l'année scolaire %1 - %2").arg(Annee).arg(Annee + 1);
+    return u"de l'année scolaire %1 - %2"_s.arg(Annee).arg(Annee + 1);
   return u"du " % FormatDateLongue(DateDebut) % u" au " % FormatDateLongue(DateFin);
 }

@@ -7,6 +7,8 @@
 #include "documents/sections.h"
 #include "pupils/eleves.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A section of the statement, and how the hours of its lines are found.
@@ -45,7 +47,7 @@ TNoeudRapport NoeudRubrique(const TEleve& eleve, const TRubrique& rubrique, cons
   const QString titre = QString::fromUtf16(rubrique.Titre);
   TNoeudRapport section(titre);
   section.Valeurs.Ecrire(u"TypeFrais", titre);
-  if (rubrique.Heures == Sans) section.Valeurs.Ecrire(u"HideHeure", QStringLiteral("1"));
+  if (rubrique.Heures == Sans) section.Valeurs.Ecrire(u"HideHeure", u"1"_s);
   TLignesService lignes;
   eleve.CoutService(rubrique.Service, periode, lignes);
   for (const TLigneService& ligne : lignes) {
@@ -62,8 +64,8 @@ TNoeudRapport NoeudRubrique(const TEleve& eleve, const TRubrique& rubrique, cons
 TResultat Relever(const TContexteDocument& contexte, const TElevesChoisis& eleves,
                   const TPeriodeDocument& periode, const QString& siVide) {
   const bool compact = contexte.Parametres.EstVrai(107) && !contexte.Parametres.EstVrai(110);
-  TRapport rapport(QStringLiteral("Relevé détaillé des services"),
-                   compact ? QStringLiteral("DetailServiceVesper") : QStringLiteral("DetailService"));
+  TRapport rapport(u"Relevé détaillé des services"_s,
+                   compact ? u"DetailServiceVesper"_s : u"DetailService"_s);
   rapport.EffacerVariables();
   TArbreRapport arbre;
   for (const TEleve* eleve : eleves) {
@@ -84,11 +86,10 @@ TResultat Relever(const TContexteDocument& contexte, const TElevesChoisis& eleve
 TResultat ReleveDetaille(const TContexteDocument& contexte, const TDemandeDocument& demande) {
   if (demande.Eleves.empty()) {
     TResultat resultat;
-    resultat.Messages += QStringLiteral("Veuillez sélectionner des élèves dans la liste.");
+    resultat.Messages += u"Veuillez sélectionner des élèves dans la liste."_s;
     return resultat;
   }
-  return Relever(contexte, SansRadies(demande.Eleves), demande.Periode,
-                 QStringLiteral("Aucun relevé à imprimer."));
+  return Relever(contexte, SansRadies(demande.Eleves), demande.Periode, u"Aucun relevé à imprimer."_s);
 }
 
 TResultat DetailApresFacture(const TContexteDocument& contexte, const TDemandeDocument& demande) {

@@ -2,6 +2,8 @@
 
 #include "report/json.h"
 
+using namespace Qt::StringLiterals;
+
 void TResultat::Ajouter(TResultat suite) {
   Messages += suite.Messages;
   std::ranges::move(suite.Rapports, std::back_inserter(Rapports));
@@ -32,7 +34,7 @@ TResultat PresenterMemeVide(TRapport rapport, TArbreRapport arbre) {
 
 TResultat PasEncore(const QString& document) {
   TResultat resultat;
-  resultat.Messages += QStringLiteral("Le document « %1 » n'est pas encore disponible.").arg(document);
+  resultat.Messages += u"Le document « %1 » n'est pas encore disponible."_s.arg(document);
   resultat.Echec = true;
   return resultat;
 }

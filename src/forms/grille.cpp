@@ -8,6 +8,8 @@
 #include "core/formats.h"
 #include "core/lecture_dates.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The number in a text such as "-1 234,50 €"; the lowest of all when there is none.
@@ -192,7 +194,7 @@ int TGrille::Comparer(int a, int b, int colonne) const {
 
 int TGrille::ColonneEtat() const {
   if (Etats.empty()) return -1;
-  const auto colonne = std::ranges::find(colonnes_, QStringLiteral("État"), &TColonneGrille::Titre);
+  const auto colonne = std::ranges::find(colonnes_, u"État"_s, &TColonneGrille::Titre);
   return colonne == colonnes_.end() ? -1 : static_cast<int>(colonne - colonnes_.begin());
 }
 

@@ -4,6 +4,8 @@
 
 #include "core/chaines.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kPremierIdentifiantTropGrand = 100000;
@@ -23,8 +25,7 @@ QString Presenter(std::int64_t dixChiffres) {
 bool Codable(IDialogues& dialogues, int eleveId) {
   if (eleveId < 1) return false;  // not stored yet
   if (eleveId < kPremierIdentifiantTropGrand) return true;
-  dialogues.Message(
-      QStringLiteral("L'identifiant élève est trop grand pour générer une communication structurée !"));
+  dialogues.Message(u"L'identifiant élève est trop grand pour générer une communication structurée !"_s);
   return false;
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// How often a pupil may have a payment of a type.
@@ -23,9 +25,9 @@ TPaiements::TPaiements(TDataModule1& base, int annee) : TCollection(base), Annee
 
 void TPaiements::DefineQuery() {
   SelectSql = u"SELECT * FROM PAIEMENTS WHERE ANNEE_SCOLAIRE =" % QString::number(AnneeScolaire);
-  TableName = QStringLiteral("PAIEMENTS");
+  TableName = u"PAIEMENTS"_s;
   KeyField = "PAIEMENT_ID";
-  CounterName = QStringLiteral("PAIEMENTS");
+  CounterName = u"PAIEMENTS"_s;
 }
 
 void TPaiements::LoadItems(TCurseur& ligne) {

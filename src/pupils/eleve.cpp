@@ -10,11 +10,13 @@
 #include "pupils/photo.h"
 #include "services/frais_eleve.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize kVignette(95, 110);
 
-QString SelectPhoto() { return QStringLiteral("SELECT * FROM ELEVE_PHOTO WHERE ELEVE_ID = ?"); }
+QString SelectPhoto() { return u"SELECT * FROM ELEVE_PHOTO WHERE ELEVE_ID = ?"_s; }
 
 }  // namespace
 
@@ -30,8 +32,7 @@ QString TEleve::LibelleImplantation() const {
 }
 
 TDataModule1& TEleve::Base() const {
-  if (Eleves == nullptr || Id == -1)
-    throw Exception(QStringLiteral("Cet élève n'est pas encore enregistré."));
+  if (Eleves == nullptr || Id == -1) throw Exception(u"Cet élève n'est pas encore enregistré."_s);
   return Eleves->BaseDeDonnees();
 }
 
@@ -45,8 +46,8 @@ std::optional<QByteArray> TEleve::OctetsPhoto() const {
   if (Eleves == nullptr || Id == -1) return std::nullopt;
   if (Eleves->HorsLigne) {
     TDataSet* photos = Eleves->SourcePhotos;
-    if (photos == nullptr || !photos->Localiser(QStringLiteral("ELEVE_ID"), Id)) return std::nullopt;
-    return photos->Valeur(QStringLiteral("PHOTO")).toByteArray();
+    if (photos == nullptr || !photos->Localiser(u"ELEVE_ID"_s, Id)) return std::nullopt;
+    return photos->Valeur(u"PHOTO"_s).toByteArray();
   }
   TCurseur ligne(Base(), SelectPhoto(), {Id});
   if (!ligne.Suivant()) return std::nullopt;
@@ -73,18 +74,16 @@ void TEleve::SetPhoto(const QImage& image) {
     TCurseur ligne(base, SelectPhoto(), {Id});
     if (ligne.Suivant()) cle = ligne.Entier("ELEVE_PHOTO_ID");
   }
-  QString sql =
-      QStringLiteral("UPDATE ELEVE_PHOTO SET ELEVE_ID = :ELEVE, PHOTO = :PHOTO WHERE ELEVE_PHOTO_ID = :CLE");
+  QString sql = u"UPDATE ELEVE_PHOTO SET ELEVE_ID = :ELEVE, PHOTO = :PHOTO WHERE ELEVE_PHOTO_ID = :CLE"_s;
   if (cle == 0) {
-    sql = QStringLiteral(
-        "INSERT INTO ELEVE_PHOTO (ELEVE_PHOTO_ID, ELEVE_ID, PHOTO) VALUES (:CLE, :ELEVE, :PHOTO)");
-    cle = base.GetNextId(QStringLiteral("ELEVE_PHOTO"));
+    sql = u"INSERT INTO ELEVE_PHOTO (ELEVE_PHOTO_ID, ELEVE_ID, PHOTO) VALUES (:CLE, :ELEVE, :PHOTO)"_s;
+    cle = base.GetNextId(u"ELEVE_PHOTO"_s);
     if (cle == -1) return;  // the user has been told
   }
   TQueryInternal(base, sql)
-      .Parametre(QStringLiteral("CLE"), cle)
-      .Parametre(QStringLiteral("ELEVE"), Id)
-      .Parametre(QStringLiteral("PHOTO"), octets)
+      .Parametre(u"CLE"_s, cle)
+      .Parametre(u"ELEVE"_s, Id)
+      .Parametre(u"PHOTO"_s, octets)
       .Executer();
   photo_.reset();
 }
@@ -104,7 +103,7 @@ int TEleve::GetNumAttestation() {
     if (ligne.Suivant()) NumAttestation = ligne.Entier("NUM_ATTEST_2015");
   }
   if (NumAttestation != 0) return NumAttestation;
-  const int numero = NextId(base, QStringLiteral("VIRTUAL_ATTESTATION_2015"));
+  const int numero = NextId(base, u"VIRTUAL_ATTESTATION_2015"_s);
   if (numero == -1) return 0;
   TQueryInternal(base, u"UPDATE ELEVES SET NUM_ATTEST_2015 = " % QString::number(numero) % cet).Executer();
   NumAttestation = numero;

@@ -8,6 +8,8 @@
 #include "core/query_internal.h"
 #include "services/frais_eleve.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The lines of the whole year are read as fast as those of so many pupils, one by one.
@@ -72,15 +74,15 @@ TEleves::TEleves(int annee, TDataSet& inscriptions, TDataSet& eleves)
 
 void TEleves::DefineQuery() {
   if (AnneeScolaire == 0)
-    SelectSql = QStringLiteral("SELECT * FROM ELEVES ORDER BY NOM, PRENOM");
+    SelectSql = u"SELECT * FROM ELEVES ORDER BY NOM, PRENOM"_s;
   else
     SelectSql = u"SELECT * FROM ELEVES, ELEVES_CLASSES WHERE ANNEE_SCOLAIRE=" %
                 QString::number(AnneeScolaire) %
                 u" AND ELEVES.ELEVE_ID=ELEVES_CLASSES.ELEVE_ID ORDER BY CODE_IMPLANTATION, "
                 u"ELEVES_CLASSES.CLASSE, ELEVES_CLASSES.SOUS_CLASSE, NOM, PRENOM";
-  TableName = QStringLiteral("ELEVES");
+  TableName = u"ELEVES"_s;
   KeyField = "ELEVE_ID";
-  CounterName = QStringLiteral("ELEVES");
+  CounterName = u"ELEVES"_s;
 }
 
 void TEleves::LoadItems(TCurseur& ligne) {
@@ -96,10 +98,10 @@ void TEleves::LoadItems(TCurseur& ligne) {
 
 void TEleves::LoadFromSource(TDataSet& source) {
   auto eleve = std::make_unique<TEleve>();
-  eleve->Id = source.Valeur(QStringLiteral("ELEVE_ID")).toInt();
-  eleve->Nom = source.Valeur(QStringLiteral("NOM")).toString();
-  eleve->Prenom = source.Valeur(QStringLiteral("PRENOM")).toString();
-  eleve->Matricule = source.Valeur(QStringLiteral("MATRICULE")).toString();
+  eleve->Id = source.Valeur(u"ELEVE_ID"_s).toInt();
+  eleve->Nom = source.Valeur(u"NOM"_s).toString();
+  eleve->Prenom = source.Valeur(u"PRENOM"_s).toString();
+  eleve->Matricule = source.Valeur(u"MATRICULE"_s).toString();
   Classer(static_cast<TEleve&>(Charge(std::move(eleve))));
 }
 
@@ -188,8 +190,7 @@ QString TEleves::LibelleImplantation(const QString& code) const {
 int TEleves::ExtraitVersEleve(int extraitId) {
   if (ChargerExtraits) {
     eleveParExtrait_.clear();
-    TCurseur ligne(BaseDeDonnees(),
-                   QStringLiteral("SELECT ELEVE_ID, EXTRAIT_ID FROM FRAIS_ELEVE WHERE EXTRAIT_ID>0"));
+    TCurseur ligne(BaseDeDonnees(), u"SELECT ELEVE_ID, EXTRAIT_ID FROM FRAIS_ELEVE WHERE EXTRAIT_ID>0"_s);
     while (ligne.Suivant()) {
       const int eleveId = ligne.Entier("ELEVE_ID");
       eleveParExtrait_.emplace(ligne.Entier("EXTRAIT_ID"), eleveId);  // the first row wins
@@ -234,7 +235,6 @@ void TEleves::DeplacerTicket(int ancienEleveId, int nouvelEleveId, int ticketId)
 
 TDataModule1& TEleves::BaseDeDonnees() const {
   if (HorsLigne)
-    throw Exception(
-        QStringLiteral("Cette opération demande la base de données : elle ne se fait pas hors ligne."));
+    throw Exception(u"Cette opération demande la base de données : elle ne se fait pas hors ligne."_s);
   return Base();
 }

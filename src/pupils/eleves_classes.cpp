@@ -2,6 +2,8 @@
 
 #include "core/data_set.h"
 
+using namespace Qt::StringLiterals;
+
 TElevesClasses::TElevesClasses(TDataModule1& base, int annee) : TCollection(base), AnneeScolaire(annee) {
   Charger();
 }
@@ -11,11 +13,11 @@ TElevesClasses::TElevesClasses(TDataSet& source, int annee) : TCollection(source
 }
 
 void TElevesClasses::DefineQuery() {
-  SelectSql = QStringLiteral("SELECT * FROM ELEVES_CLASSES");
+  SelectSql = u"SELECT * FROM ELEVES_CLASSES"_s;
   if (AnneeScolaire != 0) SelectSql += u" WHERE ANNEE_SCOLAIRE=" % QString::number(AnneeScolaire);
-  TableName = QStringLiteral("ELEVES_CLASSES");
+  TableName = u"ELEVES_CLASSES"_s;
   KeyField = "ELEVE_CLASSE_ID";
-  CounterName = QStringLiteral("ELEVES_CLASSES");
+  CounterName = u"ELEVES_CLASSES"_s;
 }
 
 void TElevesClasses::LoadItems(TCurseur& ligne) {
@@ -29,9 +31,9 @@ void TElevesClasses::LoadItems(TCurseur& ligne) {
 
 void TElevesClasses::LoadFromSource(TDataSet& source) {
   auto inscription = std::make_unique<TEleveClasse>();
-  inscription->EleveId = source.Valeur(QStringLiteral("ELEVE_ID")).toInt();
-  inscription->Classe = source.Valeur(QStringLiteral("CLASSE")).toString();
-  inscription->SousClasse = source.Valeur(QStringLiteral("SOUS_CLASSE")).toString();
+  inscription->EleveId = source.Valeur(u"ELEVE_ID"_s).toInt();
+  inscription->Classe = source.Valeur(u"CLASSE"_s).toString();
+  inscription->SousClasse = source.Valeur(u"SOUS_CLASSE"_s).toString();
   Charge(std::move(inscription));
 }
 

@@ -1,14 +1,16 @@
 #include "pupils/implantations.h"
 
+using namespace Qt::StringLiterals;
+
 QString TImplantation::AdresseComplete() const { return Adresse % u" - " % CodePostal % u' ' % Localite; }
 
 TImplantations::TImplantations(TDataModule1& base) : TCollection(base) { Charger(); }
 
 void TImplantations::DefineQuery() {
-  SelectSql = QStringLiteral("SELECT * FROM IMPLANTATION ORDER BY CODE_IMPLANTATION");
-  TableName = QStringLiteral("IMPLANTATION");
+  SelectSql = u"SELECT * FROM IMPLANTATION ORDER BY CODE_IMPLANTATION"_s;
+  TableName = u"IMPLANTATION"_s;
   KeyField = "IMPLANTATION_ID";
-  CounterName = QStringLiteral("IMPLANTATION");
+  CounterName = u"IMPLANTATION"_s;
 }
 
 namespace {
@@ -48,7 +50,7 @@ TImplantation* TImplantations::TrouverParCode(const QString& code, const TImplan
 bool TImplantations::Admise(const TImplantation& implantation) const {
   if (implantation.Code.isEmpty()) return false;
   if (TrouverParCode(implantation.Code, &implantation) != nullptr)
-    throw EImplantationExist(QStringLiteral("Un objet avec un code identique existe déjà dans le système"));
+    throw EImplantationExist(u"Un objet avec un code identique existe déjà dans le système"_s);
   return true;
 }
 

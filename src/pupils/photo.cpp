@@ -10,6 +10,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 kPixelsMax = 50'000'000;
@@ -125,12 +127,12 @@ class TEcrivainJpeg {
 };
 
 [[noreturn]] void Abimee() {
-  throw Exception(QStringLiteral("La photo enregistrée est abîmée et ne peut pas être affichée."));
+  throw Exception(u"La photo enregistrée est abîmée et ne peut pas être affichée."_s);
 }
 
 void RefuserTropGrande(qint64 largeur, qint64 hauteur) {
   if (largeur * hauteur > kPixelsMax)
-    throw Exception(QStringLiteral("La photo est trop grande (%1 x %2 points).").arg(largeur).arg(hauteur));
+    throw Exception(u"La photo est trop grande (%1 x %2 points)."_s.arg(largeur).arg(hauteur));
 }
 
 }  // namespace
@@ -151,6 +153,6 @@ QByteArray EncoderJpeg(const QImage& image) {
   TEcrivainJpeg ecrivain;
   if (pixels.isNull() ||
       !ecrivain.Ecrire(pixels.constBits(), pixels.width(), pixels.height(), pixels.bytesPerLine()))
-    throw Exception(QStringLiteral("Cette image ne peut pas être enregistrée comme photo."));
+    throw Exception(u"Cette image ne peut pas être enregistrée comme photo."_s);
   return ecrivain.Octets();
 }

@@ -4,6 +4,8 @@
 #include "forms/grille.h"
 #include "report/json.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QStringView kNomsDuMoteur[] = {u"DATE",    u"TIME",     u"LINE#", u"LINETHROUGH#",
@@ -20,7 +22,7 @@ bool EstDuMoteur(QStringView nom) {
   return std::ranges::any_of(kNomsDuMoteur, [nom](QStringView sien) { return MemeNom(nom, sien); });
 }
 
-QString NomColonne(int colonne) { return QStringLiteral("COL") % QString::number(colonne); }
+QString NomColonne(int colonne) { return u"COL"_s % QString::number(colonne); }
 
 void EcrireValeurs(QByteArray& json, const TValeurs& valeurs) {
   json += '{';
@@ -69,8 +71,7 @@ template <class TCellule>
 void TRapport::ChargerColonnes(const TGrille& grille, TCellule cellule) {
   const int colonnes = grille.NombreColonnes();
   if (colonnes > kColonnesMax)
-    throw Exception(
-        QStringLiteral("Une liste de plus de %1 colonnes ne peut pas être imprimée.").arg(kColonnesMax));
+    throw Exception(u"Une liste de plus de %1 colonnes ne peut pas être imprimée."_s.arg(kColonnesMax));
   modeColonnes_ = true;
   nombreColonnes_ = colonnes;
   largeursColonnes_.fill(0);
@@ -95,7 +96,7 @@ void TRapport::ChargerColonnesListe(const TGrille& liste) {
 }
 
 void TRapport::ChargerColonnesGrille(const TGrille& grille, int colonneCachee) {
-  ChargerColonnes(grille, [](const QString& texte) { return texte.isEmpty() ? QStringLiteral(" ") : texte; });
+  ChargerColonnes(grille, [](const QString& texte) { return texte.isEmpty() ? u" "_s : texte; });
   if (colonneCachee <= 0) return;
   --nombreColonnes_;
   largeursColonnes_.at(static_cast<std::size_t>(colonneCachee)) = 0;

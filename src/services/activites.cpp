@@ -1,5 +1,7 @@
 #include "services/activites.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array<const char*, 5> kColonnesJours{"FLG_LUNDI", "FLG_MARDI", "FLG_MERCREDI", "FLG_JEUDI",
@@ -11,9 +13,9 @@ TActivites::TActivites(TDataModule1& base, int annee) : TCollection(base), annee
 
 void TActivites::DefineQuery() {
   SelectSql = u"SELECT * FROM ACTIVITES WHERE ANNEE_SCOLAIRE = " % QString::number(annee_);
-  TableName = QStringLiteral("ACTIVITES");
+  TableName = u"ACTIVITES"_s;
   KeyField = "ACTIVITE_ID";
-  CounterName = QStringLiteral("ACTIVITES");
+  CounterName = u"ACTIVITES"_s;
 }
 
 void TActivites::LoadItems(TCurseur& ligne) {
@@ -51,10 +53,10 @@ TActivitesEleves::TActivitesEleves(TDataModule1& base, const TActivites& activit
 }
 
 void TActivitesEleves::DefineQuery() {
-  SelectSql = QStringLiteral("SELECT * FROM ACTIVITES_ELEVES");
-  TableName = QStringLiteral("ACTIVITES_ELEVES");
+  SelectSql = u"SELECT * FROM ACTIVITES_ELEVES"_s;
+  TableName = u"ACTIVITES_ELEVES"_s;
   KeyField = "ACTIVITE_ELEVE_ID";
-  CounterName = QStringLiteral("ACTIVITES_ELEVES");
+  CounterName = u"ACTIVITES_ELEVES"_s;
 }
 
 void TActivitesEleves::LoadItems(TCurseur& ligne) {

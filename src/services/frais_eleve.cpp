@@ -2,6 +2,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 TAllFraisEleve::TAllFraisEleve(TDataModule1& base, int eleve, int annee, const TListeFrais* catalogue)
     : TCollection(base), eleve_(eleve), annee_(annee), catalogue_(catalogue) {
   Charger();
@@ -36,11 +38,11 @@ std::unordered_map<int, std::unique_ptr<TAllFraisEleve>> TAllFraisEleve::LireEns
 }
 
 void TAllFraisEleve::DefineQuery() {
-  SelectSql = QStringLiteral("SELECT * FROM FRAIS_ELEVE WHERE ELEVE_ID = ? AND ANNEE_SCOLAIRE = ?");
+  SelectSql = u"SELECT * FROM FRAIS_ELEVE WHERE ELEVE_ID = ? AND ANNEE_SCOLAIRE = ?"_s;
   Cles = {eleve_, annee_};
-  TableName = QStringLiteral("FRAIS_ELEVE");
+  TableName = u"FRAIS_ELEVE"_s;
   KeyField = "FRAIS_ELEVE_ID";
-  CounterName = QStringLiteral("FRAIS_ELEVE");
+  CounterName = u"FRAIS_ELEVE"_s;
 }
 
 void TAllFraisEleve::LoadItems(TCurseur& ligne) {

@@ -1,5 +1,7 @@
 #include "services/groupes_frais.h"
 
+using namespace Qt::StringLiterals;
+
 int TGroupeFrais::DetailsPaiement(TDetails& details, int eleve) {
   if (!lus_ && base_ != nullptr) {
     paiements_.clear();  // of a reading that failed half-way
@@ -28,10 +30,10 @@ Currency TGroupeFrais::TotalPaiement(int eleve) {
 TGroupesFrais::TGroupesFrais(TDataModule1& base) : TCollection(base) { Charger(); }
 
 void TGroupesFrais::DefineQuery() {
-  SelectSql = QStringLiteral("SELECT * FROM GROUPE_FRAIS");
-  TableName = QStringLiteral("GROUPE_FRAIS");
+  SelectSql = u"SELECT * FROM GROUPE_FRAIS"_s;
+  TableName = u"GROUPE_FRAIS"_s;
   KeyField = "GROUPE_FRAIS_ID";
-  CounterName = QStringLiteral("GROUPE_FRAIS");
+  CounterName = u"GROUPE_FRAIS"_s;
 }
 
 void TGroupesFrais::LoadItems(TCurseur& ligne) { Nouveau(ligne).Libelle = ligne.Texte("LIBELLE"); }

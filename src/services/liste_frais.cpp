@@ -1,20 +1,20 @@
 #include "services/liste_frais.h"
 
+using namespace Qt::StringLiterals;
+
 const QStringList& TextesTypeFrais() {
-  static const QStringList textes{QStringLiteral("l'école"), QStringLiteral("classe"),
-                                  QStringLiteral("élève")};
+  static const QStringList textes{u"l'école"_s, u"classe"_s, u"élève"_s};
   return textes;
 }
 
 const QStringList& TextesTypeFraisPluriel() {
-  static const QStringList textes{QStringLiteral("l'école"), QStringLiteral("classes"),
-                                  QStringLiteral("élèves")};
+  static const QStringList textes{u"l'école"_s, u"classes"_s, u"élèves"_s};
   return textes;
 }
 
 const QStringList& TextesTypeFraisChoix() {
-  static const QStringList textes{QStringLiteral("toute l'école"), QStringLiteral("une ou plusieurs classes"),
-                                  QStringLiteral("un ou plusieurs élèves")};
+  static const QStringList textes{u"toute l'école"_s, u"une ou plusieurs classes"_s,
+                                  u"un ou plusieurs élèves"_s};
   return textes;
 }
 
@@ -40,9 +40,9 @@ TListeFrais::TListeFrais(TDataModule1& base, int annee) : TCollection(base), ann
 
 void TListeFrais::DefineQuery() {
   SelectSql = u"SELECT * FROM LISTE_FRAIS WHERE ANNEE_SCOLAIRE = " % QString::number(annee_);
-  TableName = QStringLiteral("LISTE_FRAIS");
+  TableName = u"LISTE_FRAIS"_s;
   KeyField = "LISTEFRAIS_ID";
-  CounterName = QStringLiteral("LISTE_FRAIS");
+  CounterName = u"LISTE_FRAIS"_s;
 }
 
 void TListeFrais::LoadItems(TCurseur& ligne) {

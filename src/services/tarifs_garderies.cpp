@@ -4,16 +4,18 @@
 
 #include "core/formats.h"
 
+using namespace Qt::StringLiterals;
+
 TTarifsGarderies::TTarifsGarderies(TDataModule1& base) : TCollection(base) { Charger(); }
 
 // The tie-breaks of the look-ups stand on this order.
 void TTarifsGarderies::DefineQuery() {
-  SelectSql = QStringLiteral(
-      "SELECT * FROM TARIF_GARDERIE ORDER BY TYPE_FAMILLE DESC, TYPE_JOUR DESC, HEURE_DEBUT_SCAN DESC, "
-      "HEURE_FIN_SCAN DESC");
-  TableName = QStringLiteral("TARIF_GARDERIE");
+  SelectSql =
+      u"SELECT * FROM TARIF_GARDERIE ORDER BY TYPE_FAMILLE DESC, TYPE_JOUR DESC, HEURE_DEBUT_SCAN DESC, "
+      "HEURE_FIN_SCAN DESC"_s;
+  TableName = u"TARIF_GARDERIE"_s;
   KeyField = "TARIF_GARDERIE_ID";
-  CounterName = QStringLiteral("TARIF_GARDERIE");
+  CounterName = u"TARIF_GARDERIE"_s;
 }
 
 void TTarifsGarderies::LoadItems(TCurseur& ligne) {

@@ -1,53 +1,45 @@
 #include "services/types_tarif.h"
 
+using namespace Qt::StringLiterals;
+
 const QStringList& TextesTypeFamille() {
-  static const QStringList textes{QStringLiteral("indéfini"),
-                                  QStringLiteral("garderie du matin"),
-                                  QStringLiteral("garderie du soir"),
-                                  QStringLiteral("garderie du mercredi"),
-                                  QStringLiteral("étude"),
-                                  QStringLiteral("repas"),
-                                  QStringLiteral("soupe"),
-                                  QStringLiteral("garderie du midi")};
+  static const QStringList textes{u"indéfini"_s,
+                                  u"garderie du matin"_s,
+                                  u"garderie du soir"_s,
+                                  u"garderie du mercredi"_s,
+                                  u"étude"_s,
+                                  u"repas"_s,
+                                  u"soupe"_s,
+                                  u"garderie du midi"_s};
   return textes;
 }
 
 const QStringList& TextesTypeJour() {
-  static const QStringList textes{QString(),
-                                  QStringLiteral("lundi"),
-                                  QStringLiteral("mardi"),
-                                  QStringLiteral("mercredi"),
-                                  QStringLiteral("jeudi"),
-                                  QStringLiteral("vendredi"),
-                                  QStringLiteral("tous les jours"),
-                                  QStringLiteral("lundi, mardi, jeudi, vendredi")};
+  static const QStringList textes{
+      QString(),  u"lundi"_s,    u"mardi"_s,          u"mercredi"_s,
+      u"jeudi"_s, u"vendredi"_s, u"tous les jours"_s, u"lundi, mardi, jeudi, vendredi"_s};
   return textes;
 }
 
 const QStringList& TextesTypeScan() {
-  static const QStringList textes{QString(), QStringLiteral("scanning de présence"),
-                                  QStringLiteral("scanning à l'entrée"),
-                                  QStringLiteral("scanning à la sortie")};
+  static const QStringList textes{QString(), u"scanning de présence"_s, u"scanning à l'entrée"_s,
+                                  u"scanning à la sortie"_s};
   return textes;
 }
 
 const QStringList& TextesUnite() {
-  static const QStringList textes{QString(),
-                                  QStringLiteral("période (forfait)"),
-                                  QStringLiteral("heure"),
-                                  QStringLiteral("demi heure"),
-                                  QStringLiteral("quart d'heure"),
-                                  QStringLiteral("minute")};
+  static const QStringList textes{QString(),       u"période (forfait)"_s, u"heure"_s,
+                                  u"demi heure"_s, u"quart d'heure"_s,     u"minute"_s};
   return textes;
 }
 
 const QStringList& TextesFacturation() {
   static const QStringList textes{QString(),
-                                  QStringLiteral("par période (forfait)"),
-                                  QStringLiteral("à l'heure"),
-                                  QStringLiteral("à la demi-heure"),
-                                  QStringLiteral("au quart d'heure"),
-                                  QStringLiteral("à la minute")};
+                                  u"par période (forfait)"_s,
+                                  u"à l'heure"_s,
+                                  u"à la demi-heure"_s,
+                                  u"au quart d'heure"_s,
+                                  u"à la minute"_s};
   return textes;
 }
 

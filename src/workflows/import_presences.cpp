@@ -9,6 +9,8 @@
 #include "core/formats.h"
 #include "core/lecture_dates.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kEntree = 1;
@@ -27,8 +29,7 @@ bool ACompter(TDateTime entree, TDateTime sortie) { return entree != 0.0 || sort
 QString NomArchive(TDateTime moment) {
   const TJour jour = DecodeDate(moment);
   const QTime heure = HeureVersQt(moment);
-  return QStringLiteral("Presences-%1.%2.%3-%4h%5m%6s.txt")
-      .arg(jour.Jour)
+  return u"Presences-%1.%2.%3-%4h%5m%6s.txt"_s.arg(jour.Jour)
       .arg(jour.Mois)
       .arg(jour.Annee)
       .arg(heure.hour())
@@ -49,7 +50,7 @@ QStringList LigneRecapitulatif(const TPresence& presence) {
 
 QStringList LigneAnomalie(const TAnomalie& anomalie) {
   if (anomalie.Presence) return LigneRecapitulatif(*anomalie.Presence);
-  return {QStringLiteral("Matricule inconnu (") + anomalie.Matricule + u')',
+  return {u"Matricule inconnu ("_s + anomalie.Matricule + u')',
           QString(),
           FormatJour(anomalie.Date),
           Texte(static_cast<TTypePresence>(anomalie.TypePresence)),
@@ -77,8 +78,7 @@ void TImportPresences::ImporterFichier(const QString& chemin) {
 }
 
 void TImportPresences::AnnoncerAnomalies() const {
-  if (!anomalies_.empty())
-    controleur_.Dialogues().Message(QStringLiteral("Des anomalies ont été détectées !"));
+  if (!anomalies_.empty()) controleur_.Dialogues().Message(u"Des anomalies ont été détectées !"_s);
 }
 
 void TImportPresences::ImporterTablette(const QString& chemin) {
@@ -105,7 +105,7 @@ void TImportPresences::Vider() {
 void TImportPresences::Lire(const QString& chemin) {
   Vider();
   grille_ = TTexteSepare::Lire(chemin);
-  if (grille_.NombreLignes() == 0) throw Exception(QStringLiteral("Le fichier « %1 » est vide.").arg(chemin));
+  if (grille_.NombreLignes() == 0) throw Exception(u"Le fichier « %1 » est vide."_s.arg(chemin));
   // A study scan is always an exit, whatever the scanner recorded.
   for (QStringList& ligne : grille_.Lignes) {
     if (ligne.value(1).trimmed() != u"4") continue;
@@ -120,8 +120,7 @@ TImportPresences::TScan TImportPresences::LireLigne(int ligne) const {
             LireDateCompacte(grille_.Cellule(ligne, 2)), LireHeureCompacte(grille_.Cellule(ligne, 3)),
             StrToInt(grille_.Cellule(ligne, 4))};
   } catch (const EConvertError& e) {
-    throw EConvertError(
-        QStringLiteral("Ligne %1 : %2\nRien n'a été enregistré.").arg(ligne + 1).arg(e.Message));
+    throw EConvertError(u"Ligne %1 : %2\nRien n'a été enregistré."_s.arg(ligne + 1).arg(e.Message));
   }
 }
 
@@ -187,8 +186,7 @@ bool TImportPresences::EstCorrigible(int anomalie) const {
 bool TImportPresences::Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie,
                                 TDateTime entree) {
   if (!EstCorrigible(anomalie)) {
-    controleur_.Dialogues().Message(
-        QStringLiteral("La correction ne peut se faire que sur un élève existant"));
+    controleur_.Dialogues().Message(u"La correction ne peut se faire que sur un élève existant"_s);
     return false;
   }
   TAnomalie& ligne = anomalies_[static_cast<std::size_t>(anomalie)];
@@ -212,8 +210,7 @@ void TImportPresences::Enregistrer() {
   Globals.Presences->Save();
   for (const TPresence* presence : ajoutees_)
     if (presence->Status == TStatus::Nouveau)
-      throw Exception(
-          QStringLiteral("Toutes les présences n'ont pas pu être mémorisées : le fichier est gardé."));
+      throw Exception(u"Toutes les présences n'ont pas pu être mémorisées : le fichier est gardé."_s);
   ajoutees_.clear();
   pret_ = false;
 }
@@ -221,8 +218,8 @@ void TImportPresences::Enregistrer() {
 // A copy is left in the temporary folder by the scanner only; a file chosen by hand stays where it is.
 void TImportPresences::Etape2() {
   Enregistrer();
-  controleur_.Dialogues().Information(QStringLiteral("Les présences ont été mémorisées."));
-  Archiver(Globals.DossierTemporaire + QStringLiteral("/Presences.txt"));
+  controleur_.Dialogues().Information(u"Les présences ont été mémorisées."_s);
+  Archiver(Globals.DossierTemporaire + u"/Presences.txt"_s);
 }
 
 void TImportPresences::StockerTablette(const QString& chemin) {

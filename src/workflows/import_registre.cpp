@@ -9,6 +9,8 @@
 #include "core/lecture_dates.h"
 #include "core/query_internal.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kColonneEtablissement = 1;
@@ -141,8 +143,7 @@ TDateTime TImportRegistre::DatePremierEleve() const {
   try {
     return DateDuFichier(Champ(1, disposition_.DateFichier));
   } catch (const EConvertError& e) {
-    throw EConvertError(QStringLiteral("Date du fichier (ligne %1, colonne %2) : %3")
-                            .arg(NumeroLigne(1))
+    throw EConvertError(u"Date du fichier (ligne %1, colonne %2) : %3"_s.arg(NumeroLigne(1))
                             .arg(disposition_.DateFichier + 1)
                             .arg(e.Message));
   }
@@ -153,9 +154,8 @@ bool TImportRegistre::VerifierAnnee() {
   const int annee = Globals.AnneeScolaire;
   if (DatePremierEleve() <= EncodeDate(annee + 1, 6, 30)) return true;
   if (!controleur_.Dialogues().ConfirmerGrave(
-          QStringLiteral("Votre fichiel SIEL contient des élèves d'une nouvelle année scolaire.\r\n"
-                         "Voulez-vous clôturer l'année scolaire %1-%2 ?")
-              .arg(annee)
+          u"Votre fichiel SIEL contient des élèves d'une nouvelle année scolaire.\r\n"
+          "Voulez-vous clôturer l'année scolaire %1-%2 ?"_s.arg(annee)
               .arg(annee + 1)))
     return false;
   try {
@@ -184,8 +184,8 @@ void TImportRegistre::Cloturer() {
   parametres.Save();
   Globals.AnneeScolaire = StrToInt(parametres.GetParametre(27));
   dialogues.Information(
-      QStringLiteral("L'année scolaire est clôturée.\r\n"
-                     "Vous pouvez commnencer le transfert des nouvelles informations."));
+      u"L'année scolaire est clôturée.\r\n"
+      "Vous pouvez commnencer le transfert des nouvelles informations."_s);
 }
 
 void TImportRegistre::EcrireBalance(const TEleve& eleve) {
@@ -193,16 +193,17 @@ void TImportRegistre::EcrireBalance(const TEleve& eleve) {
   const Currency frais = eleve.Solde(true, false);
   const Currency services = eleve.Solde(false, true);
   const Currency total = eleve.Solde(true, true);
-  const int cle = base.GetNextId(QStringLiteral("BALANCE"));
+  const int cle = base.GetNextId(u"BALANCE"_s);
   if (cle == -1) throw Exception(u"Le compte de " % eleve.NomComplet() % u" n'a pas reçu de numéro.");
-  TQueryInternal ajout(base, QStringLiteral("insert into balance values (:iBalanceID, :iEleveId, "
-                                            ":iAnneeScolaire, :mTotService, :mTotFrais, :mTotal)"));
-  ajout.Parametre(QStringLiteral("iBalanceID"), cle)
-      .Parametre(QStringLiteral("iEleveId"), eleve.Id)
-      .Parametre(QStringLiteral("iAnneeScolaire"), Globals.AnneeScolaire)
-      .Parametre(QStringLiteral("mTotService"), services.EnEuros())
-      .Parametre(QStringLiteral("mTotFrais"), frais.EnEuros())
-      .Parametre(QStringLiteral("mTotal"), total.EnEuros())
+  TQueryInternal ajout(base,
+                       u"insert into balance values (:iBalanceID, :iEleveId, "
+                       ":iAnneeScolaire, :mTotService, :mTotFrais, :mTotal)"_s);
+  ajout.Parametre(u"iBalanceID"_s, cle)
+      .Parametre(u"iEleveId"_s, eleve.Id)
+      .Parametre(u"iAnneeScolaire"_s, Globals.AnneeScolaire)
+      .Parametre(u"mTotService"_s, services.EnEuros())
+      .Parametre(u"mTotFrais"_s, frais.EnEuros())
+      .Parametre(u"mTotal"_s, total.EnEuros())
       .Executer();
 }
 
@@ -245,9 +246,8 @@ QString TImportRegistre::Situer(int ligne, const Exception& e) {
 void TImportRegistre::TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan) {
   const QString site = Champ(ligne, disposition_.Site);
   if (site.size() > kCodeImplantationMaximum)
-    throw Exception(QStringLiteral("Le code d'implantation « %1 » a plus de %2 caractères.")
-                        .arg(site)
-                        .arg(kCodeImplantationMaximum));
+    throw Exception(
+        u"Le code d'implantation « %1 » a plus de %2 caractères."_s.arg(site).arg(kCodeImplantationMaximum));
   TEleve* eleve = eleves.TrouverParMatricule(Champ(ligne, disposition_.Matricule));
   const bool nouveau = eleve == nullptr;
   if (nouveau) {
@@ -260,12 +260,11 @@ void TImportRegistre::TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre
     eleves.AddEleve(*eleve);
   }
   eleves.Save();
-  if (eleve->Id == -1)
-    throw Exception(QStringLiteral("Le transfert est arrêté : l'élève n'a pas reçu de numéro."));
+  if (eleve->Id == -1) throw Exception(u"Le transfert est arrêté : l'élève n'a pas reçu de numéro."_s);
   eleves.AddClasseEleve(eleve->Id, Classe(ligne), Globals.AnneeScolaire, site,
                         Champ(ligne, disposition_.SousClasse));
   if (!eleves.ElevesClasses.EstInscrit(eleve->Id, Globals.AnneeScolaire))
-    throw Exception(QStringLiteral("Le transfert est arrêté : l'élève n'a pas pu être inscrit."));
+    throw Exception(u"Le transfert est arrêté : l'élève n'a pas pu être inscrit."_s);
   ++bilan.Lignes;
   ++(nouveau ? bilan.Crees : bilan.Modifies);
 }

@@ -4,6 +4,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 kBloc = 4096;
@@ -13,7 +15,7 @@ class TFichierDistant {
  public:
   TFichierDistant(ILienLecteur& lien, const QString& chemin)
       : lien_(lien), poignee_(lien.CeCreateFile(chemin)) {
-    if (poignee_ == 0) throw Exception(QStringLiteral("Unable to open the remote file"));
+    if (poignee_ == 0) throw Exception(u"Unable to open the remote file"_s);
   }
   ~TFichierDistant() { lien_.CeCloseHandle(poignee_); }
   TFichierDistant(const TFichierDistant&) = delete;
@@ -22,7 +24,7 @@ class TFichierDistant {
   /// Empty at the end.
   QByteArray LireBloc() {
     QByteArray bloc;
-    if (!lien_.CeReadFile(poignee_, kBloc, bloc)) throw Exception(QStringLiteral("Unable to read data"));
+    if (!lien_.CeReadFile(poignee_, kBloc, bloc)) throw Exception(u"Unable to read data"_s);
     return bloc;
   }
 
@@ -41,10 +43,9 @@ void CopierDepuisLecteur(ILienLecteur& lien, const QString& distant, const QStri
     ecrit = copie.write(bloc) == bloc.size();
   // A failure of the flush inside commit would pass for success.
   if (!ecrit || !copie.flush() || !copie.commit())
-    throw Exception(
-        QStringLiteral("Le fichier « %1 » ne peut pas être écrit : %2").arg(local, copie.errorString()));
+    throw Exception(u"Le fichier « %1 » ne peut pas être écrit : %2"_s.arg(local, copie.errorString()));
 }
 
 void EffacerDuLecteur(ILienLecteur& lien, const QString& distant) {
-  if (!lien.CeDeleteFile(distant)) throw Exception(QStringLiteral("Unable to delete the remote file"));
+  if (!lien.CeDeleteFile(distant)) throw Exception(u"Unable to delete the remote file"_s);
 }

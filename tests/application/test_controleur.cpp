@@ -3,6 +3,8 @@
 #include "core/exceptions.h"
 #include "support/controleur_essai.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Regler(TBaseEssai& base, const char* nom, const QString& valeur) {
@@ -12,24 +14,24 @@ void Regler(TBaseEssai& base, const char* nom, const QString& valeur) {
 /// A workstation whose server is the test's own file.
 void ConnaitreLeServeur(TBaseEssai& base) {
   base->Deconnecter();
-  base.Reglages.Ecrire(TRacine::Machine, QStringLiteral("Serveur"), base.FichierDeDonnees());
+  base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, base.FichierDeDonnees());
 }
 
 }  // namespace
 
 TEST(Controleur, TheFourWaysOfStarting) {
   TBaseEssai base;
-  TEcoleEssai(base).unEleve().enClasse(QStringLiteral("P1"), QStringLiteral("A"), QStringLiteral("S1"));
+  TEcoleEssai(base).unEleve().enClasse(u"P1"_s, u"A"_s, u"S1"_s);
   ConnaitreLeServeur(base);
-  const QStringList annee{QStringLiteral("Année scolaire 2016 - 2017"), "arbre", "coche 2016"};
+  const QStringList annee{u"Année scolaire 2016 - 2017"_s, "arbre", "coche 2016"};
   struct {
     const char* reglage;  // set to "1"
     QString parametre41;
     QStringList attendu;
   } const cas[] = {
       {"", {}, QStringList{"-pgRepas", "-pgRepas3"} + annee + QStringList{"*PgEleve"}},
-      {"", QStringLiteral("1"), QStringList{"+pgRepas", "-pgRepas3"} + annee + QStringList{"*PgEleve"}},
-      {"Mode", QStringLiteral("0"),
+      {"", u"1"_s, QStringList{"+pgRepas", "-pgRepas3"} + annee + QStringList{"*PgEleve"}},
+      {"Mode", u"0"_s,
        QStringList{"-pgRepas", "-pgRepas3"} + annee +
            QStringList{"-PgEleve", "-PgParametre", "-pgRepasNew", "+pgRepas", "*pgRepas", "-bouton",
                        "-bouton", "-bouton", "reservation"}},
@@ -41,7 +43,7 @@ TEST(Controleur, TheFourWaysOfStarting) {
   };
   for (const auto& c : cas) {
     for (const char* nom : {"Mode", "Tablette", "Offline"})
-      Regler(base, nom, nom == std::string(c.reglage) ? QStringLiteral("1") : QStringLiteral("oui"));
+      Regler(base, nom, nom == std::string(c.reglage) ? u"1"_s : u"oui"_s);
     base->ConnectToServer();
     TEcoleEssai(base).parametre(41, c.parametre41);
     TControleurEssai essai(base);
@@ -57,9 +59,9 @@ TEST(Controleur, TheFourWaysOfStarting) {
 TEST(Controleur, OffLineNeedsNoServer) {
   TBaseEssai base;
   base->Deconnecter();
-  Regler(base, "Offline", QStringLiteral("1"));
-  Regler(base, "Mode", QStringLiteral("1"));
-  Regler(base, "Photo", QStringLiteral("3 octobre"));
+  Regler(base, "Offline", u"1"_s);
+  Regler(base, "Mode", u"1"_s);
+  Regler(base, "Photo", u"3 octobre"_s);
   TControleurEssai essai(base);
   essai.Controleur.FormShow();
   EXPECT_TRUE(Globals.ModeHorsLigne);
@@ -69,25 +71,25 @@ TEST(Controleur, OffLineNeedsNoServer) {
   EXPECT_FALSE(base->EstConnecte());
 
   // On-line for a transfer, then off-line again.
-  base.Reglages.Ecrire(TRacine::Machine, QStringLiteral("Serveur"), base.FichierDeDonnees());
+  base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, base.FichierDeDonnees());
   essai.Controleur.PasserEnLigne();
   EXPECT_TRUE(base->EstConnecte());
-  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, QStringLiteral("Offline")), u"0");
-  EXPECT_TRUE(essai.Fenetre.Faits.contains(QStringLiteral("*pgRepas3")));
-  Globals.Parametres->SetParametre(115, QStringLiteral("demain"));
+  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, u"Offline"_s), u"0");
+  EXPECT_TRUE(essai.Fenetre.Faits.contains(u"*pgRepas3"_s));
+  Globals.Parametres->SetParametre(115, u"demain"_s);
   essai.Controleur.MemoriserDatePhoto();
-  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, QStringLiteral("Photo")), u"demain");
+  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, u"Photo"_s), u"demain");
   essai.Controleur.PasserHorsLigne();
   EXPECT_FALSE(base->EstConnecte());
-  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, QStringLiteral("Offline")), u"1");
+  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, u"Offline"_s), u"1");
   EXPECT_TRUE(Globals.ModeHorsLigne);
 }
 
 TEST(Controleur, RetryAndGiveUp) {
   TBaseEssai base;
   base->Deconnecter();
-  const QString mauvais = base.Fichier(QStringLiteral("mauvais.fdb"), QByteArray(5000, 'z'));
-  base.Reglages.Ecrire(TRacine::Machine, QStringLiteral("Serveur"), mauvais);
+  const QString mauvais = base.Fichier(u"mauvais.fdb"_s, QByteArray(5000, 'z'));
+  base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, mauvais);
   {
     TControleurEssai essai(base);
     base.Dialogues.Reessaie(false);
@@ -112,7 +114,7 @@ TEST(Controleur, RetryAndGiveUp) {
     EXPECT_TRUE(essai.Fenetre.Faits.isEmpty()) << "giving up after a retry leaves an empty window";
   }
   TControleurEssai essai(base);
-  base.Dialogues.Reessaie(true, true).Saisit(QStringLiteral("Identification"), base.FichierDeDonnees());
+  base.Dialogues.Reessaie(true, true).Saisit(u"Identification"_s, base.FichierDeDonnees());
   essai.Controleur.FormShow();
   EXPECT_EQ(essai.Fenetre.Faits.last(), u"*PgEleve");
 }
@@ -120,7 +122,7 @@ TEST(Controleur, RetryAndGiveUp) {
 TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
   TBaseEssai base;
   TEcoleEssai ecole(base);
-  ecole.unEleve().enClasse(QStringLiteral("P1"), QStringLiteral("A"));
+  ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
   for (const auto& [id, valeur] : {std::pair{30, "1"},
                                    {100, "2"},
                                    {101, "2,20"},
@@ -150,7 +152,7 @@ TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
   EXPECT_EQ(Globals.EleveCourant, nullptr);
   EXPECT_EQ(essai.Fenetre.Faits.last(), u"ferme");
 
-  ecole.parametre(101, QStringLiteral("deux"));
+  ecole.parametre(101, u"deux"_s);
   Globals.Parametres = std::make_unique<TParametres>(*base);
   TEleve eleve;
   Globals.EleveCourant = &eleve;
@@ -162,7 +164,7 @@ TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
 TEST(Controleur, AnUnreadableYearStopsTheStartUntilItIsMended) {
   TBaseEssai base;
   TEcoleEssai ecole(base);
-  ecole.parametre(27, QStringLiteral("deux mille seize"));
+  ecole.parametre(27, u"deux mille seize"_s);
   TControleurEssai essai(base);
   try {
     essai.Charger();
@@ -171,7 +173,7 @@ TEST(Controleur, AnUnreadableYearStopsTheStartUntilItIsMended) {
     EXPECT_TRUE(e.Message.startsWith(u"Paramètre 27 : ")) << e.what();
   }
   EXPECT_EQ(Globals.Parametres, nullptr);
-  ecole.parametre(27, QStringLiteral("2018"));
+  ecole.parametre(27, u"2018"_s);
   essai.Charger();
   EXPECT_EQ(Globals.AnneeScolaire, 2018);
 }
@@ -179,7 +181,7 @@ TEST(Controleur, AnUnreadableYearStopsTheStartUntilItIsMended) {
 TEST(Controleur, TheFieldInHandIsLeftWhileItsDataAreThere) {
   struct TFenetreQuiRegarde : TFenetreEssai {
     void QuitterChamp() override {
-      Faits += Globals.Eleves && Globals.Parametres ? QStringLiteral("quitte") : QStringLiteral("trop tard");
+      Faits += Globals.Eleves && Globals.Parametres ? u"quitte"_s : u"trop tard"_s;
     }
   } fenetre;
   TBaseEssai base;

@@ -3,6 +3,8 @@
 #include "attendance/presences_particulieres.h"
 #include "garderies_essai.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace Essai;
 
 namespace {
@@ -97,7 +99,7 @@ TEST_F(TComptesEssai, Mercredis) {
   charger();
   const auto compte = [&](int eleve) {
     const TMercrediMois m = presences->ServiceMercredi(eleve, 10, 2016, lignes);
-    return QStringLiteral("%1 %2 %3").arg(m.Total).arg(m.Longs).arg(m.Courts).toStdString() + ": " + textes();
+    return u"%1 %2 %3"_s.arg(m.Total).arg(m.Longs).arg(m.Courts).toStdString() + ": " + textes();
   };
   EXPECT_EQ(compte(courts), "8 0 4: 2 2 2 2");
   EXPECT_EQ(compte(longs), "18 2 0: 8 8 8 0");  // the third reaches over 18

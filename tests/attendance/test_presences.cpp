@@ -3,6 +3,8 @@
 #include "attendance/presences_particulieres.h"
 #include "garderies_essai.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace Essai;
 
 TEST_F(TGarderiesEssai, AjoutePresenceGardeUnReleveParFamille) {
@@ -81,7 +83,7 @@ TEST_F(TGarderiesEssai, ChargementEtEnregistrement) {
   EXPECT_EQ((*presences)[1].HeureSortie, 0.0);
   EXPECT_EQ(Texte((*presences)[1].TypePresence), QString());
   auto nouvelle = Presence(1, Etude, "2016-10-03", "", "16:05");
-  nouvelle->CodeImplantation = QStringLiteral("S2");
+  nouvelle->CodeImplantation = u"S2"_s;
   presences->AjoutePresence(std::move(nouvelle));
   presences->Save();
   EXPECT_EQ(base.Rangees("SELECT * FROM PRESENCES WHERE PRESENCE_ID = 6"),

@@ -2,14 +2,16 @@
 
 #include "core/chaines.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Liste = QStringList;
 
 Liste Pieces(void (*couper)(const QString&, QChar, QStringList&), const QString& texte) {
-  Liste liste{QStringLiteral("déjà là")};
+  Liste liste{u"déjà là"_s};
   couper(texte, u';', liste);
-  EXPECT_EQ(liste.takeFirst(), QStringLiteral("déjà là"));
+  EXPECT_EQ(liste.takeFirst(), u"déjà là"_s);
   return liste;
 }
 
@@ -38,37 +40,34 @@ TEST(Chaines, Remplacer) {
         << texte;
 }
 
-TEST(Chaines, RetourLigne) {
-  EXPECT_EQ(SansRetourLigne(QStringLiteral("a\r\n\r\nb\nc\rd")), QStringLiteral("a  b\nc\rd"));
-}
+TEST(Chaines, RetourLigne) { EXPECT_EQ(SansRetourLigne(u"a\r\n\r\nb\nc\rd"_s), u"a  b\nc\rd"_s); }
 
 TEST(Chaines, DecouperPasseLesVides) {
-  EXPECT_EQ(Pieces(Decouper, QStringLiteral(";;a;b")), (Liste{QStringLiteral("a"), QStringLiteral("b")}));
-  EXPECT_EQ(Pieces(Decouper, QStringLiteral("a;; ;b;;")),
-            (Liste{QStringLiteral("a"), QStringLiteral(" "), QStringLiteral("b")}));
+  EXPECT_EQ(Pieces(Decouper, u";;a;b"_s), (Liste{u"a"_s, u"b"_s}));
+  EXPECT_EQ(Pieces(Decouper, u"a;; ;b;;"_s), (Liste{u"a"_s, u" "_s, u"b"_s}));
   EXPECT_EQ(Pieces(Decouper, QString()), Liste());
 }
 
 TEST(Chaines, DecouperStrictCompteLesVides) {
-  const QString a = QStringLiteral("a"), b = QStringLiteral("b"), vide = QStringLiteral("\r\n");
-  EXPECT_EQ(Pieces(DecouperStrict, QStringLiteral("a;;b")), (Liste{a, vide, b}));
-  EXPECT_EQ(Pieces(DecouperStrict, QStringLiteral(";a;b")), (Liste{vide, a, b}));
-  EXPECT_EQ(Pieces(DecouperStrict, QStringLiteral("a;b;")), (Liste{a, b}));
-  EXPECT_EQ(Pieces(DecouperStrict, QStringLiteral("a;;")), (Liste{a, vide}));
+  const QString a = u"a"_s, b = u"b"_s, vide = u"\r\n"_s;
+  EXPECT_EQ(Pieces(DecouperStrict, u"a;;b"_s), (Liste{a, vide, b}));
+  EXPECT_EQ(Pieces(DecouperStrict, u";a;b"_s), (Liste{vide, a, b}));
+  EXPECT_EQ(Pieces(DecouperStrict, u"a;b;"_s), (Liste{a, b}));
+  EXPECT_EQ(Pieces(DecouperStrict, u"a;;"_s), (Liste{a, vide}));
   EXPECT_EQ(Pieces(DecouperStrict, QString()), Liste());
 }
 
 TEST(Chaines, NombresEtRecherche) {
-  EXPECT_TRUE(EstEntier(QStringLiteral("-12")));
+  EXPECT_TRUE(EstEntier(u"-12"_s));
   for (const char* faux : {"", "1,5", "12a", "99999999999"})
     EXPECT_FALSE(EstEntier(QString::fromUtf8(faux))) << faux;
-  EXPECT_TRUE(EstChiffres(QStringLiteral("0099999999999")));
+  EXPECT_TRUE(EstChiffres(u"0099999999999"_s));
   for (const char* faux : {"", "  ", " 12", "12 ", "-1", "1a", "٣"})
     EXPECT_FALSE(EstChiffres(QString::fromUtf8(faux))) << faux;
 
-  const Liste noms{QStringLiteral("P1"), QStringLiteral("p2"), QStringLiteral("P2"), QStringLiteral("P2")};
-  EXPECT_EQ(IndexChaine(noms, QStringLiteral("P2")), 2);
-  EXPECT_EQ(IndexChaine(noms, QStringLiteral("P3")), -1);
+  const Liste noms{u"P1"_s, u"p2"_s, u"P2"_s, u"P2"_s};
+  EXPECT_EQ(IndexChaine(noms, u"P2"_s), 2);
+  EXPECT_EQ(IndexChaine(noms, u"P3"_s), -1);
   const int nombres[] = {5, 7, 7};
   EXPECT_EQ(IndexEntier(nombres, 7), 1);
   EXPECT_EQ(IndexEntier({}, 7), -1);

@@ -4,6 +4,8 @@
 #include "core/exceptions.h"
 #include "core/texte_separe.h"
 
+using namespace Qt::StringLiterals;
+
 TEST(Conversions, Amounts) {
   struct {
     const char* texte;
@@ -33,18 +35,18 @@ TEST(Conversions, Amounts) {
 }
 
 TEST(Conversions, NumbersDatesTimes) {
-  EXPECT_EQ(StrToInt(QStringLiteral(" -12 ")), -12);
+  EXPECT_EQ(StrToInt(u" -12 "_s), -12);
   for (const char* texte : {"", "1x", "1.5", "0x10", "99999999999", "²", "-"})
     EXPECT_THROW(StrToInt(QString::fromUtf8(texte)), EConvertError) << texte;
-  EXPECT_EQ(StrToIntDef(QStringLiteral("dix"), 7), 7);
-  EXPECT_EQ(StrToFloat(QStringLiteral("2,5")), 2.5);
-  EXPECT_EQ(StrToDate(QStringLiteral("1/9/2016")), EncodeDate(2016, 9, 1));
-  EXPECT_EQ(StrToDate(QStringLiteral("29/02/16")), EncodeDate(2016, 2, 29));
+  EXPECT_EQ(StrToIntDef(u"dix"_s, 7), 7);
+  EXPECT_EQ(StrToFloat(u"2,5"_s), 2.5);
+  EXPECT_EQ(StrToDate(u"1/9/2016"_s), EncodeDate(2016, 9, 1));
+  EXPECT_EQ(StrToDate(u"29/02/16"_s), EncodeDate(2016, 2, 29));
   EXPECT_EQ(EncodeDate(1899, 12, 31), 1.0);
   EXPECT_EQ(EncodeDate(2016, 9, 1), 42614.0);
   for (const char* texte : {"31/06/2016", "2016/09/01", "1-9-2016", "", "01/09", "0/1/2016"})
     EXPECT_THROW(StrToDate(QString::fromUtf8(texte)), EConvertError) << texte;
-  EXPECT_EQ(StrToTime(QStringLiteral("7:30")), 0.3125);
+  EXPECT_EQ(StrToTime(u"7:30"_s), 0.3125);
   for (const char* texte : {"  :  ", "24:00", "7h30", "12:60"})
     EXPECT_THROW(StrToTime(QString::fromUtf8(texte)), EConvertError) << texte;
   EXPECT_EQ(JourLundi1(EncodeDate(2016, 10, 3)), 1);
@@ -55,9 +57,7 @@ TEST(Conversions, NumbersDatesTimes) {
 }
 
 TEST(Conversions, SeparatedText) {
-  const auto lire = [](const QByteArray& octets) {
-    return TTexteSepare::Depuis(octets, QStringLiteral("essai"));
-  };
+  const auto lire = [](const QByteArray& octets) { return TTexteSepare::Depuis(octets, u"essai"_s); };
   const auto texte = lire(
       "\xEF\xBB\xBF"
       "Nom;\"a;\"\"b\"\"\";=\"12\";\r\n\nx\"y;\"ouvert;z\n\n  \n");
@@ -66,10 +66,9 @@ TEST(Conversions, SeparatedText) {
   EXPECT_EQ(texte.Lignes[1], QStringList{""});
   EXPECT_EQ(texte.Lignes[2], (QStringList{"x\"y", "\"ouvert", "z"})) << "an open quote swallows nothing";
   EXPECT_EQ(texte.Cellule(1, 5), u"");
-  EXPECT_EQ(lire("Andr\xE9;\x80").Lignes[0], (QStringList{QStringLiteral("André"), QStringLiteral("€")}));
-  EXPECT_EQ(lire(QStringLiteral("André;€").toUtf8()).Lignes[0],
-            (QStringList{QStringLiteral("André"), QStringLiteral("€")}));
+  EXPECT_EQ(lire("Andr\xE9;\x80").Lignes[0], (QStringList{u"André"_s, u"€"_s}));
+  EXPECT_EQ(lire(u"André;€"_s.toUtf8()).Lignes[0], (QStringList{u"André"_s, u"€"_s}));
   EXPECT_THROW(lire(QByteArray("a;b\0c", 5)), Exception);
-  EXPECT_THROW(TTexteSepare::Lire(QStringLiteral("/")), Exception);
-  EXPECT_THROW(TTexteSepare::Lire(QStringLiteral("absent.txt")), Exception);
+  EXPECT_THROW(TTexteSepare::Lire(u"/"_s), Exception);
+  EXPECT_THROW(TTexteSepare::Lire(u"absent.txt"_s), Exception);
 }

@@ -5,6 +5,8 @@
 #include "core/formats.h"
 #include "core/lecture_dates.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const TDateTime kRentree = EncodeDate(2016, 9, 1);
@@ -17,26 +19,26 @@ void Egal(const QString& obtenu, const QString& attendu) {
 
 TEST(Formats, UneDateEtSonHeure) {
   const TDateTime moment = kRentree + EncodeTime(7, 45, 59);
-  Egal(FormatDate(moment), QStringLiteral("01/09/2016"));
-  Egal(FormatHeure(moment), QStringLiteral("07h45"));
-  Egal(FormatHeureCourte(moment), QStringLiteral("07:45"));
-  Egal(FormatDateLongue(moment), QStringLiteral("1 septembre 2016"));
-  Egal(FormatJourLong(moment), QStringLiteral("jeudi 1 septembre 2016"));
-  Egal(FormatJour(EncodeDate(2024, 2, 29)), QStringLiteral("jeudi 29 février"));
-  Egal(FormatDateSql(moment), QStringLiteral("'09/01/2016'"));
-  Egal(FormatDateCompacte(moment), QStringLiteral("20160901"));
-  Egal(FormatHeure(kRentree), QStringLiteral("00h00"));
+  Egal(FormatDate(moment), u"01/09/2016"_s);
+  Egal(FormatHeure(moment), u"07h45"_s);
+  Egal(FormatHeureCourte(moment), u"07:45"_s);
+  Egal(FormatDateLongue(moment), u"1 septembre 2016"_s);
+  Egal(FormatJourLong(moment), u"jeudi 1 septembre 2016"_s);
+  Egal(FormatJour(EncodeDate(2024, 2, 29)), u"jeudi 29 février"_s);
+  Egal(FormatDateSql(moment), u"'09/01/2016'"_s);
+  Egal(FormatDateCompacte(moment), u"20160901"_s);
+  Egal(FormatHeure(kRentree), u"00h00"_s);
 }
 
 TEST(Formats, ZeroEstVideOuLeJourZero) {
   for (const QString& vide : {FormatDate(0), FormatHeure(0), FormatHeureCourte(0), IntOuVide(0)})
     EXPECT_TRUE(vide.isEmpty());
-  Egal(FormatDateLongue(0), QStringLiteral("30 décembre 1899"));
-  Egal(FormatJourLong(0), QStringLiteral("samedi 30 décembre 1899"));
-  Egal(FormatJour(0), QStringLiteral("samedi 30 décembre"));
-  Egal(FormatDateSql(0), QStringLiteral("'12/30/1899'"));
-  Egal(FormatDateCompacte(0), QStringLiteral("18991230"));
-  Egal(IntOuVide(-7), QStringLiteral("-7"));
+  Egal(FormatDateLongue(0), u"30 décembre 1899"_s);
+  Egal(FormatJourLong(0), u"samedi 30 décembre 1899"_s);
+  Egal(FormatJour(0), u"samedi 30 décembre"_s);
+  Egal(FormatDateSql(0), u"'12/30/1899'"_s);
+  Egal(FormatDateCompacte(0), u"18991230"_s);
+  Egal(IntOuVide(-7), u"-7"_s);
 }
 
 TEST(Formats, MontantsAuCentime) {
@@ -52,9 +54,9 @@ TEST(Formats, MontantsAuCentime) {
 }
 
 TEST(LectureDates, FormesCompactes) {
-  EXPECT_EQ(LireDateCompacte(QStringLiteral("20160901")), kRentree);
-  EXPECT_EQ(LireDateCompacte(QStringLiteral("20160901;x")), kRentree);
-  EXPECT_EQ(LireHeureCompacte(QStringLiteral("074559")), EncodeTime(7, 45));
+  EXPECT_EQ(LireDateCompacte(u"20160901"_s), kRentree);
+  EXPECT_EQ(LireDateCompacte(u"20160901;x"_s), kRentree);
+  EXPECT_EQ(LireHeureCompacte(u"074559"_s), EncodeTime(7, 45));
   for (const char* faux : {"", "2016", "2016091", "201609 1", "20161301", "20150229", "2016-9-1", "abcdefgh"})
     EXPECT_THROW(LireDateCompacte(QString::fromUtf8(faux)), EConvertError) << faux;
   for (const char* faux : {"", "074", "2400", "0760", "7:45", "-145"})
@@ -62,13 +64,13 @@ TEST(LectureDates, FormesCompactes) {
 }
 
 TEST(LectureDates, TroisChampsOuZero) {
-  EXPECT_EQ(LireDateBarre(QStringLiteral("01/09/2016")), kRentree);
-  EXPECT_EQ(LireDateBarre(QStringLiteral(" 1 / 9 / 2016 ")), kRentree);
-  EXPECT_EQ(LireDateTiret(QStringLiteral("1-09-2016")), kRentree);
+  EXPECT_EQ(LireDateBarre(u"01/09/2016"_s), kRentree);
+  EXPECT_EQ(LireDateBarre(u" 1 / 9 / 2016 "_s), kRentree);
+  EXPECT_EQ(LireDateTiret(u"1-09-2016"_s), kRentree);
   for (const char* faux :
        {"", "01/09", "01/09/2016/1", "01-09-2016", "31/02/2016", "x/09/2016", "01/09/16", "29/12/1899"})
     EXPECT_EQ(LireDateBarre(QString::fromUtf8(faux)), 0.0) << faux;
-  EXPECT_EQ(LireDateTiret(QStringLiteral("01/09/2016")), 0.0);
+  EXPECT_EQ(LireDateTiret(u"01/09/2016"_s), 0.0);
 }
 
 TEST(Comparaisons, OrdreDeLaLangue) {
@@ -80,8 +82,8 @@ TEST(Comparaisons, OrdreDeLaLangue) {
     QString Nom, Prenom;
     QString NomComplet() const { return Nom % u' ' % Prenom; }
   };
-  const TPersonne anne{QStringLiteral("Côté"), QStringLiteral("Anne")};
-  const TPersonne luc{QStringLiteral("Cote"), QStringLiteral("Luc")};
+  const TPersonne anne{u"Côté"_s, u"Anne"_s};
+  const TPersonne luc{u"Cote"_s, u"Luc"_s};
   EXPECT_LT(ComparerNoms(anne, luc), 0);
   EXPECT_GT(ComparerNoms(luc, anne), 0);
   EXPECT_EQ(ComparerNoms(luc, luc), 0);

@@ -6,6 +6,8 @@
 #include "core/query_internal.h"
 #include "support/base_essai.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TGroupe : TBaseObject {
@@ -15,7 +17,7 @@ struct TGroupe : TBaseObject {
 /// A small collection with a counter and an index, over a real table.
 class TGroupes : public TCollection<TGroupe> {
  public:
-  explicit TGroupes(TDataModule1& base, QString compteur = QStringLiteral("GROUPE_FRAIS"))
+  explicit TGroupes(TDataModule1& base, QString compteur = u"GROUPE_FRAIS"_s)
       : TCollection(base), compteur_(std::move(compteur)) {
     Charger();
   }
@@ -24,8 +26,8 @@ class TGroupes : public TCollection<TGroupe> {
 
  protected:
   void DefineQuery() override {
-    SelectSql = QStringLiteral("SELECT * FROM GROUPE_FRAIS ORDER BY GROUPE_FRAIS_ID");
-    TableName = QStringLiteral("GROUPE_FRAIS");
+    SelectSql = u"SELECT * FROM GROUPE_FRAIS ORDER BY GROUPE_FRAIS_ID"_s;
+    TableName = u"GROUPE_FRAIS"_s;
     KeyField = "GROUPE_FRAIS_ID";
     CounterName = compteur_;
   }
@@ -47,16 +49,16 @@ std::unique_ptr<TGroupe> Groupe(const QString& libelle) {
   return groupe;
 }
 
-const QString kRangees = QStringLiteral("SELECT GROUPE_FRAIS_ID, LIBELLE FROM GROUPE_FRAIS ORDER BY 1");
+const QString kRangees = u"SELECT GROUPE_FRAIS_ID, LIBELLE FROM GROUPE_FRAIS ORDER BY 1"_s;
 
 }  // namespace
 
 TEST(Kernel, AddSaveRemoveForget) {
   TBaseEssai base;
   TGroupes groupes(*base);
-  TGroupe& a = groupes.Add(Groupe(QStringLiteral("a")));
-  TGroupe& b = groupes.Add(Groupe(QStringLiteral("b")));
-  TGroupe& c = groupes.Add(Groupe(QStringLiteral("c")));
+  TGroupe& a = groupes.Add(Groupe(u"a"_s));
+  TGroupe& b = groupes.Add(Groupe(u"b"_s));
+  TGroupe& c = groupes.Add(Groupe(u"c"_s));
   EXPECT_EQ(groupes.Position, 2);
   groupes.Add(a);
   EXPECT_EQ(a.Status, TStatus::Nouveau) << "a new object stays new: one insert, no update";
@@ -64,50 +66,49 @@ TEST(Kernel, AddSaveRemoveForget) {
   EXPECT_EQ(a.Status, TStatus::Inchange);
   EXPECT_EQ(base.Rangees(kRangees), (QStringList{"1;a", "2;b", "3;c"}));
 
-  b.Libelle = QStringLiteral("B");
+  b.Libelle = u"B"_s;
   groupes.Add(b);
   EXPECT_EQ(b.Status, TStatus::Modifie);
-  EXPECT_EQ(groupes.Par(QStringLiteral("B")), &b);
-  EXPECT_EQ(groupes.Par(QStringLiteral("b")), nullptr) << "the index follows a changed key";
+  EXPECT_EQ(groupes.Par(u"B"_s), &b);
+  EXPECT_EQ(groupes.Par(u"b"_s), nullptr) << "the index follows a changed key";
   EXPECT_EQ(groupes.Remove(a), nullptr);
   EXPECT_EQ(groupes.Position, -1);
   const auto oublie = groupes.Forget(c);
   ASSERT_NE(oublie, nullptr);
   EXPECT_EQ(oublie->Id, -1);
   EXPECT_EQ(groupes.Remove(*oublie), nullptr) << "not in the collection: nothing happens";
-  TGroupe& jamais = groupes.Add(Groupe(QStringLiteral("jamais")));
+  TGroupe& jamais = groupes.Add(Groupe(u"jamais"_s));
   EXPECT_NE(groupes.Remove(jamais), nullptr) << "an object without a row is handed back";
   groupes.Save();
   EXPECT_EQ(groupes.Supprimes(), 0);
   EXPECT_EQ(base.Rangees(kRangees), (QStringList{"2;B", "3;c"}));
-  EXPECT_EQ(base.Valeur(QStringLiteral("SELECT VALEUR FROM COUNTERS WHERE TABLE_NAME = 'GROUPE_FRAIS'")),
-            u"3");
+  EXPECT_EQ(base.Valeur(u"SELECT VALEUR FROM COUNTERS WHERE TABLE_NAME = 'GROUPE_FRAIS'"_s), u"3");
 }
 
 TEST(Kernel, RowsThatDisappearAndCountersThatFail) {
   TBaseEssai base;
   TGroupes groupes(*base);
-  TGroupe& a = groupes.Add(Groupe(QStringLiteral("a")));
-  TGroupe& b = groupes.Add(Groupe(QStringLiteral("b")));
+  TGroupe& a = groupes.Add(Groupe(u"a"_s));
+  TGroupe& b = groupes.Add(Groupe(u"b"_s));
   groupes.Save();
-  base.Sql(QStringLiteral("DELETE FROM GROUPE_FRAIS"));
+  base.Sql(u"DELETE FROM GROUPE_FRAIS"_s);
   groupes.Add(a);
   groupes.Remove(b);
   groupes.Save();
   EXPECT_EQ(a.Status, TStatus::Modifie) << "the change stays in memory";
   EXPECT_EQ(groupes.Supprimes(), 1) << "it is looked for again at the next save";
-  base.Sql(QStringLiteral("INSERT INTO GROUPE_FRAIS VALUES (1, 'revenu')"));
+  base.Sql(u"INSERT INTO GROUPE_FRAIS VALUES (1, 'revenu')"_s);
   groupes.Save();
   EXPECT_EQ(base.Rangees(kRangees), QStringList{"1;a"});
 
-  TGroupes sansCompteur(*base, QStringLiteral("INCONNU"));
-  TGroupe& c = sansCompteur.Add(Groupe(QStringLiteral("c")));
-  base.Dialogues.Attend(QStringLiteral("Le compteur de table INCONNU n'existe pas !"));
+  TGroupes sansCompteur(*base, u"INCONNU"_s);
+  TGroupe& c = sansCompteur.Add(Groupe(u"c"_s));
+  base.Dialogues.Attend(u"Le compteur de table INCONNU n'existe pas !"_s);
   EXPECT_TRUE(sansCompteur.Save());
   EXPECT_EQ(c.Status, TStatus::Nouveau);
   EXPECT_EQ(c.Id, -1);
-  TGroupes sansCle(*base, QStringLiteral("*"));
-  sansCle.Add(Groupe(QStringLiteral("d")));
+  TGroupes sansCle(*base, u"*"_s);
+  sansCle.Add(Groupe(u"d"_s));
   sansCle.Save();
   EXPECT_EQ(base.Rangees(kRangees), QStringList{"1;a"});
 }
@@ -115,9 +116,9 @@ TEST(Kernel, RowsThatDisappearAndCountersThatFail) {
 TEST(Kernel, AFailedSaveKeepsWhatItDidNotReach) {
   TBaseEssai base;
   TGroupes groupes(*base);
-  TGroupe& a = groupes.Add(Groupe(QStringLiteral("a")));
+  TGroupe& a = groupes.Add(Groupe(u"a"_s));
   TGroupe& tropLong = groupes.Add(Groupe(QString(300, u'x')));
-  TGroupe& c = groupes.Add(Groupe(QStringLiteral("c")));
+  TGroupe& c = groupes.Add(Groupe(u"c"_s));
   try {
     groupes.Save();
     FAIL() << "a text of 300 letters fits no column of 250";
@@ -127,7 +128,7 @@ TEST(Kernel, AFailedSaveKeepsWhatItDidNotReach) {
   EXPECT_EQ(a.Status, TStatus::Inchange);
   EXPECT_EQ(tropLong.Status, TStatus::Nouveau);
   EXPECT_EQ(c.Status, TStatus::Nouveau);
-  tropLong.Libelle = QStringLiteral("court");
+  tropLong.Libelle = u"court"_s;
   groupes.Save();
   EXPECT_EQ(base.Rangees(kRangees), (QStringList{"1;a", "3;court", "4;c"})) << "the spent key is not reused";
 }
@@ -135,13 +136,13 @@ TEST(Kernel, AFailedSaveKeepsWhatItDidNotReach) {
 TEST(Kernel, IndexKeepsTheOrderOfTheCollection) {
   TBaseEssai base;
   TGroupes groupes(*base);
-  TGroupe& a = groupes.Add(Groupe(QStringLiteral("a")));
-  TGroupe& b = groupes.Add(Groupe(QStringLiteral("x")));
-  a.Libelle = QStringLiteral("x");
+  TGroupe& a = groupes.Add(Groupe(u"a"_s));
+  TGroupe& b = groupes.Add(Groupe(u"x"_s));
+  a.Libelle = u"x"_s;
   groupes.Add(a);
-  EXPECT_EQ(groupes.Par(QStringLiteral("x")), &a) << "the first of the collection, not the first entered";
+  EXPECT_EQ(groupes.Par(u"x"_s), &a) << "the first of the collection, not the first entered";
   groupes.Remove(a);
-  EXPECT_EQ(groupes.Par(QStringLiteral("x")), &b);
+  EXPECT_EQ(groupes.Par(u"x"_s), &b);
 }
 
 TEST(Kernel, Parameters) {
@@ -151,36 +152,35 @@ TEST(Kernel, Parameters) {
   EXPECT_TRUE(parametres.EstVrai(28));
   EXPECT_EQ(parametres.GetParametre(999), u"");
   const int avant = parametres.Count();
-  parametres.SetParametre(1, QStringLiteral("École"));
-  parametres.SetParametre(1, QStringLiteral("École \"Les Tilleuls\" d'Été €"));
+  parametres.SetParametre(1, u"École"_s);
+  parametres.SetParametre(1, u"École \"Les Tilleuls\" d'Été €"_s);
   EXPECT_EQ(parametres.Count(), avant + 1);
-  parametres.SetParametre(27, QStringLiteral("2016"));
+  parametres.SetParametre(27, u"2016"_s);
   EXPECT_EQ(parametres.FindParametre(27)->Status, TStatus::Modifie);
   parametres.Save();
   EXPECT_EQ(TParametres(*base).GetParametre(1), u"École \"Les Tilleuls\" d'Été €");
-  base.Sql(QStringLiteral("DROP TABLE PARAMETRE"));
+  base.Sql(u"DROP TABLE PARAMETRE"_s);
   EXPECT_THROW(TParametres{*base}, EDistributor);
 }
 
 TEST(Kernel, ValuesTravelExactly) {
   TBaseEssai base;
-  base.Sql(QStringLiteral(
-      "CREATE TABLE ESSAI (ID INTEGER, M DECIMAL(10,4), H TIME, D DATE, V VARCHAR(20), C CHAR(20))"));
+  base.Sql(u"CREATE TABLE ESSAI (ID INTEGER, M DECIMAL(10,4), H TIME, D DATE, V VARCHAR(20), C CHAR(20))"_s);
   const std::int64_t montants[] = {0, 1, -1, 12345, 99999999, -123456789, 7, 33333};
   for (const std::int64_t m : montants)
     for (const double h : {0.0, EncodeTime(7, 30), EncodeTime(23, 59, 59, 999), EncodeTime(0, 0, 8, 640)}) {
-      TQueryInternal ecrire(*base, QStringLiteral("INSERT INTO ESSAI VALUES (1, :m, :h, :d, :v, :v2)"));
+      TQueryInternal ecrire(*base, u"INSERT INTO ESSAI VALUES (1, :m, :h, :d, :v, :v2)"_s);
       TLigne ligne;
       ligne.Ecrire("M", Currency::Brut(m));
       ligne.EcrireHeure("H", h);
       ligne.EcrireDate("D", EncodeDate(2016, 10, 3));
-      ligne.Ecrire("V", QStringLiteral("é  "));
+      ligne.Ecrire("V", u"é  "_s);
       const auto& v = ligne.Valeurs();
-      ecrire.Parametre(QStringLiteral("m"), v[0]).Parametre(QStringLiteral("h"), v[1]);
-      ecrire.Parametre(QStringLiteral("d"), v[2]).Parametre(QStringLiteral("v"), v[3]);
-      EXPECT_EQ(ecrire.Parametre(QStringLiteral("v2"), v[3]).Executer(), 1);
+      ecrire.Parametre(u"m"_s, v[0]).Parametre(u"h"_s, v[1]);
+      ecrire.Parametre(u"d"_s, v[2]).Parametre(u"v"_s, v[3]);
+      EXPECT_EQ(ecrire.Parametre(u"v2"_s, v[3]).Executer(), 1);
     }
-  TCurseur lu(*base, QStringLiteral("SELECT * FROM ESSAI"));
+  TCurseur lu(*base, u"SELECT * FROM ESSAI"_s);
   for (const std::int64_t m : montants)
     for (const double h : {0.0, EncodeTime(7, 30), EncodeTime(23, 59, 59, 999), EncodeTime(0, 0, 8, 640)}) {
       ASSERT_TRUE(lu.Suivant());

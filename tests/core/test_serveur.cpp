@@ -12,6 +12,8 @@
 #include "support/dialogues_scenario.h"
 #include "support/serveur_firebird.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One workstation: a connection and what it has loaded.
@@ -45,13 +47,13 @@ TEST(Serveur, EightProcessesTakeDistinctKeysWithoutAGap) {
   constexpr int kPostes = 8, kClesParPoste = 250;
   const TServeurFirebird serveur;
   TPoste temoin(serveur.Nom());
-  const int avant = temoin.base.GetNextId(QStringLiteral("ELEVES"));
+  const int avant = temoin.base.GetNextId(u"ELEVES"_s);
   ASSERT_GT(avant, 0);
 
   std::list<QProcess> postes(kPostes);
   for (QProcess& poste : postes)
     poste.start(QStringLiteral(PRENEUR_DE_CLES),
-                {serveur.Nom(), QStringLiteral("ELEVES"), QString::number(kClesParPoste)});
+                {serveur.Nom(), u"ELEVES"_s, QString::number(kClesParPoste)});
   for (QProcess& poste : postes) {
     while (!poste.canReadLine())
       ASSERT_TRUE(poste.waitForReadyRead()) << poste.readAllStandardError().toStdString();
@@ -69,48 +71,46 @@ TEST(Serveur, EightProcessesTakeDistinctKeysWithoutAGap) {
   std::sort(cles.begin(), cles.end());
   ASSERT_EQ(kPostes * kClesParPoste, static_cast<int>(cles.size()));
   for (std::size_t i = 0; i < cles.size(); ++i) ASSERT_EQ(avant + 1 + static_cast<int>(i), cles[i]);
-  EXPECT_EQ(cles.back() + 1, temoin.base.GetNextId(QStringLiteral("ELEVES")));
+  EXPECT_EQ(cles.back() + 1, temoin.base.GetNextId(u"ELEVES"_s));
 }
 
 TEST(Serveur, TheLastWriterWins) {
   const TServeurFirebird serveur;
   TPoste a(serveur.Nom());
-  a.parametres->SetParametre(901, QStringLiteral("départ"));
+  a.parametres->SetParametre(901, u"départ"_s);
   a.parametres->Save();
   TPoste b(serveur.Nom());
-  ASSERT_EQ(QStringLiteral("départ"), b.parametres->GetParametre(901))
-      << "an insertion is seen by the next load";
+  ASSERT_EQ(u"départ"_s, b.parametres->GetParametre(901)) << "an insertion is seen by the next load";
 
-  a.parametres->SetParametre(901, QStringLiteral("de A"));
-  b.parametres->SetParametre(901, QStringLiteral("de B"));
+  a.parametres->SetParametre(901, u"de A"_s);
+  b.parametres->SetParametre(901, u"de B"_s);
   b.parametres->Save();
   a.parametres->Save();
-  EXPECT_EQ(QStringLiteral("de A"), Relu(b.base, 901));
-  EXPECT_EQ(QStringLiteral("de B"), b.parametres->GetParametre(901))
-      << "a loaded collection does not change by itself";
+  EXPECT_EQ(u"de A"_s, Relu(b.base, 901));
+  EXPECT_EQ(u"de B"_s, b.parametres->GetParametre(901)) << "a loaded collection does not change by itself";
 
-  b.parametres->SetParametre(901, QStringLiteral("de B encore"));
+  b.parametres->SetParametre(901, u"de B encore"_s);
   b.parametres->Save();
-  EXPECT_EQ(QStringLiteral("de B encore"), Relu(a.base, 901));
+  EXPECT_EQ(u"de B encore"_s, Relu(a.base, 901));
 }
 
 TEST(Serveur, ARowThatHasGoneStaysModifiedAndHarmsNothing) {
   const TServeurFirebird serveur;
   TPoste a(serveur.Nom());
-  for (int id : {901, 902}) a.parametres->SetParametre(id, QStringLiteral("départ"));
+  for (int id : {901, 902}) a.parametres->SetParametre(id, u"départ"_s);
   a.parametres->Save();
   TPoste b(serveur.Nom());
 
   a.parametres->Remove(*a.parametres->FindParametre(901));
   a.parametres->Save();
-  b.parametres->SetParametre(901, QStringLiteral("perdu"));
-  b.parametres->SetParametre(902, QStringLiteral("gardé"));
+  b.parametres->SetParametre(901, u"perdu"_s);
+  b.parametres->SetParametre(902, u"gardé"_s);
   EXPECT_TRUE(b.parametres->Save());
 
   EXPECT_EQ(TStatus::Modifie, b.parametres->FindParametre(901)->Status);
   EXPECT_EQ(TStatus::Inchange, b.parametres->FindParametre(902)->Status);
   EXPECT_EQ(nullptr, TParametres(a.base).FindParametre(901));
-  EXPECT_EQ(QStringLiteral("gardé"), Relu(a.base, 902)) << "the save went on behind the missing row";
+  EXPECT_EQ(u"gardé"_s, Relu(a.base, 902)) << "the save went on behind the missing row";
 
   b.parametres->Remove(*b.parametres->FindParametre(901));
   EXPECT_TRUE(b.parametres->Save()) << "deleting a row that the other one has deleted";
@@ -120,54 +120,53 @@ TEST(Serveur, AReadingThatStaysPreparedSeesTheOthersAndKeepsNobodyWaiting) {
   const TServeurFirebird serveur;
   TPoste a(serveur.Nom()), b(serveur.Nom());
   const auto lu = [&](int id) {
-    TCurseur ligne(a.base, QStringLiteral("SELECT * FROM PARAMETRE WHERE PARAMETRE_ID = ?"), {id});
-    return ligne.Suivant() ? ligne.Texte("VALEUR") : QStringLiteral("rien");
+    TCurseur ligne(a.base, u"SELECT * FROM PARAMETRE WHERE PARAMETRE_ID = ?"_s, {id});
+    return ligne.Suivant() ? ligne.Texte("VALEUR") : u"rien"_s;
   };
-  EXPECT_EQ(QStringLiteral("rien"), lu(901));
-  for (const QString& valeur : {QStringLiteral("un"), QStringLiteral("deux")}) {
+  EXPECT_EQ(u"rien"_s, lu(901));
+  for (const QString& valeur : {u"un"_s, u"deux"_s}) {
     b.parametres->SetParametre(901, valeur);
     b.parametres->Save();
     EXPECT_EQ(valeur, lu(901));
   }
   {  // one reading inside another of the same text
-    const QString sql = QStringLiteral("SELECT * FROM PARAMETRE WHERE PARAMETRE_ID = ?");
+    const QString sql = u"SELECT * FROM PARAMETRE WHERE PARAMETRE_ID = ?"_s;
     TCurseur dehors(a.base, sql, {901});
-    EXPECT_EQ(QStringLiteral("rien"), lu(902));
+    EXPECT_EQ(u"rien"_s, lu(902));
     ASSERT_TRUE(dehors.Suivant());
-    EXPECT_EQ(QStringLiteral("deux"), dehors.Texte("VALEUR"));
+    EXPECT_EQ(u"deux"_s, dehors.Texte("VALEUR"));
   }
-  TQueryInternal(b.base, QStringLiteral("ALTER TABLE PARAMETRE ADD ESSAI INTEGER DEFAULT 7 NOT NULL"))
-      .Executer();
-  EXPECT_EQ(QStringLiteral("deux"), lu(901)) << "the upgrade of another workstation was not held up";
-  TQueryInternal(b.base, QStringLiteral("ALTER TABLE PARAMETRE DROP ESSAI")).Executer();
-  EXPECT_EQ(QStringLiteral("deux"), lu(901));
+  TQueryInternal(b.base, u"ALTER TABLE PARAMETRE ADD ESSAI INTEGER DEFAULT 7 NOT NULL"_s).Executer();
+  EXPECT_EQ(u"deux"_s, lu(901)) << "the upgrade of another workstation was not held up";
+  TQueryInternal(b.base, u"ALTER TABLE PARAMETRE DROP ESSAI"_s).Executer();
+  EXPECT_EQ(u"deux"_s, lu(901));
 
-  EXPECT_THROW(TCurseur(a.base, QStringLiteral("SELECT * FROM ABSENTE WHERE CLE = ?"), {1}), Exception);
-  EXPECT_EQ(QStringLiteral("deux"), lu(901)) << "a failure is forgotten";
+  EXPECT_THROW(TCurseur(a.base, u"SELECT * FROM ABSENTE WHERE CLE = ?"_s, {1}), Exception);
+  EXPECT_EQ(u"deux"_s, lu(901)) << "a failure is forgotten";
 }
 
 TEST(Serveur, AFailedConnectionIsToldInFrench) {
-  const QString personne = QStringLiteral("127.0.0.1/%1").arg(PortLibre());
-  EXPECT_TRUE(MessageDeConnexion(personne).startsWith(QStringLiteral("Le serveur de données ne répond pas.")))
+  const QString personne = u"127.0.0.1/%1"_s.arg(PortLibre());
+  EXPECT_TRUE(MessageDeConnexion(personne).startsWith(u"Le serveur de données ne répond pas."_s))
       << MessageDeConnexion(personne).toStdString();
 
-  const TServeurFirebird autreMotDePasse(QStringLiteral("autrechose"));
+  const TServeurFirebird autreMotDePasse(u"autrechose"_s);
   const QString refus = MessageDeConnexion(autreMotDePasse.Nom());
-  EXPECT_TRUE(refus.startsWith(QStringLiteral("Le serveur de données refuse l'utilisateur du programme.")))
+  EXPECT_TRUE(refus.startsWith(u"Le serveur de données refuse l'utilisateur du programme."_s))
       << refus.toStdString();
-  EXPECT_FALSE(refus.contains(QStringLiteral("corvusnet")));
+  EXPECT_FALSE(refus.contains(u"corvusnet"_s));
 }
 
 TEST(Serveur, AServerThatDiesIsToldAndLosesNoStatus) {
   auto serveur = std::make_unique<TServeurFirebird>();
   TPoste poste(serveur->Nom());
-  poste.parametres->SetParametre(901, QStringLiteral("jamais écrit"));
+  poste.parametres->SetParametre(901, u"jamais écrit"_s);
   serveur.reset();
   try {
     poste.parametres->Save();
     ADD_FAILURE() << "the save had to fail";
   } catch (const EDistributor& e) {
-    EXPECT_TRUE(e.Message.startsWith(QStringLiteral("La liaison avec le serveur de données est coupée.")))
+    EXPECT_TRUE(e.Message.startsWith(u"La liaison avec le serveur de données est coupée."_s))
         << e.Message.toStdString();
   }
   EXPECT_EQ(TStatus::Nouveau, poste.parametres->FindParametre(901)->Status);

@@ -7,12 +7,14 @@
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A tenth of the school, loaded into a database of its own.
 struct TEcoleChargee {
   TEcoleChargee() {
-    Base.ServerName = Dossier.filePath(QStringLiteral("ecole.fdb"));
+    Base.ServerName = Dossier.filePath(u"ecole.fdb"_s);
     Base.Connecter();
     Base.Deconnecter();
     Base.EcrituresForcees(false);
@@ -60,8 +62,7 @@ TEST(Chargement, LesImportsAcceptentToutCeQuiEstEcrit) {
   EXPECT_GT(attendus, 35);
 
   // The second layout carries the same pupils, and those who have left are dropped.
-  const auto bilan = ecole.Registre(QStringLiteral("2"),
-                                    ecole.Dossier.filePath(QStringLiteral("registre-disposition-2.csv")));
+  const auto bilan = ecole.Registre(u"2"_s, ecole.Dossier.filePath(u"registre-disposition-2.csv"_s));
   EXPECT_EQ(bilan.Lignes, 50);
   EXPECT_EQ(bilan.Crees, 0);
 
@@ -74,7 +75,7 @@ TEST(Chargement, LesImportsAcceptentToutCeQuiEstEcrit) {
   EXPECT_EQ(import.Anomalies().size(), 8U);
   import.Etape2();
   EXPECT_EQ(Globals.Presences->Count() - avant, 8);
-  const auto second = ecole.Registre(QStringLiteral("2"), Petit("registre-disposition-2.csv"));
+  const auto second = ecole.Registre(u"2"_s, Petit("registre-disposition-2.csv"));
   EXPECT_EQ(second.Crees, 1);
   EXPECT_EQ(second.Modifies, 10);
 }

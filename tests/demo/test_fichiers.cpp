@@ -9,6 +9,8 @@
 #include "demo/fichiers.h"
 #include "demo/noms.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray Empreinte(const TEcoleExemple& ecole) {
@@ -35,13 +37,13 @@ TEST(EcoleExemple, ChaqueLigneDuRegistreSeLit) {
     int Matricule, Naissance, CodePostal, Site, Dernier;
   } cas[] = {{TDisposition::Premiere, 2, 6, 14, 1, 44}, {TDisposition::Seconde, 3, 6, 16, 2, 36}};
   for (const auto& c : cas) {
-    const auto texte = TTexteSepare::Depuis(TexteRegistre(ecole, c.Disposition), QStringLiteral("registre"));
+    const auto texte = TTexteSepare::Depuis(TexteRegistre(ecole, c.Disposition), u"registre"_s);
     QSet<QString> matricules;
     for (int ligne = 1; ligne < texte.NombreLignes(); ++ligne) {
       SCOPED_TRACE(ligne);
       EXPECT_EQ(texte.Lignes[static_cast<std::size_t>(ligne)].size(), texte.Lignes.front().size());
       EXPECT_GT(texte.Lignes.front().size(), c.Dernier);
-      EXPECT_TRUE(QDate::fromString(texte.Cellule(ligne, c.Naissance), QStringLiteral("yyyyMMdd")).isValid());
+      EXPECT_TRUE(QDate::fromString(texte.Cellule(ligne, c.Naissance), u"yyyyMMdd"_s).isValid());
       EXPECT_GE(StrToInt(texte.Cellule(ligne, c.CodePostal)), 5000);
       matricules.insert(texte.Cellule(ligne, c.Matricule));
     }
@@ -61,7 +63,7 @@ TEST(EcoleExemple, LesPassagesTombentDesJoursDEcole) {
       ASSERT_EQ(instant.size(), 17) << fichier.Nom.toStdString() << " " << ligne;
       ASSERT_LT(avant, instant);
       avant = instant;
-      ailleurs += EstJourEcole(QDate::fromString(instant.left(8), QStringLiteral("yyyyMMdd"))) ? 0 : 1;
+      ailleurs += EstJourEcole(QDate::fromString(instant.left(8), u"yyyyMMdd"_s)) ? 0 : 1;
     }
   }
   EXPECT_GT(lignes, 100000);

@@ -1,5 +1,7 @@
 #include "ecole_documents.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TFactureEssai : TDocumentsEssai {
@@ -58,8 +60,7 @@ TEST_F(TFactureEssai, UnMoisOuvert) {
   ASSERT_EQ(anne.Id, 1);  // 0000110161 modulo 97 is 66
   EXPECT_EQ(
       Dessin(facture),
-      QString::fromUtf8(
-          R"([Total] <b>"Anne": NomEleve=[Total] | PrenomEleve=<b>"Anne" | Classe=P3 A | SoldeFacture=73,91 | SoldeFacture2=73,91 | Communication=+++000/0110/16166+++ [DatePaiementFacture] +++000/0110/16166+++ | Paiement=2,50 | TotalGeneral=73,91
+      uR"([Total] <b>"Anne": NomEleve=[Total] | PrenomEleve=<b>"Anne" | Classe=P3 A | SoldeFacture=73,91 | SoldeFacture2=73,91 | Communication=+++000/0110/16166+++ [DatePaiementFacture] +++000/0110/16166+++ | Paiement=2,50 | TotalGeneral=73,91
   Frais Obligatoire: TypeFrais=Frais obligatoires | TotalFrais=20,00
     Piscine: NomService=Piscine | Total=14,00
     Partiel: NomService=Partiel | Total=6,00
@@ -75,7 +76,7 @@ TEST_F(TFactureEssai, UnMoisOuvert) {
     Soupes: NomService=Soupes | Total=0,70
     Etudes: NomService=Etudes | Total=1,51
   Rappel: TypeFrais=Rappel | TotalFrais=4,23
-    Septembre: NomService=Septembre | Total=4,23)"));
+    Septembre: NomService=Septembre | Total=4,23)"_s);
   EXPECT_EQ(Valeur(Facturer({radie.Id}), u"NomEleve"), u"Eleve3"_s);
 }
 

@@ -2,6 +2,8 @@
 
 #include "ecole_documents.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TReleveDetailleEssai : TDocumentsEssai {
@@ -29,7 +31,7 @@ TEST_F(TReleveDetailleEssai, LesJoursDeChaqueService) {
   EXPECT_EQ(releve.Variables().Trouver(u"NomRapport"), nullptr);
   EXPECT_EQ(releve.Valeur(u"MoisReleve", {}), u"Détails des services du 1 octobre 2016 au 31 octobre 2016"_s);
   EXPECT_EQ(Dessin(releve).remove(QRegularExpression(u"JourService=[^|]*\\| "_s)),
-            QString::fromUtf8(R"(Eleve1 Prenom1: NomEleve=Eleve1 | PrenomEleve=Prenom1 | Classe=P3 A
+            uR"(Eleve1 Prenom1: NomEleve=Eleve1 | PrenomEleve=Prenom1 | Classe=P3 A
   Garderie du matin: TypeFrais=Garderie du matin
     lundi 3 octobre: HeureDebut=07:12 | HeureFin=08:00 | Montant=1,23
     mardi 4 octobre: HeureDebut=07:20 | HeureFin=07:40 | Montant=1,23
@@ -45,7 +47,7 @@ TEST_F(TReleveDetailleEssai, LesJoursDeChaqueService) {
   Repas: TypeFrais=Repas | HideHeure=1
     lundi 3 octobre: Montant=3,50
   Soupe: TypeFrais=Soupe | HideHeure=1
-    mercredi 5 octobre: Montant=0,70)"));
+    mercredi 5 octobre: Montant=0,70)"_s);
   EXPECT_EQ(releve.Valeur(u"JourService", {3}), u"mardi 4 octobre"_s);
 
   anne.avec(u"FLG_3E_ENFANT"_s);

@@ -3,14 +3,16 @@
 #include "forms/arbre.h"
 #include "forms/grille.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TEleveFictif {};
 struct TClasseFictive {};
 
 TGrille Grille(TOrdre ordre, const QStringList& textes) {
-  TGrille grille({{QStringLiteral("Nom"), 200}, {QStringLiteral("Valeur"), 80, TAlignement::Droite, ordre}});
-  for (const QString& texte : textes) grille.Ajouter({QStringLiteral("x"), texte});
+  TGrille grille({{u"Nom"_s, 200}, {u"Valeur"_s, 80, TAlignement::Droite, ordre}});
+  for (const QString& texte : textes) grille.Ajouter({u"x"_s, texte});
   return grille;
 }
 
@@ -48,9 +50,9 @@ TEST(Grille, TrieSelonLaNatureDeLaColonne) {
 TEST(Grille, UneLigneGardeCeQuElleEst) {
   TEleveFictif anne, luc;
   TGrille grille = Grille(TOrdre::Texte, {});
-  grille.Ajouter({QStringLiteral("Luc"), QStringLiteral("P1")}, &luc, 2);
-  grille.Ajouter({QStringLiteral("Anne"), QStringLiteral("P1")}, &anne);
-  grille.Ajouter({QStringLiteral("Marc"), QStringLiteral("M3")});
+  grille.Ajouter({u"Luc"_s, u"P1"_s}, &luc, 2);
+  grille.Ajouter({u"Anne"_s, u"P1"_s}, &anne);
+  grille.Ajouter({u"Marc"_s, u"M3"_s});
   grille.Cocher(0, true);
   grille.ChoisirLigne(0);
   int choix = 0;
@@ -65,8 +67,7 @@ TEST(Grille, UneLigneGardeCeQuElleEst) {
   EXPECT_EQ(grille.TrouverObjet(&anne), 0);
   EXPECT_EQ(grille.TrouverObjet(nullptr), -1);
   grille.Trier(ComparerColonne1);  // alike rows keep their order
-  EXPECT_EQ(Colonne(grille, 0),
-            (QStringList{QStringLiteral("Marc"), QStringLiteral("Anne"), QStringLiteral("Luc")}));
+  EXPECT_EQ(Colonne(grille, 0), (QStringList{u"Marc"_s, u"Anne"_s, u"Luc"_s}));
   EXPECT_EQ(choix, 0);
 
   grille.Retirer(0);
@@ -82,7 +83,7 @@ TEST(Grille, UneLigneGardeCeQuElleEst) {
 }
 
 TEST(Grille, FiltreSansCasseNiAccent) {
-  TGrille grille = Grille(TOrdre::Texte, {QStringLiteral("Élodie Gaëlle"), QString()});
+  TGrille grille = Grille(TOrdre::Texte, {u"Élodie Gaëlle"_s, QString()});
   for (const char* oui : {"", "elodie", "GAELLE él", "x ÉLO"})
     EXPECT_TRUE(grille.Contient(0, QString::fromUtf8(oui))) << oui;
   for (const char* non : {"elodies", "xé", "elodie luc"})
@@ -90,12 +91,12 @@ TEST(Grille, FiltreSansCasseNiAccent) {
 }
 
 TEST(Grille, LesGroupesTiennentEnsemble) {
-  TGrille grille = Grille(TOrdre::Nombre, {QStringLiteral("9")});
+  TGrille grille = Grille(TOrdre::Nombre, {u"9"_s});
   const auto remplir = [&] {
-    grille.AjouterTete({QStringLiteral("Soir"), QStringLiteral("2 relevés")});
+    grille.AjouterTete({u"Soir"_s, u"2 relevés"_s});
     for (const char* texte : {"3", "\u22122,50 €"}) grille.Ajouter({QString(), QString::fromUtf8(texte)});
-    grille.AjouterTete({QStringLiteral("Matin")});
-    grille.Ajouter({QString(), QStringLiteral("1")});
+    grille.AjouterTete({u"Matin"_s});
+    grille.Ajouter({QString(), u"1"_s});
   };
   remplir();
   EXPECT_EQ(grille.TeteDe(0), -1);
@@ -103,7 +104,7 @@ TEST(Grille, LesGroupesTiennentEnsemble) {
   EXPECT_EQ(grille.TeteDe(3), 1);
   EXPECT_EQ(grille.TeteDe(5), 4);
   grille.Trier(1);
-  EXPECT_EQ(Colonne(grille, 1), QString::fromUtf8("9|2 relevés|\u22122,50 €|3||1").split(u'|'));
+  EXPECT_EQ(Colonne(grille, 1), u"9|2 relevés|\u22122,50 €|3||1"_s.split(u'|'));
   grille.Fermer(4, true);
   grille.Vider();
   remplir();
@@ -112,33 +113,32 @@ TEST(Grille, LesGroupesTiennentEnsemble) {
 }
 
 TEST(Grille, LEtatSeLitCommeUnTexte) {
-  TGrille grille({{QStringLiteral("Nom")}, {QStringLiteral("État")}});
+  TGrille grille({{u"Nom"_s}, {u"État"_s}});
   EXPECT_EQ(grille.ColonneEtat(), -1);
-  grille.Etats = {
-      {}, {QStringLiteral("Payé"), QStringLiteral("dialog-ok-apply")}, {QStringLiteral("Dû"), {}}};
-  for (const int etat : {1, 0, 2}) grille.Ajouter({QStringLiteral("x")}, {}, etat);
-  EXPECT_EQ(grille.TexteVu(0, 1), QStringLiteral("Payé"));
-  EXPECT_TRUE(grille.Contient(2, QStringLiteral("du")));
-  EXPECT_FALSE(grille.Contient(1, QStringLiteral("du")));
+  grille.Etats = {{}, {u"Payé"_s, u"dialog-ok-apply"_s}, {u"Dû"_s, {}}};
+  for (const int etat : {1, 0, 2}) grille.Ajouter({u"x"_s}, {}, etat);
+  EXPECT_EQ(grille.TexteVu(0, 1), u"Payé"_s);
+  EXPECT_TRUE(grille.Contient(2, u"du"_s));
+  EXPECT_FALSE(grille.Contient(1, u"du"_s));
   EXPECT_GT(grille.Comparer(0, 2, 1), 0);
   EXPECT_LT(grille.Comparer(1, 2, 1), 0);
 }
 
 TEST(Grille, AnnonceChaqueChangementOuUnLot) {
-  TGrille grille = Grille(TOrdre::Texte, {QStringLiteral("a"), QStringLiteral("b")});
+  TGrille grille = Grille(TOrdre::Texte, {u"a"_s, u"b"_s});
   std::vector<int> lignes;
   grille.SurChangement = [&](TGrille::TChangement changement) { lignes.push_back(changement.Ligne); };
-  grille.Ecrire(1, 4, QStringLiteral("loin"));
-  EXPECT_EQ(grille.Texte(1, 4), QStringLiteral("loin"));
+  grille.Ecrire(1, 4, u"loin"_s);
+  EXPECT_EQ(grille.Texte(1, 4), u"loin"_s);
   EXPECT_TRUE(grille.Texte(1, 3).isEmpty());
   grille.ChangerEtat(0, 1);
-  grille.Ajouter({QStringLiteral("c")});
+  grille.Ajouter({u"c"_s});
   EXPECT_EQ(lignes, (std::vector{1, 0, -1}));
   lignes.clear();
   {
     TGrille::TLot lot(grille);
-    grille.DefinirColonnes({{QStringLiteral("Seule")}});
-    grille.Ajouter({QStringLiteral("d")});
+    grille.DefinirColonnes({{u"Seule"_s}});
+    grille.Ajouter({u"d"_s});
     EXPECT_TRUE(lignes.empty());
   }
   EXPECT_EQ(lignes, std::vector{-1});
@@ -150,10 +150,10 @@ TEST(Arbre, OrdreEtRecherche) {
   TEleveFictif anne, luc;
   TArbre arbre;
   EXPECT_EQ(arbre.Premier(), nullptr);
-  TNoeud& m1 = arbre.Ajouter(nullptr, QStringLiteral("M1"));
-  TNoeud& p1 = arbre.Ajouter(nullptr, QStringLiteral("P1"));
-  TNoeud& noeudAnne = arbre.Ajouter(&m1, QStringLiteral("Élan Anne"), &anne);
-  TNoeud& noeudLuc = arbre.Ajouter(&p1, QStringLiteral("p1"), &luc);
+  TNoeud& m1 = arbre.Ajouter(nullptr, u"M1"_s);
+  TNoeud& p1 = arbre.Ajouter(nullptr, u"P1"_s);
+  TNoeud& noeudAnne = arbre.Ajouter(&m1, u"Élan Anne"_s, &anne);
+  TNoeud& noeudLuc = arbre.Ajouter(&p1, u"p1"_s, &luc);
 
   std::vector<const TNoeud*> ordre;
   for (const TNoeud* noeud = arbre.Premier(); noeud; noeud = arbre.Suivant(*noeud)) ordre.push_back(noeud);
@@ -162,9 +162,9 @@ TEST(Arbre, OrdreEtRecherche) {
 
   EXPECT_EQ(arbre.TrouverObjet(&luc), &noeudLuc);
   EXPECT_EQ(arbre.TrouverObjet(nullptr), nullptr);  // M1 carries none
-  EXPECT_EQ(arbre.TrouverTexte(QStringLiteral("éLAN aNNE")), &noeudAnne);
-  EXPECT_EQ(arbre.TrouverTexte(QStringLiteral("p1")), &p1);  // the first in tree order
-  EXPECT_EQ(arbre.TrouverTexte(QStringLiteral("P")), nullptr);
+  EXPECT_EQ(arbre.TrouverTexte(u"éLAN aNNE"_s), &noeudAnne);
+  EXPECT_EQ(arbre.TrouverTexte(u"p1"_s), &p1);  // the first in tree order
+  EXPECT_EQ(arbre.TrouverTexte(u"P"_s), nullptr);
 
   int choix = 0;
   arbre.SurSelection = [&] { ++choix; };

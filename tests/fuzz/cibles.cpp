@@ -11,6 +11,8 @@
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Says nothing and refuses everything, whatever the bytes lead to.
@@ -31,27 +33,24 @@ class TMuet : public IDialogues {
 
 /// Knows every variable and object.
 class THote : public IHoteScript {
-  QString Variable(const QString& nom) override {
-    return nom.size() % 2 == 0 ? nom : QStringLiteral("12,50");
-  }
+  QString Variable(const QString& nom) override { return nom.size() % 2 == 0 ? nom : u"12,50"_s; }
   bool Poser(const QString& objet, TPropriete, const TValeurScript&) override { return !objet.isEmpty(); }
 };
 
 /// Three levels of two, or a list of two columns.
 TRapport PetitRapport(bool liste) {
-  TRapport rapport(QStringLiteral("Essai"), QStringLiteral("Essai"));
+  TRapport rapport(u"Essai"_s, u"Essai"_s);
   if (liste) {
-    TGrille grille({{QStringLiteral("Nom")}, {QStringLiteral("Total")}});
-    for (int i = 0; i < 3; ++i) grille.Ajouter({QStringLiteral("Zoé"), QStringLiteral("12,50")});
+    TGrille grille({{u"Nom"_s}, {u"Total"_s}});
+    for (int i = 0; i < 3; ++i) grille.Ajouter({u"Zoé"_s, u"12,50"_s});
     rapport.ChargerColonnesListe(grille);
     return rapport;
   }
-  TArbreRapport arbre(2, TNoeudRapport(QStringLiteral("Élève")));
+  TArbreRapport arbre(2, TNoeudRapport(u"Élève"_s));
   for (TNoeudRapport& eleve : arbre) {
-    eleve.Valeurs.Ecrire(u"NomEleve", QStringLiteral("Dupont <b>[Total]</b> l'aîné de la famille"));
-    eleve.Enfants.resize(2, TNoeudRapport(QStringLiteral("Section")));
-    for (TNoeudRapport& section : eleve.Enfants)
-      section.Ajouter({}).Valeurs.Ecrire(u"Total", QStringLiteral("1"));
+    eleve.Valeurs.Ecrire(u"NomEleve", u"Dupont <b>[Total]</b> l'aîné de la famille"_s);
+    eleve.Enfants.resize(2, TNoeudRapport(u"Section"_s));
+    for (TNoeudRapport& section : eleve.Enfants) section.Ajouter({}).Valeurs.Ecrire(u"Total", u"1"_s);
   }
   rapport.CopierArbre(std::move(arbre));
   return rapport;
@@ -60,11 +59,11 @@ TRapport PetitRapport(bool liste) {
 }  // namespace
 
 TCibles::TCibles() {
-  ModeleDocument(QStringLiteral("Facture"));  // the parts that templates share are at hand
+  ModeleDocument(u"Facture"_s);  // the parts that templates share are at hand
   TEcoleEssai ecole(base_);
-  ecole.tarif(Essai::Matin, Essai::TousLesJours, QStringLiteral("07:00"), QStringLiteral("08:30"),
-              Essai::Forfait, QStringLiteral("1"), Essai::ScanPresence);
-  ecole.unEleve().enClasse(QStringLiteral("P1"), QStringLiteral("A"));
+  ecole.tarif(Essai::Matin, Essai::TousLesJours, u"07:00"_s, u"08:30"_s, Essai::Forfait, u"1"_s,
+              Essai::ScanPresence);
+  ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
   essai_.Charger();
 }
 
@@ -76,7 +75,7 @@ void TCibles::Registre(const QByteArray& octets) {
   TControleur controleur(base, base_.Reglages, essai_.Fenetre, essai_.Horloge);
   try {
     TImportRegistre import(controleur);
-    if (import.Etape1(base_.Fichier(QStringLiteral("registre"), octets))) import.Etape2();
+    if (import.Etape1(base_.Fichier(u"registre"_s, octets))) import.Etape2();
   } catch (const Exception&) {
   }
 }
@@ -87,7 +86,7 @@ void TCibles::Presences(const QByteArray& octets) {
   TControleur controleur(base, base_.Reglages, essai_.Fenetre, essai_.Horloge);
   try {
     TImportPresences import(controleur);
-    import.ImporterFichier(base_.Fichier(QStringLiteral("scans"), octets));
+    import.ImporterFichier(base_.Fichier(u"scans"_s, octets));
     import.Etape2();
   } catch (const Exception&) {
   }
@@ -99,7 +98,7 @@ void TCibles::Rapport(const QByteArray& octets) {
   fichier += qCompress(octets, 1).mid(4);
   try {
     const TDocumentPrepare document = TDocumentPrepare::DepuisOctets(fichier);
-    document.Chercher(QStringLiteral("e"));
+    document.Chercher(u"e"_s);
     PdfEnOctets({&document}, document.Titre, {});
   } catch (const Exception&) {
   }
@@ -108,7 +107,7 @@ void TCibles::Rapport(const QByteArray& octets) {
 bool TCibles::Modele(const QByteArray& octets) {
   TModele modele;
   try {
-    modele = LireModele(octets, QStringLiteral("essai.xml"));
+    modele = LireModele(octets, u"essai.xml"_s);
   } catch (const Exception&) {
     return false;
   }
@@ -123,7 +122,7 @@ bool TCibles::Script(const QByteArray& octets) {
     TExecution execution(script, hote);
     for (int fois = 0; fois < 3; ++fois)
       for (const TProcedure& procedure : script.Arbre().Procedures) try {
-          execution.Appeler(procedure.Nom, QStringLiteral("Bande"));
+          execution.Appeler(procedure.Nom, u"Bande"_s);
         } catch (const EScript&) {
         }
     return true;

@@ -9,19 +9,20 @@
 #include "fuzz/cibles.h"
 #include "report/layout/document_prepare.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a saved report holds once decompressed.
 QByteArray RapportValide() {
   TDocumentPrepare document;
-  document.Titre = QStringLiteral("Facture");
+  document.Titre = u"Facture"_s;
   document.Defauts.resize(2);
   QImage image(3, 2, QImage::Format_ARGB32);
   image.fill(0x80112233);
   TPagePreparee& page = document.Pages.emplace_back();
-  page.Signets = {{QStringLiteral("P3 A"), 0}};
-  page.Elements = {TElementTexte{Former(QStringLiteral("Théâtre 12,50 €"), {}), 40, 60},
-                   TElementTrait{0, 0, 9, 9, 1},
+  page.Signets = {{u"P3 A"_s, 0}};
+  page.Elements = {TElementTexte{Former(u"Théâtre 12,50 €"_s, {}), 40, 60}, TElementTrait{0, 0, 9, 9, 1},
                    TElementCadre{{1, 2, 3, 4}, 1, 0xFF000000, 0xFF112233, 0xFF998877},
                    TElementImage{{0, 0, 9, 9}, std::make_shared<const QImage>(image)},
                    TElementBarres{{{1, 2, 3, 4}, {5, 2, 3, 4}}}};
@@ -33,10 +34,9 @@ QByteArray RapportValide() {
 
 /// The templates of the program, the parts that they share included.
 std::vector<QByteArray> Modeles() {
-  ModeleDocument(QStringLiteral("Facture"));  // attaches them
+  ModeleDocument(u"Facture"_s);  // attaches them
   std::vector<QByteArray> modeles;
-  for (const QFileInfo& fichier :
-       QDir(QStringLiteral(":/modeles")).entryInfoList({QStringLiteral("*.xml")})) {
+  for (const QFileInfo& fichier : QDir(u":/modeles"_s).entryInfoList({u"*.xml"_s})) {
     QFile modele(fichier.filePath());
     if (modele.open(QIODevice::ReadOnly)) modeles.push_back(modele.readAll());
   }

@@ -3,6 +3,8 @@
 #include "payments/communication_structuree.h"
 #include "support/dialogues_scenario.h"
 
+using namespace Qt::StringLiterals;
+
 TEST(CommunicationStructuree, Generateurs) {
   TDialoguesScenario dialogues;
   EXPECT_EQ(CommunicationServices(dialogues, 123, 10, 2016), u"+++001/2310/16185+++");
@@ -16,8 +18,7 @@ TEST(CommunicationStructuree, Generateurs) {
 TEST(CommunicationStructuree, IdentifiantTropGrand) {
   TDialoguesScenario dialogues;
   for (int i = 0; i < 3; ++i)
-    dialogues.Attend(
-        QStringLiteral("L'identifiant élève est trop grand pour générer une communication structurée !"));
+    dialogues.Attend(u"L'identifiant élève est trop grand pour générer une communication structurée !"_s);
   EXPECT_EQ(CommunicationServices(dialogues, 100000, 1, 2016), QString());
   EXPECT_EQ(CommunicationFrais(dialogues, 100000, 1, 2016), QString());
   EXPECT_EQ(CommunicationCompacte(dialogues, 100000, 1, 2016, false), QString());
@@ -39,7 +40,7 @@ TEST(CommunicationStructuree, Controle) {
   };
   for (const auto& [texte, valide] : cas)
     EXPECT_EQ(CommunicationValide(QString::fromUtf8(texte)), valide) << texte;
-  EXPECT_FALSE(CommunicationValide(QStringLiteral("٠٠١٢٣١٠١٦١٨٥")));  // digits, but not 0 to 9
+  EXPECT_FALSE(CommunicationValide(u"٠٠١٢٣١٠١٦١٨٥"_s));  // digits, but not 0 to 9
 }
 
 TEST(CommunicationStructuree, TexteInterieur) {

@@ -4,6 +4,8 @@
 #include "support/ecole_essai.h"
 #include "support/valeurs.h"
 
+using namespace Qt::StringLiterals;
+
 TEST(Activites, DuJourEtEnCours) {
   TBaseEssai base;
   TEcoleEssai ecole(base);
@@ -51,7 +53,7 @@ TEST(Activites, AllerEtRetour) {
   TBaseEssai base;
   TActivites activites(*base, 2016);
   auto activite = std::make_unique<TActivite>();
-  activite->Libelle = QStringLiteral("Échecs");
+  activite->Libelle = u"Échecs"_s;
   activite->HeureDebut = H("16:00");
   activite->HeureFin = H("17:00");
   activite->DateDebut = J("2016-10-03");

@@ -6,6 +6,8 @@
 #include "support/ecole_essai.h"
 #include "support/valeurs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TFraisEssai : testing::Test {
@@ -34,7 +36,7 @@ TEST_F(TFraisEssai, CatalogueEtElevesQuiDoivent) {
   EXPECT_EQ(Euros(liste.FraisParId(estimation)->TotalFrais()), "0.0000");
 
   auto nouveau = std::make_unique<TFrais>();
-  nouveau->Libelle = QStringLiteral("Théâtre");
+  nouveau->Libelle = u"Théâtre"_s;
   nouveau->TypeFrais = TTypeFrais::Eleves;
   nouveau->FlgService = true;
   TFrais& theatre = liste.Add(std::move(nouveau));
@@ -92,7 +94,7 @@ TEST_F(TFraisEssai, LignesDUnEleve) {
   EXPECT_EQ(lignes.LigneFrais(99), nullptr);
 
   auto virement = std::make_unique<TFraisEleve>();
-  virement->Remarque = QStringLiteral("Votre virement");
+  virement->Remarque = u"Votre virement"_s;
   virement->MontantVerse = Currency::Brut(123456);
   virement->DateVersement = J("2016-10-04");
   virement->ExtraitId = 12;

@@ -4,6 +4,8 @@
 #include "support/ecole_essai.h"
 #include "support/valeurs.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace Essai;
 
 namespace {
@@ -23,9 +25,8 @@ struct TTarifsEssai : testing::Test {
   std::string trouve(TGroupe groupe, const char* entree, const char* sortie, const char* date = kLundi) {
     const TClassement c = cherche(groupe, entree, sortie, date);
     return std::to_string(static_cast<int>(c.Famille)) +
-           (c.Tarif == nullptr
-                ? " -"
-                : HeureVersQt(c.Tarif->HeureDebutScan).toString(QStringLiteral(" hh:mm")).toStdString());
+           (c.Tarif == nullptr ? " -"
+                               : HeureVersQt(c.Tarif->HeureDebutScan).toString(u" hh:mm"_s).toStdString());
   }
   std::string cout(int famille, int scan, const char* entree, const char* sortie, bool deuxieme = false) {
     return Euros(tarifs->CoutPresence(static_cast<TTypeFamille>(famille), static_cast<TTypeScan>(scan),

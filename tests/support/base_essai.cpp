@@ -9,11 +9,13 @@
 #include <QSqlRecord>
 #include <QTime>
 
+using namespace Qt::StringLiterals;
+
 TBaseEssai::TBaseEssai() : TBaseEssai(QStringLiteral(CALPENNE_MODELE)) {}
 
 TBaseEssai::TBaseEssai(const QString& depart) {
   for (const auto scope : {QSettings::UserScope, QSettings::SystemScope})
-    QSettings(QSettings::NativeFormat, scope, QStringLiteral("Tarnvale"), QStringLiteral("Orbelin")).clear();
+    QSettings(QSettings::NativeFormat, scope, u"Tarnvale"_s, u"Orbelin"_s).clear();
   EXPECT_TRUE(QFile::copy(depart, FichierDeDonnees()));
   QFile::setPermissions(FichierDeDonnees(), QFile::ReadOwner | QFile::WriteOwner);
   module_.ServerName = FichierDeDonnees();
@@ -37,9 +39,9 @@ QStringList TBaseEssai::Rangees(const QString& sql) {
     for (int i = 0; i < requete.record().count(); ++i) {
       const QVariant valeur = requete.value(i);
       if (valeur.isNull())
-        valeurs += QStringLiteral("-");
+        valeurs += u"-"_s;
       else if (valeur.metaType().id() == QMetaType::QTime)
-        valeurs += valeur.toTime().toString(QStringLiteral("HH:mm:ss.zzz"));
+        valeurs += valeur.toTime().toString(u"HH:mm:ss.zzz"_s);
       else if (valeur.metaType().id() == QMetaType::Double)
         valeurs += QString::number(valeur.toDouble(), 'f', 4);
       else

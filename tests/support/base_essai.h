@@ -4,6 +4,8 @@
 #include "core/data_module.h"
 #include "support/dialogues_scenario.h"
 
+using namespace Qt::StringLiterals;
+
 /// An open database of the test's own, with the present layout and no rows, in a temporary folder.
 class TBaseEssai {
  public:
@@ -15,7 +17,7 @@ class TBaseEssai {
   TDataModule1* operator->() { return &module_; }
   /// Full path of a file of that name in the test's folder.
   QString Chemin(const QString& nom) const { return dossier_.filePath(nom); }
-  QString FichierDeDonnees() const { return Chemin(QStringLiteral("essai.fdb")); }
+  QString FichierDeDonnees() const { return Chemin(u"essai.fdb"_s); }
   /// Writes a file in the test's folder; returns its full path.
   QString Fichier(const QString& nom, const QByteArray& contenu) const;
   /// One value of a select statement; "" when it has no row or is NULL.

@@ -2,6 +2,8 @@
 #include "application/controleur.h"
 #include "support/ecole_essai.h"
 
+using namespace Qt::StringLiterals;
+
 /// A clock that stands where the test puts it.
 class THorlogeEssai : public THorloge {
  public:
@@ -14,20 +16,18 @@ class TFenetreEssai : public IFenetrePrincipale {
  public:
   void MontrerPage(TPage page, bool oui) override { Noter(oui ? u'+' : u'-', page); }
   void ActiverPage(TPage page) override { Noter(u'*', page); }
-  void MontrerCommande(TCommandePage, bool oui) override {
-    Faits += oui ? QStringLiteral("+bouton") : QStringLiteral("-bouton");
-  }
-  void MontrerArbre(bool oui) override { Faits += oui ? QStringLiteral("+arbre") : QStringLiteral("-arbre"); }
+  void MontrerCommande(TCommandePage, bool oui) override { Faits += oui ? u"+bouton"_s : u"-bouton"_s; }
+  void MontrerArbre(bool oui) override { Faits += oui ? u"+arbre"_s : u"-arbre"_s; }
   void SuspendreArbre(bool) override {}
   void DureeBulles(int) override {}
-  void ConstruireArbre() override { Faits += QStringLiteral("arbre"); }
+  void ConstruireArbre() override { Faits += u"arbre"_s; }
   void IntitulerAnnee(const QString& texte) override { Faits += texte; }
-  void CocherAnnee(int annee) override { Faits += QStringLiteral("coche %1").arg(annee); }
-  void OuvrirReservationTablette() override { Faits += QStringLiteral("tablette"); }
-  void OuvrirReservation() override { Faits += QStringLiteral("reservation"); }
-  void FermerEcran() override { Faits += QStringLiteral("ferme"); }
-  void QuitterChamp() override { Faits += QStringLiteral("quitte"); }
-  void Terminer() override { Faits += QStringLiteral("fin"); }
+  void CocherAnnee(int annee) override { Faits += u"coche %1"_s.arg(annee); }
+  void OuvrirReservationTablette() override { Faits += u"tablette"_s; }
+  void OuvrirReservation() override { Faits += u"reservation"_s; }
+  void FermerEcran() override { Faits += u"ferme"_s; }
+  void QuitterChamp() override { Faits += u"quitte"_s; }
+  void Terminer() override { Faits += u"fin"_s; }
 
   QStringList Faits;
 

@@ -1,6 +1,8 @@
 #pragma once
 #include "support/base_essai.h"
 
+using namespace Qt::StringLiterals;
+
 /// Presence kinds and tariff values by name, so that a test reads like a sentence.
 namespace Essai {
 enum { Garderie = 1, Repas = 2, Soupe = 3, Etude = 4 };
@@ -27,7 +29,7 @@ class TEleveEssai {
   /// A month marker of kind 1 to 3, month 1 to 12 of the school's year.
   TEleveEssai& marque(int type, int mois);
   /// A catalogue fee owed, with what was paid on it.
-  TEleveEssai& doit(int frais, const QString& verse = QStringLiteral("0"));
+  TEleveEssai& doit(int frais, const QString& verse = u"0"_s);
   /// A free payment; family 0 general, 1 fees, 2 services.
   TEleveEssai& paie(const QString& montant, int mois, int famille, const QString& libelle);
   /// A row of PAIEMENTS.
@@ -54,9 +56,9 @@ class TEcoleEssai {
   void parametre(int id, const QString& valeur);
   /// A tariff row; times "07:00". Returns its key.
   int tarif(int famille, int jour, const QString& debut, const QString& fin, int forfait, const QString& cout,
-            int scan, const QString& cout2e = QStringLiteral("0"));
-  int activite(const QString& debut, const QString& fin, const QString& du = QStringLiteral("2016-09-01"),
-               const QString& au = QStringLiteral("2017-06-30"));
+            int scan, const QString& cout2e = u"0"_s);
+  int activite(const QString& debut, const QString& fin, const QString& du = u"2016-09-01"_s,
+               const QString& au = u"2017-06-30"_s);
   /// A catalogue fee; flags among "previsionnel", "non_obligatoire", "service", joined by spaces.
   int frais(const QString& libelle, const QString& cout, int mois, const QString& drapeaux = {});
 

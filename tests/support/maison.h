@@ -4,6 +4,8 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 /// A private home for a test program, so that no test meets the user's own settings, locks or data.
 /// Made before the application object.
 class TMaison {
@@ -12,11 +14,9 @@ class TMaison {
     const QByteArray chemin = QFile::encodeName(dossier_.path());
     for (const char* nom : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "FIREBIRD_LOCK", "TEMP"})
       qputenv(nom, chemin);
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       dossier_.filePath(QStringLiteral("utilisateur")));
-    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
-                       dossier_.filePath(QStringLiteral("machine")));
-    QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, dossier_.filePath(u"utilisateur"_s));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope, dossier_.filePath(u"machine"_s));
+    QLocale::setDefault(QLocale(u"fr_BE"_s));
   }
 
  private:

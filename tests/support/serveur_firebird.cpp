@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kAttenteDemarrageMs = 10'000;
@@ -67,7 +69,7 @@ TServeurFirebird::~TServeurFirebird() {
   serveur_.waitForFinished();
 }
 
-QString TServeurFirebird::Nom() const { return QStringLiteral("127.0.0.1/%1").arg(port_); }
+QString TServeurFirebird::Nom() const { return u"127.0.0.1/%1"_s.arg(port_); }
 
 void TServeurFirebird::EcrireFichier(const QString& nom, const QString& contenu) const {
   QFile fichier(Chemin(nom));
@@ -80,9 +82,10 @@ void TServeurFirebird::PreparerRacine() const {
   for (const char* nom : {"plugins", "intl", "lib", "firebird.msg", "plugins.conf"})
     EXPECT_TRUE(
         QFile::link(installation.filePath(QString::fromLatin1(nom)), Chemin(QString::fromLatin1(nom))));
-  EXPECT_TRUE(QFile::copy(QStringLiteral(CALPENNE_MODELE), Chemin(QStringLiteral("presences.fdb"))));
-  QFile::setPermissions(Chemin(QStringLiteral("presences.fdb")), QFile::ReadOwner | QFile::WriteOwner);
-  EcrireFichier(QStringLiteral("firebird.conf"), QStringLiteral(R"(
+  EXPECT_TRUE(QFile::copy(QStringLiteral(CALPENNE_MODELE), Chemin(u"presences.fdb"_s)));
+  QFile::setPermissions(Chemin(u"presences.fdb"_s), QFile::ReadOwner | QFile::WriteOwner);
+  EcrireFichier(u"firebird.conf"_s,
+                uR"(
 RemoteServicePort = %1
 RemoteBindAddress = 127.0.0.1
 RemoteAuxPort = 0
@@ -95,17 +98,16 @@ UserManager = Srp
 WireCrypt = Enabled
 ServerMode = Super
 Providers = Engine12
-)")
-                                                     .arg(port_)
-                                                     .arg(racine_.path()));
-  EcrireFichier(QStringLiteral("databases.conf"), QStringLiteral(R"(
+)"_s.arg(port_)
+                    .arg(racine_.path()));
+  EcrireFichier(u"databases.conf"_s,
+                uR"(
 PRESENCES = %1/presences.fdb
 security.db = %1/securite.fdb
 {
   RemoteAccess = false
 }
-)")
-                                                      .arg(racine_.path()));
+)"_s.arg(racine_.path()));
 }
 
 void TServeurFirebird::CreerSecurite(const QString& motDePasse) const {
@@ -113,8 +115,8 @@ void TServeurFirebird::CreerSecurite(const QString& motDePasse) const {
   EXPECT_TRUE(tables.open(QIODevice::ReadOnly));
   QProcess isql;
   isql.setProcessEnvironment(Environnement(racine_.path()));
-  isql.start(QStringLiteral(FIREBIRD_ISQL), {QStringLiteral("-q"), QStringLiteral("-bail")});
-  isql.write("CREATE DATABASE '" + Chemin(QStringLiteral("securite.fdb")).toUtf8() + "' USER 'sysdba';\n");
+  isql.start(QStringLiteral(FIREBIRD_ISQL), {u"-q"_s, u"-bail"_s});
+  isql.write("CREATE DATABASE '" + Chemin(u"securite.fdb"_s).toUtf8() + "' USER 'sysdba';\n");
   isql.write(tables.readAll());
   isql.write("\nCOMMIT;\nCREATE OR ALTER USER sysdba PASSWORD '" + motDePasse.toUtf8() +
              "' USING PLUGIN Srp;\n");

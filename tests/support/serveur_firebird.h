@@ -2,6 +2,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 /// A real Firebird server of the test's own, on a free port of the loopback, that knows one database
 /// and one user. The database, PRESENCES, is an empty one with the present layout. The server ends
 /// with its object, and also with a test program that dies.
@@ -9,7 +11,7 @@ class TServeurFirebird {
  public:
   /// `motDePasse` is that of sysdba, by default the one that the program uses. A server that does
   /// not come up fails the test.
-  explicit TServeurFirebird(const QString& motDePasse = QStringLiteral("corvusnet"));
+  explicit TServeurFirebird(const QString& motDePasse = u"corvusnet"_s);
   ~TServeurFirebird();
   TServeurFirebird(const TServeurFirebird&) = delete;
   TServeurFirebird& operator=(const TServeurFirebird&) = delete;

@@ -13,6 +13,8 @@
 #include "ui/commun/dialogue_base.h"
 #include "ui/principal/barre_commandes.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kRegardMs = 5;
@@ -86,7 +88,7 @@ void TRepondeur::Regarder() {
 }
 
 TProgrammeEssai::TProgrammeEssai() {
-  Base.Reglages.Ecrire(TRacine::Machine, QStringLiteral("Serveur"), Base.FichierDeDonnees());
+  Base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, Base.FichierDeDonnees());
 }
 
 TProgrammeEssai::~TProgrammeEssai() {

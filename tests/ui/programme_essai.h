@@ -8,6 +8,8 @@
 #include "support/controleur_essai.h"
 #include "ui/principal/programme.h"
 
+using namespace Qt::StringLiterals;
+
 class QAbstractButton;
 
 /// Answers the program's dialogs by clicking and typing in them, in the order in which a test expects
@@ -18,11 +20,9 @@ class TRepondeur : public QObject {
   ~TRepondeur() override;
 
   /// A message with this text; OK is pressed.
-  TRepondeur& Attend(const QString& extrait) { return Clique(extrait, QStringLiteral("OK")); }
+  TRepondeur& Attend(const QString& extrait) { return Clique(extrait, u"OK"_s); }
   /// A question with this text; "Oui" or "Non" is pressed.
-  TRepondeur& Repond(const QString& extrait, bool oui) {
-    return Clique(extrait, oui ? QStringLiteral("Oui") : QStringLiteral("Non"));
-  }
+  TRepondeur& Repond(const QString& extrait, bool oui) { return Clique(extrait, oui ? u"Oui"_s : u"Non"_s); }
   /// The button with this caption is pressed.
   TRepondeur& Clique(const QString& extrait, const QString& bouton);
   /// The text is typed in the first field, then the primary button is pressed.

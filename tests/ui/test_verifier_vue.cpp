@@ -6,6 +6,8 @@
 
 #include "ui/verifier_vue.h"
 
+using namespace Qt::StringLiterals;
+
 TEST(VerifierVue, TrouveCeQuiManque) {
   QWidget vue;
   auto* ligne = new QHBoxLayout(&vue);
@@ -15,10 +17,10 @@ TEST(VerifierVue, TrouveCeQuiManque) {
     return champ;
   };
   ajouter(new QLineEdit, "sansNom");
-  ajouter(new QPushButton(QStringLiteral("Un long texte")), "etroit")->setFixedWidth(20);
-  ajouter(new QPushButton(QStringLiteral("Loin")), "loin")->setFocusPolicy(Qt::ClickFocus);
-  auto* dehors = new QPushButton(QStringLiteral("Dehors"), &vue);
-  dehors->setObjectName(QStringLiteral("dehors"));
+  ajouter(new QPushButton(u"Un long texte"_s), "etroit")->setFixedWidth(20);
+  ajouter(new QPushButton(u"Loin"_s), "loin")->setFocusPolicy(Qt::ClickFocus);
+  auto* dehors = new QPushButton(u"Dehors"_s, &vue);
+  dehors->setObjectName(u"dehors"_s);
   dehors->move(1100, 0);
   const QString fautes = FautesDeVue(vue).join(u'\n');
   for (const char* faute :

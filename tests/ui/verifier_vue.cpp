@@ -25,6 +25,8 @@
 
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize kContenu(1117, 560);
@@ -37,13 +39,13 @@ bool EstUn(const QObject* objet) {
 /// Made of parts by Qt itself: the parts are not controls of their own.
 bool EstCompose(const QObject* objet) {
   return EstUn<QComboBox, QLineEdit, QAbstractSpinBox, QCalendarWidget, QHeaderView, QScrollBar>(objet) ||
-         objet->objectName().startsWith(QStringLiteral("qt_"));
+         objet->objectName().startsWith(u"qt_"_s);
 }
 
 bool EstPartie(const QWidget* widget, const QWidget* vue) {
   for (const QObject* parent = widget->parent(); parent && parent != vue; parent = parent->parent())
     if (EstCompose(parent)) return true;
-  return EstUn<QScrollBar, QHeaderView>(widget) || widget->objectName().startsWith(QStringLiteral("qt_"));
+  return EstUn<QScrollBar, QHeaderView>(widget) || widget->objectName().startsWith(u"qt_"_s);
 }
 
 bool EstCommande(const QWidget* widget) {
@@ -59,9 +61,9 @@ QString Designer(const QWidget* widget) {
   if (const auto* libelle = qobject_cast<const QLabel*>(widget); libelle && texte.isEmpty())
     texte = libelle->text();
   const QWidget* parent = widget->parentWidget();
-  return QStringLiteral("%1 « %2 » dans %3")
-      .arg(QString::fromLatin1(widget->metaObject()->className()), texte,
-           parent ? QString::fromLatin1(parent->metaObject()->className()) : QString());
+  return u"%1 « %2 » dans %3"_s.arg(
+      QString::fromLatin1(widget->metaObject()->className()), texte,
+      parent ? QString::fromLatin1(parent->metaObject()->className()) : QString());
 }
 
 QList<QWidget*> Visibles(QWidget& vue) {
@@ -131,8 +133,7 @@ QStringList FautesDeVue(QWidget& vue) {
     const QSize moindre = vue.minimumSizeHint();
     if (QApplication::font().pointSize() <= 10 &&
         (moindre.width() > place.width() || moindre.height() > place.height()))
-      fautes +=
-          QStringLiteral("plus grand que la place : %1 x %2").arg(moindre.width()).arg(moindre.height());
+      fautes += u"plus grand que la place : %1 x %2"_s.arg(moindre.width()).arg(moindre.height());
     vue.resize(place);
   }
   vue.show();
@@ -141,14 +142,14 @@ QStringList FautesDeVue(QWidget& vue) {
 
   const QSet<const QWidget*> vus = Parcourir(vue);
   for (const QWidget* widget : Visibles(vue)) {
-    if (EstCoupe(widget)) fautes += QStringLiteral("coupé : ") + Designer(widget);
-    if (EstTropPetit(widget)) fautes += QStringLiteral("trop petit pour son texte : ") + Designer(widget);
+    if (EstCoupe(widget)) fautes += u"coupé : "_s + Designer(widget);
+    if (EstTropPetit(widget)) fautes += u"trop petit pour son texte : "_s + Designer(widget);
     if (!EstCommande(widget)) continue;
     QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
     if (!interface || interface->text(QAccessible::Name).trimmed().isEmpty())
-      fautes += QStringLiteral("sans nom : ") + Designer(widget);
+      fautes += u"sans nom : "_s + Designer(widget);
     if (widget->isEnabledTo(nullptr) && !vus.contains(widget) && !GroupeAtteint(widget, vus))
-      fautes += QStringLiteral("hors de portée de Tab : ") + Designer(widget);
+      fautes += u"hors de portée de Tab : "_s + Designer(widget);
   }
   return fautes;
 }

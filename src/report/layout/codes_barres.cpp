@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using TSymbole = std::unique_ptr<zint_symbol, decltype([](zint_symbol* s) { ZBarcode_Delete(s); })>;
@@ -22,10 +24,8 @@ struct TRegle {
 };
 
 TRegle Regle(TTypeCode type) {
-  if (type == TTypeCode::Codabar)
-    return {BARCODE_CODABAR, QLatin1String("Codabar"), QLatin1String("0123456789-$:/.+"), QLatin1String("A")};
-  return {BARCODE_CODE39, QLatin1String("Code 39"),
-          QLatin1String("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-. $/+%"), QLatin1String()};
+  if (type == TTypeCode::Codabar) return {BARCODE_CODABAR, "Codabar"_L1, "0123456789-$:/.+"_L1, "A"_L1};
+  return {BARCODE_CODE39, "Code 39"_L1, "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-. $/+%"_L1, QLatin1String()};
 }
 
 /// Null when the text cannot be encoded.
@@ -79,15 +79,13 @@ TCodeDessine DessinerCode(TTypeCode type, const QString& texte, const QRectF& pl
                           TAlignementTexte alignement) {
   const TRegle regle = Regle(type);
   const QString donnees = QString(texte).remove(u'-');
-  if (donnees.isEmpty()) return Refuser(QStringLiteral("Il n'y a rien à mettre dans le code à barres."));
+  if (donnees.isEmpty()) return Refuser(u"Il n'y a rien à mettre dans le code à barres."_s);
   for (const QChar c : donnees)
     if (!regle.Caracteres.contains(c))
-      return Refuser(
-          QStringLiteral("Le caractère « %1 » de « %2 » ne peut pas figurer dans un code à barres %3.")
-              .arg(QString(c), texte, regle.Nom));
+      return Refuser(u"Le caractère « %1 » de « %2 » ne peut pas figurer dans un code à barres %3."_s.arg(
+          QString(c), texte, regle.Nom));
   const TSymbole symbole = Encoder(regle.Symbologie, (regle.Bord % donnees % regle.Bord).toLatin1());
-  if (!symbole)
-    return Refuser(QStringLiteral("« %1 » est trop long pour un code à barres %2.").arg(texte, regle.Nom));
+  if (!symbole) return Refuser(u"« %1 » est trop long pour un code à barres %2."_s.arg(texte, regle.Nom));
 
   std::vector<TSuite> suites = Suites(*symbole, 0);
   if (!suites.back().Noir) suites.pop_back();  // the gap before a next character
@@ -97,8 +95,7 @@ TCodeDessine DessinerCode(TTypeCode type, const QString& texte, const QRectF& pl
   const auto tient = [&](int points) { return largeur(points) <= place.width() + kTolerance; };
   int points = std::max(kPointsMin, static_cast<int>(std::lround(static_cast<double>(module) / kPoint300)));
   while (points > kPointsMin && !tient(points)) --points;
-  if (!tient(points))
-    return Refuser(QStringLiteral("Le code à barres de « %1 » ne tient pas dans sa place.").arg(texte));
+  if (!tient(points)) return Refuser(u"Le code à barres de « %1 » ne tient pas dans sa place."_s.arg(texte));
 
   TCodeDessine code;
   const qreal unite = points * kPoint300;
@@ -112,13 +109,13 @@ TCodeDessine DessinerCode(TTypeCode type, const QString& texte, const QRectF& pl
 }
 
 TCodeDessine DessinerQr(const QString& texte, const QRectF& place) {
-  if (texte.isEmpty()) return Refuser(QStringLiteral("Il n'y a rien à mettre dans le code QR."));
+  if (texte.isEmpty()) return Refuser(u"Il n'y a rien à mettre dans le code QR."_s);
   constexpr int niveauM = 2;
   const TSymbole symbole = Encoder(BARCODE_QRCODE, texte.toUtf8(), niveauM);
-  if (!symbole) return Refuser(QStringLiteral("Le texte est trop long pour un code QR."));
+  if (!symbole) return Refuser(u"Le texte est trop long pour un code QR."_s);
   const qreal cote = std::min(place.width(), place.height());
   const int points = static_cast<int>((cote + kTolerance) / (symbole->width * kPoint300));
-  if (points < kPointsMin) return Refuser(QStringLiteral("Le code QR ne tient pas dans sa place."));
+  if (points < kPointsMin) return Refuser(u"Le code QR ne tient pas dans sa place."_s);
   const qreal unite = points * kPoint300;
   const QPointF coin = place.center() - QPointF(symbole->width, symbole->rows) * unite / 2;
   TCodeDessine code;

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr float kPremiereMinimum = 200;
@@ -12,14 +14,14 @@ constexpr float kPremiereMinimum = 200;
 constexpr float kBlancDernierMontant = 19;
 
 bool EstNombre(const QString& cellule) {
-  static const QRegularExpression nombre(QStringLiteral(R"(^-?\d[\d .\x{A0}\x{202F}]*(,\d+)?\s*€?$)"),
+  static const QRegularExpression nombre(uR"(^-?\d[\d .\x{A0}\x{202F}]*(,\d+)?\s*€?$)"_s,
                                          QRegularExpression::UseUnicodePropertiesOption);
   return nombre.match(cellule).hasMatch();
 }
 
 /// Blank cells say nothing; a column of blanks is no column of numbers.
 bool EstDeNombres(const TRapport& rapport, int colonne) {
-  const QString nom = QStringLiteral("COL%1").arg(colonne);
+  const QString nom = u"COL%1"_s.arg(colonne);
   bool nombres = false;
   for (const TNoeudRapport& ligne : rapport.Arbre()) {
     const QString cellule = ligne.Valeurs.Valeur(nom).trimmed();
@@ -42,7 +44,7 @@ float LargeurMinimum(const TRapport& rapport, int colonne, const QString& titre,
                      const TStylesColonnes& styles) {
   float largeur = PlusLongMot(titre, styles.Titre);
   if (place.Largeur <= 0) return 0;
-  const QString nom = QStringLiteral("COL%1").arg(colonne);
+  const QString nom = u"COL%1"_s.arg(colonne);
   for (const TNoeudRapport& ligne : rapport.Arbre()) {
     const QString cellule = ligne.Valeurs.Valeur(nom);
     largeur = std::max(largeur, place.Droite ? LargeurTexte(cellule.trimmed(), styles.Cellule)

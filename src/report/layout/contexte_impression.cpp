@@ -2,6 +2,8 @@
 
 #include "core/formats.h"
 
+using namespace Qt::StringLiterals;
+
 TContexteImpression::TContexteImpression(const TRapport& rapport, const TModele& modele,
                                          const TImpression& impression, std::vector<TDefaut>& defauts)
     : Rapport(rapport),
@@ -40,15 +42,15 @@ void TContexteImpression::Appeler(const QString& procedure, const QString& sende
   try {
     execution_->Appeler(procedure, sender);
   } catch (const EScript& e) {
-    Noter(bande, sender, QStringLiteral("script, ") + e.Message);
+    Noter(bande, sender, u"script, "_s + e.Message);
   }
 }
 
 void TContexteImpression::Noter(const TBandeModele& bande, const TObjetModele& objet,
                                 const QString& message) {
   QString nom = objet.Nom;
-  if (nom.isEmpty()) nom = QStringLiteral("ligne %1").arg(objet.Ligne);
-  if (objet.Nom.isEmpty() && objet.Fichier != Modele.Fichier) nom += QStringLiteral(" de ") + objet.Fichier;
+  if (nom.isEmpty()) nom = u"ligne %1"_s.arg(objet.Ligne);
+  if (objet.Nom.isEmpty() && objet.Fichier != Modele.Fichier) nom += u" de "_s + objet.Fichier;
   Noter(bande, nom, message);
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Baselines this near are one line: two sizes of type in one row differ by less, two rows by more.
@@ -75,11 +77,11 @@ struct TTextePlie {
   static QString Plier(QChar c) {
     switch (c.toCaseFolded().unicode()) {
       case u'œ':
-        return QStringLiteral("oe");
+        return u"oe"_s;
       case u'æ':
-        return QStringLiteral("ae");
+        return u"ae"_s;
       case u'’':
-        return QStringLiteral("'");
+        return u"'"_s;
       default:
         break;
     }

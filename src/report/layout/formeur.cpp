@@ -5,6 +5,8 @@
 
 #include "report/layout/codes_barres.h"
 
+using namespace Qt::StringLiterals;
+
 /// A visible object with its place on the band.
 struct TFormeur::TObjetPret {
   const TObjetModele* Modele;
@@ -69,10 +71,9 @@ TParagraphe TFormeur::Composer(const TObjetModele& objet, const TEtatObjet& etat
   const bool riche = objet.Sorte == TSorteObjet::TexteRiche;
   const TBalises balises{riche || objet.Balises, objet.Balises};
   // What a script set is a value: it stands where a name would.
-  const auto morceaux =
-      etat.Texte ? Remplacer(
-                       QStringLiteral("[]"), [&](const QString&) { return *etat.Texte; }, balises, debut)
-                 : Remplacer(objet.Texte, Resolveur(), balises, debut);
+  const auto morceaux = etat.Texte ? Remplacer(
+                                         u"[]"_s, [&](const QString&) { return *etat.Texte; }, balises, debut)
+                                   : Remplacer(objet.Texte, Resolveur(), balises, debut);
   if (colonne_ == nullptr || etat.Largeur > 0)
     return MettreEnLignes(morceaux, objet, etat.Largeur, etat.Hauteur);
   TObjetModele cellule = objet;
@@ -221,17 +222,14 @@ void TFormeur::Dessiner(const TBandeModele& bande, const TObjetPret& objet, TBan
 void TFormeur::NoterTexte(const TBandeModele& bande, const TObjetModele& objet,
                           const TParagraphe& paragraphe) {
   if (paragraphe.Deborde && !objet.Etirable)
-    contexte_.Noter(bande, objet,
-                    QStringLiteral("un texte est plus grand que sa place : « %1 ».").arg(Debut(paragraphe)));
-  if (paragraphe.MotCoupe)
-    contexte_.Noter(bande, objet, QStringLiteral("un mot plus large que sa place est coupé."));
+    contexte_.Noter(bande, objet, u"un texte est plus grand que sa place : « %1 »."_s.arg(Debut(paragraphe)));
+  if (paragraphe.MotCoupe) contexte_.Noter(bande, objet, u"un mot plus large que sa place est coupé."_s);
   for (const auto& ligne : paragraphe.Lignes)
     for (const TSegment& segment : ligne) {
       const QString& texte = segment.Forme->Texte;
       // Marks of numbers are in no font either. Once an object: the next rows would say the same.
       if (!segment.Forme->Incomplet || AvecNumeros(texte) || !illisibles_.insert(&objet).second) continue;
-      contexte_.Noter(bande, objet,
-                      QStringLiteral("aucune police n'a tous les caractères de « %1 ».").arg(texte));
+      contexte_.Noter(bande, objet, u"aucune police n'a tous les caractères de « %1 »."_s.arg(texte));
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kSousRapportsImbriques = 8;
@@ -234,7 +236,7 @@ void TMoteur::SousRapports(const TBandeModele& bande, int niveau, float x) {
     if (objet.Sorte != TSorteObjet::SousRapport || !contexte_.Etats.De(objet).Visible) continue;
     const auto page = std::ranges::find(contexte_.Modele.Pages, objet.Texte.trimmed(), &TPageModele::Nom);
     if (page == contexte_.Modele.Pages.end() || profondeur_ >= kSousRapportsImbriques) {
-      contexte_.Noter(bande, objet, QStringLiteral("le sous-rapport « %1 » manque.").arg(objet.Texte));
+      contexte_.Noter(bande, objet, u"le sous-rapport « %1 » manque."_s.arg(objet.Texte));
       continue;
     }
     ++profondeur_;
@@ -252,7 +254,7 @@ void TMoteur::SousRapports(const TBandeModele& bande, int niveau, float x) {
 void TMoteur::PoserSignet(TBandeFormee& bande) {
   if (bande.Signets.empty() || !contexte_.Impression.SignetsParClasse) return;
   for (TSignet& signet : bande.Signets) ++signet.Niveau;
-  const QString classe = contexte_.Valeur(QStringLiteral("Classe"));
+  const QString classe = contexte_.Valeur(u"Classe"_s);
   if (classe != classe_) bande.Signets.insert(bande.Signets.begin(), {classe, 0});
   classe_ = classe;
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr float kTolerance = 0.05F;
@@ -245,5 +247,5 @@ void TPagination::EcrireNumeros(const TNumerosPage& place, const QString& total)
 /// It stands over something all the same: a page with a fault is better than none.
 void TPagination::NoterTropHaute(const TBandeFormee& bande) {
   contexte_.Noter(*bande.Modele, bande.Modele->Nom,
-                  QStringLiteral("la bande est plus haute que la place qui reste sur une page."));
+                  u"la bande est plus haute que la place qui reste sur une page."_s);
 }

@@ -7,6 +7,8 @@
 #include "core/exceptions.h"
 #include "report/layout/fichiers_polices.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array kFamilles{"Carlito", "Liberation Mono"};
@@ -19,7 +21,7 @@ QString NomPostScript(hb_face_t* face) {
   char nom[128] = "";
   unsigned taille = sizeof nom;
   hb_ot_name_get_utf8(face, HB_OT_NAME_ID_POSTSCRIPT_NAME, HB_LANGUAGE_INVALID, &taille, nom);
-  return taille > 0 ? QString::fromUtf8(nom) : QStringLiteral("Police");
+  return taille > 0 ? QString::fromUtf8(nom) : u"Police"_s;
 }
 
 QByteArray Octets(const QString& chemin) {
@@ -36,7 +38,7 @@ TPolice::TPolice(QByteArray fichier, const QString& chemin) : fichier_(std::move
   hb_blob_destroy(octets);
   if (hb_face_get_glyph_count(face_) == 0) {
     hb_face_destroy(face_);
-    throw Exception(QStringLiteral("Le fichier %1 n'est pas une police de caractères.").arg(chemin));
+    throw Exception(u"Le fichier %1 n'est pas une police de caractères."_s.arg(chemin));
   }
   hb_face_make_immutable(face_);
   nom_ = NomPostScript(face_);
@@ -72,7 +74,7 @@ TPolices::TPolices(const TChercheur& chercher) {
       parStyle_[famille * 4 + style] =
           Choisir({QString::fromLatin1(kFamilles[famille]), (style & 2) != 0, (style & 1) != 0}, chercher);
   for (const bool gras : {false, true})
-    secours_[gras ? 1 : 0] = Charger(chercher({QStringLiteral("DejaVu Sans"), gras, false}));
+    secours_[gras ? 1 : 0] = Charger(chercher({u"DejaVu Sans"_s, gras, false}));
 }
 
 const TPolice* TPolices::Charger(const QString& chemin) {
@@ -84,17 +86,16 @@ const TPolice* TPolices::Charger(const QString& chemin) {
 
 const TPolice* TPolices::Choisir(const TDemandePolice& demande, const TChercheur& chercher) {
   if (const TPolice* police = Charger(chercher(demande))) return police;
-  for (const TDemandePolice& autre :
-       {TDemandePolice{QStringLiteral("Liberation Sans"), demande.Gras, demande.Italique},
-        TDemandePolice{{}, demande.Gras, demande.Italique}, TDemandePolice{}}) {
+  for (const TDemandePolice& autre : {TDemandePolice{u"Liberation Sans"_s, demande.Gras, demande.Italique},
+                                      TDemandePolice{{}, demande.Gras, demande.Italique}, TDemandePolice{}}) {
     const TPolice* police = Charger(chercher(autre));
     if (police == nullptr) continue;
     const QString manque =
-        QStringLiteral("La police %1 n'est pas installée : une autre la remplace.").arg(demande.Famille);
+        u"La police %1 n'est pas installée : une autre la remplace."_s.arg(demande.Famille);
     if (!manques_.contains(manque)) manques_.append(manque);
     return police;
   }
-  throw Exception(QStringLiteral("Aucune police de caractères n'est installée sur cet ordinateur."));
+  throw Exception(u"Aucune police de caractères n'est installée sur cet ordinateur."_s);
 }
 
 const TPolice& TPolices::Trouver(const TStyle& style) const { return *parStyle_[Rang(style)]; }

@@ -9,6 +9,8 @@
 #include "report/compression.h"
 #include "report/layout/document_prepare.h"
 
+using namespace Qt::StringLiterals;
+
 // A saved report: mark, version, size, then one compressed body. Numbers are little-endian, as every
 // processor that the program runs on has them. Runs are kept as text and style and shaped again when the
 // file is opened, so that another version of a font does no harm.
@@ -25,7 +27,7 @@ constexpr float kLongueurMax = 100'000.0F;  ///< px
 constexpr float kPageMax = 5'000.0F;        ///< px
 
 [[noreturn]] void Refuser() {
-  throw Exception(QStringLiteral("Ce fichier n'est pas un rapport enregistré, ou il est abîmé."));
+  throw Exception(u"Ce fichier n'est pas un rapport enregistré, ou il est abîmé."_s);
 }
 
 template <class T>
@@ -319,8 +321,7 @@ static_assert(std::endian::native == std::endian::little);
 
 QByteArray TDocumentPrepare::EnOctets() const {
   const std::string corps = TCorps().Octets(*this);
-  if (corps.size() > kTailleMax)
-    throw Exception(QStringLiteral("Ce rapport est trop grand pour être enregistré."));
+  if (corps.size() > kTailleMax) throw Exception(u"Ce rapport est trop grand pour être enregistré."_s);
   std::string octets(kMarque);
   octets += kVersion;
   const auto taille = static_cast<std::uint32_t>(corps.size());
@@ -333,7 +334,7 @@ TDocumentPrepare TDocumentPrepare::DepuisOctets(const QByteArray& octets) {
   const std::string_view tout(octets.constData(), static_cast<std::size_t>(octets.size()));
   if (octets.size() < kEntete || !tout.starts_with(kMarque)) Refuser();
   if (tout[kMarque.size()] != kVersion)
-    throw Exception(QStringLiteral("Ce rapport a été enregistré par une autre version du programme."));
+    throw Exception(u"Ce rapport a été enregistré par une autre version du programme."_s);
   const auto taille = Lu<std::uint32_t>(octets.constData() + kMarque.size() + 1);
   if (taille > kTailleMax) Refuser();
   const auto corps = Decompresser(tout.substr(kEntete), taille);
@@ -346,8 +347,7 @@ void TDocumentPrepare::Enregistrer(const QString& chemin) const { EcrireFichier(
 TDocumentPrepare TDocumentPrepare::Ouvrir(const QString& chemin) {
   QFile fichier(chemin);
   if (!fichier.open(QIODevice::ReadOnly))
-    throw Exception(
-        QStringLiteral("Impossible de lire le fichier %1 : %2").arg(chemin, fichier.errorString()));
+    throw Exception(u"Impossible de lire le fichier %1 : %2"_s.arg(chemin, fichier.errorString()));
   if (fichier.size() > kTailleMax) Refuser();
   return DepuisOctets(fichier.readAll());
 }

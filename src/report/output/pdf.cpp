@@ -4,6 +4,8 @@
 #include "core/fichiers.h"
 #include "report/output/pdf_pages.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TEntree {
@@ -83,7 +85,7 @@ class TFichierPdf {
   }
 
   std::string Terminer(const QString& titre, const QString& auteur) {
-    if (pages_.empty()) throw Exception(QStringLiteral("Il n'y a aucune page à mettre dans le fichier PDF."));
+    if (pages_.empty()) throw Exception(u"Il n'y a aucune page à mettre dans le fichier PDF."_s);
     ecrivain_.Objet(ressourcesObjet_, ressources_.Ecrire());
     std::string liste = "<</Type/Pages/Count " + std::to_string(pages_.size()) + "/Kids[";
     for (const int page : pages_) liste += Renvoi(page) + ' ';

@@ -7,6 +7,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::size_t kCodesMax = 0xFFFF;
@@ -37,9 +39,7 @@ TSousEnsemble Extraire(const TPolice& police, const std::vector<std::uint32_t>& 
   const TGarde<hb_subset_plan_t, hb_subset_plan_destroy> plan(
       hb_subset_plan_create_or_fail(police.Face(), demande.get()));
   const TGarde<hb_face_t, hb_face_destroy> face(plan ? hb_subset_plan_execute_or_fail(plan.get()) : nullptr);
-  if (!face)
-    throw Exception(
-        QStringLiteral("La police %1 ne peut pas être mise dans un fichier PDF.").arg(police.Nom()));
+  if (!face) throw Exception(u"La police %1 ne peut pas être mise dans un fichier PDF."_s.arg(police.Nom()));
   TSousEnsemble extrait;
   const TGarde<hb_blob_t, hb_blob_destroy> octets(hb_face_reference_blob(face.get()));
   unsigned taille = 0;

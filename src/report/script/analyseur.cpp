@@ -3,6 +3,8 @@
 #include "report/script/arbre.h"
 #include "report/script/lexeur.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kProfondeurMaximum = 100;
@@ -39,10 +41,10 @@ class TAnalyseur {
         LireVariables();
       else if (PrendreMot("procedure"))
         LireProcedure();
-      else if (Ici().Est(QLatin1String("begin")))
+      else if (Ici().Est("begin"_L1))
         LireFinDeScript();
       else
-        Refuser(QStringLiteral("« var » ou « procedure » est attendu, et non « %1 »").arg(Ici().Texte));
+        Refuser(u"« var » ou « procedure » est attendu, et non « %1 »"_s.arg(Ici().Texte));
     }
   }
 
@@ -51,7 +53,7 @@ class TAnalyseur {
   class TNiveau {
    public:
     explicit TNiveau(TAnalyseur& a) : a_(a) {
-      if (++a_.profondeur_ > kProfondeurMaximum) a_.Refuser(QStringLiteral("le script est trop imbriqué"));
+      if (++a_.profondeur_ > kProfondeurMaximum) a_.Refuser(u"le script est trop imbriqué"_s);
     }
     ~TNiveau() { --a_.profondeur_; }
     TNiveau(const TNiveau&) = delete;
@@ -74,22 +76,21 @@ class TAnalyseur {
     return true;
   }
   [[noreturn]] void Refuser(const QString& quoi) const {
-    throw EScript(QStringLiteral("ligne %1 : %2.").arg(Ici().Ligne).arg(quoi));
+    throw EScript(u"ligne %1 : %2."_s.arg(Ici().Ligne).arg(quoi));
   }
   void ExigerSigne(const char* signe) {
     if (!PrendreSigne(signe))
-      Refuser(QStringLiteral("« %1 » est attendu, et non « %2 »").arg(QLatin1String(signe), Ici().Texte));
+      Refuser(u"« %1 » est attendu, et non « %2 »"_s.arg(QLatin1String(signe), Ici().Texte));
   }
   void ExigerMot(const char* mot) {
     if (!PrendreMot(mot))
-      Refuser(QStringLiteral("« %1 » est attendu, et non « %2 »").arg(QLatin1String(mot), Ici().Texte));
+      Refuser(u"« %1 » est attendu, et non « %2 »"_s.arg(QLatin1String(mot), Ici().Texte));
   }
   QString ExigerNom(const QString& quoi) {
     for (const char* mot : kMotsRefuses)
       if (Ici().Est(QLatin1String(mot)))
-        Refuser(QStringLiteral("« %1 » n'existe pas dans les scripts des modèles").arg(Ici().Texte));
-    if (Ici().Sorte != TSorteLexeme::Nom)
-      Refuser(QStringLiteral("il faut %1, et non « %2 »").arg(quoi, Ici().Texte));
+        Refuser(u"« %1 » n'existe pas dans les scripts des modèles"_s.arg(Ici().Texte));
+    if (Ici().Sorte != TSorteLexeme::Nom) Refuser(u"il faut %1, et non « %2 »"_s.arg(quoi, Ici().Texte));
     return Prendre().Texte;
   }
 
@@ -97,39 +98,39 @@ class TAnalyseur {
     do {
       QStringList noms;
       do {
-        const QString nom = ExigerNom(QStringLiteral("un nom de variable"));
+        const QString nom = ExigerNom(u"un nom de variable"_s);
         if (!nom.startsWith(u"My", Qt::CaseInsensitive))
-          Refuser(QStringLiteral("le nom « %1 » doit commencer par « My »").arg(nom));
+          Refuser(u"le nom « %1 » doit commencer par « My »"_s.arg(nom));
         if (arbre_->Place(nom) >= 0 || noms.contains(nom, Qt::CaseInsensitive))
-          Refuser(QStringLiteral("la variable « %1 » est déclarée deux fois").arg(nom));
+          Refuser(u"la variable « %1 » est déclarée deux fois"_s.arg(nom));
         noms += nom;
       } while (PrendreSigne(","));
       ExigerSigne(":");
       const TValeurScript initiale = LireType();
       ExigerSigne(";");
       for (const QString& nom : noms) arbre_->Variables.push_back({nom, initiale});
-    } while (Ici().Sorte == TSorteLexeme::Nom && !Ici().Est(QLatin1String("procedure")) &&
-             !Ici().Est(QLatin1String("var")) && !Ici().Est(QLatin1String("begin")));
+    } while (Ici().Sorte == TSorteLexeme::Nom && !Ici().Est("procedure"_L1) && !Ici().Est("var"_L1) &&
+             !Ici().Est("begin"_L1));
   }
 
   TValeurScript LireType() {
-    if (PrendreMot("string")) return QString(QLatin1String(""));
+    if (PrendreMot("string")) return QString(""_L1);
     if (PrendreMot("boolean")) return false;
-    Refuser(QStringLiteral("une variable est « String » ou « Boolean », et non « %1 »").arg(Ici().Texte));
+    Refuser(u"une variable est « String » ou « Boolean », et non « %1 »"_s.arg(Ici().Texte));
   }
 
   void LireProcedure() {
     TProcedure procedure;
-    procedure.Nom = ExigerNom(QStringLiteral("un nom de procédure"));
+    procedure.Nom = ExigerNom(u"un nom de procédure"_s);
     if (arbre_->Procedure(procedure.Nom) != nullptr)
-      Refuser(QStringLiteral("la procédure « %1 » existe déjà").arg(procedure.Nom));
+      Refuser(u"la procédure « %1 » existe déjà"_s.arg(procedure.Nom));
     if (PrendreSigne("(")) {
       ExigerMot("Sender");
-      if (PrendreSigne(":")) ExigerNom(QStringLiteral("un type"));
+      if (PrendreSigne(":")) ExigerNom(u"un type"_s);
       ExigerSigne(")");
     }
     ExigerSigne(";");
-    if (!Ici().Est(QLatin1String("begin"))) ExigerMot("begin");
+    if (!Ici().Est("begin"_L1)) ExigerMot("begin");
     procedure.Corps = LireInstruction();
     ExigerSigne(";");
     arbre_->Procedures.push_back(std::move(procedure));
@@ -140,7 +141,7 @@ class TAnalyseur {
     ExigerMot("begin");
     ExigerMot("end");
     ExigerSigne(".");
-    if (Ici().Sorte != TSorteLexeme::Fin) Refuser(QStringLiteral("rien n'est attendu après « end. »"));
+    if (Ici().Sorte != TSorteLexeme::Fin) Refuser(u"rien n'est attendu après « end. »"_s);
   }
 
   TInstructionScript LireInstruction() {
@@ -151,7 +152,7 @@ class TAnalyseur {
       while (!PrendreMot("end")) {
         if (PrendreSigne(";")) continue;
         instruction.Suite.push_back(LireInstruction());
-        if (!Ici().Est(QLatin1String("end"))) ExigerSigne(";");
+        if (!Ici().Est("end"_L1)) ExigerSigne(";");
       }
       return instruction;
     }
@@ -167,7 +168,7 @@ class TAnalyseur {
   }
 
   TInstructionScript LireAffectation(TInstructionScript instruction) {
-    const QString nom = ExigerNom(QStringLiteral("une instruction"));
+    const QString nom = ExigerNom(u"une instruction"_s);
     if (PrendreSigne(".")) {
       instruction.Sorte = TSorteInstruction::Poser;
       if (nom.compare(u"Sender", Qt::CaseInsensitive) != 0) instruction.Objet = nom;
@@ -186,11 +187,11 @@ class TAnalyseur {
   TPropriete ExigerPropriete() {
     for (const auto& [nom, propriete] : kProprietes)
       if (PrendreMot(nom)) return propriete;
-    Refuser(QStringLiteral("« %1 » n'est pas une propriété").arg(Ici().Texte));
+    Refuser(u"« %1 » n'est pas une propriété"_s.arg(Ici().Texte));
   }
   std::size_t PlaceDe(const QString& nom) const {
     const int place = arbre_->Place(nom);
-    if (place < 0) Refuser(QStringLiteral("« %1 » n'est pas une variable du script").arg(nom));
+    if (place < 0) Refuser(u"« %1 » n'est pas une variable du script"_s.arg(nom));
     return static_cast<std::size_t>(place);
   }
 
@@ -217,7 +218,7 @@ class TAnalyseur {
   TFeuille LireSomme() {
     TFeuille gauche = LireTerme();
     for (int n = 0;; ++n) {
-      if (n > kProfondeurMaximum * 10) Refuser(QStringLiteral("l'expression est trop longue"));
+      if (n > kProfondeurMaximum * 10) Refuser(u"l'expression est trop longue"_s);
       if (PrendreSigne("+"))
         gauche = Noeud(TOperation::Plus, std::move(gauche), LireTerme());
       else if (PrendreMot("or"))
@@ -230,7 +231,7 @@ class TAnalyseur {
   TFeuille LireTerme() {
     TFeuille gauche = LireFacteur();
     for (int n = 0;; ++n) {
-      if (n > kProfondeurMaximum) Refuser(QStringLiteral("l'expression est trop longue"));
+      if (n > kProfondeurMaximum) Refuser(u"l'expression est trop longue"_s);
       if (PrendreMot("and"))
         gauche = Noeud(TOperation::Et, std::move(gauche), LireFacteur());
       else if (PrendreMot("mod"))
@@ -260,7 +261,7 @@ class TAnalyseur {
       noeud->Operation = TOperation::VariableRapport;
       noeud->Nom = lexeme.Texte;
     } else {
-      Refuser(QStringLiteral("une valeur est attendue, et non « %1 »").arg(lexeme.Texte));
+      Refuser(u"une valeur est attendue, et non « %1 »"_s.arg(lexeme.Texte));
     }
     return noeud;
   }
@@ -273,7 +274,7 @@ class TAnalyseur {
       noeud->Valeur = false;
     } else {
       noeud->Operation = TOperation::VariableScript;
-      noeud->Place = PlaceDe(ExigerNom(QStringLiteral("une valeur")));
+      noeud->Place = PlaceDe(ExigerNom(u"une valeur"_s));
     }
     return noeud;
   }

@@ -3,6 +3,8 @@
 #include "core/conversions.h"
 #include "report/script/arbre.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype kTexteMaximum = 100'000;  // characters
@@ -15,14 +17,14 @@ struct TExecution::TInterne {
   }
 
   [[noreturn]] static void Refuser(int ligne, const QString& quoi) {
-    throw EScript(QStringLiteral("ligne %1 : %2.").arg(ligne).arg(quoi));
+    throw EScript(u"ligne %1 : %2."_s.arg(ligne).arg(quoi));
   }
 
   const QString& Objet(const QString& nom) const { return nom.isEmpty() ? sender : nom; }
 
   static bool Vrai(const TExpression& e, const TValeurScript& valeur) {
     if (const bool* vrai = std::get_if<bool>(&valeur)) return *vrai;
-    Refuser(e.Ligne, QStringLiteral("une condition est attendue"));
+    Refuser(e.Ligne, u"une condition est attendue"_s);
   }
 
   /// A text that is a number in the school's form, "-12,50", counts as one.
@@ -32,7 +34,7 @@ struct TExecution::TInterne {
       if (const QString* texte = std::get_if<QString>(&valeur)) return StrToFloat(*texte);
     } catch (const EConvertError&) {
     }
-    Refuser(e.Ligne, QStringLiteral("un nombre est attendu"));
+    Refuser(e.Ligne, u"un nombre est attendu"_s);
   }
 
   /// A number that is joined to a text: no more decimals than it has.
@@ -43,8 +45,7 @@ struct TExecution::TInterne {
 
   /// A variable that doubles at each row must not take all memory.
   static QString Joindre(int ligne, const QString& gauche, const QString& droite) {
-    if (gauche.size() + droite.size() > kTexteMaximum)
-      Refuser(ligne, QStringLiteral("le texte devient trop long"));
+    if (gauche.size() + droite.size() > kTexteMaximum) Refuser(ligne, u"le texte devient trop long"_s);
     return gauche + droite;
   }
 
@@ -57,7 +58,7 @@ struct TExecution::TInterne {
 
   TValeurScript Modulo(const TExpression& e) {
     const double diviseur = std::trunc(Nombre(*e.Droite, Evaluer(*e.Droite)));
-    if (diviseur == 0.0) Refuser(e.Ligne, QStringLiteral("« mod » par zéro"));
+    if (diviseur == 0.0) Refuser(e.Ligne, u"« mod » par zéro"_s);
     return std::fmod(std::trunc(Nombre(*e.Gauche, Evaluer(*e.Gauche))), diviseur);
   }
 
@@ -86,7 +87,7 @@ struct TExecution::TInterne {
     if (const auto* vrai = std::get_if<bool>(&g))
       if (const auto* autre = std::get_if<bool>(&d)) return ComparerDe(e.Operation, *vrai, *autre);
     if (std::holds_alternative<bool>(g) || std::holds_alternative<bool>(d))
-      Refuser(e.Ligne, QStringLiteral("deux valeurs de sortes différentes ne se comparent pas"));
+      Refuser(e.Ligne, u"deux valeurs de sortes différentes ne se comparent pas"_s);
     return ComparerDe(e.Operation, Nombre(*e.Gauche, g), Nombre(*e.Droite, d));
   }
 
@@ -128,15 +129,15 @@ struct TExecution::TInterne {
       case TSorteInstruction::Affecter: {
         TValeurScript valeur = Evaluer(*instruction.Expression);
         if (valeur.index() != valeurs[instruction.Place].index())
-          Refuser(instruction.Ligne, QStringLiteral("« %1 » ne peut pas recevoir cette sorte de valeur")
-                                         .arg(arbre.Variables[instruction.Place].Nom));
+          Refuser(instruction.Ligne, u"« %1 » ne peut pas recevoir cette sorte de valeur"_s.arg(
+                                         arbre.Variables[instruction.Place].Nom));
         valeurs[instruction.Place] = std::move(valeur);
         break;
       }
       case TSorteInstruction::Poser:
         if (!hote.Poser(Objet(instruction.Objet), instruction.Propriete, Evaluer(*instruction.Expression)))
-          Refuser(instruction.Ligne, QStringLiteral("« %1.%2 » ne peut pas recevoir cette valeur")
-                                         .arg(Objet(instruction.Objet), NomPropriete(instruction.Propriete)));
+          Refuser(instruction.Ligne, u"« %1.%2 » ne peut pas recevoir cette valeur"_s.arg(
+                                         Objet(instruction.Objet), NomPropriete(instruction.Propriete)));
         break;
     }
   }
@@ -154,7 +155,7 @@ TExecution::~TExecution() = default;
 
 void TExecution::Appeler(const QString& procedure, const QString& sender) {
   const TProcedure* trouvee = d_->arbre.Procedure(procedure);
-  if (trouvee == nullptr) throw EScript(QStringLiteral("la procédure « %1 » n'existe pas.").arg(procedure));
+  if (trouvee == nullptr) throw EScript(u"la procédure « %1 » n'existe pas."_s.arg(procedure));
   d_->sender = sender;
   d_->Executer(trouvee->Corps);
 }
@@ -164,5 +165,5 @@ std::optional<QString> TExecution::Variable(const QString& nom) const {
   if (place < 0) return {};
   const TValeurScript& valeur = d_->valeurs[static_cast<std::size_t>(place)];
   if (const QString* texte = std::get_if<QString>(&valeur)) return *texte;
-  return std::get<bool>(valeur) ? QStringLiteral("1") : QStringLiteral("0");
+  return std::get<bool>(valeur) ? u"1"_s : u"0"_s;
 }

@@ -2,6 +2,8 @@
 
 #include "report/script/script.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool DebuteNom(QChar c) { return c.isLetter() || c == u'_'; }
@@ -21,7 +23,7 @@ class TLexeur {
   QChar Ici(qsizetype plus = 0) const { return i_ + plus < s_.size() ? s_[i_ + plus] : QChar(); }
   void Ajouter(TSorteLexeme sorte, const QString& texte) { lexemes_.push_back({sorte, texte, ligne_}); }
   [[noreturn]] void Refuser(const QString& quoi) const {
-    throw EScript(QStringLiteral("ligne %1 : %2").arg(ligne_).arg(quoi));
+    throw EScript(u"ligne %1 : %2"_s.arg(ligne_).arg(quoi));
   }
 
   void Avancer(qsizetype n = 1) {
@@ -31,7 +33,7 @@ class TLexeur {
 
   void PasserJusqua(QStringView fin) {
     const qsizetype ou = s_.indexOf(fin, i_);
-    if (ou < 0) Refuser(QStringLiteral("un commentaire n'est pas fermé."));
+    if (ou < 0) Refuser(u"un commentaire n'est pas fermé."_s);
     Avancer(ou + fin.size() - i_);
   }
 
@@ -87,14 +89,13 @@ class TLexeur {
         int code = 0;
         const qsizetype debut = i_;
         for (; Ici().isDigit() && code < 0x10000; ++i_) code = code * 10 + Ici().digitValue();
-        if (i_ == debut || code == 0 || code > 0xFFFF)
-          Refuser(QStringLiteral("« # » attend le numéro d'un caractère."));
+        if (i_ == debut || code == 0 || code > 0xFFFF) Refuser(u"« # » attend le numéro d'un caractère."_s);
         texte += QChar(code);
         continue;
       }
       ++i_;
       for (;; ++i_) {
-        if (i_ >= s_.size() || s_[i_] == u'\n') Refuser(QStringLiteral("un texte n'est pas fermé."));
+        if (i_ >= s_.size() || s_[i_] == u'\n') Refuser(u"un texte n'est pas fermé."_s);
         if (s_[i_] != u'\'') {
           texte += s_[i_];
         } else if (Ici(1) == u'\'') {
@@ -113,11 +114,10 @@ class TLexeur {
   bool LireVariable() {
     if (!lexemes_.empty()) {
       const TLexeme& avant = lexemes_.back();
-      const bool motCle = avant.Est(QLatin1String("if")) || avant.Est(QLatin1String("and")) ||
-                          avant.Est(QLatin1String("or")) || avant.Est(QLatin1String("not")) ||
-                          avant.Est(QLatin1String("mod"));
+      const bool motCle = avant.Est("if"_L1) || avant.Est("and"_L1) || avant.Est("or"_L1) ||
+                          avant.Est("not"_L1) || avant.Est("mod"_L1);
       if (avant.Sorte != TSorteLexeme::Signe && !motCle) return false;
-      if (avant.EstSigne(QLatin1String(")"))) return false;
+      if (avant.EstSigne(")"_L1)) return false;
     }
     qsizetype fin = i_ + 1;
     while (fin < s_.size() && (SuiteNom(s_[fin]) || s_[fin] == u'#')) ++fin;
@@ -136,7 +136,7 @@ class TLexeur {
       return;
     }
     if (!QStringView(u"=<>+-();:.,").contains(s_[i_]))
-      Refuser(QStringLiteral("« %1 » n'est pas un signe des scripts.").arg(s_[i_]));
+      Refuser(u"« %1 » n'est pas un signe des scripts."_s.arg(s_[i_]));
     Ajouter(TSorteLexeme::Signe, s_[i_]);
     ++i_;
   }

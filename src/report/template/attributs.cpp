@@ -3,6 +3,8 @@
 #include <QColor>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr float kNombreMaximum = 20000.0F;
@@ -28,7 +30,7 @@ float TAttributs::Nombre(const char* nom, float defaut) {
   bool ok = false;
   const float valeur = texte.toFloat(&ok);
   if (!ok || !std::isfinite(valeur) || std::abs(valeur) > kNombreMaximum)
-    refuser_(QStringLiteral("« %1 » n'est pas un nombre (attribut « %2 »)").arg(texte, QLatin1String(nom)));
+    refuser_(u"« %1 » n'est pas un nombre (attribut « %2 »)"_s.arg(texte, QLatin1String(nom)));
   return valeur;
 }
 
@@ -37,9 +39,9 @@ int TAttributs::Entier(const char* nom, int defaut) {
 }
 
 bool TAttributs::OuiNon(const char* nom, bool defaut) {
-  const QString texte = Texte(nom, defaut ? QStringLiteral("oui") : QStringLiteral("non"));
+  const QString texte = Texte(nom, defaut ? u"oui"_s : u"non"_s);
   if (texte != u"oui" && texte != u"non")
-    refuser_(QStringLiteral("l'attribut « %1 » est « oui » ou « non »").arg(QLatin1String(nom)));
+    refuser_(u"l'attribut « %1 » est « oui » ou « non »"_s.arg(QLatin1String(nom)));
   return texte == u"oui";
 }
 
@@ -48,11 +50,11 @@ QRgb TAttributs::Couleur(const char* nom, QRgb defaut) {
   if (texte.isEmpty()) return defaut;
   const QColor couleur(texte);
   if (!texte.startsWith(u'#') || !couleur.isValid())
-    refuser_(QStringLiteral("« %1 » n'est pas une couleur (attribut « %2 »)").arg(texte, QLatin1String(nom)));
+    refuser_(u"« %1 » n'est pas une couleur (attribut « %2 »)"_s.arg(texte, QLatin1String(nom)));
   return couleur.rgb();
 }
 
 void TAttributs::Finir() const {
   if (!restants_.isEmpty())
-    refuser_(QStringLiteral("l'attribut « %1 » n'existe pas ici").arg(restants_.keyBegin().base().key()));
+    refuser_(u"l'attribut « %1 » n'existe pas ici"_s.arg(restants_.keyBegin().base().key()));
 }

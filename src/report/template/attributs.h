@@ -4,6 +4,8 @@
 #include <QXmlStreamReader>
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 /// The attributes of one element of a template. Each is taken by name; what nobody took is a mistake.
 class TAttributs {
  public:
@@ -27,9 +29,9 @@ class TAttributs {
     QString mots;
     for (const auto& [texte, valeur] : table) {
       if (mot == QLatin1String(texte)) return valeur;
-      mots += (mots.isEmpty() ? QLatin1String("") : QLatin1String(", ")) + QLatin1String(texte);
+      mots += (mots.isEmpty() ? ""_L1 : ", "_L1) + QLatin1String(texte);
     }
-    refuser_(QStringLiteral("l'attribut « %1 » est l'un de : %2").arg(QLatin1String(nom), mots));
+    refuser_(u"l'attribut « %1 » est l'un de : %2"_s.arg(QLatin1String(nom), mots));
     return table[0].second;
   }
   /// Raises when an attribute has not been taken.

@@ -6,6 +6,8 @@
 #include "report/template/attributs.h"
 #include "report/template/verification.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 kTailleMaximum = 8 * 1024 * 1024;
@@ -53,21 +55,19 @@ bool EstNomSimple(const QString& nom) {
 }
 
 TFichierModele OuvrirFichier(const QString& nom, const QString& dossier) {
-  if (!EstNomSimple(nom)) throw Exception(QStringLiteral("« %1 » n'est pas un nom de modèle.").arg(nom));
+  if (!EstNomSimple(nom)) throw Exception(u"« %1 » n'est pas un nom de modèle."_s.arg(nom));
   QStringList chemins;
-  if (!dossier.isEmpty()) chemins += QDir(dossier).filePath(nom + QStringLiteral(".xml"));
-  chemins += QStringLiteral(":/modeles/") + nom + QStringLiteral(".xml");
+  if (!dossier.isEmpty()) chemins += QDir(dossier).filePath(nom + u".xml"_s);
+  chemins += u":/modeles/"_s + nom + u".xml"_s;
   for (const QString& chemin : chemins) {
     QFile fichier(chemin);
     if (!fichier.exists()) continue;
-    if (fichier.size() > kTailleMaximum)
-      throw Exception(QStringLiteral("Le modèle « %1 » est trop grand.").arg(chemin));
+    if (fichier.size() > kTailleMaximum) throw Exception(u"Le modèle « %1 » est trop grand."_s.arg(chemin));
     if (!fichier.open(QIODevice::ReadOnly))
-      throw Exception(
-          QStringLiteral("Le modèle « %1 » ne peut pas être lu : %2").arg(chemin, fichier.errorString()));
-    return {chemin.startsWith(u':') ? nom + QStringLiteral(".xml") : chemin, fichier.readAll()};
+      throw Exception(u"Le modèle « %1 » ne peut pas être lu : %2"_s.arg(chemin, fichier.errorString()));
+    return {chemin.startsWith(u':') ? nom + u".xml"_s : chemin, fichier.readAll()};
   }
-  throw Exception(QStringLiteral("Le modèle « %1 » n'existe pas.").arg(nom));
+  throw Exception(u"Le modèle « %1 » n'existe pas."_s.arg(nom));
 }
 
 /// Reads one file, and those that it includes, into a template.
@@ -106,10 +106,8 @@ class TLecteurModele {
 
  private:
   [[noreturn]] void Refuser(const QString& raison, qint64 ligne = 0) const {
-    throw Exception(QStringLiteral("%1, ligne %2 : %3.")
-                        .arg(fichier_.nom)
-                        .arg(ligne > 0 ? ligne : xml_.lineNumber())
-                        .arg(raison));
+    throw Exception(
+        u"%1, ligne %2 : %3."_s.arg(fichier_.nom).arg(ligne > 0 ? ligne : xml_.lineNumber()).arg(raison));
   }
   TAttributs Attributs() const {
     return TAttributs(xml_, [this](const QString& raison) { Refuser(raison); });
@@ -117,14 +115,13 @@ class TLecteurModele {
 
   void Avancer() {
     xml_.readNext();
-    if (xml_.hasError())
-      Refuser(QStringLiteral("le texte n'est pas du XML correct (%1)").arg(xml_.errorString()));
-    if (xml_.isDTD()) Refuser(QStringLiteral("une déclaration de type n'a pas sa place dans un modèle"));
+    if (xml_.hasError()) Refuser(u"le texte n'est pas du XML correct (%1)"_s.arg(xml_.errorString()));
+    if (xml_.isDTD()) Refuser(u"une déclaration de type n'a pas sa place dans un modèle"_s);
   }
   void Racine(const char* nom) {
     while (!xml_.isStartElement()) Avancer();
     if (xml_.name() != QLatin1String(nom))
-      Refuser(QStringLiteral("« %1 » est attendu, et non « %2 »").arg(QLatin1String(nom), xml_.name()));
+      Refuser(u"« %1 » est attendu, et non « %2 »"_s.arg(QLatin1String(nom), xml_.name()));
   }
   /// Goes to the next child element; false at the end of the parent. Text between elements is refused.
   bool Enfant() {
@@ -133,7 +130,7 @@ class TLecteurModele {
       if (xml_.isStartElement()) return true;
       if (xml_.isEndElement()) return false;
       if (xml_.isCharacters() && !xml_.isWhitespace())
-        Refuser(QStringLiteral("le texte « %1 » n'a pas sa place ici").arg(xml_.text().trimmed().left(40)));
+        Refuser(u"le texte « %1 » n'a pas sa place ici"_s.arg(xml_.text().trimmed().left(40)));
     }
   }
   QString Contenu() {
@@ -141,7 +138,7 @@ class TLecteurModele {
     for (;;) {
       Avancer();
       if (xml_.isEndElement()) return texte;
-      if (xml_.isStartElement()) Refuser(QStringLiteral("« %1 » n'a pas sa place ici").arg(xml_.name()));
+      if (xml_.isStartElement()) Refuser(u"« %1 » n'a pas sa place ici"_s.arg(xml_.name()));
       if (xml_.isCharacters()) texte += xml_.text();
     }
   }
@@ -151,9 +148,9 @@ class TLecteurModele {
     const QString nom = attributs.Texte("modele");
     attributs.Finir();
     if (profondeur_ >= kInclusionsImbriquees || ++inclusions_ > kInclusions)
-      Refuser(QStringLiteral("trop de modèles s'incluent l'un l'autre"));
+      Refuser(u"trop de modèles s'incluent l'un l'autre"_s);
     const qint64 ligne = xml_.lineNumber();
-    if (!Contenu().trimmed().isEmpty()) Refuser(QStringLiteral("« inclure » est vide"));
+    if (!Contenu().trimmed().isEmpty()) Refuser(u"« inclure » est vide"_s);
     TFichierModele partie;
     try {
       partie = OuvrirFichier(nom, dossier_);
@@ -173,7 +170,7 @@ class TLecteurModele {
       else if (xml_.name() == u"inclure")
         Inclure(nullptr, nullptr);
       else
-        Refuser(QStringLiteral("« %1 » n'a pas sa place dans un modèle").arg(xml_.name()));
+        Refuser(u"« %1 » n'a pas sa place dans un modèle"_s.arg(xml_.name()));
     }
   }
 
@@ -185,7 +182,7 @@ class TLecteurModele {
       if (!modele_.Script) modele_.Script = TScript::Lire({});
       modele_.Script->Ajouter(texte, ligne, fichier_.nom);
     } catch (const EScript& e) {
-      throw Exception(QStringLiteral("%1, %2").arg(fichier_.nom, e.Message));
+      throw Exception(u"%1, %2"_s.arg(fichier_.nom, e.Message));
     }
   }
 
@@ -199,7 +196,7 @@ class TLecteurModele {
     page.SousRapport = a.OuiNon("sousRapport", false);
     a.Finir();
     if (page.Largeur <= 2 * page.Marge || page.Hauteur <= 2 * page.Marge || page.Marge < 0)
-      Refuser(QStringLiteral("la page n'a pas de place entre ses marges"));
+      Refuser(u"la page n'a pas de place entre ses marges"_s);
     LireContenuPage(page);
     modele_.Pages.push_back(std::move(page));
   }
@@ -213,7 +210,7 @@ class TLecteurModele {
       else if (xml_.name() == u"script")
         LireScript();
       else
-        Refuser(QStringLiteral("« %1 » n'a pas sa place dans une page").arg(xml_.name()));
+        Refuser(u"« %1 » n'a pas sa place dans une page"_s.arg(xml_.name()));
     }
   }
 
@@ -243,11 +240,11 @@ class TLecteurModele {
     bande.Signet = a.Texte("signet");
     bande.NiveauSignet = a.Entier("niveauSignet", 0);
     a.Finir();
-    if (bande.Nom.isEmpty()) Refuser(QStringLiteral("une bande porte un nom"));
+    if (bande.Nom.isEmpty()) Refuser(u"une bande porte un nom"_s);
     if (bande.Hauteur < 0 || bande.Hauteur > page.Hauteur - 2 * page.Marge)
-      Refuser(QStringLiteral("la bande « %1 » est plus haute que la page").arg(bande.Nom));
+      Refuser(u"la bande « %1 » est plus haute que la page"_s.arg(bande.Nom));
     if (bande.Colonnes < 1 || bande.Colonnes > 20 || (bande.Colonnes > 1 && bande.LargeurColonne <= 0))
-      Refuser(QStringLiteral("les colonnes de la bande « %1 » ne sont pas décrites").arg(bande.Nom));
+      Refuser(u"les colonnes de la bande « %1 » ne sont pas décrites"_s.arg(bande.Nom));
     LireContenuBande(page, bande);
     page.Bandes.push_back(std::move(bande));
   }
@@ -269,7 +266,7 @@ class TLecteurModele {
       objet.Sorte = sorte;
       connu = true;
     }
-    if (!connu) Refuser(QStringLiteral("« %1 » n'a pas sa place dans une bande").arg(xml_.name()));
+    if (!connu) Refuser(u"« %1 » n'a pas sa place dans une bande"_s.arg(xml_.name()));
     TAttributs a = Attributs();
     objet.Fichier = fichier_.nom;
     objet.Ligne = static_cast<int>(xml_.lineNumber());
@@ -287,8 +284,7 @@ class TLecteurModele {
     a.Finir();
     objet.Texte = Contenu();
     if (objet.Sorte == TSorteObjet::Image) LireImage(objet, image);
-    if (objet.Largeur < 0 || objet.Hauteur < 0)
-      Refuser(QStringLiteral("un objet n'a pas de taille négative"));
+    if (objet.Largeur < 0 || objet.Hauteur < 0) Refuser(u"un objet n'a pas de taille négative"_s);
     bande.Objets.push_back(std::move(objet));
   }
 
@@ -319,7 +315,7 @@ class TLecteurModele {
         objet.Interligne = a.Nombre("interligne", 0);
         objet.GroupeAjuste = a.Texte("groupeAjuste");
         if (objet.Style.Taille < 1 || objet.Style.Taille > 400)
-          Refuser(QStringLiteral("la taille des lettres va de 1 à 400"));
+          Refuser(u"la taille des lettres va de 1 à 400"_s);
         return {};
       case TSorteObjet::CodeBarres:
         objet.TypeCode = a.Choix("type", kTypesCode);
@@ -339,19 +335,18 @@ class TLecteurModele {
     QByteArray octets = QByteArray::fromBase64(objet.Texte.toLatin1());
     objet.Texte.clear();
     if (!nom.isEmpty()) {
-      if (!EstNomSimple(nom))
-        Refuser(QStringLiteral("« %1 » n'est pas un nom d'image").arg(nom), objet.Ligne);
+      if (!EstNomSimple(nom)) Refuser(u"« %1 » n'est pas un nom d'image"_s.arg(nom), objet.Ligne);
       QFile fichier(QDir(dossier_).filePath(nom));
-      if (dossier_.isEmpty() || !fichier.exists()) fichier.setFileName(QStringLiteral(":/modeles/") + nom);
-      if (!fichier.exists()) Refuser(QStringLiteral("l'image « %1 » manque").arg(nom), objet.Ligne);
+      if (dossier_.isEmpty() || !fichier.exists()) fichier.setFileName(u":/modeles/"_s + nom);
+      if (!fichier.exists()) Refuser(u"l'image « %1 » manque"_s.arg(nom), objet.Ligne);
       if (fichier.size() > kTailleMaximum || !fichier.open(QIODevice::ReadOnly))
-        Refuser(QStringLiteral("l'image « %1 » ne peut pas être lue").arg(nom), objet.Ligne);
+        Refuser(u"l'image « %1 » ne peut pas être lue"_s.arg(nom), objet.Ligne);
       octets = fichier.readAll();
     }
     if (octets.isEmpty()) return;  // a place for a picture that the program gives
     auto image = std::make_shared<QImage>();
     if (!image->loadFromData(octets) || image->width() > kImageMaximum || image->height() > kImageMaximum)
-      Refuser(QStringLiteral("l'image ne peut pas être lue"), objet.Ligne);
+      Refuser(u"l'image ne peut pas être lue"_s, objet.Ligne);
     objet.Image = std::move(image);
   }
 

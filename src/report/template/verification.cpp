@@ -5,6 +5,8 @@
 
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char* kMotsDeListe = "maitre, entete, pied, colonnes, enteteColonnes, resume";
@@ -59,8 +61,7 @@ class TVerification {
   explicit TVerification(const TModele& modele) : modele_(modele) {}
 
   void Tout() {
-    if (modele_.Pages.empty())
-      throw Exception(QStringLiteral("%1 : le modèle n'a pas de page.").arg(modele_.Fichier));
+    if (modele_.Pages.empty()) throw Exception(u"%1 : le modèle n'a pas de page."_s.arg(modele_.Fichier));
     for (const TPageModele& page : modele_.Pages)
       for (const TBandeModele& bande : page.Bandes) Bande(page, bande);
     if (modele_.Script) References();
@@ -70,7 +71,7 @@ class TVerification {
   /// Of a band, an object or a reference of the script.
   template <class T>
   [[noreturn]] static void Refuser(const T& chose, const QString& raison) {
-    throw Exception(QStringLiteral("%1, ligne %2 : %3.").arg(chose.Fichier).arg(chose.Ligne).arg(raison));
+    throw Exception(u"%1, ligne %2 : %3."_s.arg(chose.Fichier).arg(chose.Ligne).arg(raison));
   }
 
   void Bande(const TPageModele& page, const TBandeModele& bande) {
@@ -78,8 +79,8 @@ class TVerification {
     Procedure(bande);
     for (const TReserve& reserve : Reserves())
       if (reserve.Posee(bande) && std::ranges::count(reserve.Sortes, bande.Sorte) == 0)
-        Refuser(bande, QStringLiteral("« %1 » est pour : %2")
-                           .arg(QLatin1String(reserve.Attribut), QLatin1String(reserve.Mots)));
+        Refuser(bande,
+                u"« %1 » est pour : %2"_s.arg(QLatin1String(reserve.Attribut), QLatin1String(reserve.Mots)));
     Jeu(page, bande);
     for (const TObjetModele& objet : bande.Objets) {
       Nom(objet, objet.Sorte);
@@ -92,7 +93,7 @@ class TVerification {
   void Nom(const T& chose, std::optional<TSorteObjet> sorte) {
     if (chose.Nom.isEmpty()) return;
     if (noms_.contains(chose.Nom.toLower()))
-      Refuser(chose, QStringLiteral("deux objets portent le nom « %1 »").arg(chose.Nom));
+      Refuser(chose, u"deux objets portent le nom « %1 »"_s.arg(chose.Nom));
     noms_.insert(chose.Nom.toLower(), sorte);
   }
 
@@ -100,23 +101,22 @@ class TVerification {
   void Procedure(const T& chose) const {
     const QString& nom = chose.AvantImpression;
     if (!nom.isEmpty() && !(modele_.Script && modele_.Script->ConnaitProcedure(nom)))
-      Refuser(chose, QStringLiteral("la procédure « %1 » n'existe pas dans le script").arg(nom));
+      Refuser(chose, u"la procédure « %1 » n'existe pas dans le script"_s.arg(nom));
   }
 
   /// A head without rows of its own is printed once; a foot would never be.
   void Jeu(const TPageModele& page, const TBandeModele& bande) const {
     if (bande.Jeu.isEmpty()) {
       if (bande.Sorte == TSorteBande::Pied)
-        Refuser(bande, QStringLiteral("le pied « %1 » n'a pas de « jeu »").arg(bande.Nom));
+        Refuser(bande, u"le pied « %1 » n'a pas de « jeu »"_s.arg(bande.Nom));
       return;
     }
     const bool connu = std::ranges::any_of(page.Bandes, [&](const TBandeModele& autre) {
       return EstDeDonnees(autre.Sorte) && autre.Nom.compare(bande.Jeu, Qt::CaseInsensitive) == 0;
     });
     if (!connu)
-      Refuser(bande,
-              QStringLiteral("la page n'a pas de bande maitre, detail ou sousDetail « %1 » (jeu de « %2 »)")
-                  .arg(bande.Jeu, bande.Nom));
+      Refuser(bande, u"la page n'a pas de bande maitre, detail ou sousDetail « %1 » (jeu de « %2 »)"_s.arg(
+                         bande.Jeu, bande.Nom));
   }
 
   /// Its bands follow the one that names it, which those of the page's edge and of columns cannot have.
@@ -125,21 +125,20 @@ class TVerification {
     if (objet.Sorte != TSorteObjet::SousRapport) return;
     for (const TSorteBande sorte : {EntetePage, PiedPage, Colonnes, EnteteColonnes})
       if (bande.Sorte == sorte)
-        Refuser(objet, QStringLiteral("la bande « %1 » ne peut pas avoir de sous-rapport").arg(bande.Nom));
+        Refuser(objet, u"la bande « %1 » ne peut pas avoir de sous-rapport"_s.arg(bande.Nom));
     const QString nom = objet.Texte.trimmed();
     const bool connu = std::ranges::any_of(
         modele_.Pages, [&](const TPageModele& page) { return page.SousRapport && page.Nom == nom; });
-    if (!connu) Refuser(objet, QStringLiteral("aucune page n'est le sous-rapport « %1 »").arg(nom));
+    if (!connu) Refuser(objet, u"aucune page n'est le sous-rapport « %1 »"_s.arg(nom));
   }
 
   void References() const {
     for (const TScript::TReference& reference : modele_.Script->References()) {
       const auto sorte = noms_.constFind(reference.Objet.toLower());
       if (sorte == noms_.constEnd())
-        Refuser(reference, QStringLiteral("le script nomme « %1 », qui n'existe pas").arg(reference.Objet));
+        Refuser(reference, u"le script nomme « %1 », qui n'existe pas"_s.arg(reference.Objet));
       if (!APropriete(*sorte, reference.Propriete))
-        Refuser(reference,
-                QStringLiteral("« %1 » n'a pas la propriété que pose le script").arg(reference.Objet));
+        Refuser(reference, u"« %1 » n'a pas la propriété que pose le script"_s.arg(reference.Objet));
     }
   }
 

@@ -4,12 +4,14 @@
 #include "core/exceptions.h"
 #include "core/formats.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What the mask leaves of an empty field counts as nothing.
 bool EstVide(const QString& heure) { return QString(heure).remove(u':').trimmed().isEmpty(); }
 
-const QString kMinuit = QStringLiteral("00:00");
+const QString kMinuit = u"00:00"_s;
 
 }  // namespace
 
@@ -76,12 +78,11 @@ void TFrmAjoutReleve::BitBtn2Click() {
 bool TFrmAjoutReleve::FormCloseQuery() {
   if (ResultatModal != TResultatModal::Valide) return true;
   if (IndexType < 0) {
-    contexte_.Dialogues().Message(QStringLiteral("Veuillez sélectionner un type de relevé"));
+    contexte_.Dialogues().Message(u"Veuillez sélectionner un type de relevé"_s);
     return Refuser(TChamp::Type);
   }
   if (avecImplantation_ && IndexImplantation < 0) {
-    contexte_.Dialogues().Message(
-        QStringLiteral("Vous devez indiquer l'implantation où le relevé s'est effectué."));
+    contexte_.Dialogues().Message(u"Vous devez indiquer l'implantation où le relevé s'est effectué."_s);
     return Refuser(TChamp::Implantation);
   }
   return true;

@@ -7,22 +7,24 @@
 #include "screens/attendance/frm_ajout_releve.h"
 #include "workflows/lien_lecteur.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kFichiersLecteur[] = {QStringLiteral("\\StorageCard\\Presences\\Presences.txt"),
-                                    QStringLiteral("\\Backup\\Presences\\Presences.txt")};
-const QString kTelechargement = QStringLiteral("Téléchargement des données...");
-const QString kErreur = QStringLiteral("L'erreur suivante s'est produite : ");
+const QString kFichiersLecteur[] = {u"\\StorageCard\\Presences\\Presences.txt"_s,
+                                    u"\\Backup\\Presences\\Presences.txt"_s};
+const QString kTelechargement = u"Téléchargement des données..."_s;
+const QString kErreur = u"L'erreur suivante s'est produite : "_s;
 
 std::vector<TColonneGrille> Colonnes() {
-  return {{QStringLiteral("Nom"), 271},
-          {QStringLiteral("Prénom"), 120},
-          {QStringLiteral("Date"), 180, TAlignement::Gauche, TOrdre::Jour},
-          {QStringLiteral("Type"), 88},
-          {QStringLiteral("Entrée"), 72, TAlignement::Droite},
-          {QStringLiteral("Sortie"), 72, TAlignement::Droite},
-          {QStringLiteral("Matricule"), 128},
-          {QStringLiteral("État"), 140}};
+  return {{u"Nom"_s, 271},
+          {u"Prénom"_s, 120},
+          {u"Date"_s, 180, TAlignement::Gauche, TOrdre::Jour},
+          {u"Type"_s, 88},
+          {u"Entrée"_s, 72, TAlignement::Droite},
+          {u"Sortie"_s, 72, TAlignement::Droite},
+          {u"Matricule"_s, 128},
+          {u"État"_s, 140}};
 }
 
 /// "1 relevé prêt", "2 relevés prêts"
@@ -34,12 +36,9 @@ QString Releves(int nombre, const QString& un, const QString& plusieurs) {
 
 TfrmPresences::TfrmPresences(TContexteEcran& contexte)
     : Recapitulatif(Colonnes()), Anomalies(Colonnes()), contexte_(contexte), import_(contexte.Controleur) {
-  Recapitulatif.Etats = {{},
-                         {QStringLiteral("Corrigé"), QStringLiteral("data-information")},
-                         {QStringLiteral("Forfait journée"), QStringLiteral("data-information")}};
-  Anomalies.Etats = {{},
-                     {QStringLiteral("Inconnu"), QStringLiteral("data-error")},
-                     {QStringLiteral("Sans tarif"), QStringLiteral("data-warning")}};
+  Recapitulatif.Etats = {
+      {}, {u"Corrigé"_s, u"data-information"_s}, {u"Forfait journée"_s, u"data-information"_s}};
+  Anomalies.Etats = {{}, {u"Inconnu"_s, u"data-error"_s}, {u"Sans tarif"_s, u"data-warning"_s}};
 }
 
 TfrmPresences::~TfrmPresences() { FermerLien(); }
@@ -47,8 +46,7 @@ TfrmPresences::~TfrmPresences() { FermerLien(); }
 void TfrmPresences::FormShow() { scannerVisible_ = !Globals.Parametres->EstVrai(36); }
 
 bool TfrmPresences::FormCloseQuery() {
-  if (enCours_)
-    Signaler(TNiveauEtat::Alerte, QStringLiteral("Le lecteur est lu : l'écran reste ouvert jusqu'à la fin."));
+  if (enCours_) Signaler(TNiveauEtat::Alerte, u"Le lecteur est lu : l'écran reste ouvert jusqu'à la fin."_s);
   return !enCours_;
 }
 
@@ -59,18 +57,15 @@ void TfrmPresences::FormClose() {
 
 QString TfrmPresences::EnSuspens() const {
   const int reste = import_.NombreNonMemorises();
-  return reste == 0
-             ? QString()
-             : Releves(reste, QStringLiteral("relevé non mémorisé"), QStringLiteral("relevés non mémorisés"));
+  return reste == 0 ? QString() : Releves(reste, u"relevé non mémorisé"_s, u"relevés non mémorisés"_s);
 }
 
 QString TfrmPresences::TitreSource() const {
-  return scannerVisible_ ? QStringLiteral("Source : scanner local") : QStringLiteral("Source : site distant");
+  return scannerVisible_ ? u"Source : scanner local"_s : u"Source : site distant"_s;
 }
 
 QString TfrmPresences::TitreMenuImportation() const {
-  return scannerVisible_ ? QStringLiteral("Importation depuis un site distant")
-                         : QStringLiteral("Importation depuis un scanner local");
+  return scannerVisible_ ? u"Importation depuis un site distant"_s : u"Importation depuis un scanner local"_s;
 }
 
 void TfrmPresences::mnuImportationClick() {
@@ -80,19 +75,18 @@ void TfrmPresences::mnuImportationClick() {
 
 QString TfrmPresences::NoteAnomalies() const {
   const int nombre = Anomalies.NombreLignes();
-  if (nombre == 0) return lu_ ? QStringLiteral("Aucune anomalie") : QString();
+  if (nombre == 0) return lu_ ? u"Aucune anomalie"_s : QString();
   if (!import_.Pret())
-    return Releves(nombre, QStringLiteral("ligne n'a pas été mémorisée"),
-                   QStringLiteral("lignes n'ont pas été mémorisées"));
-  return Releves(nombre, QStringLiteral("ligne ne sera pas mémorisée tant qu'elle n'est pas corrigée"),
-                 QStringLiteral("lignes ne seront pas mémorisées tant qu'elles ne sont pas corrigées"));
+    return Releves(nombre, u"ligne n'a pas été mémorisée"_s, u"lignes n'ont pas été mémorisées"_s);
+  return Releves(nombre, u"ligne ne sera pas mémorisée tant qu'elle n'est pas corrigée"_s,
+                 u"lignes ne seront pas mémorisées tant qu'elles ne sont pas corrigées"_s);
 }
 
 QString TfrmPresences::NoteRecapitulatif() const {
   const int nombre = Recapitulatif.NombreLignes();
   if (!lu_) return {};
-  if (!import_.Pret()) return QStringLiteral("Les présences sont mémorisées");
-  return Releves(nombre, QStringLiteral("relevé prêt"), QStringLiteral("relevés prêts"));
+  if (!import_.Pret()) return u"Les présences sont mémorisées"_s;
+  return Releves(nombre, u"relevé prêt"_s, u"relevés prêts"_s);
 }
 
 // Step 1.
@@ -103,8 +97,8 @@ void TfrmPresences::btnImportScannerClick() {
   Vider();
   if (!OuvrirLien()) {
     contexte_.Dialogues().Message(
-        QStringLiteral("Veuillez vérifier si votre lecteur de code à barre est allumé et connecté à votre "
-                       "ordinateur."));
+        u"Veuillez vérifier si votre lecteur de code à barre est allumé et connecté à votre "
+        "ordinateur."_s);
     return;
   }
   try {
@@ -124,15 +118,15 @@ bool TfrmPresences::OuvrirLien() {
 }
 
 void TfrmPresences::ImporterDuLecteur() {
-  const QString local = Globals.DossierTemporaire + QStringLiteral("/Presences.txt");
+  const QString local = Globals.DossierTemporaire + u"/Presences.txt"_s;
   const bool copie = CopierDuLecteur(local);
   Annoncer();
   if (!copie)
-    RienARecuperer(QStringLiteral("Aucune donnée à récupérer"));
+    RienARecuperer(u"Aucune donnée à récupérer"_s);
   else if (!QFile::exists(local))
-    RienARecuperer(QStringLiteral("Aucune données à récupérer !"));
+    RienARecuperer(u"Aucune données à récupérer !"_s);
   else
-    Lire(TSource::Scanner, local, QStringLiteral("Fichier du lecteur"));
+    Lire(TSource::Scanner, local, u"Fichier du lecteur"_s);
 }
 
 void TfrmPresences::RienARecuperer(const QString& texte) {
@@ -162,13 +156,13 @@ bool TfrmPresences::CopierDuLecteur(const QString& local) {
 
 void TfrmPresences::btnImportFTPClick() {
   contexte_.Dialogues().Message(
-      QStringLiteral("L'importation depuis un site distant n'est pas encore disponible dans cette version."));
+      u"L'importation depuis un site distant n'est pas encore disponible dans cette version."_s);
 }
 
 void TfrmPresences::Importerunfichierdeprsence1Click() {
   if (enCours_) return;
-  const auto chemin = contexte_.Dialogues().ChoisirFichier(QStringLiteral("Importer un fichier de présence"),
-                                                           QStringLiteral("Fichiers de présences (*.txt)"));
+  const auto chemin = contexte_.Dialogues().ChoisirFichier(u"Importer un fichier de présence"_s,
+                                                           u"Fichiers de présences (*.txt)"_s);
   if (!chemin) return;
   const TAttente attente(contexte_.Dialogues());
   QString nom = u"Fichier choisi : " % QFileInfo(*chemin).fileName();
@@ -218,7 +212,7 @@ void TfrmPresences::Lire(TSource source, const QString& chemin, const QString& n
     Signaler(TNiveauEtat::Succes, NoteRecapitulatif());
     return;
   }
-  Signaler(TNiveauEtat::Alerte, QStringLiteral("Des anomalies ont été détectées !"));
+  Signaler(TNiveauEtat::Alerte, u"Des anomalies ont été détectées !"_s);
   import_.AnnoncerAnomalies();
 }
 
@@ -251,7 +245,7 @@ void TfrmPresences::Corrigerlerelev1Click() {
   const int ligne = Anomalies.LigneCourante();
   const TPresence* presence = ligne < 0 ? nullptr : Anomalies.Ligne(ligne).Objet.En<TPresence>();
   if (presence == nullptr || !import_.EstCorrigible(ligne)) {
-    contexte_.Dialogues().Message(QStringLiteral("La correction ne peut se faire que sur un élève existant"));
+    contexte_.Dialogues().Message(u"La correction ne peut se faire que sur un élève existant"_s);
     return;
   }
   TFrmAjoutReleve saisie(contexte_);
@@ -279,7 +273,7 @@ void TfrmPresences::btnEtape2Click() {
   OublierObjets(Anomalies);
   if (source_ == TSource::Scanner) EffacerDuLecteur();
   FermerLien();
-  Signaler(TNiveauEtat::Succes, QStringLiteral("Les présences ont été mémorisées."));
+  Signaler(TNiveauEtat::Succes, u"Les présences ont été mémorisées."_s);
   Annoncer();
 }
 

@@ -10,14 +10,16 @@
 #include "documents/modeles.h"
 #include "report/output/pdf.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double kZooms[] = {0.25, 0.5, 0.75, 1.0, 1.25, 1.5, 2.0, 3.0, 4.0};
 constexpr double kBordVue = 16.0;  ///< on each side of a page that is fitted
 constexpr double kPixelsParMm = 96.0 / 25.4;
 
-QString Largeur() { return QStringLiteral("Largeur"); }
-QString PageEntiere() { return QStringLiteral("Page entière"); }
+QString Largeur() { return u"Largeur"_s; }
+QString PageEntiere() { return u"Page entière"_s; }
 QString PourCent(double facteur) { return QString::number(std::lround(facteur * 100)) % u" %"; }
 
 QString Accorder(int nombre, const QString& un, const QString& plusieurs) {
@@ -44,8 +46,8 @@ bool ClassesGroupees(const TRapport& rapport) {
 std::shared_ptr<const TModele> ModeleDe(const TRapport& rapport, const TReglagesPoste& reglages) {
   auto modele = ModeleDocument(rapport.Modele(), DossierModeles(reglages));
   if (!modele)
-    throw Exception(QStringLiteral("Le document « %1 » n'a pas encore de modèle (« %2 »).")
-                        .arg(rapport.Titre(), rapport.Modele()));
+    throw Exception(
+        u"Le document « %1 » n'a pas encore de modèle (« %2 »)."_s.arg(rapport.Titre(), rapport.Modele()));
   return modele;
 }
 
@@ -66,9 +68,9 @@ void SuivreLargeur(TPageModele& page, float avant) {
 /// A name for a file, without what a file's name cannot hold.
 QString NomDeFichier(QString titre) {
   for (QChar& c : titre)
-    if (QStringLiteral("/\\:*?\"<>|").contains(c)) c = u'-';
+    if (u"/\\:*?\"<>|"_s.contains(c)) c = u'-';
   titre = titre.trimmed();
-  return titre.isEmpty() ? QStringLiteral("Document") : titre;
+  return titre.isEmpty() ? u"Document"_s : titre;
 }
 
 }  // namespace
@@ -156,7 +158,7 @@ void TFrmApercu::Suivre() {
 }
 
 QString TFrmApercu::TextePretes() const {
-  const QString texte = Accorder(PagesPretes(), QStringLiteral("page prête"), QStringLiteral("pages prêtes"));
+  const QString texte = Accorder(PagesPretes(), u"page prête"_s, u"pages prêtes"_s);
   return Complet() ? texte : texte + u'…';
 }
 
@@ -183,10 +185,9 @@ void TFrmApercu::ChoisirEntree(int entree) {
 }
 
 QString TFrmApercu::TitreNavigateur() const {
-  if (signets_ > 0 && Document().Titre == u"Facture")
-    return Accorder(signets_, QStringLiteral("facture"), QStringLiteral("factures"));
-  if (signets_ > 0) return Accorder(signets_, QStringLiteral("document"), QStringLiteral("documents"));
-  return Accorder(PagesPretes(), QStringLiteral("page"), QStringLiteral("pages"));
+  if (signets_ > 0 && Document().Titre == u"Facture") return Accorder(signets_, u"facture"_s, u"factures"_s);
+  if (signets_ > 0) return Accorder(signets_, u"document"_s, u"documents"_s);
+  return Accorder(PagesPretes(), u"page"_s, u"pages"_s);
 }
 
 void TFrmApercu::Zoomer(TModeZoom mode, double facteur) {
@@ -263,7 +264,7 @@ void TFrmApercu::MontrerTrouvaille(const TTrouvaille* trouvaille) {
 QString TFrmApercu::TexteRecherche() const {
   if (recherche_.Texte().isEmpty()) return {};
   const int nombre = static_cast<int>(recherche_.Trouvailles().size());
-  if (nombre == 0) return Complet() ? QStringLiteral("Introuvable") : QStringLiteral("Recherche…");
+  if (nombre == 0) return Complet() ? u"Introuvable"_s : u"Recherche…"_s;
   return QString::number(recherche_.Courante() + 1) % u" sur " % QString::number(nombre);
 }
 
@@ -284,8 +285,7 @@ void TFrmApercu::btnImprimerClick() {
 }
 
 void TFrmApercu::btnExporterClick() {
-  const auto chemin =
-      Demander(QStringLiteral("Exporter en PDF"), QStringLiteral(".pdf"), QStringLiteral("PDF (*.pdf)"));
+  const auto chemin = Demander(u"Exporter en PDF"_s, u".pdf"_s, u"PDF (*.pdf)"_s);
   if (!chemin) return;
   Terminer();
   if (Essayer(
@@ -294,16 +294,14 @@ void TFrmApercu::btnExporterClick() {
 }
 
 void TFrmApercu::btnEnregistrerClick() {
-  const auto chemin = Demander(QStringLiteral("Enregistrer le rapport"), QStringLiteral(".rap"),
-                               QStringLiteral("Rapport (*.rap)"));
+  const auto chemin = Demander(u"Enregistrer le rapport"_s, u".rap"_s, u"Rapport (*.rap)"_s);
   if (!chemin) return;
   Terminer();
   if (Essayer([&] { document_.Enregistrer(*chemin); })) Dire(TNiveauEtat::Succes, u"Enregistré : " % *chemin);
 }
 
 void TFrmApercu::btnOuvrirClick() {
-  const auto chemin =
-      Dialogues().ChoisirFichier(QStringLiteral("Ouvrir un rapport"), QStringLiteral("Rapport (*.rap)"));
+  const auto chemin = Dialogues().ChoisirFichier(u"Ouvrir un rapport"_s, u"Rapport (*.rap)"_s);
   if (!chemin) return;
   if (!Essayer([&] { Montrer(TDocumentPrepare::Ouvrir(*chemin)); })) return;
   AllerPage(0);
@@ -366,14 +364,13 @@ QString TFrmApercu::TextePapier() const {
                           ? QString::number(std::lround(taille.width())) % u" × " %
                                 QString::number(std::lround(taille.height())) % u" mm"
                           : format.name();
-  return nom % u", " %
-         (taille.width() > taille.height() ? QStringLiteral("paysage") : QStringLiteral("portrait"));
+  return nom % u", " % (taille.width() > taille.height() ? u"paysage"_s : u"portrait"_s);
 }
 
 QString TFrmApercu::TexteDefauts() const {
   const int nombre = static_cast<int>(Document().Defauts.size());
   if (nombre == 0) return {};
-  return Accorder(nombre, QStringLiteral("avertissement"), QStringLiteral("avertissements"));
+  return Accorder(nombre, u"avertissement"_s, u"avertissements"_s);
 }
 
 QStringList TFrmApercu::Defauts() const {
@@ -382,7 +379,7 @@ QStringList TFrmApercu::Defauts() const {
     QStringList ou;
     for (const QString& nom : {defaut.Bande, defaut.Objet})
       if (!nom.isEmpty()) ou += nom;
-    textes += ou.isEmpty() ? defaut.Message : ou.join(QStringLiteral(", ")) % u" : " % defaut.Message;
+    textes += ou.isEmpty() ? defaut.Message : ou.join(u", "_s) % u" : " % defaut.Message;
   }
   return textes;
 }

@@ -7,6 +7,8 @@
 #include "core/formats.h"
 #include "pupils/eleves.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr TPageAssistant kPages[] = {TPageAssistant::Rapport, TPageAssistant::Qui, TPageAssistant::Periode};
@@ -17,12 +19,11 @@ QString Combien(std::size_t nombre, const QString& un, const QString& plusieurs,
 }
 
 QString CombienEleves(std::size_t nombre) {
-  return Combien(nombre, QStringLiteral("élève"), QStringLiteral("élèves"), QStringLiteral("aucun élève"));
+  return Combien(nombre, u"élève"_s, u"élèves"_s, u"aucun élève"_s);
 }
 
 QString CombienClasses(std::size_t nombre) {
-  return Combien(nombre, QStringLiteral("classe"), QStringLiteral("classes"),
-                 QStringLiteral("aucune classe"));
+  return Combien(nombre, u"classe"_s, u"classes"_s, u"aucune classe"_s);
 }
 
 /// The objects of the ticked rows, in the order in which the list shows them.
@@ -44,11 +45,8 @@ TDemandeAssistant TDemandeAssistant::De(TForm& demandeur, std::vector<TTitreAssi
 }
 
 TFrmPrintWizard::TFrmPrintWizard(const TContexteEcran& contexte) : contexte_(contexte) {
-  LstEleve.DefinirColonnes({{QStringLiteral("Nom de l'élève"), 150},
-                            {QStringLiteral("Classe"), 70},
-                            {QStringLiteral("Implantation"), 112}});
-  LstClasse.DefinirColonnes(
-      {{QStringLiteral("Nom de la classe"), 150}, {QStringLiteral("Implantation"), 112}});
+  LstEleve.DefinirColonnes({{u"Nom de l'élève"_s, 150}, {u"Classe"_s, 70}, {u"Implantation"_s, 112}});
+  LstClasse.DefinirColonnes({{u"Nom de la classe"_s, 150}, {u"Implantation"_s, 112}});
   LstEleve.CasesACocher = LstClasse.CasesACocher = true;
   for (TGrille* liste : {&LstEleve, &LstClasse})
     liste->SurChangement = [this](TGrille::TChangement) { Annoncer(); };
@@ -219,13 +217,12 @@ void TFrmPrintWizard::btnAnnulerClick() {
 
 void TFrmPrintWizard::KWizard1FinishButtonClick() {
   if (choixPeriode_ == TChoixPeriode::Mois && indiceMois_ < 0 && PageVisible(TPageAssistant::Periode))
-    return Refuser(QStringLiteral("Veuillez sélectionner un mois dans la liste déroulante"),
-                   TChampAssistant::Mois);
+    return Refuser(u"Veuillez sélectionner un mois dans la liste déroulante"_s, TChampAssistant::Mois);
   choix_ = {};
   AjouterChoisis(choix_);
   if (PageVisible(TPageAssistant::Qui) && choix_.Eleves.empty() && choix_.Classes.empty()) {
     OuvrirPage(TPageAssistant::Qui);
-    return Refuser(QStringLiteral("Aucun élève n'a été sélectionné !"),
+    return Refuser(u"Aucun élève n'a été sélectionné !"_s,
                    LstClasseActive() ? TChampAssistant::LstClasse : TChampAssistant::LstEleve);
   }
   choix_.Indice = indice_;
@@ -291,7 +288,7 @@ QString TFrmPrintWizard::TextePeriode() const {
   if (choixPeriode_ == TChoixPeriode::Annee) return TexteAnnee();
   if (choixPeriode_ == TChoixPeriode::Periode)
     return u"du " % FormatDate(dtDate1_) % u" au " % FormatDate(dtDate2_);
-  if (indiceMois_ < 0) return QStringLiteral("aucun mois choisi");
+  if (indiceMois_ < 0) return u"aucun mois choisi"_s;
   const int mois = kMoisFacturation[static_cast<std::size_t>(indiceMois_)];
   return NomMois(mois).toLower() % u' ' % QString::number(Globals.Eleves->AnneeDuMois(mois));
 }
@@ -301,5 +298,5 @@ QString TFrmPrintWizard::Resume() const {
   if (indice_ >= 0) parties += Titres()[static_cast<std::size_t>(indice_)].Titre;
   if (PageVisible(TPageAssistant::Qui)) parties += TexteQui();
   if (PageVisible(TPageAssistant::Periode)) parties += TextePeriode();
-  return parties.join(QStringLiteral("  ·  "));
+  return parties.join(u"  ·  "_s);
 }

@@ -1,5 +1,7 @@
 #include "screens/principal/frm_ajout_professeur.h"
 
+using namespace Qt::StringLiterals;
+
 bool TFrmAjoutProfesseur::btnValiderClick() {
   ResultatModal = TResultatModal::Valide;
   return Fermer();
@@ -13,6 +15,6 @@ void TFrmAjoutProfesseur::btnAnnulerClick() {
 bool TFrmAjoutProfesseur::FormCloseQuery() {
   if (ResultatModal != TResultatModal::Valide || !Nom.trimmed().isEmpty()) return true;
   ResultatModal = TResultatModal::Aucun;
-  contexte_.Dialogues().Message(QStringLiteral("Un nom est obligatoire"));
+  contexte_.Dialogues().Message(u"Un nom est obligatoire"_s);
   return false;
 }

@@ -5,11 +5,13 @@
 
 #include "screens/principal/arbre_eleves.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kTravailEnCours = QStringLiteral("Travail en cours");
+const QString kTravailEnCours = u"Travail en cours"_s;
 const QString kFermetureRefusee =
-    QStringLiteral("Un travail est en cours : la fenêtre pourra être fermée quand il sera terminé.");
+    u"Un travail est en cours : la fenêtre pourra être fermée quand il sera terminé."_s;
 constexpr int kPremiereAnnee = 2015;
 constexpr int kDerniereAnneeFixe = 2018;
 
@@ -44,7 +46,7 @@ QString CombienEleves(int annee, int nombre) {
 
 }  // namespace
 
-QString AnneeEnTexte(int annee) { return QStringLiteral("%1 - %2").arg(annee).arg(annee + 1); }
+QString AnneeEnTexte(int annee) { return u"%1 - %2"_s.arg(annee).arg(annee + 1); }
 
 TFrmMain::TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge& horloge,
                    IFenetreModale& modale, IApercu& apercu)
@@ -71,7 +73,7 @@ void TFrmMain::FormShow() {
     Controleur.FormShow();
   } catch (...) {  // what it is about is shown to the user by who catches it
     Etat(TNiveauEtat::Erreur,
-         QStringLiteral("Aucune année scolaire n'a pu être chargée : fermez le programme et recommencez."));
+         u"Aucune année scolaire n'a pu être chargée : fermez le programme et recommencez."_s);
     Annoncer();
     throw;
   }
@@ -79,7 +81,7 @@ void TFrmMain::FormShow() {
     Etat(TNiveauEtat::Neutre, CombienEleves(anneeCochee_, NombreEleves()));
   else if (!Globals.ModeHorsLigne)
     Etat(TNiveauEtat::Erreur,
-         QStringLiteral("Pas de connexion au serveur de données : fermez le programme et recommencez."));
+         u"Pas de connexion au serveur de données : fermez le programme et recommencez."_s);
   Annoncer();
 }
 
@@ -113,7 +115,7 @@ std::vector<TPagePrincipale> TFrmMain::Pages() const {
     if (PageVisible(page.Page)) pages.push_back(page);
   if (PageVisible(TPage::pgRepasNew))  // two pages of one name would be one too many
     for (TPagePrincipale& page : pages)
-      if (page.Page == TPage::pgRepas) page.Titre = QStringLiteral("Repas (tickets)");
+      if (page.Page == TPage::pgRepas) page.Titre = u"Repas (tickets)"_s;
   return pages;
 }
 
@@ -131,13 +133,13 @@ bool TFrmMain::CommandeVisible(const TCommandePrincipale& commande) const {
 }
 
 QString TFrmMain::RaisonInactive(const TCommandePrincipale& commande) const {
-  if (enTravail_) return QStringLiteral("Un travail est en cours");
+  if (enTravail_) return u"Un travail est en cours"_s;
   if (commande.Gestionnaire == TGestionnaire::AdvGlowButton4Click) return {};
-  if (!commande.Ecran) return QStringLiteral("Pas encore disponible dans cette version");
+  if (!commande.Ecran) return u"Pas encore disponible dans cette version"_s;
   const bool horsLigne = Globals.ModeHorsLigne && commande.Page == TPage::pgRepas3;
   if (!EstRelie() && !horsLigne)
-    return Controleur.Base().EstConnecte() ? QStringLiteral("Aucune année scolaire n'est chargée")
-                                           : QStringLiteral("Pas de connexion au serveur de données");
+    return Controleur.Base().EstConnecte() ? u"Aucune année scolaire n'est chargée"_s
+                                           : u"Pas de connexion au serveur de données"_s;
   return {};
 }
 

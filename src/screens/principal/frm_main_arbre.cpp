@@ -4,9 +4,11 @@
 #include "screens/principal/frm_ajout_professeur.h"
 #include "screens/principal/frm_main.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kProfesseurs = QStringLiteral("PROFESSEURS");
+const QString kProfesseurs = u"PROFESSEURS"_s;
 
 }  // namespace
 
@@ -62,8 +64,8 @@ void TFrmMain::btnRechercheClick() {
       Arbre.Selectionner(noeud);
       return;
     }
-    if (!Contexte.Dialogues().Confirmer(QStringLiteral(
-            "Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?")))
+    if (!Contexte.Dialogues().Confirmer(
+            u"Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?"_s))
       return;
     Arbre.Selectionner(Arbre.Premier());
   }
@@ -106,7 +108,7 @@ void TFrmMain::Ajouterunprofesseur1Click() {
   FermerEcran();
   QString fait = u"Professeur ajouté : " % nom;
   if (Globals.Eleves->PlusieursImplantations())
-    fait += QStringLiteral(" (sans implantation, il n'apparaît pas dans la liste)");
+    fait += u" (sans implantation, il n'apparaît pas dans la liste)"_s;
   EtatApresEcran(TNiveauEtat::Succes, fait);
 }
 
@@ -130,8 +132,8 @@ bool TFrmMain::PeutSupprimerProfesseur() const {
 void TFrmMain::Supprimerunprofesseur1Click() {
   if (!PeutSupprimerProfesseur()) return;
   QuitterChamp();
-  if (!Contexte.Dialogues().ConfirmerGrave(QStringLiteral(
-          "Souhaitez-vous supprimer définitivement ce professeurs et les données de son compte ?")))
+  if (!Contexte.Dialogues().ConfirmerGrave(
+          u"Souhaitez-vous supprimer définitivement ce professeurs et les données de son compte ?"_s))
     return;
   TNoeud& noeud = *Arbre.Selection();
   TEleve& professeur = *noeud.Objet.En<TEleve>();

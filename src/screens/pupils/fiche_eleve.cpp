@@ -7,6 +7,8 @@
 #include "documents/periode.h"
 #include "pupils/eleve.h"
 
+using namespace Qt::StringLiterals;
+
 TFicheEleve TFicheEleve::De(const TEleve& eleve) {
   TFicheEleve fiche;
   fiche.NomComplet = eleve.NomComplet();
@@ -33,7 +35,7 @@ QString TFicheEleve::SousTitre() const {
   QStringList morceaux{LibelleClasse, LibelleImplantation};
   if (!Matricule.isEmpty()) morceaux += u"Matricule " % Matricule;
   morceaux.removeAll(QString());
-  return morceaux.join(QStringLiteral("  ·  "));
+  return morceaux.join(u"  ·  "_s);
 }
 
 bool TGroupeMois::Tous() const {
@@ -41,9 +43,9 @@ bool TGroupeMois::Tous() const {
 }
 
 std::array<TGroupeMois, 3> GroupesMois() {
-  return {{{TTypeMarque::Midi, QStringLiteral("Rentre à son domicile pendant midi")},
-           {TTypeMarque::Etude, QStringLiteral("Participe à l'étude")},
-           {TTypeMarque::Forfait, QStringLiteral("Paiement forfaitaire")}}};
+  return {{{TTypeMarque::Midi, u"Rentre à son domicile pendant midi"_s},
+           {TTypeMarque::Etude, u"Participe à l'étude"_s},
+           {TTypeMarque::Forfait, u"Paiement forfaitaire"_s}}};
 }
 
 void LireMarques(std::array<TGroupeMois, 3>& groupes, const TPresencesParticulieres& marques, int eleve) {

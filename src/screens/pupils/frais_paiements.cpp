@@ -6,6 +6,8 @@
 #include "pupils/eleves.h"
 #include "services/frais_eleve.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString Texte(const char16_t* texte) { return QString::fromUtf16(texte); }
@@ -97,6 +99,6 @@ void TFraisPaiements::Compter(Currency du, Currency verse) {
 }
 
 void TFraisPaiements::EcrirePied() {
-  Pied = {{QStringLiteral("Total"), {}, FormatMontant(totalDu_), FormatMontant(totalVerse_)},
-          {QStringLiteral("Balance"), {}, {}, FormatMontant(Solde)}};
+  Pied = {{u"Total"_s, {}, FormatMontant(totalDu_), FormatMontant(totalVerse_)},
+          {u"Balance"_s, {}, {}, FormatMontant(Solde)}};
 }

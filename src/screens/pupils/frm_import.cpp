@@ -3,9 +3,11 @@
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kNonCloturee = QStringLiteral("Année non clôturée : pas de transfert");
+const QString kNonCloturee = u"Année non clôturée : pas de transfert"_s;
 
 QString NomSeul(const QString& chemin) { return QFileInfo(chemin).fileName(); }
 
@@ -16,19 +18,19 @@ QString Eleves(int nombre) {
 }  // namespace
 
 TFrmImport::TFrmImport(TContexteEcran& contexte) : contexte_(contexte) {
-  Grille.DefinirColonnes({{QStringLiteral("État"), 110},
-                          {QStringLiteral("Matricule"), 120},
-                          {QStringLiteral("Nom"), 161},
-                          {QStringLiteral("Prénom"), 120},
-                          {QStringLiteral("Naissance"), 96, TAlignement::Gauche, TOrdre::Date},
-                          {QStringLiteral("Classe"), 64},
-                          {QStringLiteral("Implantation"), 112},
-                          {QStringLiteral("Responsable"), 168},
-                          {QStringLiteral("Localité"), 112}});
+  Grille.DefinirColonnes({{u"État"_s, 110},
+                          {u"Matricule"_s, 120},
+                          {u"Nom"_s, 161},
+                          {u"Prénom"_s, 120},
+                          {u"Naissance"_s, 96, TAlignement::Gauche, TOrdre::Date},
+                          {u"Classe"_s, 64},
+                          {u"Implantation"_s, 112},
+                          {u"Responsable"_s, 168},
+                          {u"Localité"_s, 112}});
   Grille.Etats = {{},
-                  {QStringLiteral("En cours"), QStringLiteral("data-information")},
-                  {QStringLiteral("Transféré"), QStringLiteral("dialog-ok-apply")},
-                  {QStringLiteral("Refusé"), QStringLiteral("data-error")}};
+                  {u"En cours"_s, u"data-information"_s},
+                  {u"Transféré"_s, u"dialog-ok-apply"_s},
+                  {u"Refusé"_s, u"data-error"_s}};
 }
 
 void TFrmImport::FormShow() {
@@ -42,9 +44,8 @@ void TFrmImport::FormShow() {
 
 bool TFrmImport::FormCloseQuery() {
   if (!enCours_) return true;
-  contexte_.Principal.Etat(
-      TNiveauEtat::Alerte,
-      QStringLiteral("Une importation est en cours : l'écran reste ouvert jusqu'à la fin."));
+  contexte_.Principal.Etat(TNiveauEtat::Alerte,
+                           u"Une importation est en cours : l'écran reste ouvert jusqu'à la fin."_s);
   return false;
 }
 
@@ -56,8 +57,8 @@ void TFrmImport::btnEtape1Click() {
     feuille_ = {};
     fichier_ = {};
     RemplirGrille();
-    const auto chemin = contexte_.Dialogues().ChoisirFichier(
-        QStringLiteral("Ouvrir le fichier de données"), QStringLiteral("Export du registre (*.csv *.txt)"));
+    const auto chemin = contexte_.Dialogues().ChoisirFichier(u"Ouvrir le fichier de données"_s,
+                                                             u"Export du registre (*.csv *.txt)"_s);
     if (chemin) Ouvrir(*chemin);
   }
   Annoncer();
@@ -80,7 +81,7 @@ void TFrmImport::DecrireFichier(bool accepte) {
   if (accepte)
     DefinirFichier(TNiveauEtat::Succes, fichier_.Texte);
   else if (import_->NombreEleves() < TImportRegistre::kElevesMinimum)
-    DefinirFichier(TNiveauEtat::Alerte, QStringLiteral("Fichier trop court : rien à transférer"));
+    DefinirFichier(TNiveauEtat::Alerte, u"Fichier trop court : rien à transférer"_s);
   else
     DefinirFichier(TNiveauEtat::Alerte, kNonCloturee);
 }
@@ -108,8 +109,8 @@ void TFrmImport::btnEtape2Click() {
     const QScopedValueRollback enCours(enCours_, true);
     feuille_ = {};
     feuille_.Visible = true;
-    feuille_.Titre = QStringLiteral("Transfert en cours");
-    feuille_.Note = QStringLiteral("La fenêtre reste ouverte jusqu'à la fin du transfert.");
+    feuille_.Titre = u"Transfert en cours"_s;
+    feuille_.Note = u"La fenêtre reste ouverte jusqu'à la fin du transfert."_s;
     feuille_.Total = NombreEleves();
     {
       const TGrille::TLot lot(Grille);
@@ -144,9 +145,8 @@ void TFrmImport::PrendreEnMain(int ligne) {
     feuille_.Fait = ligne + 1;
     feuille_.Nom = QString(Grille.Texte(ligne, Nom) % u' ' % Grille.Texte(ligne, Prenom));
   }
-  contexte_.Principal.Etat(
-      TNiveauEtat::Neutre,
-      QStringLiteral("Transfert en cours : %1 sur %2").arg(feuille_.Fait).arg(feuille_.Total));
+  contexte_.Principal.Etat(TNiveauEtat::Neutre,
+                           u"Transfert en cours : %1 sur %2"_s.arg(feuille_.Fait).arg(feuille_.Total));
   Annoncer();
 }
 
@@ -156,9 +156,9 @@ void TFrmImport::Arreter() {
     if (Grille.Ligne(ligne).Etat == EnCours)
       Grille.ChangerEtat(ligne, ligne + 1 == refusee ? Refuse : Attente);
   feuille_.Arretee = true;
-  feuille_.Titre = refusee > 0 ? QStringLiteral("Arrêté à la ligne %1").arg(import_->NumeroLigne(refusee))
-                               : QStringLiteral("Transfert arrêté");
-  feuille_.Note = QStringLiteral("Les élèves marqués « Transféré » sont enregistrés.");
+  feuille_.Titre =
+      refusee > 0 ? u"Arrêté à la ligne %1"_s.arg(import_->NumeroLigne(refusee)) : u"Transfert arrêté"_s;
+  feuille_.Note = u"Les élèves marqués « Transféré » sont enregistrés."_s;
   contexte_.Principal.Etat(TNiveauEtat::Erreur, feuille_.Titre);
   Annoncer();
 }

@@ -8,6 +8,8 @@
 #include "screens/documents/frm_print_wizard.h"
 #include "screens/payments/frm_date_paiement.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString TitreActivites(TTypeActivitesExt type) {
@@ -103,7 +105,7 @@ void TFrmSignaletique::LireActivites(const TEleve& eleve) {
   for (const TActivite& activite : *Globals.Activites)
     if (const auto* inscription = Globals.ActivitesEleves->ActiviteEleveParCle(eleve.Id, activite.Id))
       textes += TexteActivite(activite, *inscription);
-  activites_ = textes.join(QStringLiteral(", "));
+  activites_ = textes.join(u", "_s);
 }
 
 void TFrmSignaletique::Vider() {
@@ -121,9 +123,9 @@ void TFrmSignaletique::Vider() {
 TEtatGrille TFrmSignaletique::EtatSolde() const {
   // By what is shown: less than a cent is nothing.
   const Currency vu = Frais.Solde.TronqueAuCent();
-  if (vu < Currency()) return {QStringLiteral("À payer"), QStringLiteral("data-warning")};
-  if (vu > Currency()) return {QStringLiteral("En avance"), QStringLiteral("dialog-ok-apply")};
-  return {QStringLiteral("En ordre"), QStringLiteral("dialog-ok-apply")};
+  if (vu < Currency()) return {u"À payer"_s, u"data-warning"_s};
+  if (vu > Currency()) return {u"En avance"_s, u"dialog-ok-apply"_s};
+  return {u"En ordre"_s, u"dialog-ok-apply"_s};
 }
 
 QStringList TFrmSignaletique::NomsMois() {
@@ -151,10 +153,9 @@ QString TFrmSignaletique::TexteSansReleve() const {
 
 void TFrmSignaletique::ModificationDemandee() {
   if (Globals.EleveCourant == nullptr)
-    contexte_.Dialogues().Message(QStringLiteral("Veuillez sélectionner un élève"));
+    contexte_.Dialogues().Message(u"Veuillez sélectionner un élève"_s);
   else
-    contexte_.Principal.Etat(TNiveauEtat::Alerte,
-                             QStringLiteral("Fiche en lecture seule : rien n'a été modifié"));
+    contexte_.Principal.Etat(TNiveauEtat::Alerte, u"Fiche en lecture seule : rien n'a été modifié"_s);
 }
 
 void TFrmSignaletique::OuvrirAssistant(bool courriel, std::span<const TTitreDocument> titres) {

@@ -3,6 +3,8 @@
 #include "core/formats.h"
 #include "pupils/eleve.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString Texte(const char16_t* texte) { return QString::fromUtf16(texte); }
@@ -18,9 +20,7 @@ constexpr const char16_t* kGroupes[] = {u"Garderie du matin",
 static_assert(std::size(kGroupes) == kServices.size());
 
 /// "lun. 05/11"
-QString JourCourt(TDateTime date) {
-  return LocaleEcole().toString(DateVersQt(date), QStringLiteral("ddd dd/MM"));
-}
+QString JourCourt(TDateTime date) { return LocaleEcole().toString(DateVersQt(date), u"ddd dd/MM"_s); }
 
 QString CombienReleves(std::size_t nombre) {
   return QString::number(nombre) % (nombre == 1 ? u" relevé" : u" relevés");

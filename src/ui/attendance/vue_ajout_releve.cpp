@@ -8,19 +8,21 @@
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/saisie.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// "7h30" as "07:30"; what cannot be read as it was typed.
 QString TexteHeure(const SaisieHeure& champ) {
   const auto heure = champ.Heure();
   if (!heure || champ.text().trimmed().isEmpty()) return champ.text();
-  return HeureVersQt(*heure).toString(QStringLiteral("hh:mm"));
+  return HeureVersQt(*heure).toString(u"hh:mm"_s);
 }
 
 }  // namespace
 
 VueAjoutReleve::VueAjoutReleve(TFrmAjoutReleve& form, QWidget* parent)
-    : DialogueBase(QStringLiteral("Ajout de relevé"), parent),
+    : DialogueBase(u"Ajout de relevé"_s, parent),
       form_(form),
       date_(new SaisieDate),
       type_(new QComboBox),
@@ -28,12 +30,12 @@ VueAjoutReleve::VueAjoutReleve(TFrmAjoutReleve& form, QWidget* parent)
       fin_(new SaisieHeure),
       implantation_(new QComboBox) {
   setMinimumWidth(Theme::Px(360));
-  Ajouter(QStringLiteral("Date du relevé:"), date_);
-  Ajouter(QStringLiteral("Type de relevé:"), type_);
-  Ajouter(QStringLiteral("Heure de début:"), debut_);
-  Ajouter(QStringLiteral("Heure de fin :"), fin_);
-  Ajouter(QStringLiteral("Implantation:"), implantation_)->setVisible(form.AvecImplantation());
-  DefinirPrincipal(QStringLiteral("Valider"));
+  Ajouter(u"Date du relevé:"_s, date_);
+  Ajouter(u"Type de relevé:"_s, type_);
+  Ajouter(u"Heure de début:"_s, debut_);
+  Ajouter(u"Heure de fin :"_s, fin_);
+  Ajouter(u"Implantation:"_s, implantation_)->setVisible(form.AvecImplantation());
+  DefinirPrincipal(u"Valider"_s);
 
   date_->setText(form.Date);
   debut_->setText(form.Debut);

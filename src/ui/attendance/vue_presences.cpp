@@ -17,6 +17,8 @@
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kLignesAnomalies = 8;
@@ -25,10 +27,10 @@ constexpr int kLignesMinimum = 3;
 /// One word and several, by counter.
 const struct {
   QString Un, Plusieurs;
-} kMots[] = {{QStringLiteral("ligne dans le fichier"), QStringLiteral("lignes dans le fichier")},
-             {QStringLiteral("relevé bon"), QStringLiteral("relevés bons")},
-             {QStringLiteral("anomalie"), QStringLiteral("anomalies")},
-             {QStringLiteral("total"), QStringLiteral("total")}};
+} kMots[] = {{u"ligne dans le fichier"_s, u"lignes dans le fichier"_s},
+             {u"relevé bon"_s, u"relevés bons"_s},
+             {u"anomalie"_s, u"anomalies"_s},
+             {u"total"_s, u"total"_s}};
 constexpr int kAnomalies = 2;
 
 /// Both ways: drawing a column in one grid draws it in the other.
@@ -46,20 +48,16 @@ void Accorder(const VueGrille& a, const VueGrille& b) {
 VuePresences::VuePresences(TfrmPresences& form, QWidget* parent)
     : QScrollArea(parent),
       form_(form),
-      etape1_(BoutonPrincipal(QStringLiteral("Etape n°1 : Importer les présences"),
-                              QStringLiteral("view-barcode"))),
-      etape2_(BoutonSimple(QStringLiteral("Etape n°2 : Mémoriser les présences"),
-                           QStringLiteral("document-save"))),
+      etape1_(BoutonPrincipal(u"Etape n°1 : Importer les présences"_s, u"view-barcode"_s)),
+      etape2_(BoutonSimple(u"Etape n°2 : Mémoriser les présences"_s, u"document-save"_s)),
       source_(BoutonDiscret({})),
       menu_(new QMenu(this)),
       fichier_(new Etiquette({}, TRole::Secondaire)),
-      titreAnomalies_(new TitreSection(QStringLiteral("Anomalies"))),
-      corriger_(BoutonSimple(QStringLiteral("Corriger le relevé"), QStringLiteral("document-edit"))),
-      anomalies_(
-          new VueGrille(form.Anomalies, QStringLiteral("Anomalies"), QStringLiteral("Presences/Anomalies"))),
-      titreRecapitulatif_(new TitreSection(QStringLiteral("Récapitulatif"))),
-      recapitulatif_(new VueGrille(form.Recapitulatif, QStringLiteral("Récapitulatif"),
-                                   QStringLiteral("Presences/Recapitulatif"))),
+      titreAnomalies_(new TitreSection(u"Anomalies"_s)),
+      corriger_(BoutonSimple(u"Corriger le relevé"_s, u"document-edit"_s)),
+      anomalies_(new VueGrille(form.Anomalies, u"Anomalies"_s, u"Presences/Anomalies"_s)),
+      titreRecapitulatif_(new TitreSection(u"Récapitulatif"_s)),
+      recapitulatif_(new VueGrille(form.Recapitulatif, u"Récapitulatif"_s, u"Presences/Recapitulatif"_s)),
       vide_(new EtatVide(recapitulatif_)) {
   CreerMenu();
   CreerGrilles();
@@ -74,10 +72,10 @@ VuePresences::~VuePresences() { form_.SurChangement = nullptr; }
 
 void VuePresences::CreerMenu() {
   changerSource_ = menu_->addAction(QString(), this, [this] { form_.mnuImportationClick(); });
-  menu_->addAction(Theme::Icone(QStringLiteral("document-open")),
-                   QStringLiteral("Importer un fichier de présence"), this, &VuePresences::ImporterFichier);
+  menu_->addAction(Theme::Icone(u"document-open"_s), u"Importer un fichier de présence"_s, this,
+                   &VuePresences::ImporterFichier);
   source_->setMenu(menu_);
-  source_->setToolTip(QStringLiteral("D'où viennent les présences"));
+  source_->setToolTip(u"D'où viennent les présences"_s);
 }
 
 void VuePresences::CreerGrilles() {
@@ -88,7 +86,7 @@ void VuePresences::CreerGrilles() {
   auto* corriger = new QAction(corriger_->icon(), corriger_->text(), anomalies_);
   anomalies_->addAction(corriger);
   anomalies_->setContextMenuPolicy(Qt::ActionsContextMenu);
-  corriger_->setToolTip(QStringLiteral("Corriger le relevé choisi (F2, Entrée)"));
+  corriger_->setToolTip(u"Corriger le relevé choisi (F2, Entrée)"_s);
   connect(corriger, &QAction::triggered, this, &VuePresences::Corriger);
   connect(corriger_, &QPushButton::clicked, this, &VuePresences::Corriger);
   connect(anomalies_, &VueGrille::Activee, this, &VuePresences::Corriger);
@@ -121,11 +119,11 @@ QWidget* VuePresences::Comptes() {
 
 void VuePresences::Disposer() {
   titreAnomalies_->AjouterAction(corriger_);
-  auto* filtre = new ChampFiltre(QStringLiteral("Filtrer le récapitulatif"));
+  auto* filtre = new ChampFiltre(u"Filtrer le récapitulatif"_s);
   filtre->setFixedWidth(Theme::Px(200));
   recapitulatif_->Filtrer(*filtre);
-  QPushButton* copier = BoutonDiscret(QStringLiteral("Copier"), QStringLiteral("edit-copy"));
-  copier->setToolTip(QStringLiteral("Copier tout le récapitulatif (Ctrl+Maj+C)"));
+  QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
+  copier->setToolTip(u"Copier tout le récapitulatif (Ctrl+Maj+C)"_s);
   connect(copier, &QPushButton::clicked, recapitulatif_, &VueGrille::CopierTout);
   titreRecapitulatif_->AjouterAction(filtre);
   titreRecapitulatif_->AjouterAction(copier);
@@ -138,7 +136,7 @@ void VuePresences::Disposer() {
   const int marge = Theme::Px(16);
   colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
   colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(QStringLiteral("Présences")));
+  colonne->addWidget(new TitreEcran(u"Présences"_s));
   colonne->addLayout(Etapes());
   colonne->addWidget(Comptes());
   colonne->addWidget(titreAnomalies_);
@@ -157,7 +155,7 @@ void VuePresences::Actualiser() {
 
   const bool anomalies = form_.Anomalies.NombreLignes() > 0;
   titreAnomalies_->setVisible(form_.FichierLu());
-  titreAnomalies_->DefinirTexte(anomalies ? QStringLiteral("Anomalies") : form_.NoteAnomalies());
+  titreAnomalies_->DefinirTexte(anomalies ? u"Anomalies"_s : form_.NoteAnomalies());
   titreAnomalies_->DefinirNote(anomalies ? form_.NoteAnomalies() : QString());
   anomalies_->setVisible(anomalies);
   corriger_->setVisible(anomalies);
@@ -167,12 +165,12 @@ void VuePresences::Actualiser() {
   if (form_.Recapitulatif.NombreLignes() > 0)
     vide_->Cacher();
   else if (form_.FichierLu())
-    vide_->Montrer(QStringLiteral("Aucun relevé bon dans ce fichier"),
-                   QStringLiteral("Corrigez les anomalies, ou importez un autre fichier."));
+    vide_->Montrer(u"Aucun relevé bon dans ce fichier"_s,
+                   u"Corrigez les anomalies, ou importez un autre fichier."_s);
   else
-    vide_->Montrer(QStringLiteral("Aucune présence à montrer"),
-                   QStringLiteral("Importez-les depuis le scanner local ou un site distant (Etape n°1), ou "
-                                  "choisissez « Importer un fichier de présence » sous Source."));
+    vide_->Montrer(u"Aucune présence à montrer"_s,
+                   u"Importez-les depuis le scanner local ou un site distant (Etape n°1), ou "
+                   "choisissez « Importer un fichier de présence » sous Source."_s);
 }
 
 void VuePresences::ActualiserEtapes() {
@@ -193,7 +191,7 @@ void VuePresences::ActualiserComptes() {
     comptes_[i]->Definir(nombres[i]);
     comptes_[i]->DefinirMot(nombres[i] > 1 ? kMots[i].Plusieurs : kMots[i].Un);
     comptes_[i]->setEnabled(c.AJour);
-    comptes_[i]->setToolTip(c.AJour ? QString() : QStringLiteral("Comptes d'un fichier précédent"));
+    comptes_[i]->setToolTip(c.AJour ? QString() : u"Comptes d'un fichier précédent"_s);
   }
   comptes_[kAnomalies]->DefinirRole(c.lblAnomalie > 0 ? TRole::Alerte : TRole::Texte);
 }

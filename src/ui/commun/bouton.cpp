@@ -3,6 +3,8 @@
 #include "ui/commun/texte.h"
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char kGenre[] = "genreBouton";
@@ -44,7 +46,7 @@ QPushButton* BoutonDiscret(const QString& texte, const QString& icone, QWidget* 
 }
 
 QPushButton* BoutonSupprimer(const QString& nom, const QString& texte, QWidget* parent) {
-  QPushButton* bouton = CreerBouton(TGenreBouton::Suppression, texte, QStringLiteral("edit-delete"), parent);
+  QPushButton* bouton = CreerBouton(TGenreBouton::Suppression, texte, u"edit-delete"_s, parent);
   bouton->setAccessibleName(nom);
   return bouton;
 }

@@ -1,6 +1,8 @@
 #pragma once
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 /// How a button looks. One primary a screen: it is the next step.
 enum class TGenreBouton {
   Simple,
@@ -16,7 +18,7 @@ QPushButton* BoutonPrincipal(const QString& texte, const QString& icone = {}, QW
 QPushButton* BoutonSimple(const QString& texte, const QString& icone = {}, QWidget* parent = nullptr);
 QPushButton* BoutonDiscret(const QString& texte, const QString& icone = {}, QWidget* parent = nullptr);
 /// `nom` is what a screen reader says: "Supprimer le relevé".
-QPushButton* BoutonSupprimer(const QString& nom, const QString& texte = QStringLiteral("Supprimer"),
+QPushButton* BoutonSupprimer(const QString& nom, const QString& texte = u"Supprimer"_s,
                              QWidget* parent = nullptr);
 
 /// Also when the button is shown: another step has become the next one.

@@ -5,12 +5,14 @@
 
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 ChampFiltre::ChampFiltre(const QString& indication, QWidget* parent) : QLineEdit(parent) {
   setPlaceholderText(indication);
   setAccessibleName(indication);
   setClearButtonEnabled(true);
-  addAction(Theme::Icone(QStringLiteral("view-filter"), TRole::Secondaire), QLineEdit::LeadingPosition);
-  setToolTip(QStringLiteral("Filtrer (Ctrl+F)"));
+  addAction(Theme::Icone(u"view-filter"_s, TRole::Secondaire), QLineEdit::LeadingPosition);
+  setToolTip(u"Filtrer (Ctrl+F)"_s);
 }
 
 bool ChampFiltre::event(QEvent* evenement) {

@@ -1,11 +1,13 @@
 #pragma once
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 /// "Filtrer": what is typed holds at once, Escape empties it, the arrow down goes to the grid.
 class ChampFiltre : public QLineEdit {
   Q_OBJECT
  public:
-  explicit ChampFiltre(const QString& indication = QStringLiteral("Filtrer"), QWidget* parent = nullptr);
+  explicit ChampFiltre(const QString& indication = u"Filtrer"_s, QWidget* parent = nullptr);
   /// The arrow down gives it the focus. VueGrille::Filtrer does it for its own field.
   void DefinirSuite(QWidget* suite) { suite_ = suite; }
 

@@ -4,9 +4,11 @@
 
 #include "core/formats.h"
 
+using namespace Qt::StringLiterals;
+
 Compteur::Compteur(const QString& mot, QWidget* parent)
     : QWidget(parent),
-      nombre_(new Etiquette(QStringLiteral("0"), TRole::Texte, &Theme::Compteur)),
+      nombre_(new Etiquette(u"0"_s, TRole::Texte, &Theme::Compteur)),
       mot_(new Etiquette(mot, TRole::Secondaire)) {
   auto* ligne = new QHBoxLayout(this);
   ligne->setContentsMargins(0, 0, 0, 0);

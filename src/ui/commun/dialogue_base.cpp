@@ -7,14 +7,16 @@
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/marque_etat.h"
 
+using namespace Qt::StringLiterals;
+
 DialogueBase::DialogueBase(const QString& titre, QWidget* parent)
     : QDialog(parent),
       entete_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
       contenu_(new QVBoxLayout),
       faute_(new MarqueEtat),
       boutons_(new QHBoxLayout),
-      annuler_(BoutonSimple(QStringLiteral("Annuler"))),
-      principal_(BoutonPrincipal(QStringLiteral("OK"))) {
+      annuler_(BoutonSimple(u"Annuler"_s)),
+      principal_(BoutonPrincipal(u"OK"_s)) {
   setWindowTitle(titre);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   auto* colonne = new QVBoxLayout(this);

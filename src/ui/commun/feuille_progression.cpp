@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QProgressBar>
 
+using namespace Qt::StringLiterals;
+
 FeuilleProgression::FeuilleProgression(QWidget* parent)
     : QFrame(parent),
       titre_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
@@ -49,8 +51,7 @@ void FeuilleProgression::Demarrer(const QString& titre, int total, const QString
 
 void FeuilleProgression::Avancer(int fait, const QString& nom) {
   barre_->setValue(fait);
-  compte_->setText(barre_->maximum() > 0 ? QStringLiteral("%1 sur %2").arg(fait).arg(barre_->maximum())
-                                         : QString());
+  compte_->setText(barre_->maximum() > 0 ? u"%1 sur %2"_s.arg(fait).arg(barre_->maximum()) : QString());
   nom_->setText(nom);
 }
 

@@ -8,6 +8,8 @@
 #include "ui/commun/etiquette.h"
 #include "ui/commun/texte.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char* kTetes[] = {"tous",  "sept.", "oct.", "nov.", "déc.", "janv.",
@@ -55,7 +57,7 @@ GrilleMois::GrilleMois(const QStringList& lignes, QWidget* parent) : QWidget(par
     nouvelle.Libelle->setContentsMargins(0, 0, Theme::Px(8), 0);
     grille->addWidget(nouvelle.Libelle, ligne + 1, 0);
     for (int colonne = 0; colonne <= kMois; ++colonne) {
-      const QString nom = NomAccessible(texte) % QStringLiteral(", ") % QString::fromUtf8(kNoms[colonne]);
+      const QString nom = NomAccessible(texte) % u", "_s % QString::fromUtf8(kNoms[colonne]);
       QCheckBox* boite = CreerCase(ligne, colonne, nom);
       nouvelle.Cases[static_cast<size_t>(colonne)] = boite;
       grille->addWidget(boite, ligne + 1, colonne == 0 ? 1 : colonne + 2, Qt::AlignHCenter);

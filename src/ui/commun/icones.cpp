@@ -7,6 +7,8 @@
 
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The drawing made for that size, or the next one; empty for an unknown name.
@@ -14,7 +16,7 @@ QByteArray Dessin(const QString& nom, int taille) {
   static constexpr int kTailles[] = {16, 22, 32};
   int voulue = taille >= 32 ? 2 : taille >= 22 ? 1 : 0;
   for (const int rang : {voulue, 1, 0}) {
-    QFile fichier(QStringLiteral(":/icones/%1/%2.svg").arg(kTailles[rang]).arg(nom));
+    QFile fichier(u":/icones/%1/%2.svg"_s.arg(kTailles[rang]).arg(nom));
     if (fichier.open(QIODevice::ReadOnly)) return fichier.readAll();
   }
   return {};
@@ -47,8 +49,7 @@ class MoteurIcone : public QIconEngine {
  private:
   QPixmap Image(int cote, double echelle, QIcon::Mode mode) const {
     const QColor couleur = Theme::Couleur(role_);
-    const QString cle = QStringLiteral("icone/%1/%2/%3/%4/%5")
-                            .arg(nom_, couleur.name(), Theme::EstSombre() ? u"s" : u"c")
+    const QString cle = u"icone/%1/%2/%3/%4/%5"_s.arg(nom_, couleur.name(), Theme::EstSombre() ? u"s" : u"c")
                             .arg(cote)
                             .arg(echelle) %
                         (mode == QIcon::Disabled ? u"/pale" : u"");

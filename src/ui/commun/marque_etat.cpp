@@ -3,14 +3,16 @@
 #include <QEvent>
 #include <QHBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 TRole RoleDeIcone(const QString& icone) {
   static const struct {
     QString Icone;
     TRole Role;
   } kRoles[] = {
-      {QStringLiteral("dialog-ok-apply"), TRole::Succes},
-      {QStringLiteral("data-warning"), TRole::Alerte},
-      {QStringLiteral("data-error"), TRole::Erreur},
+      {u"dialog-ok-apply"_s, TRole::Succes},
+      {u"data-warning"_s, TRole::Alerte},
+      {u"data-error"_s, TRole::Erreur},
   };
   for (const auto& [nom, role] : kRoles)
     if (nom == icone) return role;
@@ -20,11 +22,11 @@ TRole RoleDeIcone(const QString& icone) {
 QString IconeDeNiveau(TNiveauEtat niveau) {
   switch (niveau) {
     case TNiveauEtat::Succes:
-      return QStringLiteral("dialog-ok-apply");
+      return u"dialog-ok-apply"_s;
     case TNiveauEtat::Alerte:
-      return QStringLiteral("data-warning");
+      return u"data-warning"_s;
     case TNiveauEtat::Erreur:
-      return QStringLiteral("data-error");
+      return u"data-error"_s;
     case TNiveauEtat::Neutre:
       break;
   }

@@ -4,6 +4,8 @@
 #include "ui/commun/texte.h"
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Qt::Alignment Alignement(TAlignement alignement) {
@@ -113,7 +115,7 @@ QVariant ModeleGrille::Apparence(int ligne, int colonne, int role) const {
   const TLigneGrille& vue = grille_.Ligne(ligne);
   if (role == Qt::FontRole && vue.Tete) return Theme::Gras();
   if (role == Qt::AccessibleDescriptionRole && vue.Tete && colonne == 0)
-    return grille_.EstFerme(ligne) ? QStringLiteral("groupe fermé") : QStringLiteral("groupe ouvert");
+    return grille_.EstFerme(ligne) ? u"groupe fermé"_s : u"groupe ouvert"_s;
   if (vue.Tete || colonne != grille_.ColonneEtat()) return {};
   const TEtatGrille& etat = grille_.Etats.at(static_cast<size_t>(vue.Etat));
   if (etat.Icone.isEmpty()) return {};

@@ -11,6 +11,8 @@
 #include "ui/commun/marque_etat.h"
 #include "ui/commun/titres.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Texts stay within reach of the eye and of copying; the rest is switched off.
@@ -47,11 +49,10 @@ void PanneauEdition::DefinirMode(TModeEdition mode, const QString& titre) {
   mode_ = mode;
   titre_->DefinirTexte(titre);
   const bool ecriture = mode != TModeEdition::Lecture;
-  const QString debut =
-      mode == TModeEdition::Nouveau ? QStringLiteral("Nouveau") : QStringLiteral("En modification");
-  marque_->Definir(ecriture ? QStringLiteral("data-information") : QString(),
-                   ecriture ? debut + QStringLiteral(" · F9 enregistre, Échap annule")
-                            : QStringLiteral("En lecture · F2 modifie, F7 ajoute"));
+  const QString debut = mode == TModeEdition::Nouveau ? u"Nouveau"_s : u"En modification"_s;
+  marque_->Definir(
+      ecriture ? u"data-information"_s : QString(),
+      ecriture ? debut + u" · F9 enregistre, Échap annule"_s : u"En lecture · F2 modifie, F7 ajoute"_s);
   for (QWidget* champ : champs_->findChildren<QWidget*>())
     if (!qobject_cast<QLineEdit*>(champ->parentWidget()) && !qobject_cast<QComboBox*>(champ->parentWidget()))
       PermettreEcriture(*champ, ecriture);

@@ -4,8 +4,10 @@
 
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 PhotoEleve::PhotoEleve(QWidget* parent) : QAbstractButton(parent) {
-  setAccessibleName(QStringLiteral("Photo"));
+  setAccessibleName(u"Photo"_s);
   setAttribute(Qt::WA_Hover);
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
@@ -14,7 +16,7 @@ PhotoEleve::PhotoEleve(QWidget* parent) : QAbstractButton(parent) {
 
 void PhotoEleve::Definir(const QImage& image) {
   image_ = QPixmap::fromImage(image);
-  setToolTip(image.isNull() ? QString() : QStringLiteral("Changer la photo"));
+  setToolTip(image.isNull() ? QString() : u"Changer la photo"_s);
   update();
 }
 
@@ -31,7 +33,7 @@ void PhotoEleve::paintEvent(QPaintEvent*) {
     peintre.setFont(Theme::Petite());
     const int marge = Theme::Px(4);
     peintre.drawText(rect().adjusted(marge, marge, -marge, -marge), Qt::AlignCenter | Qt::TextWordWrap,
-                     QStringLiteral("Cliquez ici pour ajouter une photo"));
+                     u"Cliquez ici pour ajouter une photo"_s);
   } else {
     const QSize taille = image_.size().scaled(size(), Qt::KeepAspectRatio);
     peintre.drawPixmap(

@@ -9,8 +9,10 @@
 #include "ui/commun/theme.h"
 #include "ui/commun/vue_grille.h"
 
+using namespace Qt::StringLiterals;
+
 PiedDeGrille::PiedDeGrille(VueGrille& vue, QWidget* parent) : QWidget(parent), vue_(vue) {
-  setAccessibleName(QStringLiteral("Totaux"));
+  setAccessibleName(u"Totaux"_s);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   vue.GarderBarre();
   const auto redessiner = [this] { update(); };
@@ -28,7 +30,7 @@ void PiedDeGrille::Definir(std::vector<QStringList> lignes) {
     ligne.removeAll(QString());
     dites += ligne.join(u' ');
   }
-  setAccessibleDescription(dites.join(QStringLiteral(", ")));
+  setAccessibleDescription(dites.join(u", "_s));
   if (autreHauteur) updateGeometry();
   update();
 }

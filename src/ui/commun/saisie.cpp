@@ -14,6 +14,8 @@
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a reader of the house answers, or none when it refuses the text.
@@ -34,10 +36,10 @@ std::optional<Currency> LireMontant(const QString& texte) {
 std::optional<TDateTime> LireHeure(const QString& texte) {
   const QString simple = texte.trimmed();
   if (simple.isEmpty()) return 0.0;
-  static const QRegularExpression kHeure(QStringLiteral("^(\\d{1,2})[:hH.]?(\\d{2})?$"));
+  static const QRegularExpression kHeure(u"^(\\d{1,2})[:hH.]?(\\d{2})?$"_s);
   const QRegularExpressionMatch lue = kHeure.match(simple);
   if (!lue.hasMatch()) return std::nullopt;
-  const QString minutes = lue.captured(2).isEmpty() ? QStringLiteral("00") : lue.captured(2);
+  const QString minutes = lue.captured(2).isEmpty() ? u"00"_s : lue.captured(2);
   return Essayer(StrToTime, lue.captured(1) % u':' % minutes);
 }
 
@@ -103,7 +105,7 @@ std::optional<QString> SaisieMontant::MettreEnForme(const QString& texte) const 
   return texte.trimmed().isEmpty() ? QString() : FormatDeuxDecimales(*montant);
 }
 
-SaisieHeure::SaisieHeure(QWidget* parent) : Saisie(parent) { setPlaceholderText(QStringLiteral("hh:mm")); }
+SaisieHeure::SaisieHeure(QWidget* parent) : Saisie(parent) { setPlaceholderText(u"hh:mm"_s); }
 
 void SaisieHeure::DefinirHeure(TDateTime heure) { Montrer(FormatHeureCourte(heure)); }
 
@@ -112,17 +114,17 @@ std::optional<TDateTime> SaisieHeure::Heure() const { return LireHeure(text()); 
 std::optional<QString> SaisieHeure::MettreEnForme(const QString& texte) const {
   const std::optional<TDateTime> heure = LireHeure(texte);
   if (!heure) return std::nullopt;
-  return texte.trimmed().isEmpty() ? QString() : HeureVersQt(*heure).toString(QStringLiteral("hh:mm"));
+  return texte.trimmed().isEmpty() ? QString() : HeureVersQt(*heure).toString(u"hh:mm"_s);
 }
 
 SaisieDate::SaisieDate(QWidget* parent) : Saisie(parent), fleche_(new QToolButton(this)) {
-  setPlaceholderText(QStringLiteral("jj/mm/aaaa"));
+  setPlaceholderText(u"jj/mm/aaaa"_s);
   fleche_->setArrowType(Qt::DownArrow);
   fleche_->setAutoRaise(true);
   fleche_->setFocusPolicy(Qt::NoFocus);
   fleche_->setCursor(Qt::ArrowCursor);
-  fleche_->setToolTip(QStringLiteral("Choisir dans le calendrier (F4)"));
-  fleche_->setAccessibleName(QStringLiteral("Choisir dans le calendrier"));
+  fleche_->setToolTip(u"Choisir dans le calendrier (F4)"_s);
+  fleche_->setAccessibleName(u"Choisir dans le calendrier"_s);
   connect(fleche_, &QToolButton::clicked, this, &SaisieDate::OuvrirCalendrier);
   PlacerFleche();
 }

@@ -1,12 +1,14 @@
 #pragma once
 #include <QProxyStyle>
 
+using namespace Qt::StringLiterals;
+
 /// Fusion with outlines, focus and selection of our own: Fusion derives them from the window's
 /// colour, and in dark they vanish. A field whose property `faute` is true is drawn as faulty.
 class StyleCalpenne : public QProxyStyle {
   Q_OBJECT
  public:
-  StyleCalpenne() : QProxyStyle(QStringLiteral("Fusion")) {}
+  StyleCalpenne() : QProxyStyle(u"Fusion"_s) {}
 
   void polish(QWidget* widget) override;
   using QProxyStyle::polish;

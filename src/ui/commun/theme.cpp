@@ -13,6 +13,8 @@
 #include "ui/commun/contraste.h"
 #include "ui/commun/style_calpenne.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TCouleurs {
@@ -116,7 +118,7 @@ TPresentation& Presente() {
 QString Feuille() {
   const TPresentation& p = Presente();
   const auto nom = [](const QColor& couleur) { return couleur.name(); };
-  return QStringLiteral(R"(
+  return uR"(
 QToolButton[genre="commande"] { border: 2px solid transparent; border-radius: %1px; padding: 1px %2px;
   background: transparent; color: %4; }
 QToolButton[genre="commande"]:hover { background: %5; }
@@ -130,8 +132,7 @@ QToolButton[genre="onglet"]:checked { color: %4; font-weight: 600; border-bottom
 QToolButton[genre="onglet"]:focus { border: 2px solid %8; border-bottom: 3px solid %8; border-radius: %1px;
   padding: %2px %11px; }
 QStatusBar::item { border: 0; }
-)")
-      .arg(Theme::Px(4))
+)"_s.arg(Theme::Px(4))
       .arg(Theme::Px(4))
       .arg(Theme::Px(12))
       .arg(nom(p.Palette.color(QPalette::ButtonText)), nom(p.Couleurs.Survol), nom(p.Couleurs.Selection),

@@ -21,6 +21,8 @@
 #include "ui/commun/modele_grille.h"
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kHauteurLigne = 27;
@@ -200,9 +202,9 @@ void VueGrille::Retenir() {
     const TColonneGrille& colonne = grille_.Colonne(header()->logicalIndex(rang));
     colonnes.append(QJsonArray{colonne.Titre, colonne.Largeur});
   }
-  QJsonObject retenu{{QStringLiteral("colonnes"), colonnes}};
+  QJsonObject retenu{{u"colonnes"_s, colonnes}};
   if (const int tri = header()->sortIndicatorSection(); tri >= 0)
-    retenu[QStringLiteral("tri")] =
+    retenu[u"tri"_s] =
         QJsonArray{grille_.Colonne(tri).Titre, header()->sortIndicatorOrder() == Qt::AscendingOrder};
   TReglagesPoste().Ecrire(TRacine::Utilisateur, u"Grilles/" % ecran_,
                           QString::fromUtf8(QJsonDocument(retenu).toJson(QJsonDocument::Compact)));
@@ -212,7 +214,7 @@ void VueGrille::Rappeler() {
   if (ecran_.isEmpty()) return;
   const QString texte = TReglagesPoste().Lire(TRacine::Utilisateur, u"Grilles/" % ecran_);
   const QJsonObject retenu = QJsonDocument::fromJson(texte.toUtf8()).object();
-  const QJsonArray colonnes = retenu[QStringLiteral("colonnes")].toArray();
+  const QJsonArray colonnes = retenu[u"colonnes"_s].toArray();
   const auto colonneDe = [this](const QString& titre) {
     for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
       if (grille_.Colonne(colonne).Titre == titre) return colonne;
@@ -229,7 +231,7 @@ void VueGrille::Rappeler() {
     grille_.ChangerLargeur(colonne, largeur);
     header()->resizeSection(colonne, Theme::Px(largeur));
   }
-  const QJsonArray tri = retenu[QStringLiteral("tri")].toArray();
+  const QJsonArray tri = retenu[u"tri"_s].toArray();
   if (tri.size() == 2)
     sortByColumn(colonneDe(tri[0].toString()), tri[1].toBool() ? Qt::AscendingOrder : Qt::DescendingOrder);
 }

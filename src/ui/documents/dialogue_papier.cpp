@@ -9,6 +9,8 @@
 
 #include "ui/commun/champ_libelle.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Millimetres that are not seen.
@@ -21,10 +23,10 @@ bool MemeTaille(const QSizeF& a, const QSizeF& b) {
 }  // namespace
 
 DialoguePapier::DialoguePapier(const TPapier& papier, QWidget* parent)
-    : DialogueBase(QStringLiteral("Mise en page"), parent),
+    : DialogueBase(u"Mise en page"_s, parent),
       format_(new QComboBox),
-      portrait_(new QRadioButton(QStringLiteral("Portrait"))),
-      paysage_(new QRadioButton(QStringLiteral("Paysage"))),
+      portrait_(new QRadioButton(u"Portrait"_s)),
+      paysage_(new QRadioButton(u"Paysage"_s)),
       marge_(new QDoubleSpinBox) {
   const bool paysage = papier.Taille.width() > papier.Taille.height();
   const QSizeF debout = paysage ? papier.Taille.transposed() : papier.Taille;
@@ -34,16 +36,14 @@ DialoguePapier::DialoguePapier(const TPapier& papier, QWidget* parent)
   for (int i = 0; i < format_->count(); ++i)
     if (MemeTaille(format_->itemData(i).toSizeF(), debout)) choisi = i;
   if (choisi < 0) {
-    AjouterFormat(
-        QStringLiteral("%1 × %2 mm").arg(std::lround(debout.width())).arg(std::lround(debout.height())),
-        debout);
+    AjouterFormat(u"%1 × %2 mm"_s.arg(std::lround(debout.width())).arg(std::lround(debout.height())), debout);
     choisi = format_->count() - 1;
   }
   format_->setCurrentIndex(choisi);
   (paysage ? paysage_ : portrait_)->setChecked(true);
   marge_->setRange(0, 50);
   marge_->setDecimals(0);
-  marge_->setSuffix(QStringLiteral(" mm"));
+  marge_->setSuffix(u" mm"_s);
   marge_->setValue(papier.Marge);
   auto* sens = new QWidget;
   auto* ligne = new QHBoxLayout(sens);
@@ -51,16 +51,15 @@ DialoguePapier::DialoguePapier(const TPapier& papier, QWidget* parent)
   ligne->addWidget(portrait_);
   ligne->addWidget(paysage_);
   ligne->addStretch(1);
-  const std::pair<QString, QWidget*> champs[] = {{QStringLiteral("Format :"), format_},
-                                                 {QStringLiteral("Orientation :"), sens},
-                                                 {QStringLiteral("Marge :"), marge_}};
+  const std::pair<QString, QWidget*> champs[] = {
+      {u"Format :"_s, format_}, {u"Orientation :"_s, sens}, {u"Marge :"_s, marge_}};
   for (const auto& [texte, champ] : champs) {
     auto* libelle = new ChampLibelle(texte, champ);
     libelle->DefinirLargeurLibelle(96);
     Contenu()->addWidget(libelle);
   }
   setMinimumWidth(Theme::Px(400));
-  DefinirPrincipal(QStringLiteral("Valider"));
+  DefinirPrincipal(u"Valider"_s);
 }
 
 void DialoguePapier::AjouterFormat(const QString& nom, const QSizeF& taille) {

@@ -12,6 +12,8 @@
 #include "report/output/pdf.h"
 #include "report/output/peintre.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double kPouce = 96.0;
@@ -55,31 +57,31 @@ TDocumentPrepare Extrait(const TDocumentPrepare& document, const std::vector<std
 /// What the user chose in the dialog, as CUPS is told.
 QStringList ArgumentsLp(const TDocumentPrepare& document, const QPrinter& imprimante) {
   static const std::pair<QPrinter::DuplexMode, QString> kFaces[] = {
-      {QPrinter::DuplexNone, QStringLiteral("sides=one-sided")},
-      {QPrinter::DuplexLongSide, QStringLiteral("sides=two-sided-long-edge")},
-      {QPrinter::DuplexShortSide, QStringLiteral("sides=two-sided-short-edge")}};
+      {QPrinter::DuplexNone, u"sides=one-sided"_s},
+      {QPrinter::DuplexLongSide, u"sides=two-sided-long-edge"_s},
+      {QPrinter::DuplexShortSide, u"sides=two-sided-short-edge"_s}};
   const QPageSize format = Papier(document.Pages[0]).pageSize();
   const QSizeF taille = format.size(QPageSize::Millimeter);
-  const QString papier = format.id() == QPageSize::Custom ? QStringLiteral("Custom.%1x%2mm")
-                                                                .arg(std::lround(taille.width()))
-                                                                .arg(std::lround(taille.height()))
-                                                          : format.key();
-  const QString assemblees = imprimante.collateCopies() ? QStringLiteral("true") : QStringLiteral("false");
-  QStringList arguments{QStringLiteral("-d"), imprimante.printerName(), QStringLiteral("-t"),
-                        document.Titre,       QStringLiteral("-n"),     QString::number(Copies(imprimante)),
-                        QStringLiteral("-o"), u"collate=" % assemblees, QStringLiteral("-o"),
-                        u"media=" % papier};
+  const QString papier =
+      format.id() == QPageSize::Custom
+          ? u"Custom.%1x%2mm"_s.arg(std::lround(taille.width())).arg(std::lround(taille.height()))
+          : format.key();
+  const QString assemblees = imprimante.collateCopies() ? u"true"_s : u"false"_s;
+  QStringList arguments{u"-d"_s, imprimante.printerName(),
+                        u"-t"_s, document.Titre,
+                        u"-n"_s, QString::number(Copies(imprimante)),
+                        u"-o"_s, u"collate=" % assemblees,
+                        u"-o"_s, u"media=" % papier};
   for (const auto& [mode, option] : kFaces)
-    if (mode == imprimante.duplex()) arguments << QStringLiteral("-o") << option;
-  if (imprimante.colorMode() == QPrinter::GrayScale)
-    arguments << QStringLiteral("-o") << QStringLiteral("print-color-mode=monochrome");
-  return arguments << QStringLiteral("--") << QStringLiteral("-");
+    if (mode == imprimante.duplex()) arguments << u"-o"_s << option;
+  if (imprimante.colorMode() == QPrinter::GrayScale) arguments << u"-o"_s << u"print-color-mode=monochrome"_s;
+  return arguments << u"--"_s << u"-"_s;
 }
 
 Exception EImpression(const QPrinter& imprimante, const QString& raison = {}) {
   const QString ou =
       imprimante.outputFileName().isEmpty() ? imprimante.printerName() : imprimante.outputFileName();
-  const QString texte = QStringLiteral("L'impression sur « %1 » n'a pas pu se faire.").arg(ou);
+  const QString texte = u"L'impression sur « %1 » n'a pas pu se faire."_s.arg(ou);
   return Exception(raison.isEmpty() ? texte : texte + u'\n' + raison);
 }
 
@@ -100,7 +102,7 @@ void EnvoyerACups(const QString& lp, const TDocumentPrepare& document, const QPr
 
 void Imprimer(const TDocumentPrepare& document, QPrinter& imprimante) {
   const QString fichier = imprimante.outputFileName();
-  const QString lp = fichier.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("lp")) : QString();
+  const QString lp = fichier.isEmpty() ? QStandardPaths::findExecutable(u"lp"_s) : QString();
   if (fichier.isEmpty() && lp.isEmpty()) return PeindreSurImprimante(document, imprimante);
   const TDocumentPrepare extrait =
       Extrait(document, Ordre(document, imprimante, fichier.isEmpty() ? 1 : Copies(imprimante)));
@@ -133,7 +135,7 @@ QString ImprimerAvecDialogue(const TDocumentPrepare& document, int page, QWidget
   if (document.Pages.empty()) return {};
   imprimante.setPageLayout(Papier(document.Pages[0]));
   QPrintDialog dialogue(&imprimante, parent);
-  dialogue.setWindowTitle(QStringLiteral("Imprimer"));
+  dialogue.setWindowTitle(u"Imprimer"_s);
   dialogue.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                       QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintCurrentPage);
   dialogue.setMinMax(1, static_cast<int>(document.Pages.size()));

@@ -11,6 +11,8 @@
 #include "screens/documents/frm_apercu.h"
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kEcart = 16;  ///< around and between pages
@@ -29,7 +31,7 @@ PagesApercu::PagesApercu(TFrmApercu& form, QWidget* parent)
     : QAbstractScrollArea(parent), form_(form), images_(kCacheKio) {
   setFrameShape(NoFrame);
   setFocusPolicy(Qt::StrongFocus);
-  setAccessibleName(QStringLiteral("Pages du document"));
+  setAccessibleName(u"Pages du document"_s);
   verticalScrollBar()->setSingleStep(Theme::Px(40));
   horizontalScrollBar()->setSingleStep(Theme::Px(40));
 }

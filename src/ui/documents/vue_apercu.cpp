@@ -24,6 +24,8 @@
 #include "ui/documents/impression.h"
 #include "ui/documents/pages_apercu.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kIconeBarre = 22;
@@ -78,7 +80,7 @@ QPushButton* VueApercu::Commande(QHBoxLayout& ligne, const QString& texte, const
   bouton->setMinimumHeight(Theme::Px(34));
   bouton->setFocusPolicy(Qt::TabFocus);
   bouton->setToolTip(bulle);
-  bouton->setAccessibleName(texte.isEmpty() ? bulle.section(QStringLiteral(" ("), 0, 0) : texte);
+  bouton->setAccessibleName(texte.isEmpty() ? bulle.section(u" ("_s, 0, 0) : texte);
   if (!texte.isEmpty()) pliables_.emplace_back(bouton, texte);
   ligne.addWidget(bouton);
   return bouton;
@@ -105,45 +107,41 @@ void VueApercu::CreerCommandes(QHBoxLayout& ligne) {
   const auto faire = [this](QPushButton* bouton, void (TFrmApercu::*action)()) {
     connect(bouton, &QPushButton::clicked, this, [this, action] { (form_.*action)(); });
   };
-  faire(Commande(ligne, QStringLiteral("Imprimer"), QStringLiteral("document-print"),
-                 QStringLiteral("Imprimer (Ctrl+P)"), true),
+  faire(Commande(ligne, u"Imprimer"_s, u"document-print"_s, u"Imprimer (Ctrl+P)"_s, true),
         &TFrmApercu::btnImprimerClick);
-  faire(Commande(ligne, QStringLiteral("Exporter en PDF"), QStringLiteral("document-export"),
-                 QStringLiteral("Exporter en PDF (Ctrl+E)")),
+  faire(Commande(ligne, u"Exporter en PDF"_s, u"document-export"_s, u"Exporter en PDF (Ctrl+E)"_s),
         &TFrmApercu::btnExporterClick);
   ligne.addWidget(new Filet(Qt::Vertical));
-  faire(Commande(ligne, QStringLiteral("Ouvrir"), QStringLiteral("document-open"),
-                 QStringLiteral("Ouvrir un rapport enregistré (Ctrl+O)")),
+  faire(Commande(ligne, u"Ouvrir"_s, u"document-open"_s, u"Ouvrir un rapport enregistré (Ctrl+O)"_s),
         &TFrmApercu::btnOuvrirClick);
-  faire(Commande(ligne, QStringLiteral("Enregistrer"), QStringLiteral("document-save"),
-                 QStringLiteral("Enregistrer le rapport (Ctrl+S)")),
+  faire(Commande(ligne, u"Enregistrer"_s, u"document-save"_s, u"Enregistrer le rapport (Ctrl+S)"_s),
         &TFrmApercu::btnEnregistrerClick);
-  papier_ = Commande(ligne, QStringLiteral("Mise en page"), QStringLiteral("document-properties"),
-                     QStringLiteral("Format, orientation et marge du papier"));
+  papier_ = Commande(ligne, u"Mise en page"_s, u"document-properties"_s,
+                     u"Format, orientation et marge du papier"_s);
   connect(papier_, &QPushButton::clicked, this, &VueApercu::ChoisirPapier);
   ligne.addWidget(new Filet(Qt::Vertical));
-  navigateur_ = Commande(ligne, QStringLiteral("Navigateur"), QStringLiteral("view-list-tree"),
-                         QStringLiteral("Montrer ou cacher le navigateur (Ctrl+N)"));
+  navigateur_ =
+      Commande(ligne, u"Navigateur"_s, u"view-list-tree"_s, u"Montrer ou cacher le navigateur (Ctrl+N)"_s);
   navigateur_->setCheckable(true);
   navigateur_->setChecked(true);
   connect(navigateur_, &QPushButton::toggled, this, [this](bool montre) { cote_->setVisible(montre); });
 }
 
 void VueApercu::CreerZoom(QHBoxLayout& ligne) {
-  const auto moins = Commande(ligne, {}, QStringLiteral("list-remove"), QStringLiteral("Réduire (Ctrl+-)"));
+  const auto moins = Commande(ligne, {}, u"list-remove"_s, u"Réduire (Ctrl+-)"_s);
   zoom_ = new QComboBox;
   zoom_->setEditable(true);
   zoom_->setInsertPolicy(QComboBox::NoInsert);
   zoom_->addItems(TFrmApercu::ChoixZoom());
   zoom_->setCompleter(nullptr);
-  zoom_->setAccessibleName(QStringLiteral("Zoom"));
-  zoom_->setToolTip(QStringLiteral("Zoom (Ctrl+0 : 100 %)"));
+  zoom_->setAccessibleName(u"Zoom"_s);
+  zoom_->setToolTip(u"Zoom (Ctrl+0 : 100 %)"_s);
   zoom_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   zoom_->setMinimumContentsLength(5);
   zoom_->view()->setMinimumWidth(Theme::Px(140));
   ligne.addWidget(zoom_);
-  const auto plus = Commande(ligne, {}, QStringLiteral("list-add"), QStringLiteral("Agrandir (Ctrl++)"));
-  const auto largeur = Commande(ligne, {}, QStringLiteral("zoom-fit-best"), QStringLiteral("Page entière"));
+  const auto plus = Commande(ligne, {}, u"list-add"_s, u"Agrandir (Ctrl++)"_s);
+  const auto largeur = Commande(ligne, {}, u"zoom-fit-best"_s, u"Page entière"_s);
   connect(moins, &QPushButton::clicked, this, [this] { form_.ZoomMoins(); });
   connect(plus, &QPushButton::clicked, this, [this] { form_.ZoomPlus(); });
   connect(largeur, &QPushButton::clicked, this, [this] { form_.Zoomer(TModeZoom::Page); });
@@ -161,12 +159,11 @@ void VueApercu::CreerZoom(QHBoxLayout& ligne) {
 void VueApercu::CreerRecherche(QHBoxLayout& ligne) {
   trouve_ = new Etiquette({}, TRole::Secondaire);
   recherche_ = new QLineEdit;
-  recherche_->setPlaceholderText(QStringLiteral("Rechercher (Ctrl+F)"));
-  recherche_->setAccessibleName(QStringLiteral("Rechercher dans le document"));
-  recherche_->setToolTip(QStringLiteral("Ctrl+F ; suivant : F3 ou Entrée ; précédent : Maj+F3"));
+  recherche_->setPlaceholderText(u"Rechercher (Ctrl+F)"_s);
+  recherche_->setAccessibleName(u"Rechercher dans le document"_s);
+  recherche_->setToolTip(u"Ctrl+F ; suivant : F3 ou Entrée ; précédent : Maj+F3"_s);
   recherche_->setClearButtonEnabled(true);
-  recherche_->addAction(Theme::Icone(QStringLiteral("edit-find"), TRole::Secondaire),
-                        QLineEdit::LeadingPosition);
+  recherche_->addAction(Theme::Icone(u"edit-find"_s, TRole::Secondaire), QLineEdit::LeadingPosition);
   recherche_->setMinimumWidth(Theme::Px(140));
   recherche_->setMaximumWidth(Theme::Px(200));
   for (QWidget* champ : {static_cast<QWidget*>(recherche_), static_cast<QWidget*>(zoom_->lineEdit())})
@@ -175,8 +172,8 @@ void VueApercu::CreerRecherche(QHBoxLayout& ligne) {
   ligne.addWidget(recherche_, 2);
   connect(recherche_, &QLineEdit::textChanged, this, [this](const QString& texte) { form_.Chercher(texte); });
   connect(recherche_, &QLineEdit::returnPressed, this, [this] { form_.ChercherSuivant(); });
-  QPushButton* fermer = BoutonSimple(QStringLiteral("Fermer"));
-  fermer->setToolTip(QStringLiteral("Fermer l'aperçu (Échap)"));
+  QPushButton* fermer = BoutonSimple(u"Fermer"_s);
+  fermer->setToolTip(u"Fermer l'aperçu (Échap)"_s);
   ligne.addWidget(fermer);
   connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -196,7 +193,7 @@ QWidget* VueApercu::CreerNavigateur() {
   arbre_->setAllColumnsShowFocus(true);
   arbre_->setRootIsDecorated(false);
   arbre_->setIndentation(Theme::Px(12));
-  arbre_->setAccessibleName(QStringLiteral("Navigateur"));
+  arbre_->setAccessibleName(u"Navigateur"_s);
   arbre_->header()->setStretchLastSection(false);
   arbre_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   arbre_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -221,32 +218,29 @@ QWidget* VueApercu::CreerPied() {
   auto* ligne = new QHBoxLayout(pied);
   ligne->setContentsMargins(Theme::Px(12), 0, Theme::Px(12), 0);
   ligne->setSpacing(Theme::Px(4));
-  BoutonPage(*ligne, QStringLiteral("go-first"), QStringLiteral("Première page (Ctrl+Début)"),
-             [](int, int) { return 0; });
-  BoutonPage(*ligne, QStringLiteral("go-previous"), QStringLiteral("Page précédente (Ctrl+PgPréc)"),
+  BoutonPage(*ligne, u"go-first"_s, u"Première page (Ctrl+Début)"_s, [](int, int) { return 0; });
+  BoutonPage(*ligne, u"go-previous"_s, u"Page précédente (Ctrl+PgPréc)"_s,
              [](int page, int) { return page - 1; });
   page_ = new QLineEdit;
   page_->setValidator(new QIntValidator(1, 99999, page_));
   page_->setFixedWidth(Theme::Px(48));
-  page_->setAccessibleName(QStringLiteral("Page"));
+  page_->setAccessibleName(u"Page"_s);
   connect(page_, &QLineEdit::editingFinished, this, [this] {
     if (!page_->isModified()) return;
     page_->setModified(false);
     form_.AllerPage(page_->text().toInt() - 1);
   });
   sur_ = new Etiquette;
-  ligne->addWidget(new Etiquette(QStringLiteral("Page")));
+  ligne->addWidget(new Etiquette(u"Page"_s));
   ligne->addWidget(page_);
   ligne->addWidget(sur_);
-  BoutonPage(*ligne, QStringLiteral("go-next"), QStringLiteral("Page suivante (Ctrl+PgSuiv)"),
-             [](int page, int) { return page + 1; });
-  BoutonPage(*ligne, QStringLiteral("go-last"), QStringLiteral("Dernière page (Ctrl+Fin)"),
-             [](int, int pages) { return pages - 1; });
+  BoutonPage(*ligne, u"go-next"_s, u"Page suivante (Ctrl+PgSuiv)"_s, [](int page, int) { return page + 1; });
+  BoutonPage(*ligne, u"go-last"_s, u"Dernière page (Ctrl+Fin)"_s, [](int, int pages) { return pages - 1; });
   etat_ = new MarqueEtat;
   ligne->addSpacing(Theme::Px(16));
   ligne->addWidget(etat_, 1);
-  defauts_ = BoutonDiscret({}, QStringLiteral("data-warning"));
-  defauts_->setIcon(Theme::Icone(QStringLiteral("data-warning"), TRole::Alerte));
+  defauts_ = BoutonDiscret({}, u"data-warning"_s);
+  defauts_->setIcon(Theme::Icone(u"data-warning"_s, TRole::Alerte));
   connect(defauts_, &QPushButton::clicked, this, &VueApercu::MontrerDefauts);
   pretes_ = new MarqueEtat;
   format_ = new Etiquette({}, TRole::Secondaire);
@@ -395,10 +389,10 @@ void VueApercu::MontrerDefauts() {
   auto* liste = new QListWidget;
   liste->addItems(form_.Defauts());
   liste->setWordWrap(true);
-  liste->setAccessibleName(QStringLiteral("Avertissements"));
+  liste->setAccessibleName(u"Avertissements"_s);
   dialogue.Contenu()->addWidget(liste);
   dialogue.resize(Theme::Px(600), Theme::Px(320));
   dialogue.Annuler()->hide();
-  dialogue.DefinirPrincipal(QStringLiteral("Fermer"));
+  dialogue.DefinirPrincipal(u"Fermer"_s);
   dialogue.exec();
 }

@@ -17,6 +17,8 @@
 #include "ui/commun/vue_grille.h"
 #include "ui/documents/filet.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct TTextesPage {
@@ -27,10 +29,9 @@ struct TTextesPage {
 /// By page.
 const std::vector<TTextesPage>& TextesPages() {
   static const std::vector<TTextesPage> textes{
-      {QStringLiteral("Rapport"), QStringLiteral("Veuillez choisir le rapport que vous souhaitez imprimer:")},
-      {QStringLiteral("Élèves"),
-       QStringLiteral("Veuillez choisir le ou les élèves concernés par ce rapport:")},
-      {QStringLiteral("Période"), QStringLiteral("Veuillez choisir la période concernées par ce rapport:")},
+      {u"Rapport"_s, u"Veuillez choisir le rapport que vous souhaitez imprimer:"_s},
+      {u"Élèves"_s, u"Veuillez choisir le ou les élèves concernés par ce rapport:"_s},
+      {u"Période"_s, u"Veuillez choisir la période concernées par ce rapport:"_s},
   };
   return textes;
 }
@@ -52,11 +53,11 @@ int Id(T valeur) {
 }  // namespace
 
 VuePrintWizard::VuePrintWizard(TFrmPrintWizard& form, QWidget* parent)
-    : DialogueBase(QStringLiteral("Assistant d'impression"), parent),
+    : DialogueBase(u"Assistant d'impression"_s, parent),
       form_(form),
       question_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
       pages_(new QStackedWidget),
-      precedent_(AjouterBouton(QStringLiteral("< &Précédent"))),
+      precedent_(AjouterBouton(u"< &Précédent"_s)),
       titres_(new QButtonGroup(this)),
       qui_(new QButtonGroup(this)),
       periode_(new QButtonGroup(this)) {
@@ -122,7 +123,7 @@ QWidget* VuePrintWizard::CreerEtapes() {
   auto* ligne = SansMarge<QHBoxLayout>(barre, 8);
   for (const TTextesPage& textes : TextesPages()) {
     const QString numero = QString::number(etapes_.size() + 1);
-    if (!etapes_.empty()) ligne->addWidget(new Etiquette(QStringLiteral("›"), TRole::Secondaire));
+    if (!etapes_.empty()) ligne->addWidget(new Etiquette(u"›"_s, TRole::Secondaire));
     etapes_.push_back(new Etiquette(numero % u"  " % textes.Etape, TRole::Secondaire));
     ligne->addWidget(etapes_.back());
   }
@@ -178,21 +179,19 @@ QWidget* VuePrintWizard::CreerPageQui() {
   auto* page = new QWidget;
   auto* colonne = SansMarge<QVBoxLayout>(page, 12);
   auto* listes = SansMarge<QHBoxLayout>(nullptr, 24);
-  listes->addLayout(
-      CreerListe(eleves_, QStringLiteral("L'élève actuellement sélectionné :"),
-                 QStringLiteral("Les élèves suivants:"), form_.LstEleve, QStringLiteral("Élèves")),
-      4);  // one column more than the classes
-  listes->addLayout(
-      CreerListe(classes_, QStringLiteral("La classe actuellement sélectionnée :"),
-                 QStringLiteral("Les classes suivantes:"), form_.LstClasse, QStringLiteral("Classes")),
-      3);
+  listes->addLayout(CreerListe(eleves_, u"L'élève actuellement sélectionné :"_s, u"Les élèves suivants:"_s,
+                               form_.LstEleve, u"Élèves"_s),
+                    4);  // one column more than the classes
+  listes->addLayout(CreerListe(classes_, u"La classe actuellement sélectionnée :"_s,
+                               u"Les classes suivantes:"_s, form_.LstClasse, u"Classes"_s),
+                    3);
   const std::pair<QRadioButton*, TChoixQui> choix[] = {{eleves_.Courant, TChoixQui::Eleve},
                                                        {eleves_.Plusieurs, TChoixQui::Eleves},
                                                        {classes_.Courant, TChoixQui::Classe},
                                                        {classes_.Plusieurs, TChoixQui::Classes}};
   for (const auto& [bouton, qui] : choix) qui_->addButton(bouton, Id(qui));
-  tout_ = BoutonSimple(QStringLiteral("Tout sélectionner"));
-  rien_ = BoutonSimple(QStringLiteral("Ne rien sélectionner"));
+  tout_ = BoutonSimple(u"Tout sélectionner"_s);
+  rien_ = BoutonSimple(u"Ne rien sélectionner"_s);
   compte_ = new Etiquette({}, TRole::Texte, &Theme::Gras);
   auto* pied = SansMarge<QHBoxLayout>(nullptr, 8);
   pied->addWidget(tout_);
@@ -207,9 +206,9 @@ QWidget* VuePrintWizard::CreerPageQui() {
 QWidget* VuePrintWizard::CreerLigneMois() {
   mois_ = new QComboBox;
   mois_->addItems(form_.cmbMois());
-  mois_->setPlaceholderText(QStringLiteral("Choisir un mois"));
+  mois_->setPlaceholderText(u"Choisir un mois"_s);
   mois_->setMinimumWidth(Theme::Px(160));
-  mois_->setAccessibleName(QStringLiteral("Mois"));
+  mois_->setAccessibleName(u"Mois"_s);
   return mois_;
 }
 
@@ -218,10 +217,10 @@ QWidget* VuePrintWizard::CreerLigneDates() {
   auto* ligne = SansMarge<QHBoxLayout>(champs, 12);
   for (SaisieDate*& date : dates_) {
     const bool premiere = &date == &dates_[0];
-    if (!premiere) ligne->addWidget(new Etiquette(QStringLiteral("au")));
+    if (!premiere) ligne->addWidget(new Etiquette(u"au"_s));
     date = new SaisieDate;
     date->setMinimumWidth(Theme::Px(124));
-    date->setAccessibleName(premiere ? QStringLiteral("Premier jour") : QStringLiteral("Dernier jour"));
+    date->setAccessibleName(premiere ? u"Premier jour"_s : u"Dernier jour"_s);
     ligne->addWidget(date);
   }
   return champs;
@@ -236,9 +235,9 @@ QWidget* VuePrintWizard::CreerPagePeriode() {
     QString Texte;
     TChoixPeriode Choix;
     QWidget* Champs;
-  } lignes[] = {{QStringLiteral("Le mois de :"), TChoixPeriode::Mois, CreerLigneMois()},
-                {QStringLiteral("La période du :"), TChoixPeriode::Periode, CreerLigneDates()},
-                {QStringLiteral("L'année scolaire"), TChoixPeriode::Annee, annee_}};
+  } lignes[] = {{u"Le mois de :"_s, TChoixPeriode::Mois, CreerLigneMois()},
+                {u"La période du :"_s, TChoixPeriode::Periode, CreerLigneDates()},
+                {u"L'année scolaire"_s, TChoixPeriode::Annee, annee_}};
   int rang = 0;
   for (const auto& [texte, choix, champs] : lignes) {
     auto* bouton = new QRadioButton(texte);
@@ -253,7 +252,7 @@ QWidget* VuePrintWizard::CreerPagePeriode() {
   colonne->addLayout(grille);
   colonne->addSpacing(Theme::Px(8));
   colonne->addWidget(new Filet(Qt::Horizontal));
-  colonne->addWidget(new Etiquette(QStringLiteral("Sera imprimé"), TRole::Secondaire));
+  colonne->addWidget(new Etiquette(u"Sera imprimé"_s, TRole::Secondaire));
   colonne->addWidget(resume_);
   colonne->addStretch(1);
   return page;
@@ -265,9 +264,9 @@ void VuePrintWizard::Rafraichir() {
   question_->setText(TextesPages()[static_cast<std::size_t>(form_.Page())].Question);
   precedent_->setEnabled(!form_.EstPremierePage());
   if (form_.EstDernierePage())
-    DefinirPrincipal(QStringLiteral("&Imprimer"), QStringLiteral("document-print"));
+    DefinirPrincipal(u"&Imprimer"_s, u"document-print"_s);
   else
-    DefinirPrincipal(QStringLiteral("&Suivant >"));
+    DefinirPrincipal(u"&Suivant >"_s);
   if (form_.Indice() >= 0) titres_->button(form_.Indice())->setChecked(true);
   RafraichirEtapes();
   RafraichirQui();
@@ -359,7 +358,7 @@ bool VuePrintWizard::Valider() {
   const bool parDates =
       form_.Page() == TPageAssistant::Periode && form_.ChoixPeriode() == TChoixPeriode::Periode;
   if (SaisieDate* fautive = parDates ? LireDates() : nullptr) {
-    MontrerFaute(QStringLiteral("La date introduite est incorrecte."), fautive);
+    MontrerFaute(u"La date introduite est incorrecte."_s, fautive);
     return false;
   }
   if (!form_.EstDernierePage()) {

@@ -4,13 +4,13 @@
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/saisie.h"
 
+using namespace Qt::StringLiterals;
+
 VueDatePaiement::VueDatePaiement(TFrmDatePaiement& form, QWidget* parent)
-    : DialogueBase(QStringLiteral("Introduire la date de paiement"), parent),
-      form_(form),
-      date_(new SaisieDate) {
+    : DialogueBase(u"Introduire la date de paiement"_s, parent), form_(form), date_(new SaisieDate) {
   setMinimumWidth(Theme::Px(400));
-  Contenu()->addWidget(new ChampLibelle(QStringLiteral("Date de paiement :"), date_));
-  DefinirPrincipal(QStringLiteral("Valider"));
+  Contenu()->addWidget(new ChampLibelle(u"Date de paiement :"_s, date_));
+  DefinirPrincipal(u"Valider"_s);
   form_.SurChangement = [this] {
     date_->DefinirDate(form_.dtDatePaiement);
     date_->selectAll();
@@ -24,7 +24,7 @@ VueDatePaiement::~VueDatePaiement() { form_.SurChangement = nullptr; }
 bool VueDatePaiement::Valider() {
   const TDateTime date = date_->Date().value_or(0.0);
   if (date == 0.0) {
-    MontrerFaute(QStringLiteral("La date introduite est incorrecte."), date_);
+    MontrerFaute(u"La date introduite est incorrecte."_s, date_);
     return false;
   }
   form_.dtDatePaiement = date;

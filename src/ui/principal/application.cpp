@@ -8,15 +8,17 @@
 #include "core/exceptions.h"
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 bool Application::notify(QObject* objet, QEvent* evenement) {
   try {
     return QApplication::notify(objet, evenement);
   } catch (const Exception& e) {
     Montrer(e.Message);
   } catch (const std::bad_alloc&) {
-    Montrer(QStringLiteral("La mémoire de cet ordinateur ne suffit pas pour cette opération."));
+    Montrer(u"La mémoire de cet ordinateur ne suffit pas pour cette opération."_s);
   } catch (const std::exception& e) {
-    Montrer(QStringLiteral("Erreur inattendue : ") + QString::fromUtf8(e.what()));
+    Montrer(u"Erreur inattendue : "_s + QString::fromUtf8(e.what()));
   }
   return true;
 }
@@ -26,11 +28,11 @@ void Application::Montrer(const QString& texte) {
 }
 
 void Application::Preparer() {
-  QLocale::setDefault(QLocale(QStringLiteral("fr_BE")));
-  setApplicationName(QStringLiteral("Calpenne"));
+  QLocale::setDefault(QLocale(u"fr_BE"_s));
+  setApplicationName(u"Calpenne"_s);
   auto* traduction = new QTranslator(this);
-  if (traduction->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+  if (traduction->load(u"qtbase_fr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     installTranslator(traduction);
   Theme::Appliquer(*this);
-  setWindowIcon(Theme::Icone(QStringLiteral("system-users"), TRole::Accent));
+  setWindowIcon(Theme::Icone(u"system-users"_s, TRole::Accent));
 }

@@ -6,6 +6,8 @@
 #include "screens/principal/frm_main.h"
 #include "ui/commun/theme.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kHauteurOnglets = 30;
@@ -26,7 +28,7 @@ class BoutonOnglet : public QToolButton {
 QToolButton* CreerOnglet(const QString& texte) {
   auto* bouton = new BoutonOnglet;
   bouton->setText(texte);
-  bouton->setProperty("genre", QStringLiteral("onglet"));
+  bouton->setProperty("genre", u"onglet"_s);
   bouton->setCheckable(true);
   bouton->setFocusPolicy(Qt::TabFocus);
   return bouton;
@@ -38,7 +40,7 @@ class BoutonCommande : public QToolButton {
   BoutonCommande(const QString& texte, const QString& icone, TRole role) {
     setText(QString(texte).remove(u'&'));
     setShortcut(QKeySequence::mnemonic(texte));  // told by the tip
-    setProperty("genre", QStringLiteral("commande"));
+    setProperty("genre", u"commande"_s);
     setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setIcon(Theme::Icone(icone, role));
@@ -63,7 +65,7 @@ QString ToucheAlt(const QString& libelle) {
 }  // namespace
 
 BarreCommandes::BarreCommandes(TFrmMain& form, QWidget* parent) : QWidget(parent), form_(form) {
-  setAccessibleName(QStringLiteral("Barre de commandes"));
+  setAccessibleName(u"Barre de commandes"_s);
   auto* onglets = new QHBoxLayout;
   onglets->setContentsMargins(Theme::Px(8), 0, Theme::Px(16), 0);
   onglets->setSpacing(0);
@@ -96,13 +98,13 @@ void BarreCommandes::CreerOnglets(QHBoxLayout& ligne) {
   }
   ligne.addStretch();
   annees_ = CreerOnglet({});
-  annees_->setObjectName(QStringLiteral("annees"));  // no page: its text is never pale
+  annees_->setObjectName(u"annees"_s);  // no page: its text is never pale
   annees_->setCheckable(false);
   annees_->setFixedHeight(Theme::Px(kHauteurOnglets));
   annees_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  annees_->setIcon(Theme::Icone(QStringLiteral("view-calendar")));
+  annees_->setIcon(Theme::Icone(u"view-calendar"_s));
   annees_->setIconSize({Theme::Px(16), Theme::Px(16)});
-  annees_->setToolTip(QStringLiteral("Année affichée (Ctrl+0)"));
+  annees_->setToolTip(u"Année affichée (Ctrl+0)"_s);
   connect(annees_, &QToolButton::clicked, this, &BarreCommandes::OuvrirMenuAnnees);
   ligne.addWidget(annees_);
 }
@@ -161,8 +163,8 @@ void BarreCommandes::Actualiser() {
     bouton->setVisible(visible);
     bouton->setEnabled(actif);
     bouton->setToolTip(outil.Libelle % (actif               ? QString(u" (" % outil.Touche % u')')
-                                        : form_.EnTravail() ? QStringLiteral(" : un travail est en cours")
-                                                            : QStringLiteral(" : pas sur cet écran")));
+                                        : form_.EnTravail() ? u" : un travail est en cours"_s
+                                                            : u" : pas sur cet écran"_s));
   }
   separateur_->setVisible(unOutil);
   annees_->setVisible(!form_.IntituleAnnee().isEmpty());

@@ -5,6 +5,8 @@
 #include "screens/principal/frm_main.h"
 #include "ui/commun/marque_etat.h"
 
+using namespace Qt::StringLiterals;
+
 BarreEtat::BarreEtat(const TFrmMain& form, QWidget* parent)
     : QWidget(parent),
       form_(form),
@@ -13,7 +15,7 @@ BarreEtat::BarreEtat(const TFrmMain& form, QWidget* parent)
       affichee_(new Etiquette({}, TRole::Secondaire)),
       travail_(new Etiquette({}, TRole::Secondaire)),
       serveur_(new Etiquette({}, TRole::Secondaire)) {
-  setAccessibleName(QStringLiteral("État"));
+  setAccessibleName(u"État"_s);
   auto* ligne = new QHBoxLayout(this);
   ligne->setContentsMargins(Theme::Px(14), 1, Theme::Px(14), 0);
   ligne->setSpacing(Theme::Px(24));
@@ -31,17 +33,17 @@ void BarreEtat::Actualiser() {
   affichee_->setText(u"Affichée : " % AnneeEnTexte(affichee));
   travail_->setText(u"Année de travail : " % AnneeEnTexte(travail));
   ecart_->setVisible(relie && affichee != travail);
-  ecart_->Definir(TNiveauEtat::Alerte, QStringLiteral("Année affichée ≠ année de travail"));
+  ecart_->Definir(TNiveauEtat::Alerte, u"Année affichée ≠ année de travail"_s);
   const QString serveur = form_.Serveur();
   serveur_->setText(!serveur.isEmpty()      ? QString(u"Serveur : " % serveur)
-                    : Globals.ModeHorsLigne ? QStringLiteral("Hors ligne")
-                                            : QStringLiteral("Non connecté"));
+                    : Globals.ModeHorsLigne ? u"Hors ligne"_s
+                                            : u"Non connecté"_s);
 }
 
 void BarreEtat::MontrerEtat() {
   const TEtatPrincipal& etat = form_.Etat();
   if (etat.Niveau == TNiveauEtat::Neutre && form_.EnTravail())
-    etat_->Definir(QStringLiteral("data-information"), etat.Texte);
+    etat_->Definir(u"data-information"_s, etat.Texte);
   else
     etat_->Definir(etat.Niveau, etat.Texte);
   etat_->setAccessibleName(etat.Texte);

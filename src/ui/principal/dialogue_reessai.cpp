@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kLargeur = 560;
@@ -22,7 +24,7 @@ class Lien : public QLabel {
  protected:
   void keyPressEvent(QKeyEvent* touche) override {
     if (touche->key() == Qt::Key_Return || touche->key() == Qt::Key_Enter || touche->key() == Qt::Key_Space)
-      emit linkActivated(QStringLiteral("#"));
+      emit linkActivated(u"#"_s);
     else
       QLabel::keyPressEvent(touche);
   }
@@ -68,7 +70,7 @@ DialogueReessai::DialogueReessai(const TReessai& reessai, QWidget* parent)
     Contenu()->addWidget(cause);
   }
   Contenu()->addStretch();
-  DefinirPrincipal(QStringLiteral("&Réessayer"));
+  DefinirPrincipal(u"&Réessayer"_s);
   resize(minimumWidth(), layout()->totalHeightForWidth(minimumWidth()));
   Principal()->setFocus();
 }

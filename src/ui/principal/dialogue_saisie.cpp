@@ -4,14 +4,16 @@
 
 #include "ui/commun/champ_libelle.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a person needs to know to answer, besides what is asked.
 QString Aide(const QString& titre) {
   if (titre != u"Identification du Serveur de données") return {};
-  return QStringLiteral(
-      "Le nom « local » fait travailler ce poste seul, sans serveur : les données sont alors dans un fichier "
-      "de cet ordinateur, créé à la première ouverture.");
+  return u"Le nom « local » fait travailler ce poste seul, sans serveur : les données sont alors dans un "
+         u"fichier "
+         "de cet ordinateur, créé à la première ouverture."_s;
 }
 
 }  // namespace

@@ -11,6 +11,8 @@
 #include "ui/principal/dialogue_reessai.h"
 #include "ui/principal/dialogue_saisie.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void Preparer(QMessageBox& boite, const QString& texte, const QString& icone, TRole role) {
@@ -25,7 +27,7 @@ void Dire(const QString& texte, const QString& icone, TRole role) {
   const TDevant devant;
   QMessageBox boite(devant.Fenetre());
   Preparer(boite, texte, icone, role);
-  QPushButton* ok = BoutonPrincipal(QStringLiteral("OK"));
+  QPushButton* ok = BoutonPrincipal(u"OK"_s);
   boite.addButton(ok, QMessageBox::AcceptRole);
   boite.setDefaultButton(ok);
   boite.setEscapeButton(ok);
@@ -66,13 +68,9 @@ TDevant::~TDevant() {
   if (fenetre_ && fenetre_->isVisible()) fenetre_->activateWindow();
 }
 
-void DialoguesQt::Message(const QString& texte) {
-  Dire(texte, QStringLiteral("data-warning"), TRole::Alerte);
-}
+void DialoguesQt::Message(const QString& texte) { Dire(texte, u"data-warning"_s, TRole::Alerte); }
 
-void DialoguesQt::Information(const QString& texte) {
-  Dire(texte, QStringLiteral("data-information"), TRole::Accent);
-}
+void DialoguesQt::Information(const QString& texte) { Dire(texte, u"data-information"_s, TRole::Accent); }
 
 bool DialoguesQt::Confirmer(const QString& question) { return Demander(question, false); }
 
@@ -81,13 +79,13 @@ bool DialoguesQt::ConfirmerGrave(const QString& question) { return Demander(ques
 bool DialoguesQt::Demander(const QString& question, bool sansRetour) {
   const TDevant devant;
   QMessageBox boite(devant.Fenetre());
-  Preparer(boite, question, sansRetour ? QStringLiteral("data-warning") : QStringLiteral("data-information"),
+  Preparer(boite, question, sansRetour ? u"data-warning"_s : u"data-information"_s,
            sansRetour ? TRole::Alerte : TRole::Accent);
   const auto genre = [](bool principal) {
     return principal ? TGenreBouton::Principal : TGenreBouton::Simple;
   };
-  QPushButton* oui = CreerBouton(genre(!sansRetour), QStringLiteral("&Oui"));
-  QPushButton* non = CreerBouton(genre(sansRetour), QStringLiteral("&Non"));
+  QPushButton* oui = CreerBouton(genre(!sansRetour), u"&Oui"_s);
+  QPushButton* non = CreerBouton(genre(sansRetour), u"&Non"_s);
   boite.addButton(oui, QMessageBox::YesRole);
   boite.addButton(non, QMessageBox::NoRole);
   boite.setDefaultButton(sansRetour ? non : oui);
@@ -108,7 +106,7 @@ std::optional<QString> DialoguesQt::ChoisirFichier(const QString& titre, const Q
   const TDevant devant;
   QFileDialog dialogue(devant.Fenetre(), titre, DossierDepart(dossier_));
   dialogue.setFileMode(QFileDialog::ExistingFile);
-  dialogue.setNameFilters({filtre, QStringLiteral("Tous les fichiers (*)")});
+  dialogue.setNameFilters({filtre, u"Tous les fichiers (*)"_s});
   return Choisi(dialogue, dossier_);
 }
 

@@ -17,6 +17,8 @@
 #include "ui/principal/vue_accueil.h"
 #include "ui/vues.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Trait : public QWidget {
@@ -45,7 +47,7 @@ FenetrePrincipale::FenetrePrincipale(TFrmMain& form, DialoguesQt& dialogues)
       rien_(new QWidget),
       vide_(new EtatVide(rien_)),
       etat_(new BarreEtat(form)) {
-  setWindowTitle(QStringLiteral("Calpenne"));
+  setWindowTitle(u"Calpenne"_s);
   Disposer();
   CreerTouches();
   Suivre();
@@ -150,9 +152,8 @@ void FenetrePrincipale::ActualiserContenu() {
     return commande.Gestionnaire == TGestionnaire::AdvGlowButton2Click;
   });
   const bool ouvrables = form_.PageVisible(TPage::PgEleve) && form_.CommandeActive(*fiches);
-  vide_->Montrer(QStringLiteral("Aucun écran ouvert"),
-                 QStringLiteral("Choisissez un écran dans la barre de commandes."),
-                 ouvrables ? QStringLiteral("Fiches des élèves") : QString());
+  vide_->Montrer(u"Aucun écran ouvert"_s, u"Choisissez un écran dans la barre de commandes."_s,
+                 ouvrables ? u"Fiches des élèves"_s : QString());
 }
 
 QWidget* FenetrePrincipale::VueCourante() const { return vues_.value(form_.Panneau.Courante()); }
@@ -192,7 +193,7 @@ void FenetrePrincipale::Progresser(int fait, int total, const QString& nom) {
     feuilleEnCours_ = sienne != nullptr ? sienne : feuille_;
     feuilleOuverte_ = feuilleEnCours_->isHidden();
     // One step says nothing of how long it takes.
-    if (feuilleOuverte_) feuilleEnCours_->Demarrer(QStringLiteral("Travail en cours"), total > 1 ? total : 0);
+    if (feuilleOuverte_) feuilleEnCours_->Demarrer(u"Travail en cours"_s, total > 1 ? total : 0);
   }
   if (total > 0 && feuilleEnCours_) feuilleEnCours_->Avancer(fait, nom);
   if (total <= 0 && feuilleEnCours_ && feuilleOuverte_) feuilleEnCours_->Terminer();

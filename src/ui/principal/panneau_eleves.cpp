@@ -13,6 +13,8 @@
 #include "ui/commun/etiquette.h"
 #include "ui/principal/modele_arbre.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Name, and on the right the count of a class or the word for a pupil struck off.
@@ -79,7 +81,7 @@ class DelegueEleves : public QStyledItemDelegate {
     return index.data(ModeleArbre::kMarque).toInt() == static_cast<int>(TMarqueNoeud::Barree);
   }
   static QString Droite(const QModelIndex& index) {
-    return EstBarre(index) ? QStringLiteral("radié") : index.data(ModeleArbre::kCompte).toString();
+    return EstBarre(index) ? u"radié"_s : index.data(ModeleArbre::kCompte).toString();
   }
   static QRect Place(const QStyleOptionViewItem& option) {
     return option.rect.adjusted(Theme::Px(2), 0, -Theme::Px(8), 0);
@@ -126,15 +128,14 @@ PanneauEleves::~PanneauEleves() { form_.Arbre.SurChangement = nullptr; }
 
 void PanneauEleves::CreerRecherche() {
   recherche_ = new QLineEdit;
-  recherche_->setPlaceholderText(QStringLiteral("Rechercher (F3)"));
-  recherche_->setAccessibleName(QStringLiteral("Rechercher un élève"));
-  recherche_->setToolTip(QStringLiteral("Début du nom (F3) ; Entrée : élève suivant ; Début : effacer"));
-  recherche_->addAction(Theme::Icone(QStringLiteral("edit-find"), TRole::Secondaire),
-                        QLineEdit::LeadingPosition);
-  suivant_ = recherche_->addAction(Theme::Icone(QStringLiteral("go-down"), TRole::Secondaire),
-                                   QLineEdit::TrailingPosition);
-  suivant_->setText(QStringLiteral("Élève suivant"));
-  suivant_->setToolTip(QStringLiteral("Élève suivant (Entrée)"));
+  recherche_->setPlaceholderText(u"Rechercher (F3)"_s);
+  recherche_->setAccessibleName(u"Rechercher un élève"_s);
+  recherche_->setToolTip(u"Début du nom (F3) ; Entrée : élève suivant ; Début : effacer"_s);
+  recherche_->addAction(Theme::Icone(u"edit-find"_s, TRole::Secondaire), QLineEdit::LeadingPosition);
+  suivant_ =
+      recherche_->addAction(Theme::Icone(u"go-down"_s, TRole::Secondaire), QLineEdit::TrailingPosition);
+  suivant_->setText(u"Élève suivant"_s);
+  suivant_->setToolTip(u"Élève suivant (Entrée)"_s);
   recherche_->installEventFilter(this);
   connect(suivant_, &QAction::triggered, this, [this] { form_.btnRechercheClick(); });
   connect(recherche_, &QLineEdit::textEdited, this, &PanneauEleves::Texter);
@@ -150,7 +151,7 @@ void PanneauEleves::CreerArbre() {
   arbre_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   arbre_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   arbre_->setContextMenuPolicy(Qt::CustomContextMenu);
-  arbre_->setAccessibleName(QStringLiteral("Classes et élèves"));
+  arbre_->setAccessibleName(u"Classes et élèves"_s);
   arbre_->setTabKeyNavigation(false);
   arbre_->header()->setStretchLastSection(true);
   connect(arbre_->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -205,10 +206,9 @@ void PanneauEleves::Actualiser() {
   compte_->setVisible(form_.EstRelie() && !vide);
   if (vide) {
     vide_->setText(u"Aucun élève en " % AnneeEnTexte(form_.AnneeCochee()));
-    phrase_->setText(
-        form_.AnneeCochee() == Globals.AnneeScolaire
-            ? QStringLiteral("Importez l'export du registre SIEL pour créer les classes et les élèves.")
-            : QStringLiteral("Le menu des années (Ctrl+0) montre les autres."));
+    phrase_->setText(form_.AnneeCochee() == Globals.AnneeScolaire
+                         ? u"Importez l'export du registre SIEL pour créer les classes et les élèves."_s
+                         : u"Le menu des années (Ctrl+0) montre les autres."_s);
   }
   QString compte = QString::number(eleves) % (eleves > 1 ? u" élèves" : u" élève");
   if (radies > 0) compte += u", dont " % QString::number(radies) % (radies > 1 ? u" radiés" : u" radié");
@@ -262,10 +262,9 @@ void PanneauEleves::AllerALaRecherche() {
 
 void PanneauEleves::MontrerMenu(const QWidget& ou, const QPoint& position) {
   QMenu menu(this);
-  QAction* ajouter =
-      menu.addAction(Theme::Icone(QStringLiteral("list-add")), QStringLiteral("&Ajouter un professeur..."));
-  QAction* supprimer = menu.addAction(Theme::Icone(QStringLiteral("edit-delete"), TRole::Erreur),
-                                      QStringLiteral("&Supprimer ce professeur"));
+  QAction* ajouter = menu.addAction(Theme::Icone(u"list-add"_s), u"&Ajouter un professeur..."_s);
+  QAction* supprimer =
+      menu.addAction(Theme::Icone(u"edit-delete"_s, TRole::Erreur), u"&Supprimer ce professeur"_s);
   ajouter->setEnabled(form_.PeutAjouterProfesseur());
   supprimer->setEnabled(form_.PeutSupprimerProfesseur());
   const QAction* choisi = menu.exec(ou.mapToGlobal(position));

@@ -5,6 +5,8 @@
 #include "ui/commun/etiquette.h"
 #include "ui/commun/marque_etat.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kIcone = 32;
@@ -50,8 +52,8 @@ class VueAccueil::Ligne : public QWidget {
 
   void Actualiser(const TEtapeAccueil& etape) {
     faite_ = etape.Faite;
-    etat_->Definir(etape.Faite ? QStringLiteral("dialog-ok-apply") : QStringLiteral("data-information"),
-                   etape.Faite ? QStringLiteral("Fait") : QStringLiteral("À faire"));
+    etat_->Definir(etape.Faite ? u"dialog-ok-apply"_s : u"data-information"_s,
+                   etape.Faite ? u"Fait"_s : u"À faire"_s);
     DefinirGenre(*bouton_, etape.Prochaine ? TGenreBouton::Principal : TGenreBouton::Simple);
     bouton_->setEnabled(etape.Possible);
     bouton_->setToolTip(etape.RaisonInactive);
@@ -93,10 +95,10 @@ VueAccueil::VueAccueil(TFrmMain& form, QWidget* parent)
   auto* colonne = new QVBoxLayout;
   colonne->setContentsMargins(0, 0, 0, 0);
   colonne->setSpacing(Theme::Px(8));
-  auto* note =
-      new Etiquette(QStringLiteral("Les tarifs et les frais peuvent être encodés ou corrigés plus tard : "
-                                   "les montants sont recalculés à chaque demande."),
-                    TRole::Secondaire);
+  auto* note = new Etiquette(
+      u"Les tarifs et les frais peuvent être encodés ou corrigés plus tard : "
+      "les montants sont recalculés à chaque demande."_s,
+      TRole::Secondaire);
   for (Etiquette* texte : {phrase_, note}) texte->setWordWrap(true);
   colonne->addWidget(titre_);
   colonne->addWidget(phrase_);
@@ -120,9 +122,8 @@ VueAccueil::VueAccueil(TFrmMain& form, QWidget* parent)
 void VueAccueil::Actualiser() {
   const int affichee = form_.AnneeCochee(), travail = Globals.AnneeScolaire;
   if (affichee == travail) {
-    titre_->setText(QStringLiteral("Bienvenue dans Calpenne"));
-    phrase_->setText(
-        QStringLiteral("La base est prête et ne contient encore aucun élève. Voici par où commencer."));
+    titre_->setText(u"Bienvenue dans Calpenne"_s);
+    phrase_->setText(u"La base est prête et ne contient encore aucun élève. Voici par où commencer."_s);
   } else {
     titre_->setText(u"Aucun élève en " % AnneeEnTexte(affichee));
     phrase_->setText(u"L'importation remplit l'année de travail, " % AnneeEnTexte(travail) %

@@ -13,6 +13,8 @@
 #include "ui/commun/titres.h"
 #include "ui/pupils/champ_lecture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kColonnesSituation = 3;
@@ -42,7 +44,7 @@ FicheIdentite::FicheIdentite(TFrmSignaletique& form) : form_(form) {
   AjouterMois();
   AjouterActivites();
   auto* lecture = new MarqueEtat;
-  lecture->Definir(T("data-information"), T("Fiche en lecture seule : elle ne se modifie pas encore ici"));
+  lecture->Definir(u"data-information"_s, u"Fiche en lecture seule : elle ne se modifie pas encore ici"_s);
   AjouterSection(nullptr)->addWidget(lecture);
   colonne->addStretch(1);
 }
@@ -81,7 +83,7 @@ QLayout* FicheIdentite::CreerEntete() {
   naissance_->setReadOnly(true);
   naissance_->MontrerFleche(false);
   naissance_->setFixedWidth(Theme::Px(96));
-  auto* date = Cote({{CreerLibelle(T("Date de naissance:"), naissance_), 0}, {naissance_, 0}});
+  auto* date = Cote({{CreerLibelle(u"Date de naissance:"_s, naissance_), 0}, {naissance_, 0}});
   date->addStretch(1);
 
   auto* textes = new QVBoxLayout;
@@ -100,7 +102,7 @@ QLayout* FicheIdentite::CreerEntete() {
 }
 
 QLayout* FicheIdentite::CreerSolde() {
-  titreSolde_ = CreerLibelle(T("Solde"), nullptr);
+  titreSolde_ = CreerLibelle(u"Solde"_s, nullptr);
   solde_ = new Etiquette({}, TRole::Texte, &Theme::Compteur);
   etatSolde_ = new MarqueEtat;
   auto* colonne = new QVBoxLayout;
@@ -120,8 +122,8 @@ QLayout* FicheIdentite::CreerResponsables() {
   grille->setColumnStretch(2, 1);
   grille->addWidget(CreerTitre("Responsable"), 0, 1);
   grille->addWidget(CreerTitre("Second responsable"), 0, 2);
-  AjouterResponsable(*grille, 1, responsables_[0], T(" du responsable"), T(" au nom du responsable"));
-  AjouterResponsable(*grille, 2, responsables_[1], T(" du second responsable"), T(" au nom du second"));
+  AjouterResponsable(*grille, 1, responsables_[0], u" du responsable"_s, u" au nom du responsable"_s);
+  AjouterResponsable(*grille, 2, responsables_[1], u" du second responsable"_s, u" au nom du second"_s);
   const char* const libelles[] = {"Nom, prénom", "Adresse, n°", "Code, localité", "Attestation"};
   QWidget* const champs[] = {responsables_[0].Nom, responsables_[0].Adresse, responsables_[0].CodePostal,
                              responsables_[0].Attestation};
@@ -138,7 +140,7 @@ void FicheIdentite::AjouterResponsable(QGridLayout& grille, int colonne, TChamps
             new ChampLecture(u"Numéro" % de),
             new ChampLecture(u"Code postal" % de),
             new ChampLecture(u"Localité" % de),
-            CreerBouton<ChoixLecture>(colonne == 1 ? T("Au nom du responsable") : T("Au nom du second"))};
+            CreerBouton<ChoixLecture>(colonne == 1 ? u"Au nom du responsable"_s : u"Au nom du second"_s)};
   champs.Attestation->setAccessibleName(u"Attestation" % au);
   champs.Numero->setFixedWidth(Theme::Px(52));
   champs.CodePostal->setFixedWidth(Theme::Px(52));
@@ -151,9 +153,9 @@ void FicheIdentite::AjouterResponsable(QGridLayout& grille, int colonne, TChamps
 void FicheIdentite::AjouterCompte(QGridLayout& grille) {
   compte_ = new ChampLecture({});
   titulaire_ = new ChampLecture({});
-  grille.addWidget(CreerLibelle(T("N° compte :"), compte_), 5, 0);
+  grille.addWidget(CreerLibelle(u"N° compte :"_s, compte_), 5, 0);
   grille.addWidget(compte_, 5, 1);
-  grille.addLayout(Cote({{CreerLibelle(T("Nom du titulaire :"), titulaire_), 0}, {titulaire_, 1}}), 5, 2);
+  grille.addLayout(Cote({{CreerLibelle(u"Nom du titulaire :"_s, titulaire_), 0}, {titulaire_, 1}}), 5, 2);
 }
 
 void FicheIdentite::AjouterSituation() {
@@ -225,7 +227,7 @@ void FicheIdentite::Actualiser() {
 
 void FicheIdentite::ActualiserEntete() {
   const TFicheEleve& fiche = form_.Fiche();
-  nom_->setText(form_.AvecEleve() ? fiche.NomComplet : T("Choisissez un élève dans la liste"));
+  nom_->setText(form_.AvecEleve() ? fiche.NomComplet : u"Choisissez un élève dans la liste"_s);
   sousTitre_->setText(fiche.SousTitre());
   photo_->Definir(form_.Photo());
   naissance_->setText(fiche.DateNaissance);
@@ -276,5 +278,5 @@ void FicheIdentite::ActualiserCases() {
     jours_[jour]->setChecked(form_.JoursActivite()[jour]);
   activites_->parentWidget()->setVisible(form_.ActivitesVisibles() && form_.AvecEleve());
   titreActivites_->setVisible(!form_.ActivitesExtVisibles());  // one heading for both
-  activites_->setText(form_.Activites().isEmpty() ? T("Aucune activité") : form_.Activites());
+  activites_->setText(form_.Activites().isEmpty() ? u"Aucune activité"_s : form_.Activites());
 }

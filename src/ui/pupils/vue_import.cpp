@@ -16,18 +16,17 @@
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 
+using namespace Qt::StringLiterals;
+
 VueImport::VueImport(TFrmImport& form, QWidget* parent)
     : QWidget(parent),
       form_(form),
-      etape1_(BoutonPrincipal(QStringLiteral("Etape n°1 : Ouvrir le fichier de données"),
-                              QStringLiteral("document-open"))),
-      etape2_(BoutonSimple(QStringLiteral("Etape n°2 : Démarrer le transfert des données"),
-                           QStringLiteral("document-import"))),
+      etape1_(BoutonPrincipal(u"Etape n°1 : Ouvrir le fichier de données"_s, u"document-open"_s)),
+      etape2_(BoutonSimple(u"Etape n°2 : Démarrer le transfert des données"_s, u"document-import"_s)),
       eleves_(new Compteur({})),
       fichier_(new MarqueEtat),
       feuille_(new FeuilleProgression),
-      grille_(new VueGrille(form.Grille, QStringLiteral("Contenu du fichier"),
-                            QStringLiteral("Importation/Fichier"))),
+      grille_(new VueGrille(form.Grille, u"Contenu du fichier"_s, u"Importation/Fichier"_s)),
       vide_(new EtatVide(grille_)) {
   Disposer();
   connect(etape1_, &QPushButton::clicked, this, [this] { Faire(&TFrmImport::btnEtape1Click); });
@@ -55,13 +54,13 @@ void VueImport::Disposer() {
   comptes->addWidget(eleves_);
   comptes->addWidget(fichier_, 1);
 
-  auto* filtre = new ChampFiltre(QStringLiteral("Filtrer"));
+  auto* filtre = new ChampFiltre(u"Filtrer"_s);
   filtre->setFixedWidth(Theme::Px(200));
   grille_->Filtrer(*filtre);
-  QPushButton* copier = BoutonDiscret(QStringLiteral("Copier"), QStringLiteral("edit-copy"));
-  copier->setToolTip(QStringLiteral("Copier toute la liste (Ctrl+Maj+C)"));
+  QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
+  copier->setToolTip(u"Copier toute la liste (Ctrl+Maj+C)"_s);
   connect(copier, &QPushButton::clicked, grille_, &VueGrille::CopierTout);
-  auto* titre = new TitreSection(QStringLiteral("Contenu du fichier"));
+  auto* titre = new TitreSection(u"Contenu du fichier"_s);
   titre->AjouterAction(filtre);
   titre->AjouterAction(copier);
 
@@ -69,7 +68,7 @@ void VueImport::Disposer() {
   const int marge = Theme::Px(16);
   colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
   colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(QStringLiteral("Importation des élèves")));
+  colonne->addWidget(new TitreEcran(u"Importation des élèves"_s));
   colonne->addLayout(boutons);
   colonne->addLayout(comptes);
   colonne->addWidget(feuille_);
@@ -86,16 +85,14 @@ void VueImport::Actualiser() {
   etape2_->setEnabled(form_.Etape2Active());
   const int nombre = form_.NombreEleves();
   eleves_->Definir(nombre);
-  eleves_->DefinirMot(nombre > 1 ? QStringLiteral("élèves dans le fichier")
-                                 : QStringLiteral("élève dans le fichier"));
+  eleves_->DefinirMot(nombre > 1 ? u"élèves dans le fichier"_s : u"élève dans le fichier"_s);
   fichier_->Definir(form_.Fichier().Niveau, form_.Fichier().Texte);
   if (form_.Grille.NombreLignes() > 0)
     vide_->Cacher();
   else
     vide_->Montrer(
-        QStringLiteral("Aucun élève à montrer"),
-        QStringLiteral(
-            "Ouvrez l'export du registre de l'école : ses élèves s'affichent ici avant le transfert."));
+        u"Aucun élève à montrer"_s,
+        u"Ouvrez l'export du registre de l'école : ses élèves s'affichent ici avant le transfert."_s);
   ActualiserFeuille();
 }
 
@@ -107,8 +104,7 @@ void VueImport::ActualiserFeuille() {
     feuille_->Arreter(feuille.Titre, feuille.Note);
   } else {
     if (!feuilleOuverte_)
-      feuille_->Demarrer(feuille.Titre, feuille.Total, QStringLiteral("Elève actuellement traité :"),
-                         feuille.Note);
+      feuille_->Demarrer(feuille.Titre, feuille.Total, u"Elève actuellement traité :"_s, feuille.Note);
     feuille_->Avancer(feuille.Fait, feuille.Nom);
     grille_->MontrerLigne(form_.Grille.LigneCourante());
   }

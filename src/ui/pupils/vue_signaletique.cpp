@@ -12,6 +12,8 @@
 #include "ui/commun/vue_grille.h"
 #include "ui/pupils/fiche_identite.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // At 10 points.
@@ -19,8 +21,6 @@ constexpr int kLargeurIdentite = 536;
 constexpr int kLargeurDeux = 1060;
 constexpr int kLargeurTrois = 1500;
 constexpr int kRangees = 5;
-
-QString T(const char* texte) { return QString::fromUtf8(texte); }
 
 QWidget* CreerBloc(TitreSection* titre, VueGrille* grille, PiedDeGrille* pied) {
   titre->setMinimumHeight(Theme::Px(30));  // with and without a list of months
@@ -62,13 +62,13 @@ VueSignaletique::~VueSignaletique() { form_.SurChangement = nullptr; }
 QWidget* VueSignaletique::CreerReleve() {
   cmbMois_ = new QComboBox;
   cmbMois_->addItems(TFrmSignaletique::NomsMois());
-  cmbMois_->setAccessibleName(T("Mois du relevé"));
+  cmbMois_->setAccessibleName(u"Mois du relevé"_s);
   cmbMois_->setMaxVisibleItems(10);
   cmbMois_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   connect(cmbMois_, &QComboBox::activated, this, [this](int indice) { form_.cmbMoisChange(indice); });
-  auto* titre = new TitreSection(T("Relevé mensuel des services"));
+  auto* titre = new TitreSection(u"Relevé mensuel des services"_s);
   titre->AjouterSuite(cmbMois_);
-  releve_ = new VueGrille(form_.Releve.Grille, titre->Texte(), T("Signaletique/Releve"));
+  releve_ = new VueGrille(form_.Releve.Grille, titre->Texte(), u"Signaletique/Releve"_s);
   piedReleve_ = new PiedDeGrille(*releve_);
   sansReleve_ = new EtatVide(releve_);
   connect(releve_, &VueGrille::Changee, this, &VueSignaletique::ActualiserListes);
@@ -76,8 +76,8 @@ QWidget* VueSignaletique::CreerReleve() {
 }
 
 QWidget* VueSignaletique::CreerFrais() {
-  auto* titre = new TitreSection(T("Frais et paiements"));
-  frais_ = new VueGrille(form_.Frais.Grille, titre->Texte(), T("Signaletique/Frais"));
+  auto* titre = new TitreSection(u"Frais et paiements"_s);
+  frais_ = new VueGrille(form_.Frais.Grille, titre->Texte(), u"Signaletique/Frais"_s);
   piedFrais_ = new PiedDeGrille(*frais_);
   sansFrais_ = new EtatVide(frais_);
   return CreerBloc(titre, frais_, piedFrais_);
@@ -140,9 +140,9 @@ void VueSignaletique::Actualiser() {
 
 void VueSignaletique::ActualiserListes() {
   const QString total = form_.AvecEleve() ? FormatMontant(form_.Releve.Total) : QString();
-  piedReleve_->Definir({{T("Total"), {}, {}, {}, total}});
+  piedReleve_->Definir({{u"Total"_s, {}, {}, {}, total}});
   const QString sansReleve = form_.TexteSansReleve();
   sansReleve.isEmpty() ? sansReleve_->Cacher() : sansReleve_->Montrer(sansReleve);
   const bool sansFrais = form_.AvecEleve() && form_.Frais.Grille.NombreLignes() == 0;
-  sansFrais ? sansFrais_->Montrer(T("Aucun frais ni paiement")) : sansFrais_->Cacher();
+  sansFrais ? sansFrais_->Montrer(u"Aucun frais ni paiement"_s) : sansFrais_->Cacher();
 }

@@ -14,26 +14,26 @@
 #include "ui/commun/titres.h"
 #include "ui/verifier_vue.h"
 
-namespace {
+using namespace Qt::StringLiterals;
 
-QString T(const char* texte) { return QString::fromUtf8(texte); }
+namespace {
 
 /// Refuses a field that is empty.
 class DialogueEssai : public DialogueBase {
  public:
-  DialogueEssai() : DialogueBase(T("Essai")), Montant(new SaisieMontant) {
-    DefinirPrincipal(T("&Enregistrer"), T("document-save"));
-    auto* titre = new TitreSection(T("Une section"));
-    titre->AjouterAction(BoutonSupprimer(T("Supprimer le coût")));
+  DialogueEssai() : DialogueBase(u"Essai"_s), Montant(new SaisieMontant) {
+    DefinirPrincipal(u"&Enregistrer"_s, u"document-save"_s);
+    auto* titre = new TitreSection(u"Une section"_s);
+    titre->AjouterAction(BoutonSupprimer(u"Supprimer le coût"_s));
     Contenu()->addWidget(titre);
-    Contenu()->addWidget(new ChampLibelle(T("Coût:"), Montant, ChampLibelle::Dessus));
+    Contenu()->addWidget(new ChampLibelle(u"Coût:"_s, Montant, ChampLibelle::Dessus));
   }
   SaisieMontant* Montant;
 
  protected:
   bool Valider() override {
     if (!Montant->text().isEmpty()) return true;
-    MontrerFaute(T("Le coût manque."), Montant);
+    MontrerFaute(u"Le coût manque."_s, Montant);
     return false;
   }
 };
@@ -51,7 +51,7 @@ TEST(DialogueBase, RefuseResteOuvertEtMontreLeChamp) {
   QTest::keyClick(dialogue.Montant, Qt::Key_Tab);  // looked at, not mended
   EXPECT_TRUE(dialogue.Montant->property("faute").toBool());
   dialogue.Montant->setFocus();
-  QTest::keyClicks(dialogue.Montant, T("2,5"));
+  QTest::keyClicks(dialogue.Montant, u"2,5"_s);
   EXPECT_FALSE(dialogue.Montant->property("faute").toBool());
   QTest::keyClick(dialogue.Montant, Qt::Key_Return);
   EXPECT_EQ(dialogue.result(), QDialog::Accepted);
@@ -72,21 +72,21 @@ TEST(DialogueBase, SeParcourt) {
 TEST(PanneauEdition, EnLectureRienNeChange) {
   PanneauEdition panneau;
   auto* montant = new SaisieMontant;
-  panneau.Contenu()->addWidget(new ChampLibelle(T("Coût:"), montant));
+  panneau.Contenu()->addWidget(new ChampLibelle(u"Coût:"_s, montant));
   int annulations = 0;
   QObject::connect(&panneau, &PanneauEdition::Annule, &panneau, [&] { ++annulations; });
   panneau.show();
   QApplication::setActiveWindow(&panneau);
-  panneau.DefinirMode(TModeEdition::Lecture, T("Tarif"));
-  QTest::keyClicks(montant, T("2"));
+  panneau.DefinirMode(TModeEdition::Lecture, u"Tarif"_s);
+  QTest::keyClicks(montant, u"2"_s);
   QTest::keyClick(montant, Qt::Key_Escape);
   EXPECT_EQ(montant->text(), QString());
   EXPECT_EQ(annulations, 0);
-  panneau.DefinirMode(TModeEdition::Modification, T("Modification du tarif"));
+  panneau.DefinirMode(TModeEdition::Modification, u"Modification du tarif"_s);
   panneau.AllerAuPremierChamp();
   EXPECT_TRUE(montant->hasFocus());
-  QTest::keyClicks(montant, T("2"));
+  QTest::keyClicks(montant, u"2"_s);
   QTest::keyClick(montant, Qt::Key_Escape);
-  EXPECT_EQ(montant->text(), T("2"));
+  EXPECT_EQ(montant->text(), u"2"_s);
   EXPECT_EQ(annulations, 1);
 }

@@ -11,6 +11,8 @@
 #include "ui/commun/saisie.h"
 #include "ui/commun/texte.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString T(const char* texte) { return QString::fromUtf8(texte); }
@@ -53,13 +55,13 @@ TEST(Saisies, AnnoncentUnAutreTexteUneFois) {
   int saisies = 0;
   QObject::connect(&date, &Saisie::Saisi, &date, [&] { ++saisies; });
   date.DefinirDate(EncodeDate(2010, 3, 14));
-  Saisir(date, T("14/03/2010"));
+  Saisir(date, u"14/03/2010"_s);
   EXPECT_EQ(saisies, 0);
-  Saisir(date, T("15/3/2010"));
+  Saisir(date, u"15/3/2010"_s);
   QTest::keyClick(&date, Qt::Key_Return);
   EXPECT_EQ(saisies, 1);
   EXPECT_EQ(date.Date(), EncodeDate(2010, 3, 15));
-  Saisir(date, T("31/02/2010"));
+  Saisir(date, u"31/02/2010"_s);
   EXPECT_EQ(saisies, 2);
   EXPECT_FALSE(date.Date().has_value());
 }
@@ -68,7 +70,7 @@ TEST(Saisies, LaMoletteNeChangeQueLeChampDuFoyer) {
   QWidget fenetre;
   auto* colonne = new QVBoxLayout(&fenetre);
   auto* liste = new QComboBox;
-  liste->addItems({T("a"), T("b")});
+  liste->addItems({u"a"_s, u"b"_s});
   auto* autre = new QLineEdit;
   colonne->addWidget(autre);
   colonne->addWidget(liste);
@@ -88,7 +90,7 @@ TEST(Saisies, LaMoletteNeChangeQueLeChampDuFoyer) {
 }
 
 TEST(GrilleMois, SeConduitAuClavier) {
-  GrilleMois mois({T("Participe à l'étude"), T("Paiement forfaitaire")});
+  GrilleMois mois({u"Participe à l'étude"_s, u"Paiement forfaitaire"_s});
   std::vector<std::array<int, 3>> gestes;
   QObject::connect(&mois, &GrilleMois::Basculee, &mois, [&](int ligne, int m, bool coche) {
     gestes.push_back({ligne, m, coche});
@@ -134,8 +136,8 @@ TEST(GrilleMois, SeConduitAuClavier) {
 }
 
 TEST(Texte, MontantsEtLibelles) {
-  EXPECT_EQ(TexteMontant(Currency::Brut(-1829000)), T("−182,90\u00A0€"));
+  EXPECT_EQ(TexteMontant(Currency::Brut(-1829000)), u"−182,90\u00A0€"_s);
   for (const char* laisse : {"05/11/2018", "Classe 3 - 4", "-", "7h30", ""})
     EXPECT_EQ(TypographieMontant(T(laisse)), T(laisse));
-  EXPECT_EQ(NomAccessible(T("N° &compte : ")), T("N° compte"));
+  EXPECT_EQ(NomAccessible(u"N° &compte : "_s), u"N° compte"_s);
 }

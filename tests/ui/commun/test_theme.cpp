@@ -6,6 +6,8 @@
 #include "ui/commun/theme.h"
 #include "ui/verifier_vue.h"
 
+using namespace Qt::StringLiterals;
+
 TEST(Theme, LesCouleursSeDistinguentDansLesDeuxPalettes) {
   for (const Theme::TMode mode : {Theme::TMode::Clair, Theme::TMode::Sombre}) {
     Theme::Appliquer(*qApp, mode);
@@ -42,8 +44,8 @@ TEST(Theme, LesCouleursSeDistinguentDansLesDeuxPalettes) {
 TEST(Theme, UneIconeGardeeSuitLaPalette) {
   Theme::Appliquer(*qApp, Theme::TMode::Sombre);
   EXPECT_TRUE(Theme::EstSombre());
-  const QImage sombre = Theme::Icone(QStringLiteral("edit-find")).pixmap(16, 16).toImage();
-  const QIcon gardee = Theme::Icone(QStringLiteral("edit-find"));
+  const QImage sombre = Theme::Icone(u"edit-find"_s).pixmap(16, 16).toImage();
+  const QIcon gardee = Theme::Icone(u"edit-find"_s);
   Theme::Appliquer(*qApp, Theme::TMode::Clair);
   EXPECT_FALSE(Theme::EstSombre());
   EXPECT_NE(gardee.pixmap(16, 16).toImage(), sombre);  // an icon that is kept takes the new colour

@@ -11,23 +11,25 @@
 #include "ui/commun/theme.h"
 #include "ui/commun/vue_grille.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString T(const char* texte) { return QString::fromUtf8(texte); }
 
 std::vector<TColonneGrille> Colonnes() {
-  return {{T("Libellé"), 200},
-          {T("Date"), 90, TAlignement::Gauche, TOrdre::Date},
-          {T("Dû"), 80, TAlignement::Droite, TOrdre::Nombre},
-          {T("État"), 80}};
+  return {{u"Libellé"_s, 200},
+          {u"Date"_s, 90, TAlignement::Gauche, TOrdre::Date},
+          {u"Dû"_s, 80, TAlignement::Droite, TOrdre::Nombre},
+          {u"État"_s, 80}};
 }
 
 TGrille Frais() {
   TGrille grille(Colonnes());
-  grille.Etats = {{}, {T("Payé"), T("dialog-ok-apply")}};
-  grille.Ajouter({T("Natation"), T("05/11/2018"), T("9,00 €")}, {}, 1);
-  grille.Ajouter({T("Théâtre"), T("12/09/2018"), T("-1 182,90 €")});
-  grille.Ajouter({T("Mer"), T("01/02/2019"), T("185,00 €")});
+  grille.Etats = {{}, {u"Payé"_s, u"dialog-ok-apply"_s}};
+  grille.Ajouter({u"Natation"_s, u"05/11/2018"_s, u"9,00 €"_s}, {}, 1);
+  grille.Ajouter({u"Théâtre"_s, u"12/09/2018"_s, u"-1 182,90 €"_s});
+  grille.Ajouter({u"Mer"_s, u"01/02/2019"_s, u"185,00 €"_s});
   return grille;
 }
 
@@ -52,7 +54,7 @@ void Montrer(VueGrille& vue) {
 TEST(VueGrille, TrieSelonLaValeurEtGardeLaLigne) {
   TGrille grille = Frais();
   grille.ChoisirLigne(2);
-  VueGrille vue(grille, T("Frais"), {});
+  VueGrille vue(grille, u"Frais"_s, {});
   Montrer(vue);
   const struct {
     int Colonne;
@@ -61,54 +63,54 @@ TEST(VueGrille, TrieSelonLaValeurEtGardeLaLigne) {
   for (const auto& [colonne, ordre] : cas) {
     vue.sortByColumn(colonne, Qt::AscendingOrder);
     EXPECT_EQ(Vus(vue), T(ordre).split(u'|')) << colonne;
-    EXPECT_EQ(vue.currentIndex().siblingAtColumn(0).data().toString(), T("Mer"));
+    EXPECT_EQ(vue.currentIndex().siblingAtColumn(0).data().toString(), u"Mer"_s);
     EXPECT_TRUE(vue.selectionModel()->isSelected(vue.currentIndex()));
   }
-  EXPECT_EQ(Vus(vue, 2).first(), T("−1\u00A0182,90\u00A0€"));
+  EXPECT_EQ(Vus(vue, 2).first(), u"−1\u00A0182,90\u00A0€"_s);
   QTest::keyClick(&vue, Qt::Key_Home);
   EXPECT_EQ(grille.LigneCourante(), 1);
 
-  grille.Ajouter({T("Avent"), {}, T("-2 000,00 €")});  // keeps order and row
-  EXPECT_EQ(Vus(vue).first(), T("Avent"));
-  EXPECT_EQ(vue.currentIndex().siblingAtColumn(0).data().toString(), T("Théâtre"));
+  grille.Ajouter({u"Avent"_s, {}, u"-2 000,00 €"_s});  // keeps order and row
+  EXPECT_EQ(Vus(vue).first(), u"Avent"_s);
+  EXPECT_EQ(vue.currentIndex().siblingAtColumn(0).data().toString(), u"Théâtre"_s);
 }
 
 TEST(VueGrille, FiltreEnTapant) {
   TGrille grille = Frais();
   grille.ChoisirLigne(0);
-  VueGrille vue(grille, T("Frais"), {});
+  VueGrille vue(grille, u"Frais"_s, {});
   ChampFiltre champ;
   vue.Filtrer(champ);
   Montrer(vue);
-  QTest::keyClicks(&champ, T("theatre"));
-  EXPECT_EQ(Vus(vue), QStringList{T("Théâtre")});
+  QTest::keyClicks(&champ, u"theatre"_s);
+  EXPECT_EQ(Vus(vue), QStringList{u"Théâtre"_s});
   EXPECT_EQ(vue.NombreVisibles(), 1);
   EXPECT_EQ(grille.LigneCourante(), -1);  // it is out of sight
   QTest::keyClick(&champ, Qt::Key_Escape);
   EXPECT_EQ(Vus(vue).size(), 3);
-  QTest::keyClicks(&champ, T("paye"));  // the word of the state
-  EXPECT_EQ(Vus(vue), QStringList{T("Natation")});
+  QTest::keyClicks(&champ, u"paye"_s);  // the word of the state
+  EXPECT_EQ(Vus(vue), QStringList{u"Natation"_s});
 }
 
 TEST(VueGrille, CopieAvecTabulations) {
   TGrille grille = Frais();
   grille.ChoisirLigne(0);
-  VueGrille vue(grille, T("Frais"), {});
+  VueGrille vue(grille, u"Frais"_s, {});
   Montrer(vue);
   QTest::keyClick(&vue, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QApplication::clipboard()->text(), T("Natation\t05/11/2018\t9,00 €\tPayé"));
+  EXPECT_EQ(QApplication::clipboard()->text(), u"Natation\t05/11/2018\t9,00 €\tPayé"_s);
   vue.sortByColumn(2, Qt::AscendingOrder);
   QTest::keyClick(&vue, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
   const QStringList lignes = QApplication::clipboard()->text().split(u'\n');
   EXPECT_EQ(lignes.size(), 4);
-  EXPECT_EQ(lignes[0], T("Libellé\tDate\tDû\tÉtat"));
-  EXPECT_EQ(lignes[1], T("Théâtre\t12/09/2018\t-1 182,90 €\t"));
+  EXPECT_EQ(lignes[0], u"Libellé\tDate\tDû\tÉtat"_s);
+  EXPECT_EQ(lignes[1], u"Théâtre\t12/09/2018\t-1 182,90 €\t"_s);
 }
 
 TEST(VueGrille, RetientLargeursOrdreEtTri) {
   {
     TGrille grille = Frais();
-    VueGrille vue(grille, T("Frais"), T("Essai/Frais"));
+    VueGrille vue(grille, u"Frais"_s, u"Essai/Frais"_s);
     Montrer(vue);
     vue.header()->resizeSection(2, Theme::Px(123));
     vue.header()->moveSection(3, 1);
@@ -116,47 +118,47 @@ TEST(VueGrille, RetientLargeursOrdreEtTri) {
     EXPECT_EQ(grille.Colonne(2).Largeur, 123);
   }
   TGrille grille = Frais();
-  VueGrille vue(grille, T("Frais"), T("Essai/Frais"));
+  VueGrille vue(grille, u"Frais"_s, u"Essai/Frais"_s);
   Montrer(vue);
   EXPECT_EQ(vue.header()->sectionSize(2), Theme::Px(123));
   EXPECT_EQ(vue.header()->visualIndex(3), 1);
-  EXPECT_EQ(Vus(vue), T("Mer|Natation|Théâtre").split(u'|'));
+  EXPECT_EQ(Vus(vue), u"Mer|Natation|Théâtre"_s.split(u'|'));
 
-  TGrille autre({{T("Nom")}, {T("Prénom")}});  // what does not fit is forgotten
-  VueGrille neuve(autre, T("Noms"), T("Essai/Frais"));
+  TGrille autre({{u"Nom"_s}, {u"Prénom"_s}});  // what does not fit is forgotten
+  VueGrille neuve(autre, u"Noms"_s, u"Essai/Frais"_s);
   EXPECT_EQ(neuve.header()->sortIndicatorSection(), -1);
 }
 
 TEST(VueGrille, NeCoupePasUnMontant) {
-  TGrille grille({{T("Nom"), 200}, {T("Dû"), 20, TAlignement::Droite, TOrdre::Nombre}});
-  VueGrille vue(grille, T("Frais"), {});
+  TGrille grille({{u"Nom"_s, 200}, {u"Dû"_s, 20, TAlignement::Droite, TOrdre::Nombre}});
+  VueGrille vue(grille, u"Frais"_s, {});
   Montrer(vue);
-  grille.Ajouter({T("Mer"), T("1 000 182,90 €")});
+  grille.Ajouter({u"Mer"_s, u"1 000 182,90 €"_s});
   QApplication::processEvents();
   EXPECT_GE(vue.header()->sectionSize(1),
-            vue.fontMetrics().horizontalAdvance(T("1\u00A0000\u00A0182,90\u00A0€")) + 2 * Theme::Px(7));
+            vue.fontMetrics().horizontalAdvance(u"1\u00A0000\u00A0182,90\u00A0€"_s) + 2 * Theme::Px(7));
 }
 
 TEST(VueGrille, PlieLesGroupesAuClavier) {
-  TGrille grille({{T("Catégorie"), 160}, {T("Montant"), 80, TAlignement::Droite, TOrdre::Nombre}});
+  TGrille grille({{u"Catégorie"_s, 160}, {u"Montant"_s, 80, TAlignement::Droite, TOrdre::Nombre}});
   const auto remplir = [&] {
     const TGrille::TLot lot(grille);
     grille.Vider();
-    grille.AjouterTete({T("Matin"), T("3,00 €")});
-    grille.Ajouter({T("lundi"), T("2,00 €")});
-    grille.Ajouter({T("mardi"), T("1,00 €")});
-    grille.AjouterTete({T("Soir"), T("9,00 €")});
-    grille.Ajouter({T("jeudi"), T("9,00 €")});
+    grille.AjouterTete({u"Matin"_s, u"3,00 €"_s});
+    grille.Ajouter({u"lundi"_s, u"2,00 €"_s});
+    grille.Ajouter({u"mardi"_s, u"1,00 €"_s});
+    grille.AjouterTete({u"Soir"_s, u"9,00 €"_s});
+    grille.Ajouter({u"jeudi"_s, u"9,00 €"_s});
   };
   remplir();
-  VueGrille vue(grille, T("Relevé"), {});
+  VueGrille vue(grille, u"Relevé"_s, {});
   int activee = -1;
   QObject::connect(&vue, &VueGrille::Activee, &vue, [&](int ligne) { activee = ligne; });
   Montrer(vue);
   vue.sortByColumn(1, Qt::DescendingOrder);  // within the groups only
-  EXPECT_EQ(Vus(vue), T("Matin|lundi|mardi|Soir|jeudi").split(u'|'));
+  EXPECT_EQ(Vus(vue), u"Matin|lundi|mardi|Soir|jeudi"_s.split(u'|'));
   vue.sortByColumn(1, Qt::AscendingOrder);
-  EXPECT_EQ(Vus(vue), T("Matin|mardi|lundi|Soir|jeudi").split(u'|'));
+  EXPECT_EQ(Vus(vue), u"Matin|mardi|lundi|Soir|jeudi"_s.split(u'|'));
 
   grille.ChoisirLigne(1);
   QTest::keyClick(&vue, Qt::Key_Return);
@@ -164,15 +166,15 @@ TEST(VueGrille, PlieLesGroupesAuClavier) {
   QTest::keyClick(&vue, Qt::Key_Left);  // to the head
   EXPECT_EQ(grille.LigneCourante(), 0);
   QTest::keyClick(&vue, Qt::Key_Left);
-  EXPECT_EQ(Vus(vue), T("Matin|Soir|jeudi").split(u'|'));
+  EXPECT_EQ(Vus(vue), u"Matin|Soir|jeudi"_s.split(u'|'));
   remplir();  // stays shut
-  EXPECT_EQ(Vus(vue), T("Matin|Soir|jeudi").split(u'|'));
+  EXPECT_EQ(Vus(vue), u"Matin|Soir|jeudi"_s.split(u'|'));
   ChampFiltre champ;
   vue.Filtrer(champ);
-  champ.setText(T("lundi"));
-  EXPECT_EQ(Vus(vue), T("Matin|lundi").split(u'|'));
+  champ.setText(u"lundi"_s);
+  EXPECT_EQ(Vus(vue), u"Matin|lundi"_s.split(u'|'));
   champ.clear();
-  EXPECT_EQ(Vus(vue), T("Matin|Soir|jeudi").split(u'|'));
+  EXPECT_EQ(Vus(vue), u"Matin|Soir|jeudi"_s.split(u'|'));
   grille.ChoisirLigne(0);
   QTest::keyClick(&vue, Qt::Key_Space);
   EXPECT_EQ(Vus(vue).size(), 5);
@@ -181,7 +183,7 @@ TEST(VueGrille, PlieLesGroupesAuClavier) {
 TEST(VueGrille, CocheALaBarreEtDitLaquelle) {
   TGrille grille = Frais();
   grille.CasesACocher = true;
-  VueGrille vue(grille, T("Frais"), {});
+  VueGrille vue(grille, u"Frais"_s, {});
   std::vector<std::pair<int, bool>> coches;
   QObject::connect(&vue, &VueGrille::Cochee, &vue, [&](int ligne, bool coche) {
     coches.push_back({ligne, coche});
