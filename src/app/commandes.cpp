@@ -1,124 +1,30 @@
 #include "app/commandes.h"
 
 #include <QFile>
+#include <QMap>
+#include <QRegularExpression>
 
-#include "app/csv.h"
-#include "core/calendrier_scolaire.h"
 #include "core/conversions.h"
 #include "core/exceptions.h"
-#include "core/formats.h"
-#include "pupils/service.h"
-#include "workflows/import_presences.h"
-#include "workflows/import_registre.h"
+#include "pupils/eleves.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-int Creer(TSession& session) {
-  if (session.Connecter()) return 0;
-  session.Base.CreerTables();
-  session.Dialogues.Information(u"Votre base de données est à jour !"_s);
-  return 0;
-}
+/// What every command takes.
+constexpr const char* kOptionsCommunes = "--serveur S --annee A --oui --aide";
 
-int Parametre(TSession& session) {
-  session.Connecter();
-  TParametres parametres(session.Base);
-  const int id = StrToInt(session.Arguments[0]);
-  if (session.Arguments.size() > 1) {
-    parametres.SetParametre(id, session.Arguments[1]);
-    parametres.Save();
+/// The options that a usage names; true for one that has a value.
+QMap<QString, bool> OptionsDe(const char* usage) {
+  static const QRegularExpression motif(u"--([a-z][a-z-]*)( [\\w/,]+)?"_s,
+                                        QRegularExpression::UseUnicodePropertiesOption);
+  QMap<QString, bool> options;
+  for (auto trouve = motif.globalMatch(QString::fromUtf8(usage)); trouve.hasNext();) {
+    const QRegularExpressionMatch option = trouve.next();
+    options.insert(option.captured(1), option.hasCaptured(2));
   }
-  TCsv::EcrireLigne(parametres.GetParametre(id));
-  return 0;
-}
-
-int Registre(TSession& session) {
-  session.Ouvrir();
-  TImportRegistre import(session.Controleur);
-  session.Dialogues.Oui = session.Options.isSet(u"cloturer"_s);
-  if (!import.Etape1(session.Arguments[0])) {
-    session.Dialogues.Message(
-        import.NombreEleves() < TImportRegistre::kElevesMinimum
-            ? u"Le fichier ne compte que %1 élève(s) : il en faut au moins %2. Rien n'a été transféré."_s
-                  .arg(import.NombreEleves())
-                  .arg(TImportRegistre::kElevesMinimum)
-            : u"L'année scolaire n'est pas clôturée : rien n'a été transféré."_s);
-    return 1;
-  }
-  const TBilanRegistre bilan = import.Etape2();
-  TCsv csv({u"lignes"_s, u"crees"_s, u"modifies"_s});
-  csv.Ligne({QString::number(bilan.Lignes), QString::number(bilan.Crees), QString::number(bilan.Modifies)});
-  return 0;
-}
-
-QString DateIso(TDateTime date) { return DateVersQt(date).toString(Qt::ISODate); }
-
-QStringList LignePresence(const QString& etat, const QString& matricule, const TPresence& presence) {
-  return {etat,
-          matricule,
-          DateIso(presence.DateReleve),
-          QString::number(static_cast<int>(presence.TypePresence)),
-          FormatHeureCourte(presence.HeureEntree),
-          FormatHeureCourte(presence.HeureSortie)};
-}
-
-int Presences(TSession& session) {
-  session.Ouvrir();
-  TImportPresences import(session.Controleur);
-  import.ImporterFichier(session.Arguments[0]);
-  {
-    TCsv csv(u"etat;matricule;date;type;entree;sortie"_s.split(u';'));
-    for (const auto& bon : import.Bons())
-      csv.Ligne(LignePresence(u"bon"_s, Globals.Eleves->TrouverParId(bon->EleveId)->Matricule, *bon));
-    for (const TAnomalie& a : import.Anomalies()) {
-      if (a.Presence)
-        csv.Ligne(LignePresence(u"sans_tarif"_s, a.Matricule, *a.Presence));
-      else
-        csv.Ligne({u"inconnu"_s, a.Matricule, DateIso(a.Date), QString::number(a.TypePresence),
-                   FormatHeureCourte(a.Entree), FormatHeureCourte(a.Sortie)});
-    }
-  }
-  import.Etape2();
-  return 0;
-}
-
-struct TServiceCsv {
-  const char* code;
-  TService service;
-};
-
-constexpr TServiceCsv kServices[] = {{"matin", TService::Matin}, {"midi", TService::Midi},
-                                     {"soir", TService::Soir},   {"mercredi", TService::Mercredi},
-                                     {"etude", TService::Etude}, {"repas", TService::Repas},
-                                     {"soupe", TService::Soupe}};
-
-int Couts(TSession& session) {
-  const int mois = session.Mois();
-  session.Ouvrir();
-  const TPeriode periode = BornesMois(mois, Globals.Eleves->AnneeScolaire);
-  TCsv csv(u"eleve_id;service;montant"_s.split(u';'));
-  for (const TEleve& eleve : *Globals.Eleves) {
-    const auto ligne = [&](const QString& service, Currency montant) {
-      csv.Ligne({QString::number(eleve.Id), service, FormatQuatreDecimales(montant)});
-    };
-    TLignesService lignes;
-    for (const TServiceCsv& service : kServices)
-      ligne(QString::fromLatin1(service.code), eleve.CoutService(service.service, periode, lignes));
-    ligne(u"total"_s, eleve.TotalServices(periode));
-  }
-  return 0;
-}
-
-int Solde(TSession& session) {
-  session.Ouvrir();
-  TCsv csv(u"eleve_id;frais;services;total"_s.split(u';'));
-  for (TEleve& eleve : *Globals.Eleves)
-    csv.Ligne({QString::number(eleve.Id), FormatQuatreDecimales(eleve.Solde(true, false)),
-               FormatQuatreDecimales(eleve.Solde(false, true)),
-               FormatQuatreDecimales(eleve.Solde(true, true))});
-  return 0;
+  return options;
 }
 
 }  // namespace
@@ -145,31 +51,75 @@ void TSession::Ouvrir() const {
   Controleur.ChargerAnnee(annee.isEmpty() ? Globals.AnneeScolaire : StrToInt(annee));
 }
 
+QString TSession::Option(const QString& nom) const {
+  if (!A(nom)) throw Exception(u"L'option --%1 manque."_s.arg(nom));
+  return Options.value(nom);
+}
+
+QString TSession::UneSeule(const QStringList& noms) const {
+  QStringList donnees;
+  for (const QString& nom : noms)
+    if (A(nom)) donnees += nom;
+  if (donnees.size() != 1) throw Exception(u"Donnez une seule des options --%1."_s.arg(noms.join(u", --"_s)));
+  return donnees[0];
+}
+
+TDateTime TSession::Date(const QString& option) const { return StrToDate(Option(option)); }
+
 int TSession::Mois() const {
   const int mois = StrToInt(Option(u"mois"_s));
   if (mois < 1 || mois > 12) throw Exception(u"Le mois est un nombre de 1 à 12."_s);
   return mois;
 }
 
-QString TSession::Option(const QString& nom) const {
-  if (!Options.isSet(nom)) throw Exception(u"L'option --%1 manque."_s.arg(nom));
-  return Options.value(nom);
+TPeriode TSession::Periode() const {
+  const int annee = Globals.Eleves->AnneeScolaire;
+  const QString choix = UneSeule({u"mois"_s, u"du"_s, u"annee-scolaire"_s});
+  if (choix == u"du") return {Date(u"du"_s), Date(u"au"_s)};
+  if (choix == u"annee-scolaire") return BornesAnnee(annee);
+  return BornesMois(Mois(), annee);
+}
+
+TEleve& TSession::Eleve(const QString& numero) const {
+  TEleve* eleve = Globals.Eleves->TrouverParId(StrToInt(numero));
+  if (eleve == nullptr) throw Exception(u"Il n'y a pas d'élève n° %1 cette année-là."_s.arg(numero));
+  return *eleve;
+}
+
+QString TCommande::Ligne() const {
+  return QString(QString::fromUtf8(Nom) + u' ' + QString::fromUtf8(Usage)).trimmed();
+}
+
+bool TCommande::Prend(const QString& option) const {
+  return OptionsDe(Usage).contains(option) || OptionsDe(kOptionsCommunes).contains(option);
 }
 
 const std::vector<TCommande>& Commandes() {
-  static const std::vector<TCommande> commandes = {
-      {"creer", 0, 0, "creer", Creer},
-      {"parametre", 1, 2,
-       "parametre ID [VALEUR]   (une valeur qui commence par un tiret : parametre -- ID VALEUR)", Parametre},
-      {"registre", 1, 1, "registre FICHIER [--cloturer]", Registre},
-      {"presences", 1, 1, "presences FICHIER", Presences},
-      {"couts", 0, 0, "couts --mois M", Couts},
-      {"solde", 0, 0, "solde", Solde},
-      {"document", 1, 1,
-       "document TITRE (--mois M | --du jj/mm/aaaa --au jj/mm/aaaa | --annee-scolaire) "
-       "(--tous | --eleves ID,ID | --classes NOM,NOM) [--date-paiement jj/mm/aaaa] "
-       "[--pdf FICHIER] [--json FICHIER]",
-       CommandeDocument},
-  };
+  static const std::vector<TCommande> commandes = [] {
+    std::vector<TCommande> toutes;
+    for (const auto famille : {CommandesBase(), CommandesEcole(), CommandesDocuments()})
+      toutes.insert(toutes.end(), famille.begin(), famille.end());
+    return toutes;
+  }();
   return commandes;
+}
+
+const TCommande* TrouverCommande(const QStringList& mots) {
+  const QString debut = mots.join(u' ') + u' ';
+  for (const TCommande& commande : Commandes())
+    if (debut.startsWith(QString(QString::fromUtf8(commande.Nom) + u' '))) return &commande;
+  return nullptr;
+}
+
+void DeclarerOptions(QCommandLineParser& options) {
+  QMap<QString, bool> toutes = OptionsDe(kOptionsCommunes);
+  for (const TCommande& commande : Commandes()) toutes.insert(OptionsDe(commande.Usage));
+  for (const auto& [nom, avecValeur] : toutes.asKeyValueRange())
+    options.addOption({nom, {}, avecValeur ? u"valeur"_s : QString()});
+}
+
+QString OptionEtrangere(const TCommande& commande, const QCommandLineParser& options) {
+  for (const QString& nom : options.optionNames())
+    if (!commande.Prend(nom)) return nom;
+  return {};
 }

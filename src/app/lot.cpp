@@ -27,42 +27,51 @@ struct TLiberation {
   TLiberation& operator=(const TLiberation&) = delete;
 };
 
-void DeclarerOptions(QCommandLineParser& options) {
-  const auto valeur = [&](const char* nom) {
-    options.addOption({QString::fromLatin1(nom), {}, u"valeur"_s});
-  };
-  for (const char* nom :
-       {"serveur", "annee", "mois", "du", "au", "eleves", "classes", "date-paiement", "json", "pdf"})
-    valeur(nom);
-  for (const char* nom : {"oui", "cloturer", "annee-scolaire", "tous", "aide"})
-    options.addOption(QCommandLineOption(QString::fromLatin1(nom)));
-}
-
 QString Usage() {
   QString texte = u"Usage : calpenne-lot [--serveur S] [--annee A] [--oui] COMMANDE\n"_s;
-  for (const TCommande& commande : Commandes()) texte += u"  " + QString::fromUtf8(commande.Usage) + u'\n';
+  for (const TCommande& commande : Commandes()) texte += u"  " + commande.Ligne() + u'\n';
   return texte.trimmed();
 }
 
+int Lancer(const TCommande& commande, const QCommandLineParser& options, const QStringList& arguments,
+           TDialoguesTerminal& dialogues) {
+  TReglagesPoste reglages;
+  TDataModule1 base(dialogues, reglages);
+  TSansFenetre sansFenetre;
+  const THorloge horloge;
+  TControleur controleur(base, reglages, sansFenetre, horloge);
+  const TLiberation liberation;
+  TSession session{options, arguments, dialogues, base, controleur};
+  const int code = commande.Executer(session);
+  if (std::fflush(stdout) != 0) throw Exception(u"Le résultat ne peut pas être écrit."_s);
+  return code;
+}
+
+/// What is wrong with the call of that command; "" when nothing is.
+QString Faute(const TCommande& commande, const QCommandLineParser& options, qsizetype arguments) {
+  const QString nom = QString::fromUtf8(commande.Nom);
+  if (const QString option = OptionEtrangere(commande, options); !option.isEmpty())
+    return u"La commande « %1 » n'a pas d'option --%2."_s.arg(nom, option);
+  if (arguments < commande.ArgumentsMin) return u"Il manque un argument à la commande « %1 »."_s.arg(nom);
+  if (arguments > commande.ArgumentsMax) return u"La commande « %1 » a un argument de trop."_s.arg(nom);
+  return {};
+}
+
 int Executer(const QCommandLineParser& options, TDialoguesTerminal& dialogues) {
-  QStringList arguments = options.positionalArguments();
-  const QString nom = arguments.isEmpty() ? QString() : arguments.takeFirst();
-  for (const TCommande& commande : Commandes()) {
-    if (nom != QLatin1String(commande.Nom)) continue;
-    if (arguments.size() < commande.ArgumentsMin || arguments.size() > commande.ArgumentsMax) break;
-    TReglagesPoste reglages;
-    TDataModule1 base(dialogues, reglages);
-    TSansFenetre sansFenetre;
-    const THorloge horloge;
-    TControleur controleur(base, reglages, sansFenetre, horloge);
-    const TLiberation liberation;
-    TSession session{options, arguments, dialogues, base, controleur};
-    const int code = commande.Executer(session);
-    if (std::fflush(stdout) != 0) throw Exception(u"Le résultat ne peut pas être écrit."_s);
-    return code;
+  const QStringList mots = options.positionalArguments();
+  const TCommande* commande = TrouverCommande(mots);
+  if (commande == nullptr || options.isSet(u"aide"_s)) {
+    if (!mots.isEmpty() && commande == nullptr)
+      dialogues.Message(u"Il n'y a pas de commande « %1 »."_s.arg(mots.join(u' ')));
+    dialogues.Message(Usage());
+    return options.isSet(u"aide"_s) ? kReussi : kMauvaisAppel;
   }
-  dialogues.Message(Usage());
-  return options.isSet(u"aide"_s) ? kReussi : kMauvaisAppel;
+  const QStringList arguments = mots.mid(QByteArray(commande->Nom).count(' ') + 1);
+  if (const QString faute = Faute(*commande, options, arguments.size()); !faute.isEmpty()) {
+    dialogues.Message(faute + u"\nUsage : calpenne-lot " + commande->Ligne());
+    return kMauvaisAppel;
+  }
+  return Lancer(*commande, options, arguments, dialogues);
 }
 
 }  // namespace

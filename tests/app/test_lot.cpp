@@ -32,7 +32,10 @@ TEST_F(TLotEssai, TheFileOfTheDatabase) {
       {Mots(u"creer"_s), 1, {}, u"Aucun serveur de données n'est connu"_s},
       {Mots(u"--serveur 127.0.0.1/1 solde"_s), 1, {}, u"Le serveur de données ne répond pas."_s},
       {Mots(u"danser"_s), 2, {}, u"Usage : calpenne-lot"_s},
-      {Mots(u"solde de trop"_s), 2, {}, u"Usage : calpenne-lot"_s},
+      {Mots(u"solde de trop"_s), 2, {}, u"un argument de trop.\nUsage : calpenne-lot solde"_s},
+      {Mots(u"registre"_s), 2, {}, u"Il manque un argument"_s},
+      {Mots(u"solde --oui --mois 99 --pdf x"_s), 2, {}, u"La commande « solde » n'a pas d'option --mois."_s},
+      {Mots(u"parametre 27 --cloturer"_s), 2, {}, u"n'a pas d'option --cloturer."_s},
       {Mots(u"--danser solde"_s), 2, {}, u"Usage : calpenne-lot"_s},
       {Mots(u"--aide"_s), 0, {}, u"Usage : calpenne-lot"_s},
   });

@@ -1,0 +1,67 @@
+// The documents of the wizard.
+#include "app/commandes.h"
+#include "app/sortie_documents.h"
+#include "core/exceptions.h"
+#include "documents/catalogue.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void ChoisirClasses(const QStringList& noms, TChoixDocument& choix) {
+  for (const QString& nom : noms) {
+    const std::size_t avant = choix.Classes.size();
+    for (const auto& classe : Globals.Eleves->Classes())
+      if (classe->Libelle().trimmed() == nom.trimmed()) choix.Classes.push_back(classe.get());
+    if (choix.Classes.size() == avant) throw Exception(u"Il n'y a pas de classe « %1 »."_s.arg(nom));
+  }
+}
+
+void ChoisirEleves(const TSession& session, const QStringList& numeros, TChoixDocument& choix) {
+  for (const QString& numero : numeros) choix.Eleves.push_back(&session.Eleve(numero));
+}
+
+void Choisir(const TSession& session, TChoixDocument& choix) {
+  const QString qui = session.UneSeule({u"tous"_s, u"eleves"_s, u"classes"_s});
+  if (qui == u"eleves")
+    ChoisirEleves(session, session.Option(qui).split(u',', Qt::SkipEmptyParts), choix);
+  else if (qui == u"classes")
+    ChoisirClasses(session.Option(qui).split(u',', Qt::SkipEmptyParts), choix);
+  else
+    for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
+  if (choix.Eleves.empty() && choix.Classes.empty()) throw Exception(u"Aucun élève n'a été sélectionné !"_s);
+}
+
+int Document(TSession& session) {
+  const QString titre = session.Arguments[0];
+  TChoixDocument choix;
+  choix.Indice = IndiceTitre(titre);
+  if (choix.Indice < 0) throw Exception(u"Il n'y a pas de document « %1 »."_s.arg(titre));
+  VerifierFichiers(session);
+  session.Ouvrir();
+  Choisir(session, choix);
+  const bool avecPeriode = TitresDocuments()[static_cast<std::size_t>(choix.Indice)].AvecPeriode;
+  const TPeriode periode = avecPeriode ? session.Periode() : BornesAnnee(Globals.Eleves->AnneeScolaire);
+  choix.DateDebut = periode.Premier;
+  choix.DateFin = periode.Dernier;
+  if (session.A(u"date-paiement"_s)) {
+    const TDateTime date = session.Date(u"date-paiement"_s);
+    if (DemandeDatePaiement(choix.Indice, *Globals.Parametres)) choix.DatePaiement = date;
+  }
+
+  const TResultat resultat = FaireDocument(ContexteDesGlobals(), choix);
+  return SortirDocument(session, titre, resultat, !choix.Classes.empty());
+}
+
+}  // namespace
+
+std::span<const TCommande> CommandesDocuments() {
+  static constexpr TCommande commandes[] = {
+      {"document",
+       "TITRE (--mois M | --du jj/mm/aaaa --au jj/mm/aaaa | --annee-scolaire) "
+       "(--tous | --eleves ID,ID | --classes NOM,NOM) [--date-paiement jj/mm/aaaa] "
+       "[--pdf FICHIER] [--json FICHIER]",
+       1, 1, Document},
+  };
+  return commandes;
+}

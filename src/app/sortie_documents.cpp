@@ -1,0 +1,71 @@
+#include "app/sortie_documents.h"
+
+#include <QFileInfo>
+
+#include "core/exceptions.h"
+#include "core/fichiers.h"
+#include "documents/modeles.h"
+#include "report/layout/mise_en_page.h"
+#include "report/output/pdf.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString TexteDefaut(const QString& modele, const TDefaut& defaut) {
+  QStringList ou;
+  for (const QString& nom : {modele, defaut.Bande, defaut.Objet})
+    if (!nom.isEmpty()) ou += nom;
+  return ou.join(u", "_s) + u" : "_s + defaut.Message;
+}
+
+/// Raises Exception when there is no template yet.
+TDocumentPrepare Preparer(TSession& session, const TRapport& rapport, const TImpression& impression) {
+  const auto modele = ModeleDocument(rapport.Modele(), DossierModeles(session.Controleur.Reglages()));
+  if (!modele)
+    throw Exception(u"Le document « %1 » n'a pas encore de modèle (« %2 ») : demandez-le avec --json."_s.arg(
+        rapport.Titre(), rapport.Modele()));
+  TDocumentPrepare document = MettreEnPage(rapport, *modele, impression);
+  for (const TDefaut& defaut : document.Defauts)
+    session.Dialogues.Message(TexteDefaut(rapport.Modele(), defaut));
+  return document;
+}
+
+/// All reports in one file, with a bookmark a pupil; false when there was nothing to write.
+bool MettreEnPdf(TSession& session, const QString& titre, const TResultat& resultat, bool parClasses) {
+  const TImpression impression{session.Controleur.Horloge().Maintenant(), parClasses};
+  std::vector<TDocumentPrepare> documents;
+  for (const TRapport& rapport : resultat.Rapports)
+    documents.push_back(Preparer(session, rapport, impression));
+  std::erase_if(documents, [](const TDocumentPrepare& document) { return document.Pages.empty(); });
+  if (documents.empty()) {
+    if (!resultat.Echec)
+      session.Dialogues.Message(u"Il n'y a rien à imprimer : le fichier PDF n'est pas écrit."_s);
+    return false;
+  }
+  std::vector<const TDocumentPrepare*> tous;
+  for (const TDocumentPrepare& document : documents) tous.push_back(&document);
+  EcrirePdf(tous, titre, Globals.Parametres->GetParametre(1), session.Option(u"pdf"_s));
+  return true;
+}
+
+}  // namespace
+
+void VerifierFichiers(const TSession& session) {
+  if (!session.A(u"pdf"_s) || !session.A(u"json"_s)) return;
+  const QFileInfo pdf(session.Option(u"pdf"_s)), json(session.Option(u"json"_s));
+  const auto chemin = [](const QFileInfo& fichier) {
+    const QString dossier = QFileInfo(fichier.absolutePath()).canonicalFilePath();
+    return fichier.exists() ? fichier.canonicalFilePath() : dossier % u'/' % fichier.fileName();
+  };
+  const bool appareil = pdf.exists() && !pdf.isFile();
+  if (!appareil && chemin(pdf) == chemin(json))
+    throw Exception(u"Donnez deux fichiers différents à --pdf et à --json."_s);
+}
+
+int SortirDocument(TSession& session, const QString& titre, const TResultat& resultat, bool parClasses) {
+  for (const QString& message : resultat.Messages) session.Dialogues.Message(message);
+  if (session.A(u"json"_s)) EcrireFichier(session.Option(u"json"_s), resultat.EnJson(titre));
+  const bool imprime = !session.A(u"pdf"_s) || MettreEnPdf(session, titre, resultat, parClasses);
+  return resultat.Echec || !imprime ? 1 : 0;
+}
