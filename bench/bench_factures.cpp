@@ -44,8 +44,9 @@ TDocumentPrepare Facturer(TEcole& ecole, const TDonneesAnnee& annee, const QStri
   etapes.MiseEnPage.push_back(Duree([&] {
     document = MettreEnPage(rapport, *ModeleDocument(rapport.Modele()), {octobre.Dernier, false});
   }));
-  etapes.Pdf.push_back(
-      Duree([&] { EcrirePdf({&document}, rapport.Titre(), ecole.Parametres().GetParametre(1), chemin); }));
+  etapes.Pdf.push_back(Duree([&] {
+    EcrirePdf({&document}, rapport.Titre(), ecole.Parametres().GetParametre(TParam::NomEcole), chemin);
+  }));
   return document;
 }
 

@@ -10,60 +10,62 @@ namespace {
 
 constexpr Currency Centimes(int centimes) { return Currency::Brut(std::int64_t{100} * centimes); }
 
+using enum TParam;
+
 struct TParametre {
-  int Id;
+  TParam Param;
   const char16_t* Valeur;
 };
 
 constexpr TParametre kParametres[] = {
-    {1, u"École fondamentale libre de Brumeval"},
-    {2, u"rue du Vieux Moulin 27"},
-    {3, u"5537"},
-    {4, u"Brumeval"},
-    {5, u"082 61 00 00"},
-    {9, u"Implantation du Centre"},
-    {10, u"Communication à mentionner sur votre virement : [ComStructParFacture]"},
-    {11, u"BE68 5390 0754 7034"},
-    {12, u"8"},
-    {13, u"30"},
-    {14, u"15"},
-    {15, u"25"},
-    {16, u"8"},
-    {17, u"30"},
-    {18, u"12"},
-    {19, u"10"},
-    {20, u"direction@ecole-brumeval.example"},
-    {21, u"DELVAUX"},
-    {22, u"Bénédicte"},
-    {23, u"Directrice"},
-    {24, u"0"},
-    {25, u"0"},
-    {26,
+    {NomEcole, u"École fondamentale libre de Brumeval"},
+    {RueEcole, u"rue du Vieux Moulin 27"},
+    {CodePostalEcole, u"5537"},
+    {LocaliteEcole, u"Brumeval"},
+    {TelephoneEcole, u"082 61 00 00"},
+    {NomImplantation, u"Implantation du Centre"},
+    {CommunicationFacture, u"Communication à mentionner sur votre virement : [ComStructParFacture]"},
+    {CompteBanque, u"BE68 5390 0754 7034"},
+    {HeureDebutLMJV, u"8"},
+    {MinuteDebutLMJV, u"30"},
+    {HeureFinLMJV, u"15"},
+    {MinuteFinLMJV, u"25"},
+    {HeureDebutMercredi, u"8"},
+    {MinuteDebutMercredi, u"30"},
+    {HeureFinMercredi, u"12"},
+    {MinuteFinMercredi, u"10"},
+    {EmailEcole, u"direction@ecole-brumeval.example"},
+    {NomDirection, u"DELVAUX"},
+    {PrenomDirection, u"Bénédicte"},
+    {TitreDirection, u"Directrice"},
+    {SansServices, u"0"},
+    {ModeProvision, u"0"},
+    {CommunicationFraisEffectifs,
      u"Ce relevé reprend les frais scolaires de la période et leur caractère obligatoire ou facultatif.\r\n"
      u"Pour toute question, le secrétariat est ouvert chaque jour de 8h15 à 9h30 et de 15h à 16h."},
-    {28, u"1"},
-    {30, u"0"},
-    {32, u"1"},
-    {40, u"4"},
-    {41, u"1"},
-    {42, u"1"},
-    {50, u"ECOLE LIBRE DE BRUMEVAL"},
-    {51, u"BE68539007547034"},
-    {52, u"GKCCBEBB"},
-    {53, u"RUE DU VIEUX MOULIN 27"},
-    {54, u"5537"},
-    {55, u"BRUMEVAL"},
-    {56, u"40,00"},
-    {57, u"25,00"},
-    {58, u""},
-    {101, u"3,50"},
-    {102, u"3,90"},
-    {103, u"1"},
-    {105, u"3"},
-    {106, u"4,50"},
-    {109, u"1"},
-    {110, u"0"},
-    {113, u"1"},
+    {TypeCodeBarre, u"1"},
+    {GarderieUnique, u"0"},
+    {DatePaiement, u"1"},
+    {CalculAttestation, u"4"},
+    {ModuleRepas, u"1"},
+    {BalanceAnnuelle, u"1"},
+    {VirementNom, u"ECOLE LIBRE DE BRUMEVAL"},
+    {VirementIBAN, u"BE68539007547034"},
+    {VirementBIC, u"GKCCBEBB"},
+    {VirementRue, u"RUE DU VIEUX MOULIN 27"},
+    {VirementCodePostal, u"5537"},
+    {VirementLocalite, u"BRUMEVAL"},
+    {ProvisionGarderie, u"40,00"},
+    {ProvisionFrais, u"25,00"},
+    {TypeCompteBancaire, u""},
+    {RepasMaternel, u"3,50"},
+    {RepasPrimaire, u"3,90"},
+    {TitreSoirEtudes, u"1"},
+    {ModeDeduction, u"3"},
+    {RepasPersonnel, u"4,50"},
+    {DeductionEtude, u"1"},
+    {FactureDebiteurs, u"0"},
+    {PlusieursImplantations, u"1"},
 };
 
 struct TTarif {
@@ -232,7 +234,7 @@ void RemplirCatalogue(TEcoleExemple& ecole) {
                   u"Brumeval"_s, u"082 61 00 00"_s, u"DELVAUX"_s, u"Bénédicte"_s},
                  {u"0452"_s, u"Tilleuls"_s, u"Implantation des Tilleuls"_s, u"avenue des Tilleuls 112"_s,
                   u"5364"_s, u"Vesperval"_s, u"083 61 00 00"_s, u"HENROTTE"_s, u"Vinciane"_s}};
-  for (const TParametre& p : kParametres) ecole.Parametres.push_back({p.Id, QString::fromUtf16(p.Valeur)});
+  for (const TParametre& p : kParametres) ecole.Parametres.push_back({p.Param, QString::fromUtf16(p.Valeur)});
   for (const TTarif& t : kTarifs)
     ecole.Tarifs.push_back({t.Famille, t.Jour, QString::fromUtf16(t.Debut), QString::fromUtf16(t.Fin),
                             t.Forfait, t.Scan, Centimes(t.Centimes), Centimes(t.Centimes2eEnfant)});

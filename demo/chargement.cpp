@@ -78,7 +78,7 @@ void TChargement::Recharger() {
 void TChargement::Parametres() {
   Etape(u"Paramètres et tarifs"_s);
   for (const TParametreExemple& parametre : ecole_.Parametres)
-    Globals.Parametres->SetParametre(parametre.Id, parametre.Valeur);
+    Globals.Parametres->SetParametre(parametre.Param, parametre.Valeur);
   Globals.Parametres->Save();
   for (const TTarifExemple& t : ecole_.Tarifs) {
     auto tarif = std::make_unique<TTarifGarderie>();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/currency.h"
+#include "core/param.h"
 
 // A whole school of the province of Namur in the year 2016-2017, invented from a seed. Everything is
 // plain data: what the office would receive as files is written by fichiers.h, the rest is stored by the
@@ -134,7 +135,7 @@ struct TMarqueExemple {
 };
 
 struct TParametreExemple {
-  int Id = 0;
+  TParam Param{};
   QString Valeur;
 };
 

@@ -17,12 +17,12 @@ int Creer(TSession& session) {
 int Parametre(TSession& session) {
   session.Connecter();
   TParametres parametres(session.Base);
-  const int id = StrToInt(session.Arguments[0]);
+  const TParam param{StrToInt(session.Arguments[0])};
   if (session.Arguments.size() > 1) {
-    parametres.SetParametre(id, session.Arguments[1]);
+    parametres.SetParametre(param, session.Arguments[1]);
     parametres.Save();
   }
-  TCsv::EcrireLigne(parametres.GetParametre(id));
+  TCsv::EcrireLigne(parametres.GetParametre(param));
   return 0;
 }
 

@@ -45,7 +45,7 @@ bool MettreEnPdf(TSession& session, const QString& titre, const TResultat& resul
   }
   std::vector<const TDocumentPrepare*> tous;
   for (const TDocumentPrepare& document : documents) tous.push_back(&document);
-  EcrirePdf(tous, titre, Globals.Parametres->GetParametre(1), session.Option(u"pdf"_s));
+  EcrirePdf(tous, titre, Globals.Parametres->GetParametre(TParam::NomEcole), session.Option(u"pdf"_s));
   return true;
 }
 

@@ -69,12 +69,12 @@ bool TControleur::Demarrer(bool pagesTablette) {
 void TControleur::ChargerParametres() {
   if (Globals.Parametres) return;
   auto parametres = std::make_unique<TParametres>(base_);
-  const int annee = parametres->Entier(27);
+  const int annee = parametres->Entier(TParam::AnneeScolaire);
   Globals.TarifsGarderies = std::make_unique<TTarifsGarderies>(base_);
   Globals.Parametres = std::move(parametres);
   Globals.AnneeScolaire = annee;
   Globals.DossierTemporaire = ::DossierTemporaire();
-  Globals.CodeEtablissement = Globals.Parametres->GetParametre(31);
+  Globals.CodeEtablissement = Globals.Parametres->GetParametre(TParam::CodeEtablissement);
 }
 
 // The value of an inner attempt is not passed on: only giving up at the first failure ends the
@@ -113,12 +113,13 @@ void TControleur::ChargerAnnee(int annee) {
   auto groupes = std::make_unique<TGroupesFrais>(base_);
   Globals.Montrer(std::move(donnees));
   Globals.GroupesFrais = std::move(groupes);
-  Globals.TypeActivitesExt = LireTypeActivitesExt(Globals.Parametres->GetParametre(100));
+  Globals.TypeActivitesExt = LireTypeActivitesExt(Globals.Parametres->GetParametre(TParam::ActivitesExt));
   Globals.DateDebutActivitesExt = PeriodeActivitesExt(Globals.TypeActivitesExt).Premier;
   Globals.TitreActivitesExt =
       Globals.TypeActivitesExt == TTypeActivitesExt::Aucune ? QString() : u"Activités extérieures"_s;
-  Globals.TitreGarderieSoir =
-      Globals.Parametres->EstVrai(103) ? u"Garderies du soir / études"_s : u"Garderies du soir"_s;
+  Globals.TitreGarderieSoir = Globals.Parametres->EstVrai(TParam::TitreSoirEtudes)
+                                  ? u"Garderies du soir / études"_s
+                                  : u"Garderies du soir"_s;
   fenetre_.IntitulerAnnee(u"Année scolaire %1 - %2"_s.arg(annee).arg(annee + 1));
   fenetre_.ConstruireArbre();
   fenetre_.CocherAnnee(annee);
@@ -154,7 +155,7 @@ void TControleur::PasserEnLigne() {
 
 void TControleur::MemoriserDatePhoto() {
   if (!Globals.Parametres) return;
-  Globals.DatePhoto = Globals.Parametres->GetParametre(115);
+  Globals.DatePhoto = Globals.Parametres->GetParametre(TParam::DatePhoto);
   EcrireReglage(u"Photo"_s, Globals.DatePhoto);
 }
 
@@ -167,7 +168,7 @@ void TControleur::PagesTablette() {
 }
 
 void TControleur::PagesBureau() {
-  const QString repas = Globals.Parametres->GetParametre(41);
+  const QString repas = Globals.Parametres->GetParametre(TParam::ModuleRepas);
   fenetre_.MontrerPage(TPage::pgRepas, !repas.isEmpty() && repas != u"0");
   fenetre_.MontrerPage(TPage::pgRepas3, false);
 }

@@ -7,20 +7,18 @@
 namespace {
 
 struct TPrixRepas {
-  int parametre;
+  TParam parametre;
   std::size_t categorie;
 };
 
-constexpr TPrixRepas kPrixRepas[] = {{101, 1}, {102, 2}, {106, 3}};
+constexpr TPrixRepas kPrixRepas[] = {
+    {TParam::RepasMaternel, 1}, {TParam::RepasPrimaire, 2}, {TParam::RepasPersonnel, 3}};
 
 void LireParametresPresences(const TParametres& parametres, TPresences& presences) {
-  for (const TPrixRepas& prix : kPrixRepas) {
-    if (!parametres.GetParametre(prix.parametre).isEmpty())
-      presences.PrixRepas[prix.categorie] = parametres.Montant(prix.parametre);
-  }
-  const bool sansMode = parametres.GetParametre(105).isEmpty();
-  presences.ModeDeduction = static_cast<TModeDeduction>(sansMode ? 0 : parametres.Entier(105));
-  presences.GarderieUnique = parametres.EstVrai(30);
+  for (const TPrixRepas& prix : kPrixRepas)
+    presences.PrixRepas[prix.categorie] = parametres.Montant(prix.parametre);
+  presences.ModeDeduction = static_cast<TModeDeduction>(parametres.Entier(TParam::ModeDeduction));
+  presences.GarderieUnique = parametres.EstVrai(TParam::GarderieUnique);
 }
 
 }  // namespace
@@ -32,7 +30,8 @@ std::unique_ptr<TDonneesAnnee> ChargerDonneesAnnee(TDataModule1& base, int annee
   TEleves& eleves = *donnees->Eleves;
   eleves.SynchroniserImplantations();
 
-  donnees->Presences = std::make_unique<TPresences>(base, BornesAnnee(annee), parametres.EstVrai(109));
+  donnees->Presences =
+      std::make_unique<TPresences>(base, BornesAnnee(annee), parametres.EstVrai(TParam::DeductionEtude));
   donnees->PresencesParticulieres = std::make_unique<TPresencesParticulieres>(base, annee);
   donnees->Paiements = std::make_unique<TPaiements>(base, annee);
   donnees->ListeFrais = std::make_unique<TListeFrais>(base, annee);
@@ -43,10 +42,10 @@ std::unique_ptr<TDonneesAnnee> ChargerDonneesAnnee(TDataModule1& base, int annee
 
   TPresences& presences = *donnees->Presences;
   presences.Tarifs = &tarifs;
-  eleves.ModeProvision = parametres.EstVrai(25);
+  eleves.ModeProvision = parametres.EstVrai(TParam::ModeProvision);
   LireParametresPresences(parametres, presences);
   eleves.Presences = &presences;
   eleves.ActivitesEleves = donnees->ActivitesEleves.get();
-  eleves.TypeActivitesExt = LireTypeActivitesExt(parametres.GetParametre(100));
+  eleves.TypeActivitesExt = LireTypeActivitesExt(parametres.GetParametre(TParam::ActivitesExt));
   return donnees;
 }

@@ -8,11 +8,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 template <class Conversion>
-auto Convertir(const TParametres& parametres, int id, Conversion conversion) {
+auto Convertir(const TParametres& parametres, TParam param, Conversion conversion) {
+  QString valeur = parametres.GetParametre(param);
+  const char16_t* defaut = Regles(param).Defaut;
+  if (valeur.isEmpty() && defaut != nullptr) valeur = QString::fromUtf16(defaut);
   try {
-    return conversion(parametres.GetParametre(id));
+    return conversion(valeur);
   } catch (const EConvertError& e) {
-    throw EConvertError(u"Paramètre %1 : %2"_s.arg(id).arg(e.Message));
+    throw EConvertError(u"Paramètre %1 : %2"_s.arg(static_cast<int>(param)).arg(e.Message));
   }
 }
 
@@ -33,29 +36,29 @@ void TParametres::StoreRecord(const TParametre& parametre, TLigne& ligne) const 
   ligne.Ecrire("VALEUR", parametre.Valeur);
 }
 
-TParametre* TParametres::FindParametre(int id) const {
+TParametre* TParametres::FindParametre(TParam param) const {
   for (TParametre& parametre : *this)
-    if (parametre.Id == id) return &parametre;
+    if (parametre.Id == static_cast<int>(param)) return &parametre;
   return nullptr;
 }
 
-QString TParametres::GetParametre(int id) const {
-  const TParametre* parametre = FindParametre(id);
+QString TParametres::GetParametre(TParam param) const {
+  const TParametre* parametre = FindParametre(param);
   return parametre != nullptr ? parametre->Valeur : QString();
 }
 
-int TParametres::Entier(int id) const { return Convertir(*this, id, StrToInt); }
+int TParametres::Entier(TParam param) const { return Convertir(*this, param, StrToInt); }
 
-Currency TParametres::Montant(int id) const { return Convertir(*this, id, StrToCurr); }
+Currency TParametres::Montant(TParam param) const { return Convertir(*this, param, StrToCurr); }
 
-void TParametres::SetParametre(int id, const QString& valeur) {
-  if (TParametre* parametre = FindParametre(id)) {
+void TParametres::SetParametre(TParam param, const QString& valeur) {
+  if (TParametre* parametre = FindParametre(param)) {
     parametre->Valeur = valeur;
     Add(*parametre);
     return;
   }
   auto nouveau = std::make_unique<TParametre>();
-  nouveau->Id = id;
+  nouveau->Id = static_cast<int>(param);
   nouveau->Valeur = valeur;
   Add(std::move(nouveau));
 }

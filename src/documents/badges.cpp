@@ -15,7 +15,7 @@ TResultat Badges(const QString& modele, const TContexteDocument& contexte, const
     TNoeudRapport& noeud = arbre.emplace_back(NoeudEleve(*eleve));
     noeud.Valeurs.Ecrire(u"Matricule", eleve->Matricule);
   }
-  rapport.AjouterVariable(u"TypeCodeBar", contexte.Parametres.GetParametre(28));
+  rapport.AjouterVariable(u"TypeCodeBar", contexte.Parametres.GetParametre(TParam::TypeCodeBarre));
   return PresenterMemeVide(std::move(rapport), std::move(arbre));
 }
 

@@ -6,10 +6,12 @@
 void AjouterEnteteEcole(TRapport& rapport, const TParametres& parametres) {
   static constexpr struct {
     const char16_t* Variable;
-    int Parametre;
+    TParam Parametre;
   } kVariables[] = {
-      {u"EcoleNom", 1},      {u"ImplantationNom", 9}, {u"EcoleAdresse", 2},  {u"EcoleCodePostal", 3},
-      {u"EcoleLocalite", 4}, {u"EcoleTelephone", 5},  {u"CompteBanque", 11},
+      {u"EcoleNom", TParam::NomEcole},           {u"ImplantationNom", TParam::NomImplantation},
+      {u"EcoleAdresse", TParam::RueEcole},       {u"EcoleCodePostal", TParam::CodePostalEcole},
+      {u"EcoleLocalite", TParam::LocaliteEcole}, {u"EcoleTelephone", TParam::TelephoneEcole},
+      {u"CompteBanque", TParam::CompteBanque},
   };
   for (const auto& [variable, parametre] : kVariables)
     rapport.AjouterVariable(variable, parametres.GetParametre(parametre));

@@ -22,7 +22,7 @@ class TFactureEleve {
       : contexte_(contexte),
         eleve_(eleve),
         periode_(periode),
-        balanceAnnuelle_(contexte.Parametres.EstVrai(42)) {}
+        balanceAnnuelle_(contexte.Parametres.EstVrai(TParam::BalanceAnnuelle)) {}
 
   /// The pupil's node; none when exactly nothing is owed.
   std::optional<TNoeudRapport> Faire(const QString& datePaiement, IDialogues& dialogues);
@@ -148,7 +148,7 @@ QString TFactureEleve::Communication(const QString& datePaiement, IDialogues& di
   QString structuree;
   if (const int mois = periode_.MoisFacture())
     structuree = CommunicationServices(dialogues, eleve_.Id, mois, periode_.Annee);
-  QString communication = contexte_.Parametres.GetParametre(10);
+  QString communication = contexte_.Parametres.GetParametre(TParam::CommunicationFacture);
   communication.replace(u"[ComStructParFacture]"_s, structuree);
   if (!datePaiement.isEmpty()) communication.replace(u"[DatePaiementFacture]"_s, datePaiement);
   return communication;

@@ -27,14 +27,14 @@ const TRegle& Regle(TGeneration generation) { return kRegles[static_cast<std::si
 }  // namespace
 
 std::vector<TGeneration> GenerationsFacture(const TParametres& parametres) {
-  if (parametres.EstVrai(107)) return {TGeneration::CompteCourant};
-  if (!parametres.EstVrai(25)) return {TGeneration::PostesOuverts};
-  if (parametres.EstVrai(108)) return {TGeneration::Provision};
+  if (parametres.EstVrai(TParam::CompteCourant)) return {TGeneration::CompteCourant};
+  if (!parametres.EstVrai(TParam::ModeProvision)) return {TGeneration::PostesOuverts};
+  if (parametres.EstVrai(TParam::CommunicationRepas)) return {TGeneration::Provision};
   return {TGeneration::Provision, TGeneration::Activites};
 }
 
 bool FactureDemandeDate(const TParametres& parametres) {
-  return parametres.EstVrai(32) && Regle(GenerationsFacture(parametres).front()).AvecDate;
+  return parametres.EstVrai(TParam::DatePaiement) && Regle(GenerationsFacture(parametres).front()).AvecDate;
 }
 
 TResultat Factures(const TContexteDocument& contexte, const TDemandeDocument& demande) {

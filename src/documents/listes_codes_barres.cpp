@@ -22,7 +22,7 @@ TResultat Lister(const QString& modele, const TContexteDocument& contexte, const
     valeurs.Ecrire(u"PrenomEleve", eleve->Prenom);
     valeurs.Ecrire(u"Matricule", eleve->Matricule);
   }
-  rapport.AjouterVariable(u"TypeCodeBar", contexte.Parametres.GetParametre(28));
+  rapport.AjouterVariable(u"TypeCodeBar", contexte.Parametres.GetParametre(TParam::TypeCodeBarre));
   return PresenterMemeVide(std::move(rapport), std::move(arbre));
 }
 

@@ -63,7 +63,8 @@ TNoeudRapport NoeudRubrique(const TEleve& eleve, const TRubrique& rubrique, cons
 /// An empty tree leaves the message instead of the report, if any.
 TResultat Relever(const TContexteDocument& contexte, const TElevesChoisis& eleves,
                   const TPeriodeDocument& periode, const QString& siVide) {
-  const bool compact = contexte.Parametres.EstVrai(107) && !contexte.Parametres.EstVrai(110);
+  const bool compact = contexte.Parametres.EstVrai(TParam::CompteCourant) &&
+                       !contexte.Parametres.EstVrai(TParam::FactureDebiteurs);
   TRapport rapport(u"Relevé détaillé des services"_s,
                    compact ? u"DetailServiceVesper"_s : u"DetailService"_s);
   rapport.EffacerVariables();

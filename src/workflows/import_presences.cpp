@@ -62,7 +62,7 @@ QStringList LigneAnomalie(const TAnomalie& anomalie) {
 TImportPresences::TImportPresences(TControleur& controleur) : controleur_(controleur) {}
 
 QString TImportPresences::SiteDuChemin(const QString& chemin) {
-  if (!Globals.Parametres->EstVrai(113)) return {};
+  if (!Globals.Parametres->EstVrai(TParam::PlusieursImplantations)) return {};
   const QString texte = chemin.toUpper();
   for (const TImplantation& site : *Globals.Eleves->Implantations) {
     const QString nom = site.LibelleCourt.toUpper();

@@ -75,7 +75,8 @@ TDateTime DateDuFichier(const QString& texte) {
 
 TImportRegistre::TImportRegistre(TControleur& controleur)
     : controleur_(controleur),
-      disposition_(Globals.Parametres->GetParametre(6) == u"2" ? kDisposition2 : kDisposition1) {}
+      disposition_(Globals.Parametres->GetParametre(TParam::DispositionRegistre) == u"2" ? kDisposition2
+                                                                                         : kDisposition1) {}
 
 int TImportRegistre::NombreEleves() const { return qMax(0, grille_.NombreLignes() - 1); }
 
@@ -180,9 +181,10 @@ void TImportRegistre::Cloturer() {
     dialogues.TraiterEvenements();
   }
   TParametres& parametres = *Globals.Parametres;
-  parametres.SetParametre(27, QString::number(StrToInt(parametres.GetParametre(27)) + 1));
+  parametres.SetParametre(TParam::AnneeScolaire,
+                          QString::number(parametres.Entier(TParam::AnneeScolaire) + 1));
   parametres.Save();
-  Globals.AnneeScolaire = StrToInt(parametres.GetParametre(27));
+  Globals.AnneeScolaire = parametres.Entier(TParam::AnneeScolaire);
   dialogues.Information(
       u"L'année scolaire est clôturée.\r\n"
       "Vous pouvez commnencer le transfert des nouvelles informations."_s);

@@ -76,7 +76,7 @@ TEST(Controleur, OffLineNeedsNoServer) {
   EXPECT_TRUE(base->EstConnecte());
   EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, u"Offline"_s), u"0");
   EXPECT_TRUE(essai.Fenetre.Faits.contains(u"*pgRepas3"_s));
-  Globals.Parametres->SetParametre(115, u"demain"_s);
+  Globals.Parametres->SetParametre(TParam::DatePhoto, u"demain"_s);
   essai.Controleur.MemoriserDatePhoto();
   EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, u"Photo"_s), u"demain");
   essai.Controleur.PasserHorsLigne();

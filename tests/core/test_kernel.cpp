@@ -148,17 +148,18 @@ TEST(Kernel, IndexKeepsTheOrderOfTheCollection) {
 TEST(Kernel, Parameters) {
   TBaseEssai base;
   TParametres parametres(*base);
-  EXPECT_EQ(parametres.GetParametre(27), u"2016") << "the padding of the fixed-width column is cut";
-  EXPECT_TRUE(parametres.EstVrai(28));
-  EXPECT_EQ(parametres.GetParametre(999), u"");
+  EXPECT_EQ(parametres.GetParametre(TParam::AnneeScolaire), u"2016")
+      << "the padding of the fixed-width column is cut";
+  EXPECT_TRUE(parametres.EstVrai(TParam::TypeCodeBarre));
+  EXPECT_EQ(parametres.GetParametre(TParam{999}), u"");
   const int avant = parametres.Count();
-  parametres.SetParametre(1, u"École"_s);
-  parametres.SetParametre(1, u"École \"Les Tilleuls\" d'Été €"_s);
+  parametres.SetParametre(TParam::NomEcole, u"École"_s);
+  parametres.SetParametre(TParam::NomEcole, u"École \"Les Tilleuls\" d'Été €"_s);
   EXPECT_EQ(parametres.Count(), avant + 1);
-  parametres.SetParametre(27, u"2016"_s);
-  EXPECT_EQ(parametres.FindParametre(27)->Status, TStatus::Modifie);
+  parametres.SetParametre(TParam::AnneeScolaire, u"2016"_s);
+  EXPECT_EQ(parametres.FindParametre(TParam::AnneeScolaire)->Status, TStatus::Modifie);
   parametres.Save();
-  EXPECT_EQ(TParametres(*base).GetParametre(1), u"École \"Les Tilleuls\" d'Été €");
+  EXPECT_EQ(TParametres(*base).GetParametre(TParam::NomEcole), u"École \"Les Tilleuls\" d'Été €");
   base.Sql(u"DROP TABLE PARAMETRE"_s);
   EXPECT_THROW(TParametres{*base}, EDistributor);
 }

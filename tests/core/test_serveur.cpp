@@ -30,7 +30,7 @@ struct TPoste {
 };
 
 /// The value that a workstation loading now would see; "" without a row.
-QString Relu(TDataModule1& base, int id) { return TParametres(base).GetParametre(id); }
+QString Relu(TDataModule1& base, int id) { return TParametres(base).GetParametre(TParam{id}); }
 
 QString MessageDeConnexion(const QString& serveur) {
   try {
@@ -77,19 +77,20 @@ TEST(Serveur, EightProcessesTakeDistinctKeysWithoutAGap) {
 TEST(Serveur, TheLastWriterWins) {
   const TServeurFirebird serveur;
   TPoste a(serveur.Nom());
-  a.parametres->SetParametre(901, u"départ"_s);
+  a.parametres->SetParametre(TParam{901}, u"départ"_s);
   a.parametres->Save();
   TPoste b(serveur.Nom());
-  ASSERT_EQ(u"départ"_s, b.parametres->GetParametre(901)) << "an insertion is seen by the next load";
+  ASSERT_EQ(u"départ"_s, b.parametres->GetParametre(TParam{901})) << "an insertion is seen by the next load";
 
-  a.parametres->SetParametre(901, u"de A"_s);
-  b.parametres->SetParametre(901, u"de B"_s);
+  a.parametres->SetParametre(TParam{901}, u"de A"_s);
+  b.parametres->SetParametre(TParam{901}, u"de B"_s);
   b.parametres->Save();
   a.parametres->Save();
   EXPECT_EQ(u"de A"_s, Relu(b.base, 901));
-  EXPECT_EQ(u"de B"_s, b.parametres->GetParametre(901)) << "a loaded collection does not change by itself";
+  EXPECT_EQ(u"de B"_s, b.parametres->GetParametre(TParam{901}))
+      << "a loaded collection does not change by itself";
 
-  b.parametres->SetParametre(901, u"de B encore"_s);
+  b.parametres->SetParametre(TParam{901}, u"de B encore"_s);
   b.parametres->Save();
   EXPECT_EQ(u"de B encore"_s, Relu(a.base, 901));
 }
@@ -97,22 +98,22 @@ TEST(Serveur, TheLastWriterWins) {
 TEST(Serveur, ARowThatHasGoneStaysModifiedAndHarmsNothing) {
   const TServeurFirebird serveur;
   TPoste a(serveur.Nom());
-  for (int id : {901, 902}) a.parametres->SetParametre(id, u"départ"_s);
+  for (int id : {901, 902}) a.parametres->SetParametre(TParam{id}, u"départ"_s);
   a.parametres->Save();
   TPoste b(serveur.Nom());
 
-  a.parametres->Remove(*a.parametres->FindParametre(901));
+  a.parametres->Remove(*a.parametres->FindParametre(TParam{901}));
   a.parametres->Save();
-  b.parametres->SetParametre(901, u"perdu"_s);
-  b.parametres->SetParametre(902, u"gardé"_s);
+  b.parametres->SetParametre(TParam{901}, u"perdu"_s);
+  b.parametres->SetParametre(TParam{902}, u"gardé"_s);
   EXPECT_TRUE(b.parametres->Save());
 
-  EXPECT_EQ(TStatus::Modifie, b.parametres->FindParametre(901)->Status);
-  EXPECT_EQ(TStatus::Inchange, b.parametres->FindParametre(902)->Status);
-  EXPECT_EQ(nullptr, TParametres(a.base).FindParametre(901));
+  EXPECT_EQ(TStatus::Modifie, b.parametres->FindParametre(TParam{901})->Status);
+  EXPECT_EQ(TStatus::Inchange, b.parametres->FindParametre(TParam{902})->Status);
+  EXPECT_EQ(nullptr, TParametres(a.base).FindParametre(TParam{901}));
   EXPECT_EQ(u"gardé"_s, Relu(a.base, 902)) << "the save went on behind the missing row";
 
-  b.parametres->Remove(*b.parametres->FindParametre(901));
+  b.parametres->Remove(*b.parametres->FindParametre(TParam{901}));
   EXPECT_TRUE(b.parametres->Save()) << "deleting a row that the other one has deleted";
 }
 
@@ -125,7 +126,7 @@ TEST(Serveur, AReadingThatStaysPreparedSeesTheOthersAndKeepsNobodyWaiting) {
   };
   EXPECT_EQ(u"rien"_s, lu(901));
   for (const QString& valeur : {u"un"_s, u"deux"_s}) {
-    b.parametres->SetParametre(901, valeur);
+    b.parametres->SetParametre(TParam{901}, valeur);
     b.parametres->Save();
     EXPECT_EQ(valeur, lu(901));
   }
@@ -160,7 +161,7 @@ TEST(Serveur, AFailedConnectionIsToldInFrench) {
 TEST(Serveur, AServerThatDiesIsToldAndLosesNoStatus) {
   auto serveur = std::make_unique<TServeurFirebird>();
   TPoste poste(serveur->Nom());
-  poste.parametres->SetParametre(901, u"jamais écrit"_s);
+  poste.parametres->SetParametre(TParam{901}, u"jamais écrit"_s);
   serveur.reset();
   try {
     poste.parametres->Save();
@@ -169,5 +170,5 @@ TEST(Serveur, AServerThatDiesIsToldAndLosesNoStatus) {
     EXPECT_TRUE(e.Message.startsWith(u"La liaison avec le serveur de données est coupée."_s))
         << e.Message.toStdString();
   }
-  EXPECT_EQ(TStatus::Nouveau, poste.parametres->FindParametre(901)->Status);
+  EXPECT_EQ(TStatus::Nouveau, poste.parametres->FindParametre(TParam{901})->Status);
 }

@@ -24,7 +24,7 @@ struct TEcoleChargee {
   ~TEcoleChargee() { Globals = {}; }
 
   TBilanRegistre Registre(const QString& disposition, const QString& fichier) {
-    Globals.Parametres->SetParametre(6, disposition);
+    Globals.Parametres->SetParametre(TParam::DispositionRegistre, disposition);
     TImportRegistre import(Controleur);
     EXPECT_TRUE(import.Etape1(fichier));
     return import.Etape2();

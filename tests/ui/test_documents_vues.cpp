@@ -167,8 +167,8 @@ TEST_F(DocumentsVues, AnInvoiceByClassAndMonthFromTheKeyboard) {
 }
 
 TEST_F(DocumentsVues, FromTheRecordToThePreviewWithADateOfPayment) {
-  Globals.Parametres->SetParametre(32, u"1"_s);
-  Globals.Parametres->SetParametre(11, u"BE68 5390 0754 7034"_s);
+  Globals.Parametres->SetParametre(TParam::DatePaiement, u"1"_s);
+  Globals.Parametres->SetParametre(TParam::CompteBanque, u"BE68 5390 0754 7034"_s);
   programme.Main().edSearchChange(u"Bastin"_s);
   programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
   programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {

@@ -100,7 +100,7 @@ TEST(ImportRegistre, TheClosingMovesTheYearOnce) {
   EXPECT_EQ(Globals.Eleves->Count(), 9) << "a pupil absent from the file is not enrolled";
 
   // The same year again: the rows of the first closing stop the second.
-  Globals.Parametres->SetParametre(27, u"2016"_s);
+  Globals.Parametres->SetParametre(TParam::AnneeScolaire, u"2016"_s);
   Globals.Parametres->Save();
   Globals.AnneeScolaire = 2016;
   essai.Controleur.ChargerAnnee(2016);

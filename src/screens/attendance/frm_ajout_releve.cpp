@@ -16,7 +16,7 @@ const QString kMinuit = u"00:00"_s;
 }  // namespace
 
 TFrmAjoutReleve::TFrmAjoutReleve(TContexteEcran& contexte)
-    : contexte_(contexte), avecImplantation_(Globals.Parametres->EstVrai(113)) {}
+    : contexte_(contexte), avecImplantation_(Globals.Parametres->EstVrai(TParam::PlusieursImplantations)) {}
 
 void TFrmAjoutReleve::Charger(TTypePresence type, TDateTime sortie, TDateTime entree, TDateTime date) {
   Date = FormatDate(date);

@@ -43,7 +43,7 @@ TfrmPresences::TfrmPresences(TContexteEcran& contexte)
 
 TfrmPresences::~TfrmPresences() { FermerLien(); }
 
-void TfrmPresences::FormShow() { scannerVisible_ = !Globals.Parametres->EstVrai(36); }
+void TfrmPresences::FormShow() { scannerVisible_ = !Globals.Parametres->EstVrai(TParam::ImportDirect); }
 
 bool TfrmPresences::FormCloseQuery() {
   if (enCours_) Signaler(TNiveauEtat::Alerte, u"Le lecteur est lu : l'écran reste ouvert jusqu'à la fin."_s);

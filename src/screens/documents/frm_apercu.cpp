@@ -288,8 +288,9 @@ void TFrmApercu::btnExporterClick() {
   const auto chemin = Demander(u"Exporter en PDF"_s, u".pdf"_s, u"PDF (*.pdf)"_s);
   if (!chemin) return;
   Terminer();
-  if (Essayer(
-          [&] { EcrirePdf({&document_}, document_.Titre, Globals.Parametres->GetParametre(1), *chemin); }))
+  if (Essayer([&] {
+        EcrirePdf({&document_}, document_.Titre, Globals.Parametres->GetParametre(TParam::NomEcole), *chemin);
+      }))
     Dire(TNiveauEtat::Succes, u"Exporté : " % *chemin);
 }
 

@@ -171,7 +171,7 @@ std::vector<TEtapeAccueil> TFrmMain::Etapes() const {
   std::vector<TEtapeAccueil> etapes{
       etape(TGestionnaire::AdvGlowButton3Click, u"Mon école",
             u"Nom, adresse et compte bancaire : ce que les documents impriment.", u"Ouvrir",
-            !Globals.Parametres->GetParametre(1).trimmed().isEmpty()),
+            !Globals.Parametres->GetParametre(TParam::NomEcole).trimmed().isEmpty()),
       etape(TGestionnaire::AdvGlowButton8Click, u"Importation",
             u"Élèves, classes et implantations, depuis l'export du registre SIEL.", u"Importer les élèves",
             Globals.Eleves->Count() > 0),

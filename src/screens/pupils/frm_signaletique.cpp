@@ -41,7 +41,8 @@ TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte) : contexte_(c
 }
 
 void TFrmSignaletique::FormShow() {
-  titreActivitesExt_ = TitreActivites(LireTypeActivitesExt(Globals.Parametres->GetParametre(100)));
+  titreActivitesExt_ =
+      TitreActivites(LireTypeActivitesExt(Globals.Parametres->GetParametre(TParam::ActivitesExt)));
   activitesVisibles_ = Globals.Activites != nullptr && Globals.Activites->Count() > 0;
   Annoncer();
 }
