@@ -65,6 +65,7 @@ function(calpenne_test nom)
   add_executable(test_${nom} ${sources})
   target_link_libraries(test_${nom} PRIVATE calpenne_options ${T_LIENS} GTest::gtest)
   target_include_directories(test_${nom} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_precompile_headers(test_${nom} REUSE_FROM entetes_tests)
   gtest_discover_tests(test_${nom} TEST_PREFIX ${nom}. DISCOVERY_TIMEOUT 60
     PROPERTIES TIMEOUT 300)
 endfunction()

@@ -1,0 +1,4 @@
+// Headers that every test includes anyway.
+#include <gtest/gtest.h>
+
+#include "precompile.h"

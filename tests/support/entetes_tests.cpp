@@ -1,0 +1,1 @@
+// The precompiled header of the tests is made with this file.
