@@ -31,13 +31,13 @@ struct TEtapes {
 TDocumentPrepare Facturer(TEcole& ecole, const TDonneesAnnee& annee, const QString& chemin, TEtapes& etapes) {
   const TPeriode octobre = BornesMois(10, TEcole::kAnnee);
   TChoixDocument choix;
-  choix.Indice = IndiceTitre(u"Facture");
   choix.DateDebut = octobre.Premier;
   choix.DateFin = octobre.Dernier;
   for (TEleve& eleve : *annee.Eleves) choix.Eleves.push_back(&eleve);
   TResultat resultat;
   etapes.Contenu.push_back(Duree([&] {
-    resultat = FaireDocument({*annee.Eleves, ecole.Parametres(), u"Garderies du soir"_s}, choix);
+    resultat = FaireDocument({*annee.Eleves, ecole.Parametres(), u"Garderies du soir"_s},
+                             *TrouverTitre(u"Facture"), choix);
   }));
   const TRapport& rapport = resultat.Rapports.at(0);
   TDocumentPrepare document;

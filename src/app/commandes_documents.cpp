@@ -35,21 +35,21 @@ void Choisir(const TSession& session, TChoixDocument& choix) {
 int Document(TSession& session) {
   const QString titre = session.Arguments[0];
   TChoixDocument choix;
-  choix.Indice = IndiceTitre(titre);
-  if (choix.Indice < 0) throw Exception(u"Il n'y a pas de document « %1 »."_s.arg(titre));
+  const TTitreDocument* document = TrouverTitre(titre);
+  if (document == nullptr) throw Exception(u"Il n'y a pas de document « %1 »."_s.arg(titre));
   VerifierFichiers(session);
   session.Ouvrir();
-  Choisir(session, choix);
-  const bool avecPeriode = TitresDocuments()[static_cast<std::size_t>(choix.Indice)].AvecPeriode;
-  const TPeriode periode = avecPeriode ? session.Periode() : BornesAnnee(Globals.Eleves->AnneeScolaire);
+  if (document->AvecEleves) Choisir(session, choix);
+  const TPeriode periode =
+      document->AvecPeriode ? session.Periode() : BornesAnnee(Globals.Eleves->AnneeScolaire);
   choix.DateDebut = periode.Premier;
   choix.DateFin = periode.Dernier;
   if (session.A(u"date-paiement"_s)) {
     const TDateTime date = session.Date(u"date-paiement"_s);
-    if (DemandeDatePaiement(choix.Indice, *Globals.Parametres)) choix.DatePaiement = date;
+    if (DemandeDatePaiement(*document, *Globals.Parametres)) choix.DatePaiement = date;
   }
 
-  const TResultat resultat = FaireDocument(ContexteDesGlobals(), choix);
+  const TResultat resultat = FaireDocument(ContexteDesGlobals(), *document, choix);
   return SortirDocument(session, titre, resultat, !choix.Classes.empty());
 }
 

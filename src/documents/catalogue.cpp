@@ -1,7 +1,5 @@
 #include "documents/catalogue.h"
 
-#include <stdexcept>
-
 #include "documents/badges.h"
 #include "documents/etiquettes.h"
 #include "documents/factures.h"
@@ -11,55 +9,59 @@
 
 namespace {
 
-enum TIndice {
-  kFacture = 6,
-  kFraisEffectifs,
-  kDetaille,
-  kPrevisionnelle,
-  kBalanceProvisoire = 11,
-  kBalanceDefinitive
-};
-
 constexpr TTitreDocument kTitres[] = {
-    {u"Etiquettes d'identification 89mm x 36mm (Etiquette Dymo 99012)", false, EtiquettesGrandes},
-    {u"Etiquettes d'identification 54mm x 25mm (Etiquette Dymo 11352)", false, EtiquettesPetites},
-    {u"Badge individuel d'identification (85mm x 54mm)", false, Badge},
-    {u"Badge individuel Xerox DocuCard (1 carte)", false, Xerox},
-    {u"Liste d'identification par classe", false, ListeCodesBarres},
-    {u"Liste d'identification par classe - grand format", false, ListeCodesBarresLarge},
-    {u"Facture", true, Factures},
-    {u"Relevé des frais effectifs", true, nullptr},
-    {u"Relevé détaillé des services", true, ReleveDetaille},
-    {u"Liste prévisionnelle des frais", true, nullptr},
-    {u"Detail O.N.E. des accueils extrascolaires", true, nullptr},
-    {u"Balance des comptes provisoire", false, nullptr},
-    {u"Balance des comptes définitive", false, nullptr},
-    {u"Attestation fiscale", false, nullptr},
-    {u"Comptabilisation des repas et des soupes", true, nullptr},
-    {u"Document de provision de compte", false, nullptr},
+    {.Titre = u"Etiquettes d'identification 89mm x 36mm (Etiquette Dymo 99012)",
+     .Construire = EtiquettesGrandes},
+    {.Titre = u"Etiquettes d'identification 54mm x 25mm (Etiquette Dymo 11352)",
+     .Construire = EtiquettesPetites},
+    {.Titre = u"Badge individuel d'identification (85mm x 54mm)", .Construire = Badge},
+    {.Titre = u"Badge individuel Xerox DocuCard (1 carte)", .Construire = Xerox},
+    {.Titre = u"Liste d'identification par classe", .Construire = ListeCodesBarres},
+    {.Titre = u"Liste d'identification par classe - grand format", .Construire = ListeCodesBarresLarge},
+    {.Titre = u"Facture",
+     .Construire = Factures,
+     .AvecPeriode = true,
+     .Courriel = true,
+     .DemandeDate = FactureDemandeDate},
+    {.Titre = u"Relevé des frais effectifs", .AvecPeriode = true, .Courriel = true},
+    {.Titre = u"Relevé détaillé des services",
+     .Construire = ReleveDetaille,
+     .AvecPeriode = true,
+     .Courriel = true},
+    {.Titre = u"Liste prévisionnelle des frais", .AvecPeriode = true, .Courriel = true},
+    {.Titre = u"Detail O.N.E. des accueils extrascolaires", .AvecPeriode = true},
+    {.Titre = u"Balance des comptes provisoire", .Courriel = true},
+    {.Titre = u"Balance des comptes définitive", .Courriel = true},
+    {.Titre = u"Attestation fiscale"},
+    {.Titre = u"Comptabilisation des repas et des soupes", .AvecPeriode = true},
+    {.Titre = u"Document de provision de compte"},
 };
-
-constexpr TIndice kCourriel[] = {kFacture,        kFraisEffectifs,    kDetaille,
-                                 kPrevisionnelle, kBalanceProvisoire, kBalanceDefinitive};
 
 }  // namespace
 
-std::span<const TTitreDocument> TitresDocuments() { return kTitres; }
-
-std::vector<TTitreDocument> TitresCourriel() {
-  std::vector<TTitreDocument> titres;
-  for (const TIndice indice : kCourriel) titres.push_back(kTitres[indice]);
+std::vector<TTitreOffert> TitresOfferts(TListeTitres liste) {
+  std::vector<TTitreOffert> titres;
+  for (const TTitreDocument& titre : kTitres)
+    if (titre.Liste == liste) titres.push_back({&titre, &titre});
   return titres;
 }
 
-int IndiceTitre(QStringView titre) {
-  const auto trouve =
-      std::ranges::find(kTitres, titre, [](const TTitreDocument& t) { return QStringView(t.Titre); });
-  return trouve == std::end(kTitres) ? -1 : static_cast<int>(trouve - std::begin(kTitres));
+std::vector<TTitreOffert> TitresCourriel() {
+  const std::vector<TTitreOffert> tous = TitresOfferts(TListeTitres::Eleves);
+  std::vector<TTitreOffert> titres;
+  for (const TTitreOffert& titre : tous)
+    if (titre.Montre->Courriel) titres.push_back({titre.Montre, tous[titres.size()].Fait});
+  return titres;
 }
 
-bool DemandeDatePaiement(int indice, const TParametres& parametres) {
-  return indice == kFacture && FactureDemandeDate(parametres);
+const TTitreDocument* TrouverTitre(QStringView titre) {
+  const auto* trouve =
+      std::ranges::find(kTitres, titre, [](const TTitreDocument& t) { return QStringView(t.Titre); });
+  return trouve == std::end(kTitres) ? nullptr : trouve;
+}
+
+bool DemandeDatePaiement(const TTitreDocument& titre, const TParametres& parametres) {
+  return titre.DemandeDate != nullptr && titre.DemandeDate(parametres);
 }
 
 TElevesChoisis ElevesDuChoix(const TEleves& eleves, const TChoixDocument& choix) {
@@ -70,10 +72,9 @@ TElevesChoisis ElevesDuChoix(const TEleves& eleves, const TChoixDocument& choix)
   return choisis;
 }
 
-TResultat FaireDocument(const TContexteDocument& contexte, const TChoixDocument& choix) {
-  if (choix.Indice < 0 || choix.Indice >= std::ssize(kTitres)) throw std::out_of_range("FaireDocument");
-  const TTitreDocument& titre = kTitres[choix.Indice];
-  if (!titre.Construire) return PasEncore(QString::fromUtf16(titre.Titre));
+TResultat FaireDocument(const TContexteDocument& contexte, const TTitreDocument& titre,
+                        const TChoixDocument& choix) {
+  if (titre.Construire == nullptr) return PasEncore(QString::fromUtf16(titre.Titre));
   return titre.Construire(contexte, {ElevesDuChoix(contexte.Eleves, choix),
                                      {contexte.Eleves.AnneeScolaire, choix.DateDebut, choix.DateFin},
                                      choix.DatePaiement});

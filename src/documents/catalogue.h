@@ -6,11 +6,26 @@
 
 class TClasse;
 
-/// A document that the pupil screen offers.
+/// Which screen offers a title.
+enum class TListeTitres { Eleves };
+
+/// A document that the user can ask for.
 struct TTitreDocument {
   const char16_t* Titre;
-  bool AvecPeriode;                                                            ///< the user chooses a period
-  TResultat (*Construire)(const TContexteDocument&, const TDemandeDocument&);  ///< null: not there yet
+  /// Null: not there yet. What there is to say of an empty document is the builder's to say.
+  TResultat (*Construire)(const TContexteDocument&, const TDemandeDocument&) = nullptr;
+  bool AvecPeriode = false;  ///< the user chooses a period
+  bool AvecEleves = true;    ///< the user chooses pupils or classes
+  bool Courriel = false;     ///< the command for mail offers it too
+  /// Whether the user has to be asked for a payment date before it; null: never.
+  bool (*DemandeDate)(const TParametres&) = nullptr;
+  TListeTitres Liste = TListeTitres::Eleves;
+};
+
+/// A title as it stands before the user, and what is made when it is chosen.
+struct TTitreOffert {
+  const TTitreDocument* Montre;
+  const TTitreDocument* Fait;
 };
 
 /// What the print wizard gives back.
@@ -23,18 +38,19 @@ struct TChoixDocument {
   std::optional<TDateTime> DatePaiement;  ///< what the user answered; none when not asked or given up
 };
 
-/// The sixteen titles, in order.
-std::span<const TTitreDocument> TitresDocuments();
-/// The six titles that the command for mail offers.
-std::vector<TTitreDocument> TitresCourriel();
-/// Index in `TitresDocuments` of exactly that title; -1 when there is none.
-int IndiceTitre(QStringView titre);
+/// The titles of that screen, in order.
+std::vector<TTitreOffert> TitresOfferts(TListeTitres liste);
+/// The titles that the command for mail offers. They are served by the whole list, so that the first of
+/// them gives the document of its first.
+std::vector<TTitreOffert> TitresCourriel();
+/// The document of exactly that title; null when there is none.
+const TTitreDocument* TrouverTitre(QStringView titre);
 
 /// Whether the user has to be asked for a payment date before that document.
-bool DemandeDatePaiement(int indice, const TParametres& parametres);
+bool DemandeDatePaiement(const TTitreDocument& titre, const TParametres& parametres);
 /// The chosen pupils in order, then for each chosen class its pupils in the order of `Eleves`. A pupil
 /// chosen twice stands there twice.
 TElevesChoisis ElevesDuChoix(const TEleves& eleves, const TChoixDocument& choix);
-/// Makes the document of that index of `TitresDocuments`, also when the titles for mail were offered:
-/// their first one thus gives the first of the sixteen. Raises std::out_of_range for another index.
-TResultat FaireDocument(const TContexteDocument& contexte, const TChoixDocument& choix);
+/// Makes that document for the pupils and the days of the choice.
+TResultat FaireDocument(const TContexteDocument& contexte, const TTitreDocument& titre,
+                        const TChoixDocument& choix);

@@ -96,6 +96,6 @@ TResultat ReleveDetaille(const TContexteDocument& contexte, const TDemandeDocume
 TResultat DetailApresFacture(const TContexteDocument& contexte, const TDemandeDocument& demande) {
   TElevesChoisis detailles;
   for (TEleve* eleve : demande.Eleves)
-    if (eleve->FlgRadie ? demande.Eleves.size() > 1 : eleve->FlgFactureDetail) detailles.push_back(eleve);
+    if (!eleve->FlgRadie && eleve->FlgFactureDetail) detailles.push_back(eleve);
   return Relever(contexte, detailles, demande.Periode, {});
 }

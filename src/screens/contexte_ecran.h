@@ -3,6 +3,7 @@
 #include "forms/form.h"
 #include "report/apercu.h"
 
+class IAssistant;
 class ILienLecteur;
 
 /// How sure the user can be of what the status bar says.
@@ -25,7 +26,7 @@ struct TContexteEcran {
   IFenetreModale& Modale;
   IApercu& Apercu;
   ILienPrincipal& Principal;
-  TComposant* Assistant = nullptr;  ///< the print wizard; set before the first screen opens
+  IAssistant* Assistant = nullptr;  ///< the print wizard; set before the first screen opens
   ILienLecteur* Lecteur = nullptr;  ///< the hand scanner; null where there can be none
 
   IDialogues& Dialogues() const { return Controleur.Dialogues(); }

@@ -33,16 +33,24 @@ TEST(Periode, TexteEtMois) {
   }
 }
 
+// The titles for mail are served by the whole list: "Facture", their first, gives the first labels.
 TEST(Catalogue, SeizeTitresEtSixPourLeCourriel) {
-  const auto offerts = [](const auto& titres) {
+  const std::vector<TTitreOffert> tous = TitresOfferts(TListeTitres::Eleves);
+  const auto indice = [&](const TTitreDocument* titre) {
+    return std::ranges::find(tous, titre, &TTitreOffert::Montre) - tous.begin();
+  };
+  const auto offerts = [&](const std::vector<TTitreOffert>& titres) {
     QString indices;
-    for (const TTitreDocument& titre : titres)
-      indices += QString::number(IndiceTitre(titre.Titre)) % (titre.AvecPeriode ? u"+ " : u" ");
+    for (const TTitreOffert& titre : titres)
+      indices += QString::number(indice(titre.Montre)) % (titre.Montre->AvecPeriode ? u"+" : u"") % u'>' %
+                 QString::number(indice(titre.Fait)) % u' ';
     return indices;
   };
-  EXPECT_EQ(offerts(TitresDocuments()), u"0 1 2 3 4 5 6+ 7+ 8+ 9+ 10+ 11 12 13 14+ 15 "_s);
-  EXPECT_EQ(offerts(TitresCourriel()), u"6+ 7+ 8+ 9+ 11 12 "_s);
-  EXPECT_EQ(IndiceTitre(u"facture"), -1);
+  EXPECT_EQ(offerts(tous),
+            u"0>0 1>1 2>2 3>3 4>4 5>5 6+>6 7+>7 8+>8 9+>9 10+>10 11>11 12>12 13>13 14+>14 15>15 "_s);
+  EXPECT_EQ(offerts(TitresCourriel()), u"6+>0 7+>1 8+>2 9+>3 11>4 12>5 "_s);
+  EXPECT_EQ(TrouverTitre(u"facture"), nullptr);
+  EXPECT_EQ(TrouverTitre(u"Facture"), tous[6].Fait);
 }
 
 TEST_F(TCatalogueEssai, LesElevesPuisCeuxDesClasses) {
@@ -89,8 +97,8 @@ TEST_F(TCatalogueEssai, LaFactureDeLEcole) {
       ecole.parametre(id.toInt(), u"1"_s);
     const TParametres parametres(*base);
     EXPECT_EQ(GenerationsFacture(parametres), generations) << vrais;
-    EXPECT_EQ(DemandeDatePaiement(6, parametres), date) << vrais;
-    EXPECT_FALSE(DemandeDatePaiement(8, parametres)) << vrais;
+    EXPECT_EQ(DemandeDatePaiement(*TrouverTitre(u"Facture"), parametres), date) << vrais;
+    EXPECT_FALSE(DemandeDatePaiement(*TrouverTitre(u"Attestation fiscale"), parametres)) << vrais;
   }
   ecole.parametre(107, u"0"_s);
   const TResultat provision = Facturer({anne});

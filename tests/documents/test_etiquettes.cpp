@@ -53,16 +53,15 @@ struct TEtiquettesEssai : TDocumentsEssai {
     radie = UnEleve(u"FLG_RADIE"_s).nomme(u"BODART"_s, u"Max"_s).Id;
   }
   /// The document at index 0 or 1 of the catalogue, printed by `etiquettes`.
-  TResultat Demander(int indice, const std::vector<int>& eleves) {
+  TResultat Demander(std::size_t indice, const std::vector<int>& eleves) {
     Globals = {};
     controleur.Charger();
     TChoixDocument choix;
-    choix.Indice = indice;
     for (const int eleve : eleves) choix.Eleves.push_back(Globals.Eleves->TrouverParId(eleve));
     TContexteDocument contexte = ContexteDesGlobals();
     contexte.Etiquettes = &etiquettes;
     carnet.Faits.clear();
-    TResultat resultat = FaireDocument(contexte, choix);
+    TResultat resultat = FaireDocument(contexte, *TitresOfferts(TListeTitres::Eleves)[indice].Fait, choix);
     EXPECT_EQ(base.Dialogues.Attentes, 0) << "the wait cursor stays";
     EXPECT_TRUE(carnet.EnAttente && resultat.Rapports.empty());
     return resultat;

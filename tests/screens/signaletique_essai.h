@@ -12,13 +12,13 @@ using namespace Qt::StringLiterals;
 /// A pupil of whom there is something to see in each place of its record, and one of whom there is
 /// nothing. What the screen asks of the wizard is noted.
 struct TSignaletiqueEssai : testing::Test {
-  struct TAssistant : TComposant {
-    bool RecevoirMessage(const TMessage& message) override {
-      if (message.Code != TCodeMessage::ImprimerAssistant) return false;
-      Demande = *message.En<TDemandeAssistant>();
-      return true;
+  struct TAssistant : IAssistant {
+    std::optional<TChoixDocument> Demander(const TDemandeAssistant& demande) override {
+      Demande = demande;
+      return Reponse;
     }
     TDemandeAssistant Demande;
+    std::optional<TChoixDocument> Reponse;
   };
   void SetUp() override {
     using namespace Essai;

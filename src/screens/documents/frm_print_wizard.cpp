@@ -39,9 +39,9 @@ int AnneeAffichee() { return Globals.Eleves->AnneeScolaire; }
 
 }  // namespace
 
-TDemandeAssistant TDemandeAssistant::De(TForm& demandeur, std::vector<TTitreAssistant> titres) {
+TDemandeAssistant TDemandeAssistant::De(std::vector<TTitreAssistant> titres) {
   const bool periode = std::ranges::any_of(titres, &TTitreAssistant::AvecPeriode);
-  return {true, std::move(titres), periode, &demandeur};
+  return {true, std::move(titres), periode};
 }
 
 TFrmPrintWizard::TFrmPrintWizard(const TContexteEcran& contexte) : contexte_(contexte) {
@@ -57,10 +57,15 @@ bool TFrmPrintWizard::RecevoirMessage(const TMessage& message) {
   if (message.Code != TCodeMessage::ImprimerAssistant) return false;
   const auto* demande = message.En<TDemandeAssistant>();
   if (demande == nullptr) return false;
-  Preparer(*demande);
-  if (contexte_.Modale.MontrerModal(*this) == TResultatModal::Valide)
-    Diffuser(TCodeMessage::AssistantConfirme, *demande_.Demandeur, choix_);
+  if (const auto choix = Demander(*demande); choix && demande->Demandeur != nullptr)
+    Diffuser(TCodeMessage::AssistantConfirme, *demande->Demandeur, *choix);
   return true;
+}
+
+std::optional<TChoixDocument> TFrmPrintWizard::Demander(const TDemandeAssistant& demande) {
+  Preparer(demande);
+  if (contexte_.Modale.MontrerModal(*this) != TResultatModal::Valide) return {};
+  return choix_;
 }
 
 void TFrmPrintWizard::Preparer(const TDemandeAssistant& demande) {

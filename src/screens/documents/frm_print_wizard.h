@@ -1,26 +1,9 @@
 #pragma once
 #include <functional>
 
-#include "documents/catalogue.h"
 #include "forms/grille.h"
 #include "screens/contexte_ecran.h"
-
-/// A title that the wizard offers.
-struct TTitreAssistant {
-  QString Titre;
-  bool AvecPeriode = false;  ///< the document takes a period
-};
-
-/// Load of ImprimerAssistant: what the wizard asks for, and which screen gets the answer.
-struct TDemandeAssistant {
-  bool PageQui = true;
-  std::vector<TTitreAssistant> Titres;
-  bool PagePeriode = false;
-  TForm* Demandeur = nullptr;  ///< there always is one; gets AssistantConfirme with a TChoixDocument
-
-  /// With the who page, and with the period page when one of the titles takes a period.
-  static TDemandeAssistant De(TForm& demandeur, std::vector<TTitreAssistant> titres);
-};
+#include "screens/documents/assistant.h"
 
 enum class TPageAssistant { Rapport, Qui, Periode };
 enum class TChoixQui { Eleve, Eleves, Classe, Classes };
@@ -30,10 +13,11 @@ enum class TChampAssistant { Mois, LstEleve, LstClasse };
 
 /// "Assistant d'impression": which document, for whom, for when. It knows nothing of documents: a screen
 /// gives it titles and gets the choice back, after the wizard has closed.
-class TFrmPrintWizard : public TForm {
+class TFrmPrintWizard : public TForm, public IAssistant {
  public:
   explicit TFrmPrintWizard(const TContexteEcran& contexte);
-  /// ImprimerAssistant opens it; returns when the answer has been dealt with.
+  std::optional<TChoixDocument> Demander(const TDemandeAssistant& demande) override;
+  /// ImprimerAssistant asks the same; who sent it gets AssistantConfirme with the choice.
   bool RecevoirMessage(const TMessage& message) override;
 
   // Pages. The last visible one has the finish button.

@@ -5,8 +5,6 @@
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "pupils/eleves.h"
-#include "screens/documents/frm_print_wizard.h"
-#include "screens/payments/frm_date_paiement.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +32,8 @@ QString TexteActivite(const TActivite& activite, const TActiviteEleve& inscripti
 
 }  // namespace
 
-TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte) : contexte_(contexte) {
+TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte)
+    : contexte_(contexte), imprimeur_(contexte, TitresOfferts(TListeTitres::Eleves)) {
   const int mois = DecodeDate(contexte.Controleur.Horloge().Aujourdhui()).Mois;
   const auto trouve = std::ranges::find(kMoisFacturation, mois);
   if (trouve != kMoisFacturation.end()) indiceMois_ = static_cast<int>(trouve - kMoisFacturation.begin());
@@ -53,13 +52,15 @@ bool TFrmSignaletique::RecevoirMessage(const TMessage& message) {
       PrendreEleve();
       return true;
     case TCodeMessage::Imprimer:
-      OuvrirAssistant(false, TitresDocuments());
+      courriel_ = false;
+      imprimeur_.Proposer(TitresOfferts(TListeTitres::Eleves));
       return true;
     case TCodeMessage::Courriel:
-      OuvrirAssistant(true, TitresCourriel());
+      courriel_ = true;
+      imprimeur_.Proposer(TitresCourriel());
       return true;
     case TCodeMessage::AssistantConfirme:
-      if (const auto* choix = message.En<TChoixDocument>()) Imprimer(*choix);
+      if (const auto* choix = message.En<TChoixDocument>()) imprimeur_.Imprimer(*choix);
       return true;
     default:
       return false;
@@ -157,30 +158,4 @@ void TFrmSignaletique::ModificationDemandee() {
     contexte_.Dialogues().Message(u"Veuillez sélectionner un élève"_s);
   else
     contexte_.Principal.Etat(TNiveauEtat::Alerte, u"Fiche en lecture seule : rien n'a été modifié"_s);
-}
-
-void TFrmSignaletique::OuvrirAssistant(bool courriel, std::span<const TTitreDocument> titres) {
-  courriel_ = courriel;
-  std::vector<TTitreAssistant> offerts;
-  for (const TTitreDocument& titre : titres)
-    offerts.push_back({QString::fromUtf16(titre.Titre), titre.AvecPeriode});
-  contexte_.Assistant->RecevoirMessage(
-      {TCodeMessage::ImprimerAssistant, TDemandeAssistant::De(*this, std::move(offerts))});
-}
-
-// The answer to the mail request comes the same way: its index counts in the full list too.
-void TFrmSignaletique::Imprimer(TChoixDocument choix) {
-  if (DemandeDatePaiement(choix.Indice, *Globals.Parametres)) {
-    TFrmDatePaiement date(contexte_);
-    if (contexte_.Modale.MontrerModal(date) == TResultatModal::Valide)
-      choix.DatePaiement = date.dtDatePaiement;
-  }
-  TResultat resultat;
-  {
-    const TAttente attente(contexte_.Dialogues());
-    resultat = FaireDocument(ContexteDesGlobals(), choix);
-  }
-  for (const QString& message : resultat.Messages)
-    resultat.Echec ? contexte_.Dialogues().Message(message) : contexte_.Dialogues().Information(message);
-  for (TRapport& rapport : resultat.Rapports) contexte_.Apercu.Afficher(rapport);
 }

@@ -1,8 +1,8 @@
 #pragma once
 #include <QImage>
 
-#include "documents/catalogue.h"
-#include "screens/contexte_ecran.h"
+#include "documents/periode.h"
+#include "screens/documents/imprimeur.h"
 #include "screens/pupils/fiche_eleve.h"
 #include "screens/pupils/frais_paiements.h"
 #include "screens/pupils/releve_mensuel.h"
@@ -60,10 +60,9 @@ class TFrmSignaletique : public TForm {
   void LirePhoto(const TEleve& eleve);
   void RemplirReleve(const TEleve& eleve);
   void Vider();
-  void OuvrirAssistant(bool courriel, std::span<const TTitreDocument> titres);
-  void Imprimer(TChoixDocument choix);
 
   const TContexteEcran& contexte_;
+  TImprimeur imprimeur_;
   bool avecEleve_ = false;
   TFicheEleve fiche_;
   QImage photo_;

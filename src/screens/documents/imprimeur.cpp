@@ -1,0 +1,36 @@
+#include "screens/documents/imprimeur.h"
+
+#include "screens/documents/assistant.h"
+#include "screens/payments/frm_date_paiement.h"
+
+void TImprimeur::Proposer(std::vector<TTitreOffert> titres) {
+  titres_ = std::move(titres);
+  std::vector<TTitreAssistant> offerts;
+  for (const TTitreOffert& titre : titres_)
+    offerts.push_back({QString::fromUtf16(titre.Montre->Titre), titre.Montre->AvecPeriode});
+  TDemandeAssistant demande = TDemandeAssistant::De(std::move(offerts));
+  demande.PageQui = std::ranges::any_of(titres_, [](const auto& titre) { return titre.Montre->AvecEleves; });
+  if (auto choix = contexte_.Assistant->Demander(demande)) Imprimer(std::move(*choix));
+}
+
+void TImprimeur::Imprimer(TChoixDocument choix) {
+  if (choix.Indice < 0 || choix.Indice >= std::ssize(titres_)) return;
+  const TTitreDocument& titre = *titres_[static_cast<std::size_t>(choix.Indice)].Fait;
+  if (DemandeDatePaiement(titre, *Globals.Parametres)) {
+    TFrmDatePaiement date(contexte_);
+    if (contexte_.Modale.MontrerModal(date) == TResultatModal::Valide)
+      choix.DatePaiement = date.dtDatePaiement;
+  }
+  TResultat resultat;
+  {
+    const TAttente attente(contexte_.Dialogues());
+    resultat = FaireDocument(ContexteDesGlobals(), titre, choix);
+  }
+  Montrer(std::move(resultat));
+}
+
+void TImprimeur::Montrer(TResultat resultat) {
+  for (const QString& message : resultat.Messages)
+    resultat.Echec ? contexte_.Dialogues().Message(message) : contexte_.Dialogues().Information(message);
+  for (TRapport& rapport : resultat.Rapports) contexte_.Apercu.Afficher(rapport);
+}

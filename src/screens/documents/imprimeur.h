@@ -1,0 +1,23 @@
+#pragma once
+#include "documents/catalogue.h"
+#include "screens/contexte_ecran.h"
+
+/// How a screen prints: titles to the wizard, the question of the date, the wait, what there is to say,
+/// the previews.
+class TImprimeur {
+ public:
+  /// An answer that comes before any title was proposed is about these.
+  TImprimeur(const TContexteEcran& contexte, std::vector<TTitreOffert> titres)
+      : contexte_(contexte), titres_(std::move(titres)) {}
+
+  /// The user chooses one of these titles in the wizard, and gets its document.
+  void Proposer(std::vector<TTitreOffert> titres);
+  /// The wizard's answer about the titles that were proposed last. An index of none is passed over.
+  void Imprimer(TChoixDocument choix);
+  /// What a document says, then its previews one after the other.
+  void Montrer(TResultat resultat);
+
+ private:
+  const TContexteEcran& contexte_;
+  std::vector<TTitreOffert> titres_;
+};
