@@ -36,8 +36,7 @@ TDocumentPrepare Facturer(TEcole& ecole, const TDonneesAnnee& annee, const QStri
   for (TEleve& eleve : *annee.Eleves) choix.Eleves.push_back(&eleve);
   TResultat resultat;
   etapes.Contenu.push_back(Duree([&] {
-    resultat = FaireDocument({*annee.Eleves, ecole.Parametres(), u"Garderies du soir"_s},
-                             *TrouverTitre(u"Facture"), choix);
+    resultat = FaireDocument({*annee.Eleves, ecole.Parametres()}, *TrouverTitre(u"Facture"), choix);
   }));
   const TRapport& rapport = resultat.Rapports.at(0);
   TDocumentPrepare document;

@@ -1,24 +1,17 @@
 #include "bench/ecole_bench.h"
 
-#include <QSqlError>
-#include <QSqlQuery>
 #include <random>
 
 #include "core/dates.h"
 #include "core/exceptions.h"
+#include "core/query_internal.h"
+#include "core/transaction_commune.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void Faire(QSqlQuery& requete, bool reussi) {
-  if (!reussi) throw Exception(requete.lastError().text());
-}
-
-void Executer(TDataModule1& base, const QString& sql) {
-  QSqlQuery requete(base.UniConnection1());
-  Faire(requete, requete.exec(sql));
-}
+void Executer(TDataModule1& base, const QString& sql) { TQueryInternal(base, sql).Executer(); }
 
 void RemplirTarifs(TDataModule1& base) {
   struct {
@@ -48,40 +41,35 @@ void RemplirTarifs(TDataModule1& base) {
 }
 
 void RemplirEleves(TDataModule1& base, int eleves) {
-  QSqlQuery eleve(base.UniConnection1()), inscription(base.UniConnection1());
-  Faire(eleve,
-        eleve.prepare(
-            u"INSERT INTO ELEVES (ELEVE_ID, NOM, PRENOM, MATRICULE, ADRESSE, LOCALITE, NOM_RESPONSABLE, "
-            "CODE_POSTAL, FLG_2E_ENFANT) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"_s));
-  Faire(inscription,
-        inscription.prepare(u"INSERT INTO ELEVES_CLASSES (ELEVE_CLASSE_ID, ELEVE_ID, ANNEE_SCOLAIRE, CLASSE, "
-                            "SOUS_CLASSE, CODE_IMPLANTATION) VALUES (?, ?, 2016, ?, ?, '')"_s));
+  TQueryInternal eleve(base,
+                       u"INSERT INTO ELEVES (ELEVE_ID, NOM, PRENOM, MATRICULE, ADRESSE, LOCALITE, "
+                       "NOM_RESPONSABLE, CODE_POSTAL, FLG_2E_ENFANT) VALUES (:ID, :NOM, :PRENOM, :MATRICULE, "
+                       "'rue des Tilleuls', 'Ottignies', :RESPONSABLE, 1340, :DEUXIEME)"_s);
+  TQueryInternal inscription(base,
+                             u"INSERT INTO ELEVES_CLASSES (ELEVE_CLASSE_ID, ELEVE_ID, ANNEE_SCOLAIRE, "
+                             "CLASSE, SOUS_CLASSE, CODE_IMPLANTATION) VALUES (:ID, :ID, 2016, :CLASSE, "
+                             ":SOUS_CLASSE, '')"_s);
   for (int i = 1; i <= eleves; ++i) {
-    eleve.bindValue(0, i);
-    eleve.bindValue(1, u"Famille %1"_s.arg(i * 7 % 911));
-    eleve.bindValue(2, u"Prénom %1"_s.arg(i % 97));
-    eleve.bindValue(3, u"%1-%2"_s.arg(i / 10).arg(i));
-    eleve.bindValue(4, u"rue des Tilleuls"_s);
-    eleve.bindValue(5, u"Ottignies"_s);
-    eleve.bindValue(6, u"Responsable %1"_s.arg(i));
-    eleve.bindValue(7, 1340);
-    eleve.bindValue(8, i % 3 == 0 ? QVariant(1) : QVariant());
-    Faire(eleve, eleve.exec());
-    inscription.bindValue(0, i);
-    inscription.bindValue(1, i);
-    inscription.bindValue(2, u"%1%2"_s.arg(QChar(i % 3 == 0 ? u'M' : u'P')).arg(i % 6 + 1));
-    inscription.bindValue(3, i % 2 == 0 ? u"A"_s : u"B"_s);
-    Faire(inscription, inscription.exec());
+    eleve.Parametre(u"ID"_s, i)
+        .Parametre(u"NOM"_s, u"Famille %1"_s.arg(i * 7 % 911))
+        .Parametre(u"PRENOM"_s, u"Prénom %1"_s.arg(i % 97))
+        .Parametre(u"MATRICULE"_s, u"%1-%2"_s.arg(i / 10).arg(i))
+        .Parametre(u"RESPONSABLE"_s, u"Responsable %1"_s.arg(i))
+        .Parametre(u"DEUXIEME"_s, i % 3 == 0 ? TValeur(1) : TValeur())
+        .Executer();
+    inscription.Parametre(u"ID"_s, i)
+        .Parametre(u"CLASSE"_s, u"%1%2"_s.arg(QChar(i % 3 == 0 ? u'M' : u'P')).arg(i % 6 + 1))
+        .Parametre(u"SOUS_CLASSE"_s, i % 2 == 0 ? u"A"_s : u"B"_s)
+        .Executer();
   }
 }
 
 void RemplirPresences(TDataModule1& base, int eleves, int presences) {
   std::mt19937 tirage(2016);
-  QSqlQuery presence(base.UniConnection1());
-  Faire(presence,
-        presence.prepare(
-            u"INSERT INTO PRESENCES (PRESENCE_ID, ELEVE_ID, TYPE_PRESENCE, DATE_RELEVE, HEURE_ENTREE, "
-            "HEURE_SORTIE, CODE_IMPLANTATION) VALUES (?, ?, ?, ?, ?, ?, 'S1')"_s));
+  TQueryInternal presence(base,
+                          u"INSERT INTO PRESENCES (PRESENCE_ID, ELEVE_ID, TYPE_PRESENCE, DATE_RELEVE, "
+                          "HEURE_ENTREE, HEURE_SORTIE, CODE_IMPLANTATION) VALUES (:ID, :ELEVE, :TYPE, :DATE, "
+                          ":ENTREE, :SORTIE, 'S1')"_s);
   const QDate premier(2016, 9, 1);
   for (int i = 1; i <= presences; ++i) {
     const int sorte = static_cast<int>(tirage() % 6);  // morning, midday, evening, evening, meal, study
@@ -89,30 +77,33 @@ void RemplirPresences(TDataModule1& base, int eleves, int presences) {
     const bool entree = sorte == 0 || sorte == 1 || sorte == 4;
     const int debut = sorte == 0 ? 7 * 60 : sorte == 1 || sorte == 4 ? 12 * 60 : 15 * 60 + 30;
     const QTime heure = QTime(0, 0).addSecs(60 * (debut + minute));
-    presence.bindValue(0, i);
-    presence.bindValue(1, 1 + static_cast<int>(tirage() % static_cast<unsigned>(eleves)));
-    presence.bindValue(2, sorte == 4 ? 2 : sorte == 5 ? 4 : 1);
-    presence.bindValue(3, premier.addDays(static_cast<qint64>(tirage() % 303)));
-    presence.bindValue(4, entree ? QVariant(heure) : QVariant());
-    presence.bindValue(5, entree ? QVariant() : QVariant(heure));
-    Faire(presence, presence.exec());
+    const int eleve = 1 + static_cast<int>(tirage() % static_cast<unsigned>(eleves));
+    presence.Parametre(u"ID"_s, i)
+        .Parametre(u"ELEVE"_s, eleve)
+        .Parametre(u"TYPE"_s, sorte == 4   ? 2
+                              : sorte == 5 ? 4
+                                           : 1)
+        .Parametre(u"DATE"_s, premier.addDays(static_cast<qint64>(tirage() % 303)))
+        .Parametre(u"ENTREE"_s, entree ? heure : QTime())
+        .Parametre(u"SORTIE"_s, entree ? QTime() : heure)
+        .Executer();
   }
 }
 
 void RemplirParametres(TDataModule1& base) {
-  static constexpr std::pair<int, const char*> parametres[] = {
-      {1, "École fondamentale de Brumeval"},
-      {2, "rue du Vieux Moulin 27"},
-      {3, "5537"},
-      {4, "Brumeval"},
-      {5, "082 61 00 00"},
-      {10, "Communication à recopier : [ComStructParFacture]"},
-      {11, "BE68 5390 0754 7034"},
-      {27, "2016"},
-      {102, "3,50"}};
-  for (const auto& [id, valeur] : parametres)
-    Executer(base, u"UPDATE OR INSERT INTO PARAMETRE (PARAMETRE_ID, VALEUR) VALUES (%1, '%2')"_s.arg(id).arg(
-                       QString::fromUtf8(valeur)));
+  static constexpr std::pair<TParam, const char16_t*> kParametres[] = {
+      {TParam::NomEcole, u"École fondamentale de Brumeval"},
+      {TParam::RueEcole, u"rue du Vieux Moulin 27"},
+      {TParam::CodePostalEcole, u"5537"},
+      {TParam::LocaliteEcole, u"Brumeval"},
+      {TParam::TelephoneEcole, u"082 61 00 00"},
+      {TParam::CommunicationFacture, u"Communication à recopier : [ComStructParFacture]"},
+      {TParam::CompteBanque, u"BE68 5390 0754 7034"},
+      {TParam::AnneeScolaire, u"2016"},
+      {TParam::RepasPrimaire, u"3,50"}};
+  TParametres parametres(base);
+  for (const auto& [param, valeur] : kParametres) parametres.SetParametre(param, QString::fromUtf16(valeur));
+  parametres.Save();
 }
 
 /// Fees of October, and who owes them: every second pupil those of the second kind.
@@ -144,14 +135,13 @@ void RemplirFrais(TDataModule1& base) {
 }
 
 void Remplir(TDataModule1& base, int eleves, int presences) {
-  QSqlDatabase connexion = base.UniConnection1();
-  connexion.transaction();
+  TTransactionCommune ensemble(base);
   RemplirParametres(base);
   RemplirTarifs(base);
   RemplirEleves(base, eleves);
   RemplirFrais(base);
   RemplirPresences(base, eleves, presences);
-  if (!connexion.commit()) throw Exception(connexion.lastError().text());
+  ensemble.Valider();
 }
 
 }  // namespace

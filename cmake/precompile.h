@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QHash>
 #include <QImage>
-#include <QSqlQuery>
 #include <QString>
 #include <QStringList>
 #include <QVariant>

@@ -31,6 +31,7 @@ TControleur::TControleur(TDataModule1& base, TReglagesPoste& reglages, IFenetreP
     : base_(base), reglages_(reglages), fenetre_(fenetre), horloge_(horloge) {}
 
 void TControleur::FormShow() {
+  Globals.Montrer(nullptr);  // it follows the settings
   Globals.Parametres.reset();
   Globals.ModeHorsLigne = EstUn(reglages_, u"Offline"_s);
   Globals.DatePhoto = reglages_.Lire(TRacine::Utilisateur, u"Photo"_s);
@@ -74,7 +75,6 @@ void TControleur::ChargerParametres() {
   Globals.Parametres = std::move(parametres);
   Globals.AnneeScolaire = annee;
   Globals.DossierTemporaire = ::DossierTemporaire();
-  Globals.CodeEtablissement = Globals.Parametres->GetParametre(TParam::CodeEtablissement);
 }
 
 // The value of an inner attempt is not passed on: only giving up at the first failure ends the
@@ -113,13 +113,6 @@ void TControleur::ChargerAnnee(int annee) {
   auto groupes = std::make_unique<TGroupesFrais>(base_);
   Globals.Montrer(std::move(donnees));
   Globals.GroupesFrais = std::move(groupes);
-  Globals.TypeActivitesExt = LireTypeActivitesExt(Globals.Parametres->GetParametre(TParam::ActivitesExt));
-  Globals.DateDebutActivitesExt = PeriodeActivitesExt(Globals.TypeActivitesExt).Premier;
-  Globals.TitreActivitesExt =
-      Globals.TypeActivitesExt == TTypeActivitesExt::Aucune ? QString() : u"Activités extérieures"_s;
-  Globals.TitreGarderieSoir = Globals.Parametres->EstVrai(TParam::TitreSoirEtudes)
-                                  ? u"Garderies du soir / études"_s
-                                  : u"Garderies du soir"_s;
   fenetre_.IntitulerAnnee(u"Année scolaire %1 - %2"_s.arg(annee).arg(annee + 1));
   fenetre_.ConstruireArbre();
   fenetre_.CocherAnnee(annee);

@@ -4,34 +4,15 @@
 #include "core/parametres.h"
 #include "services/tarifs_garderies.h"
 
-namespace {
-
-struct TPrixRepas {
-  TParam parametre;
-  std::size_t categorie;
-};
-
-constexpr TPrixRepas kPrixRepas[] = {
-    {TParam::RepasMaternel, 1}, {TParam::RepasPrimaire, 2}, {TParam::RepasPersonnel, 3}};
-
-void LireParametresPresences(const TParametres& parametres, TPresences& presences) {
-  for (const TPrixRepas& prix : kPrixRepas)
-    presences.PrixRepas[prix.categorie] = parametres.Montant(prix.parametre);
-  presences.ModeDeduction = static_cast<TModeDeduction>(parametres.Entier(TParam::ModeDeduction));
-  presences.GarderieUnique = parametres.EstVrai(TParam::GarderieUnique);
-}
-
-}  // namespace
-
 std::unique_ptr<TDonneesAnnee> ChargerDonneesAnnee(TDataModule1& base, int annee,
                                                    const TParametres& parametres, TTarifsGarderies& tarifs) {
+  LireReglesEcole(parametres);  // a setting that is not the number it must be opens no year
   auto donnees = std::make_unique<TDonneesAnnee>();
   donnees->Eleves = std::make_unique<TEleves>(base, annee);
   TEleves& eleves = *donnees->Eleves;
   eleves.SynchroniserImplantations();
 
-  donnees->Presences =
-      std::make_unique<TPresences>(base, BornesAnnee(annee), parametres.EstVrai(TParam::DeductionEtude));
+  donnees->Presences = std::make_unique<TPresences>(base, BornesAnnee(annee), parametres.Regles());
   donnees->PresencesParticulieres = std::make_unique<TPresencesParticulieres>(base, annee);
   donnees->Paiements = std::make_unique<TPaiements>(base, annee);
   donnees->ListeFrais = std::make_unique<TListeFrais>(base, annee);
@@ -42,10 +23,8 @@ std::unique_ptr<TDonneesAnnee> ChargerDonneesAnnee(TDataModule1& base, int annee
 
   TPresences& presences = *donnees->Presences;
   presences.Tarifs = &tarifs;
-  eleves.ModeProvision = parametres.EstVrai(TParam::ModeProvision);
-  LireParametresPresences(parametres, presences);
+  eleves.Regles = &parametres.Regles();
   eleves.Presences = &presences;
   eleves.ActivitesEleves = donnees->ActivitesEleves.get();
-  eleves.TypeActivitesExt = LireTypeActivitesExt(parametres.GetParametre(TParam::ActivitesExt));
   return donnees;
 }

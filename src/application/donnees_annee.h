@@ -22,7 +22,8 @@ struct TDonneesAnnee {
   std::unique_ptr<TEleves> Eleves;  // last: it goes first
 };
 
-/// Loads one school year and ties its collections together. `tarifs` must outlive the result.
+/// Loads one school year and ties its collections together. `parametres` and `tarifs` must outlive the
+/// result: a setting that is written shows in the next amount.
 /// Raises EDistributor, or EConvertError for a parameter that is not the number it must be.
 std::unique_ptr<TDonneesAnnee> ChargerDonneesAnnee(TDataModule1& base, int annee,
                                                    const TParametres& parametres, TTarifsGarderies& tarifs);

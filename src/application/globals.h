@@ -27,11 +27,6 @@ struct TGlobals {
   TClasse* ClasseCourante = nullptr;  ///< the pupil's class when a pupil is selected
 
   QString DossierTemporaire;
-  QString TitreActivitesExt;
-  TTypeActivitesExt TypeActivitesExt{};
-  TDateTime DateDebutActivitesExt = 0.0;
-  QString TitreGarderieSoir;
-  QString CodeEtablissement;  ///< "" imports the pupils of every site
   bool ModeProfesseur = false;
   bool ModeHorsLigne = false;
   bool ModeTablette = false;

@@ -1,11 +1,5 @@
 #include "attendance/activites_ext.h"
 
-TTypeActivitesExt LireTypeActivitesExt(const QString& parametre) {
-  if (parametre == u"1") return TTypeActivitesExt::DepuisSeptembre;
-  if (parametre == u"2") return TTypeActivitesExt::DepuisOctobre;
-  return TTypeActivitesExt::Aucune;
-}
-
 TPeriode PeriodeActivitesExt(TTypeActivitesExt type) {
   switch (type) {
     case TTypeActivitesExt::DepuisSeptembre:

@@ -53,7 +53,7 @@ Currency TPresences::CoutGarderieMidi(int eleve, const TPeriode& periode, bool d
   return Facturer(
       eleve, periode, TTypePresence::Garderie, famille, lignes, [&](const TPresence& p, TTypeScan scan) {
         Currency montant = Tarifs->CoutPresence(famille, scan, deuxiemeEnfant, p.HeureSortie, p.HeureEntree);
-        if (GarderieUnique && montant > Currency() &&
+        if (Regles.GarderieUnique && montant > Currency() &&
             ExisteAutrePresence(eleve, nullptr, TTypeFamille::Matin, p.DateReleve))
           montant -= kUnEuro;
         return montant;
@@ -69,7 +69,7 @@ Currency TPresences::CoutGarderieSoir(int eleve, const TPeriode& periode, bool d
                     Currency montant = Tarifs->CoutPresence(accueil.Famille, scan, deuxiemeEnfant,
                                                             p.HeureSortie, EntreeSoir(p));
                     montant = DeduireActivite(montant, p, scan, accueil);
-                    if (GarderieUnique && montant > Currency() &&
+                    if (Regles.GarderieUnique && montant > Currency() &&
                         (ExisteAutrePresence(eleve, nullptr, TTypeFamille::Matin, p.DateReleve) ||
                          ExisteAutrePresence(eleve, nullptr, TTypeFamille::Midi, p.DateReleve)))
                       montant -= kUnEuro;
@@ -81,15 +81,16 @@ Currency TPresences::CoutGarderieMercredi(int eleve, const TPeriode& periode, bo
                                           TTypeActivitesExt activitesExt, const TActivitesEleves* activites,
                                           TLignesService& lignes) const {
   const TAccueil accueil{TTypeFamille::Mercredi, deuxiemeEnfant, activitesExt, activites};
-  return Facturer(eleve, periode, TTypePresence::Garderie, accueil.Famille, lignes,
-                  [&](const TPresence& p, TTypeScan scan) {
-                    Currency montant = Tarifs->CoutPresence(accueil.Famille, scan, deuxiemeEnfant,
-                                                            p.HeureSortie, p.HeureEntree);
-                    montant = DeduireActivite(montant, p, scan, accueil);
-                    if (GarderieUnique && montant > Currency() && ScanMatinAvantDix(eleve, p.DateReleve))
-                      montant -= kUnEuro;
-                    return montant;
-                  });
+  return Facturer(
+      eleve, periode, TTypePresence::Garderie, accueil.Famille, lignes,
+      [&](const TPresence& p, TTypeScan scan) {
+        Currency montant =
+            Tarifs->CoutPresence(accueil.Famille, scan, deuxiemeEnfant, p.HeureSortie, p.HeureEntree);
+        montant = DeduireActivite(montant, p, scan, accueil);
+        if (Regles.GarderieUnique && montant > Currency() && ScanMatinAvantDix(eleve, p.DateReleve))
+          montant -= kUnEuro;
+        return montant;
+      });
 }
 
 Currency TPresences::CoutEtude(int eleve, const TPeriode& periode, bool deuxiemeEnfant,
@@ -104,7 +105,7 @@ Currency TPresences::CoutEtude(int eleve, const TPeriode& periode, bool deuxieme
 /// The entry from which an evening is priced: one minute after the end of the study, when its time
 /// is not to be paid twice.
 TDateTime TPresences::EntreeSoir(const TPresence& presence) const {
-  if (!DeductionEtude) return presence.HeureEntree;
+  if (!Regles.DeductionEtude) return presence.HeureEntree;
   const auto etude = HeureEtude(presence.EleveId, presence.DateReleve);
   if (!etude) return presence.HeureEntree;
   return (Tarifs->FinCreneau(TTypeFamille::Etude, *etude) * 1440.0 + 1.0) / 1440.0;
@@ -123,7 +124,7 @@ Currency TPresences::DeduireActivite(Currency montant, const TPresence& presence
   }
   const TActiviteEnCours enCours = accueil.Activites->ActiviteEnCours(presence.EleveId, date);
   if (enCours.Inscription == nullptr) return montant;
-  switch (ModeDeduction) {
+  switch (Regles.ModeDeduction) {
     case TModeDeduction::UnEuro:
       return montant > kUnEuro ? montant - kUnEuro : montant;
     case TModeDeduction::DeuxEuroQuarante:
@@ -145,7 +146,7 @@ Currency TPresences::SelonSortie(Currency montant, const TPresence& presence, TT
   const TDateTime entree = presence.HeureEntree, sortie = presence.HeureSortie;
   if (sortie >= fin) {
     const double minutes = MinutesEntre(debut, fin);
-    if (ModeDeduction == TModeDeduction::QuartsHeure)
+    if (Regles.ModeDeduction == TModeDeduction::QuartsHeure)
       return montant - Currency::Brut(2000) * ArrondiSuperieur(minutes / 15.0);
     const Currency parMinute = Currency::Brut(accueil.DeuxiemeEnfant ? 125 : 250);
     return montant - parMinute * static_cast<std::int64_t>(std::nearbyint(minutes));

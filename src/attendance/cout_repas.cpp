@@ -13,7 +13,7 @@ Currency TPresences::CoutRepas(int eleve, const TPeriode& periode, int categorie
                                TLignesService& lignes) const {
   lignes.clear();
   const Currency prix =
-      categorie >= 1 && categorie <= 3 ? PrixRepas[static_cast<std::size_t>(categorie)] : Currency();
+      categorie >= 1 && categorie <= 3 ? Regles.PrixRepas[static_cast<std::size_t>(categorie)] : Currency();
   Currency total;
   TDatesVues vues;
   for (TPresence* p : PresencesEleve(eleve, periode)) {

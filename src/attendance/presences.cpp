@@ -8,8 +8,20 @@
 
 using namespace Qt::StringLiterals;
 
-TPresences::TPresences(TDataModule1& base, const TPeriode& periode, bool deductionEtude)
-    : TCollection(base), DeductionEtude(deductionEtude), periode_(periode) {
+namespace {
+
+using namespace Colonne;
+
+constexpr TColonne<TPresence> kColonnes[] = {
+    Entier<&TPresence::EleveId>("ELEVE_ID"),        Entier<&TPresence::TypePresence>("TYPE_PRESENCE"),
+    Date<&TPresence::DateReleve>("DATE_RELEVE"),    Heure<&TPresence::HeureEntree>("HEURE_ENTREE"),
+    Heure<&TPresence::HeureSortie>("HEURE_SORTIE"), Texte<&TPresence::CodeImplantation>("CODE_IMPLANTATION"),
+};
+
+}  // namespace
+
+TPresences::TPresences(TDataModule1& base, const TPeriode& periode, const TReglesEcole& regles)
+    : TCollection(base), Regles(regles), periode_(periode) {
   Charger();
 }
 
@@ -20,26 +32,12 @@ void TPresences::DefineQuery() {
   TableName = u"PRESENCES"_s;
   KeyField = "PRESENCE_ID";
   CounterName = u"PRESENCES"_s;
+  Colonnes = kColonnes;
 }
 
-void TPresences::LoadItems(TCurseur& ligne) {
-  TPresence& presence = Nouveau(ligne);
-  presence.EleveId = ligne.Entier("ELEVE_ID");
-  presence.TypePresence = static_cast<TTypePresence>(ligne.Entier("TYPE_PRESENCE"));
-  presence.DateReleve = ligne.Date("DATE_RELEVE");
-  presence.HeureEntree = ligne.Heure("HEURE_ENTREE");
-  presence.HeureSortie = ligne.Heure("HEURE_SORTIE");
-  const QString site = ligne.Texte("CODE_IMPLANTATION");
-  if (!site.isEmpty()) presence.CodeImplantation = *sites_.insert(site);
-}
-
-void TPresences::StoreRecord(const TPresence& presence, TLigne& ligne) const {
-  ligne.Ecrire("ELEVE_ID", presence.EleveId);
-  ligne.Ecrire("TYPE_PRESENCE", static_cast<int>(presence.TypePresence));
-  ligne.EcrireDate("DATE_RELEVE", presence.DateReleve);
-  ligne.EcrireHeure("HEURE_ENTREE", presence.HeureEntree);
-  ligne.EcrireHeure("HEURE_SORTIE", presence.HeureSortie);
-  ligne.Ecrire("CODE_IMPLANTATION", presence.CodeImplantation);
+void TPresences::Completer(TPresence& presence) {
+  QString& site = presence.CodeImplantation;
+  if (!site.isEmpty()) site = *sites_.insert(site);
 }
 
 // The index is made at the first look-up, so that opening a year does not pay for it.

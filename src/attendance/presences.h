@@ -8,19 +8,12 @@
 #include "attendance/ligne_service.h"
 #include "attendance/parametres_service.h"
 #include "core/distributor.h"
+#include "core/regles_ecole.h"
 
 class TActivitesEleves;
 class TPresencesParticulieres;
 class TTarifsGarderies;
 struct TActivite;
-
-/// What an activity takes off the day-care that it is held in, by parameter 105.
-enum class TModeDeduction : int {
-  Minutes = 0,           ///< 0.025 a minute, half of it for a second child
-  UnEuro = 1,            ///< 1.00 off what is above 1.00
-  DeuxEuroQuarante = 2,  ///< 2.40 off what is above 1.00
-  QuartsHeure = 3        ///< 0.20 a started quarter of an hour, for every child
-};
 
 /// What the Wednesdays of a month come to.
 struct TMercrediMois {
@@ -37,15 +30,11 @@ struct TMercrediMois {
 /// anything, and every record is of family Indefini.
 class TPresences : public TCollection<TPresence> {
  public:
-  /// `deductionEtude`: the evening day-care starts after the study (parameter 109).
-  TPresences(TDataModule1& base, const TPeriode& periode, bool deductionEtude);
+  /// `regles` must outlive the collection.
+  TPresences(TDataModule1& base, const TPeriode& periode, const TReglesEcole& regles);
 
-  // Set when a year is opened.
-  const TTarifsGarderies* Tarifs = nullptr;  ///< not owned
-  bool DeductionEtude;
-  bool GarderieUnique = false;          ///< day flat rate (parameter 30)
-  std::array<Currency, 4> PrixRepas{};  ///< of categories 1 to 3 (101, 102, 106); 0 is of none
-  TModeDeduction ModeDeduction{};       ///< parameter 105; an unknown number takes nothing off
+  const TReglesEcole& Regles;                ///< what prices follow
+  const TTarifsGarderies* Tarifs = nullptr;  ///< not owned; set when a year is opened
 
   /// Marks a record modified; to be called after its fields have changed.
   TPresence& Add(TPresence& presence) { return TCollection::Add(presence); }
@@ -106,8 +95,7 @@ class TPresences : public TCollection<TPresence> {
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TPresence& presence, TLigne& ligne) const override;
+  void Completer(TPresence& presence) override;
   void Indexer(TPresence& presence) override;
   void Desindexer(TPresence& presence) override;
 

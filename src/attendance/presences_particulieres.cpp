@@ -2,6 +2,19 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+using namespace Colonne;
+
+constexpr TColonne<TPresenceParticuliere> kColonnes[] = {
+    Entier<&TPresenceParticuliere::EleveId>("ELEVE_ID"),
+    Entier<&TPresenceParticuliere::TypePresence>("TYPE_PRESENCE"),
+    Entier<&TPresenceParticuliere::Mois>("MOIS"),
+    Entier<&TPresenceParticuliere::Annee>("ANNEE"),
+};
+
+}  // namespace
+
 TPresencesParticulieres::TPresencesParticulieres(TDataModule1& base, int annee)
     : TCollection(base), annee_(annee) {
   Charger();
@@ -14,21 +27,7 @@ void TPresencesParticulieres::DefineQuery() {
   TableName = u"PRESENCES_PARTICULIERES"_s;
   KeyField = "PRESENCEPARTICULIERE_ID";
   CounterName = u"PRESENCES_PARTICULIERES"_s;
-}
-
-void TPresencesParticulieres::LoadItems(TCurseur& ligne) {
-  TPresenceParticuliere& marque = Nouveau(ligne);
-  marque.EleveId = ligne.Entier("ELEVE_ID");
-  marque.TypePresence = static_cast<TTypeMarque>(ligne.Entier("TYPE_PRESENCE"));
-  marque.Mois = ligne.Entier("MOIS");
-  marque.Annee = ligne.Entier("ANNEE");
-}
-
-void TPresencesParticulieres::StoreRecord(const TPresenceParticuliere& marque, TLigne& ligne) const {
-  ligne.Ecrire("ELEVE_ID", marque.EleveId);
-  ligne.Ecrire("TYPE_PRESENCE", static_cast<int>(marque.TypePresence));
-  ligne.Ecrire("MOIS", marque.Mois);
-  ligne.Ecrire("ANNEE", marque.Annee);
+  Colonnes = kColonnes;
 }
 
 void TPresencesParticulieres::AjouteMarque(std::unique_ptr<TPresenceParticuliere> marque) {

@@ -41,8 +41,6 @@ class TPresencesParticulieres : public TCollection<TPresenceParticuliere> {
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TPresenceParticuliere& marque, TLigne& ligne) const override;
   void Indexer(TPresenceParticuliere& m) override { parEleve_.Suivre(m, m.EleveId); }
   void Desindexer(TPresenceParticuliere& m) override { parEleve_.Oublier(m); }
 

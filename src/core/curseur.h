@@ -1,11 +1,9 @@
 #pragma once
-#include <QByteArray>
-#include <QString>
 #include <memory>
 #include <vector>
 
-#include "core/currency.h"
 #include "core/dates.h"
+#include "core/valeur.h"
 
 class TDataModule1;
 
@@ -16,9 +14,9 @@ class TCurseur {
  public:
   /// Raises Exception with the database's message.
   TCurseur(TDataModule1& base, const QString& sql);
-  /// With a whole number for each "?": for what is read again and again by key. The statement stays
-  /// prepared, in a read-only transaction of the connection that keeps no snapshot either.
-  TCurseur(TDataModule1& base, const QString& sql, const std::vector<int>& cles);
+  /// With a value for each "?": for what is read again and again by key. The statement stays prepared, in
+  /// a read-only transaction of the connection that keeps no snapshot either.
+  TCurseur(TDataModule1& base, const QString& sql, const std::vector<TValeur>& valeurs);
   ~TCurseur();
   TCurseur(const TCurseur&) = delete;
   TCurseur& operator=(const TCurseur&) = delete;

@@ -2,16 +2,11 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSqlDriver>
-#include <QSqlError>
-#include <QSqlQuery>
-#include <atomic>
 #include <csignal>
 
 #include "core/exceptions.h"
 #include "core/firebird.h"
 #include "core/firebird_interne.h"
-#include "core/query_internal.h"
 #include "core/schema.h"
 #include "core/schema_script.h"
 
@@ -67,30 +62,21 @@ const TSignaux& SignauxDuProgramme() {
 
 TDataModule1::TDataModule1(IDialogues& dialogues, TReglagesPoste& reglages)
     : dialogues_(dialogues), reglages_(reglages) {
-  static std::atomic<int> numero{0};
-  connexion_ = u"UniConnection%1"_s.arg(++numero);
   PreparerVerrous();
   SignauxDuProgramme();
 }
 
 TDataModule1::~TDataModule1() { Deconnecter(); }
 
-QSqlDatabase TDataModule1::UniConnection1() const { return QSqlDatabase::database(connexion_, false); }
-
-QVariant TDataModule1::Attache() const {
-  return EstConnecte() ? UniConnection1().driver()->handle() : QVariant();
-}
-
-bool TDataModule1::EstConnecte() const {
-  return QSqlDatabase::contains(connexion_) && UniConnection1().isOpen();
+Firebird::TAttache& TDataModule1::Attache() const {
+  if (!uniConnection1_) throw Exception(u"La connexion à la base de données n'est pas ouverte."_s);
+  return *uniConnection1_;
 }
 
 void TDataModule1::Deconnecter() {
-  if (!QSqlDatabase::contains(connexion_)) return;
   compteurs_.reset();
   OublierLectures();
-  UniConnection1().close();
-  QSqlDatabase::removeDatabase(connexion_);
+  uniConnection1_.reset();
 }
 
 void TDataModule1::ReadServerName(TRacine racine) { ServerName = reglages_.Lire(racine, kServeur); }
@@ -176,31 +162,20 @@ void TDataModule1::CreerFichier(const QString& chemin) {
 }
 
 void TDataModule1::Ouvrir(const QString& hote, const QString& base) {
-  QSqlDatabase connexion = QSqlDatabase::addDatabase(u"QIBASE"_s, connexion_);
-  if (!connexion.isValid())
-    throw Exception(u"Le pilote QIBASE de Qt n'est pas installé sur cet ordinateur."_s);
-  connexion.setHostName(hote);
-  connexion.setDatabaseName(base);
-  connexion.setUserName(kUtilisateur);
-  connexion.setPassword(kMotDePasse);
-  connexion.setConnectOptions(u"ISC_DPB_LC_CTYPE=UTF8"_s);
-  const bool ouverte = connexion.open();
-  SignauxDuProgramme().Rendre();
-  if (ouverte) return;
-  const QString texte = connexion.lastError().text();
-  connexion = QSqlDatabase();
-  Deconnecter();
-  throw Exception(MessageBaseDeDonnees(texte, hote.isEmpty() ? base : QString()));
+  struct TRendreSignaux {
+    ~TRendreSignaux() { SignauxDuProgramme().Rendre(); }
+  } const ensuite;
+  uniConnection1_ = std::make_unique<Firebird::TAttache>(hote, base, kUtilisateur, kMotDePasse);
 }
 
 std::shared_ptr<Firebird::TLectures> TDataModule1::Lectures() {
-  if (!lectures_) lectures_ = std::make_shared<Firebird::TLectures>(Firebird::Attache(Attache()));
+  if (!lectures_) lectures_ = std::make_shared<Firebird::TLectures>(Attache().Poignee());
   return lectures_;
 }
 
 int TDataModule1::GetNextId(const QString& counterName) {
   try {
-    if (!compteurs_) compteurs_ = std::make_unique<Firebird::TCompteurs>(Attache());
+    if (!compteurs_) compteurs_ = std::make_unique<Firebird::TCompteurs>(Attache().Poignee());
     const int cle = compteurs_->ProchaineCle(counterName);
     if (cle == -1) dialogues_.Message(u"Le compteur de table "_s + counterName + u" n'existe pas !"_s);
     return cle;
@@ -213,12 +188,21 @@ int TDataModule1::GetNextId(const QString& counterName) {
 
 int NextId(TDataModule1& base, const QString& counterName) { return base.GetNextId(counterName); }
 
+namespace {
+
+/// Most failures say that the statement has been run before.
+void ExecuterOuPasser(Firebird::TAttache& attache, const QString& instruction) {
+  try {
+    attache.Executer(*attache.Preparer(instruction.toUtf8()));
+  } catch (const Exception&) {
+  }
+}
+
+}  // namespace
+
 void TDataModule1::RunScript(const QString& lignes) {
   OublierLectures();
-  for (const QString& instruction : Instructions(lignes)) {
-    QSqlQuery requete(UniConnection1());
-    requete.exec(instruction);  // most failures say that it has been run before
-  }
+  for (const QString& instruction : Instructions(lignes)) ExecuterOuPasser(Attache(), instruction);
 }
 
 void TDataModule1::MettreAJour() { RunScript(ScriptMiseAJour()); }

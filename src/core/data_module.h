@@ -1,13 +1,12 @@
 #pragma once
-#include <QSqlDatabase>
 #include <QString>
-#include <QVariant>
 #include <memory>
 
 #include "core/dialogues.h"
 #include "core/reglages_poste.h"
 
 namespace Firebird {
+class TAttache;
 class TCompteurs;
 class TLectures;
 }  // namespace Firebird
@@ -27,7 +26,7 @@ class TDataModule1 {
   /// Opens the connection to `ServerName` as it stands. Raises Exception.
   void Connecter();
   void Deconnecter();
-  bool EstConnecte() const;
+  bool EstConnecte() const { return uniConnection1_ != nullptr; }
 
   /// Copies `Serveur` of that scope into ServerName; "" when the scope has none or cannot be opened.
   void ReadServerName(TRacine racine);
@@ -56,9 +55,8 @@ class TDataModule1 {
   /// The file that ServerName stands for; "" for a server.
   QString FichierLocal() const;
 
-  QSqlDatabase UniConnection1() const;
-  /// The client library's attachment, for what Qt's driver cannot do.
-  QVariant Attache() const;
+  /// The open connection. Raises Exception when there is none.
+  Firebird::TAttache& Attache() const;
   /// The prepared selects of the open connection. Raises Exception when there is none.
   std::shared_ptr<Firebird::TLectures> Lectures();
   /// After a failure, and before tables change: the next reading prepares its statement again.
@@ -75,7 +73,7 @@ class TDataModule1 {
 
   IDialogues& dialogues_;
   TReglagesPoste& reglages_;
-  QString connexion_;
+  std::unique_ptr<Firebird::TAttache> uniConnection1_;
   std::unique_ptr<Firebird::TCompteurs> compteurs_;  // of the open connection, as are
   std::shared_ptr<Firebird::TLectures> lectures_;
 };

@@ -1,94 +1,86 @@
 #include "core/distributor.h"
 
-#include <QSqlError>
-#include <QSqlQuery>
 #include <algorithm>
+#include <climits>
+#include <unordered_map>
 
 #include "core/data_module.h"
 #include "core/data_set.h"
 #include "core/exceptions.h"
-#include "core/firebird.h"
+#include "core/firebird_interne.h"
 
 using namespace Qt::StringLiterals;
 
-/// The statements of one Save, prepared when first needed.
+namespace {
+
+/// Does it, and gives every failure the type of the collections'.
+template <class Action>
+void EnDistributor(Action action) {
+  try {
+    action();
+  } catch (const EDistributor&) {
+    throw;
+  } catch (const Exception& e) {
+    throw EDistributor(e.Message);
+  }
+}
+
+QByteArray Liste(const std::vector<const char*>& noms, const char* suite) {
+  QByteArray liste;
+  for (const char* nom : noms) liste.append(nom).append(suite);
+  liste.chop(2);
+  return liste;
+}
+
+}  // namespace
+
+/// The statements of one Save, prepared when first needed. In a row the key comes last.
 class TDistributor::TEnregistrement {
  public:
-  explicit TEnregistrement(TDistributor& collection) : c_(collection) {}
+  explicit TEnregistrement(TDistributor& collection)
+      : c_(collection), base_(c_.Base().Attache()), table_(c_.TableName.toUtf8()), cle_(c_.KeyField) {}
 
   /// True when the row was there.
   bool Supprimer(const TBaseObject& objet) {
-    if (!suppression_)
-      suppression_ =
-          Preparer(u"DELETE FROM " % c_.TableName % u" WHERE " % QString::fromLatin1(c_.KeyField) % u" = ?");
-    suppression_->bindValue(0, objet.Id);
-    return Executer(*suppression_) > 0;
+    if (!suppression_) suppression_ = base_.Preparer("DELETE FROM " + table_ + " WHERE " + cle_ + " = ?");
+    return base_.Executer(*suppression_, {objet.Id}) > 0;
   }
 
   /// False when the row has disappeared.
   bool Modifier(const TBaseObject& objet) {
     Remplir(objet);
-    if (!modification_ || colonnesModification_ != ligne_.Colonnes()) {
-      QString sql = u"UPDATE " % c_.TableName % u" SET ";
-      for (const QByteArray& colonne : ligne_.Colonnes()) sql += QString::fromLatin1(colonne) % u" = ?, ";
-      sql.chop(2);
-      modification_ = Preparer(sql % u" WHERE " % QString::fromLatin1(c_.KeyField) % u" = ?");
-      colonnesModification_ = ligne_.Colonnes();
+    if (!modification_) {
+      std::vector<const char*> champs = ligne_.Colonnes();
+      champs.pop_back();
+      modification_ =
+          base_.Preparer("UPDATE " + table_ + " SET " + Liste(champs, " = ?, ") + " WHERE " + cle_ + " = ?");
     }
-    const int suite = Lier(*modification_, 0);
-    modification_->bindValue(suite, objet.Id);
-    return Executer(*modification_) > 0;
+    return base_.Executer(*modification_, ligne_.Valeurs()) > 0;
   }
 
   void Inserer(const TBaseObject& objet) {
     Remplir(objet);
-    if (!insertion_ || colonnesInsertion_ != ligne_.Colonnes()) {
-      QString sql = u"INSERT INTO " % c_.TableName % u" (" % QString::fromLatin1(c_.KeyField);
-      QString places = u"?"_s;
-      for (const QByteArray& colonne : ligne_.Colonnes()) {
-        sql += u", " % QString::fromLatin1(colonne);
-        places += u", ?";
-      }
-      insertion_ = Preparer(sql % u") VALUES (" % places % u')');
-      colonnesInsertion_ = ligne_.Colonnes();
+    if (!insertion_) {
+      const std::vector<const char*> places(ligne_.Colonnes().size(), "?");
+      insertion_ = base_.Preparer("INSERT INTO " + table_ + " (" + Liste(ligne_.Colonnes(), ", ") +
+                                  ") VALUES (" + Liste(places, ", ") + ')');
     }
-    insertion_->bindValue(0, objet.Id);
-    Lier(*insertion_, 1);
-    Executer(*insertion_);
+    base_.Executer(*insertion_, ligne_.Valeurs());
   }
 
  private:
   void Remplir(const TBaseObject& objet) {
     ligne_.Vider();
     c_.StoreRecord(objet, ligne_);
-  }
-
-  std::unique_ptr<QSqlQuery> Preparer(const QString& sql) {
-    auto requete = std::make_unique<QSqlQuery>(c_.Base().UniConnection1());
-    requete->setForwardOnly(true);
-    if (!requete->prepare(sql)) Echec(*requete);
-    return requete;
-  }
-
-  /// Binds the row from this place on; the place after it.
-  int Lier(QSqlQuery& requete, int place) const {
-    for (const QVariant& valeur : ligne_.Valeurs()) requete.bindValue(place++, valeur);
-    return place;
-  }
-
-  static int Executer(QSqlQuery& requete) {
-    if (!requete.exec()) Echec(requete);
-    return requete.numRowsAffected();
-  }
-
-  [[noreturn]] static void Echec(const QSqlQuery& requete) {
-    throw EDistributor(MessageBaseDeDonnees(requete.lastError().text()));
+    for (const auto& [colonne, valeur] : c_.Communes) ligne_.Ecrire(colonne, valeur);
+    ligne_.Ecrire(c_.KeyField, objet.Id);
   }
 
   TDistributor& c_;
+  Firebird::TAttache& base_;
+  QByteArray table_, cle_;
   TLigne ligne_;
-  std::unique_ptr<QSqlQuery> suppression_, modification_, insertion_;
-  std::vector<QByteArray> colonnesModification_, colonnesInsertion_;
+  std::unique_ptr<Firebird::TInstruction> suppression_, modification_, insertion_;
 };
 
 TDistributor::~TDistributor() {
@@ -98,32 +90,18 @@ TDistributor::~TDistributor() {
 
 void TDistributor::Charger() {
   if (Source != nullptr) {
-    for (bool la = Source->Premier(); la; la = Source->Suivant()) {
-      LoadFromSource(*Source);
-      if (!Items.empty()) Entre(*Items.back());
-    }
+    for (bool la = Source->Premier(); la; la = Source->Suivant()) LoadFromSource(*Source);
     return;
   }
   DefineQuery();
-  try {
+  EnDistributor([this] {
     TCurseur ligne = Cles.empty() ? TCurseur(*base_, SelectSql) : TCurseur(*base_, SelectSql, Cles);
-    while (ligne.Suivant()) {
-      LoadItems(ligne);
-      if (!Items.empty()) Entre(*Items.back());
-    }
-  } catch (const EDistributor&) {
-    throw;
-  } catch (const Exception& e) {
-    throw EDistributor(e.Message);
-  }
+    while (ligne.Suivant()) LoadItems(ligne);
+  });
 }
 
 void TDistributor::LoadFromSource(TDataSet&) {
   throw EDistributor(u"Cette liste n'existe pas hors ligne."_s);
-}
-
-void TDistributor::LireCle(TCurseur& ligne, TBaseObject& objet) const {
-  objet.Id = ligne.Entier(KeyField.constData());
 }
 
 std::size_t TDistributor::Indice(const TBaseObject& objet) const {
@@ -132,82 +110,173 @@ std::size_t TDistributor::Indice(const TBaseObject& objet) const {
   return i != Items.end() && i->get() == &objet ? static_cast<std::size_t>(i - Items.begin()) : Items.size();
 }
 
-bool TDistributor::Contient(const TBaseObject& objet) const { return Indice(objet) < Items.size(); }
+bool TDistributor::Contains(const TBaseObject& objet) const { return Indice(objet) < Items.size(); }
 
-TBaseObject& TDistributor::Charge(std::unique_ptr<TBaseObject> objet) {
+TBaseObject& TDistributor::Inserer(std::unique_ptr<TBaseObject> objet) {
   objet->rang_ = prochainRang_++;
   Items.push_back(std::move(objet));
   return *Items.back();
 }
 
-TBaseObject& TDistributor::Ajouter(std::unique_ptr<TBaseObject> objet) {
-  TBaseObject& place = Charge(std::move(objet));
-  place.Status = TStatus::Nouveau;
-  Position = Count() - 1;
-  Entre(place);
+TBaseObject& TDistributor::Placer(std::unique_ptr<TBaseObject> objet) {
+  TBaseObject& place = Inserer(std::move(objet));
+  Completer(place);
+  Suivre(place);
   return place;
 }
 
-void TDistributor::Toucher(TBaseObject& objet) {
-  if (!Contient(objet)) return;
+void TDistributor::Suivre(TBaseObject& objet) {
+  if (clesIndexees_) parCle_.Suivre(objet, objet.Id);
+  Indexer(objet);
+}
+
+TBaseObject* TDistributor::ParCle(int cle) const {
+  if (!clesIndexees_) {
+    for (const auto& objet : Items) parCle_.Suivre(*objet, objet->Id);
+    clesIndexees_ = true;
+  }
+  return parCle_.Premier(cle);
+}
+
+TBaseObject& TDistributor::Add(std::unique_ptr<TBaseObject> objet) {
+  TBaseObject& place = Inserer(std::move(objet));
+  place.Status = TStatus::Nouveau;
+  Position = Count() - 1;
+  Suivre(place);
+  return place;
+}
+
+void TDistributor::Add(TBaseObject& objet) {
+  if (!Contains(objet)) return;
   if (objet.Status == TStatus::Inchange) objet.Status = TStatus::Modifie;
-  Entre(objet);
+  Suivre(objet);
 }
 
 std::unique_ptr<TBaseObject> TDistributor::Detacher(TBaseObject& objet) {
   const std::size_t i = Indice(objet);
   if (i >= Items.size()) return nullptr;
-  Sort(objet);
+  if (clesIndexees_) parCle_.Oublier(objet);
+  Desindexer(objet);
+  std::erase(Disparus, &objet);
   auto sorti = std::move(Items[i]);
   Items.erase(Items.begin() + static_cast<std::ptrdiff_t>(i));
-  sorti->rang_ = -1;
   return sorti;
 }
 
-std::unique_ptr<TBaseObject> TDistributor::Retirer(TBaseObject& objet) {
+std::unique_ptr<TBaseObject> TDistributor::Remove(TBaseObject& objet) {
   auto sorti = Detacher(objet);
-  if (!sorti || sorti->Id == -1) return sorti;
+  if (!sorti) return sorti;
+  if (sorti->Id == -1) {
+    sorti->rang_ = -1;
+    return sorti;
+  }
   sorti->Status = TStatus::Supprime;
-  Deleted.push_back(std::move(sorti));
+  Deleted.push_back(std::move(sorti));  // with its rank, so that it can come back in its place
   Position = -1;
   return nullptr;
 }
 
-std::unique_ptr<TBaseObject> TDistributor::Oublier(TBaseObject& objet) {
-  if (!Contient(objet)) return nullptr;
+std::unique_ptr<TBaseObject> TDistributor::Forget(TBaseObject& objet) {
+  if (!Contains(objet)) return nullptr;
   objet.Id = -1;
-  return Retirer(objet);
+  return Remove(objet);
 }
 
 bool TDistributor::Save() {
   if (base_ == nullptr) throw EDistributor(u"Une liste hors ligne ne s'enregistre pas."_s);
+  Disparus.clear();
+  EnDistributor([this] {
+    if (Enregistrer() && OrdreDuSelect) Ranger();
+  });
+  return true;
+}
+
+// True when a row was written.
+bool TDistributor::Enregistrer() {
   TEnregistrement enregistrement(*this);
-  try {
-    for (std::size_t i = Deleted.size(); i-- > 0;)
-      if (enregistrement.Supprimer(*Deleted[i]))
-        Deleted.erase(Deleted.begin() + static_cast<std::ptrdiff_t>(i));
-    const std::size_t nombre = Items.size();
-    bool sansCle = false;  // the counter has failed and the user knows: it is not asked again for each object
-    for (std::size_t i = 0; i < nombre; ++i) {
-      TBaseObject& objet = *Items[i];
-      if (objet.Status == TStatus::Modifie) {
-        if (!enregistrement.Modifier(objet)) continue;
-      } else if (objet.Status == TStatus::Nouveau) {
-        if (sansCle) continue;
-        if (CounterName != u"*") objet.Id = base_->GetNextId(CounterName);
-        sansCle = objet.Id == -1 && CounterName != u"*";
-        if (objet.Id == -1) continue;
-        enregistrement.Inserer(objet);
-        Entre(objet);  // its key is known now
-      } else {
+  bool ecrit = false;
+  for (std::size_t i = Deleted.size(); i-- > 0;)
+    if (enregistrement.Supprimer(*Deleted[i]))
+      Deleted.erase(Deleted.begin() + static_cast<std::ptrdiff_t>(i));
+  const std::size_t nombre = Items.size();
+  bool sansCle = false;  // the counter has failed and the user knows: it is not asked again for each object
+  for (std::size_t i = 0; i < nombre; ++i) {
+    TBaseObject& objet = *Items[i];
+    if (objet.Status == TStatus::Modifie) {
+      if (!enregistrement.Modifier(objet)) {
+        Disparus.push_back(&objet);
         continue;
       }
-      objet.Status = TStatus::Inchange;
+    } else if (objet.Status == TStatus::Nouveau) {
+      if (sansCle) continue;
+      if (CounterName != u"*") objet.Id = base_->GetNextId(CounterName);
+      sansCle = objet.Id == -1 && CounterName != u"*";
+      if (objet.Id == -1) continue;
+      enregistrement.Inserer(objet);
+      Suivre(objet);  // its key is known now
+    } else {
+      continue;
     }
-  } catch (const EDistributor&) {
-    throw;
-  } catch (const Exception& e) {
-    throw EDistributor(e.Message);
+    objet.Status = TStatus::Inchange;
+    ecrit = true;
   }
+  return ecrit;
+}
+
+// False when the row has disappeared.
+bool TDistributor::Relire(TBaseObject& objet) {
+  TCurseur ligne(*base_, u"SELECT * FROM " % TableName % u" WHERE " % QLatin1String(KeyField) % u" = ?",
+                 {objet.Id});
+  if (!ligne.Suivant()) return false;
+  LoadRecord(objet, ligne);
+  objet.Status = TStatus::Inchange;
+  Completer(objet);
   return true;
+}
+
+void TDistributor::Remettre() {
+  EnDistributor([this] {
+    for (std::size_t i = Items.size(); i-- > 0;) {
+      TBaseObject& objet = *Items[i];
+      if (objet.Status == TStatus::Inchange) continue;
+      if (objet.Status == TStatus::Modifie && Relire(objet))
+        Suivre(objet);
+      else
+        Detacher(objet);
+    }
+    while (!Deleted.empty()) {
+      const bool la = Relire(*Deleted.back());
+      auto objet = std::move(Deleted.back());
+      Deleted.pop_back();
+      if (la) Reprendre(std::move(objet));
+    }
+    Disparus.clear();
+    if (OrdreDuSelect) Ranger();
+  });
+}
+
+void TDistributor::Reprendre(std::unique_ptr<TBaseObject> objet) {
+  const auto place = std::lower_bound(Items.begin(), Items.end(), objet->Rang(),
+                                      [](const auto& a, int rang) { return a->Rang() < rang; });
+  TBaseObject& repris = **Items.insert(place, std::move(objet));
+  Suivre(repris);
+}
+
+// The keys in the order of the select statement; objects that have no row stay behind them.
+void TDistributor::Ranger() {
+  std::unordered_map<int, int> places;
+  TCurseur ligne(*base_, SelectSql, Cles);
+  while (ligne.Suivant()) places.emplace(ligne.Entier(KeyField), static_cast<int>(places.size()));
+  const auto place = [&](const std::unique_ptr<TBaseObject>& objet) {
+    const auto i = places.find(objet->Id);
+    return i == places.end() ? INT_MAX : i->second;
+  };
+  for (const auto& objet : Items) Desindexer(*objet);
+  std::ranges::stable_sort(Items, {}, place);
+  parCle_ = {};
+  clesIndexees_ = false;
+  for (const auto& objet : Items) {
+    objet->rang_ = prochainRang_++;
+    Indexer(*objet);
+  }
 }

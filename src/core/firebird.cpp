@@ -1,6 +1,5 @@
 #include "core/firebird.h"
 
-#include "core/exceptions.h"
 #include "core/firebird_interne.h"
 
 using namespace Qt::StringLiterals;
@@ -8,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace Firebird {
 namespace {
 
-/// An attachment of our own, beside Qt's, detached with its object.
+/// An attachment beside the program's, detached with its object.
 struct TAttacheLocale {
   isc_db_handle poignee = 0;
   ~TAttacheLocale() {
@@ -42,48 +41,6 @@ void EcrituresForcees(const QString& chemin, bool forcees) {
   isc_attach_database(statut, static_cast<short>(nom.size()), nom.constData(), &base.poignee,
                       static_cast<short>(dpb.size()), dpb.constData());
   Verifier(statut, chemin);
-}
-
-struct TCompteurs::TInterne {
-  explicit TInterne(isc_db_handle attache) : base(attache) {}
-
-  // The table is known by the place of its columns, not by their names.
-  void Preparer(TTransaction& transaction) {
-    if (ajout) return;
-    const TInstruction colonnes(base, transaction, "SELECT * FROM COUNTERS");
-    if (colonnes.Champs().size() < 2) throw Exception(u"La table COUNTERS n'a pas deux colonnes."_s);
-    const QByteArray cle = '"' + colonnes.Champs()[0].nom + '"';
-    const QByteArray valeur = '"' + colonnes.Champs()[1].nom + '"';
-    // Waiting here, and not at the update, is what lets eight workstations in without a failure.
-    verrou = std::make_unique<TInstruction>(base, transaction,
-                                            "SELECT 1 FROM COUNTERS WHERE " + cle + " = ? WITH LOCK");
-    ajout = std::make_unique<TInstruction>(base, transaction,
-                                           "UPDATE COUNTERS SET " + valeur + " = COALESCE(" + valeur +
-                                               ", 0) + 1 WHERE " + cle + " = ? RETURNING " + valeur);
-  }
-
-  isc_db_handle base;
-  std::unique_ptr<TInstruction> verrou, ajout;
-};
-
-TCompteurs::TCompteurs(const QVariant& attache) : d_(std::make_unique<TInterne>(Attache(attache))) {}
-
-TCompteurs::~TCompteurs() = default;
-
-int TCompteurs::ProchaineCle(const QString& compteur) {
-  TTransaction transaction(d_->base, true);
-  d_->Preparer(transaction);
-  const QByteArray nom = compteur.toUtf8();
-  d_->verrou->Dans(transaction);
-  d_->verrou->Executer(&nom);
-  const bool existe = d_->verrou->Suivant();
-  d_->verrou->Fermer();
-  if (!existe) return -1;
-  d_->ajout->Dans(transaction);
-  d_->ajout->ExecuterUneLigne(nom);
-  const auto resultat = static_cast<int>(Entier(d_->ajout->Champs()[0]));
-  transaction.Valider();
-  return resultat;
 }
 
 }  // namespace Firebird

@@ -1,61 +1,16 @@
-#include "core/exceptions.h"
-#include "core/firebird.h"
 #include "core/firebird_interne.h"
-
-using namespace Qt::StringLiterals;
 
 namespace Firebird {
 namespace {
 
 constexpr unsigned short kDialecte = 3;
 
-std::vector<char> Tampon(short colonnes) {
-  std::vector<char> tampon(static_cast<std::size_t>(XSQLDA_LENGTH(colonnes)));
-  auto* sqlda = reinterpret_cast<XSQLDA*>(tampon.data());
-  sqlda->version = SQLDA_VERSION1;
-  sqlda->sqln = colonnes;
-  return tampon;
-}
-
 std::size_t Taille(const XSQLVAR& v) {
   const auto longueur = static_cast<std::size_t>(v.sqllen);
   return (v.sqltype & ~1) == SQL_VARYING ? longueur + sizeof(short) : longueur;
 }
 
-/// The description of one text parameter, which must outlive the call.
-struct TParametreTexte {
-  explicit TParametreTexte(const QByteArray& texte) : tampon(Tampon(1)) {
-    auto* sqlda = reinterpret_cast<XSQLDA*>(tampon.data());
-    sqlda->sqld = 1;
-    XSQLVAR& v = sqlda->sqlvar[0];
-    v.sqltype = SQL_TEXT;
-    v.sqllen = static_cast<short>(texte.size());
-    v.sqldata = const_cast<char*>(texte.constData());
-  }
-  XSQLDA* Sqlda() { return reinterpret_cast<XSQLDA*>(tampon.data()); }
-  std::vector<char> tampon;
-};
-
 }  // namespace
-
-void Verifier(const ISC_STATUS_ARRAY statut, const QString& fichier) {
-  if (statut[0] != 1 || statut[1] == 0) return;
-  QString texte;
-  char ligne[512];
-  const ISC_STATUS* suite = statut;
-  while (fb_interpret(ligne, sizeof ligne, &suite) != 0) {
-    if (!texte.isEmpty()) texte += u'\n';
-    texte += QString::fromUtf8(ligne);
-  }
-  throw Exception(MessageBaseDeDonnees(texte, fichier));
-}
-
-isc_db_handle Attache(const QVariant& poignee) {
-  // Qt's driver hands out the handle by value, under the name of its underlying integer type.
-  if (poignee.metaType() != QMetaType::fromType<isc_db_handle>())
-    throw Exception(u"La connexion à la base de données n'est pas ouverte."_s);
-  return *static_cast<const isc_db_handle*>(poignee.constData());
-}
 
 TTransaction::TTransaction(isc_db_handle base, bool ecriture) {
   const char mode = static_cast<char>(ecriture ? isc_tpb_write : isc_tpb_read);
@@ -77,9 +32,9 @@ void TTransaction::Valider() {
 }
 
 TInstruction::TInstruction(isc_db_handle base, TTransaction& transaction, const QByteArray& sql)
-    : transaction_(&transaction), resultat_(Tampon(40)) {
+    : base_(base), transaction_(&transaction), resultat_(Tampon(40)) {
   ISC_STATUS_ARRAY statut;
-  isc_dsql_allocate_statement(statut, &base, &poignee_.valeur);
+  isc_dsql_allocate_statement(statut, &base_, &poignee_.valeur);
   Verifier(statut);
   isc_dsql_prepare(statut, transaction_->Poignee(), &poignee_.valeur, 0, sql.constData(), kDialecte,
                    Resultat());
@@ -94,7 +49,7 @@ TInstruction::TPoignee::~TPoignee() {
 
 void TInstruction::DecrireResultat() {
   if (Resultat()->sqld > Resultat()->sqln) {
-    resultat_ = Tampon(Resultat()->sqld);
+    resultat_ = Tampon(static_cast<std::size_t>(Resultat()->sqld));
     ISC_STATUS_ARRAY statut;
     isc_dsql_describe(statut, &poignee_.valeur, kDialecte, Resultat());
     Verifier(statut);
@@ -113,36 +68,18 @@ void TInstruction::DecrireResultat() {
   }
 }
 
-void TInstruction::Executer(const QByteArray* parametre) {
+void TInstruction::Executer(const TValeurs& valeurs) {
+  TLiaison liaison(base_, *transaction_, valeurs);
   ISC_STATUS_ARRAY statut;
-  if (parametre != nullptr) {
-    TParametreTexte texte(*parametre);
-    isc_dsql_execute(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, texte.Sqlda());
-  } else {
-    isc_dsql_execute(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, nullptr);
-  }
+  isc_dsql_execute(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, liaison.Sqlda());
   Verifier(statut);
 }
 
-void TInstruction::Executer(const std::vector<int>& cles) {
-  std::vector<char> tampon = Tampon(static_cast<short>(cles.size()));
-  auto* sqlda = reinterpret_cast<XSQLDA*>(tampon.data());
-  sqlda->sqld = sqlda->sqln;
-  for (std::size_t i = 0; i < cles.size(); ++i) {
-    XSQLVAR& v = sqlda->sqlvar[i];
-    v.sqltype = SQL_LONG;
-    v.sqllen = sizeof(int);
-    v.sqldata = reinterpret_cast<char*>(const_cast<int*>(&cles[i]));
-  }
+void TInstruction::ExecuterUneLigne(const TValeurs& valeurs) {
+  TLiaison liaison(base_, *transaction_, valeurs);
   ISC_STATUS_ARRAY statut;
-  isc_dsql_execute(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, sqlda);
-  Verifier(statut);
-}
-
-void TInstruction::ExecuterUneLigne(const QByteArray& parametre) {
-  TParametreTexte texte(parametre);
-  ISC_STATUS_ARRAY statut;
-  isc_dsql_execute2(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, texte.Sqlda(), Resultat());
+  isc_dsql_execute2(statut, transaction_->Poignee(), &poignee_.valeur, kDialecte, liaison.Sqlda(),
+                    Resultat());
   Verifier(statut);
 }
 
@@ -158,35 +95,22 @@ bool TInstruction::Suivant() {
   return true;
 }
 
-std::unique_ptr<TInstruction> TLectures::Prendre(const QByteArray& sql) {
-  if (auto libre = libres_.extract(sql)) return std::move(libre.mapped());
-  return std::make_unique<TInstruction>(base_, transaction_, sql);
-}
-
-void TLectures::Rendre(const QByteArray& sql, std::unique_ptr<TInstruction> instruction) {
-  instruction->Fermer();
-  libres_.insert_or_assign(sql, std::move(instruction));
-}
-
-std::int64_t EntierBrut(const TChamp& champ) {
-  if (champ.nul < 0) return 0;
-  const char* donnees = champ.donnees.data();
-  switch (champ.type) {
-    case SQL_SHORT:
-      return *reinterpret_cast<const std::int16_t*>(donnees);
-    case SQL_LONG:
-      return *reinterpret_cast<const std::int32_t*>(donnees);
-    case SQL_INT64:
-      return *reinterpret_cast<const std::int64_t*>(donnees);
-    default:
-      return 0;
+int TInstruction::RangeesEcrites() {
+  const char demande[] = {isc_info_sql_records, isc_info_end};
+  char reponse[64] = {};
+  ISC_STATUS_ARRAY statut;
+  isc_dsql_sql_info(statut, &poignee_.valeur, sizeof demande, demande, sizeof reponse, reponse);
+  Verifier(statut);
+  if (reponse[0] != isc_info_sql_records) return 0;
+  // A tag of one byte, a length of two, and in it the same for each kind of count.
+  int rangees = 0;
+  const char* place = reponse + 3;
+  while (*place != isc_info_end) {
+    const auto longueur = static_cast<short>(isc_vax_integer(place + 1, 2));
+    if (*place != isc_info_req_select_count) rangees += isc_vax_integer(place + 3, longueur);
+    place += 3 + longueur;
   }
-}
-
-std::int64_t Entier(const TChamp& champ) {
-  std::int64_t valeur = EntierBrut(champ);
-  for (short e = champ.echelle; e < 0; ++e) valeur /= 10;
-  return valeur;
+  return rangees;
 }
 
 }  // namespace Firebird

@@ -7,6 +7,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr TColonne<TParametre> kColonnes[] = {
+    Colonne::Texte<&TParametre::Valeur>("VALEUR"),
+};
+
 template <class Conversion>
 auto Convertir(const TParametres& parametres, TParam param, Conversion conversion) {
   QString valeur = parametres.GetParametre(param);
@@ -21,25 +25,26 @@ auto Convertir(const TParametres& parametres, TParam param, Conversion conversio
 
 }  // namespace
 
-TParametres::TParametres(TDataModule1& base) : TCollection(base) { Charger(); }
+TParametres::TParametres(TDataModule1& base) : TCollection(base) {
+  Charger();
+  charge_ = true;
+  RelireRegles();
+}
+
+void TParametres::RelireRegles() {
+  if (!charge_) return;
+  try {
+    regles_ = LireReglesEcole(*this);
+  } catch (const EConvertError&) {
+  }
+}
 
 void TParametres::DefineQuery() {
   SelectSql = u"SELECT * FROM PARAMETRE"_s;
   TableName = u"PARAMETRE"_s;
   KeyField = "PARAMETRE_ID";
   CounterName = u"*"_s;
-}
-
-void TParametres::LoadItems(TCurseur& ligne) { Nouveau(ligne).Valeur = ligne.Texte("VALEUR"); }
-
-void TParametres::StoreRecord(const TParametre& parametre, TLigne& ligne) const {
-  ligne.Ecrire("VALEUR", parametre.Valeur);
-}
-
-TParametre* TParametres::FindParametre(TParam param) const {
-  for (TParametre& parametre : *this)
-    if (parametre.Id == static_cast<int>(param)) return &parametre;
-  return nullptr;
+  Colonnes = kColonnes;
 }
 
 QString TParametres::GetParametre(TParam param) const {

@@ -1,6 +1,7 @@
 #pragma once
 #include "core/distributor.h"
 #include "core/param.h"
+#include "core/regles_ecole.h"
 
 /// One school-wide setting. `Id` is the setting's own number.
 struct TParametre : TBaseObject {
@@ -23,10 +24,21 @@ class TParametres : public TCollection<TParametre> {
   /// Marks the setting modified also when the value is the same.
   void SetParametre(TParam param, const QString& valeur);
   /// Null when there is no row.
-  TParametre* FindParametre(TParam param) const;
+  TParametre* FindParametre(TParam param) const { return ParCle(static_cast<int>(param)); }
+
+  /// What the settings say of amounts and documents. Always the same object: whoever was given it sees at
+  /// the next amount what has been written since. A text that does not convert leaves the rules as they
+  /// were; `LireReglesEcole` says so.
+  const TReglesEcole& Regles() const { return regles_; }
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TParametre& parametre, TLigne& ligne) const override;
+  void Indexer(TParametre&) override { RelireRegles(); }
+  void Desindexer(TParametre&) override { RelireRegles(); }
+
+ private:
+  void RelireRegles();
+
+  TReglesEcole regles_;
+  bool charge_ = false;
 };

@@ -2,9 +2,7 @@
 
 #include "application/globals.h"
 
-TContexteDocument ContexteDesGlobals() {
-  return {*Globals.Eleves, *Globals.Parametres, Globals.TitreGarderieSoir};
-}
+TContexteDocument ContexteDesGlobals() { return {*Globals.Eleves, *Globals.Parametres}; }
 
 TElevesChoisis SansRadies(const TElevesChoisis& eleves) {
   TElevesChoisis gardes = eleves;

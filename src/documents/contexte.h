@@ -13,7 +13,6 @@ class TParametres;
 struct TContexteDocument {
   const TEleves& Eleves;  ///< of the year on display, with the collections that their accounts read
   const TParametres& Parametres;
-  QString TitreGarderieSoir;          ///< how the evening service is called
   TEtiquettes* Etiquettes = nullptr;  ///< of the screen that prints; null: there is no printer of labels
 };
 

@@ -1,5 +1,7 @@
 #include "documents/libelles_services.h"
 
+#include "core/parametres.h"
+
 using namespace Qt::StringLiterals;
 
 QString LibelleFacture(TService service, const TContexteDocument& contexte) {
@@ -9,7 +11,7 @@ QString LibelleFacture(TService service, const TContexteDocument& contexte) {
     case TService::Midi:
       return u"Garderies du midi"_s;
     case TService::Soir:
-      return contexte.TitreGarderieSoir;
+      return contexte.Parametres.Regles().TitreGarderieSoir();
     case TService::Mercredi:
       return u"Garderies du mercredi"_s;
     case TService::Etude:

@@ -19,6 +19,14 @@ constexpr TRegle kRegles[] = {
     {5, true, true},  {6, true, false},  {kPaiementServices, true, false},
 };
 
+using namespace Colonne;
+
+constexpr TColonne<TPaiement> kColonnes[] = {
+    Entier<&TPaiement::EleveId>("ELEVE_ID"), Entier<&TPaiement::TypePaiement>("TYPE_PAIEMENT"),
+    Entier<&TPaiement::Mois>("MOIS"),        Entier<&TPaiement::Annee>("ANNEE"),
+    Montant<&TPaiement::Montant>("MONTANT"),
+};
+
 }  // namespace
 
 TPaiements::TPaiements(TDataModule1& base, int annee) : TCollection(base), AnneeScolaire(annee) { Charger(); }
@@ -28,24 +36,8 @@ void TPaiements::DefineQuery() {
   TableName = u"PAIEMENTS"_s;
   KeyField = "PAIEMENT_ID";
   CounterName = u"PAIEMENTS"_s;
-}
-
-void TPaiements::LoadItems(TCurseur& ligne) {
-  TPaiement& paiement = Nouveau(ligne);
-  paiement.EleveId = ligne.Entier("ELEVE_ID");
-  paiement.TypePaiement = ligne.Entier("TYPE_PAIEMENT");
-  paiement.Mois = ligne.Entier("MOIS");
-  paiement.Annee = ligne.Entier("ANNEE");
-  paiement.Montant = ligne.Montant("MONTANT");
-}
-
-void TPaiements::StoreRecord(const TPaiement& paiement, TLigne& ligne) const {
-  ligne.Ecrire("ELEVE_ID", paiement.EleveId);
-  ligne.Ecrire("TYPE_PAIEMENT", paiement.TypePaiement);
-  ligne.Ecrire("MOIS", paiement.Mois);
-  ligne.Ecrire("ANNEE", paiement.Annee);
-  ligne.Ecrire("MONTANT", paiement.Montant);
-  ligne.Ecrire("ANNEE_SCOLAIRE", AnneeScolaire);
+  Colonnes = kColonnes;
+  Communes = {{"ANNEE_SCOLAIRE", AnneeScolaire}};
 }
 
 TPaiement* TPaiements::AjoutePaiement(std::unique_ptr<TPaiement> paiement) {

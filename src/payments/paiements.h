@@ -39,8 +39,6 @@ class TPaiements : public TCollection<TPaiement> {
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TPaiement& paiement, TLigne& ligne) const override;
   void Indexer(TPaiement& paiement) override { parEleve_.Suivre(paiement, paiement.EleveId); }
   void Desindexer(TPaiement& paiement) override { parEleve_.Oublier(paiement); }
 

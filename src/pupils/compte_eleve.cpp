@@ -15,10 +15,10 @@ Currency TEleve::CoutService(TService service, const TPeriode& periode, TLignesS
     case TService::Midi:
       return presences.CoutGarderieMidi(Id, periode, Flg2eEnfant, lignes);
     case TService::Soir:
-      return presences.CoutGarderieSoir(Id, periode, Flg2eEnfant, Eleves->TypeActivitesExt,
+      return presences.CoutGarderieSoir(Id, periode, Flg2eEnfant, presences.Regles.ActivitesExt,
                                         Eleves->ActivitesEleves, lignes);
     case TService::Mercredi:
-      return presences.CoutGarderieMercredi(Id, periode, Flg2eEnfant, Eleves->TypeActivitesExt,
+      return presences.CoutGarderieMercredi(Id, periode, Flg2eEnfant, presences.Regles.ActivitesExt,
                                             Eleves->ActivitesEleves, lignes);
     case TService::Etude:
       return presences.CoutEtude(Id, periode, Flg2eEnfant, lignes);
@@ -127,7 +127,7 @@ Currency TEleve::VersementsServices() const {
 Currency TEleve::VersementsFrais() const { return SommeVersee(VersementsLibres(TTypeFamilleFrais::Frais)); }
 
 Currency TEleve::Solde(bool avecFrais, bool avecServices) const {
-  const bool provision = Eleves->ModeProvision;
+  const bool provision = Eleves->Regles != nullptr && Eleves->Regles->ModeProvision;
   Currency solde;
   if (avecFrais) solde += (provision ? VersementsFrais() : FraisPayes()) - FraisAnnee();
   if (avecServices) solde += (provision ? VersementsServices() : PaiementsAnnee()) - CoutAnnee();

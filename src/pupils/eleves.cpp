@@ -15,43 +15,39 @@ namespace {
 /// The lines of the whole year are read as fast as those of so many pupils, one by one.
 constexpr std::size_t kLecturesUneAUne = 20;
 
-template <class T>
-struct TColonne {
-  const char* nom;
-  T TEleve::*champ;
-};
+using namespace Colonne;
 
-constexpr TColonne<QString> kTextes[] = {
-    {"NOM", &TEleve::Nom},
-    {"PRENOM", &TEleve::Prenom},
-    {"MATRICULE", &TEleve::Matricule},
-    {"NOM_RESPONSABLE", &TEleve::NomResponsable},
-    {"PRENOM_RESPONSABLE", &TEleve::PrenomResponsable},
-    {"ADRESSE", &TEleve::Adresse},
-    {"NUMERO", &TEleve::Numero},
-    {"LOCALITE", &TEleve::Localite},
-    {"NUM_COMPTE", &TEleve::NumCompte},
-    {"NOM_TITULAIRE_COMPTE", &TEleve::NomTitulaireCompte},
-    {"NOM_RESPONSABLE2", &TEleve::NomResponsable2},
-    {"PRENOM_RESPONSABLE2", &TEleve::PrenomResponsable2},
-    {"ADRESSE2", &TEleve::Adresse2},
-    {"NUMERO2", &TEleve::Numero2},
-    {"LOCALITE2", &TEleve::Localite2},
-};
-
-constexpr TColonne<int> kEntiers[] = {
-    {"CODE_POSTAL", &TEleve::CodePostal},
-    {"CODE_POSTAL2", &TEleve::CodePostal2},
-};
-
-constexpr TColonne<bool> kDrapeaux[] = {
-    {"FLG_2E_ENFANT", &TEleve::Flg2eEnfant},
-    {"FLG_3E_ENFANT", &TEleve::Flg3eEnfant},
-    {"FLG_FACTURE_DETAIL", &TEleve::FlgFactureDetail},
-    {"FLG_DOMICILIATION", &TEleve::FlgDomiciliation},
-    {"FLG_PARENT_SEPARE", &TEleve::FlgParentSepare},
-    {"FLG_IMPOT_RESPONS2", &TEleve::FlgImpotRespons2},
-    {"FLG_RADIE", &TEleve::FlgRadie},
+// The class is that of the enrolment. The number of the attestation is written by GetNumAttestation only,
+// so that a workstation that loaded before does not take a printed number away.
+constexpr TColonne<TEleve> kColonnes[] = {
+    Texte<&TEleve::Nom>("NOM"),
+    Texte<&TEleve::Prenom>("PRENOM"),
+    Texte<&TEleve::Matricule>("MATRICULE"),
+    Texte<&TEleve::CodeClasse>("CLASSE").SansCharger(),
+    Texte<&TEleve::SousClasse>("SOUS_CLASSE").SansCharger(),
+    Date<&TEleve::DateNaissance>("DATE_NAISSANCE"),
+    Texte<&TEleve::NomResponsable>("NOM_RESPONSABLE"),
+    Texte<&TEleve::PrenomResponsable>("PRENOM_RESPONSABLE"),
+    Texte<&TEleve::Adresse>("ADRESSE"),
+    Texte<&TEleve::Numero>("NUMERO"),
+    Entier<&TEleve::CodePostal>("CODE_POSTAL"),
+    Texte<&TEleve::Localite>("LOCALITE"),
+    Texte<&TEleve::NumCompte>("NUM_COMPTE"),
+    Texte<&TEleve::NomTitulaireCompte>("NOM_TITULAIRE_COMPTE"),
+    Texte<&TEleve::NomResponsable2>("NOM_RESPONSABLE2"),
+    Texte<&TEleve::PrenomResponsable2>("PRENOM_RESPONSABLE2"),
+    Texte<&TEleve::Adresse2>("ADRESSE2"),
+    Texte<&TEleve::Numero2>("NUMERO2"),
+    Entier<&TEleve::CodePostal2>("CODE_POSTAL2"),
+    Texte<&TEleve::Localite2>("LOCALITE2"),
+    Drapeau<&TEleve::Flg2eEnfant>("FLG_2E_ENFANT"),
+    Drapeau<&TEleve::Flg3eEnfant>("FLG_3E_ENFANT"),
+    Drapeau<&TEleve::FlgFactureDetail>("FLG_FACTURE_DETAIL"),
+    Drapeau<&TEleve::FlgDomiciliation>("FLG_DOMICILIATION"),
+    Drapeau<&TEleve::FlgParentSepare>("FLG_PARENT_SEPARE"),
+    Drapeau<&TEleve::FlgImpotRespons2>("FLG_IMPOT_RESPONS2"),
+    Drapeau<&TEleve::FlgRadie>("FLG_RADIE"),
+    Entier<&TEleve::NumAttestation>("NUM_ATTEST_2015").SansEcrire(),
 };
 
 }  // namespace
@@ -83,17 +79,7 @@ void TEleves::DefineQuery() {
   TableName = u"ELEVES"_s;
   KeyField = "ELEVE_ID";
   CounterName = u"ELEVES"_s;
-}
-
-void TEleves::LoadItems(TCurseur& ligne) {
-  TEleve& eleve = Nouveau(ligne);
-  for (const auto& [nom, champ] : kTextes) eleve.*champ = ligne.Texte(nom);
-  for (const auto& [nom, champ] : kEntiers) eleve.*champ = ligne.Entier(nom);
-  for (const auto& [nom, champ] : kDrapeaux) eleve.*champ = ligne.EstVrai(nom);
-  eleve.DateNaissance = ligne.Date("DATE_NAISSANCE");
-  eleve.NumAttestation = ligne.Entier("NUM_ATTEST_2015");
-  eleve.CodeImplantation = ElevesClasses.ImplantationDe(eleve.Id);
-  Classer(eleve);
+  Colonnes = kColonnes;
 }
 
 void TEleves::LoadFromSource(TDataSet& source) {
@@ -102,29 +88,16 @@ void TEleves::LoadFromSource(TDataSet& source) {
   eleve->Nom = source.Valeur(u"NOM"_s).toString();
   eleve->Prenom = source.Valeur(u"PRENOM"_s).toString();
   eleve->Matricule = source.Valeur(u"MATRICULE"_s).toString();
-  Classer(static_cast<TEleve&>(Charge(std::move(eleve))));
-}
-
-// The number of the attestation is not among the columns: it is written by GetNumAttestation only, so
-// that a workstation that loaded before does not take a printed number away.
-void TEleves::StoreRecord(const TEleve& eleve, TLigne& ligne) const {
-  for (const auto& [nom, champ] : kTextes) ligne.Ecrire(nom, eleve.*champ);
-  for (const auto& [nom, champ] : kEntiers) ligne.Ecrire(nom, eleve.*champ);
-  for (const auto& [nom, champ] : kDrapeaux) ligne.EcrireDrapeau(nom, eleve.*champ);
-  ligne.EcrireDate("DATE_NAISSANCE", eleve.DateNaissance);
-  ligne.Ecrire("CLASSE", eleve.CodeClasse);
-  ligne.Ecrire("SOUS_CLASSE", eleve.SousClasse);
+  Placer(std::move(eleve));
 }
 
 void TEleves::Indexer(TEleve& eleve) {
   eleve.Eleves = this;
-  parId_.Suivre(eleve, eleve.Id);
   parMatricule_.Suivre(eleve, eleve.Matricule);
   parCode_.Suivre(eleve, QString(eleve.Matricule).remove(u'-'));
 }
 
 void TEleves::Desindexer(TEleve& eleve) {
-  parId_.Oublier(eleve);
   parMatricule_.Oublier(eleve);
   parCode_.Oublier(eleve);
   if (eleve.Classe != nullptr) std::erase(eleve.Classe->ListeEleves, &eleve);
@@ -140,12 +113,16 @@ TClasse& TEleves::TrouverClasse(const QString& code, const QString& sousClasse, 
   return *classes_.emplace_back(std::make_unique<TClasse>(*this, code, sousClasse, implantation));
 }
 
-void TEleves::Classer(TEleve& eleve) {
+void TEleves::Completer(TEleve& eleve) {
+  eleve.CodeImplantation = ElevesClasses.ImplantationDe(eleve.Id);
   eleve.CodeClasse = ElevesClasses.ClasseDe(eleve.Id);
   eleve.SousClasse = ElevesClasses.SousClasseDe(eleve.Id);
-  TClasse& classe = TrouverClasse(eleve.CodeClasse, eleve.SousClasse, eleve.CodeImplantation);
-  eleve.Classe = &classe;
-  classe.ListeEleves.push_back(&eleve);
+  if (eleve.Classe != nullptr) return;
+  eleve.Classe = &TrouverClasse(eleve.CodeClasse, eleve.SousClasse, eleve.CodeImplantation);
+  std::vector<TEleve*>& liste = eleve.Classe->ListeEleves;
+  const bool dernier = liste.empty() || liste.back()->Rang() < eleve.Rang();
+  liste.insert(dernier ? liste.end() : std::ranges::upper_bound(liste, eleve.Rang(), {}, &TEleve::Rang),
+               &eleve);
 }
 
 void TEleves::TrierClasses() {

@@ -1,9 +1,9 @@
 #pragma once
 #include <unordered_map>
 
-#include "attendance/activites_ext.h"
 #include "core/distributor.h"
 #include "core/index.h"
+#include "core/regles_ecole.h"
 #include "pupils/classe.h"
 #include "pupils/eleve.h"
 #include "pupils/eleves_classes.h"
@@ -29,7 +29,7 @@ class TEleves : public TCollection<TEleve> {
   std::unique_ptr<TEleve> RemoveEleve(TEleve& eleve) { return Remove(eleve); }
 
   /// First pupil with that key, or null.
-  TEleve* TrouverParId(int id) const { return parId_.Premier(id); }
+  TEleve* TrouverParId(int id) const { return ParCle(id); }
   /// First pupil with exactly that register number, or null.
   TEleve* TrouverParMatricule(const QString& texte) const { return parMatricule_.Premier(texte); }
   /// First pupil with that register number without its dashes, as bar codes carry it, or null.
@@ -78,8 +78,7 @@ class TEleves : public TCollection<TEleve> {
   const std::unique_ptr<TImplantations> Implantations;  ///< null off-line
   TDataSet* SourcePhotos = nullptr;                     ///< local photos off-line; may stay null
   bool ChargerExtraits = true;                          ///< the movements are to be read (again)
-  bool ModeProvision = false;                           ///< parameter 25 is "1"
-  TTypeActivitesExt TypeActivitesExt{};                 ///< parameter 100
+  const TReglesEcole* Regles = nullptr;                 ///< set by the load of the year; none without
   // What the accounts of the pupils read; set by the load of the year. Without one it counts as empty.
   const TListeFrais* ListeFrais = nullptr;
   const TPaiements* Paiements = nullptr;
@@ -88,20 +87,17 @@ class TEleves : public TCollection<TEleve> {
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
   void LoadFromSource(TDataSet& source) override;
-  void StoreRecord(const TEleve& eleve, TLigne& ligne) const override;
+  void Completer(TEleve& eleve) override;
   void Indexer(TEleve& eleve) override;
   void Desindexer(TEleve& eleve) override;
 
  private:
   TClasse& TrouverClasse(const QString& code, const QString& sousClasse, const QString& implantation);
-  void Classer(TEleve& eleve);
   void TrierClasses();
 
   std::vector<std::unique_ptr<TClasse>> classes_;
   std::vector<TClasse*> classesParNom_;
-  TIndex<int, TEleve> parId_;
   TIndex<QString, TEleve> parMatricule_;
   TIndex<QString, TEleve> parCode_;
   std::unordered_map<int, int> eleveParExtrait_;

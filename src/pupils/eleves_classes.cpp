@@ -4,6 +4,20 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+using namespace Colonne;
+
+constexpr TColonne<TEleveClasse> kColonnes[] = {
+    Entier<&TEleveClasse::EleveId>("ELEVE_ID"),
+    Entier<&TEleveClasse::AnneeScolaire>("ANNEE_SCOLAIRE"),
+    Texte<&TEleveClasse::Classe>("CLASSE"),
+    Texte<&TEleveClasse::SousClasse>("SOUS_CLASSE"),
+    Texte<&TEleveClasse::CodeImplantation>("CODE_IMPLANTATION"),
+};
+
+}  // namespace
+
 TElevesClasses::TElevesClasses(TDataModule1& base, int annee) : TCollection(base), AnneeScolaire(annee) {
   Charger();
 }
@@ -18,15 +32,7 @@ void TElevesClasses::DefineQuery() {
   TableName = u"ELEVES_CLASSES"_s;
   KeyField = "ELEVE_CLASSE_ID";
   CounterName = u"ELEVES_CLASSES"_s;
-}
-
-void TElevesClasses::LoadItems(TCurseur& ligne) {
-  TEleveClasse& inscription = Nouveau(ligne);
-  inscription.EleveId = ligne.Entier("ELEVE_ID");
-  inscription.Classe = ligne.Texte("CLASSE");
-  inscription.SousClasse = ligne.Texte("SOUS_CLASSE");
-  inscription.CodeImplantation = ligne.Texte("CODE_IMPLANTATION");
-  inscription.AnneeScolaire = ligne.Entier("ANNEE_SCOLAIRE");
+  Colonnes = kColonnes;
 }
 
 void TElevesClasses::LoadFromSource(TDataSet& source) {
@@ -34,15 +40,7 @@ void TElevesClasses::LoadFromSource(TDataSet& source) {
   inscription->EleveId = source.Valeur(u"ELEVE_ID"_s).toInt();
   inscription->Classe = source.Valeur(u"CLASSE"_s).toString();
   inscription->SousClasse = source.Valeur(u"SOUS_CLASSE"_s).toString();
-  Charge(std::move(inscription));
-}
-
-void TElevesClasses::StoreRecord(const TEleveClasse& inscription, TLigne& ligne) const {
-  ligne.Ecrire("ELEVE_ID", inscription.EleveId);
-  ligne.Ecrire("ANNEE_SCOLAIRE", inscription.AnneeScolaire);
-  ligne.Ecrire("CLASSE", inscription.Classe);
-  ligne.Ecrire("CODE_IMPLANTATION", inscription.CodeImplantation);
-  ligne.Ecrire("SOUS_CLASSE", inscription.SousClasse);
+  Placer(std::move(inscription));
 }
 
 TEleveClasse& TElevesClasses::AddEleveClasse(std::unique_ptr<TEleveClasse> inscription) {

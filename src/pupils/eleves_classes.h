@@ -39,9 +39,7 @@ class TElevesClasses : public TCollection<TEleveClasse> {
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
   void LoadFromSource(TDataSet& source) override;
-  void StoreRecord(const TEleveClasse& inscription, TLigne& ligne) const override;
   void Indexer(TEleveClasse& inscription) override { parEleve_.Suivre(inscription, inscription.EleveId); }
   void Desindexer(TEleveClasse& inscription) override { parEleve_.Oublier(inscription); }
 

@@ -2,6 +2,26 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+using namespace Colonne;
+
+constexpr TColonne<TImplantation> kColonnes[] = {
+    Texte<&TImplantation::Code>("CODE_IMPLANTATION"),
+    Texte<&TImplantation::LibelleCourt>("LIBELLE_COURT"),
+    Texte<&TImplantation::LibelleLong>("LIBELLE_LONG"),
+    Texte<&TImplantation::Adresse>("ADRESSE"),
+    Texte<&TImplantation::CodePostal>("CODE_POSTAL"),
+    Texte<&TImplantation::Localite>("LOCALITE"),
+    Texte<&TImplantation::Telephone>("TELEPHONE"),
+    Texte<&TImplantation::Fax>("FAX"),
+    Texte<&TImplantation::Responsable>("RESPONSABLE"),
+    Texte<&TImplantation::ResponsablePrenom>("RESPONSABLE_PRENOM"),
+    Drapeau<&TImplantation::Obsolete>("OBSOLETE"),
+};
+
+}  // namespace
+
 QString TImplantation::AdresseComplete() const { return Adresse % u" - " % CodePostal % u' ' % Localite; }
 
 TImplantations::TImplantations(TDataModule1& base) : TCollection(base) { Charger(); }
@@ -11,32 +31,7 @@ void TImplantations::DefineQuery() {
   TableName = u"IMPLANTATION"_s;
   KeyField = "IMPLANTATION_ID";
   CounterName = u"IMPLANTATION"_s;
-}
-
-namespace {
-
-constexpr struct {
-  const char* colonne;
-  QString TImplantation::*champ;
-} kTextes[] = {
-    {"CODE_IMPLANTATION", &TImplantation::Code},   {"LIBELLE_COURT", &TImplantation::LibelleCourt},
-    {"LIBELLE_LONG", &TImplantation::LibelleLong}, {"ADRESSE", &TImplantation::Adresse},
-    {"CODE_POSTAL", &TImplantation::CodePostal},   {"LOCALITE", &TImplantation::Localite},
-    {"TELEPHONE", &TImplantation::Telephone},      {"FAX", &TImplantation::Fax},
-    {"RESPONSABLE", &TImplantation::Responsable},  {"RESPONSABLE_PRENOM", &TImplantation::ResponsablePrenom},
-};
-
-}  // namespace
-
-void TImplantations::LoadItems(TCurseur& ligne) {
-  TImplantation& implantation = Nouveau(ligne);
-  for (const auto& [colonne, champ] : kTextes) implantation.*champ = ligne.Texte(colonne);
-  implantation.Obsolete = ligne.EstVrai("OBSOLETE");
-}
-
-void TImplantations::StoreRecord(const TImplantation& implantation, TLigne& ligne) const {
-  for (const auto& [colonne, champ] : kTextes) ligne.Ecrire(colonne, implantation.*champ);
-  ligne.EcrireDrapeau("OBSOLETE", implantation.Obsolete);
+  Colonnes = kColonnes;
 }
 
 TImplantation* TImplantations::TrouverParCode(const QString& code, const TImplantation* sauf) const {

@@ -44,8 +44,6 @@ class TImplantations : public TCollection<TImplantation> {
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TImplantation& implantation, TLigne& ligne) const override;
 
  private:
   bool Admise(const TImplantation& implantation) const;

@@ -4,8 +4,30 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<const char*, 5> kColonnesJours{"FLG_LUNDI", "FLG_MARDI", "FLG_MERCREDI", "FLG_JEUDI",
-                                                    "FLG_VENDREDI"};
+using namespace Colonne;
+
+constexpr TColonne<TActivite> kColonnesActivites[] = {
+    Texte<&TActivite::Libelle>("LIBELLE"),    Heure<&TActivite::HeureDebut>("HEURE_DEBUT"),
+    Heure<&TActivite::HeureFin>("HEURE_FIN"), Date<&TActivite::DateDebut>("DATE_DEBUT"),
+    Date<&TActivite::DateFin>("DATE_FIN"),
+};
+
+template <std::size_t Rang>
+constexpr TColonne<TActiviteEleve> Jour(const char* nom) {
+  using T = TActiviteEleve;
+  return {nom, [](T& o, TCurseur& l, const char* n) { o.FlgJours[Rang] = l.EstVrai(n); },
+          [](const T& o, TLigne& l, const char* n) { l.EcrireOuiNon(n, o.FlgJours[Rang]); }};
+}
+
+constexpr TColonne<TActiviteEleve> kColonnesInscriptions[] = {
+    Entier<&TActiviteEleve::EleveId>("ELEVE_ID"),
+    Entier<&TActiviteEleve::ActiviteId>("ACTIVITE_ID"),
+    Jour<0>("FLG_LUNDI"),
+    Jour<1>("FLG_MARDI"),
+    Jour<2>("FLG_MERCREDI"),
+    Jour<3>("FLG_JEUDI"),
+    Jour<4>("FLG_VENDREDI"),
+};
 
 }  // namespace
 
@@ -16,30 +38,8 @@ void TActivites::DefineQuery() {
   TableName = u"ACTIVITES"_s;
   KeyField = "ACTIVITE_ID";
   CounterName = u"ACTIVITES"_s;
-}
-
-void TActivites::LoadItems(TCurseur& ligne) {
-  TActivite& activite = Nouveau(ligne);
-  activite.Libelle = ligne.Texte("LIBELLE");
-  activite.HeureDebut = ligne.Heure("HEURE_DEBUT");
-  activite.HeureFin = ligne.Heure("HEURE_FIN");
-  activite.DateDebut = ligne.Date("DATE_DEBUT");
-  activite.DateFin = ligne.Date("DATE_FIN");
-}
-
-void TActivites::StoreRecord(const TActivite& activite, TLigne& ligne) const {
-  ligne.Ecrire("LIBELLE", activite.Libelle);
-  ligne.Ecrire("ANNEE_SCOLAIRE", annee_);
-  ligne.EcrireHeure("HEURE_DEBUT", activite.HeureDebut);
-  ligne.EcrireHeure("HEURE_FIN", activite.HeureFin);
-  ligne.EcrireDate("DATE_DEBUT", activite.DateDebut);
-  ligne.EcrireDate("DATE_FIN", activite.DateFin);
-}
-
-TActivite* TActivites::ActiviteParId(int id) const {
-  for (TActivite& activite : *this)
-    if (activite.Id == id) return &activite;
-  return nullptr;
+  Colonnes = kColonnesActivites;
+  Communes = {{"ANNEE_SCOLAIRE", annee_}};
 }
 
 bool TActiviteEleve::SuitLe(TDateTime date) const {
@@ -57,21 +57,7 @@ void TActivitesEleves::DefineQuery() {
   TableName = u"ACTIVITES_ELEVES"_s;
   KeyField = "ACTIVITE_ELEVE_ID";
   CounterName = u"ACTIVITES_ELEVES"_s;
-}
-
-void TActivitesEleves::LoadItems(TCurseur& ligne) {
-  TActiviteEleve& inscription = Nouveau(ligne);
-  inscription.EleveId = ligne.Entier("ELEVE_ID");
-  inscription.ActiviteId = ligne.Entier("ACTIVITE_ID");
-  for (std::size_t jour = 0; jour < kColonnesJours.size(); ++jour)
-    inscription.FlgJours[jour] = ligne.EstVrai(kColonnesJours[jour]);
-}
-
-void TActivitesEleves::StoreRecord(const TActiviteEleve& inscription, TLigne& ligne) const {
-  ligne.Ecrire("ELEVE_ID", inscription.EleveId);
-  ligne.Ecrire("ACTIVITE_ID", inscription.ActiviteId);
-  for (std::size_t jour = 0; jour < kColonnesJours.size(); ++jour)
-    ligne.EcrireOuiNon(kColonnesJours[jour], inscription.FlgJours[jour]);
+  Colonnes = kColonnesInscriptions;
 }
 
 TActiviteEleve* TActivitesEleves::ActivitesEleve(int eleve) const { return parEleve_.Premier(eleve); }
@@ -92,7 +78,7 @@ TActiviteEleve* TActivitesEleves::ActiviteDuJour(int eleve, TDateTime date) cons
 TActiviteEnCours TActivitesEleves::ActiviteEnCours(int eleve, TDateTime date) const {
   TActiviteEnCours trouve;
   for (TActiviteEleve* inscription : parEleve_.Tous(eleve)) {
-    trouve.Activite = activites_.ActiviteParId(inscription->ActiviteId);
+    trouve.Activite = activites_.ParCle(inscription->ActiviteId);
     if (trouve.Activite == nullptr || !inscription->SuitLe(date)) continue;
     if (trouve.Activite->DateDebut <= date && date <= trouve.Activite->DateFin) {
       trouve.Inscription = inscription;

@@ -18,13 +18,8 @@ class TActivites : public TCollection<TActivite> {
  public:
   TActivites(TDataModule1& base, int annee);
 
-  /// Null when there is none.
-  TActivite* ActiviteParId(int id) const;
-
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TActivite& activite, TLigne& ligne) const override;
 
  private:
   int annee_;
@@ -65,8 +60,6 @@ class TActivitesEleves : public TCollection<TActiviteEleve> {
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TActiviteEleve& inscription, TLigne& ligne) const override;
   void Indexer(TActiviteEleve& i) override { parEleve_.Suivre(i, i.EleveId); }
   void Desindexer(TActiviteEleve& i) override { parEleve_.Oublier(i); }
 

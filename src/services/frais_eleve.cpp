@@ -4,6 +4,23 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+using namespace Colonne;
+
+constexpr TColonne<TFraisEleve> kColonnes[] = {
+    Reference<&TFraisEleve::ListeFraisId>("LISTEFRAIS_ID"),  // the foreign key refuses 0
+    Texte<&TFraisEleve::Remarque>("REMARQUE"),
+    Montant<&TFraisEleve::MontantVerse>("MONTANT_VERSE"),
+    Date<&TFraisEleve::DateVersement>("DATE_VERSEMENT"),
+    Entier<&TFraisEleve::Mois>("MOIS"),
+    Reference<&TFraisEleve::ExtraitId>("EXTRAIT_ID"),
+    Entier<&TFraisEleve::TypeFamilleFrais>("TYPE_FAMILLE_FRAIS"),
+    Reference<&TFraisEleve::GroupeFraisId>("GROUPE_FRAIS_ID"),
+};
+
+}  // namespace
+
 TAllFraisEleve::TAllFraisEleve(TDataModule1& base, int eleve, int annee, const TListeFrais* catalogue)
     : TCollection(base), eleve_(eleve), annee_(annee), catalogue_(catalogue) {
   Charger();
@@ -24,10 +41,7 @@ std::unordered_map<int, std::unique_ptr<TAllFraisEleve>> TAllFraisEleve::LireEns
     TCurseur ligne(base, u"SELECT * FROM FRAIS_ELEVE WHERE ANNEE_SCOLAIRE = " % QString::number(annee));
     while (ligne.Suivant()) {
       const auto i = ensemble.find(ligne.Entier("ELEVE_ID"));
-      if (i == ensemble.end()) continue;
-      TAllFraisEleve& lignes = *i->second;
-      lignes.LoadItems(ligne);
-      lignes.Indexer(lignes[lignes.Count() - 1]);
+      if (i != ensemble.end()) i->second->LoadItems(ligne);
     }
   } catch (const EDistributor&) {
     throw;
@@ -43,36 +57,13 @@ void TAllFraisEleve::DefineQuery() {
   TableName = u"FRAIS_ELEVE"_s;
   KeyField = "FRAIS_ELEVE_ID";
   CounterName = u"FRAIS_ELEVE"_s;
-}
-
-void TAllFraisEleve::LoadItems(TCurseur& ligne) {
-  TFraisEleve& frais = Nouveau(ligne);
-  frais.ListeFraisId = ligne.Entier("LISTEFRAIS_ID");
-  frais.Remarque = ligne.Texte("REMARQUE");
-  frais.MontantVerse = ligne.Montant("MONTANT_VERSE");
-  frais.DateVersement = ligne.Date("DATE_VERSEMENT");
-  frais.Mois = ligne.Entier("MOIS");
-  frais.ExtraitId = ligne.Entier("EXTRAIT_ID");
-  frais.TypeFamilleFrais = static_cast<TTypeFamilleFrais>(ligne.Entier("TYPE_FAMILLE_FRAIS"));
-  frais.GroupeFraisId = ligne.Entier("GROUPE_FRAIS_ID");
-}
-
-void TAllFraisEleve::StoreRecord(const TFraisEleve& frais, TLigne& ligne) const {
-  ligne.Ecrire("ELEVE_ID", eleve_);
-  ligne.Ecrire("ANNEE_SCOLAIRE", annee_);
-  ligne.EcrireReference("LISTEFRAIS_ID", frais.ListeFraisId);  // the foreign key refuses 0
-  ligne.Ecrire("REMARQUE", frais.Remarque);
-  ligne.Ecrire("MONTANT_VERSE", frais.MontantVerse);
-  ligne.EcrireDate("DATE_VERSEMENT", frais.DateVersement);
-  ligne.Ecrire("MOIS", frais.Mois);
-  ligne.EcrireReference("EXTRAIT_ID", frais.ExtraitId);
-  ligne.Ecrire("TYPE_FAMILLE_FRAIS", static_cast<int>(frais.TypeFamilleFrais));
-  ligne.EcrireReference("GROUPE_FRAIS_ID", frais.GroupeFraisId);
+  Colonnes = kColonnes;
+  Communes = {{"ELEVE_ID", eleve_}, {"ANNEE_SCOLAIRE", annee_}};
 }
 
 const TFrais* TFraisEleve::Frais() const {
   if (EstLibre() || lignes_ == nullptr || lignes_->Catalogue() == nullptr) return nullptr;
-  return lignes_->Catalogue()->FraisParId(ListeFraisId);
+  return lignes_->Catalogue()->ParCle(ListeFraisId);
 }
 
 int TFraisEleve::MoisFrais() const {

@@ -101,8 +101,6 @@ class TAllFraisEleve : public TCollection<TFraisEleve> {
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TFraisEleve& frais, TLigne& ligne) const override;
   void Indexer(TFraisEleve& frais) override { frais.lignes_ = this; }
   void Desindexer(TFraisEleve& frais) override { frais.lignes_ = nullptr; }
 

@@ -2,6 +2,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+using namespace Colonne;
+
+constexpr TColonne<TGroupeFrais> kColonnes[] = {
+    Texte<&TGroupeFrais::Libelle>("LIBELLE"),
+};
+
+}  // namespace
+
 int TGroupeFrais::DetailsPaiement(TDetails& details, int eleve) {
   if (!lus_ && base_ != nullptr) {
     paiements_.clear();  // of a reading that failed half-way
@@ -34,18 +44,7 @@ void TGroupesFrais::DefineQuery() {
   TableName = u"GROUPE_FRAIS"_s;
   KeyField = "GROUPE_FRAIS_ID";
   CounterName = u"GROUPE_FRAIS"_s;
-}
-
-void TGroupesFrais::LoadItems(TCurseur& ligne) { Nouveau(ligne).Libelle = ligne.Texte("LIBELLE"); }
-
-void TGroupesFrais::StoreRecord(const TGroupeFrais& groupe, TLigne& ligne) const {
-  ligne.Ecrire("LIBELLE", groupe.Libelle);
-}
-
-TGroupeFrais* TGroupesFrais::GroupeParId(int id) const {
-  for (TGroupeFrais& groupe : *this)
-    if (groupe.Id == id) return &groupe;
-  return nullptr;
+  Colonnes = kColonnes;
 }
 
 void TGroupesFrais::LibellesGroupes(std::vector<TLibelleGroupe>& libelles) const {

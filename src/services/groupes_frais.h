@@ -39,14 +39,10 @@ class TGroupesFrais : public TCollection<TGroupeFrais> {
  public:
   explicit TGroupesFrais(TDataModule1& base);
 
-  /// Null when there is none.
-  TGroupeFrais* GroupeParId(int id) const;
   /// Fills the list with every group, in the order of the collection.
   void LibellesGroupes(std::vector<TLibelleGroupe>& libelles) const;
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TGroupeFrais& groupe, TLigne& ligne) const override;
   void Indexer(TGroupeFrais& groupe) override { groupe.base_ = &Base(); }
 };

@@ -2,6 +2,23 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+using namespace Colonne;
+
+constexpr TColonne<TFrais> kColonnes[] = {
+    Texte<&TFrais::Libelle>("LIBELLE"),
+    OuiNon<&TFrais::FlgRecurent>("FLG_RECURENT"),
+    Montant<&TFrais::Cout>("COUT"),
+    Entier<&TFrais::Mois>("MOIS"),
+    Entier<&TFrais::TypeFrais>("TYPE_FRAIS"),
+    Drapeau<&TFrais::FlgPrevisionnel>("FLG_PREVISIONNEL"),
+    Drapeau<&TFrais::FlgNonObligatoire>("FLG_NON_OBLIGATOIRE"),
+    Drapeau<&TFrais::FlgService>("FLG_SERVICE"),
+};
+
+}  // namespace
+
 const QStringList& TextesTypeFrais() {
   static const QStringList textes{u"l'école"_s, u"classe"_s, u"élève"_s};
   return textes;
@@ -43,34 +60,6 @@ void TListeFrais::DefineQuery() {
   TableName = u"LISTE_FRAIS"_s;
   KeyField = "LISTEFRAIS_ID";
   CounterName = u"LISTE_FRAIS"_s;
-}
-
-void TListeFrais::LoadItems(TCurseur& ligne) {
-  TFrais& frais = Nouveau(ligne);
-  frais.Libelle = ligne.Texte("LIBELLE");
-  frais.FlgRecurent = ligne.EstVrai("FLG_RECURENT");
-  frais.Cout = ligne.Montant("COUT");
-  frais.Mois = ligne.Entier("MOIS");
-  frais.TypeFrais = static_cast<TTypeFrais>(ligne.Entier("TYPE_FRAIS"));
-  frais.FlgPrevisionnel = ligne.EstVrai("FLG_PREVISIONNEL");
-  frais.FlgNonObligatoire = ligne.EstVrai("FLG_NON_OBLIGATOIRE");
-  frais.FlgService = ligne.EstVrai("FLG_SERVICE");
-}
-
-void TListeFrais::StoreRecord(const TFrais& frais, TLigne& ligne) const {
-  ligne.Ecrire("LIBELLE", frais.Libelle);
-  ligne.EcrireOuiNon("FLG_RECURENT", frais.FlgRecurent);
-  ligne.Ecrire("COUT", frais.Cout);
-  ligne.Ecrire("MOIS", frais.Mois);
-  ligne.Ecrire("TYPE_FRAIS", static_cast<int>(frais.TypeFrais));
-  ligne.EcrireDrapeau("FLG_PREVISIONNEL", frais.FlgPrevisionnel);
-  ligne.EcrireDrapeau("FLG_NON_OBLIGATOIRE", frais.FlgNonObligatoire);
-  ligne.EcrireDrapeau("FLG_SERVICE", frais.FlgService);
-  ligne.Ecrire("ANNEE_SCOLAIRE", annee_);
-}
-
-TFrais* TListeFrais::FraisParId(int id) const {
-  for (TFrais& frais : *this)
-    if (frais.Id == id) return &frais;
-  return nullptr;
+  Colonnes = kColonnes;
+  Communes = {{"ANNEE_SCOLAIRE", annee_}};
 }

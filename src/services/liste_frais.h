@@ -44,13 +44,8 @@ class TListeFrais : public TCollection<TFrais> {
  public:
   TListeFrais(TDataModule1& base, int annee);
 
-  /// Null when there is none.
-  TFrais* FraisParId(int id) const;
-
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TFrais& frais, TLigne& ligne) const override;
   void Indexer(TFrais& frais) override { frais.base_ = &Base(); }
 
  private:

@@ -6,6 +6,23 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+using namespace Colonne;
+
+constexpr TColonne<TTarifGarderie> kColonnes[] = {
+    Entier<&TTarifGarderie::TypeFamille>("TYPE_FAMILLE"),
+    Entier<&TTarifGarderie::TypeJour>("TYPE_JOUR"),
+    HeureDue<&TTarifGarderie::HeureDebutScan>("HEURE_DEBUT_SCAN"),
+    HeureDue<&TTarifGarderie::HeureFinScan>("HEURE_FIN_SCAN"),
+    Entier<&TTarifGarderie::TypeForfait>("TYPE_FORFAIT"),
+    Montant<&TTarifGarderie::Cout>("COUT"),
+    Entier<&TTarifGarderie::TypeScan>("TYPE_SCAN"),
+    Montant<&TTarifGarderie::Cout2eEnfant>("COUT_2E_ENFANT"),
+};
+
+}  // namespace
+
 TTarifsGarderies::TTarifsGarderies(TDataModule1& base) : TCollection(base) { Charger(); }
 
 // The tie-breaks of the look-ups stand on this order.
@@ -16,29 +33,8 @@ void TTarifsGarderies::DefineQuery() {
   TableName = u"TARIF_GARDERIE"_s;
   KeyField = "TARIF_GARDERIE_ID";
   CounterName = u"TARIF_GARDERIE"_s;
-}
-
-void TTarifsGarderies::LoadItems(TCurseur& ligne) {
-  TTarifGarderie& tarif = Nouveau(ligne);
-  tarif.TypeFamille = static_cast<TTypeFamille>(ligne.Entier("TYPE_FAMILLE"));
-  tarif.TypeJour = static_cast<TTypeJour>(ligne.Entier("TYPE_JOUR"));
-  tarif.HeureDebutScan = ligne.Heure("HEURE_DEBUT_SCAN");
-  tarif.HeureFinScan = ligne.Heure("HEURE_FIN_SCAN");
-  tarif.TypeForfait = static_cast<TTypeForfait>(ligne.Entier("TYPE_FORFAIT"));
-  tarif.Cout = ligne.Montant("COUT");
-  tarif.TypeScan = static_cast<TTypeScan>(ligne.Entier("TYPE_SCAN"));
-  tarif.Cout2eEnfant = ligne.Montant("COUT_2E_ENFANT");
-}
-
-void TTarifsGarderies::StoreRecord(const TTarifGarderie& tarif, TLigne& ligne) const {
-  ligne.Ecrire("TYPE_FAMILLE", static_cast<int>(tarif.TypeFamille));
-  ligne.Ecrire("TYPE_JOUR", static_cast<int>(tarif.TypeJour));
-  ligne.EcrireHeureDue("HEURE_DEBUT_SCAN", tarif.HeureDebutScan);
-  ligne.EcrireHeureDue("HEURE_FIN_SCAN", tarif.HeureFinScan);
-  ligne.Ecrire("TYPE_FORFAIT", static_cast<int>(tarif.TypeForfait));
-  ligne.Ecrire("COUT", tarif.Cout);
-  ligne.Ecrire("TYPE_SCAN", static_cast<int>(tarif.TypeScan));
-  ligne.Ecrire("COUT_2E_ENFANT", tarif.Cout2eEnfant);
+  Colonnes = kColonnes;
+  OrdreDuSelect = true;
 }
 
 namespace {
@@ -46,7 +42,7 @@ namespace {
 using TLignes = std::vector<const TTarifGarderie*>;
 
 /// Sorted by that time; of rows that share it only the first stays.
-void Ranger(TLignes& lignes, TDateTime TTarifGarderie::*heure) {
+void TrierBornes(TLignes& lignes, TDateTime TTarifGarderie::*heure) {
   std::ranges::stable_sort(lignes, {}, heure);
   const auto meme = [heure](const auto* a, const auto* b) { return a->*heure == b->*heure; };
   lignes.erase(std::unique(lignes.begin(), lignes.end(), meme), lignes.end());
@@ -70,8 +66,8 @@ void TTarifsGarderies::Classer() const {
   }
   for (auto& [groupe, semaine] : bornes_)
     for (TBornes& bornes : semaine) {
-      Ranger(bornes.ParDebut, &TTarifGarderie::HeureDebutScan);
-      Ranger(bornes.ParFin, &TTarifGarderie::HeureFinScan);
+      TrierBornes(bornes.ParDebut, &TTarifGarderie::HeureDebutScan);
+      TrierBornes(bornes.ParFin, &TTarifGarderie::HeureFinScan);
     }
   for (auto& [numero, famille] : familles_) {
     famille.ParDebut = famille.Lignes;

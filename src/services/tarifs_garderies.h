@@ -61,8 +61,6 @@ class TTarifsGarderies : public TCollection<TTarifGarderie> {
 
  protected:
   void DefineQuery() override;
-  void LoadItems(TCurseur& ligne) override;
-  void StoreRecord(const TTarifGarderie& tarif, TLigne& ligne) const override;
   void Indexer(TTarifGarderie&) override { classe_ = false; }
   void Desindexer(TTarifGarderie&) override { classe_ = false; }
 

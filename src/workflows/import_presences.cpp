@@ -159,7 +159,8 @@ void TImportPresences::Classer(const TScan& scan, const QString& site, std::vect
   else
     sansTarif.push_back({eleve->Matricule, std::move(presence)});
   const auto type = static_cast<TTypePresence>(scan.TypePresence);
-  if (Globals.Presences->GarderieUnique && (type == TTypePresence::Repas || type == TTypePresence::Soupe))
+  if (Globals.Presences->Regles.GarderieUnique &&
+      (type == TTypePresence::Repas || type == TTypePresence::Soupe))
     Deriver(scan, eleve->Id);
 }
 

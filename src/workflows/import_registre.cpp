@@ -131,7 +131,7 @@ bool TImportRegistre::Etape1(const QString& fichier) {
 void TImportRegistre::Filtrer() {
   for (int ligne = grille_.NombreLignes() - 1; ligne > 0; --ligne) {
     const QString site = Champ(ligne, kColonneEtablissement);
-    const QString& code = Globals.CodeEtablissement;
+    const QString code = Globals.Parametres->GetParametre(TParam::CodeEtablissement);
     const bool autreSite = !code.isEmpty() && !site.isEmpty() && site != code;
     const bool autreSorte = disposition_.Filtre >= 0 && !Champ(ligne, disposition_.Filtre).contains(u" M");
     if (!autreSite && !autreSorte) continue;
@@ -203,9 +203,9 @@ void TImportRegistre::EcrireBalance(const TEleve& eleve) {
   ajout.Parametre(u"iBalanceID"_s, cle)
       .Parametre(u"iEleveId"_s, eleve.Id)
       .Parametre(u"iAnneeScolaire"_s, Globals.AnneeScolaire)
-      .Parametre(u"mTotService"_s, services.EnEuros())
-      .Parametre(u"mTotFrais"_s, frais.EnEuros())
-      .Parametre(u"mTotal"_s, total.EnEuros())
+      .Parametre(u"mTotService"_s, services)
+      .Parametre(u"mTotFrais"_s, frais)
+      .Parametre(u"mTotal"_s, total)
       .Executer();
 }
 

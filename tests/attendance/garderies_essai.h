@@ -13,6 +13,7 @@ struct TGarderiesEssai : testing::Test {
   std::unique_ptr<TTarifsGarderies> tarifs;
   std::unique_ptr<TActivites> activites;
   std::unique_ptr<TActivitesEleves> inscriptions;
+  TReglesEcole regles;
   std::unique_ptr<TPresences> presences;
   TLignesService lignes;
 
@@ -28,10 +29,11 @@ struct TGarderiesEssai : testing::Test {
     ecole.tarif(FamilleRepas, TousLesJours, "11:30", "13:30", Forfait, "9", ScanPresence);
   }
   void charger(bool deductionEtude = false) {
+    regles.DeductionEtude = deductionEtude;
     tarifs = std::make_unique<TTarifsGarderies>(*base);
     activites = std::make_unique<TActivites>(*base, ecole.Annee);
     inscriptions = std::make_unique<TActivitesEleves>(*base, *activites);
-    presences = std::make_unique<TPresences>(*base, BornesAnnee(ecole.Annee), deductionEtude);
+    presences = std::make_unique<TPresences>(*base, BornesAnnee(ecole.Annee), regles);
     presences->Tarifs = tarifs.get();
   }
   /// The texts of the lines, joined by blanks.

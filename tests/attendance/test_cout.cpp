@@ -27,7 +27,7 @@ TEST_F(TGarderiesEssai, LesSeptServices) {
   eleve.scan(Soupe, kMercredi, "10:00");
   ecole.unEleve().scan(Garderie, kLundi, "07:30");
   charger();
-  presences->PrixRepas = {Currency(), Currency::Brut(35000), Currency::Brut(39000), Currency::Brut(45000)};
+  regles.PrixRepas = {Currency(), Currency::Brut(35000), Currency::Brut(39000), Currency::Brut(45000)};
   const TPeriode mois = BornesMois(10, 2016);
   lignes.resize(3);
   EXPECT_EQ(Euros(presences->CoutGarderieMatin(1, mois, false, lignes)), "3.0000");
@@ -69,7 +69,7 @@ TEST_F(TGarderiesEssai, ForfaitGarderieALaJournee) {
     return Euros(presences->CoutGarderieMidi(eleve, {J(kLundi), J(kLundi)}, false, lignes));
   };
   for (const bool unique : {false, true}) {
-    presences->GarderieUnique = unique;
+    regles.GarderieUnique = unique;
     EXPECT_EQ(midi(1), unique ? "-0.2000" : "0.8000");
     EXPECT_EQ(textes(), unique ? "-0,2" : "0,8");
     EXPECT_EQ(midi(2), "0.8000");
@@ -126,7 +126,7 @@ TEST_F(TGarderiesEssai, ModesDeDeductionDesActivites) {
   const auto parMode = [&](int eleve, const char* jour, bool deuxieme) {
     std::string montants;
     for (const TModeDeduction mode : kModes) {
-      presences->ModeDeduction = mode;
+      regles.ModeDeduction = mode;
       montants += (montants.empty() ? "" : " ") + soir(eleve, jour, deuxieme);
     }
     return montants;
@@ -154,7 +154,7 @@ TEST_F(TGarderiesEssai, ActiviteRecalculeeSurLEntreeDuReleve) {
   EXPECT_EQ(soir(1, kLundi), "1.0000");
   EXPECT_EQ(mercredi(2, kMercredi), "2.0000");  // 3.50 less 60 minutes
   EXPECT_EQ(mercredi(3, kMercredi), "1.0000");  // 15:15 to 16:00, not to 16:30
-  presences->ModeDeduction = TModeDeduction::QuartsHeure;
+  regles.ModeDeduction = TModeDeduction::QuartsHeure;
   EXPECT_EQ(mercredi(2, kMercredi), "2.5000");
 }
 
@@ -174,10 +174,10 @@ TEST_F(TGarderiesEssai, OrdreDesDeductionsEtSousZero) {
   EXPECT_EQ(soir(1, kLundi), "-1.5000");  // 1.50 less 120 minutes
   EXPECT_EQ(mercredi(3, kMercredi), "2.5000");
   EXPECT_EQ(soir(4, kLundi), "1.5000");
-  presences->ModeDeduction = TModeDeduction::QuartsHeure;
+  regles.ModeDeduction = TModeDeduction::QuartsHeure;
   EXPECT_EQ(soir(1, kLundi), "-0.3000");  // a hair above eight quarters: nine
-  presences->ModeDeduction = TModeDeduction::UnEuro;
-  presences->GarderieUnique = true;
+  regles.ModeDeduction = TModeDeduction::UnEuro;
+  regles.GarderieUnique = true;
   EXPECT_EQ(soir(2, kLundi), "-0.5000");
 }
 
@@ -195,9 +195,10 @@ TEST(ActivitesExt, PeriodeDuParametre100) {
   const TTarifsGarderies tarifs(*base);
   const TActivites activites(*base, 2015);
   const TActivitesEleves inscriptions(*base, activites);
-  TPresences presences(*base, {J("2015-09-01"), J("2017-06-30")}, false);
+  TReglesEcole regles;
+  regles.ModeDeduction = TModeDeduction::DeuxEuroQuarante;  // plays no part in a period
+  TPresences presences(*base, {J("2015-09-01"), J("2017-06-30")}, regles);
   presences.Tarifs = &tarifs;
-  presences.ModeDeduction = TModeDeduction::DeuxEuroQuarante;  // plays no part in a period
   const char* const montants[3][8] = {
       {"1.5000", "1.5000", "1.5000", "1.5000", "1.5000", "1.5000", "1.5000", "1.5000"},
       {"1.5000", "0.5000", "0.5000", "0.5000", "1.5000", "0.5000", "1.5000", "1.5000"},

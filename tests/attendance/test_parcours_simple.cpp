@@ -74,7 +74,7 @@ struct TParcours {
         vues.push_back(p.DateReleve);
       }
       const bool venu = (famille == 2 && (autre(p, 1) || autre(p, 7))) || (famille == 7 && autre(p, 1));
-      total += presences.GarderieUnique && a > 0 && venu ? a - 10000 : a;
+      total += presences.Regles.GarderieUnique && a > 0 && venu ? a - 10000 : a;
     }
     return total;
   }
@@ -123,7 +123,7 @@ struct TParcoursSimple : TGarderiesEssai {
                                    p.CoutSoupe(eleve, b, lignes),
                                    p.CoutGarderieMidi(eleve, b, deux, lignes)};
       for (int f = 1; f <= 7; ++f) {
-        if (f == 3 && p.GarderieUnique) continue;
+        if (f == 3 && p.Regles.GarderieUnique) continue;
         ASSERT_EQ(montants[f - 1].EnBrut(), simple.service(f, eleve, b, deux)) << f << " " << eleve;
         factures += montants[f - 1] != Currency() ? 1 : 0;
       }
@@ -135,7 +135,7 @@ struct TParcoursSimple : TGarderiesEssai {
 
 TEST_F(TParcoursSimple, MemesMontants) {
   charger();
-  presences->PrixRepas[1] = Currency::Euros(3);
+  regles.PrixRepas[1] = Currency::Euros(3);
   TCollection<TPresence>& releves = *presences;
   for (int i = 0; i < 24; ++i) tarif();
   for (int i = 0; i < 1500; ++i) {
@@ -144,7 +144,7 @@ TEST_F(TParcoursSimple, MemesMontants) {
     releves.Add(std::move(p));
   }
   for (int tour = 0; tour < 6; ++tour) {
-    presences->GarderieUnique = tour % 2 == 1;
+    regles.GarderieUnique = tour % 2 == 1;
     comparer();
     for (int i = 0; i < 60; ++i) {
       TPresence& p = releves[tire(0, releves.Count() - 1)];

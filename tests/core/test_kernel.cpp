@@ -4,6 +4,7 @@
 #include "core/index.h"
 #include "core/parametres.h"
 #include "core/query_internal.h"
+#include "core/transaction_commune.h"
 #include "support/base_essai.h"
 
 using namespace Qt::StringLiterals;
@@ -14,11 +15,14 @@ struct TGroupe : TBaseObject {
   QString Libelle;
 };
 
+constexpr TColonne<TGroupe> kColonnes[] = {Colonne::Texte<&TGroupe::Libelle>("LIBELLE")};
+
 /// A small collection with a counter and an index, over a real table.
 class TGroupes : public TCollection<TGroupe> {
  public:
-  explicit TGroupes(TDataModule1& base, QString compteur = u"GROUPE_FRAIS"_s)
+  explicit TGroupes(TDataModule1& base, QString compteur = u"GROUPE_FRAIS"_s, bool parLibelle = false)
       : TCollection(base), compteur_(std::move(compteur)) {
+    OrdreDuSelect = parLibelle;
     Charger();
   }
   TGroupe* Par(const QString& libelle) const { return parLibelle_.Premier(libelle); }
@@ -26,14 +30,11 @@ class TGroupes : public TCollection<TGroupe> {
 
  protected:
   void DefineQuery() override {
-    SelectSql = u"SELECT * FROM GROUPE_FRAIS ORDER BY GROUPE_FRAIS_ID"_s;
+    SelectSql = u"SELECT * FROM GROUPE_FRAIS ORDER BY "_s + (OrdreDuSelect ? u"LIBELLE" : u"GROUPE_FRAIS_ID");
     TableName = u"GROUPE_FRAIS"_s;
     KeyField = "GROUPE_FRAIS_ID";
     CounterName = compteur_;
-  }
-  void LoadItems(TCurseur& ligne) override { Nouveau(ligne).Libelle = ligne.Texte("LIBELLE"); }
-  void StoreRecord(const TGroupe& groupe, TLigne& ligne) const override {
-    ligne.Ecrire("LIBELLE", groupe.Libelle);
+    Colonnes = kColonnes;
   }
   void Indexer(TGroupe& groupe) override { parLibelle_.Suivre(groupe, groupe.Libelle); }
   void Desindexer(TGroupe& groupe) override { parLibelle_.Oublier(groupe); }
@@ -47,6 +48,12 @@ std::unique_ptr<TGroupe> Groupe(const QString& libelle) {
   auto groupe = std::make_unique<TGroupe>();
   groupe->Libelle = libelle;
   return groupe;
+}
+
+QString Libelles(const TGroupes& groupes) {
+  QStringList libelles;
+  for (const TGroupe& groupe : groupes) libelles += groupe.Libelle;
+  return libelles.join(u' ');
 }
 
 const QString kRangees = u"SELECT GROUPE_FRAIS_ID, LIBELLE FROM GROUPE_FRAIS ORDER BY 1"_s;
@@ -96,6 +103,7 @@ TEST(Kernel, RowsThatDisappearAndCountersThatFail) {
   groupes.Remove(b);
   groupes.Save();
   EXPECT_EQ(a.Status, TStatus::Modifie) << "the change stays in memory";
+  EXPECT_EQ(groupes.RangeesDisparues(), std::vector<TGroupe*>{&a});
   EXPECT_EQ(groupes.Supprimes(), 1) << "it is looked for again at the next save";
   base.Sql(u"INSERT INTO GROUPE_FRAIS VALUES (1, 'revenu')"_s);
   groupes.Save();
@@ -131,6 +139,78 @@ TEST(Kernel, AFailedSaveKeepsWhatItDidNotReach) {
   tropLong.Libelle = u"court"_s;
   groupes.Save();
   EXPECT_EQ(base.Rangees(kRangees), (QStringList{"1;a", "3;court", "4;c"})) << "the spent key is not reused";
+}
+
+TEST(Kernel, ARefusedSaveIsPutBackAndTheNextRowIsSaved) {
+  TBaseEssai base;
+  TGroupes groupes(*base);
+  for (const QString& libelle : {u"a"_s, u"b"_s, u"c"_s, u"d"_s}) groupes.Add(Groupe(libelle));
+  groupes.Save();
+  base.Sql(u"INSERT INTO LISTE_FRAIS (LISTEFRAIS_ID, LIBELLE, COUT) VALUES (1, 'x', 0)"_s);
+  base.Sql(u"ALTER TABLE LISTE_FRAIS ADD GROUPE INTEGER REFERENCES GROUPE_FRAIS"_s);
+  base.Sql(u"UPDATE LISTE_FRAIS SET GROUPE = 2"_s);
+
+  TGroupe& b = *groupes.Par(u"b"_s);
+  groupes.Remove(b);  // still used
+  TGroupe& c = *groupes.Par(u"c"_s);
+  c.Libelle = u"C"_s;
+  groupes.Add(c);
+  groupes.Add(Groupe(u"nouveau"_s));
+  EXPECT_THROW(groupes.Save(), EDistributor);
+  EXPECT_THROW(groupes.Save(), EDistributor) << "what was refused is refused again";
+
+  groupes.Remettre();
+  EXPECT_EQ(Libelles(groupes), u"a b c d")
+      << "in its place, with the values of the rows, without the new one";
+  EXPECT_EQ(groupes.Par(u"C"_s), nullptr);
+  EXPECT_EQ(groupes.ParCle(2), &b);
+  TGroupe& d = *groupes.ParCle(4);
+  d.Libelle = u"D"_s;
+  groupes.Add(d);
+  groupes.Save();
+  EXPECT_EQ(base.Rangees(kRangees), (QStringList{"1;a", "2;b", "3;c", "4;D"}));
+}
+
+TEST(Kernel, TheOrderOfTheSelectComesBackAfterEachSave) {
+  TBaseEssai base;
+  TGroupes groupes(*base, u"GROUPE_FRAIS"_s, true);
+  for (const QString& libelle : {u"m"_s, u"z"_s, u"a"_s}) groupes.Add(Groupe(libelle));
+  groupes.Save();
+  EXPECT_EQ(Libelles(groupes), u"a m z");
+  TGroupe& z = *groupes.Par(u"z"_s);
+  z.Libelle = u"b"_s;
+  groupes.Add(z);
+  groupes.Save();
+  EXPECT_EQ(Libelles(groupes), u"a b m");
+  EXPECT_EQ(groupes.Par(u"b"_s), &z);
+  EXPECT_TRUE(groupes.Contains(z));
+  groupes.Remove(groupes[0]);
+  groupes.Save();
+  EXPECT_EQ(Libelles(groupes), u"b m");
+}
+
+TEST(Kernel, TwoSavesInOneTransactionHoldTogetherOrNotAtAll) {
+  TBaseEssai base;
+  TGroupes groupes(*base);
+  groupes.Add(Groupe(u"ensemble 1"_s));
+  {
+    TTransactionCommune ensemble(*base);
+    groupes.Save();
+    groupes.Add(Groupe(QString(300, u'x')));
+    EXPECT_THROW(groupes.Save(), EDistributor);
+    EXPECT_THROW(TTransactionCommune{*base}, Exception) << "one at a time";
+  }
+  EXPECT_EQ(base.Rangees(kRangees), QStringList()) << "the first row went with the second";
+  TGroupes autres(*base);
+  {
+    TTransactionCommune ensemble(*base);
+    autres.Add(Groupe(u"a"_s));
+    autres.Save();
+    TQueryInternal(*base, u"UPDATE GROUPE_FRAIS SET LIBELLE = 'b'"_s).Executer();
+    EXPECT_EQ(TGroupes(*base).Count(), 0) << "nothing is seen before it is valid";
+    ensemble.Valider();
+  }
+  EXPECT_EQ(base.Rangees(kRangees), QStringList{"3;b"});
 }
 
 TEST(Kernel, IndexKeepsTheOrderOfTheCollection) {
@@ -177,7 +257,7 @@ TEST(Kernel, ValuesTravelExactly) {
       ligne.EcrireDate("D", EncodeDate(2016, 10, 3));
       ligne.Ecrire("V", u"é  "_s);
       const auto& v = ligne.Valeurs();
-      ecrire.Parametre(u"m"_s, v[0]).Parametre(u"h"_s, v[1]);
+      ecrire.Parametre(u"m"_s, v[0]).Parametre(u"H"_s, v[1]);
       ecrire.Parametre(u"d"_s, v[2]).Parametre(u"v"_s, v[3]);
       EXPECT_EQ(ecrire.Parametre(u"v2"_s, v[3]).Executer(), 1);
     }
@@ -194,4 +274,29 @@ TEST(Kernel, ValuesTravelExactly) {
     }
   EXPECT_FALSE(lu.Suivant());
   EXPECT_THROW(lu.Texte("ABSENTE"), Exception);
+}
+
+TEST(Kernel, TextsAndBlobsTravelWhole) {
+  TBaseEssai base;
+  base.Sql(u"CREATE TABLE ESSAI (ID INTEGER, V VARCHAR(250), B BLOB SUB_TYPE BINARY)"_s);
+  const QString textes[] = {u""_s, u" "_s, u"'; DROP TABLE ESSAI; --"_s, QString(250, u'é'),
+                            u"\U0001F600 12:30"_s};
+  QByteArray octets;
+  for (int i = 0; i < 100000; ++i) octets.append(static_cast<char>(i * 7));
+  TQueryInternal ecrire(*base, u"INSERT INTO ESSAI VALUES (:I, :V, :B)"_s);
+  for (int i = 0; i < 5; ++i)
+    EXPECT_EQ(ecrire.Parametre(u"I"_s, i).Parametre(u"V"_s, textes[i]).Parametre(u"B"_s, octets).Executer(),
+              1);
+  TCurseur lu(*base, u"SELECT * FROM ESSAI ORDER BY ID"_s);
+  for (const QString& texte : textes) {
+    ASSERT_TRUE(lu.Suivant());
+    EXPECT_FALSE(lu.EstNul("V")) << "an empty text is not NULL";
+    EXPECT_EQ(lu.Texte("V"), texte);
+    EXPECT_EQ(lu.Octets("B"), octets);
+  }
+  for (const int longueur : {251, 40000})
+    EXPECT_THROW(ecrire.Parametre(u"V"_s, QString(longueur, u'x')).Executer(), Exception);
+  EXPECT_EQ(TQueryInternal(*base, u"UPDATE ESSAI SET V = '12:30' WHERE ID > 1 AND V <> ':V'"_s).Executer(),
+            3);
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM ESSAI WHERE V = '12:30'"_s), u"3");
 }

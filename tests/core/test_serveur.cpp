@@ -113,7 +113,20 @@ TEST(Serveur, ARowThatHasGoneStaysModifiedAndHarmsNothing) {
   EXPECT_EQ(nullptr, TParametres(a.base).FindParametre(TParam{901}));
   EXPECT_EQ(u"gardé"_s, Relu(a.base, 902)) << "the save went on behind the missing row";
 
-  b.parametres->Remove(*b.parametres->FindParametre(TParam{901}));
+  EXPECT_EQ(b.parametres->RangeesDisparues(),
+            std::vector<TParametre*>{b.parametres->FindParametre(TParam{901})})
+      << "and can be told";
+  b.parametres->Remove(*b.parametres->FindParametre(TParam{902}));
+  a.parametres = std::make_unique<TParametres>(a.base);
+  a.parametres->SetParametre(TParam{902}, u"de A"_s);
+  a.parametres->Save();
+  b.parametres->Remettre();
+  EXPECT_EQ(nullptr, b.parametres->FindParametre(TParam{901})) << "what has gone leaves memory too";
+  EXPECT_EQ(u"de A"_s, b.parametres->GetParametre(TParam{902})) << "what comes back is what the table holds";
+
+  a.parametres->Remove(*a.parametres->FindParametre(TParam{902}));
+  a.parametres->Save();
+  b.parametres->Remove(*b.parametres->FindParametre(TParam{902}));
   EXPECT_TRUE(b.parametres->Save()) << "deleting a row that the other one has deleted";
 }
 

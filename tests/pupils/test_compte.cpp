@@ -18,19 +18,21 @@ Currency Euros(double euros) { return Currency::Arrondi(euros); }
 struct TAnneeEssai {
   explicit TAnneeEssai(TDataModule1& base)
       : tarifs(base),
-        presences(base, BornesAnnee(2016), false),
+        presences(base, BornesAnnee(2016), regles),
         frais(base, 2016),
         paiements(base, 2016),
         activites(base, 2016),
         activitesEleves(base, activites),
         eleves(base, 2016) {
     presences.Tarifs = &tarifs;
-    presences.PrixRepas[2] = Currency::Euros(5);
+    regles.PrixRepas[2] = Currency::Euros(5);
+    eleves.Regles = &regles;
     eleves.Presences = &presences;
     eleves.ListeFrais = &frais;
     eleves.Paiements = &paiements;
     eleves.ActivitesEleves = &activitesEleves;
   }
+  TReglesEcole regles;
   TTarifsGarderies tarifs;
   TPresences presences;
   TListeFrais frais;
@@ -96,10 +98,10 @@ TEST_F(TCompteEssai, ServicesSelonLeRangDansLaFamille) {
 TEST_F(TCompteEssai, LesActivitesPassentParLEleve) {
   eleve.suit(ecole.activite(u"16:00"_s, u"17:00"_s), u"13"_s);
   TAnneeEssai annee(*base);
-  annee.presences.ModeDeduction = TModeDeduction::UnEuro;
+  annee.regles.ModeDeduction = TModeDeduction::UnEuro;
   // One euro off Monday's evening and Wednesday.
   EXPECT_EQ(annee.eleves[0].TotalServices(octobre), Euros(14.25));
-  annee.eleves.TypeActivitesExt = TTypeActivitesExt::DepuisSeptembre;  // of the year 2015: too late
+  annee.regles.ActivitesExt = TTypeActivitesExt::DepuisSeptembre;  // of the year 2015: too late
   EXPECT_EQ(annee.eleves[0].TotalServices(octobre), Euros(16.25));
 }
 
@@ -137,7 +139,7 @@ TEST_F(TSoldesEssai, SoldesDansLesDeuxModes) {
   TAnneeEssai annee(*base);
   const TEleve& e = annee.eleves[0];
   for (const bool provision : {false, true}) {
-    annee.eleves.ModeProvision = provision;
+    annee.regles.ModeProvision = provision;
     const double frais = (provision ? 2 : 18) - 50;
     const double services = (provision ? 7 : 17.25) - 20.25;
     EXPECT_EQ(e.Solde(true, false), Euros(frais)) << provision;

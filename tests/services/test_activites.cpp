@@ -44,7 +44,7 @@ TEST(Activites, DuJourEtEnCours) {
   EXPECT_EQ(inscriptions.ActivitesEleve(eleve.Id)->ActiviteId, 9999);
   EXPECT_EQ(inscriptions.ActiviteEleveParCle(eleve.Id, annee)->Id, 3);
   EXPECT_EQ(inscriptions.ActiviteEleveParCle(2, annee), nullptr);
-  activites.Remove(*activites.ActiviteParId(automne));
+  activites.Remove(*activites.ParCle(automne));
   EXPECT_EQ(enCours("2016-10-03"), annee);
   EXPECT_EQ(TActivites(*base, 2017).Count(), 0);
 }

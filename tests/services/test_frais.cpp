@@ -23,7 +23,7 @@ TEST_F(TFraisEssai, CatalogueEtElevesQuiDoivent) {
   ecole.unEleve().doit(piscine).doit(estimation);
   ecole.unEleve().doit(piscine, "10.5");
   TListeFrais liste(*base, 2016);
-  TFrais& frais = *liste.FraisParId(piscine);
+  TFrais& frais = *liste.ParCle(piscine);
   EXPECT_EQ(frais.ElevesFrais(), (std::vector{1, 2}));
   ecole.unEleve().doit(piscine);
   // The list stays as read until it is told; the number never does.
@@ -32,8 +32,8 @@ TEST_F(TFraisEssai, CatalogueEtElevesQuiDoivent) {
   EXPECT_EQ(Euros(frais.TotalFrais()), "31.5000");
   frais.InvalideElevesFrais();
   EXPECT_EQ(frais.ElevesFrais(), (std::vector{1, 2, 3}));
-  EXPECT_EQ(liste.FraisParId(estimation)->NombreElevesFrais(), 1);
-  EXPECT_EQ(Euros(liste.FraisParId(estimation)->TotalFrais()), "0.0000");
+  EXPECT_EQ(liste.ParCle(estimation)->NombreElevesFrais(), 1);
+  EXPECT_EQ(Euros(liste.ParCle(estimation)->TotalFrais()), "0.0000");
 
   auto nouveau = std::make_unique<TFrais>();
   nouveau->Libelle = u"Théâtre"_s;
@@ -46,7 +46,7 @@ TEST_F(TFraisEssai, CatalogueEtElevesQuiDoivent) {
                 "SELECT LISTEFRAIS_ID, LIBELLE, COUT, TYPE_FRAIS, FLG_RECURENT, MOIS, FLG_PREVISIONNEL, "
                 "FLG_NON_OBLIGATOIRE, ANNEE_SCOLAIRE, FLG_SERVICE FROM LISTE_FRAIS WHERE LISTEFRAIS_ID = 3"),
             QStringList("3;Théâtre;0.0000;2;0;0;-;-;2016;1"));
-  EXPECT_EQ(liste.FraisParId(3), &theatre);
+  EXPECT_EQ(liste.ParCle(3), &theatre);
   EXPECT_EQ(TListeFrais(*base, 2015).Count(), 0);
 }
 
@@ -56,7 +56,7 @@ TEST_F(TFraisEssai, GroupesDePaiement) {
   ecole.unEleve().paie("3", 11, 1, "Vente");
   base.Sql("UPDATE FRAIS_ELEVE SET GROUPE_FRAIS_ID = 1 WHERE REMARQUE <> 'Autre'");
   TGroupesFrais groupes(*base);
-  TGroupeFrais& galettes = *groupes.GroupeParId(1);
+  TGroupeFrais& galettes = *groupes.ParCle(1);
   TGroupeFrais::TDetails details;
   EXPECT_EQ(galettes.DetailsPaiement(details, 1), 2);
   EXPECT_EQ(details[1]->Remarque, u"Vente 2");
@@ -129,7 +129,7 @@ TEST_F(TFraisEssai, TotauxDUnEleve) {
   // A fee with a month of its own as well; a fee that leaves the catalogue.
   base.Sql("UPDATE FRAIS_ELEVE SET MOIS = 10 WHERE LISTEFRAIS_ID IN (1, 5)");
   TListeFrais catalogue(*base, 2016);
-  catalogue.Remove(*catalogue.FraisParId(enleve));
+  catalogue.Remove(*catalogue.ParCle(enleve));
   const TAllFraisEleve l(*base, eleve.Id, 2016, &catalogue);
 
   EXPECT_EQ(Euros(l.TotalFrais()), "350.0000");         // 10 + 20 + 320

@@ -249,3 +249,14 @@ TEST_F(TTarifsEssai, AllerEtRetour) {
   EXPECT_EQ((*tarifs)[0].Cout, Currency::Brut(12345));
   EXPECT_EQ((*tarifs)[0].Cout2eEnfant, Currency());
 }
+
+TEST_F(TTarifsEssai, UneLigneAjouteeDepartageCommeApresUnRedemarrage) {
+  ecole.tarif(Matin, TousLesJours, "07:00", "08:00", Forfait, "1", ScanSortie);
+  charger();
+  tarifs->Add(Tarif(3, "07:00", "08:00", 2));
+  EXPECT_EQ(trouve(TGroupe::Garderie, "", "07:30", kMercredi), "1 07:00") << "at the end of the list";
+  tarifs->Save();
+  EXPECT_EQ(trouve(TGroupe::Garderie, "", "07:30", kMercredi), "3 07:00");
+  charger();
+  EXPECT_EQ(trouve(TGroupe::Garderie, "", "07:30", kMercredi), "3 07:00");
+}

@@ -4,10 +4,9 @@
 
 #include <QFile>
 #include <QSettings>
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QSqlRecord>
-#include <QTime>
+
+#include "core/firebird_interne.h"
+#include "core/query_internal.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,24 +28,26 @@ QString TBaseEssai::Fichier(const QString& nom, const QByteArray& contenu) const
   return Chemin(nom);
 }
 
+namespace {
+
+QString EnTexte(const Firebird::TChamp& champ) {
+  if (champ.nul < 0) return u"-"_s;
+  if (champ.type == SQL_TYPE_DATE) return DateVersQt(Firebird::Date(champ)).toString(Qt::ISODate);
+  if (champ.type == SQL_TYPE_TIME) return HeureVersQt(Firebird::Heure(champ)).toString(u"HH:mm:ss.zzz"_s);
+  if (champ.echelle < 0 || champ.type == SQL_DOUBLE) return FormatQuatreDecimales(Firebird::Montant(champ));
+  return Firebird::Texte(champ);
+}
+
+}  // namespace
+
 QStringList TBaseEssai::Rangees(const QString& sql) {
-  QSqlQuery requete(module_.UniConnection1());
-  requete.setForwardOnly(true);
-  EXPECT_TRUE(requete.exec(sql)) << requete.lastError().text().toStdString();
+  Firebird::TTransaction transaction(module_.Attache().Poignee(), false);
+  Firebird::TInstruction instruction(module_.Attache().Poignee(), transaction, sql.toUtf8());
+  instruction.Executer();
   QStringList rangees;
-  while (requete.next()) {
+  while (instruction.Suivant()) {
     QStringList valeurs;
-    for (int i = 0; i < requete.record().count(); ++i) {
-      const QVariant valeur = requete.value(i);
-      if (valeur.isNull())
-        valeurs += u"-"_s;
-      else if (valeur.metaType().id() == QMetaType::QTime)
-        valeurs += valeur.toTime().toString(u"HH:mm:ss.zzz"_s);
-      else if (valeur.metaType().id() == QMetaType::Double)
-        valeurs += QString::number(valeur.toDouble(), 'f', 4);
-      else
-        valeurs += valeur.toString();
-    }
+    for (const Firebird::TChamp& champ : instruction.Champs()) valeurs += EnTexte(champ);
     rangees += valeurs.join(u';');
   }
   return rangees;
@@ -57,7 +58,4 @@ QString TBaseEssai::Valeur(const QString& sql) {
   return rangee == u"-" ? QString() : rangee;
 }
 
-void TBaseEssai::Sql(const QString& sql) {
-  QSqlQuery requete(module_.UniConnection1());
-  EXPECT_TRUE(requete.exec(sql)) << sql.toStdString() << "\n" << requete.lastError().text().toStdString();
-}
+void TBaseEssai::Sql(const QString& sql) { TQueryInternal(module_, sql).Executer(); }

@@ -13,9 +13,9 @@ namespace {
 QString TitreActivites(TTypeActivitesExt type) {
   switch (type) {
     case TTypeActivitesExt::DepuisSeptembre:
-      return Globals.TitreActivitesExt % u" (du 28 septembre au 30 juin)";
+      return u"Activités extérieures (du 28 septembre au 30 juin)"_s;
     case TTypeActivitesExt::DepuisOctobre:
-      return Globals.TitreActivitesExt % u" (du 5 octobre au 30 juin)";
+      return u"Activités extérieures (du 5 octobre au 30 juin)"_s;
     case TTypeActivitesExt::Aucune:
       break;
   }
@@ -40,8 +40,7 @@ TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte)
 }
 
 void TFrmSignaletique::FormShow() {
-  titreActivitesExt_ =
-      TitreActivites(LireTypeActivitesExt(Globals.Parametres->GetParametre(TParam::ActivitesExt)));
+  titreActivitesExt_ = TitreActivites(Globals.Parametres->Regles().ActivitesExt);
   activitesVisibles_ = Globals.Activites != nullptr && Globals.Activites->Count() > 0;
   Annoncer();
 }
