@@ -163,17 +163,14 @@ class Photographe : public QObject {
     if (form == nullptr) throw Exception(u"L'importation ne s'ouvre pas."_s);
     Suivre({Fichier(QFileInfo(sujet_.Registre).absoluteFilePath())});
     form->btnEtape1Click();
-    const auto montrer = programme_.Dialogues.SurProgression;
     bool pris = false;
-    programme_.Dialogues.SurProgression = [&](int fait, int total, const QString& nom) {
-      montrer(fait, total, nom);
+    const TLien lien = programme_.Dialogues.SurProgression.Suivre([&](int fait, int total, const QString&) {
       if (pris || total == 0 || 2 * fait < total) return;
       pris = true;  // once the row in hand is told everywhere
       QTimer::singleShot(0, &programme_.Fenetre,
                          [this] { Prendre(programme_.Fenetre, u"importation-registre"_s); });
-    };
+    });
     form->btnEtape2Click();
-    programme_.Dialogues.SurProgression = montrer;
   }
 
   void Presences() {

@@ -53,9 +53,7 @@ TNoeud* TArbre::TrouverTexte(const QString& texte) const {
 void TArbre::Selectionner(TNoeud* noeud) {
   if (noeud == selection_) return;
   selection_ = noeud;
-  if (SurSelection) SurSelection();
+  SurSelection();
 }
 
-void TArbre::Annoncer() const {
-  if (SurChangement) SurChangement();
-}
+void TArbre::Annoncer() const { SurChangement(); }

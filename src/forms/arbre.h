@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/objet_vu.h"
+#include "forms/signal.h"
 
 /// What a view shows beside the text of a node.
 enum class TMarqueNoeud {
@@ -66,9 +67,9 @@ class TArbre {
 
   /// The nodes are shown with check boxes.
   bool CasesACocher = false;
-  std::function<void()> SurChangement;
+  TSignal<> SurChangement;
   /// The selected node is another one.
-  std::function<void()> SurSelection;
+  TSignal<> SurSelection;
 
  private:
   std::vector<std::unique_ptr<TNoeud>> racines_;

@@ -1,11 +1,11 @@
 #pragma once
 #include <QString>
-#include <functional>
 #include <optional>
 #include <typeindex>
 #include <vector>
 
 #include "forms/message.h"
+#include "forms/signal.h"
 
 class TForm;
 class TPanneau;
@@ -52,7 +52,7 @@ class TForm : public TComposant {
   /// How a modal form was answered; set before it is closed.
   TResultatModal ResultatModal = TResultatModal::Aucun;
   /// Followed by the view.
-  std::function<void()> SurChangement;
+  TSignal<> SurChangement;
 
  protected:
   /// The form appears; its key and container are known.
@@ -62,9 +62,7 @@ class TForm : public TComposant {
   /// Whether the form may be closed now.
   virtual bool FormCloseQuery() { return true; }
   /// Tells the view that the values have changed.
-  void Annoncer() const {
-    if (SurChangement) SurChangement();
-  }
+  void Annoncer() const { SurChangement(); }
 
  private:
   friend class TPanneau;

@@ -70,7 +70,7 @@ TGrille::TLot::~TLot() {
 void TGrille::Annoncer(int ligne) {
   if (lots_ > 0)
     change_ = true;
-  else if (SurChangement)
+  else
     SurChangement({ligne});
 }
 
@@ -117,7 +117,7 @@ void TGrille::Retirer(int ligne) {
   if (ligne < courante_) --courante_;
   courante_ = std::min(courante_, NombreLignes() - 1);
   Annoncer();
-  if (choisie && SurChoix) SurChoix();
+  if (choisie) SurChoix();
 }
 
 void TGrille::Vider() {
@@ -125,7 +125,7 @@ void TGrille::Vider() {
   lignes_.clear();
   courante_ = -1;
   Annoncer();
-  if (choisie && SurChoix) SurChoix();
+  if (choisie) SurChoix();
 }
 
 void TGrille::Ecrire(int ligne, int colonne, const QString& texte) {
@@ -221,7 +221,7 @@ void TGrille::ChoisirLigne(int ligne) {
   const int choisie = ligne >= 0 && ligne < NombreLignes() ? ligne : -1;
   if (choisie == courante_) return;
   courante_ = choisie;
-  if (SurChoix) SurChoix();
+  SurChoix();
 }
 
 int ComparerColonne0(const TLigneGrille& a, const TLigneGrille& b) {

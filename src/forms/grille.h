@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/objet_vu.h"
+#include "forms/signal.h"
 
 enum class TAlignement { Gauche, Centre, Droite };
 
@@ -121,9 +122,9 @@ class TGrille {
   /// The rows are shown with check boxes.
   bool CasesACocher = false;
   std::vector<TEtatGrille> Etats;
-  std::function<void(TChangement)> SurChangement;
+  TSignal<TChangement> SurChangement;
   /// The selected row is another one.
-  std::function<void()> SurChoix;
+  TSignal<> SurChoix;
 
  private:
   TLigneGrille& Modifiable(int ligne) { return lignes_.at(static_cast<size_t>(ligne)); }

@@ -76,6 +76,4 @@ void TPanneau::Liberer(TForm& form) {
   std::erase_if(places_, [&](const TPlace& place) { return place.Form.get() == &form; });
 }
 
-void TPanneau::Annoncer(TForm& form, TEtapeForm etape) const {
-  if (SurEtape) SurEtape(form, etape);
-}
+void TPanneau::Annoncer(TForm& form, TEtapeForm etape) const { SurEtape(form, etape); }

@@ -39,7 +39,7 @@ class TPanneau {
   /// Frees every form, the hidden ones too, without closing them: their data are about to go.
   void Vider();
 
-  std::function<void(TForm&, TEtapeForm)> SurEtape;
+  TSignal<TForm&, TEtapeForm> SurEtape;
 
  private:
   struct TPlace {

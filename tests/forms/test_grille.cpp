@@ -56,7 +56,7 @@ TEST(Grille, UneLigneGardeCeQuElleEst) {
   grille.Cocher(0, true);
   grille.ChoisirLigne(0);
   int choix = 0;
-  grille.SurChoix = [&] { ++choix; };
+  const TLien lien = grille.SurChoix.Suivre([&] { ++choix; });
 
   grille.Trier(ComparerColonne0);
   EXPECT_EQ(grille.LigneCourante(), 1);
@@ -127,7 +127,8 @@ TEST(Grille, LEtatSeLitCommeUnTexte) {
 TEST(Grille, AnnonceChaqueChangementOuUnLot) {
   TGrille grille = Grille(TOrdre::Texte, {u"a"_s, u"b"_s});
   std::vector<int> lignes;
-  grille.SurChangement = [&](TGrille::TChangement changement) { lignes.push_back(changement.Ligne); };
+  const TLien lien =
+      grille.SurChangement.Suivre([&](TGrille::TChangement changement) { lignes.push_back(changement.Ligne); });
   grille.Ecrire(1, 4, u"loin"_s);
   EXPECT_EQ(grille.Texte(1, 4), u"loin"_s);
   EXPECT_TRUE(grille.Texte(1, 3).isEmpty());
@@ -167,7 +168,7 @@ TEST(Arbre, OrdreEtRecherche) {
   EXPECT_EQ(arbre.TrouverTexte(u"P"_s), nullptr);
 
   int choix = 0;
-  arbre.SurSelection = [&] { ++choix; };
+  const TLien lien = arbre.SurSelection.Suivre([&] { ++choix; });
   arbre.Selectionner(&noeudLuc);
   arbre.Selectionner(&noeudLuc);
   EXPECT_EQ(choix, 1);

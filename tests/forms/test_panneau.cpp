@@ -53,11 +53,11 @@ class Panneau : public testing::Test {
  protected:
   void SetUp() override {
     journal.clear();
-    panneau.SurEtape = [this](TForm& form, TEtapeForm etape) {
+    lien = panneau.SurEtape.Suivre([this](TForm& form, TEtapeForm etape) {
       EXPECT_TRUE(etape != TEtapeForm::Affichee || panneau.Courante() == &form);
       EXPECT_TRUE(etape != TEtapeForm::Cachee || !form.EstMontree());
       etapes.push_back(etape);
-    };
+    });
   }
   template <class T>
   T* Ouvre(std::optional<int> cle = {}, TRemplacement remplacement = TRemplacement::Libere) {
@@ -67,6 +67,7 @@ class Panneau : public testing::Test {
   }
   std::vector<TEtapeForm> etapes;
   TPanneau panneau;
+  TLien lien;
 };
 
 }  // namespace

@@ -53,9 +53,9 @@ struct Apercu : testing::Test {
   }
   /// Notes where the form sends its view: "page" or "page@x".
   void Suivre(TFrmApercu& form) {
-    form.SurMontrer = [this](int page, const QRectF& place) {
+    suivi = form.SurMontrer.Suivre([this](int page, const QRectF& place) {
       montre += QString::number(page) % (place.isNull() ? u""_s : u'@' % QString::number(qRound(place.y())));
-    };
+    });
   }
 
   TBaseEssai base;
@@ -64,6 +64,7 @@ struct Apercu : testing::Test {
   TContexteApercu contexte{base.Dialogues, base.Reglages, controleur.Horloge};
   TResultat resultat;
   QStringList montre;
+  TLien suivi;
 };
 
 }  // namespace

@@ -229,7 +229,7 @@ TEST_F(Assistant, PeriodOfTheChoice) {
 TEST_F(Assistant, BothRefusalsLeaveItOpen) {
   ecran.Essai.Horloge.Moment = EncodeDate(2016, 7, 15);
   std::vector<TChampAssistant> foyers;
-  assistant.SurFoyer = [&](TChampAssistant champ) { foyers.push_back(champ); };
+  const TLien suivi = assistant.SurFoyer.Suivre([&](TChampAssistant champ) { foyers.push_back(champ); });
   const auto choix = Ouvrir([&] {
     assistant.ChoixRapportClick(1);
     while (!assistant.EstDernierePage()) assistant.btnSuivantClick();

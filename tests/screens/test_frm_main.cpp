@@ -60,8 +60,8 @@ class FrmMain : public testing::Test {
         commande.Ecran.reset();
       if (commande.Gestionnaire == TGestionnaire::AdvGlowButton16Click) commande.Ecran = Ecran<TAutreEcran>();
     }
-    Main.SurQuitterChamp = [] { journal += u"quitte"_s; };
-    Main.SurTerminer = [] { journal += u"fin"_s; };
+    quitte = Main.SurQuitterChamp.Suivre([] { journal += u"quitte"_s; });
+    fin = Main.SurTerminer.Suivre([] { journal += u"fin"_s; });
   }
   void TearDown() override {
     Main.Fermer();
@@ -93,6 +93,7 @@ class FrmMain : public testing::Test {
   TModaleEssai Modale;
   TApercuEssai Apercu;
   TFrmMain Main{*Base, Base.Reglages, Horloge, Modale, Apercu};
+  TLien quitte, fin;
 
  private:
   TEcoleEssai ecole_{Base};
@@ -177,7 +178,8 @@ TEST_F(FrmMain, TheFieldInHandIsLeftBeforeThePupilChanges) {
   Main.Montrer();
   Main.Executer(TGestionnaire::AdvGlowButton2Click);
   QString eleveQuitte = u"aucun"_s;
-  Main.SurQuitterChamp = [&] { eleveQuitte = Globals.EleveCourant ? Globals.EleveCourant->Nom : QString(); };
+  quitte = Main.SurQuitterChamp.Suivre(
+      [&] { eleveQuitte = Globals.EleveCourant ? Globals.EleveCourant->Nom : QString(); });
   journal.clear();
   Chercher("adam");
   Chercher("pir");
@@ -197,7 +199,7 @@ TEST_F(FrmMain, TheFieldInHandIsLeftBeforeThePupilChanges) {
   Globals.EleveCourant = &(*Globals.Eleves)[1];
   Main.Envoyer({TCodeMessage::EleveChange, {}});
   EXPECT_EQ(Choisi(), u"Bastin X");
-  Main.SurQuitterChamp = nullptr;  // the window is closed after this
+  quitte.Rompre();  // the window is closed after this
 }
 
 TEST_F(FrmMain, SearchFromTheStartThenOnward) {

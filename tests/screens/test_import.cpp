@@ -44,7 +44,7 @@ TEST_F(FrmImport, AFileIsShownThenTransferred) {
   Ouvrir(TFichierRegistre(1).Ecrire(Base));
   // What a view sees while it runs.
   QStringList vus;
-  Form.SurChangement = [&] {
+  TLien suivi = Form.SurChangement.Suivre([&] {
     if (!Form.Feuille().Visible) return;
     vus += u"%1 %2/%3 %4"_s.arg(Etats())
                .arg(Form.Feuille().Fait)
@@ -55,7 +55,7 @@ TEST_F(FrmImport, AFileIsShownThenTransferred) {
     Form.btnEtape2Click();
     EXPECT_FALSE(Form.Fermer()) << "nothing starts or closes meanwhile";
     EXPECT_EQ(Ecran.Niveau, TNiveauEtat::Alerte);
-  };
+  });
   Form.btnEtape2Click();
   ASSERT_EQ(vus.size(), 10);
   EXPECT_EQ(vus[3], u"TTTe----- 4/9 Nom 1234-4 Zoé");
@@ -63,7 +63,7 @@ TEST_F(FrmImport, AFileIsShownThenTransferred) {
   EXPECT_FALSE(Form.Feuille().Visible);
   EXPECT_FALSE(Form.Etape2Active());
   EXPECT_EQ(Globals.EleveCourant, nullptr);
-  Form.SurChangement = nullptr;
+  suivi.Rompre();
   EXPECT_TRUE(Form.Fermer());
 }
 

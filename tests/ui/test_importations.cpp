@@ -118,18 +118,16 @@ TEST_F(Importations, ARegisterOfANewYearClosesTheOldOne) {
   Cliquer(kRegistre1);
   int vues = 0;
   auto& form = Form<TFrmImport>();
-  const auto suite = form.SurChangement;
-  form.SurChangement = [&] {
-    suite();
+  TLien suivi = form.SurChangement.Suivre([&] {
     if (form.Feuille().Fait != 3 || ++vues > 1) return;
     EXPECT_FALSE(EstActif(kRegistre1) || EstActif(kRegistre2));
     EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"3 sur 9"));
     Programme.Fenetre().close();
     EXPECT_TRUE(Programme.EstOuvert());
     EXPECT_TRUE(Etat().contains(u"en cours")) << Etat().toStdString();
-  };
+  });
   Cliquer(kRegistre2);
-  form.SurChangement = suite;
+  suivi.Rompre();
   EXPECT_GT(vues, 0);
   EXPECT_EQ(Etat(), u"9 élèves transférés : 9 nouveaux, 0 mis à jour");
   EXPECT_FALSE(EstActif(kRegistre2));

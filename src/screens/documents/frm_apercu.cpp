@@ -164,7 +164,7 @@ QString TFrmApercu::TextePretes() const {
 
 void TFrmApercu::AllerPage(int page) {
   page_ = std::clamp(page, 0, std::max(0, PagesPretes() - 1));
-  if (SurMontrer) SurMontrer(page_, {});
+  SurMontrer(page_, {});
   Annoncer();
 }
 
@@ -258,7 +258,7 @@ void TFrmApercu::MontrerTrouvaille(const TTrouvaille* trouvaille) {
   if (trouvaille == nullptr) return;
   choixAttendu_ = false;
   page_ = trouvaille->Page;
-  if (SurMontrer) SurMontrer(page_, trouvaille->Place);
+  SurMontrer(page_, trouvaille->Place);
 }
 
 QString TFrmApercu::TexteRecherche() const {
@@ -277,10 +277,9 @@ std::optional<QString> TFrmApercu::Demander(const QString& titre, const QString&
 }
 
 void TFrmApercu::btnImprimerClick() {
-  if (!SurImprimer) return;
   Terminer();
   QString imprimante;
-  if (Essayer([&] { imprimante = SurImprimer(document_); }) && !imprimante.isEmpty())
+  if (Essayer([&] { SurImprimer(document_, imprimante); }) && !imprimante.isEmpty())
     Dire(TNiveauEtat::Succes, u"Envoyé : " % imprimante);
 }
 

@@ -101,12 +101,13 @@ class TFrmApercu : public TForm {
   QString TexteDefauts() const;
   QStringList Defauts() const;
 
-  /// Prints and gives the name of the printer, "" when the user gave up. Raises Exception.
-  std::function<QString(const TDocumentPrepare&)> SurImprimer;
+  /// The document is to be printed: who does it sets the name of the printer, and leaves it empty when the
+  /// user gave up. It may raise Exception.
+  TSignal<const TDocumentPrepare&, QString&> SurImprimer;
   TNiveauEtat NiveauEtat = TNiveauEtat::Neutre;
   QString Etat;  ///< the last thing done
   /// A page is to be shown, and on it a place (null: its top).
-  std::function<void(int page, const QRectF& place)> SurMontrer;
+  TSignal<int, const QRectF&> SurMontrer;
 
  private:
   void Commencer();

@@ -49,7 +49,7 @@ TFrmPrintWizard::TFrmPrintWizard(const TContexteEcran& contexte) : contexte_(con
   LstClasse.DefinirColonnes({{u"Nom de la classe"_s, 150}, {u"Implantation"_s, 112}});
   LstEleve.CasesACocher = LstClasse.CasesACocher = true;
   for (TGrille* liste : {&LstEleve, &LstClasse})
-    liste->SurChangement = [this](TGrille::TChangement) { Annoncer(); };
+    liens_ += liste->SurChangement.Suivre([this](TGrille::TChangement) { Annoncer(); });
   for (const int mois : kMoisFacturation) mois_ += NomMois(mois);
 }
 
@@ -240,7 +240,7 @@ void TFrmPrintWizard::KWizard1FinishButtonClick() {
 
 void TFrmPrintWizard::Refuser(const QString& texte, TChampAssistant champ) {
   contexte_.Dialogues().Message(texte);
-  if (SurFoyer) SurFoyer(champ);
+  SurFoyer(champ);
 }
 
 void TFrmPrintWizard::AjouterChoisis(TChoixDocument& choix) const {

@@ -70,7 +70,7 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   QString lblEleve, lblClasse;  ///< names of the current pupil and class
   TGrille LstEleve, LstClasse;
   QString FiltreEleve, FiltreClasse;  ///< of the two lists; a hidden row keeps its tick
-  std::function<void(TChampAssistant)> SurFoyer;
+  TSignal<TChampAssistant> SurFoyer;
 
  private:
   struct TTri {
@@ -114,4 +114,5 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   int indiceMois_ = -1;
   TDateTime dtDate1_ = 0.0, dtDate2_ = 0.0;
   TChoixDocument choix_;  ///< of the last finish
+  TLiens liens_;
 };

@@ -51,22 +51,18 @@ QString AnneeEnTexte(int annee) { return u"%1 - %2"_s.arg(annee).arg(annee + 1);
 TFrmMain::TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge& horloge,
                    IFenetreModale& modale, IApercu& apercu)
     : Controleur(base, reglages, *this, horloge), Contexte{Controleur, modale, apercu, *this, nullptr} {
-  Arbre.SurSelection = [this] {
-    if (SurSelection) SurSelection();
+  liens_ += Arbre.SurSelection.Suivre([this] {
+    SurSelection();
     tvEleveChange();
-  };
-  Panneau.SurEtape = [this](TForm& form, TEtapeForm etape) {
+  });
+  liens_ += Panneau.SurEtape.Suivre([this](TForm& form, TEtapeForm etape) {
     if (etape == TEtapeForm::Affichee) accueilDevant_ = false;
-    if (SurEtape) SurEtape(form, etape);
+    SurEtape(form, etape);
     Annoncer();
-  };
+  });
 }
 
-TFrmMain::~TFrmMain() {
-  Panneau.Vider();
-  SurSelection = nullptr;
-  Arbre.SurSelection = nullptr;
-}
+TFrmMain::~TFrmMain() { Panneau.Vider(); }
 
 void TFrmMain::FormShow() {
   try {
@@ -224,7 +220,7 @@ bool TFrmMain::RecevoirMessage(const TMessage& message) {
       }
       return true;
     case TCodeMessage::EleveChange:
-      if (noeud != nullptr && noeud == Arbre.Selection() && SurSelection)
+      if (noeud != nullptr && noeud == Arbre.Selection())
         SurSelection();  // it may stand in a class that the user has shut
       else if (noeud != nullptr)
         Arbre.Selectionner(noeud);
@@ -239,7 +235,7 @@ bool TFrmMain::RecevoirMessage(const TMessage& message) {
 
 void TFrmMain::Etat(TNiveauEtat niveau, const QString& texte) {
   etat_ = {niveau, texte};
-  if (SurEtat) SurEtat();
+  SurEtat();
 }
 
 void TFrmMain::EtatApresEcran(TNiveauEtat niveau, const QString& fait) {
@@ -324,14 +320,8 @@ void TFrmMain::FermerEcran() {
   Annoncer();
 }
 
-void TFrmMain::QuitterChamp() {
-  if (SurQuitterChamp) SurQuitterChamp();
-}
+void TFrmMain::QuitterChamp() { SurQuitterChamp(); }
 
-void TFrmMain::DureeBulles(int ms) {
-  if (SurDureeBulles) SurDureeBulles(ms);
-}
+void TFrmMain::DureeBulles(int ms) { SurDureeBulles(ms); }
 
-void TFrmMain::Terminer() {
-  if (SurTerminer) SurTerminer();
-}
+void TFrmMain::Terminer() { SurTerminer(); }

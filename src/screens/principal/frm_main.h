@@ -114,12 +114,12 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   void Terminer() override;
 
   // Followed by the view, besides SurChangement.
-  std::function<void(TForm&, TEtapeForm)> SurEtape;
-  std::function<void()> SurSelection;  ///< before the screens are told
-  std::function<void()> SurEtat;
-  std::function<void()> SurQuitterChamp;
-  std::function<void()> SurTerminer;
-  std::function<void(int)> SurDureeBulles;
+  TSignal<TForm&, TEtapeForm> SurEtape;
+  TSignal<> SurSelection;  ///< before the screens are told
+  TSignal<> SurEtat;
+  TSignal<> SurQuitterChamp;
+  TSignal<> SurTerminer;
+  TSignal<int> SurDureeBulles;
 
   TControleur Controleur;
   TContexteEcran Contexte;
@@ -154,6 +154,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   TEtatPrincipal etat_;
   QString enSuspens_;  // of the screen that was freed last
   bool enTravail_ = false;
+  TLiens liens_;
 };
 
 /// "2018 - 2019"

@@ -64,11 +64,9 @@ VuePresences::VuePresences(TfrmPresences& form, QWidget* parent)
   Disposer();
   connect(etape1_, &QPushButton::clicked, this, &VuePresences::Importer);
   connect(etape2_, &QPushButton::clicked, this, [this] { form_.btnEtape2Click(); });
-  form_.SurChangement = [this] { Actualiser(); };
+  lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
   Actualiser();
 }
-
-VuePresences::~VuePresences() { form_.SurChangement = nullptr; }
 
 void VuePresences::CreerMenu() {
   changerSource_ = menu_->addAction(QString(), this, [this] { form_.mnuImportationClick(); });

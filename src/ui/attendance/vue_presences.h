@@ -2,6 +2,8 @@
 #include <QScrollArea>
 #include <array>
 
+#include "forms/signal.h"
+
 class Compteur;
 class EtatVide;
 class Etiquette;
@@ -17,7 +19,6 @@ class VuePresences : public QScrollArea {
   Q_OBJECT
  public:
   VuePresences(TfrmPresences& form, QWidget* parent);
-  ~VuePresences() override;
 
  protected:
   void contextMenuEvent(QContextMenuEvent* evenement) override;
@@ -53,4 +54,5 @@ class VuePresences : public QScrollArea {
   VueGrille* recapitulatif_;
   EtatVide* vide_;
   bool foyerARendre_ = false;  // step 1 had the focus when it was disabled
+  TLien lien_;
 };

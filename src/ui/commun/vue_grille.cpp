@@ -86,9 +86,7 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
       grille_(grille),
       ecran_(ecran),
       modele_(new ModeleGrille(grille, this)),
-      filtre_(new FiltreGrille(grille, *modele_, this)),
-      changementAvant_(grille.SurChangement),
-      choixAvant_(grille.SurChoix) {
+      filtre_(new FiltreGrille(grille, *modele_, this)) {
   setAccessibleName(nom);
   setModel(filtre_);
   setItemDelegate(new DelegueGrille(this));
@@ -109,14 +107,9 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
   header()->setFocusPolicy(Qt::NoFocus);
   setSortingEnabled(true);
 
-  grille.SurChangement = [this](TGrille::TChangement changement) {
-    if (changementAvant_) changementAvant_(changement);
-    SuivreGrille(changement.Ligne);
-  };
-  grille.SurChoix = [this] {
-    if (choixAvant_) choixAvant_();
-    SuivreChoix();
-  };
+  liens_ += grille.SurChangement.Suivre(
+      [this](TGrille::TChangement changement) { SuivreGrille(changement.Ligne); });
+  liens_ += grille.SurChoix.Suivre([this] { SuivreChoix(); });
   PoserColonnes();
   RemettreGroupes();
   SuivreChoix();
@@ -140,8 +133,6 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
 
 VueGrille::~VueGrille() {
   if (aRetenir_) Retenir();
-  grille_.SurChangement = changementAvant_;
-  grille_.SurChoix = choixAvant_;
 }
 
 // Columns

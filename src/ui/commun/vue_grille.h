@@ -8,8 +8,7 @@ class ModeleGrille;
 class FiltreGrille;
 
 /// The view of a TGrille, which outlives it. Rows are those of the grid, whatever order and filter
-/// show. It takes SurChangement and SurChoix of the grid and calls those that stood there before.
-/// Groups fold by arrow, click, Left and Right; Space ticks; Ctrl+C copies the row with tabs,
+/// show. Groups fold by arrow, click, Left and Right; Space ticks; Ctrl+C copies the row with tabs,
 /// Ctrl+Maj+C the whole with its headers.
 class VueGrille : public QTreeView {
   Q_OBJECT
@@ -88,6 +87,5 @@ class VueGrille : public QTreeView {
   bool enCours_ = true;    ///< the view itself moves the current row, the folds or the widths
   bool aRetenir_ = false;  ///< widths or order have changed since they were kept
   bool elargir_ = false;   ///< the widening is asked for
-  std::function<void(TGrille::TChangement)> changementAvant_;
-  std::function<void()> choixAvant_;
+  TLiens liens_;
 };

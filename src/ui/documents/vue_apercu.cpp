@@ -56,18 +56,12 @@ VueApercu::VueApercu(TFrmApercu& form, QWidget* parent) : QDialog(parent), form_
   pages_->setFocus();
 }
 
-VueApercu::~VueApercu() {
-  form_.SurChangement = nullptr;
-  form_.SurMontrer = nullptr;
-  form_.SurImprimer = nullptr;
-}
-
 void VueApercu::Suivre() {
-  form_.SurChangement = [this] { Rafraichir(); };
-  form_.SurMontrer = [this](int page, const QRectF& place) { pages_->Montrer(page, place); };
-  form_.SurImprimer = [this](const TDocumentPrepare& document) {
-    return ImprimerAvecDialogue(document, form_.PageCourante(), this);
-  };
+  liens_ += form_.SurChangement.Suivre([this] { Rafraichir(); });
+  liens_ += form_.SurMontrer.Suivre([this](int page, const QRectF& place) { pages_->Montrer(page, place); });
+  liens_ += form_.SurImprimer.Suivre([this](const TDocumentPrepare& document, QString& imprimante) {
+    imprimante = ImprimerAvecDialogue(document, form_.PageCourante(), this);
+  });
   connect(&minuterie_, &QTimer::timeout, this, [this] { form_.Continuer(); });
   minuterie_.setInterval(0);
 }

@@ -2,6 +2,7 @@
 #include <QDialog>
 #include <QTimer>
 
+#include "forms/signal.h"
 #include "ui/commun/etiquette.h"
 
 class MarqueEtat;
@@ -19,7 +20,6 @@ class VueApercu : public QDialog {
   Q_OBJECT
  public:
   VueApercu(TFrmApercu& form, QWidget* parent);
-  ~VueApercu() override;
 
   PagesApercu* Pages() const { return pages_; }
   const TFrmApercu& Form() const { return form_; }
@@ -70,4 +70,5 @@ class VueApercu : public QDialog {
   QPushButton* defauts_ = nullptr;
   MarqueEtat* pretes_ = nullptr;
   Etiquette* format_ = nullptr;
+  TLiens liens_;
 };

@@ -77,14 +77,9 @@ VuePrintWizard::VuePrintWizard(TFrmPrintWizard& form, QWidget* parent)
   FoyerDePage();
 }
 
-VuePrintWizard::~VuePrintWizard() {
-  form_.SurChangement = nullptr;
-  form_.SurFoyer = nullptr;
-}
-
 void VuePrintWizard::Suivre() {
-  form_.SurChangement = [this] { Rafraichir(); };
-  form_.SurFoyer = [this](TChampAssistant champ) { AllerAuChamp(champ); };
+  liens_ += form_.SurChangement.Suivre([this] { Rafraichir(); });
+  liens_ += form_.SurFoyer.Suivre([this](TChampAssistant champ) { AllerAuChamp(champ); });
   connect(precedent_, &QPushButton::clicked, this, [this] {
     MontrerFaute({});
     form_.btnPrecedentClick();

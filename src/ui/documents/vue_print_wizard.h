@@ -15,7 +15,6 @@ class VuePrintWizard : public DialogueBase {
   Q_OBJECT
  public:
   VuePrintWizard(TFrmPrintWizard& form, QWidget* parent);
-  ~VuePrintWizard() override;
 
  protected:
   /// Next page, or the finish on the last.
@@ -66,4 +65,5 @@ class VuePrintWizard : public DialogueBase {
   SaisieDate* dates_[2] = {};
   Etiquette* annee_ = nullptr;
   Etiquette* resume_ = nullptr;
+  TLiens liens_;
 };

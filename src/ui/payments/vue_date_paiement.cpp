@@ -11,15 +11,15 @@ VueDatePaiement::VueDatePaiement(TFrmDatePaiement& form, QWidget* parent)
   setMinimumWidth(Theme::Px(400));
   Contenu()->addWidget(new ChampLibelle(u"Date de paiement :"_s, date_));
   DefinirPrincipal(u"Valider"_s);
-  form_.SurChangement = [this] {
-    date_->DefinirDate(form_.dtDatePaiement);
-    date_->selectAll();
-  };
-  form_.SurChangement();
+  lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
+  Actualiser();
   date_->setFocus();
 }
 
-VueDatePaiement::~VueDatePaiement() { form_.SurChangement = nullptr; }
+void VueDatePaiement::Actualiser() {
+  date_->DefinirDate(form_.dtDatePaiement);
+  date_->selectAll();
+}
 
 bool VueDatePaiement::Valider() {
   const TDateTime date = date_->Date().value_or(0.0);

@@ -1,4 +1,5 @@
 #pragma once
+#include "forms/signal.h"
 #include "ui/commun/dialogue_base.h"
 
 class SaisieDate;
@@ -8,12 +9,14 @@ class VueDatePaiement : public DialogueBase {
   Q_OBJECT
  public:
   VueDatePaiement(TFrmDatePaiement& form, QWidget* parent);
-  ~VueDatePaiement() override;
 
  protected:
   bool Valider() override;
 
  private:
+  void Actualiser();
+
   TFrmDatePaiement& form_;
   SaisieDate* date_;
+  TLien lien_;
 };

@@ -127,7 +127,7 @@ bool DialoguesQt::Reessayer(const TReessai& reessai) {
 }
 
 void DialoguesQt::Progression(int fait, int total, const QString& nom) {
-  if (SurProgression) SurProgression(fait, total, nom);
+  SurProgression(fait, total, nom);
 }
 
 void DialoguesQt::TraiterEvenements() { QCoreApplication::processEvents(); }

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "core/dialogues.h"
+#include "forms/signal.h"
 
 /// Answers with windows, above the one in front.
 class DialoguesQt : public IDialogues {
@@ -23,7 +24,7 @@ class DialoguesQt : public IDialogues {
   void CurseurAttente(bool actif) override;
 
   /// The main window shows the progress.
-  std::function<void(int fait, int total, const QString& nom)> SurProgression;
+  TSignal<int, int, const QString&> SurProgression;
 
  private:
   bool Demander(const QString& question, bool sansRetour);

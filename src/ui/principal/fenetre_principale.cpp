@@ -66,14 +66,6 @@ FenetrePrincipale::FenetrePrincipale(TFrmMain& form, DialoguesQt& dialogues)
 FenetrePrincipale::~FenetrePrincipale() {
   disconnect(qApp, nullptr, this, nullptr);  // the focus still moves while the widgets end
   form_.Panneau.Vider();
-  form_.SurChangement = nullptr;
-  form_.SurEtape = nullptr;
-  form_.SurSelection = nullptr;
-  form_.SurEtat = nullptr;
-  form_.SurQuitterChamp = nullptr;
-  form_.SurTerminer = nullptr;
-  form_.SurDureeBulles = nullptr;
-  dialogues_.SurProgression = nullptr;
 }
 
 void FenetrePrincipale::Disposer() {
@@ -103,16 +95,16 @@ void FenetrePrincipale::Disposer() {
 }
 
 void FenetrePrincipale::Suivre() {
-  form_.SurChangement = [this] { Actualiser(); };
-  form_.SurEtape = [this](TForm& form, TEtapeForm etape) { SuivreEtape(form, etape); };
-  form_.SurSelection = [this] { eleves_->SuivreSelection(); };
-  form_.SurEtat = [this] { etat_->MontrerEtat(); };
-  form_.SurQuitterChamp = [this] { QuitterChamp(); };
-  form_.SurTerminer = [this] { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); };
-  form_.SurDureeBulles = [this](int ms) { dureeBulles_ = ms; };
-  dialogues_.SurProgression = [this](int fait, int total, const QString& nom) {
-    Progresser(fait, total, nom);
-  };
+  liens_ += form_.SurChangement.Suivre([this] { Actualiser(); });
+  liens_ += form_.SurEtape.Suivre([this](TForm& form, TEtapeForm etape) { SuivreEtape(form, etape); });
+  liens_ += form_.SurSelection.Suivre([this] { eleves_->SuivreSelection(); });
+  liens_ += form_.SurEtat.Suivre([this] { etat_->MontrerEtat(); });
+  liens_ += form_.SurQuitterChamp.Suivre([this] { QuitterChamp(); });
+  liens_ += form_.SurTerminer.Suivre(
+      [this] { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); });
+  liens_ += form_.SurDureeBulles.Suivre([this](int ms) { dureeBulles_ = ms; });
+  liens_ += dialogues_.SurProgression.Suivre(
+      [this](int fait, int total, const QString& nom) { Progresser(fait, total, nom); });
 }
 
 void FenetrePrincipale::Demarrer() {

@@ -73,4 +73,5 @@ class FenetrePrincipale : public QMainWindow {
   bool foyerDuContenu_ = false;  // it was in the screen that has just gone
   bool feuilleOuverte_ = false;  // by this window, which then shuts it
   int dureeBulles_ = -1;
+  TLiens liens_;
 };

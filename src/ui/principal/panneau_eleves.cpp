@@ -120,11 +120,9 @@ PanneauEleves::PanneauEleves(TFrmMain& form, QWidget* parent)
   colonne->addWidget(compte_);
   setFixedWidth(Theme::Px(248));
 
-  form_.Arbre.SurChangement = [this] { Relire(); };
+  lien_ = form_.Arbre.SurChangement.Suivre([this] { Relire(); });
   Relire();
 }
-
-PanneauEleves::~PanneauEleves() { form_.Arbre.SurChangement = nullptr; }
 
 void PanneauEleves::CreerRecherche() {
   recherche_ = new QLineEdit;

@@ -2,6 +2,8 @@
 #include <QSet>
 #include <QWidget>
 
+#include "forms/signal.h"
+
 class Etiquette;
 class ModeleArbre;
 class QAction;
@@ -14,7 +16,6 @@ class PanneauEleves : public QWidget {
   Q_OBJECT
  public:
   PanneauEleves(TFrmMain& form, QWidget* parent = nullptr);
-  ~PanneauEleves() override;
 
   /// To the search, its text selected.
   void AllerALaRecherche();
@@ -50,4 +51,5 @@ class PanneauEleves : public QWidget {
   // By their path, so that a tree built anew opens as it was: sites stand open, classes shut.
   QSet<QString> fermes_;
   QSet<QString> ouverts_;
+  TLien lien_;
 };

@@ -31,11 +31,9 @@ VueImport::VueImport(TFrmImport& form, QWidget* parent)
   Disposer();
   connect(etape1_, &QPushButton::clicked, this, [this] { Faire(&TFrmImport::btnEtape1Click); });
   connect(etape2_, &QPushButton::clicked, this, [this] { Faire(&TFrmImport::btnEtape2Click); });
-  form_.SurChangement = [this] { Actualiser(); };
+  lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
   Actualiser();
 }
-
-VueImport::~VueImport() { form_.SurChangement = nullptr; }
 
 // Off during the work, the step in hand has lost the focus: it goes to the next one, also after a fault.
 void VueImport::Faire(void (TFrmImport::*etape)()) {

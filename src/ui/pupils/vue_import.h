@@ -1,6 +1,8 @@
 #pragma once
 #include <QWidget>
 
+#include "forms/signal.h"
+
 class Compteur;
 class EtatVide;
 class FeuilleProgression;
@@ -14,7 +16,6 @@ class VueImport : public QWidget {
   Q_OBJECT
  public:
   VueImport(TFrmImport& form, QWidget* parent);
-  ~VueImport() override;
 
  private:
   void Faire(void (TFrmImport::*etape)());
@@ -31,4 +32,5 @@ class VueImport : public QWidget {
   VueGrille* grille_;
   EtatVide* vide_;
   bool feuilleOuverte_ = false;
+  TLien lien_;
 };

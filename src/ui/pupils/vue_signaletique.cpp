@@ -52,13 +52,11 @@ VueSignaletique::VueSignaletique(TFrmSignaletique& form, QWidget* parent)
   connect(frais_, &VueGrille::Activee, this, [this] { form_.ModificationDemandee(); });
   Disposer();
   identite_->OrdonnerTab();
-  form_.SurChangement = [this] { Actualiser(); };
+  lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
   Actualiser();
 }
 
 // The lists look at the grids of the form until their end.
-VueSignaletique::~VueSignaletique() { form_.SurChangement = nullptr; }
-
 QWidget* VueSignaletique::CreerReleve() {
   cmbMois_ = new QComboBox;
   cmbMois_->addItems(TFrmSignaletique::NomsMois());

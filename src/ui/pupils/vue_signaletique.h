@@ -1,6 +1,8 @@
 #pragma once
 #include <QScrollArea>
 
+#include "forms/signal.h"
+
 class EtatVide;
 class FicheIdentite;
 class PiedDeGrille;
@@ -15,7 +17,6 @@ class VueSignaletique : public QScrollArea {
   Q_OBJECT
  public:
   explicit VueSignaletique(TFrmSignaletique& form, QWidget* parent = nullptr);
-  ~VueSignaletique() override;
 
  protected:
   void resizeEvent(QResizeEvent* evenement) override;
@@ -44,4 +45,5 @@ class VueSignaletique : public QScrollArea {
   PiedDeGrille* piedFrais_;
   EtatVide* sansFrais_;
   int colonnes_ = 0;
+  TLien lien_;
 };
