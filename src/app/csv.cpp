@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "core/exceptions.h"
+#include "core/texte_separe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,11 +11,7 @@ TCsv::TCsv(const QStringList& entete) { Ligne(entete); }
 
 void TCsv::Ligne(const QStringList& champs) {
   QStringList cites;
-  for (QString champ : champs) {
-    if (champ.contains(u';') || champ.contains(u'"') || champ.contains(u'\n') || champ.contains(u'\r'))
-      champ = u'"' + champ.replace(u'"', u"\"\""_s) + u'"';
-    cites += champ;
-  }
+  for (const QString& champ : champs) cites += ChampSepare(champ);
   EcrireLigne(cites.join(u';'));
 }
 

@@ -31,6 +31,10 @@ QString FormatDeuxDecimales(Currency montant) {
   return Decimal(v < 0 ? -cents : cents, 2, u',');
 }
 
+QString FormatPrix(Currency montant) {
+  return montant == montant.TronqueAuCent() ? FormatDeuxDecimales(montant) : FormatNombre(montant);
+}
+
 QString FormatQuatreDecimales(Currency montant) { return Decimal(montant.EnBrut(), 4, u'.'); }
 
 QString FormatNombre(Currency montant) {

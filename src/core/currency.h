@@ -44,6 +44,8 @@ class Currency {
 
 /// "%.2f" in the locale of the school: "-12,35". Half a cent goes away from zero.
 QString FormatDeuxDecimales(Currency montant);
+/// The same with every decimal that it has: "0,50", "0,0125".
+QString FormatPrix(Currency montant);
 /// Four decimals and a dot, as the batch program prints: "-12.3450".
 QString FormatQuatreDecimales(Currency montant);
 /// The shortest decimal text with a comma: "12,5", "3", "-0,2".

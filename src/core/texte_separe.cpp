@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringDecoder>
+#include <algorithm>
 
 #include "core/exceptions.h"
 
@@ -107,4 +108,10 @@ TTexteSepare TTexteSepare::Depuis(const QByteArray& octets, const QString& nom) 
 
 QString TTexteSepare::Cellule(int ligne, int colonne) const {
   return Lignes[static_cast<std::size_t>(ligne)].value(colonne);
+}
+
+QString ChampSepare(const QString& champ) {
+  const bool simple = std::ranges::none_of(
+      champ, [](QChar c) { return c == u';' || c == u'"' || c == u'\n' || c == u'\r'; });
+  return simple ? champ : u'"' % QString(champ).replace(u'"', u"\"\""_s) % u'"';
 }

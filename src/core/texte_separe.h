@@ -20,5 +20,8 @@ class TTexteSepare {
   std::vector<QStringList> Lignes;
 };
 
+/// A field as such a text holds it: in quotes when it holds a ";", a quote or a line end.
+QString ChampSepare(const QString& champ);
+
 /// UTF-8 when the bytes are valid, else Windows-1252; a byte order mark is left out.
 QString TexteDepuisOctets(const QByteArray& octets);

@@ -1,56 +1,14 @@
 #include "forms/grille.h"
 
 #include <algorithm>
-#include <limits>
 #include <numeric>
 
 #include "core/comparaisons.h"
-#include "core/formats.h"
-#include "core/lecture_dates.h"
+#include "core/texte_separe.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The number in a text such as "-1 234,50 €"; the lowest of all when there is none.
-double Nombre(const QString& texte) {
-  QString chiffres;
-  for (QChar c : texte) {
-    if (c.isDigit()) chiffres += c;
-    if ((c == u'-' || c == u'\u2212') && chiffres.isEmpty()) chiffres += u'-';
-    if (c == u',') chiffres += u'.';
-  }
-  bool lu = false;
-  const double valeur = chiffres.toDouble(&lu);
-  return lu ? valeur : std::numeric_limits<double>::lowest();
-}
-
-int ComparerNombres(double a, double b) { return a < b ? -1 : a > b ? 1 : 0; }
-
-/// The place of "jeudi 22 novembre" in a school year; -1 when it is no day.
-int RangJour(const QString& texte) {
-  static const QStringList kMois = [] {
-    QStringList noms;
-    for (int rang = 0; rang < 12; ++rang) noms += LocaleEcole().monthName((rang + 8) % 12 + 1);
-    return noms;
-  }();
-  const auto mois = kMois.indexOf(texte.section(u' ', -1));
-  return mois < 0 ? -1 : static_cast<int>(mois) * 31 + texte.section(u' ', -2, -2).toInt();
-}
-
-int ComparerCellules(TOrdre ordre, const QString& a, const QString& b) {
-  switch (ordre) {
-    case TOrdre::Nombre:
-      return ComparerNombres(Nombre(a), Nombre(b));
-    case TOrdre::Date:
-      return ComparerNombres(LireDateBarre(a), LireDateBarre(b));
-    case TOrdre::Jour:
-      return RangJour(a) - RangJour(b);
-    case TOrdre::Texte:
-      break;
-  }
-  return ComparerTextes(a, b);
-}
 
 /// Lower case, and accents as characters of their own that are left out.
 QString Simplifier(const QString& texte) {
@@ -85,14 +43,14 @@ void TGrille::ChangerLargeur(int colonne, int largeur) {
   colonnes_.at(static_cast<size_t>(colonne)).Largeur = largeur;
 }
 
-int TGrille::Ajouter(QStringList textes, TObjetVu objet, int etat) {
-  lignes_.push_back({std::move(textes), objet, etat});
+int TGrille::Ajouter(TCellules cellules, TObjetVu objet, int etat) {
+  lignes_.push_back({std::move(cellules), objet, etat});
   Annoncer();
   return NombreLignes() - 1;
 }
 
-int TGrille::AjouterTete(QStringList textes, TObjetVu objet) {
-  lignes_.push_back({.Textes = std::move(textes), .Objet = objet, .Tete = true});
+int TGrille::AjouterTete(TCellules cellules, TObjetVu objet) {
+  lignes_.push_back({.Cellules = std::move(cellules), .Objet = objet, .Tete = true});
   Annoncer();
   return NombreLignes() - 1;
 }
@@ -105,9 +63,9 @@ int TGrille::TeteDe(int ligne) const {
 
 void TGrille::Fermer(int tete, bool ferme) {
   if (ferme)
-    fermes_.insert(Texte(tete, 0));
+    fermes_.insert(Nom(tete));
   else
-    fermes_.remove(Texte(tete, 0));
+    fermes_.remove(Nom(tete));
 }
 
 void TGrille::Retirer(int ligne) {
@@ -128,15 +86,16 @@ void TGrille::Vider() {
   if (choisie) SurChoix();
 }
 
-void TGrille::Ecrire(int ligne, int colonne, const QString& texte) {
-  QStringList& textes = Modifiable(ligne).Textes;
-  while (textes.size() <= colonne) textes.append(QString());
-  textes[colonne] = texte;
+void TGrille::Ecrire(int ligne, int colonne, TValeur valeur) {
+  TCellules& cellules = Modifiable(ligne).Cellules;
+  const auto place = static_cast<size_t>(colonne);
+  if (cellules.size() <= place) cellules.resize(place + 1);
+  cellules[place] = std::move(valeur);
   Annoncer(ligne);
 }
 
-void TGrille::EcrireLigne(int ligne, QStringList textes) {
-  Modifiable(ligne).Textes = std::move(textes);
+void TGrille::EcrireLigne(int ligne, TCellules cellules) {
+  Modifiable(ligne).Cellules = std::move(cellules);
   Annoncer(ligne);
 }
 
@@ -161,19 +120,15 @@ void TGrille::CocherTout(bool coche) {
 }
 
 void TGrille::Trier(int colonne, bool croissant) {
-  const TOrdre ordre = Colonne(colonne).Ordre;
-  Trier([=](const TLigneGrille& a, const TLigneGrille& b) {
-    const int sens = ComparerCellules(ordre, a.Texte(colonne), b.Texte(colonne));
-    return croissant ? sens : -sens;
-  });
-}
-
-void TGrille::Trier(const std::function<int(const TLigneGrille&, const TLigneGrille&)>& comparer) {
+  const auto avant = [&](size_t a, size_t b) {
+    const int sens = ComparerLignes(lignes_[a], lignes_[b], colonne);
+    return croissant ? sens < 0 : sens > 0;
+  };
   std::vector<size_t> rangs(lignes_.size());
   std::iota(rangs.begin(), rangs.end(), size_t{0});
   for (auto debut = rangs.begin(); debut != rangs.end();) {
     auto fin = std::find_if(debut, rangs.end(), [&](size_t rang) { return lignes_[rang].Tete; });
-    std::stable_sort(debut, fin, [&](size_t a, size_t b) { return comparer(lignes_[a], lignes_[b]) < 0; });
+    std::stable_sort(debut, fin, avant);
     debut = fin == rangs.end() ? fin : fin + 1;
   }
   std::vector<TLigneGrille> triees;
@@ -188,26 +143,40 @@ void TGrille::Trier(const std::function<int(const TLigneGrille&, const TLigneGri
   Annoncer();
 }
 
-int TGrille::Comparer(int a, int b, int colonne) const {
-  return ComparerCellules(Colonne(colonne).Ordre, TexteVu(a, colonne), TexteVu(b, colonne));
+int TGrille::ComparerLignes(const TLigneGrille& a, const TLigneGrille& b, int colonne) const {
+  const TGenre genre = Colonne(colonne).Genre;
+  if (genre != TGenre::Etat) return ComparerValeurs(genre, a.Valeur(colonne), b.Valeur(colonne));
+  return ComparerTextes(Etats.at(static_cast<size_t>(a.Etat)).Texte,
+                        Etats.at(static_cast<size_t>(b.Etat)).Texte);
 }
 
+int TGrille::Comparer(int a, int b, int colonne) const { return ComparerLignes(Ligne(a), Ligne(b), colonne); }
+
 int TGrille::ColonneEtat() const {
-  if (Etats.empty()) return -1;
-  const auto colonne = std::ranges::find(colonnes_, u"État"_s, &TColonneGrille::Titre);
+  const auto colonne = std::ranges::find(colonnes_, TGenre::Etat, &TColonneGrille::Genre);
   return colonne == colonnes_.end() ? -1 : static_cast<int>(colonne - colonnes_.begin());
 }
 
-QString TGrille::TexteVu(int ligne, int colonne) const {
+TValeur TLigneGrille::Valeur(int colonne) const {
+  const auto place = static_cast<size_t>(colonne);
+  return place < Cellules.size() ? Cellules[place] : TValeur();
+}
+
+QString TGrille::Texte(int ligne, int colonne) const {
   const TLigneGrille& vue = Ligne(ligne);
-  return colonne == ColonneEtat() && !vue.Tete ? Etats.at(static_cast<size_t>(vue.Etat)).Texte
-                                               : vue.Texte(colonne);
+  const TGenre genre = Colonne(colonne).Genre;
+  if (genre == TGenre::Etat && !vue.Tete) return Etats.at(static_cast<size_t>(vue.Etat)).Texte;
+  return TexteDe(genre, vue.Valeur(colonne));
+}
+
+QStringList TGrille::Textes(int ligne) const {
+  QStringList textes;
+  for (int colonne = 0; colonne < NombreColonnes(); ++colonne) textes += Texte(ligne, colonne);
+  return textes;
 }
 
 bool TGrille::Contient(int ligne, const QString& cherche) const {
-  QStringList vus = Ligne(ligne).Textes;
-  if (const int colonne = ColonneEtat(); colonne >= 0) vus += TexteVu(ligne, colonne);
-  const QString textes = Simplifier(vus.join(u'\n'));
+  const QString textes = Simplifier(Textes(ligne).join(u'\n'));
   const QStringList mots = Simplifier(cherche).split(u' ', Qt::SkipEmptyParts);
   return std::ranges::all_of(mots, [&](const QString& mot) { return textes.contains(mot); });
 }
@@ -224,10 +193,19 @@ void TGrille::ChoisirLigne(int ligne) {
   SurChoix();
 }
 
-int ComparerColonne0(const TLigneGrille& a, const TLigneGrille& b) {
-  return ComparerTextes(a.Texte(0), b.Texte(0));
-}
-
-int ComparerColonne1(const TLigneGrille& a, const TLigneGrille& b) {
-  return ComparerTextes(a.Texte(1), b.Texte(1));
+QString EnCsv(const TGrille& grille, const std::vector<int>& lignes, const std::vector<int>& colonnes) {
+  QStringList rangees;
+  const auto ajouter = [&](auto&& cellule) {
+    QStringList cellules;
+    for (const int colonne : colonnes) cellules += ChampSepare(cellule(colonne));
+    rangees += cellules.join(u';');
+  };
+  ajouter([&](int colonne) { return grille.Colonne(colonne).Titre; });
+  for (const int ligne : lignes)
+    ajouter([&](int colonne) {
+      const TGenre genre = grille.Colonne(colonne).Genre;
+      return genre == TGenre::Etat ? grille.Texte(ligne, colonne)
+                                   : TexteBrut(genre, grille.Ligne(ligne).Valeur(colonne));
+    });
+  return rangees.join(u"\r\n"_s) % u"\r\n";
 }

@@ -2,27 +2,16 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
-#include <functional>
 #include <vector>
 
 #include "forms/objet_vu.h"
 #include "forms/signal.h"
-
-enum class TAlignement { Gauche, Centre, Droite };
-
-/// How the texts of a column are put in order.
-enum class TOrdre {
-  Texte,   ///< in the language of the school
-  Nombre,  ///< "-1.234,50 €"; a text without digits comes first
-  Date,    ///< "dd/mm/yyyy"; what cannot be read comes first
-  Jour,    ///< "jeudi 22 novembre", September first; what cannot be read comes first
-};
+#include "forms/valeur.h"
 
 struct TColonneGrille {
   QString Titre;
   int Largeur = 100;  ///< in 1/96 inch
-  TAlignement Alignement = TAlignement::Gauche;
-  TOrdre Ordre = TOrdre::Texte;
+  TGenre Genre = TGenre::Texte;
 };
 
 /// A state of the rows: a word and the name of an icon, never a colour alone.
@@ -32,17 +21,17 @@ struct TEtatGrille {
 };
 
 struct TLigneGrille {
-  QStringList Textes;
+  TCellules Cellules;
   TObjetVu Objet;
   int Etat = 0;  ///< index into the states of the grid
   bool Coche = false;
   bool Tete = false;  ///< heads the rows below it, down to the next head
 
-  /// Empty for a cell that was never written.
-  QString Texte(int colonne) const { return Textes.value(colonne); }
+  /// Nothing for a cell that was never written.
+  TValeur Valeur(int colonne) const;
 };
 
-/// A table of texts: what a screen shows, sorts and filters, and what a list prints. Indexes are
+/// A table of values: what a screen shows, sorts and filters, and what a list prints. Indexes are
 /// from 0; one outside the grid is a fault of the caller, but for those that say otherwise.
 /// Rows may stand in groups, each below its head; one before the first head belongs to none.
 class TGrille {
@@ -75,24 +64,26 @@ class TGrille {
 
   int NombreLignes() const { return static_cast<int>(lignes_.size()); }
   const TLigneGrille& Ligne(int ligne) const { return lignes_.at(static_cast<size_t>(ligne)); }
-  QString Texte(int ligne, int colonne) const { return Ligne(ligne).Texte(colonne); }
+  /// What a user reads in the cell: its value as the column shows it, the word of the row's state.
+  QString Texte(int ligne, int colonne) const;
+  QStringList Textes(int ligne) const;
 
   /// Returns the index of the new row, which is the last.
-  int Ajouter(QStringList textes, TObjetVu objet = {}, int etat = 0);
+  int Ajouter(TCellules cellules, TObjetVu objet = {}, int etat = 0);
   /// A head; the rows added after it are its group. Shut when the group of that name (column 0) was
   /// shut before, so that a list that is filled again keeps what the user folded.
-  int AjouterTete(QStringList textes, TObjetVu objet = {});
+  int AjouterTete(TCellules cellules, TObjetVu objet = {});
   /// The head above the row; -1 for a head and for a row of no group.
   int TeteDe(int ligne) const;
-  bool EstFerme(int tete) const { return fermes_.contains(Texte(tete, 0)); }
+  bool EstFerme(int tete) const { return fermes_.contains(Nom(tete)); }
   /// The user folded or opened the group; announces nothing.
   void Fermer(int tete, bool ferme);
   /// The row behind it becomes the current one if it was, or the last.
   void Retirer(int ligne);
   /// Removes the rows; columns stay.
   void Vider();
-  void Ecrire(int ligne, int colonne, const QString& texte);
-  void EcrireLigne(int ligne, QStringList textes);
+  void Ecrire(int ligne, int colonne, TValeur valeur);
+  void EcrireLigne(int ligne, TCellules cellules);
   void ChangerObjet(int ligne, TObjetVu objet);
   void ChangerEtat(int ligne, int etat);
   void Cocher(int ligne, bool coche);
@@ -100,15 +91,10 @@ class TGrille {
 
   /// Stable; the current row stays on its row. Rows stay in their group, groups in their order.
   void Trier(int colonne, bool croissant = true);
-  /// The same by a comparison of two rows (below 0, 0 or above 0).
-  void Trier(const std::function<int(const TLigneGrille&, const TLigneGrille&)>& comparer);
   /// Order of two rows by the value in that column: below 0, 0 or above 0.
   int Comparer(int a, int b, int colonne) const;
-  /// The column that shows the word of the row's state: the one titled "État"; -1 when the grid has
-  /// no such column or no states.
+  /// The column of the states; -1 when the grid has none.
   int ColonneEtat() const;
-  /// What a user reads in the cell: its text, in the column of the states the word of the state.
-  QString TexteVu(int ligne, int colonne) const;
   /// Whether a cell of the row contains each word of the text, without regard to case and accents.
   bool Contient(int ligne, const QString& cherche) const;
   /// -1 when no row carries the object.
@@ -127,6 +113,8 @@ class TGrille {
   TSignal<> SurChoix;
 
  private:
+  QString Nom(int tete) const { return Texte(tete, 0); }
+  int ComparerLignes(const TLigneGrille& a, const TLigneGrille& b, int colonne) const;
   TLigneGrille& Modifiable(int ligne) { return lignes_.at(static_cast<size_t>(ligne)); }
   void Annoncer(int ligne = -1);
 
@@ -138,7 +126,5 @@ class TGrille {
   bool change_ = false;
 };
 
-/// Order of two rows by the text in column 0, in the language of the school.
-int ComparerColonne0(const TLigneGrille& a, const TLigneGrille& b);
-/// The same by column 1.
-int ComparerColonne1(const TLigneGrille& a, const TLigneGrille& b);
+/// The rows in that order as a file for a spreadsheet: a head, ";" between the cells, amounts as numbers.
+QString EnCsv(const TGrille& grille, const std::vector<int>& lignes, const std::vector<int>& colonnes);

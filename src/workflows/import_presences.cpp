@@ -37,25 +37,25 @@ QString NomArchive(TDateTime moment) {
       .arg(heure.second());
 }
 
-QStringList LigneRecapitulatif(const TPresence& presence) {
+TCellules LigneRecapitulatif(const TPresence& presence) {
   const TEleve* eleve = Globals.Eleves->TrouverParId(presence.EleveId);
   return {eleve->Nom,
           eleve->Prenom,
-          FormatJour(presence.DateReleve),
+          presence.DateReleve,
           Texte(presence.TypePresence),
-          FormatHeureCourte(presence.HeureEntree),
-          FormatHeureCourte(presence.HeureSortie),
+          presence.HeureEntree,
+          presence.HeureSortie,
           eleve->Matricule};
 }
 
-QStringList LigneAnomalie(const TAnomalie& anomalie) {
+TCellules LigneAnomalie(const TAnomalie& anomalie) {
   if (anomalie.Presence) return LigneRecapitulatif(*anomalie.Presence);
   return {u"Matricule inconnu ("_s + anomalie.Matricule + u')',
           QString(),
-          FormatJour(anomalie.Date),
+          anomalie.Date,
           Texte(static_cast<TTypePresence>(anomalie.TypePresence)),
-          FormatHeureCourte(anomalie.Entree),
-          FormatHeureCourte(anomalie.Sortie),
+          anomalie.Entree,
+          anomalie.Sortie,
           QString()};
 }
 

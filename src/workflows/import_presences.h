@@ -4,6 +4,7 @@
 
 #include "application/controleur.h"
 #include "core/texte_separe.h"
+#include "forms/valeur.h"
 
 /// A line that cannot be stored as it is.
 struct TAnomalie {
@@ -91,9 +92,9 @@ class TImportPresences {
 };
 
 /// A line of the grid "Récapitulatif": name, first name, day, kind, entry, exit, register number.
-QStringList LigneRecapitulatif(const TPresence& presence);
+TCellules LigneRecapitulatif(const TPresence& presence);
 /// A line of the grid "Anomalies", in the same columns.
-QStringList LigneAnomalie(const TAnomalie& anomalie);
+TCellules LigneAnomalie(const TAnomalie& anomalie);
 
 /// "Presences-3.9.2016-7h5m0s.txt": the name under which a stored file is archived.
 QString NomArchive(TDateTime moment);

@@ -2,6 +2,7 @@
 
 #include "forms/arbre.h"
 #include "forms/grille.h"
+#include "support/valeurs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,11 +11,13 @@ namespace {
 struct TEleveFictif {};
 struct TClasseFictive {};
 
-TGrille Grille(TOrdre ordre, const QStringList& textes) {
-  TGrille grille({{u"Nom"_s, 200}, {u"Valeur"_s, 80, TAlignement::Droite, ordre}});
-  for (const QString& texte : textes) grille.Ajouter({u"x"_s, texte});
+TGrille Grille(TGenre genre, const TCellules& valeurs) {
+  TGrille grille({{u"Nom"_s, 200}, {u"Valeur"_s, 80, genre}});
+  for (const TValeur& valeur : valeurs) grille.Ajouter({u"x"_s, valeur});
   return grille;
 }
+
+Currency M(const char* montant) { return StrToCurr(QString::fromUtf8(montant)); }
 
 QStringList Colonne(const TGrille& grille, int colonne) {
   QStringList textes;
@@ -24,20 +27,30 @@ QStringList Colonne(const TGrille& grille, int colonne) {
 
 }  // namespace
 
-TEST(Grille, TrieSelonLaNatureDeLaColonne) {
+// By the value, never by what is displayed: neither "jeu." before "lun." nor "Avril" before "Janvier".
+TEST(Grille, TrieSelonLaValeur) {
   const struct {
-    TOrdre Ordre;
-    const char* Melange;
+    TGenre Genre;
+    TCellules Melange;
     const char* Trie;
   } cas[] = {
-      {TOrdre::Texte, "Zoé|élan|Eric|abbé", "abbé|élan|Eric|Zoé"},
-      {TOrdre::Nombre, "1.234,50 €|-3,00 €||20,00 €|3", "|-3,00 €|3|20,00 €|1.234,50 €"},
-      {TOrdre::Jour, "samedi 1 juin|jeudi 22 novembre||lundi 3 septembre|mercredi 7 novembre",
-       "|lundi 3 septembre|mercredi 7 novembre|jeudi 22 novembre|samedi 1 juin"},
-      {TOrdre::Date, "02/10/2016|03/09/2016||01/01/2017", "|03/09/2016|02/10/2016|01/01/2017"},
+      {TGenre::Texte, {u"Zoé"_s, u"élan"_s, u"Eric"_s, u"abbé"_s}, "abbé|élan|Eric|Zoé"},
+      {TGenre::Entier, {20, {}, 3, -1}, "|-1|3|20"},
+      {TGenre::Montant,
+       {M("1234,50"), M("-3"), {}, M("20"), u"6 relevés"_s},
+       "|6 relevés|-3,00 €|20,00 €|1\u202f234,50 €"},
+      {TGenre::Prix, {M("0,5"), M("0,0125")}, "0,0125 €|0,50 €"},
+      {TGenre::DateCourte,
+       {J("2016-10-06"), J("2016-10-03"), J("2017-01-02")},
+       "lun. 03/10|jeu. 06/10|lun. 02/01"},
+      {TGenre::DateLongue, {J("2016-11-22"), J("2016-09-03"), 0.0}, "|samedi 3 septembre|mardi 22 novembre"},
+      {TGenre::Date, {J("2016-10-02"), u"31/02/2016"_s, J("2016-09-03")}, "31/02/2016|03/09/2016|02/10/2016"},
+      {TGenre::Heure, {H("16:00"), H("07:05"), 0.0}, "|07:05|16:00"},
+      {TGenre::HeureH, {H("16:00"), H("07:05")}, "07h05|16h00"},
+      {TGenre::Mois, {4, 1, 10, 9, 0}, "|Septembre|Octobre|Janvier|Avril"},
   };
-  for (const auto& [ordre, melange, trie] : cas) {
-    TGrille grille = Grille(ordre, QString::fromUtf8(melange).split(u'|'));
+  for (const auto& [genre, melange, trie] : cas) {
+    TGrille grille = Grille(genre, melange);
     QStringList attendu = QString::fromUtf8(trie).split(u'|');
     grille.Trier(1);
     EXPECT_EQ(Colonne(grille, 1), attendu);
@@ -47,9 +60,22 @@ TEST(Grille, TrieSelonLaNatureDeLaColonne) {
   }
 }
 
+TEST(Grille, SExporteEnCsv) {
+  TGrille grille({{u"Nom"_s},
+                  {u"Prix"_s, 80, TGenre::Prix},
+                  {u"Jour"_s, 80, TGenre::DateCourte},
+                  {u"État"_s, 80, TGenre::Etat}});
+  grille.Etats = {{}, {u"Dû"_s, {}}};
+  grille.Ajouter({u"Mer ; \"été\""_s, M("1234,0125"), J("2016-10-06")}, {}, 1);
+  grille.AjouterTete({u"Tête"_s, M("2"), u"6 relevés"_s});
+  EXPECT_EQ(
+      EnCsv(grille, {1, 0}, {1, 0, 2, 3}),
+      u"Prix;Nom;Jour;État\r\n2,00;Tête;6 relevés;\r\n1234,0125;\"Mer ; \"\"été\"\"\";06/10/2016;Dû\r\n"_s);
+}
+
 TEST(Grille, UneLigneGardeCeQuElleEst) {
   TEleveFictif anne, luc;
-  TGrille grille = Grille(TOrdre::Texte, {});
+  TGrille grille = Grille(TGenre::Texte, {});
   grille.Ajouter({u"Luc"_s, u"P1"_s}, &luc, 2);
   grille.Ajouter({u"Anne"_s, u"P1"_s}, &anne);
   grille.Ajouter({u"Marc"_s, u"M3"_s});
@@ -58,7 +84,7 @@ TEST(Grille, UneLigneGardeCeQuElleEst) {
   int choix = 0;
   const TLien lien = grille.SurChoix.Suivre([&] { ++choix; });
 
-  grille.Trier(ComparerColonne0);
+  grille.Trier(0);
   EXPECT_EQ(grille.LigneCourante(), 1);
   EXPECT_EQ(grille.Ligne(1).Objet.En<TEleveFictif>(), &luc);
   EXPECT_EQ(grille.Ligne(1).Objet.En<TClasseFictive>(), nullptr);
@@ -66,7 +92,7 @@ TEST(Grille, UneLigneGardeCeQuElleEst) {
   EXPECT_TRUE(grille.Ligne(1).Coche);
   EXPECT_EQ(grille.TrouverObjet(&anne), 0);
   EXPECT_EQ(grille.TrouverObjet(nullptr), -1);
-  grille.Trier(ComparerColonne1);  // alike rows keep their order
+  grille.Trier(1);  // alike rows keep their order
   EXPECT_EQ(Colonne(grille, 0), (QStringList{u"Marc"_s, u"Anne"_s, u"Luc"_s}));
   EXPECT_EQ(choix, 0);
 
@@ -83,7 +109,7 @@ TEST(Grille, UneLigneGardeCeQuElleEst) {
 }
 
 TEST(Grille, FiltreSansCasseNiAccent) {
-  TGrille grille = Grille(TOrdre::Texte, {u"Élodie Gaëlle"_s, QString()});
+  TGrille grille = Grille(TGenre::Texte, {u"Élodie Gaëlle"_s, {}});
   for (const char* oui : {"", "elodie", "GAELLE él", "x ÉLO"})
     EXPECT_TRUE(grille.Contient(0, QString::fromUtf8(oui))) << oui;
   for (const char* non : {"elodies", "xé", "elodie luc"})
@@ -91,12 +117,12 @@ TEST(Grille, FiltreSansCasseNiAccent) {
 }
 
 TEST(Grille, LesGroupesTiennentEnsemble) {
-  TGrille grille = Grille(TOrdre::Nombre, {u"9"_s});
+  TGrille grille = Grille(TGenre::Montant, {M("9")});
   const auto remplir = [&] {
     grille.AjouterTete({u"Soir"_s, u"2 relevés"_s});
-    for (const char* texte : {"3", "\u22122,50 €"}) grille.Ajouter({QString(), QString::fromUtf8(texte)});
+    for (const char* montant : {"3", "-2,50"}) grille.Ajouter({{}, M(montant)});
     grille.AjouterTete({u"Matin"_s});
-    grille.Ajouter({QString(), u"1"_s});
+    grille.Ajouter({{}, M("1")});
   };
   remplir();
   EXPECT_EQ(grille.TeteDe(0), -1);
@@ -104,7 +130,7 @@ TEST(Grille, LesGroupesTiennentEnsemble) {
   EXPECT_EQ(grille.TeteDe(3), 1);
   EXPECT_EQ(grille.TeteDe(5), 4);
   grille.Trier(1);
-  EXPECT_EQ(Colonne(grille, 1), u"9|2 relevés|\u22122,50 €|3||1"_s.split(u'|'));
+  EXPECT_EQ(Colonne(grille, 1), u"9,00 €|2 relevés|-2,50 €|3,00 €||1,00 €"_s.split(u'|'));
   grille.Fermer(4, true);
   grille.Vider();
   remplir();
@@ -113,11 +139,10 @@ TEST(Grille, LesGroupesTiennentEnsemble) {
 }
 
 TEST(Grille, LEtatSeLitCommeUnTexte) {
-  TGrille grille({{u"Nom"_s}, {u"État"_s}});
-  EXPECT_EQ(grille.ColonneEtat(), -1);
+  TGrille grille({{u"Nom"_s}, {u"État"_s, 80, TGenre::Etat}});
   grille.Etats = {{}, {u"Payé"_s, u"dialog-ok-apply"_s}, {u"Dû"_s, {}}};
   for (const int etat : {1, 0, 2}) grille.Ajouter({u"x"_s}, {}, etat);
-  EXPECT_EQ(grille.TexteVu(0, 1), u"Payé"_s);
+  EXPECT_EQ(grille.Texte(0, 1), u"Payé"_s);
   EXPECT_TRUE(grille.Contient(2, u"du"_s));
   EXPECT_FALSE(grille.Contient(1, u"du"_s));
   EXPECT_GT(grille.Comparer(0, 2, 1), 0);
@@ -125,13 +150,12 @@ TEST(Grille, LEtatSeLitCommeUnTexte) {
 }
 
 TEST(Grille, AnnonceChaqueChangementOuUnLot) {
-  TGrille grille = Grille(TOrdre::Texte, {u"a"_s, u"b"_s});
+  TGrille grille = Grille(TGenre::Texte, {u"a"_s, u"b"_s});
   std::vector<int> lignes;
-  const TLien lien =
-      grille.SurChangement.Suivre([&](TGrille::TChangement changement) { lignes.push_back(changement.Ligne); });
-  grille.Ecrire(1, 4, u"loin"_s);
-  EXPECT_EQ(grille.Texte(1, 4), u"loin"_s);
-  EXPECT_TRUE(grille.Texte(1, 3).isEmpty());
+  const TLien lien = grille.SurChangement.Suivre(
+      [&](TGrille::TChangement changement) { lignes.push_back(changement.Ligne); });
+  grille.Ecrire(1, 1, u"loin"_s);
+  EXPECT_EQ(grille.Texte(1, 1), u"loin"_s);
   grille.ChangerEtat(0, 1);
   grille.Ajouter({u"c"_s});
   EXPECT_EQ(lignes, (std::vector{1, 0, -1}));

@@ -70,9 +70,7 @@ struct TSignaletiqueEssai : testing::Test {
   static QStringList Lignes(const TGrille& grille) {
     QStringList lignes;
     for (int i = 0; i < grille.NombreLignes(); ++i) {
-      QStringList textes;
-      for (int j = 0; j < grille.NombreColonnes(); ++j) textes += grille.TexteVu(i, j);
-      lignes += (grille.Ligne(i).Tete ? u"#"_s : QString()) + textes.join(u'|');
+      lignes += (grille.Ligne(i).Tete ? u"#"_s : QString()) + grille.Textes(i).join(u'|');
     }
     return lignes;
   }

@@ -36,7 +36,7 @@ class FrmImport : public testing::Test {
 TEST_F(FrmImport, AFileIsShownThenTransferred) {
   Ouvrir(TFichierRegistre(1).Mettre(2, 6, u"2010/01/02"_s).Ecrire(Base));
   ASSERT_EQ(Form.Grille.NombreLignes(), 9);
-  EXPECT_EQ(Form.Grille.Ligne(0).Textes,
+  EXPECT_EQ(Form.Grille.Textes(0),
             (QStringList{"", "1234-1", "Nom 1234-1", "Zoé", "28/02/2010", "P3 B", "SITE", "Père", "Wavre"}));
   EXPECT_EQ(Form.Grille.Texte(1, TFrmImport::Naissance), u"2010/01/02") << "shown as it stands";
   EXPECT_TRUE(Form.Etape2Suivante());

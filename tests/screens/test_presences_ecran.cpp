@@ -83,7 +83,7 @@ class FrmPresences : public testing::Test {
     QStringList lignes;
     for (int i = 0; i < grille.NombreLignes(); ++i)
       lignes += QString(grille.Texte(i, TfrmPresences::Nom) % u'|' % grille.Texte(i, TfrmPresences::Type) %
-                        u'|' % grille.TexteVu(i, TfrmPresences::Etat));
+                        u'|' % grille.Texte(i, TfrmPresences::Etat));
     return lignes;
   }
   QString Comptes() const {

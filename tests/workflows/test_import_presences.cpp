@@ -5,6 +5,7 @@
 
 #include "core/exceptions.h"
 #include "support/controleur_essai.h"
+#include "support/valeurs.h"
 #include "workflows/import_presences.h"
 
 using namespace Qt::StringLiterals;
@@ -57,17 +58,18 @@ TEST_F(TScansEssai, LinesBecomeRecords) {
               "11;3;20161003;120000000;1\r\n"         // a soup is tested by the rows of meals
               "11;1;20161008;073000000;1\r\n\r\n"));  // Saturday
   ASSERT_EQ(import.Bons().size(), 2U);
-  EXPECT_EQ(LigneRecapitulatif(*import.Bons()[0]),
-            (QStringList{"Eleve1", "Prenom1", "lundi 3 octobre", "Garderie", "07:30", "", "1-1"}));
+  EXPECT_EQ(LigneRecapitulatif(*import.Bons()[0]), (TCellules{u"Eleve1"_s, u"Prenom1"_s, J("2016-10-03"),
+                                                              u"Garderie"_s, H("07:30"), 0.0, u"1-1"_s}));
   EXPECT_EQ(import.Bons()[1]->HeureSortie, EncodeTime(16, 0));
   ASSERT_EQ(import.Anomalies().size(), 6U);
   EXPECT_EQ(import.Anomalies()[0].Matricule, u"1-1");
   EXPECT_EQ(LigneAnomalie(import.Anomalies()[1]),
-            (QStringList{"Matricule inconnu (99)", "", "jeudi 6 octobre", "Etude", "", "16:00", ""}))
+            (TCellules{u"Matricule inconnu (99)"_s, QString(), J("2016-10-06"), u"Etude"_s, 0.0, H("16:00"),
+                       QString()}))
       << "the sweep of study rows comes first";
   EXPECT_EQ(import.Anomalies()[2].Presence->HeureEntree, EncodeTime(11, 0));
-  EXPECT_EQ(LigneAnomalie(import.Anomalies()[3]),
-            (QStringList{"Eleve1", "Prenom1", "mercredi 5 octobre", "Garderie", "", "11:01", "1-1"}));
+  EXPECT_EQ(LigneAnomalie(import.Anomalies()[3]), (TCellules{u"Eleve1"_s, u"Prenom1"_s, J("2016-10-05"),
+                                                             u"Garderie"_s, 0.0, H("11:01"), u"1-1"_s}));
   EXPECT_EQ(import.Anomalies()[4].Presence->TypePresence, TTypePresence::Soupe);
   EXPECT_EQ(import.NombreEntrees(), 8);
 

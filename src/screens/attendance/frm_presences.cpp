@@ -19,12 +19,12 @@ const QString kErreur = u"L'erreur suivante s'est produite : "_s;
 std::vector<TColonneGrille> Colonnes() {
   return {{u"Nom"_s, 271},
           {u"Prénom"_s, 120},
-          {u"Date"_s, 180, TAlignement::Gauche, TOrdre::Jour},
+          {u"Date"_s, 180, TGenre::DateLongue},
           {u"Type"_s, 88},
-          {u"Entrée"_s, 72, TAlignement::Droite},
-          {u"Sortie"_s, 72, TAlignement::Droite},
+          {u"Entrée"_s, 72, TGenre::Heure},
+          {u"Sortie"_s, 72, TGenre::Heure},
           {u"Matricule"_s, 128},
-          {u"État"_s, 140}};
+          {u"État"_s, 140, TGenre::Etat}};
 }
 
 /// "1 relevé prêt", "2 relevés prêts"

@@ -108,7 +108,7 @@ void TFrmPrintWizard::RemplirListes() {
                        {classe->Libelle(), classe->LibelleImplantation()},
                        annee % u'/' % classe->Libelle() % u'/' % classe->CodeImplantation});
   std::ranges::stable_sort(classes, [](const TLigneListe& a, const TLigneListe& b) {
-    return ComparerTextes(a.Textes[0], b.Textes[0]) < 0;
+    return ComparerValeurs(TGenre::Texte, a.Textes[0], b.Textes[0]) < 0;
   });
   Remplir(LstEleve, contenuEleves_, std::move(pupilles), triEleve_);
   Remplir(LstClasse, contenuClasses_, std::move(classes), triClasse_);

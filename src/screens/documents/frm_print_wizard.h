@@ -80,7 +80,7 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   /// A row as the year gives it; the key tells who it is when the year has been loaded again.
   struct TLigneListe {
     TObjetVu Objet;
-    QStringList Textes;
+    TCellules Textes;
     QString Cle;
     bool operator==(const TLigneListe&) const = default;
   };

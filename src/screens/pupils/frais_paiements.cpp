@@ -10,11 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Texte(const char16_t* texte) { return QString::fromUtf16(texte); }
-
-QString MoisOuVide(int mois) { return mois >= 1 && mois <= 12 ? NomMois(mois) : QString(); }
-
-QString MontantOuVide(Currency montant) { return montant == Currency() ? QString() : FormatMontant(montant); }
+TValeur MontantOuVide(Currency montant) { return montant == Currency() ? TValeur() : TValeur(montant); }
 
 TEtatFrais EtatDe(Currency du, Currency verse) {
   if (verse >= du) return EtatPaye;
@@ -24,22 +20,22 @@ TEtatFrais EtatDe(Currency du, Currency verse) {
 }  // namespace
 
 TFraisPaiements::TFraisPaiements() {
-  Grille.DefinirColonnes({{Texte(u"Libellé"), 180},
-                          {Texte(u"Mois"), 88},
-                          {Texte(u"Dû"), 80, TAlignement::Droite, TOrdre::Nombre},
-                          {Texte(u"Payé"), 80, TAlignement::Droite, TOrdre::Nombre},
-                          {Texte(u"État"), 94}});
-  Grille.Etats = {{Texte(u"Payé"), Texte(u"dialog-ok-apply")},
-                  {Texte(u"Dû"), Texte(u"data-warning")},
-                  {Texte(u"Partiel"), Texte(u"data-warning")},
-                  {Texte(u"Reçu"), Texte(u"dialog-ok-apply")},
-                  {Texte(u"Prévision"), Texte(u"data-information")}};
+  Grille.DefinirColonnes({{u"Libellé"_s, 180},
+                          {u"Mois"_s, 88, TGenre::Mois},
+                          {u"Dû"_s, 80, TGenre::Montant},
+                          {u"Payé"_s, 80, TGenre::Montant},
+                          {u"État"_s, 94, TGenre::Etat}});
+  Grille.Etats = {{u"Payé"_s, u"dialog-ok-apply"_s},
+                  {u"Dû"_s, u"data-warning"_s},
+                  {u"Partiel"_s, u"data-warning"_s},
+                  {u"Reçu"_s, u"dialog-ok-apply"_s},
+                  {u"Prévision"_s, u"data-information"_s}};
   Vider();
 }
 
 void TFraisPaiements::Vider() {
   Grille.Vider();
-  Pied = {{Texte(u"Total")}, {Texte(u"Balance")}};
+  Pied = {{u"Total"_s}, {u"Balance"_s}};
   Solde = totalDu_ = totalVerse_ = {};
 }
 
@@ -60,9 +56,8 @@ void TFraisPaiements::AjouterFrais(const TEleve& eleve) {
     if (ligne.EstLibre()) continue;
     const Currency du = ligne.MontantFrais();
     const Currency verse = ligne.MontantVerse;
-    Grille.Ajouter({ligne.LibelleFrais(), MoisOuVide(ligne.MoisFrais()), FormatMontant(du),
-                    ligne.EstPaye() ? FormatMontant(verse) : QString()},
-                   &ligne, ligne.Previsionnel() ? EtatPrevision : EtatDe(du, verse));
+    Grille.Ajouter({ligne.LibelleFrais(), ligne.MoisFrais(), du, MontantOuVide(verse)}, &ligne,
+                   ligne.Previsionnel() ? EtatPrevision : EtatDe(du, verse));
     if (!ligne.Previsionnel()) Compter(du, verse);
   }
 }
@@ -74,9 +69,9 @@ void TFraisPaiements::AjouterServices(const TEleve& eleve) {
     const Currency du = eleve.CoutServicesPeriode(BornesMois(mois, eleve.Eleves->AnneeScolaire));
     if (du <= Currency()) continue;
     const Currency verse = eleve.PaiementsMois(mois);
-    Grille.Ajouter(
-        {u"Services " % NomMois(mois).toLower(), NomMois(mois), FormatMontant(du), MontantOuVide(verse)},
-        paiements != nullptr ? paiements->PaiementMois(eleve.Id, mois) : nullptr, EtatDe(du, verse));
+    Grille.Ajouter({QString(u"Services " % NomMois(mois).toLower()), mois, du, MontantOuVide(verse)},
+                   paiements != nullptr ? paiements->PaiementMois(eleve.Id, mois) : nullptr,
+                   EtatDe(du, verse));
     Compter(du, verse);
   }
 }
@@ -87,8 +82,7 @@ void TFraisPaiements::AjouterPaiementsLibres(const TEleve& eleve) {
   std::vector<TFraisEleve*> libres;
   lignes->PaiementsLibres(libres);
   for (TFraisEleve* ligne : libres) {
-    Grille.Ajouter({ligne->Remarque, MoisOuVide(ligne->Mois), {}, FormatMontant(ligne->MontantVerse)}, ligne,
-                   EtatRecu);
+    Grille.Ajouter({ligne->Remarque, ligne->Mois, {}, ligne->MontantVerse}, ligne, EtatRecu);
     Compter({}, ligne->MontantVerse);
   }
 }

@@ -3,6 +3,8 @@
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
+#include "core/lecture_dates.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -15,14 +17,20 @@ QString Eleves(int nombre) {
   return QString::number(nombre) % (nombre > 1 ? u" élèves transférés" : u" élève transféré");
 }
 
+/// What is no date is shown as it stands in the file.
+TValeur DateOuTexte(const QString& texte) {
+  const TDateTime date = LireDateBarre(texte);
+  return date != 0.0 ? TValeur(date) : TValeur(texte);
+}
+
 }  // namespace
 
 TFrmImport::TFrmImport(TContexteEcran& contexte) : contexte_(contexte) {
-  Grille.DefinirColonnes({{u"État"_s, 110},
+  Grille.DefinirColonnes({{u"État"_s, 110, TGenre::Etat},
                           {u"Matricule"_s, 120},
                           {u"Nom"_s, 161},
                           {u"Prénom"_s, 120},
-                          {u"Naissance"_s, 96, TAlignement::Gauche, TOrdre::Date},
+                          {u"Naissance"_s, 96, TGenre::Date},
                           {u"Classe"_s, 64},
                           {u"Implantation"_s, 112},
                           {u"Responsable"_s, 168},
@@ -96,8 +104,15 @@ void TFrmImport::RemplirGrille() {
   Grille.Vider();
   for (int ligne = 1; ligne < import_->Grille().NombreLignes(); ++ligne) {
     const TImportRegistre::TFiche f = import_->Fiche(ligne);
-    Grille.Ajouter(
-        {QString(), f.Matricule, f.Nom, f.Prenom, f.Naissance, f.Classe, f.Site, f.Responsable, f.Localite});
+    Grille.Ajouter({{},
+                    f.Matricule,
+                    f.Nom,
+                    f.Prenom,
+                    DateOuTexte(f.Naissance),
+                    f.Classe,
+                    f.Site,
+                    f.Responsable,
+                    f.Localite});
   }
   Annoncer();
 }

@@ -1,6 +1,5 @@
 #include "screens/pupils/releve_mensuel.h"
 
-#include "core/formats.h"
 #include "pupils/eleve.h"
 
 using namespace Qt::StringLiterals;
@@ -19,9 +18,6 @@ constexpr const char16_t* kGroupes[] = {u"Garderie du matin",
                                         u"Soupes"};
 static_assert(std::size(kGroupes) == kServices.size());
 
-/// "lun. 05/11"
-QString JourCourt(TDateTime date) { return LocaleEcole().toString(DateVersQt(date), u"ddd dd/MM"_s); }
-
 QString CombienReleves(std::size_t nombre) {
   return QString::number(nombre) % (nombre == 1 ? u" relevé" : u" relevés");
 }
@@ -29,11 +25,11 @@ QString CombienReleves(std::size_t nombre) {
 }  // namespace
 
 TReleveMensuel::TReleveMensuel() {
-  Grille.DefinirColonnes({{Texte(u"Catégorie"), 180},
-                          {Texte(u"Date"), 94},
-                          {Texte(u"Entrée"), 68, TAlignement::Droite},
-                          {Texte(u"Sortie"), 66, TAlignement::Droite},
-                          {Texte(u"Montant"), 84, TAlignement::Droite, TOrdre::Nombre}});
+  Grille.DefinirColonnes({{u"Catégorie"_s, 180},
+                          {u"Date"_s, 94, TGenre::DateCourte},
+                          {u"Entrée"_s, 68, TGenre::Heure},
+                          {u"Sortie"_s, 66, TGenre::Heure},
+                          {u"Montant"_s, 84, TGenre::Montant}});
 }
 
 void TReleveMensuel::Vider() {
@@ -58,12 +54,12 @@ void TReleveMensuel::AjouterService(const TEleve& eleve, const TPeriode& mois, T
                       CombienReleves(lignes.size()),
                       {},
                       {},
-                      FormatMontant(montant(cout))});
+                      montant(cout)});
   for (const TLigneService& ligne : lignes)
     Grille.Ajouter({{},
-                    JourCourt(ligne.Presence->DateReleve),
-                    FormatHeureCourte(ligne.Presence->HeureEntree),
-                    FormatHeureCourte(ligne.Presence->HeureSortie),
-                    FormatMontant(montant(ligne.Montant))},
+                    ligne.Presence->DateReleve,
+                    ligne.Presence->HeureEntree,
+                    ligne.Presence->HeureSortie,
+                    montant(ligne.Montant)},
                    ligne.Presence);
 }

@@ -83,7 +83,6 @@ void VuePresences::CreerGrilles() {
   Accorder(*anomalies_, *recapitulatif_);
   auto* corriger = new QAction(corriger_->icon(), corriger_->text(), anomalies_);
   anomalies_->addAction(corriger);
-  anomalies_->setContextMenuPolicy(Qt::ActionsContextMenu);
   corriger_->setToolTip(u"Corriger le relevé choisi (F2, Entrée)"_s);
   connect(corriger, &QAction::triggered, this, &VuePresences::Corriger);
   connect(corriger_, &QPushButton::clicked, this, &VuePresences::Corriger);

@@ -8,16 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Qt::Alignment Alignement(TAlignement alignement) {
-  switch (alignement) {
-    case TAlignement::Droite:
-      return Qt::AlignRight | Qt::AlignVCenter;
-    case TAlignement::Centre:
-      return Qt::AlignCenter;
-    case TAlignement::Gauche:
-      break;
-  }
-  return Qt::AlignLeft | Qt::AlignVCenter;
+Qt::Alignment Alignement(TGenre genre) {
+  return (EstADroite(genre) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 
 }  // namespace
@@ -98,11 +90,10 @@ QVariant ModeleGrille::data(const QModelIndex& index, int role) const {
   if (ligne < 0) return {};
   switch (role) {
     case Qt::DisplayRole:
-      return grille_.Colonne(colonne).Ordre == TOrdre::Nombre
-                 ? TypographieMontant(grille_.TexteVu(ligne, colonne))
-                 : grille_.TexteVu(ligne, colonne);
+      return EstMontant(grille_.Colonne(colonne).Genre) ? TypographieMontant(grille_.Texte(ligne, colonne))
+                                                        : grille_.Texte(ligne, colonne);
     case Qt::TextAlignmentRole:
-      return QVariant::fromValue(Alignement(grille_.Colonne(colonne).Alignement));
+      return QVariant::fromValue(Alignement(grille_.Colonne(colonne).Genre));
     case Qt::CheckStateRole:
       if (!grille_.CasesACocher || colonne != 0 || grille_.Ligne(ligne).Tete) return {};
       return grille_.Ligne(ligne).Coche ? Qt::Checked : Qt::Unchecked;
@@ -127,8 +118,7 @@ QVariant ModeleGrille::Apparence(int ligne, int colonne, int role) const {
 QVariant ModeleGrille::headerData(int colonne, Qt::Orientation sens, int role) const {
   if (sens != Qt::Horizontal || colonne < 0 || colonne >= grille_.NombreColonnes()) return {};
   if (role == Qt::DisplayRole) return grille_.Colonne(colonne).Titre;
-  if (role == Qt::TextAlignmentRole)
-    return QVariant::fromValue(Alignement(grille_.Colonne(colonne).Alignement));
+  if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Alignement(grille_.Colonne(colonne).Genre));
   return {};
 }
 

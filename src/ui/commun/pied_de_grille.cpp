@@ -61,7 +61,7 @@ void PiedDeGrille::paintEvent(QPaintEvent*) {
          ++colonne) {
       const QRect place(tetes.sectionViewportPosition(colonne) + decalage + marge, haut,
                         tetes.sectionSize(colonne) - 2 * marge, hauteur);
-      const bool droite = vue_.Grille().Colonne(colonne).Alignement == TAlignement::Droite;
+      const bool droite = EstADroite(vue_.Grille().Colonne(colonne).Genre);
       // A word may run over the empty cells beside it; an amount never does.
       peintre.drawText(place, (droite ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter | Qt::TextDontClip,
                        TypographieMontant(textes[colonne]));

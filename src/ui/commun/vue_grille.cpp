@@ -2,12 +2,14 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMetaMethod>
 #include <QPainter>
 #include <QScrollBar>
@@ -16,10 +18,13 @@
 #include <QToolTip>
 #include <cmath>
 
+#include "core/fichiers.h"
 #include "core/reglages_poste.h"
 #include "ui/commun/champ_filtre.h"
+#include "ui/commun/menu_grille.h"
 #include "ui/commun/modele_grille.h"
 #include "ui/commun/theme.h"
+#include "ui/principal/dialogues_qt.h"
 
 using namespace Qt::StringLiterals;
 
@@ -141,7 +146,7 @@ int VueGrille::ColonneSouple() const {
   if (souple_ >= 0) return souple_;
   int plusLarge = 0;
   for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
-    if (grille_.Colonne(colonne).Alignement == TAlignement::Gauche &&
+    if (!EstADroite(grille_.Colonne(colonne).Genre) &&
         grille_.Colonne(colonne).Largeur > grille_.Colonne(plusLarge).Largeur)
       plusLarge = colonne;
   return plusLarge;
@@ -174,7 +179,7 @@ void VueGrille::ElargirMontants() {
   const Pendant pendant(enCours_);
   elargir_ = false;
   for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
-    if (grille_.Colonne(colonne).Ordre == TOrdre::Nombre && colonne != ColonneSouple())
+    if (EstMontant(grille_.Colonne(colonne).Genre) && colonne != ColonneSouple())
       header()->resizeSection(colonne, std::max(header()->sectionSize(colonne), sizeHintForColumn(colonne)));
 }
 
@@ -304,6 +309,21 @@ void VueGrille::Filtrer(ChampFiltre& champ) {
   });
 }
 
+void VueGrille::CreerFiltre() {
+  auto* champ = new ChampFiltre(u"Filtrer"_s, this);
+  Filtrer(*champ);
+  champ->resize(std::min(Theme::Px(200), width()), champ->sizeHint().height());
+  champ->move(width() - champ->width(), 0);
+  connect(champ, &QLineEdit::editingFinished, champ, [champ] { champ->setHidden(champ->text().isEmpty()); });
+}
+
+void VueGrille::AllerAuFiltre() {
+  if (!champ_) CreerFiltre();
+  champ_->show();
+  champ_->setFocus(Qt::ShortcutFocusReason);
+  champ_->selectAll();
+}
+
 int VueGrille::NombreVisibles() const {
   int nombre = 0;
   for (int ligne = 0; ligne < grille_.NombreLignes(); ++ligne)
@@ -313,10 +333,26 @@ int VueGrille::NombreVisibles() const {
 
 // Copying
 
+std::vector<int> VueGrille::LignesVues() const {
+  std::vector<int> lignes;
+  for (int sommet = 0; sommet < filtre_->rowCount(); ++sommet) {
+    const QModelIndex index = filtre_->index(sommet, 0);
+    lignes.push_back(LigneDe(index));
+    for (int rang = 0; rang < filtre_->rowCount(index); ++rang)
+      lignes.push_back(LigneDe(filtre_->index(rang, 0, index)));
+  }
+  return lignes;
+}
+
+std::vector<int> VueGrille::ColonnesVues() const {
+  std::vector<int> colonnes;
+  for (int rang = 0; rang < header()->count(); ++rang) colonnes.push_back(header()->logicalIndex(rang));
+  return colonnes;
+}
+
 QString VueGrille::Copie(int ligne) const {
   QStringList textes;
-  for (int rang = 0; rang < header()->count(); ++rang)
-    textes += grille_.TexteVu(ligne, header()->logicalIndex(rang));
+  for (const int colonne : ColonnesVues()) textes += grille_.Texte(ligne, colonne);
   return textes.join(u'\t');
 }
 
@@ -326,16 +362,17 @@ void VueGrille::CopierLigne() {
 
 void VueGrille::CopierTout() {
   QStringList titres;
-  for (int rang = 0; rang < header()->count(); ++rang)
-    titres += grille_.Colonne(header()->logicalIndex(rang)).Titre;
+  for (const int colonne : ColonnesVues()) titres += grille_.Colonne(colonne).Titre;
   QStringList lignes{titres.join(u'\t')};
-  for (int sommet = 0; sommet < filtre_->rowCount(); ++sommet) {
-    const QModelIndex index = filtre_->index(sommet, 0);
-    lignes += Copie(LigneDe(index));
-    for (int rang = 0; rang < filtre_->rowCount(index); ++rang)
-      lignes += Copie(LigneDe(filtre_->index(rang, 0, index)));
-  }
+  for (const int ligne : LignesVues()) lignes += Copie(ligne);
   QApplication::clipboard()->setText(lignes.join(u'\n'));
+}
+
+// The mark of the encoding is for spreadsheets, which would take the text for another one.
+void VueGrille::Exporter() {
+  const auto chemin = DialoguesQt().FichierAEnregistrer(u"Exporter la liste"_s, accessibleName() % u".csv",
+                                                        u"Texte séparé par des points-virgules (*.csv)"_s);
+  if (chemin) EcrireFichier(*chemin, "\xEF\xBB\xBF" + EnCsv(grille_, LignesVues(), ColonnesVues()).toUtf8());
 }
 
 // Keyboard and mouse
@@ -347,11 +384,7 @@ void VueGrille::keyPressEvent(QKeyEvent* evenement) {
   const int touche = evenement->key();
   if (touche == Qt::Key_C && touches == Qt::ControlModifier) return CopierLigne();
   if (touche == Qt::Key_C && touches == (Qt::ControlModifier | Qt::ShiftModifier)) return CopierTout();
-  if (touche == Qt::Key_F && touches == Qt::ControlModifier && champ_) {
-    champ_->setFocus(Qt::ShortcutFocusReason);
-    champ_->selectAll();
-    return;
-  }
+  if (touche == Qt::Key_F && touches == Qt::ControlModifier) return AllerAuFiltre();
   if (touches == Qt::NoModifier && ligne >= 0) {
     const bool entree = touche == Qt::Key_Return || touche == Qt::Key_Enter;
     const QModelIndex index = IndexDe(ligne);
@@ -367,6 +400,12 @@ void VueGrille::keyPressEvent(QKeyEvent* evenement) {
       return emit Suppression(ligne);
   }
   QTreeView::keyPressEvent(evenement);
+}
+
+void VueGrille::contextMenuEvent(QContextMenuEvent* evenement) {
+  QMenu menu(this);
+  RemplirMenu(menu, *this);
+  menu.exec(evenement->globalPos());
 }
 
 void VueGrille::mouseDoubleClickEvent(QMouseEvent* evenement) {

@@ -9,7 +9,8 @@ class FiltreGrille;
 
 /// The view of a TGrille, which outlives it. Rows are those of the grid, whatever order and filter
 /// show. Groups fold by arrow, click, Left and Right; Space ticks; Ctrl+C copies the row with tabs,
-/// Ctrl+Maj+C the whole with its headers.
+/// Ctrl+Maj+C the whole with its headers. The context menu shows the actions that were added to the view,
+/// then copying, filter, sort and export.
 class VueGrille : public QTreeView {
   Q_OBJECT
  public:
@@ -40,6 +41,10 @@ class VueGrille : public QTreeView {
  public slots:
   void CopierLigne();
   void CopierTout();
+  /// Asks for a file and writes the rows that are shown, in their order, for a spreadsheet.
+  void Exporter();
+  /// To the field that filters; a list without one opens a small one over its head.
+  void AllerAuFiltre();
 
  signals:
   /// Enter or double click on a row that is no head.
@@ -60,6 +65,7 @@ class VueGrille : public QTreeView {
   void drawBranches(QPainter* peintre, const QRect& place, const QModelIndex& index) const override;
   void currentChanged(const QModelIndex& courant, const QModelIndex& avant) override;
   void changeEvent(QEvent* evenement) override;
+  void contextMenuEvent(QContextMenuEvent* evenement) override;
   void mouseDoubleClickEvent(QMouseEvent* evenement) override;
   bool viewportEvent(QEvent* evenement) override;
 
@@ -76,7 +82,11 @@ class VueGrille : public QTreeView {
   void Rappeler();
   QModelIndex IndexDe(int ligne) const;
   int LigneDe(const QModelIndex& index) const;
+  /// What is shown: the rows of the grid from top to bottom, the columns from left to right.
+  std::vector<int> LignesVues() const;
+  std::vector<int> ColonnesVues() const;
   QString Copie(int ligne) const;
+  void CreerFiltre();
 
   TGrille& grille_;
   QString ecran_;

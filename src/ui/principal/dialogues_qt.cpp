@@ -126,9 +126,7 @@ bool DialoguesQt::Reessayer(const TReessai& reessai) {
   return DialogueReessai(reessai, devant.Fenetre()).exec() == QDialog::Accepted;
 }
 
-void DialoguesQt::Progression(int fait, int total, const QString& nom) {
-  SurProgression(fait, total, nom);
-}
+void DialoguesQt::Progression(int fait, int total, const QString& nom) { SurProgression(fait, total, nom); }
 
 void DialoguesQt::TraiterEvenements() { QCoreApplication::processEvents(); }
 

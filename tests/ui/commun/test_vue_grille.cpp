@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include "support/affichage.h"
+#include "support/valeurs.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/modele_grille.h"
 #include "ui/commun/theme.h"
@@ -16,20 +17,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString T(const char* texte) { return QString::fromUtf8(texte); }
+Currency M(const char* montant) { return StrToCurr(T(montant)); }
 
 std::vector<TColonneGrille> Colonnes() {
   return {{u"Libellé"_s, 200},
-          {u"Date"_s, 90, TAlignement::Gauche, TOrdre::Date},
-          {u"Dû"_s, 80, TAlignement::Droite, TOrdre::Nombre},
-          {u"État"_s, 80}};
+          {u"Date"_s, 90, TGenre::Date},
+          {u"Dû"_s, 80, TGenre::Montant},
+          {u"État"_s, 80, TGenre::Etat}};
 }
 
 TGrille Frais() {
   TGrille grille(Colonnes());
   grille.Etats = {{}, {u"Payé"_s, u"dialog-ok-apply"_s}};
-  grille.Ajouter({u"Natation"_s, u"05/11/2018"_s, u"9,00 €"_s}, {}, 1);
-  grille.Ajouter({u"Théâtre"_s, u"12/09/2018"_s, u"-1 182,90 €"_s});
-  grille.Ajouter({u"Mer"_s, u"01/02/2019"_s, u"185,00 €"_s});
+  grille.Ajouter({u"Natation"_s, J("2018-11-05"), M("9")}, {}, 1);
+  grille.Ajouter({u"Théâtre"_s, J("2018-09-12"), M("-1182,90")});
+  grille.Ajouter({u"Mer"_s, J("2019-02-01"), M("185")});
   return grille;
 }
 
@@ -70,7 +72,7 @@ TEST(VueGrille, TrieSelonLaValeurEtGardeLaLigne) {
   QTest::keyClick(&vue, Qt::Key_Home);
   EXPECT_EQ(grille.LigneCourante(), 1);
 
-  grille.Ajouter({u"Avent"_s, {}, u"-2 000,00 €"_s});  // keeps order and row
+  grille.Ajouter({u"Avent"_s, {}, M("-2000")});  // keeps order and row
   EXPECT_EQ(Vus(vue).first(), u"Avent"_s);
   EXPECT_EQ(vue.currentIndex().siblingAtColumn(0).data().toString(), u"Théâtre"_s);
 }
@@ -130,25 +132,25 @@ TEST(VueGrille, RetientLargeursOrdreEtTri) {
 }
 
 TEST(VueGrille, NeCoupePasUnMontant) {
-  TGrille grille({{u"Nom"_s, 200}, {u"Dû"_s, 20, TAlignement::Droite, TOrdre::Nombre}});
+  TGrille grille({{u"Nom"_s, 200}, {u"Dû"_s, 20, TGenre::Montant}});
   VueGrille vue(grille, u"Frais"_s, {});
   Montrer(vue);
-  grille.Ajouter({u"Mer"_s, u"1 000 182,90 €"_s});
+  grille.Ajouter({u"Mer"_s, M("1000182,90")});
   QApplication::processEvents();
   EXPECT_GE(vue.header()->sectionSize(1),
             vue.fontMetrics().horizontalAdvance(u"1\u00A0000\u00A0182,90\u00A0€"_s) + 2 * Theme::Px(7));
 }
 
 TEST(VueGrille, PlieLesGroupesAuClavier) {
-  TGrille grille({{u"Catégorie"_s, 160}, {u"Montant"_s, 80, TAlignement::Droite, TOrdre::Nombre}});
+  TGrille grille({{u"Catégorie"_s, 160}, {u"Montant"_s, 80, TGenre::Montant}});
   const auto remplir = [&] {
     const TGrille::TLot lot(grille);
     grille.Vider();
-    grille.AjouterTete({u"Matin"_s, u"3,00 €"_s});
-    grille.Ajouter({u"lundi"_s, u"2,00 €"_s});
-    grille.Ajouter({u"mardi"_s, u"1,00 €"_s});
-    grille.AjouterTete({u"Soir"_s, u"9,00 €"_s});
-    grille.Ajouter({u"jeudi"_s, u"9,00 €"_s});
+    grille.AjouterTete({u"Matin"_s, M("3")});
+    grille.Ajouter({u"lundi"_s, M("2")});
+    grille.Ajouter({u"mardi"_s, M("1")});
+    grille.AjouterTete({u"Soir"_s, M("9")});
+    grille.Ajouter({u"jeudi"_s, M("9")});
   };
   remplir();
   VueGrille vue(grille, u"Relevé"_s, {});

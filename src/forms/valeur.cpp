@@ -1,0 +1,90 @@
+#include "forms/valeur.h"
+
+#include "core/comparaisons.h"
+#include "core/formats.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <class T>
+T Lire(const TValeur& valeur) {
+  const T* lue = std::get_if<T>(&valeur);
+  return lue ? *lue : T{};
+}
+
+QString EntierEnTexte(const TValeur& v) { return QString::number(Lire<int>(v)); }
+QString MontantEnTexte(const TValeur& v) { return FormatMontant(Lire<Currency>(v)); }
+QString DecimalesEnTexte(const TValeur& v) { return FormatPrix(Lire<Currency>(v)); }
+QString PrixEnTexte(const TValeur& v) { return FormatPrix(Lire<Currency>(v)) % u" €"; }
+QString DateEnTexte(const TValeur& v) { return FormatDate(Lire<TDateTime>(v)); }
+QString DateCourteEnTexte(const TValeur& v) {
+  return LocaleEcole().toString(DateVersQt(Lire<TDateTime>(v)), u"ddd dd/MM"_s);
+}
+QString DateLongueEnTexte(const TValeur& v) {
+  const TDateTime date = Lire<TDateTime>(v);
+  return date == 0.0 ? QString() : FormatJour(date);
+}
+QString HeureEnTexte(const TValeur& v) { return FormatHeureCourte(Lire<TDateTime>(v)); }
+QString HeureHEnTexte(const TValeur& v) { return FormatHeure(Lire<TDateTime>(v)); }
+QString MoisEnTexte(const TValeur& v) {
+  QString nom = LocaleEcole().standaloneMonthName(Lire<int>(v));
+  if (!nom.isEmpty()) nom[0] = nom[0].toUpper();
+  return nom;
+}
+QString Rien(const TValeur&) { return {}; }
+
+/// The months of a school year begin with September.
+int RangScolaire(int mois) { return mois == 0 ? 0 : (mois + 3) % 12 + 1; }
+
+struct TGenreDecrit {
+  QString (*Montrer)(const TValeur&);
+  QString (*Brut)(const TValeur&);
+  bool ADroite = false;
+};
+
+/// In the order of TGenre.
+constexpr TGenreDecrit kGenres[] = {
+    {Rien, Rien},
+    {EntierEnTexte, EntierEnTexte, true},
+    {MontantEnTexte, DecimalesEnTexte, true},
+    {PrixEnTexte, DecimalesEnTexte, true},
+    {DateEnTexte, DateEnTexte},
+    {DateCourteEnTexte, DateEnTexte},
+    {DateLongueEnTexte, DateEnTexte},
+    {HeureEnTexte, HeureEnTexte, true},
+    {HeureHEnTexte, HeureEnTexte, true},
+    {MoisEnTexte, MoisEnTexte},
+    {Rien, Rien},
+};
+static_assert(std::size(kGenres) == static_cast<std::size_t>(TGenre::Etat) + 1);
+
+const TGenreDecrit& Genre(TGenre genre) { return kGenres[static_cast<std::size_t>(genre)]; }
+
+template <class T>
+int Signe(const T& a, const T& b) {
+  return a < b ? -1 : b < a ? 1 : 0;
+}
+
+}  // namespace
+
+QString TexteDe(TGenre genre, const TValeur& valeur) {
+  if (std::holds_alternative<std::monostate>(valeur)) return {};
+  const auto* texte = std::get_if<QString>(&valeur);
+  return texte ? *texte : Genre(genre).Montrer(valeur);
+}
+
+QString TexteBrut(TGenre genre, const TValeur& valeur) {
+  if (std::holds_alternative<std::monostate>(valeur)) return {};
+  const auto* texte = std::get_if<QString>(&valeur);
+  return texte ? *texte : Genre(genre).Brut(valeur);
+}
+
+int ComparerValeurs(TGenre genre, const TValeur& a, const TValeur& b) {
+  if (a.index() != b.index()) return Signe(a.index(), b.index());
+  if (const auto* texte = std::get_if<QString>(&a)) return ComparerTextes(*texte, std::get<QString>(b));
+  if (genre == TGenre::Mois) return Signe(RangScolaire(Lire<int>(a)), RangScolaire(Lire<int>(b)));
+  return Signe(a, b);
+}
+
+bool EstADroite(TGenre genre) { return Genre(genre).ADroite; }
