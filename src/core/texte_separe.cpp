@@ -111,7 +111,7 @@ QString TTexteSepare::Cellule(int ligne, int colonne) const {
 }
 
 QString ChampSepare(const QString& champ) {
-  const bool simple = std::ranges::none_of(
-      champ, [](QChar c) { return c == u';' || c == u'"' || c == u'\n' || c == u'\r'; });
+  const bool simple =
+      std::ranges::none_of(champ, [](QChar c) { return c == u';' || c == u'"' || c == u'\n' || c == u'\r'; });
   return simple ? champ : u'"' % QString(champ).replace(u'"', u"\"\""_s) % u'"';
 }

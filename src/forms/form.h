@@ -48,11 +48,20 @@ class TForm : public TComposant {
 
   /// What the user has not stored yet and loses when the form ends without being closed; "" for nothing.
   virtual QString EnSuspens() const { return {}; }
+  /// Whether the form would let itself be closed now; it may ask the user.
+  bool AccepteDeFermer() { return FormCloseQuery(); }
+  /// What is typed in the field in hand is taken over, as when the hand leaves it. False when it is refused:
+  /// the field keeps it, with its fault.
+  virtual bool LaisserChamp() { return true; }
+  /// Whether the shared command that sends this message would do something now.
+  virtual bool Accepte(TCodeMessage /*code*/) const { return false; }
 
   /// How a modal form was answered; set before it is closed.
   TResultatModal ResultatModal = TResultatModal::Aucun;
   /// Followed by the view.
   TSignal<> SurChangement;
+  /// What `Accepte` answers has changed.
+  TSignal<> SurCommandes;
 
  protected:
   /// The form appears; its key and container are known.

@@ -86,7 +86,7 @@ void TGrille::Vider() {
   if (choisie) SurChoix();
 }
 
-void TGrille::Ecrire(int ligne, int colonne, TValeur valeur) {
+void TGrille::Ecrire(int ligne, int colonne, TValeurVue valeur) {
   TCellules& cellules = Modifiable(ligne).Cellules;
   const auto place = static_cast<size_t>(colonne);
   if (cellules.size() <= place) cellules.resize(place + 1);
@@ -111,6 +111,11 @@ void TGrille::ChangerEtat(int ligne, int etat) {
 
 void TGrille::Cocher(int ligne, bool coche) {
   Modifiable(ligne).Coche = coche;
+  Annoncer(ligne);
+}
+
+void TGrille::OterCase(int ligne) {
+  Modifiable(ligne).SansCase = true;
   Annoncer(ligne);
 }
 
@@ -157,9 +162,9 @@ int TGrille::ColonneEtat() const {
   return colonne == colonnes_.end() ? -1 : static_cast<int>(colonne - colonnes_.begin());
 }
 
-TValeur TLigneGrille::Valeur(int colonne) const {
+TValeurVue TLigneGrille::Valeur(int colonne) const {
   const auto place = static_cast<size_t>(colonne);
-  return place < Cellules.size() ? Cellules[place] : TValeur();
+  return place < Cellules.size() ? Cellules[place] : TValeurVue();
 }
 
 QString TGrille::Texte(int ligne, int colonne) const {

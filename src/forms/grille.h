@@ -25,10 +25,11 @@ struct TLigneGrille {
   TObjetVu Objet;
   int Etat = 0;  ///< index into the states of the grid
   bool Coche = false;
+  bool SansCase = false;  ///< nothing to tick on it
   bool Tete = false;  ///< heads the rows below it, down to the next head
 
   /// Nothing for a cell that was never written.
-  TValeur Valeur(int colonne) const;
+  TValeurVue Valeur(int colonne) const;
 };
 
 /// A table of values: what a screen shows, sorts and filters, and what a list prints. Indexes are
@@ -82,12 +83,14 @@ class TGrille {
   void Retirer(int ligne);
   /// Removes the rows; columns stay.
   void Vider();
-  void Ecrire(int ligne, int colonne, TValeur valeur);
+  void Ecrire(int ligne, int colonne, TValeurVue valeur);
   void EcrireLigne(int ligne, TCellules cellules);
   void ChangerObjet(int ligne, TObjetVu objet);
   void ChangerEtat(int ligne, int etat);
   void Cocher(int ligne, bool coche);
   void CocherTout(bool coche);
+  /// The row has no box, in a grid that shows boxes.
+  void OterCase(int ligne);
 
   /// Stable; the current row stays on its row. Rows stay in their group, groups in their order.
   void Trier(int colonne, bool croissant = true);

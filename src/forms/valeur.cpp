@@ -8,38 +8,38 @@ using namespace Qt::StringLiterals;
 namespace {
 
 template <class T>
-T Lire(const TValeur& valeur) {
+T Lire(const TValeurVue& valeur) {
   const T* lue = std::get_if<T>(&valeur);
   return lue ? *lue : T{};
 }
 
-QString EntierEnTexte(const TValeur& v) { return QString::number(Lire<int>(v)); }
-QString MontantEnTexte(const TValeur& v) { return FormatMontant(Lire<Currency>(v)); }
-QString DecimalesEnTexte(const TValeur& v) { return FormatPrix(Lire<Currency>(v)); }
-QString PrixEnTexte(const TValeur& v) { return FormatPrix(Lire<Currency>(v)) % u" €"; }
-QString DateEnTexte(const TValeur& v) { return FormatDate(Lire<TDateTime>(v)); }
-QString DateCourteEnTexte(const TValeur& v) {
+QString EntierEnTexte(const TValeurVue& v) { return QString::number(Lire<int>(v)); }
+QString MontantEnTexte(const TValeurVue& v) { return FormatMontant(Lire<Currency>(v)); }
+QString DecimalesEnTexte(const TValeurVue& v) { return FormatPrix(Lire<Currency>(v)); }
+QString PrixEnTexte(const TValeurVue& v) { return FormatPrix(Lire<Currency>(v)) % u" €"; }
+QString DateEnTexte(const TValeurVue& v) { return FormatDate(Lire<TDateTime>(v)); }
+QString DateCourteEnTexte(const TValeurVue& v) {
   return LocaleEcole().toString(DateVersQt(Lire<TDateTime>(v)), u"ddd dd/MM"_s);
 }
-QString DateLongueEnTexte(const TValeur& v) {
+QString DateLongueEnTexte(const TValeurVue& v) {
   const TDateTime date = Lire<TDateTime>(v);
   return date == 0.0 ? QString() : FormatJour(date);
 }
-QString HeureEnTexte(const TValeur& v) { return FormatHeureCourte(Lire<TDateTime>(v)); }
-QString HeureHEnTexte(const TValeur& v) { return FormatHeure(Lire<TDateTime>(v)); }
-QString MoisEnTexte(const TValeur& v) {
+QString HeureEnTexte(const TValeurVue& v) { return FormatHeureCourte(Lire<TDateTime>(v)); }
+QString HeureHEnTexte(const TValeurVue& v) { return FormatHeure(Lire<TDateTime>(v)); }
+QString MoisEnTexte(const TValeurVue& v) {
   QString nom = LocaleEcole().standaloneMonthName(Lire<int>(v));
   if (!nom.isEmpty()) nom[0] = nom[0].toUpper();
   return nom;
 }
-QString Rien(const TValeur&) { return {}; }
+QString Rien(const TValeurVue&) { return {}; }
 
 /// The months of a school year begin with September.
 int RangScolaire(int mois) { return mois == 0 ? 0 : (mois + 3) % 12 + 1; }
 
 struct TGenreDecrit {
-  QString (*Montrer)(const TValeur&);
-  QString (*Brut)(const TValeur&);
+  QString (*Montrer)(const TValeurVue&);
+  QString (*Brut)(const TValeurVue&);
   bool ADroite = false;
 };
 
@@ -68,19 +68,19 @@ int Signe(const T& a, const T& b) {
 
 }  // namespace
 
-QString TexteDe(TGenre genre, const TValeur& valeur) {
+QString TexteDe(TGenre genre, const TValeurVue& valeur) {
   if (std::holds_alternative<std::monostate>(valeur)) return {};
   const auto* texte = std::get_if<QString>(&valeur);
   return texte ? *texte : Genre(genre).Montrer(valeur);
 }
 
-QString TexteBrut(TGenre genre, const TValeur& valeur) {
+QString TexteBrut(TGenre genre, const TValeurVue& valeur) {
   if (std::holds_alternative<std::monostate>(valeur)) return {};
   const auto* texte = std::get_if<QString>(&valeur);
   return texte ? *texte : Genre(genre).Brut(valeur);
 }
 
-int ComparerValeurs(TGenre genre, const TValeur& a, const TValeur& b) {
+int ComparerValeurs(TGenre genre, const TValeurVue& a, const TValeurVue& b) {
   if (a.index() != b.index()) return Signe(a.index(), b.index());
   if (const auto* texte = std::get_if<QString>(&a)) return ComparerTextes(*texte, std::get<QString>(b));
   if (genre == TGenre::Mois) return Signe(RangScolaire(Lire<int>(a)), RangScolaire(Lire<int>(b)));

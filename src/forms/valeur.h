@@ -6,10 +6,10 @@
 #include "core/currency.h"
 #include "core/dates.h"
 
-/// What a cell or a field holds; `TValeur()` for nothing. Dates and times are TDateTime, a month is 1 to
+/// What a cell or a field holds; `TValeurVue()` for nothing. Dates and times are TDateTime, a month is 1 to
 /// 12. A text stands in any cell: for what could not be read, or in the head of a group.
-using TValeur = std::variant<std::monostate, QString, int, Currency, TDateTime>;
-using TCellules = std::vector<TValeur>;
+using TValeurVue = std::variant<std::monostate, QString, int, Currency, TDateTime>;
+using TCellules = std::vector<TValeurVue>;
 
 /// How the values of a column are shown and put in order.
 enum class TGenre {
@@ -27,11 +27,11 @@ enum class TGenre {
 };
 
 /// As a column of that kind shows it; "" for no value, and for a date or time of 0.
-QString TexteDe(TGenre genre, const TValeur& valeur);
+QString TexteDe(TGenre genre, const TValeurVue& valeur);
 /// For another program: an amount without its sign and spaces, dates and months as they are shown.
-QString TexteBrut(TGenre genre, const TValeur& valeur);
+QString TexteBrut(TGenre genre, const TValeurVue& valeur);
 /// Below 0, 0 or above 0, by the value itself. Nothing comes first, then texts, then what they stand among.
-int ComparerValeurs(TGenre genre, const TValeur& a, const TValeur& b);
+int ComparerValeurs(TGenre genre, const TValeurVue& a, const TValeurVue& b);
 /// Whether it is one of the kinds of an amount.
 inline bool EstMontant(TGenre genre) { return genre == TGenre::Montant || genre == TGenre::Prix; }
 /// Amounts, numbers and times stand on the right.

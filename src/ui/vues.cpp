@@ -4,20 +4,20 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "screens/attendance/frm_presences.h"
+#include "screens/commun/frm_dialogue.h"
+#include "screens/commun/frm_liste.h"
 #include "screens/documents/frm_apercu.h"
 #include "screens/documents/frm_print_wizard.h"
-#include "screens/payments/frm_date_paiement.h"
-#include "screens/attendance/frm_ajout_releve.h"
-#include "screens/attendance/frm_presences.h"
-#include "screens/principal/frm_ajout_professeur.h"
 #include "screens/pupils/frm_import.h"
 #include "screens/pupils/frm_signaletique.h"
-#include "ui/attendance/vue_ajout_releve.h"
+#include "screens/attendance/frm_releve_calendrier.h"
 #include "ui/attendance/vue_presences.h"
+#include "ui/attendance/vue_releve_calendrier.h"
+#include "ui/commun/vue_dialogue.h"
+#include "ui/commun/vue_liste.h"
 #include "ui/documents/vue_apercu.h"
 #include "ui/documents/vue_print_wizard.h"
-#include "ui/payments/vue_date_paiement.h"
-#include "ui/principal/vue_ajout_professeur.h"
 #include "ui/pupils/vue_import.h"
 #include "ui/pupils/vue_signaletique.h"
 
@@ -37,18 +37,18 @@ constexpr TFabriqueVue VueDe() {
 }  // namespace
 
 QWidget* CreerVue(TForm& form, QWidget* parent) {
-  // One line a screen: VueDe<TFrmImport, VueImport>(),
+  // One line a screen: VueDe<TFrmImport, VueImport>(). A dialog or a list that is nothing but its table of
+  // fields needs none.
   static const std::vector<TFabriqueVue> kVues{
-      VueDe<TFrmAjoutProfesseur, VueAjoutProfesseur>(),
-      VueDe<TFrmImport, VueImport>(),
-      VueDe<TFrmSignaletique, VueSignaletique>(),
+      VueDe<TFrmImport, VueImport>(),           VueDe<TFrmSignaletique, VueSignaletique>(),
       VueDe<TfrmPresences, VuePresences>(),
-      VueDe<TFrmAjoutReleve, VueAjoutReleve>(),
+      VueDe<TFrmReleveCalendrier, VueReleveCalendrier>(),
       VueDe<TFrmApercu, VueApercu>(),
-      VueDe<TFrmDatePaiement, VueDatePaiement>(),
       VueDe<TFrmPrintWizard, VuePrintWizard>(),
   };
   for (const TFabriqueVue& vue : kVues)
     if (vue.Classe == typeid(form)) return vue.Creer(form, parent);
+  if (auto* dialogue = dynamic_cast<TFrmDialogue*>(&form)) return new VueDialogue(*dialogue, parent);
+  if (auto* liste = dynamic_cast<TFrmListe*>(&form)) return new VueListe(*liste, parent);
   return nullptr;
 }

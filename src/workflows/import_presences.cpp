@@ -39,13 +39,8 @@ QString NomArchive(TDateTime moment) {
 
 TCellules LigneRecapitulatif(const TPresence& presence) {
   const TEleve* eleve = Globals.Eleves->TrouverParId(presence.EleveId);
-  return {eleve->Nom,
-          eleve->Prenom,
-          presence.DateReleve,
-          Texte(presence.TypePresence),
-          presence.HeureEntree,
-          presence.HeureSortie,
-          eleve->Matricule};
+  return {eleve->Nom,           eleve->Prenom,        presence.DateReleve, Texte(presence.TypePresence),
+          presence.HeureEntree, presence.HeureSortie, eleve->Matricule};
 }
 
 TCellules LigneAnomalie(const TAnomalie& anomalie) {

@@ -13,7 +13,7 @@ struct TClasseFictive {};
 
 TGrille Grille(TGenre genre, const TCellules& valeurs) {
   TGrille grille({{u"Nom"_s, 200}, {u"Valeur"_s, 80, genre}});
-  for (const TValeur& valeur : valeurs) grille.Ajouter({u"x"_s, valeur});
+  for (const TValeurVue& valeur : valeurs) grille.Ajouter({u"x"_s, valeur});
   return grille;
 }
 

@@ -287,5 +287,5 @@ TEST_F(Assistant, PaymentDateIsAWeekAhead) {
   TFrmDatePaiement form(ecran.Contexte);
   ecran.SurModale = [&](TForm&) { form.btnValiderClick(); };
   EXPECT_EQ(ecran.MontrerModal(form), TResultatModal::Valide);
-  EXPECT_EQ(form.dtDatePaiement, J("2017-01-04"));
+  EXPECT_EQ(form.dtDatePaiement(), J("2017-01-04"));
 }

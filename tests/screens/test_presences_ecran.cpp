@@ -67,6 +67,14 @@ struct TEcole : TBaseEssai {
   }
 };
 
+/// The fields of the dialog of a record.
+enum { Date, Type, Debut, Fin, Site };
+QString Champs(TFrmAjoutReleve& saisie) {
+  QStringList textes;
+  for (const int champ : {Date, Type, Debut, Fin}) textes += saisie.Champs().Texte(champ);
+  return textes.join(u'|');
+}
+
 class FrmPresences : public testing::Test {
  protected:
   void SetUp() override {
@@ -125,10 +133,10 @@ TEST_F(FrmPresences, AFileByHandIsCorrectedAndStored) {
   EXPECT_EQ(Form.Anomalies.NombreLignes(), 2) << "given up";
   Ecran.SurModale = [](TForm& form) {
     auto& saisie = dynamic_cast<TFrmAjoutReleve&>(form);
-    EXPECT_EQ(QStringList({saisie.Date, saisie.Debut, saisie.Fin}), (QStringList{"04/10/2016", "", "11:01"}));
-    EXPECT_EQ(saisie.PremierChamp(), TFrmAjoutReleve::TChamp::Debut);
-    saisie.Debut = u"07:45"_s;
-    saisie.Fin = u"  :  "_s;
+    EXPECT_EQ(Champs(saisie), u"04/10/2016|0||11:01");
+    EXPECT_EQ(saisie.PremierChamp(), Debut);
+    saisie.Champs().Taper(Debut, u"07:45"_s);
+    saisie.Champs().Taper(Fin, u"  :  "_s);
     EXPECT_TRUE(saisie.BitBtn1Click());
   };
   Form.Corrigerlerelev1Click();
@@ -248,14 +256,15 @@ TEST_F(FrmPresences, TheTabletsFileWithoutAWord) {
 }
 
 TEST_F(FrmPresences, TheDialogOfARecord) {
-  using TChamp = TFrmAjoutReleve::TChamp;
   const TDateTime date = EncodeDate(2016, 10, 4);
   TFrmAjoutReleve neuf(Ecran.Contexte);
   neuf.Charger(TTypePresence::Garderie, 0, 0, date);
-  EXPECT_EQ(neuf.PremierChamp(), TChamp::Type);
+  EXPECT_EQ(neuf.PremierChamp(), Type);
+  int foyer = -1;
+  TLien lien = neuf.Champs().SurFoyer.Suivre([&](int champ) { foyer = champ; });
   EXPECT_FALSE(neuf.BitBtn1Click()) << "the first pass asks for the other time";
-  EXPECT_EQ(neuf.ChampAttendu(), TChamp::Fin);
-  EXPECT_EQ(neuf.Debut, u"00:00");
+  EXPECT_EQ(foyer, Fin);
+  EXPECT_EQ(Champs(neuf), u"04/10/2016|0|00:00|");
   EXPECT_TRUE(neuf.BitBtn1Click());
   EXPECT_EQ(neuf.HeureEntree(), 0.0);
   EXPECT_EQ(neuf.HeureSortie(), 0.0);
@@ -264,21 +273,23 @@ TEST_F(FrmPresences, TheDialogOfARecord) {
   TFrmAjoutReleve corrige(Ecran.Contexte);
   corrige.Mode = TFrmAjoutReleve::Correction;
   corrige.Charger(TTypePresence::Etude, 0, EncodeTime(16, 5), date);
-  EXPECT_EQ(corrige.PremierChamp(), TChamp::Fin);
-  corrige.Fin = u"16:75"_s;
-  EXPECT_THROW(corrige.BitBtn1Click(), EConvertError);
-  EXPECT_EQ(corrige.ChampAttendu(), TChamp::Fin);
-  EXPECT_NE(corrige.ResultatModal, TResultatModal::Valide);
-  corrige.Fin = u"17:00"_s;
-  EXPECT_EQ(corrige.PremierChamp(), TChamp::Type) << "no time is missing";
-  corrige.Date = u"31/02/2016"_s;
-  EXPECT_THROW(corrige.BitBtn1Click(), EConvertError);
-  EXPECT_EQ(corrige.ChampAttendu(), TChamp::Date);
-  corrige.Date = u"5/10/16"_s;
-  corrige.IndexType = -1;
-  Base.Dialogues.Attend(u"Veuillez sélectionner un type de relevé"_s);
-  EXPECT_FALSE(corrige.BitBtn1Click());
-  corrige.IndexType = 1;
+  EXPECT_EQ(corrige.PremierChamp(), Fin);
+  lien = corrige.Champs().SurFoyer.Suivre([&](int champ) { foyer = champ; });
+  const struct {
+    int Champ;
+    const char *Faux, *Faute, *Bon;
+  } cas[] = {{Fin, "16:75", "« 16:75 » n'est pas une heure (hh:mm).", "17:00"},
+             {Date, "31/02/2016", "« 31/02/2016 » n'est pas une date (jj/mm/aaaa).", "5/10/16"},
+             {Type, "-1", "Veuillez sélectionner un type de relevé", "1"}};
+  for (const auto& [champ, faux, faute, bon] : cas) {
+    corrige.Champs().Taper(champ, QString::fromUtf8(faux));
+    EXPECT_FALSE(corrige.BitBtn1Click());
+    EXPECT_EQ(corrige.Champs().Faute(champ), QString::fromUtf8(faute));
+    EXPECT_EQ(foyer, champ);
+    EXPECT_NE(corrige.ResultatModal, TResultatModal::Valide);
+    corrige.Champs().Taper(champ, QString::fromUtf8(bon));
+  }
+  EXPECT_EQ(corrige.PremierChamp(), Type) << "no time is missing";
   EXPECT_TRUE(corrige.BitBtn1Click());
   EXPECT_EQ(corrige.TypePresence(), TTypePresence::Repas);
   EXPECT_EQ(corrige.DateReleve(), EncodeDate(2016, 10, 5));
@@ -294,11 +305,13 @@ TEST_F(FrmPresences, TheDialogAsksForTheSite) {
   Ecran.Essai.Controleur.ChargerAnnee(2016);
   TFrmAjoutReleve saisie(Ecran.Contexte);
   saisie.Charger(TTypePresence::Repas, 0, EncodeTime(12, 0), EncodeDate(2016, 10, 4));
-  EXPECT_TRUE(saisie.Implantations().contains(u"Centre"_s));
-  Base.Dialogues.Attend(u"Vous devez indiquer l'implantation où le relevé s'est effectué."_s);
+  const QStringList sites = saisie.Champs().Champ(Site).Choix();
+  EXPECT_TRUE(sites.contains(u"Centre"_s));
   EXPECT_FALSE(saisie.BitBtn1Click());
-  EXPECT_EQ(saisie.ChampAttendu(), TFrmAjoutReleve::TChamp::Implantation);
-  saisie.IndexImplantation = static_cast<int>(saisie.Implantations().indexOf(u"Centre"));
+  EXPECT_EQ(saisie.Champs().Faute(Site), u"Vous devez indiquer l'implantation où le relevé s'est effectué.");
+  saisie.Champs().Choisir(Site, static_cast<int>(sites.indexOf(u"Centre")));
   EXPECT_TRUE(saisie.BitBtn1Click());
   EXPECT_EQ(saisie.CodeImplantation(), u"C1");
+  saisie.Charger(TTypePresence::Repas, 0, 0, EncodeDate(2016, 10, 4), u"C1"_s);
+  EXPECT_EQ(saisie.CodeImplantation(), u"C1") << "a correction opens on the site of the record";
 }

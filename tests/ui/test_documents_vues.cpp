@@ -18,13 +18,13 @@
 #include "support/valeurs.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/saisie.h"
+#include "ui/commun/vue_dialogue.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/documents/dialogue_papier.h"
 #include "ui/documents/impression.h"
 #include "ui/documents/pages_apercu.h"
 #include "ui/documents/vue_apercu.h"
 #include "ui/documents/vue_print_wizard.h"
-#include "ui/payments/vue_date_paiement.h"
 #include "ui/programme_essai.h"
 #include "ui/verifier_vue.h"
 
@@ -329,7 +329,7 @@ TEST_F(DocumentsVues, NavigatorPagesAndPaper) {
 TEST_F(DocumentsVues, WithinReachOfEveryone) {
   Programme& tout = programme.Tout();
   TFrmDatePaiement date(tout.Main.Contexte);
-  VerifierVuePartout([&] { return std::make_unique<VueDatePaiement>(date, nullptr); });
+  VerifierVuePartout([&] { return std::make_unique<VueDialogue>(date, nullptr); });
   VerifierVuePartout([&] { return std::make_unique<DialoguePapier>(TPapier{{210, 297}}, nullptr); });
   const TRapport rapport = Factures();
   TFrmApercu apercu(Contexte(), rapport);

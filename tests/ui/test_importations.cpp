@@ -14,9 +14,9 @@
 #include "screens/pupils/frm_import.h"
 #include "support/ecran_essai.h"
 #include "support/fichier_registre.h"
-#include "ui/attendance/vue_ajout_releve.h"
 #include "ui/attendance/vue_presences.h"
 #include "ui/commun/saisie.h"
+#include "ui/commun/vue_dialogue.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/principal/application.h"
 #include "ui/principal/barre_etat.h"
@@ -271,7 +271,7 @@ TEST(VuesDesImports, AreWithinReach) {
 
   TFrmAjoutReleve releve(ecran.Contexte);
   releve.Charger(TTypePresence::Etude, 0, EncodeTime(16, 0), EncodeDate(2016, 10, 3));
-  VerifierVuePartout([&] { return std::make_unique<VueAjoutReleve>(releve, nullptr); });
+  VerifierVuePartout([&] { return std::make_unique<VueDialogue>(releve, nullptr); });
 }
 
 TEST(VuesDesImports, BothGridsOfThePresencesShareTheirWidths) {

@@ -11,6 +11,7 @@
 
 #include "screens/principal/frm_ajout_professeur.h"
 #include "ui/commun/feuille_progression.h"
+#include "ui/commun/vue_dialogue.h"
 #include "ui/principal/application.h"
 #include "ui/principal/barre_commandes.h"
 #include "ui/principal/barre_etat.h"
@@ -18,7 +19,6 @@
 #include "ui/principal/dialogue_saisie.h"
 #include "ui/principal/panneau_eleves.h"
 #include "ui/principal/vue_accueil.h"
-#include "ui/principal/vue_ajout_professeur.h"
 #include "ui/programme_essai.h"
 #include "ui/verifier_vue.h"
 
@@ -231,8 +231,7 @@ TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
     QTest::keyClicks(fenetre.findChildren<QLineEdit*>().at(0), u"   "_s);
     Cliquer(fenetre, u"Valider"_s);
   });
-  Programme.Dialogues.Attend(u"Un nom est obligatoire"_s);
-  Programme.Dialogues.Fait(u"Ajout d'un professeur"_s, [](QWidget& fenetre) {
+  Programme.Dialogues.Fait(u"Un nom est obligatoire"_s, [](QWidget& fenetre) {
     const auto champs = fenetre.findChildren<QLineEdit*>();
     EXPECT_EQ(fenetre.focusWidget(), champs.at(0));
     champs.at(0)->selectAll();
@@ -336,7 +335,7 @@ TEST_F(Principal, EveryControlOfItsDialogsToo) {
   });
   Programme.Demarrer();
   TFrmAjoutProfesseur ajout(Programme.Main().Contexte);
-  VerifierVuePartout([&] { return std::make_unique<VueAjoutProfesseur>(ajout, nullptr); });
+  VerifierVuePartout([&] { return std::make_unique<VueDialogue>(ajout, nullptr); });
 }
 
 TEST_F(Principal, LongWorkKeepsTheWindowShutAndAlive) {

@@ -257,9 +257,9 @@ void TfrmPresences::Corrigerlerelev1Click() {
   AjouterBon(*import_.Bons().back());
   Anomalies.Retirer(ligne);
   if (compteurs_.AJour) Compter();
-  const TLigneGrille& corrigee = Recapitulatif.Ligne(Recapitulatif.NombreLignes() - 1);
-  Signaler(TNiveauEtat::Succes,
-           QString(u"Relevé corrigé : " % corrigee.Texte(Nom) % u' ' % corrigee.Texte(Prenom)));
+  const int corrigee = Recapitulatif.NombreLignes() - 1;
+  Signaler(TNiveauEtat::Succes, QString(u"Relevé corrigé : " % Recapitulatif.Texte(corrigee, Nom) % u' ' %
+                                        Recapitulatif.Texte(corrigee, Prenom)));
   Annoncer();
 }
 

@@ -19,7 +19,7 @@ void TImprimeur::Imprimer(TChoixDocument choix) {
   if (DemandeDatePaiement(titre, *Globals.Parametres)) {
     TFrmDatePaiement date(contexte_);
     if (contexte_.Modale.MontrerModal(date) == TResultatModal::Valide)
-      choix.DatePaiement = date.dtDatePaiement;
+      choix.DatePaiement = date.dtDatePaiement();
   }
   TResultat resultat;
   {

@@ -1,15 +1,19 @@
 #pragma once
-#include "screens/contexte_ecran.h"
+#include "screens/commun/frm_dialogue.h"
+
+struct TDatePaiement {
+  TDateTime Date = 0.0;
+};
 
 /// "Introduire la date de paiement": until when the families are asked to pay. Modal.
-class TFrmDatePaiement : public TForm {
+class TFrmDatePaiement : public TFrmDialogueDe<TDatePaiement> {
  public:
-  explicit TFrmDatePaiement(const TContexteEcran& contexte) : contexte_(contexte) {}
+  explicit TFrmDatePaiement(const TContexteEcran& contexte);
 
-  void btnValiderClick();
-  void btnAnnulerClick();
-
-  TDateTime dtDatePaiement = 0.0;  ///< on show, today plus 7 days
+  bool btnValiderClick() { return Valider(); }
+  void btnAnnulerClick() { Annuler(); }
+  /// On show, today plus 7 days.
+  TDateTime dtDatePaiement() const { return Saisi.Date; }
 
  protected:
   void FormShow() override;

@@ -3,16 +3,9 @@
 #include "screens/attendance/frm_presences.h"
 #include "screens/pupils/frm_import.h"
 #include "screens/pupils/frm_signaletique.h"
+#include "screens/services/frm_parametres_garderies.h"
 
 namespace {
-
-template <class... T>
-constexpr int Masque(T... outils) {
-  return (static_cast<int>(outils) | ...);
-}
-
-constexpr int kImprime = Masque(TOutil::btnPrint);
-constexpr int kListe = Masque(TOutil::btnSave, TOutil::btnNew, TOutil::btnEdit, TOutil::btnDelete);
 
 QString T(const char16_t* texte) { return QString::fromUtf16(texte); }
 
@@ -24,53 +17,39 @@ std::vector<TCommandePrincipale> CommandesPrincipales() {
   using enum TGestionnaire;
   using enum TPage;
   return {
-      {AdvGlowButton2Click, PgEleve, T(u"É&lèves"), T(u"system-users"), 6,
-       Masque(TOutil::btnPrint, TOutil::btnMail), true, Ecran<TFrmSignaletique>(TRemplacement::Cache)},
-      {AdvGlowButton7Click, PgEleve, T(u"&Statistiques"), T(u"office-chart-bar"), 6, kImprime, false, {}},
-      {AdvGlowButton1Click,
-       PgEleve,
-       T(u"&Présences"),
-       T(u"view-barcode"),
-       {},
-       0,
-       false,
-       Ecran<TfrmPresences>()},
-      {btnVirementClick, PgEleve, T(u"&Virements"), T(u"view-bank"), {}, 0, false, {}},
+      {AdvGlowButton2Click, PgEleve, T(u"É&lèves"), T(u"system-users"), 6, true,
+       Ecran<TFrmSignaletique>(TRemplacement::Cache)},
+      {AdvGlowButton7Click, PgEleve, T(u"&Statistiques"), T(u"office-chart-bar"), 6, false, {}},
+      {AdvGlowButton1Click, PgEleve, T(u"&Présences"), T(u"view-barcode"), {}, false, Ecran<TfrmPresences>()},
+      {btnVirementClick, PgEleve, T(u"&Virements"), T(u"view-bank"), {}, false, {}},
 
-      {btnCompteEleveClick, pgRepasNew, T(u"C&omptes"), T(u"wallet-open"), {}, kImprime, false, {}},
-      {btnReservation2Click,
-       pgRepasNew,
-       T(u"&Réservation"),
-       T(u"view-calendar-day"),
-       {},
-       kImprime,
-       false,
-       {}},
-      {btnClick, pgRepasNew, T(u"&Cuisine"), T(u"food"), {}, kImprime, false, {}},
+      {btnCompteEleveClick, pgRepasNew, T(u"C&omptes"), T(u"wallet-open"), {}, false, {}},
+      {btnReservation2Click, pgRepasNew, T(u"&Réservation"), T(u"view-calendar-day"), {}, false, {}},
+      {btnClick, pgRepasNew, T(u"&Cuisine"), T(u"food"), {}, false, {}},
 
-      {btnTicketClick, pgRepas, T(u"&Tickets"), T(u"tag"), 6, kImprime, true, {}},
-      {btnReservationClick, pgRepas, T(u"&Réservation"), T(u"view-calendar-day"), 6, kImprime, false, {}},
-      {btnCuisineClick, pgRepas, T(u"&Cuisine"), T(u"food"), 6, kImprime, false, {}},
-      {btnComptabiliteClick, pgRepas, T(u"C&ompta"), T(u"wallet-open"), {}, kImprime, false, {}},
+      {btnTicketClick, pgRepas, T(u"&Tickets"), T(u"tag"), 6, true, {}},
+      {btnReservationClick, pgRepas, T(u"&Réservation"), T(u"view-calendar-day"), 6, false, {}},
+      {btnCuisineClick, pgRepas, T(u"&Cuisine"), T(u"food"), 6, false, {}},
+      {btnComptabiliteClick, pgRepas, T(u"C&ompta"), T(u"wallet-open"), {}, false, {}},
 
-      {AdvGlowButton8Click, PgParametre, T(u"&Importation"), T(u"document-import"), 0, 0, false,
+      {AdvGlowButton8Click, PgParametre, T(u"&Importation"), T(u"document-import"), 0, false,
        Ecran<TFrmImport>()},
-      {AdvGlowButton16Click, PgParametre, T(u"&Frais"), T(u"view-financial-list"), 120, kListe, false, {}},
-      {AdvGlowButton3Click, PgParametre, T(u"&Mon école"), T(u"go-home"), {}, 0, false, {}},
-      {AdvGlowButton5Click, PgParametre, T(u"S&ervices"), T(u"chronometer"), 120, kListe, false, {}},
-      {AdvGlowButton6Click, PgParametre, T(u"&Paramètres"), T(u"configure"), {}, 0, false, {}},
+      {AdvGlowButton16Click, PgParametre, T(u"&Frais"), T(u"view-financial-list"), 120, false, {}},
+      {AdvGlowButton3Click, PgParametre, T(u"&Mon école"), T(u"go-home"), {}, false, {}},
+      {AdvGlowButton5Click, PgParametre, T(u"S&ervices"), T(u"chronometer"), 120, false,
+       Ecran<TFrmParametresGarderies>()},
+      {AdvGlowButton6Click, PgParametre, T(u"&Paramètres"), T(u"configure"), {}, false, {}},
       {btnActivitesClick,
        PgParametre,
        T(u"&Activités"),
        T(u"view-calendar-special-occasion"),
        120,
-       kListe,
        false,
        {}},
 
-      {btnTransfertRepasClick, pgRepas3, T(u"&Transfert"), T(u"document-export"), {}, 0, false, {}},
-      {btnReservationTabletteClick, pgRepas3, T(u"&Réservation"), T(u"view-calendar-day"), {}, 0, false, {}},
-      {AdvGlowButton4Click, pgRepas3, T(u"&Quitter"), T(u"application-exit"), {}, 0, false, {}},
+      {btnTransfertRepasClick, pgRepas3, T(u"&Transfert"), T(u"document-export"), {}, false, {}},
+      {btnReservationTabletteClick, pgRepas3, T(u"&Réservation"), T(u"view-calendar-day"), {}, false, {}},
+      {AdvGlowButton4Click, pgRepas3, T(u"&Quitter"), T(u"application-exit"), {}, false, {}},
   };
 }
 

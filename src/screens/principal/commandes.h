@@ -65,8 +65,6 @@ struct TCommandePrincipale {
   QString Icone;
   /// Mask of the shared commands that its screen shows; none leaves them as they were.
   std::optional<int> Outils;
-  /// Mask of those that its screen has a handler for.
-  int Reagit = 0;
   /// The screen takes up the selected pupil as soon as it is open.
   bool PrendEleve = false;
   /// None for a screen that this version does not have.

@@ -1,20 +1,12 @@
 #include "screens/principal/frm_ajout_professeur.h"
 
-using namespace Qt::StringLiterals;
-
-bool TFrmAjoutProfesseur::btnValiderClick() {
-  ResultatModal = TResultatModal::Valide;
-  return Fermer();
-}
-
-void TFrmAjoutProfesseur::btnAnnulerClick() {
-  ResultatModal = TResultatModal::Annule;
-  Fermer();
-}
-
-bool TFrmAjoutProfesseur::FormCloseQuery() {
-  if (ResultatModal != TResultatModal::Valide || !Nom.trimmed().isEmpty()) return true;
-  ResultatModal = TResultatModal::Aucun;
-  contexte_.Dialogues().Message(u"Un nom est obligatoire"_s);
-  return false;
-}
+TFrmAjoutProfesseur::TFrmAjoutProfesseur(const TContexteEcran&)
+    : TFrmDialogueDe(u"Ajout d'un professeur"_s,
+                     {{{.Nom = u"edNom"_s,
+                        .Libelle = u"Nom :"_s,
+                        .Longueur = 50,
+                        .Obligatoire = true,
+                        .Refus = u"Un nom est obligatoire"_s},
+                       Membre(&TNomProfesseur::Nom)},
+                      {{.Nom = u"edPrenom"_s, .Libelle = u"Prénom :"_s, .Longueur = 50},
+                       Membre(&TNomProfesseur::Prenom)}}) {}

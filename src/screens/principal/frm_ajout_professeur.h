@@ -1,22 +1,18 @@
 #pragma once
-#include "screens/contexte_ecran.h"
+#include "screens/commun/frm_dialogue.h"
 
-/// Asks for the name of a teacher. Modal.
-class TFrmAjoutProfesseur : public TForm {
- public:
-  explicit TFrmAjoutProfesseur(TContexteEcran& contexte) : contexte_(contexte) {}
-
-  /// "Valider": true when the dialog is closed, false when a name is missing.
-  bool btnValiderClick();
-  void btnAnnulerClick();
-
-  // As typed.
+/// As typed.
+struct TNomProfesseur {
   QString Nom;
   QString Prenom;
+};
 
- protected:
-  bool FormCloseQuery() override;
+/// Asks for the name of a teacher. Modal.
+class TFrmAjoutProfesseur : public TFrmDialogueDe<TNomProfesseur> {
+ public:
+  explicit TFrmAjoutProfesseur(const TContexteEcran& contexte);
 
- private:
-  TContexteEcran& contexte_;
+  /// "Valider": true when the dialog is closed, false when a name is missing.
+  bool btnValiderClick() { return Valider(); }
+  void btnAnnulerClick() { Annuler(); }
 };

@@ -38,6 +38,10 @@ TGestionnaire GestionnaireDe(TCommandePage commande) {
   return TGestionnaire::btnComptabiliteClick;
 }
 
+TCodeMessage CodeDe(TOutil outil) {
+  return std::ranges::find(OutilsPrincipaux(), outil, &TOutilPrincipal::Outil)->Code;
+}
+
 QString CombienEleves(int annee, int nombre) {
   if (nombre == 0) return u"Aucun élève en " % AnneeEnTexte(annee);
   return u"Année " % AnneeEnTexte(annee) % u" : " % QString::number(nombre) %
@@ -56,7 +60,10 @@ TFrmMain::TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge&
     tvEleveChange();
   });
   liens_ += Panneau.SurEtape.Suivre([this](TForm& form, TEtapeForm etape) {
-    if (etape == TEtapeForm::Affichee) accueilDevant_ = false;
+    if (etape == TEtapeForm::Affichee) {
+      accueilDevant_ = false;
+      ecran_ = form.SurCommandes.Suivre([this] { SurOutils(); });
+    }
     SurEtape(form, etape);
     Annoncer();
   });
@@ -90,9 +97,18 @@ void TFrmMain::FormClose() {
 }
 
 bool TFrmMain::FormCloseQuery() {
-  if (!enTravail_) return true;
+  if (!enTravail_) {
+    QuitterChamp();
+    return EcranAccepte();
+  }
   Etat(TNiveauEtat::Alerte, kFermetureRefusee);
   return false;
+}
+
+// A screen with something unsaved asks, once.
+bool TFrmMain::EcranAccepte() {
+  TForm* ecran = Panneau.Courante();
+  return ecran == nullptr || ecran->AccepteDeFermer();
 }
 
 // Bar.
@@ -177,15 +193,14 @@ void TFrmMain::Executer(TGestionnaire gestionnaire) {
 bool TFrmMain::OutilVisible(TOutil outil) const { return (outils_ & static_cast<int>(outil)) != 0; }
 
 bool TFrmMain::OutilActif(TOutil outil) const {
-  const TCommandePrincipale* ouverte = CommandeOuverte();
-  return OutilVisible(outil) && !enTravail_ && ouverte != nullptr &&
-         (ouverte->Reagit & static_cast<int>(outil)) != 0;
+  return OutilVisible(outil) && !enTravail_ && CommandeOuverte() != nullptr &&
+         Panneau.Courante()->Accepte(CodeDe(outil));
 }
 
 void TFrmMain::OutilClick(TOutil outil) {
   if (!OutilActif(outil)) return;
   QuitterChamp();
-  Diffuser(std::ranges::find(OutilsPrincipaux(), outil, &TOutilPrincipal::Outil)->Code);
+  Diffuser(CodeDe(outil));
 }
 
 void TFrmMain::Diffuser(TCodeMessage code) {
@@ -204,6 +219,7 @@ std::vector<int> TFrmMain::Annees() const {
 void TFrmMain::mnuAnneeClick(int annee) {
   if (enTravail_ || !EstRelie()) return;
   QuitterChamp();
+  if (!EcranAccepte()) return;
   Controleur.ChoisirAnnee(annee);
   EtatApresEcran(TNiveauEtat::Neutre, CombienEleves(annee, NombreEleves()));
 }
@@ -320,7 +336,9 @@ void TFrmMain::FermerEcran() {
   Annoncer();
 }
 
-void TFrmMain::QuitterChamp() { SurQuitterChamp(); }
+void TFrmMain::QuitterChamp() {
+  if (TForm* ecran = Panneau.Courante()) ecran->LaisserChamp();
+}
 
 void TFrmMain::DureeBulles(int ms) { SurDureeBulles(ms); }
 

@@ -117,7 +117,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   TSignal<TForm&, TEtapeForm> SurEtape;
   TSignal<> SurSelection;  ///< before the screens are told
   TSignal<> SurEtat;
-  TSignal<> SurQuitterChamp;
+  TSignal<> SurOutils;  ///< shared commands go on or off
   TSignal<> SurTerminer;
   TSignal<int> SurDureeBulles;
 
@@ -137,6 +137,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   /// What was done, and what the screen that had to go for it has left undone.
   void EtatApresEcran(TNiveauEtat niveau, const QString& fait);
   void Diffuser(TCodeMessage code);
+  bool EcranAccepte();
   TNoeud* NoeudQuiCommence(TNoeud* debut) const;
   void Inscrire(TEleve& professeur);
   void OublierEleve(const TEleve& eleve);
@@ -155,6 +156,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   QString enSuspens_;  // of the screen that was freed last
   bool enTravail_ = false;
   TLiens liens_;
+  TLien ecran_;  ///< the screen in front
 };
 
 /// "2018 - 2019"

@@ -89,8 +89,8 @@ void TFrmMain::Ajouterunprofesseur1Click() {
   if (Contexte.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
   TEleves& eleves = *Globals.Eleves;
   auto nouveau = std::make_unique<TEleve>();
-  nouveau->Nom = saisie.Nom;
-  nouveau->Prenom = saisie.Prenom;
+  nouveau->Nom = saisie.Saisi.Nom;
+  nouveau->Prenom = saisie.Saisi.Prenom;
   TEleve& professeur = eleves.AddEleve(std::move(nouveau));
   try {
     eleves.Save();

@@ -95,7 +95,7 @@ QVariant ModeleGrille::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(Alignement(grille_.Colonne(colonne).Genre));
     case Qt::CheckStateRole:
-      if (!grille_.CasesACocher || colonne != 0 || grille_.Ligne(ligne).Tete) return {};
+      if (!grille_.CasesACocher || colonne != 0 || !ACase(ligne)) return {};
       return grille_.Ligne(ligne).Coche ? Qt::Checked : Qt::Unchecked;
     default:
       return Apparence(ligne, colonne, role);
@@ -115,6 +115,10 @@ QVariant ModeleGrille::Apparence(int ligne, int colonne, int role) const {
   return {};
 }
 
+bool ModeleGrille::ACase(int ligne) const {
+  return !grille_.Ligne(ligne).Tete && !grille_.Ligne(ligne).SansCase;
+}
+
 QVariant ModeleGrille::headerData(int colonne, Qt::Orientation sens, int role) const {
   if (sens != Qt::Horizontal || colonne < 0 || colonne >= grille_.NombreColonnes()) return {};
   if (role == Qt::DisplayRole) return grille_.Colonne(colonne).Titre;
@@ -124,13 +128,13 @@ QVariant ModeleGrille::headerData(int colonne, Qt::Orientation sens, int role) c
 
 Qt::ItemFlags ModeleGrille::flags(const QModelIndex& index) const {
   Qt::ItemFlags drapeaux = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-  if (grille_.CasesACocher && index.column() == 0) drapeaux |= Qt::ItemIsUserCheckable;
+  if (grille_.CasesACocher && index.column() == 0 && ACase(Ligne(index))) drapeaux |= Qt::ItemIsUserCheckable;
   return drapeaux;
 }
 
 bool ModeleGrille::setData(const QModelIndex& index, const QVariant& valeur, int role) {
   const int ligne = Ligne(index);
-  if (role != Qt::CheckStateRole || ligne < 0) return false;
+  if (role != Qt::CheckStateRole || ligne < 0 || !ACase(ligne)) return false;
   const bool coche = valeur.toInt() == Qt::Checked;
   grille_.Cocher(ligne, coche);
   emit Cochee(ligne, coche);

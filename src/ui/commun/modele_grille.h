@@ -45,6 +45,7 @@ class ModeleGrille : public QAbstractItemModel {
   };
 
   TPlan Dresser() const;
+  bool ACase(int ligne) const;
   QVariant Apparence(int ligne, int colonne, int role) const;
 
   TGrille& grille_;

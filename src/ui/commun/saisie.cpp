@@ -3,14 +3,13 @@
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QRegularExpression>
 #include <QTextCharFormat>
 #include <QToolButton>
 #include <QWidgetAction>
 
-#include "core/conversions.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
+#include "forms/champs.h"
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/theme.h"
 
@@ -18,38 +17,33 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a reader of the house answers, or none when it refuses the text.
-template <class Lecteur>
-auto Essayer(Lecteur lire, const QString& texte) -> std::optional<decltype(lire(texte))> {
+/// What the text stands for; none when it cannot be read. An empty text is nothing.
+template <class T>
+std::optional<T> Lire(TGenreChamp genre, const QString& texte) {
   try {
-    return lire(texte);
+    return ValeurEn<T>(ValeurDuTexte({.Genre = genre}, texte));
   } catch (const EConvertError&) {
     return std::nullopt;
   }
 }
 
-std::optional<Currency> LireMontant(const QString& texte) {
-  if (texte.trimmed().isEmpty()) return Currency();
-  return Essayer(StrToCurr, texte);
+/// As the house writes it; none when it cannot be read.
+std::optional<QString> Ecrire(TGenreChamp genre, const QString& texte) {
+  try {
+    const TChamp champ{.Genre = genre, .Obligatoire = !texte.trimmed().isEmpty()};  // midnight is typed
+    return TexteDuChamp(champ, ValeurDuTexte(champ, texte));
+  } catch (const EConvertError&) {
+    return std::nullopt;
+  }
 }
 
-std::optional<TDateTime> LireHeure(const QString& texte) {
-  const QString simple = texte.trimmed();
-  if (simple.isEmpty()) return 0.0;
-  static const QRegularExpression kHeure(u"^(\\d{1,2})[:hH.]?(\\d{2})?$"_s);
-  const QRegularExpressionMatch lue = kHeure.match(simple);
-  if (!lue.hasMatch()) return std::nullopt;
-  const QString minutes = lue.captured(2).isEmpty() ? u"00"_s : lue.captured(2);
-  return Essayer(StrToTime, lue.captured(1) % u':' % minutes);
-}
+}  // namespace
 
-std::optional<TDateTime> LireDate(const QString& texte) {
-  if (texte.trimmed().isEmpty()) return 0.0;
-  return Essayer(StrToDate, texte);
-}
-
-/// Qt's own arrows are coloured, and its red of the week-end is not read on a dark ground.
-void Habiller(QCalendarWidget& calendrier) {
+// Qt's own arrows are coloured, and its red of the week-end is not read on a dark ground.
+void HabillerCalendrier(QCalendarWidget& calendrier) {
+  calendrier.setLocale(LocaleEcole());
+  calendrier.setFirstDayOfWeek(Qt::Monday);
+  calendrier.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   QTextCharFormat repos;
   repos.setForeground(Theme::Secondaire());
   calendrier.setWeekdayTextFormat(Qt::Saturday, repos);
@@ -61,8 +55,6 @@ void Habiller(QCalendarWidget& calendrier) {
     if (auto* bouton = calendrier.findChild<QToolButton*>(QLatin1String(nom)))
       bouton->setIcon(Theme::Icone(QLatin1String(icone), TRole::SurAccent));
 }
-
-}  // namespace
 
 Saisie::Saisie(QWidget* parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::editingFinished, this, &Saisie::Terminer);
@@ -95,26 +87,32 @@ void Saisie::focusInEvent(QFocusEvent* evenement) {
 
 SaisieMontant::SaisieMontant(QWidget* parent) : Saisie(parent) { setAlignment(Qt::AlignRight); }
 
-void SaisieMontant::DefinirMontant(Currency montant) { Montrer(FormatDeuxDecimales(montant)); }
+void SaisieMontant::DefinirMontant(Currency montant) { Montrer(FormatPrix(montant)); }
 
-std::optional<Currency> SaisieMontant::Montant() const { return LireMontant(text()); }
+std::optional<Currency> SaisieMontant::Montant() const {
+  return Lire<Currency>(TGenreChamp::Montant, text());
+}
 
 std::optional<QString> SaisieMontant::MettreEnForme(const QString& texte) const {
-  const std::optional<Currency> montant = LireMontant(texte);
-  if (!montant) return std::nullopt;
-  return texte.trimmed().isEmpty() ? QString() : FormatDeuxDecimales(*montant);
+  return Ecrire(TGenreChamp::Montant, texte);
+}
+
+// The point of the keypad, which a Belgian keyboard does not turn into a comma.
+void SaisieMontant::keyPressEvent(QKeyEvent* evenement) {
+  const bool point =
+      evenement->key() == Qt::Key_Period && evenement->modifiers().testFlag(Qt::KeypadModifier);
+  QKeyEvent virgule(evenement->type(), Qt::Key_Comma, Qt::NoModifier, u","_s);
+  Saisie::keyPressEvent(point ? &virgule : evenement);
 }
 
 SaisieHeure::SaisieHeure(QWidget* parent) : Saisie(parent) { setPlaceholderText(u"hh:mm"_s); }
 
 void SaisieHeure::DefinirHeure(TDateTime heure) { Montrer(FormatHeureCourte(heure)); }
 
-std::optional<TDateTime> SaisieHeure::Heure() const { return LireHeure(text()); }
+std::optional<TDateTime> SaisieHeure::Heure() const { return Lire<TDateTime>(TGenreChamp::Heure, text()); }
 
 std::optional<QString> SaisieHeure::MettreEnForme(const QString& texte) const {
-  const std::optional<TDateTime> heure = LireHeure(texte);
-  if (!heure) return std::nullopt;
-  return texte.trimmed().isEmpty() ? QString() : HeureVersQt(*heure).toString(u"hh:mm"_s);
+  return Ecrire(TGenreChamp::Heure, texte);
 }
 
 SaisieDate::SaisieDate(QWidget* parent) : Saisie(parent), fleche_(new QToolButton(this)) {
@@ -131,11 +129,10 @@ SaisieDate::SaisieDate(QWidget* parent) : Saisie(parent), fleche_(new QToolButto
 
 void SaisieDate::DefinirDate(TDateTime date) { Montrer(FormatDate(date)); }
 
-std::optional<TDateTime> SaisieDate::Date() const { return LireDate(text()); }
+std::optional<TDateTime> SaisieDate::Date() const { return Lire<TDateTime>(TGenreChamp::Date, text()); }
 
 std::optional<QString> SaisieDate::MettreEnForme(const QString& texte) const {
-  const std::optional<TDateTime> date = LireDate(texte);
-  return date ? std::optional(FormatDate(*date)) : std::nullopt;
+  return Ecrire(TGenreChamp::Date, texte);
 }
 
 void SaisieDate::MontrerFleche(bool montrer) {
@@ -174,11 +171,8 @@ void SaisieDate::OuvrirCalendrier() {
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   auto* calendrier = new QCalendarWidget(menu);
-  calendrier->setLocale(LocaleEcole());
-  calendrier->setFirstDayOfWeek(Qt::Monday);
-  calendrier->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   calendrier->setAccessibleName(accessibleName());
-  Habiller(*calendrier);
+  HabillerCalendrier(*calendrier);
   const std::optional<TDateTime> date = Date();
   if (date && *date != 0.0) calendrier->setSelectedDate(DateVersQt(*date));
   const auto choisir = [this, menu](const QDate& jour) {

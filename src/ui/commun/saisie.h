@@ -7,6 +7,11 @@
 
 class QToolButton;
 
+class QCalendarWidget;
+
+/// The calendar in the language of the school and the colours of the theme.
+void HabillerCalendrier(QCalendarWidget& calendrier);
+
 /// A field for one kind of value. What cannot be read stays as it was typed and is drawn as faulty.
 class Saisie : public QLineEdit {
   Q_OBJECT
@@ -31,7 +36,7 @@ class Saisie : public QLineEdit {
   QString avant_;
 };
 
-/// "1234,50", aligned right; the word "euros" stands beside it.
+/// "1234,50", with up to four decimals, aligned right; the word "euros" stands beside it.
 class SaisieMontant : public Saisie {
   Q_OBJECT
  public:
@@ -41,6 +46,7 @@ class SaisieMontant : public Saisie {
   std::optional<Currency> Montant() const;
 
  protected:
+  void keyPressEvent(QKeyEvent* evenement) override;
   std::optional<QString> MettreEnForme(const QString& texte) const override;
 };
 

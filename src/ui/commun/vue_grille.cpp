@@ -372,7 +372,9 @@ void VueGrille::CopierTout() {
 void VueGrille::Exporter() {
   const auto chemin = DialoguesQt().FichierAEnregistrer(u"Exporter la liste"_s, accessibleName() % u".csv",
                                                         u"Texte séparé par des points-virgules (*.csv)"_s);
-  if (chemin) EcrireFichier(*chemin, "\xEF\xBB\xBF" + EnCsv(grille_, LignesVues(), ColonnesVues()).toUtf8());
+  if (!chemin) return;
+  const QByteArray octets = "\xEF\xBB\xBF" + EnCsv(grille_, LignesVues(), ColonnesVues()).toUtf8();
+  EcrireFichier(*chemin, octets);
 }
 
 // Keyboard and mouse

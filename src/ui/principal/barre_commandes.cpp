@@ -155,6 +155,15 @@ void BarreCommandes::Actualiser() {
     bouton->setToolTip(commande.Nom() %
                        (raison.isEmpty() ? ToucheAlt(commande.Libelle) : QString(u" : " % raison)));
   }
+  ActualiserOutils();
+  annees_->setVisible(!form_.IntituleAnnee().isEmpty());
+  annees_->setText(form_.IntituleAnnee() % u"  ▾");
+  annees_->setAccessibleName(form_.IntituleAnnee());
+  annees_->setEnabled(form_.EstRelie() && !form_.EnTravail());
+  update();
+}
+
+void BarreCommandes::ActualiserOutils() {
   bool unOutil = false;
   for (const TOutilPrincipal& outil : OutilsPrincipaux()) {
     QToolButton* bouton = outils_.at(outil.Outil);
@@ -164,14 +173,9 @@ void BarreCommandes::Actualiser() {
     bouton->setEnabled(actif);
     bouton->setToolTip(outil.Libelle % (actif               ? QString(u" (" % outil.Touche % u')')
                                         : form_.EnTravail() ? u" : un travail est en cours"_s
-                                                            : u" : pas sur cet écran"_s));
+                                                            : u" : pas maintenant"_s));
   }
   separateur_->setVisible(unOutil);
-  annees_->setVisible(!form_.IntituleAnnee().isEmpty());
-  annees_->setText(form_.IntituleAnnee() % u"  ▾");
-  annees_->setAccessibleName(form_.IntituleAnnee());
-  annees_->setEnabled(form_.EstRelie() && !form_.EnTravail());
-  update();
 }
 
 void BarreCommandes::OuvrirMenuAnnees() {

@@ -16,6 +16,8 @@ class BarreCommandes : public QWidget {
 
   /// Shows the state of the form.
   void Actualiser();
+  /// Only the shared commands.
+  void ActualiserOutils();
   void OuvrirMenuAnnees();
   /// By its place among the pages that are shown, from 0; another does nothing.
   void ActiverPage(int rang);

@@ -1,7 +1,6 @@
 #include "ui/principal/fenetre_principale.h"
 
 #include <QCloseEvent>
-#include <QFocusEvent>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
@@ -99,7 +98,7 @@ void FenetrePrincipale::Suivre() {
   liens_ += form_.SurEtape.Suivre([this](TForm& form, TEtapeForm etape) { SuivreEtape(form, etape); });
   liens_ += form_.SurSelection.Suivre([this] { eleves_->SuivreSelection(); });
   liens_ += form_.SurEtat.Suivre([this] { etat_->MontrerEtat(); });
-  liens_ += form_.SurQuitterChamp.Suivre([this] { QuitterChamp(); });
+  liens_ += form_.SurOutils.Suivre([this] { ActualiserOutils(); });
   liens_ += form_.SurTerminer.Suivre(
       [this] { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); });
   liens_ += form_.SurDureeBulles.Suivre([this](int ms) { dureeBulles_ = ms; });
@@ -124,8 +123,13 @@ void FenetrePrincipale::Actualiser() {
   trait_->setVisible(form_.ArbreVisible());
   eleves_->Actualiser();
   etat_->Actualiser();
-  for (const auto& [touche, outil] : touchesOutils_) touche->setEnabled(form_.OutilActif(outil));
+  ActualiserOutils();
   ActualiserContenu();
+}
+
+void FenetrePrincipale::ActualiserOutils() {
+  barre_->ActualiserOutils();
+  for (const auto& [touche, outil] : touchesOutils_) touche->setEnabled(form_.OutilActif(outil));
 }
 
 void FenetrePrincipale::ActualiserContenu() {
@@ -190,18 +194,6 @@ void FenetrePrincipale::Progresser(int fait, int total, const QString& nom) {
   if (total > 0 && feuilleEnCours_) feuilleEnCours_->Avancer(fait, nom);
   if (total <= 0 && feuilleEnCours_ && feuilleOuverte_) feuilleEnCours_->Terminer();
   form_.Travail(total);
-}
-
-// The control is told, and keeps the focus: its change is saved and the hand stays where it is. In an
-// inactive window it has not been told by Qt either.
-void FenetrePrincipale::QuitterChamp() {
-  const QPointer<QWidget> champ = focusWidget();
-  if (!champ || !contenu_->isAncestorOf(champ)) return;
-  QFocusEvent quitte(QEvent::FocusOut, Qt::OtherFocusReason);
-  QCoreApplication::sendEvent(champ, &quitte);
-  if (!champ || !champ->hasFocus()) return;
-  QFocusEvent revient(QEvent::FocusIn, Qt::OtherFocusReason);
-  QCoreApplication::sendEvent(champ, &revient);
 }
 
 void FenetrePrincipale::closeEvent(QCloseEvent* evenement) { evenement->setAccepted(form_.Fermer()); }

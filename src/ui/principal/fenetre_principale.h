@@ -47,11 +47,11 @@ class FenetrePrincipale : public QMainWindow {
   void ToucheOutil(const QKeySequence& touche, TOutil outil);
   void Suivre();
   void Actualiser();
+  void ActualiserOutils();
   void ActualiserContenu();
   void SuivreEtape(TForm& form, TEtapeForm etape);
   void Montrer(TForm& form);
   void Progresser(int fait, int total, const QString& nom);
-  void QuitterChamp();
   void ZoneSuivante(int sens);
   void DonnerFoyer(QWidget& zone);
 

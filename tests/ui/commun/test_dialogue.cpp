@@ -9,7 +9,6 @@
 #include "ui/commun/bouton.h"
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/dialogue_base.h"
-#include "ui/commun/panneau_edition.h"
 #include "ui/commun/saisie.h"
 #include "ui/commun/titres.h"
 #include "ui/verifier_vue.h"
@@ -67,26 +66,4 @@ TEST(DialogueBase, SeParcourt) {
     dialogue->Principal()->click();  // with the line of its fault
     return dialogue;
   });
-}
-
-TEST(PanneauEdition, EnLectureRienNeChange) {
-  PanneauEdition panneau;
-  auto* montant = new SaisieMontant;
-  panneau.Contenu()->addWidget(new ChampLibelle(u"Coût:"_s, montant));
-  int annulations = 0;
-  QObject::connect(&panneau, &PanneauEdition::Annule, &panneau, [&] { ++annulations; });
-  panneau.show();
-  QApplication::setActiveWindow(&panneau);
-  panneau.DefinirMode(TModeEdition::Lecture, u"Tarif"_s);
-  QTest::keyClicks(montant, u"2"_s);
-  QTest::keyClick(montant, Qt::Key_Escape);
-  EXPECT_EQ(montant->text(), QString());
-  EXPECT_EQ(annulations, 0);
-  panneau.DefinirMode(TModeEdition::Modification, u"Modification du tarif"_s);
-  panneau.AllerAuPremierChamp();
-  EXPECT_TRUE(montant->hasFocus());
-  QTest::keyClicks(montant, u"2"_s);
-  QTest::keyClick(montant, Qt::Key_Escape);
-  EXPECT_EQ(montant->text(), u"2"_s);
-  EXPECT_EQ(annulations, 1);
 }

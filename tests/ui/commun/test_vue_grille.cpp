@@ -68,7 +68,7 @@ TEST(VueGrille, TrieSelonLaValeurEtGardeLaLigne) {
     EXPECT_EQ(vue.currentIndex().siblingAtColumn(0).data().toString(), u"Mer"_s);
     EXPECT_TRUE(vue.selectionModel()->isSelected(vue.currentIndex()));
   }
-  EXPECT_EQ(Vus(vue, 2).first(), u"−1\u00A0182,90\u00A0€"_s);
+  EXPECT_EQ(Vus(vue, 2).first(), u"−1\u202F182,90\u00A0€"_s);
   QTest::keyClick(&vue, Qt::Key_Home);
   EXPECT_EQ(grille.LigneCourante(), 1);
 
@@ -106,7 +106,7 @@ TEST(VueGrille, CopieAvecTabulations) {
   const QStringList lignes = QApplication::clipboard()->text().split(u'\n');
   EXPECT_EQ(lignes.size(), 4);
   EXPECT_EQ(lignes[0], u"Libellé\tDate\tDû\tÉtat"_s);
-  EXPECT_EQ(lignes[1], u"Théâtre\t12/09/2018\t-1 182,90 €\t"_s);
+  EXPECT_EQ(lignes[1], u"Théâtre\t12/09/2018\t-1\u202F182,90 €\t"_s);
 }
 
 TEST(VueGrille, RetientLargeursOrdreEtTri) {

@@ -1,0 +1,155 @@
+#include "screens/commun/frm_liste.h"
+
+#include "report/rapport.h"
+
+TFrmListe::TFrmListe(TContexteEcran& contexte, TTextesListe textes)
+    : contexte_(contexte), textes_(std::move(textes)) {
+  liens_ += Grille.SurChoix.Suivre([this] {
+    if (mode_ == TModeEdition::Lecture) MontrerLigne();
+    SurCommandes();
+  });
+}
+
+void TFrmListe::FormShow() {
+  Champs().SurRefus = [this](const TChamp&, const QString& faute) {
+    Dire(TNiveauEtat::Erreur, u"Non enregistré : " % faute);
+  };
+  liens_ += Champs().SurChangement.Suivre([this](int) { SurChangement(); });
+  Champs().DefinirLectureSeule(true);
+  Remplir();
+  Grille.ChoisirLigne(0);
+  MontrerLigne();
+}
+
+// Modes
+
+QString TFrmListe::TitrePanneau() const {
+  switch (mode_) {
+    case TModeEdition::Nouveau:
+      return textes_.Nouveau;
+    case TModeEdition::Modification:
+      return textes_.Modification;
+    case TModeEdition::Lecture:
+      break;
+  }
+  return textes_.Lecture;
+}
+
+void TFrmListe::Passer(TModeEdition mode) {
+  mode_ = mode;
+  Champs().DefinirLectureSeule(mode == TModeEdition::Lecture);
+  Annoncer();
+  SurCommandes();
+  if (mode != TModeEdition::Lecture) Champs().SurFoyer(0);
+}
+
+void TFrmListe::Nouveau() {
+  MontrerNouveau();
+  Passer(TModeEdition::Nouveau);
+}
+
+void TFrmListe::Modifier() { Passer(TModeEdition::Modification); }
+
+void TFrmListe::Annuler() {
+  if (mode_ == TModeEdition::Lecture) return;
+  Champs().AbandonnerTout();
+  Passer(TModeEdition::Lecture);
+  MontrerLigne();
+}
+
+bool TFrmListe::LaisserChamp() { return mode_ == TModeEdition::Lecture || Champs().QuitterTout(); }
+
+// Changing
+
+/// What cannot be stored is said in the words of the database; false then.
+bool TFrmListe::Essayer(const std::function<void()>& faire) {
+  try {
+    faire();
+    return true;
+  } catch (const Exception& e) {
+    Dire(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    contexte_.Dialogues().Message(e.Message);
+    return false;
+  }
+}
+
+bool TFrmListe::Enregistrer() {
+  if (mode_ == TModeEdition::Lecture || !Champs().Verifier()) return false;
+  if (!Essayer([this] { Ranger(mode_ == TModeEdition::Nouveau); })) {
+    Champs().SurFoyer(0);
+    return false;
+  }
+  supprime_.clear();
+  Passer(TModeEdition::Lecture);
+  MontrerLigne();
+  Dire(TNiveauEtat::Succes, textes_.Enregistre);
+  ApresChangement();
+  return true;
+}
+
+void TFrmListe::Supprimer() {
+  if (!contexte_.Dialogues().ConfirmerGrave(textes_.Question)) return;
+  const int ligne = Grille.LigneCourante();
+  const QString nom = Grille.Texte(ligne, 0);
+  if (!Essayer([this] { supprime_ = Oter(); })) return;
+  Grille.ChoisirLigne(std::min(ligne, Grille.NombreLignes() - 1));
+  Dire(TNiveauEtat::Succes, QString(textes_.Supprime % u" : " % nom % u" (Ctrl+Z rétablit)"));
+  SurCommandes();
+  ApresChangement();
+}
+
+void TFrmListe::Retablir() {
+  if (mode_ != TModeEdition::Lecture || supprime_.empty()) return;
+  if (!Essayer([this] { Remettre(supprime_); })) return;
+  supprime_.clear();
+  Dire(TNiveauEtat::Succes, textes_.Retabli);
+  SurCommandes();
+  ApresChangement();
+}
+
+void TFrmListe::Imprimer() {
+  TRapport rapport(textes_.Titre, u"RepDynamicFromListviewPortrait"_s);
+  rapport.NomUsuel = textes_.Liste;
+  rapport.ChargerColonnesGrille(Grille);
+  contexte_.Apercu.Afficher(rapport);
+}
+
+// Commands
+
+const TFrmListe::TAction* TFrmListe::ActionDe(TCodeMessage code) {
+  static constexpr TAction kActions[] = {
+      {TCodeMessage::Nouveau, true, false, &TFrmListe::Nouveau},
+      {TCodeMessage::Modifier, true, true, &TFrmListe::Modifier},
+      {TCodeMessage::Supprimer, true, true, &TFrmListe::Supprimer},
+      {TCodeMessage::Enregistrer, false, false, &TFrmListe::EnregistrerClick},
+  };
+  const auto* action = std::ranges::find(kActions, code, &TAction::Code);
+  return action == std::end(kActions) ? nullptr : action;
+}
+
+bool TFrmListe::Accepte(TCodeMessage code) const {
+  const TAction* action = ActionDe(code);
+  return action != nullptr && action->EnLecture == (mode_ == TModeEdition::Lecture) &&
+         (!action->SurLigne || Grille.LigneCourante() >= 0);
+}
+
+bool TFrmListe::RecevoirMessage(const TMessage& message) {
+  const TAction* action = ActionDe(message.Code);
+  if (action == nullptr) return false;
+  if (Accepte(message.Code)) (this->*action->Faire)();
+  return true;
+}
+
+// Leaving
+
+bool TFrmListe::FormCloseQuery() {
+  return !EstModifie() ||
+         contexte_.Dialogues().ConfirmerGrave(
+             u"Ce que vous avez introduit n'est pas enregistré. Voulez-vous l'abandonner ?"_s);
+}
+
+QString TFrmListe::EnSuspens() const {
+  return mode_ != TModeEdition::Lecture && const_cast<TFrmListe*>(this)->EstModifie()
+             ? u"modifications non enregistrées"_s
+             : QString();
+}

@@ -1,0 +1,16 @@
+#include "ui/commun/vue_dialogue.h"
+
+#include <QVBoxLayout>
+
+#include "screens/commun/frm_dialogue.h"
+#include "ui/commun/liaison_champs.h"
+
+VueDialogue::VueDialogue(TFrmDialogue& form, QWidget* parent)
+    : DialogueBase(form.Titre, parent), form_(form), liaison_(new LiaisonChamps(form.Champs(), this)) {
+  setMinimumWidth(Theme::Px(400));
+  Contenu()->addLayout(CreerFormulaire(*liaison_));
+  DefinirPrincipal(form.Principal);
+  liaison_->Widget(form.PremierChamp())->setFocus(Qt::OtherFocusReason);
+}
+
+bool VueDialogue::Valider() { return form_.Valider(); }
