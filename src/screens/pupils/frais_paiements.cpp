@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TValeur MontantOuVide(Currency montant) { return montant == Currency() ? TValeur() : TValeur(montant); }
+TValeurVue MontantOuVide(Currency montant) { return montant == Currency() ? TValeurVue() : TValeurVue(montant); }
 
 TEtatFrais EtatDe(Currency du, Currency verse) {
   if (verse >= du) return EtatPaye;
@@ -25,6 +25,7 @@ TFraisPaiements::TFraisPaiements() {
                           {u"Dû"_s, 80, TGenre::Montant},
                           {u"Payé"_s, 80, TGenre::Montant},
                           {u"État"_s, 94, TGenre::Etat}});
+  Grille.CasesACocher = true;
   Grille.Etats = {{u"Payé"_s, u"dialog-ok-apply"_s},
                   {u"Dû"_s, u"data-warning"_s},
                   {u"Partiel"_s, u"data-warning"_s},
@@ -33,8 +34,11 @@ TFraisPaiements::TFraisPaiements() {
   Vider();
 }
 
+TFraisPaiements::~TFraisPaiements() = default;
+
 void TFraisPaiements::Vider() {
   Grille.Vider();
+  impayes_.clear();
   Pied = {{u"Total"_s}, {u"Balance"_s}};
   Solde = totalDu_ = totalVerse_ = {};
 }
@@ -46,7 +50,7 @@ void TFraisPaiements::Remplir(const TEleve& eleve) {
   AjouterServices(eleve);
   AjouterPaiementsLibres(eleve);
   Solde = eleve.Solde(true, true);
-  EcrirePied();
+  EcrirePied(eleve.Eleves->Regles != nullptr && eleve.Eleves->Regles->ModeProvision);
 }
 
 void TFraisPaiements::AjouterFrais(const TEleve& eleve) {
@@ -56,24 +60,44 @@ void TFraisPaiements::AjouterFrais(const TEleve& eleve) {
     if (ligne.EstLibre()) continue;
     const Currency du = ligne.MontantFrais();
     const Currency verse = ligne.MontantVerse;
-    Grille.Ajouter({ligne.LibelleFrais(), ligne.MoisFrais(), du, MontantOuVide(verse)}, &ligne,
-                   ligne.Previsionnel() ? EtatPrevision : EtatDe(du, verse));
+    const int place = Grille.Ajouter({ligne.LibelleFrais(), ligne.MoisFrais(), du, MontantOuVide(verse)}, &ligne,
+                                     ligne.Previsionnel() ? EtatPrevision : EtatDe(du, verse));
+    Grille.Cocher(place, ligne.EstPaye());
     if (!ligne.Previsionnel()) Compter(du, verse);
   }
 }
 
-// What the month costs less its fees, which have rows of their own, is what its services cost.
+// What the month costs less its fees, which have rows of their own, is what its services cost. A month that
+// was paid stays in sight when its services have come to nothing, so that the payment can be taken back.
 void TFraisPaiements::AjouterServices(const TEleve& eleve) {
   const TPaiements* paiements = eleve.Eleves->Paiements;
   for (const int mois : kMoisFacturation) {
-    const Currency du = eleve.CoutServicesPeriode(BornesMois(mois, eleve.Eleves->AnneeScolaire));
-    if (du <= Currency()) continue;
+    const Currency du = std::max(
+        Currency(), eleve.CoutServicesPeriode(BornesMois(mois, eleve.Eleves->AnneeScolaire)));
+    TPaiement* paye = paiements != nullptr ? paiements->PaiementMois(eleve.Id, mois) : nullptr;
+    if (du == Currency() && paye == nullptr) continue;
     const Currency verse = eleve.PaiementsMois(mois);
-    Grille.Ajouter({QString(u"Services " % NomMois(mois).toLower()), mois, du, MontantOuVide(verse)},
-                   paiements != nullptr ? paiements->PaiementMois(eleve.Id, mois) : nullptr,
-                   EtatDe(du, verse));
+    const int place =
+        Grille.Ajouter({QString(u"Services " % NomMois(mois).toLower()), mois, du, MontantOuVide(verse)},
+                       paye != nullptr ? paye : &Impaye(eleve, mois, du), EtatDe(du, verse));
+    Grille.Cocher(place, paye != nullptr);
     Compter(du, verse);
   }
+}
+
+TPaiement& TFraisPaiements::Impaye(const TEleve& eleve, int mois, Currency du) {
+  auto paiement = std::make_unique<TPaiement>();
+  paiement->EleveId = eleve.Id;
+  paiement->Mois = mois;
+  paiement->Annee = eleve.Eleves->AnneeScolaire;
+  paiement->Montant = du;
+  return *impayes_.emplace_back(std::move(paiement));
+}
+
+std::unique_ptr<TPaiement> TFraisPaiements::PrendreImpaye(const TPaiement& paiement) {
+  for (auto& impaye : impayes_)
+    if (impaye.get() == &paiement) return std::move(impaye);
+  return nullptr;
 }
 
 void TFraisPaiements::AjouterPaiementsLibres(const TEleve& eleve) {
@@ -82,7 +106,7 @@ void TFraisPaiements::AjouterPaiementsLibres(const TEleve& eleve) {
   std::vector<TFraisEleve*> libres;
   lignes->PaiementsLibres(libres);
   for (TFraisEleve* ligne : libres) {
-    Grille.Ajouter({ligne->Remarque, ligne->Mois, {}, ligne->MontantVerse}, ligne, EtatRecu);
+    Grille.OterCase(Grille.Ajouter({ligne->Remarque, ligne->Mois, {}, ligne->MontantVerse}, ligne, EtatRecu));
     Compter({}, ligne->MontantVerse);
   }
 }
@@ -92,7 +116,8 @@ void TFraisPaiements::Compter(Currency du, Currency verse) {
   totalVerse_ += verse;
 }
 
-void TFraisPaiements::EcrirePied() {
+// What is ticked moves no balance where families pay provisions.
+void TFraisPaiements::EcrirePied(bool provision) {
   Pied = {{u"Total"_s, {}, FormatMontant(totalDu_), FormatMontant(totalVerse_)},
-          {u"Balance"_s, {}, {}, FormatMontant(Solde)}};
+          {provision ? u"Balance (provisions, sans les coches)"_s : u"Balance"_s, {}, {}, FormatMontant(Solde)}};
 }

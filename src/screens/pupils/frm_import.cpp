@@ -18,9 +18,9 @@ QString Eleves(int nombre) {
 }
 
 /// What is no date is shown as it stands in the file.
-TValeur DateOuTexte(const QString& texte) {
+TValeurVue DateOuTexte(const QString& texte) {
   const TDateTime date = LireDateBarre(texte);
-  return date != 0.0 ? TValeur(date) : TValeur(texte);
+  return date != 0.0 ? TValeurVue(date) : TValeurVue(texte);
 }
 
 }  // namespace

@@ -22,18 +22,29 @@ QString TitreActivites(TTypeActivitesExt type) {
   return {};
 }
 
-/// "Judo (lundi, jeudi)"
-QString TexteActivite(const TActivite& activite, const TActiviteEleve& inscription) {
-  QStringList jours;
-  for (std::size_t jour = 0; jour < inscription.FlgJours.size(); ++jour)
-    if (inscription.FlgJours[jour]) jours += LocaleEcole().dayName(static_cast<int>(jour) + 1);
-  return jours.isEmpty() ? activite.Libelle : activite.Libelle % u" (" % jours.join(u", ") % u')';
+/// "P3 A · Centre · Matricule 212-04127-38"
+QString SousTitreDe(const TEleve& eleve) {
+  QStringList morceaux{eleve.LibelleClasse().trimmed(), eleve.LibelleImplantation()};
+  if (!eleve.Matricule.isEmpty()) morceaux += u"Matricule " % eleve.Matricule;
+  morceaux.removeAll(QString());
+  return morceaux.join(u"  ·  "_s);
 }
 
 }  // namespace
 
 TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte)
-    : contexte_(contexte), imprimeur_(contexte, TitresOfferts(TListeTitres::Eleves)) {
+    : contexte_(contexte),
+      imprimeur_(contexte, TitresOfferts(TListeTitres::Eleves)),
+      champs_(Table(), TChamps::Aussitot) {
+  champs_.SurPermission = [this] { return ExigeEleve(); };
+  champs_.SurEnregistrer = [this](const TChamp& champ) { EnregistrerEleve(champ); };
+  champs_.SurRefus = [this](const TChamp&, const QString& faute) {
+    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré : " % faute);
+  };
+  champs_.SurEchec = [this](const TChamp&, const QString& faute) {
+    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    contexte_.Dialogues().Message(faute);
+  };
   const int mois = DecodeDate(contexte.Controleur.Horloge().Aujourdhui()).Mois;
   const auto trouve = std::ranges::find(kMoisFacturation, mois);
   if (trouve != kMoisFacturation.end()) indiceMois_ = static_cast<int>(trouve - kMoisFacturation.begin());
@@ -66,9 +77,16 @@ bool TFrmSignaletique::RecevoirMessage(const TMessage& message) {
   }
 }
 
+bool TFrmSignaletique::Accepte(TCodeMessage code) const {
+  return code == TCodeMessage::Imprimer || code == TCodeMessage::Courriel;
+}
+
 // Whatever fails half-way, the screen never shows two pupils at once.
 void TFrmSignaletique::PrendreEleve() {
-  const TEleve* eleve = Globals.EleveCourant;
+  TEleve* eleve = Globals.EleveCourant;
+  if (champs_.Modifies() && eleve != champs_.Objet())  // it belonged to the pupil who was left
+    contexte_.Principal.Etat(TNiveauEtat::Alerte,
+                             u"Abandonné, car refusé : la modification de " % nomComplet_);
   if (eleve == nullptr) return Vider();
   try {
     LireFiche(*eleve);
@@ -81,9 +99,11 @@ void TFrmSignaletique::PrendreEleve() {
   }
 }
 
-void TFrmSignaletique::LireFiche(const TEleve& eleve) {
+void TFrmSignaletique::LireFiche(TEleve& eleve) {
   avecEleve_ = true;
-  fiche_ = TFicheEleve::De(eleve);
+  champs_.Montrer(&eleve);
+  nomComplet_ = eleve.NomComplet();
+  sousTitre_ = SousTitreDe(eleve);
   LirePhoto(eleve);
   LireMarques(mois_, *Globals.PresencesParticulieres, eleve.Id);
   LireActivites(eleve);
@@ -99,23 +119,15 @@ void TFrmSignaletique::LirePhoto(const TEleve& eleve) {
   }
 }
 
-void TFrmSignaletique::LireActivites(const TEleve& eleve) {
-  const TActiviteEleve* premiere = Globals.ActivitesEleves->ActivitesEleve(eleve.Id);
-  joursActivite_ = premiere != nullptr ? premiere->FlgJours : std::array<bool, 5>{};
-  QStringList textes;
-  for (const TActivite& activite : *Globals.Activites)
-    if (const auto* inscription = Globals.ActivitesEleves->ActiviteEleveParCle(eleve.Id, activite.Id))
-      textes += TexteActivite(activite, *inscription);
-  activites_ = textes.join(u", "_s);
-}
-
 void TFrmSignaletique::Vider() {
   avecEleve_ = false;
-  fiche_ = {};
+  champs_.Montrer(nullptr);
+  nomComplet_.clear();
+  sousTitre_.clear();
   photo_ = {};
   mois_ = GroupesMois();
   joursActivite_ = {};
-  activites_.clear();
+  for (TActiviteSuivie& activite : activites_) activite.Jours = {};
   Frais.Vider();
   Annoncer();
   Releve.Vider();
@@ -150,11 +162,4 @@ void TFrmSignaletique::RemplirReleve(const TEleve& eleve) {
 QString TFrmSignaletique::TexteSansReleve() const {
   if (!avecEleve_ || Releve.Grille.NombreLignes() > 0) return {};
   return u"Aucun relevé en " % NomsMois()[indiceMois_].toLower();
-}
-
-void TFrmSignaletique::ModificationDemandee() {
-  if (Globals.EleveCourant == nullptr)
-    contexte_.Dialogues().Message(u"Veuillez sélectionner un élève"_s);
-  else
-    contexte_.Principal.Etat(TNiveauEtat::Alerte, u"Fiche en lecture seule : rien n'a été modifié"_s);
 }

@@ -2,25 +2,43 @@
 #include <QImage>
 
 #include "documents/periode.h"
+#include "screens/attendance/frm_releve_calendrier.h"
 #include "screens/documents/imprimeur.h"
-#include "screens/pupils/fiche_eleve.h"
+#include "screens/pupils/champs_eleve.h"
 #include "screens/pupils/frais_paiements.h"
+#include "screens/pupils/groupes_mois.h"
 #include "screens/pupils/releve_mensuel.h"
 
+class TDistributor;
+struct TActiviteEleve;
+struct TFraisEleve;
+struct TPaiement;
+struct TPresence;
+
 /// The record of the selected pupil: who it is, its photo, month by month, its services of a month, its
-/// fees and payments; and the documents of the pupils. It shows and prints: nothing is changed on it.
+/// fees and payments; and the documents of the pupils. Each control writes and stores when it is left or
+/// clicked.
 class TFrmSignaletique : public TForm {
  public:
   explicit TFrmSignaletique(const TContexteEcran& contexte);
   /// EleveChange, Imprimer, Courriel, AssistantConfirme.
   bool RecevoirMessage(const TMessage& message) override;
+  bool Accepte(TCodeMessage code) const override;
+  bool LaisserChamp() override { return champs_.QuitterTout(); }
 
   /// False before the first pupil and when the one on display went with its year.
   bool AvecEleve() const { return avecEleve_; }
-  const TFicheEleve& Fiche() const { return fiche_; }
+  TChampsDe<TEleve>& Champs() { return champs_; }
+  const QString& NomComplet() const { return nomComplet_; }
+  /// "P3 A · Centre · Matricule 212-04127-38"; what is not known is left out.
+  const QString& SousTitre() const { return sousTitre_; }
   /// A null picture without a photo.
   const QImage& Photo() const { return photo_; }
   const std::array<TGroupeMois, 3>& Mois() const { return mois_; }
+  /// A box of a group (0 to 2), its month by its place; the boxes go back without a pupil.
+  void cbMoisClick(int groupe, int mois, bool coche) { MarquerMois(groupe, {mois}, coche); }
+  /// A master box: all ten.
+  void cbMaitreClick(int groupe, bool coche);
   Currency Solde() const { return Frais.Solde; }
   /// In a word: "À payer".
   TEtatGrille EtatSolde() const;
@@ -32,8 +50,24 @@ class TFrmSignaletique : public TForm {
   const std::array<bool, 5>& JoursActivite() const { return joursActivite_; }
   /// The year has activities, so that there is something to say of those of the pupil.
   bool ActivitesVisibles() const { return activitesVisibles_; }
-  /// "Judo (lundi, jeudi), Chorale (mardi)"
-  const QString& Activites() const { return activites_; }
+  /// `jour` 0 for Monday. Nothing without a pupil.
+  void cbLundi1Click(int jour, bool coche);
+  /// An activity of the year and the days on which the pupil follows it.
+  struct TActiviteSuivie {
+    int ActiviteId;
+    QString Libelle;
+    std::array<bool, 5> Jours;
+  };
+  const std::vector<TActiviteSuivie>& Activites() const { return activites_; }
+  void cbJourActiviteClick(int activite, int jour, bool coche);
+
+  // Photo.
+  /// "Cliquez ici pour ajouter une photo"
+  void Image1Click();
+  /// The picture of a file that was chosen, or dropped on the photo.
+  void PrendrePhoto(const QString& chemin);
+  /// "Effacer la photo"
+  void Effacerlaphoto1Click();
 
   // The month of the list, 0 for September to 9 for June.
   static QStringList NomsMois();
@@ -42,10 +76,29 @@ class TFrmSignaletique : public TForm {
   /// Instead of a list without a row: "Aucun relevé en novembre"; else "".
   QString TexteSansReleve() const;
 
+  // Monthly list.
+  /// A new record, by the dialog.
+  void btnAjoutFaitClick();
+  void btnDeleteFaitClick();
+  /// Study and meals on the days of a calendar.
+  void btnCalendrierClick();
+
+  // Fees and payments.
+  /// A new payment.
+  void SpeedButton1Click();
+  /// Deletes the chosen line.
+  void SpeedButton2Click();
+  /// Changes the chosen payment; what is no payment by hand says so in the status bar.
+  void grdListeFraisDblClick();
+  /// The box of the row: a month or a fee is paid, or not any more. A part payment is asked about.
+  void grdListeFraisCocheClick(int ligne);
+
+  /// What was deleted last of this pupil comes back as a new row; only until the next change.
+  void Retablir();
+  bool PeutRetablir() const;
+
   /// The last request was for mail, which offers fewer titles. Nothing is sent yet.
   bool DemandeCourriel() const { return courriel_; }
-  /// The user tries to change something: hears that a pupil must be chosen, or why it cannot be done.
-  void ModificationDemandee();
 
   TReleveMensuel Releve;
   TFraisPaiements Frais;
@@ -55,8 +108,26 @@ class TFrmSignaletique : public TForm {
 
  private:
   void PrendreEleve();
-  void LireFiche(const TEleve& eleve);
+  void LireFiche(TEleve& eleve);
   void LireActivites(const TEleve& eleve);
+  TTableChamps<TEleve> Table();
+  /// False, with the message, without a pupil.
+  bool ExigeEleve();
+  void EnregistrerEleve(const TChamp& champ);
+  /// Stores a collection; false after the message of the database.
+  bool Enregistrer(TDistributor& collection, const QString& fait);
+  void MarquerMois(int groupe, const std::vector<int>& mois, bool coche);
+  void MarquerJour(TActiviteEleve* inscription, int activite, int jour, bool coche);
+  /// What a change moves: the monthly list, the fees, the balances.
+  void RelireListes();
+  void DaterPhotos();
+  std::unique_ptr<TPresence> Derive(const TPresence& releve) const;
+  void AjouterReleve(std::unique_ptr<TPresence> releve);
+  void AjouterLigne(std::unique_ptr<TFraisEleve> ligne, const QString& fait);
+  void RelireGroupes(int groupe);
+  void BasculerMois(TPaiement& mois);
+  void BasculerFrais(TFraisEleve& frais);
+  void Signaler(const QString& texte) const;
   void LirePhoto(const TEleve& eleve);
   void RemplirReleve(const TEleve& eleve);
   void Vider();
@@ -64,13 +135,21 @@ class TFrmSignaletique : public TForm {
   const TContexteEcran& contexte_;
   TImprimeur imprimeur_;
   bool avecEleve_ = false;
-  TFicheEleve fiche_;
+  QString nomComplet_;
+  QString sousTitre_;
   QImage photo_;
   std::array<TGroupeMois, 3> mois_ = GroupesMois();
   QString titreActivitesExt_;
   std::array<bool, 5> joursActivite_{};
   bool activitesVisibles_ = false;
-  QString activites_;
+  std::vector<TActiviteSuivie> activites_;
   int indiceMois_ = 0;
   bool courriel_ = false;
+  TChampsDe<TEleve> champs_;
+  struct TAnnulation {
+    int EleveId = 0;
+    std::function<void()> Faire;
+  };
+  TAnnulation annulation_;
+  TVuCalendrier vuCalendrier_;
 };

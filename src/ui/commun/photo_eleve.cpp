@@ -1,5 +1,10 @@
 #include "ui/commun/photo_eleve.h"
 
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <QPainter>
 
 #include "ui/commun/theme.h"
@@ -10,6 +15,7 @@ PhotoEleve::PhotoEleve(QWidget* parent) : QAbstractButton(parent) {
   setAccessibleName(u"Photo"_s);
   setAttribute(Qt::WA_Hover);
   setFocusPolicy(Qt::StrongFocus);
+  setAcceptDrops(true);
   setCursor(Qt::PointingHandCursor);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
@@ -18,6 +24,32 @@ void PhotoEleve::Definir(const QImage& image) {
   image_ = QPixmap::fromImage(image);
   setToolTip(image.isNull() ? QString() : u"Changer la photo"_s);
   update();
+}
+
+void PhotoEleve::contextMenuEvent(QContextMenuEvent* evenement) {
+  QMenu menu(this);
+  menu.addAction(Theme::Icone(u"document-open"_s), u"Choisir une photo..."_s, this, &QAbstractButton::click);
+  menu.addAction(Theme::Icone(u"edit-delete"_s, TRole::Erreur), u"Effacer la photo"_s, this,
+                 &PhotoEleve::Effacee)
+      ->setEnabled(!image_.isNull());
+  menu.exec(evenement->globalPos());
+}
+
+void PhotoEleve::keyPressEvent(QKeyEvent* evenement) {
+  if (evenement->key() == Qt::Key_Delete)
+    emit Effacee();
+  else
+    QAbstractButton::keyPressEvent(evenement);
+}
+
+void PhotoEleve::dragEnterEvent(QDragEnterEvent* evenement) {
+  if (evenement->mimeData()->hasUrls()) evenement->acceptProposedAction();
+}
+
+void PhotoEleve::dropEvent(QDropEvent* evenement) {
+  const QList<QUrl> fichiers = evenement->mimeData()->urls();
+  evenement->acceptProposedAction();
+  if (!fichiers.isEmpty()) emit FichierDepose(fichiers.first().toLocalFile());
 }
 
 QSize PhotoEleve::sizeHint() const { return {Theme::Px(82), Theme::Px(95)}; }

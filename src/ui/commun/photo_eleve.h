@@ -11,7 +11,16 @@ class PhotoEleve : public QAbstractButton {
   void Definir(const QImage& image);
   QSize sizeHint() const override;
 
+ signals:
+  void FichierDepose(const QString& chemin);
+  /// "Effacer la photo", from the context menu or by Suppr.
+  void Effacee();
+
  protected:
+  void contextMenuEvent(QContextMenuEvent* evenement) override;
+  void dragEnterEvent(QDragEnterEvent* evenement) override;
+  void dropEvent(QDropEvent* evenement) override;
+  void keyPressEvent(QKeyEvent* evenement) override;
   void paintEvent(QPaintEvent* evenement) override;
 
  private:

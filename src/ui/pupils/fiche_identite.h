@@ -3,16 +3,16 @@
 #include <array>
 #include <vector>
 
-#include "ui/pupils/bouton_lecture.h"
-
-class ChampLecture;
 class Etiquette;
+class GrilleJours;
 class GrilleMois;
+class LiaisonChamps;
 class MarqueEtat;
 class PhotoEleve;
+class QCheckBox;
 class QGridLayout;
+class QRadioButton;
 class QVBoxLayout;
-class SaisieDate;
 class TFrmSignaletique;
 class TitreSection;
 
@@ -29,51 +29,32 @@ class FicheIdentite : public QWidget {
   void OrdonnerTab();
 
  private:
-  /// One adult's fields, in the order of Tab.
-  struct TChamps {
-    ChampLecture* Nom;
-    ChampLecture* Prenom;
-    ChampLecture* Adresse;
-    ChampLecture* Numero;
-    ChampLecture* CodePostal;
-    ChampLecture* Localite;
-    ChoixLecture* Attestation;
-  };
-
-  template <class Bouton>
-  Bouton* CreerBouton(const QString& texte);
   QLayout* CreerEntete();
   QLayout* CreerSolde();
   QLayout* CreerResponsables();
-  void AjouterResponsable(QGridLayout& grille, int colonne, TChamps& champs, const QString& de,
-                          const QString& au);
-  void AjouterCompte(QGridLayout& grille);
+  /// Fields side by side, by name; the narrow ones keep their width.
+  QLayout* Rangee(const QStringList& noms);
   /// Room, and a section that can be hidden with it.
   QVBoxLayout* AjouterSection(QWidget* titre);
   void AjouterSituation();
   void AjouterMois();
   void AjouterActivites();
-
   void ActualiserEntete();
-  void ActualiserResponsables();
   void ActualiserCases();
 
   TFrmSignaletique& form_;
+  LiaisonChamps* liaison_;
   PhotoEleve* photo_;
   Etiquette* nom_;
   Etiquette* sousTitre_;
-  SaisieDate* naissance_;
   Etiquette* titreSolde_;
   Etiquette* solde_;
   MarqueEtat* etatSolde_;
-  std::array<TChamps, 2> responsables_;
-  ChampLecture* compte_;
-  ChampLecture* titulaire_;
-  std::array<CaseLecture*, 5> situation_;
+  std::array<QRadioButton*, 2> attestations_;
   GrilleMois* mois_;
   TitreSection* titreExt_;
-  std::array<CaseLecture*, 5> jours_;
+  GrilleJours* jours_;
   Etiquette* titreActivites_;
-  Etiquette* activites_;
+  GrilleJours* activites_;
   std::vector<QVBoxLayout*> sections_;
 };

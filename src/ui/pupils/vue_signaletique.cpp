@@ -1,11 +1,14 @@
 #include "ui/pupils/vue_signaletique.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QPushButton>
 #include <QResizeEvent>
 
 #include "core/formats.h"
 #include "screens/pupils/frm_signaletique.h"
+#include "ui/commun/bouton.h"
 #include "ui/commun/etat_vide.h"
 #include "ui/commun/pied_de_grille.h"
 #include "ui/commun/titres.h"
@@ -47,16 +50,13 @@ VueSignaletique::VueSignaletique(TFrmSignaletique& form, QWidget* parent)
   blocReleve_ = CreerReleve();
   blocFrais_ = CreerFrais();
   setWidget(contenu_);
-  for (VueGrille* liste : {releve_, frais_})
-    connect(liste, &VueGrille::Suppression, this, [this] { form_.ModificationDemandee(); });
-  connect(frais_, &VueGrille::Activee, this, [this] { form_.ModificationDemandee(); });
+  CreerRetablir();
   Disposer();
   identite_->OrdonnerTab();
   lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
   Actualiser();
 }
 
-// The lists look at the grids of the form until their end.
 QWidget* VueSignaletique::CreerReleve() {
   cmbMois_ = new QComboBox;
   cmbMois_->addItems(TFrmSignaletique::NomsMois());
@@ -66,19 +66,53 @@ QWidget* VueSignaletique::CreerReleve() {
   connect(cmbMois_, &QComboBox::activated, this, [this](int indice) { form_.cmbMoisChange(indice); });
   auto* titre = new TitreSection(u"Relevé mensuel des services"_s);
   titre->AjouterSuite(cmbMois_);
+  Bouton(*titre, u"Ajouter"_s, u"list-add"_s, u"Ajouter un relevé"_s, [this] { form_.btnAjoutFaitClick(); });
+  Bouton(*titre, u"Calendrier"_s, u"view-calendar-day"_s, u"Relevés sur calendrier"_s,
+         [this] { form_.btnCalendrierClick(); });
+  QPushButton* supprimer = BoutonSupprimer(u"Supprimer le relevé"_s);
+  connect(supprimer, &QPushButton::clicked, this, [this] { form_.btnDeleteFaitClick(); });
+  titre->AjouterAction(supprimer);
   releve_ = new VueGrille(form_.Releve.Grille, titre->Texte(), u"Signaletique/Releve"_s);
   piedReleve_ = new PiedDeGrille(*releve_);
   sansReleve_ = new EtatVide(releve_);
   connect(releve_, &VueGrille::Changee, this, &VueSignaletique::ActualiserListes);
+  connect(releve_, &VueGrille::Suppression, this, [this] { form_.btnDeleteFaitClick(); });
+  connect(sansReleve_, &EtatVide::BoutonPresse, this, [this] { form_.btnAjoutFaitClick(); });
   return CreerBloc(titre, releve_, piedReleve_);
 }
 
 QWidget* VueSignaletique::CreerFrais() {
   auto* titre = new TitreSection(u"Frais et paiements"_s);
+  Bouton(*titre, u"Ajouter"_s, u"list-add"_s, u"Ajouter un paiement"_s, [this] { form_.SpeedButton1Click(); });
+  QPushButton* supprimer = BoutonSupprimer(u"Supprimer le frais ou le paiement"_s);
+  connect(supprimer, &QPushButton::clicked, this, [this] { form_.SpeedButton2Click(); });
+  titre->AjouterAction(supprimer);
   frais_ = new VueGrille(form_.Frais.Grille, titre->Texte(), u"Signaletique/Frais"_s);
   piedFrais_ = new PiedDeGrille(*frais_);
   sansFrais_ = new EtatVide(frais_);
+  connect(frais_, &VueGrille::Activee, this, [this] { form_.grdListeFraisDblClick(); });
+  connect(frais_, &VueGrille::Suppression, this, [this] { form_.SpeedButton2Click(); });
+  connect(frais_, &VueGrille::Cochee, this, [this](int ligne) { form_.grdListeFraisCocheClick(ligne); });
   return CreerBloc(titre, frais_, piedFrais_);
+}
+
+void VueSignaletique::Bouton(TitreSection& titre, const QString& texte, const QString& icone,
+                             const QString& nom, std::function<void()> faire) {
+  QPushButton* bouton = BoutonDiscret(texte, icone);
+  bouton->setAccessibleName(nom);
+  bouton->setToolTip(nom);
+  connect(bouton, &QPushButton::clicked, this, std::move(faire));
+  titre.AjouterAction(bouton);
+}
+
+void VueSignaletique::CreerRetablir() {
+  auto* action = new QAction(u"Rétablir ce qui a été supprimé"_s, this);
+  action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+  action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  connect(action, &QAction::triggered, this, [this] { form_.Retablir(); });
+  addAction(action);
+  releve_->addAction(action);
+  frais_->addAction(action);
 }
 
 // Placing
@@ -140,7 +174,7 @@ void VueSignaletique::ActualiserListes() {
   const QString total = form_.AvecEleve() ? FormatMontant(form_.Releve.Total) : QString();
   piedReleve_->Definir({{u"Total"_s, {}, {}, {}, total}});
   const QString sansReleve = form_.TexteSansReleve();
-  sansReleve.isEmpty() ? sansReleve_->Cacher() : sansReleve_->Montrer(sansReleve);
+  sansReleve.isEmpty() ? sansReleve_->Cacher() : sansReleve_->Montrer(sansReleve, {}, u"Ajouter"_s);
   const bool sansFrais = form_.AvecEleve() && form_.Frais.Grille.NombreLignes() == 0;
   sansFrais ? sansFrais_->Montrer(u"Aucun frais ni paiement"_s) : sansFrais_->Cacher();
 }

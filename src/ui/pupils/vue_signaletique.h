@@ -1,5 +1,6 @@
 #pragma once
 #include <QScrollArea>
+#include <functional>
 
 #include "forms/signal.h"
 
@@ -9,6 +10,7 @@ class PiedDeGrille;
 class QComboBox;
 class QGridLayout;
 class TFrmSignaletique;
+class TitreSection;
 class VueGrille;
 
 /// The pupil record: who it is on the left, services of a month above fees and payments on the right.
@@ -23,6 +25,9 @@ class VueSignaletique : public QScrollArea {
   void changeEvent(QEvent* evenement) override;
 
  private:
+  void Bouton(TitreSection& titre, const QString& texte, const QString& icone, const QString& nom,
+              std::function<void()> faire);
+  void CreerRetablir();
   QWidget* CreerReleve();
   QWidget* CreerFrais();
   int ColonnesPour(int largeur) const;

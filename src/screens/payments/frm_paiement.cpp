@@ -1,0 +1,84 @@
+#include "screens/payments/frm_paiement.h"
+
+#include <algorithm>
+
+#include "documents/periode.h"
+#include "services/frais_eleve.h"
+
+namespace {
+
+using T = TPaiementSaisi;
+
+QStringList Mois() {
+  QStringList noms;
+  for (const int mois : kMoisFacturation) noms += NomMois(mois);
+  return noms;
+}
+
+QStringList Familles() { return {u"Général"_s, u"Frais"_s, u"Services"_s}; }
+
+QStringList Groupes() {
+  QStringList noms{QString()};
+  for (const TGroupeFrais& groupe : *Globals.GroupesFrais) noms += groupe.Libelle;
+  return noms;
+}
+
+int IndexDuMois(int mois) {
+  const auto trouve = std::ranges::find(kMoisFacturation, mois);
+  return trouve == kMoisFacturation.end() ? -1 : static_cast<int>(trouve - kMoisFacturation.begin());
+}
+
+int IndexDuGroupe(int id) {
+  for (int i = 0; i < Globals.GroupesFrais->Count(); ++i)
+    if ((*Globals.GroupesFrais)[i].Id == id) return i + 1;
+  return 0;
+}
+
+TTableChamps<T> Table() {
+  using enum TGenreChamp;
+  return {{{.Nom = u"edLibelle"_s, .Libelle = u"Libellé du paiement:"_s, .Longueur = 200}, Membre(&T::Libelle)},
+          {{.Nom = u"edMontant"_s,
+            .Libelle = u"Montant du paiement:"_s,
+            .Genre = Montant,
+            .Obligatoire = true,
+            .Refus = u"Le montant introduit est incorrect !"_s,
+            .Unite = u"euros"_s},
+           Membre(&T::Montant)},
+          {{.Nom = u"cmbMois"_s, .Libelle = u"Imputé au mois de:"_s, .Genre = Choix, .Choix = Mois},
+           Membre(&T::IndexMois)},
+          {{.Nom = u"rbTP"_s,
+            .Libelle = u"Pour:"_s,
+            .Genre = Choix,
+            .Boutons = true,
+            .Choix = Familles},
+           Membre(&T::Famille)},
+          {{.Nom = u"cmbGroupePaiement"_s, .Libelle = u"Groupe de paiement:"_s, .Genre = Choix, .Choix = Groupes},
+           Membre(&T::IndexGroupe)}};
+}
+
+}  // namespace
+
+TFrmPaiement::TFrmPaiement(int indexMois) : TFrmDialogueDe(u"Ajout d'un paiement"_s, Table()) {
+  Saisi.IndexMois = indexMois;
+  Montrer();
+  Champs().Taper(Champs().Indice(u"edMontant"_s), {});
+}
+
+TFrmPaiement::TFrmPaiement(const TFraisEleve& paiement)
+    : TFrmDialogueDe(u"Modification d'un paiement"_s, Table()) {
+  Saisi = {paiement.Remarque, paiement.MontantVerse, IndexDuMois(paiement.Mois),
+           static_cast<int>(paiement.TypeFamilleFrais), IndexDuGroupe(paiement.GroupeFraisId)};
+  Montrer();
+}
+
+void TFrmPaiement::EcrireDans(TFraisEleve& paiement) const {
+  paiement.Remarque = Saisi.Libelle;
+  paiement.MontantVerse = Saisi.Montant;
+  if (Saisi.IndexMois >= 0) paiement.Mois = kMoisFacturation[static_cast<std::size_t>(Saisi.IndexMois)];
+  paiement.TypeFamilleFrais = static_cast<TTypeFamilleFrais>(Saisi.Famille);
+  const bool perdu = paiement.GroupeFraisId > 0 && IndexDuGroupe(paiement.GroupeFraisId) == 0;
+  if (Saisi.IndexGroupe > 0)
+    paiement.GroupeFraisId = (*Globals.GroupesFrais)[Saisi.IndexGroupe - 1].Id;
+  else if (!perdu)
+    paiement.GroupeFraisId = 0;
+}

@@ -1,0 +1,7 @@
+#pragma once
+#include "forms/champs.h"
+#include "pupils/eleve.h"
+
+/// The fields of a pupil's identity, by the names of their controls. What follows a change is for the screen
+/// to add.
+TTableChamps<TEleve> ChampsEleve();

@@ -1,0 +1,247 @@
+#include "attendance/presences.h"
+#include "core/exceptions.h"
+#include "core/formats.h"
+#include "documents/periode.h"
+#include "payments/paiements.h"
+#include "pupils/eleves.h"
+#include "screens/attendance/frm_ajout_releve.h"
+#include "screens/attendance/frm_releve_calendrier.h"
+#include "screens/payments/frm_paiement.h"
+#include "screens/pupils/frm_signaletique.h"
+#include "services/frais_eleve.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A line beside those that were there, to come back when it has been deleted.
+std::unique_ptr<TFraisEleve> Copie(const TFraisEleve& ligne) {
+  auto copie = std::make_unique<TFraisEleve>();
+  copie->ListeFraisId = ligne.ListeFraisId;
+  copie->Remarque = ligne.Remarque;
+  copie->MontantVerse = ligne.MontantVerse;
+  copie->DateVersement = ligne.DateVersement;
+  copie->Mois = ligne.Mois;
+  copie->ExtraitId = ligne.ExtraitId;
+  copie->TypeFamilleFrais = ligne.TypeFamilleFrais;
+  copie->GroupeFraisId = ligne.GroupeFraisId;
+  return copie;
+}
+
+std::unique_ptr<TPresence> Copie(const TPresence& releve) {
+  auto copie = std::make_unique<TPresence>();
+  copie->EleveId = releve.EleveId;
+  copie->TypePresence = releve.TypePresence;
+  copie->DateReleve = releve.DateReleve;
+  copie->HeureEntree = releve.HeureEntree;
+  copie->HeureSortie = releve.HeureSortie;
+  copie->CodeImplantation = releve.CodeImplantation;
+  return copie;
+}
+
+QString Jour(const TPresence& releve) { return FormatJour(releve.DateReleve); }
+
+}  // namespace
+
+// What was deleted last
+
+void TFrmSignaletique::Retablir() {
+  if (!PeutRetablir()) return;
+  const std::function<void()> faire = std::exchange(annulation_, {}).Faire;
+  faire();
+}
+
+bool TFrmSignaletique::PeutRetablir() const {
+  return annulation_.Faire && Globals.EleveCourant != nullptr &&
+         annulation_.EleveId == Globals.EleveCourant->Id;
+}
+
+// Monthly list
+
+void TFrmSignaletique::btnAjoutFaitClick() {
+  if (!ExigeEleve()) return;
+  TFrmAjoutReleve saisie(contexte_);
+  saisie.Charger(TTypePresence::Garderie, 0.0, 0.0, contexte_.Controleur.Horloge().Aujourdhui());
+  if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
+  const TDateTime date = saisie.DateReleve();
+  const TPeriode annee = BornesAnnee(Globals.Eleves->AnneeScolaire);
+  if ((date < annee.Premier || date > annee.Dernier) &&
+      !contexte_.Dialogues().ConfirmerGrave(u"Le %1 n'est pas dans l'année scolaire affichée : le relevé n'y "
+                                            "apparaîtra pas. Voulez-vous l'ajouter ?"_s.arg(FormatDate(date))))
+    return;
+  auto releve = std::make_unique<TPresence>();
+  releve->EleveId = Globals.EleveCourant->Id;
+  releve->TypePresence = saisie.TypePresence();
+  releve->DateReleve = date;
+  releve->HeureEntree = saisie.HeureEntree();
+  releve->HeureSortie = saisie.HeureSortie();
+  releve->CodeImplantation = saisie.CodeImplantation();
+  AjouterReleve(std::move(releve));
+}
+
+/// The second record of a day at a flat rate, as the import makes it.
+std::unique_ptr<TPresence> TFrmSignaletique::Derive(const TPresence& releve) const {
+  const bool repas =
+      releve.TypePresence == TTypePresence::Repas || releve.TypePresence == TTypePresence::Soupe;
+  if (!Globals.Presences->Regles.GarderieUnique || !repas) return nullptr;
+  constexpr TDateTime kDecalage = 0.0001;
+  const TDateTime heure =
+      (releve.HeureEntree != 0.0 ? releve.HeureEntree : releve.HeureSortie) + kDecalage;
+  auto derive = std::make_unique<TPresence>();
+  derive->EleveId = releve.EleveId;
+  derive->TypePresence = TTypePresence::Garderie;
+  derive->DateReleve = releve.DateReleve;
+  derive->HeureEntree = heure;
+  derive->HeureSortie = releve.HeureEntree != 0.0 ? releve.HeureSortie : heure;
+  return derive;
+}
+
+void TFrmSignaletique::AjouterReleve(std::unique_ptr<TPresence> releve) {
+  TPresences& presences = *Globals.Presences;
+  const TDateTime date = releve->DateReleve;
+  std::unique_ptr<TPresence> derive = Derive(*releve);
+  const TPresence* ajoute = presences.AjoutePresence(std::move(releve));
+  const bool garde = ajoute != nullptr;
+  if (!Enregistrer(presences, u"Relevé du %1"_s.arg(FormatDate(date)))) return RelireListes();
+  if (derive) {
+    presences.AjoutePresence(std::move(derive));
+    Enregistrer(presences, u"Relevé du %1 et son forfait"_s.arg(FormatDate(date)));
+  }
+  const int mois = DecodeDate(date).Mois;
+  if (!garde)
+    contexte_.Principal.Etat(TNiveauEtat::Alerte,
+                             u"Relevé non ajouté : cet élève en a déjà un pour ce service ce jour-là"_s);
+  else if (mois != kMoisFacturation[static_cast<std::size_t>(indiceMois_)])
+    contexte_.Principal.Etat(TNiveauEtat::Succes,
+                             QString(u"Relevé ajouté au mois de " % NomMois(mois).toLower()));
+  RelireListes();
+}
+
+void TFrmSignaletique::btnDeleteFaitClick() {
+  const int ligne = Releve.Grille.LigneCourante();
+  auto* releve = ligne < 0 ? nullptr : Releve.Grille.Ligne(ligne).Objet.En<TPresence>();
+  if (releve == nullptr)
+    return contexte_.Dialogues().Message(u"Veuillez sélectionner un relevé à supprimer"_s);
+  if (!contexte_.Dialogues().ConfirmerGrave(
+          u"Confirmez-vous la suppression définitive du relevé sélectionné ?"_s))
+    return;
+  const std::shared_ptr<TPresence> copie = Copie(*releve);
+  Releve.Grille.ChoisirLigne(-1);
+  Globals.Presences->Remove(*releve);
+  if (Enregistrer(*Globals.Presences, u"Suppression du relevé du " % Jour(*copie)))
+    annulation_ = {copie->EleveId, [this, copie] { AjouterReleve(Copie(*copie)); }};
+  RelireListes();
+}
+
+void TFrmSignaletique::btnCalendrierClick() {
+  if (!ExigeEleve()) return;
+  TFrmReleveCalendrier calendrier(contexte_, *Globals.EleveCourant, vuCalendrier_);
+  contexte_.Modale.MontrerModal(calendrier);
+  RelireListes();
+}
+
+// Fees and payments
+
+void TFrmSignaletique::SpeedButton1Click() {
+  if (!ExigeEleve()) return;
+  TFrmPaiement saisie(indiceMois_);
+  if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
+  auto paiement = std::make_unique<TFraisEleve>();
+  saisie.EcrireDans(*paiement);
+  AjouterLigne(std::move(paiement), u"Paiement de " % FormatMontant(saisie.Saisi.Montant));
+}
+
+void TFrmSignaletique::AjouterLigne(std::unique_ptr<TFraisEleve> ligne, const QString& fait) {
+  TAllFraisEleve* lignes = Globals.EleveCourant->GetAllFrais();
+  if (lignes == nullptr) return;
+  const int groupe = ligne->GroupeFraisId;
+  lignes->Add(std::move(ligne));
+  Enregistrer(*lignes, fait);
+  RelireGroupes(groupe);
+  RelireListes();
+}
+
+// What a group has received is read once: a payment to it is another list.
+void TFrmSignaletique::RelireGroupes(int groupe) {
+  if (groupe > 0) Globals.GroupesFrais = std::make_unique<TGroupesFrais>(contexte_.Controleur.Base());
+}
+
+void TFrmSignaletique::grdListeFraisDblClick() {
+  const int ligne = Frais.Grille.LigneCourante();
+  auto* paiement = ligne < 0 ? nullptr : Frais.Grille.Ligne(ligne).Objet.En<TFraisEleve>();
+  if (paiement == nullptr || !paiement->EstLibre() || paiement->Remarque.contains(u"Services du mois"_s))
+    return Signaler(u"Seul un paiement introduit à la main se modifie ; Espace marque un frais ou un mois payé"_s);
+  TFrmPaiement saisie(*paiement);
+  if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
+  const int groupe = paiement->GroupeFraisId;
+  saisie.EcrireDans(*paiement);
+  RelireGroupes(std::max(groupe, paiement->GroupeFraisId));
+  TAllFraisEleve& lignes = *Globals.EleveCourant->GetAllFrais();
+  lignes.Add(*paiement);
+  Enregistrer(lignes, u"Paiement de " % FormatMontant(paiement->MontantVerse));
+  RelireListes();
+}
+
+void TFrmSignaletique::SpeedButton2Click() {
+  const int ligne = Frais.Grille.LigneCourante();
+  if (ligne < 0) return Signaler(u"Choisissez d'abord la ligne à supprimer"_s);
+  auto* frais = Frais.Grille.Ligne(ligne).Objet.En<TFraisEleve>();
+  if (frais == nullptr) return Signaler(u"Un mois de services ne se supprime pas : Espace ôte son paiement"_s);
+  const QString question =
+      frais->EstLibre()
+          ? u"Confirmez-vous la suppression du paiement de %1 euros (%2)"_s.arg(
+                FormatDeuxDecimales(frais->MontantVerse), frais->Remarque)
+          : u"Confirmez-vous la suppression de ce frais : %1 (%2 euros)"_s.arg(
+                frais->LibelleFrais(), FormatDeuxDecimales(frais->MontantFrais()));
+  if (!contexte_.Dialogues().ConfirmerGrave(question)) return;
+  const std::shared_ptr<TFraisEleve> copie = Copie(*frais);
+  const QString quoi = frais->EstLibre() ? frais->Remarque : frais->LibelleFrais();
+  TAllFraisEleve& lignes = *Globals.EleveCourant->GetAllFrais();
+  Frais.Grille.ChoisirLigne(-1);
+  lignes.Remove(*frais);
+  if (Enregistrer(lignes, u"Suppression de " % quoi)) {
+    if (copie->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is free again
+    annulation_ = {Globals.EleveCourant->Id, [this, copie, quoi] { AjouterLigne(Copie(*copie), quoi); }};
+  }
+  RelireGroupes(copie->GroupeFraisId);
+  RelireListes();
+}
+
+void TFrmSignaletique::grdListeFraisCocheClick(int ligne) {
+  const TLigneGrille& vue = Frais.Grille.Ligne(ligne);
+  auto* mois = vue.Objet.En<TPaiement>();
+  auto* frais = vue.Objet.En<TFraisEleve>();
+  const bool partiel = vue.Etat == EtatPartiel;
+  if (partiel && !contexte_.Dialogues().ConfirmerGrave(
+                     u"« %1 » n'est payé qu'en partie. Voulez-vous ôter ce paiement ?"_s.arg(
+                         Frais.Grille.Texte(ligne, TFraisPaiements::Libelle))))
+    return RelireListes();
+  if (mois != nullptr)
+    BasculerMois(*mois);
+  else if (frais != nullptr && !frais->EstLibre())
+    BasculerFrais(*frais);
+  RelireListes();
+}
+
+void TFrmSignaletique::BasculerMois(TPaiement& mois) {
+  TPaiements& paiements = *Globals.Paiements;
+  const QString quoi = u"Services " % NomMois(mois.Mois).toLower();
+  if (mois.TypePaiement != 0) {
+    Frais.Grille.ChoisirLigne(-1);
+    paiements.MarqueImpaye(mois);
+  } else if (auto impaye = Frais.PrendreImpaye(mois)) {
+    paiements.MarquePaye(std::move(impaye));
+  }
+  Enregistrer(paiements, quoi);
+}
+
+void TFrmSignaletique::BasculerFrais(TFraisEleve& frais) {
+  frais.EstPaye() ? frais.MarqueImpaye() : frais.MarquePaye();
+  TAllFraisEleve& lignes = *Globals.EleveCourant->GetAllFrais();
+  lignes.Add(frais);
+  Enregistrer(lignes, frais.LibelleFrais());
+}
+
+void TFrmSignaletique::Signaler(const QString& texte) const {
+  contexte_.Principal.Etat(TNiveauEtat::Alerte, texte);
+}

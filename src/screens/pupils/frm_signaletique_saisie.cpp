@@ -1,0 +1,193 @@
+#include <QFileInfo>
+#include <QImageReader>
+
+#include "core/exceptions.h"
+#include "core/formats.h"
+#include "documents/periode.h"
+#include "pupils/eleves.h"
+#include "screens/pupils/frm_signaletique.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kPhotoMax = 50 * 1024 * 1024;
+
+/// The picture upright, as the camera says that it was held. Raises Exception.
+QImage LireImage(const QString& chemin) {
+  const QFileInfo fichier(chemin);
+  if (!fichier.isFile()) throw Exception(u"« %1 » n'est pas un fichier."_s.arg(fichier.fileName()));
+  if (fichier.size() > kPhotoMax)
+    throw Exception(u"« %1 » est trop grand pour une photo (50 Mo au plus)."_s.arg(fichier.fileName()));
+  QImageReader lecteur(chemin);
+  lecteur.setDecideFormatFromContent(true);
+  lecteur.setAutoTransform(true);
+  const QImage image = lecteur.read();
+  if (image.isNull()) throw Exception(u"« %1 » n'est pas une image."_s.arg(fichier.fileName()));
+  return image;
+}
+
+}  // namespace
+
+// Identity
+
+TTableChamps<TEleve> TFrmSignaletique::Table() {
+  TTableChamps<TEleve> table = ChampsEleve();
+  const std::pair<QString, std::function<void()>> suites[] = {
+      {u"cb2eEnfant"_s, [this] { RelireListes(); }},
+      {u"cb3eEnfant"_s, [this] { RelireListes(); }},
+      {u"cbEleveRadie"_s, [this] {
+         contexte_.Principal.Envoyer({TCodeMessage::EleveRadie, {}});
+       }}};
+  for (const auto& [nom, suite] : suites)
+    for (TChampDe<TEleve>& champ : table)
+      if (champ.Champ.Nom == nom) champ.Champ.Ensuite = suite;
+  return table;
+}
+
+bool TFrmSignaletique::ExigeEleve() {
+  if (avecEleve_ && Globals.EleveCourant != nullptr) return true;
+  contexte_.Dialogues().Message(u"Veuillez sélectionner un élève"_s);
+  return false;
+}
+
+void TFrmSignaletique::EnregistrerEleve(const TChamp& champ) {
+  TEleve& eleve = *champs_.Objet();
+  annulation_ = {};
+  Globals.Eleves->AddEleve(eleve);
+  Globals.Eleves->Save();
+  if (!Globals.Eleves->RangeesDisparues().empty())
+    throw Exception(u"Cet élève n'existe plus : un autre poste l'a supprimé."_s);
+  QString quoi = champ.Libelle;
+  while (quoi.endsWith(u':') || quoi.endsWith(u' ')) quoi.chop(1);
+  contexte_.Principal.Etat(TNiveauEtat::Succes, QString(quoi % u" : enregistré pour " % nomComplet_));
+}
+
+bool TFrmSignaletique::Enregistrer(TDistributor& collection, const QString& fait) {
+  try {
+    annulation_ = {};
+    collection.Save();
+    contexte_.Principal.Etat(TNiveauEtat::Succes, QString(fait % u" : enregistré pour " % nomComplet_));
+    return true;
+  } catch (const Exception& e) {
+    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    contexte_.Dialogues().Message(e.Message);
+    collection.Remettre();
+    return false;
+  }
+}
+
+void TFrmSignaletique::RelireListes() {
+  const TEleve& eleve = *Globals.EleveCourant;
+  Frais.Remplir(eleve);
+  RemplirReleve(eleve);
+  Annoncer();
+}
+
+// Months
+
+void TFrmSignaletique::cbMaitreClick(int groupe, bool coche) {
+  std::vector<int> mois;
+  for (int indice = 0; indice < std::ssize(kMoisFacturation); ++indice) mois.push_back(indice);
+  MarquerMois(groupe, mois, coche);
+}
+
+void TFrmSignaletique::MarquerMois(int groupe, const std::vector<int>& mois, bool coche) {
+  if (!ExigeEleve()) return Annoncer();
+  const TGroupeMois& quoi = mois_[static_cast<std::size_t>(groupe)];
+  const TEleves& eleves = *Globals.Eleves;
+  TPresencesParticulieres& marques = *Globals.PresencesParticulieres;
+  const int eleve = Globals.EleveCourant->Id;
+  for (const int indice : mois) {
+    const int numero = kMoisFacturation[static_cast<std::size_t>(indice)];
+    if (!coche) {
+      marques.RetireMarque(quoi.Type, eleve, numero);
+      continue;
+    }
+    auto marque = std::make_unique<TPresenceParticuliere>();
+    marque->EleveId = eleve;
+    marque->TypePresence = quoi.Type;
+    marque->Mois = numero;
+    marque->Annee = eleves.AnneeDuMois(numero);
+    marques.AjouteMarque(std::move(marque));
+  }
+  Enregistrer(marques, quoi.Titre);
+  LireMarques(mois_, marques, eleve);
+  RelireListes();
+}
+
+// Activities
+
+void TFrmSignaletique::LireActivites(const TEleve& eleve) {
+  const TActiviteEleve* premiere = Globals.ActivitesEleves->ActivitesEleve(eleve.Id);
+  joursActivite_ = premiere != nullptr ? premiere->FlgJours : std::array<bool, 5>{};
+  activites_.clear();
+  for (const TActivite& activite : *Globals.Activites) {
+    const TActiviteEleve* suivie = Globals.ActivitesEleves->ActiviteEleveParCle(eleve.Id, activite.Id);
+    activites_.push_back(
+        {activite.Id, activite.Libelle, suivie != nullptr ? suivie->FlgJours : std::array<bool, 5>{}});
+  }
+}
+
+void TFrmSignaletique::cbLundi1Click(int jour, bool coche) {
+  if (!avecEleve_ || Globals.EleveCourant == nullptr) return Annoncer();
+  const int premiere = Globals.Activites->Count() > 0 ? (*Globals.Activites)[0].Id : 0;
+  MarquerJour(Globals.ActivitesEleves->ActivitesEleve(Globals.EleveCourant->Id), premiere, jour, coche);
+}
+
+void TFrmSignaletique::cbJourActiviteClick(int activite, int jour, bool coche) {
+  if (!avecEleve_ || Globals.EleveCourant == nullptr) return Annoncer();
+  const int id = activites_[static_cast<std::size_t>(activite)].ActiviteId;
+  MarquerJour(Globals.ActivitesEleves->ActiviteEleveParCle(Globals.EleveCourant->Id, id), id, jour, coche);
+}
+
+void TFrmSignaletique::MarquerJour(TActiviteEleve* inscription, int activite, int jour, bool coche) {
+  const TEleve& eleve = *Globals.EleveCourant;
+  TActivitesEleves& inscriptions = *Globals.ActivitesEleves;
+  if (inscription == nullptr && !coche) return Annoncer();
+  if (inscription == nullptr) {
+    auto nouvelle = std::make_unique<TActiviteEleve>();
+    nouvelle->EleveId = eleve.Id;
+    nouvelle->ActiviteId = activite;
+    inscription = &inscriptions.Add(std::move(nouvelle));
+  }
+  inscription->FlgJours[static_cast<std::size_t>(jour)] = coche;
+  inscriptions.Add(*inscription);
+  Enregistrer(inscriptions, u"Activités"_s);
+  LireActivites(eleve);
+  RelireListes();
+}
+
+// Photo
+
+void TFrmSignaletique::Image1Click() {
+  if (!ExigeEleve()) return;
+  const auto chemin = contexte_.Dialogues().ChoisirFichier(u"Choisir une photo"_s,
+                                                           u"Images (*.jpg *.jpeg *.png *.bmp *.gif)"_s);
+  if (chemin) PrendrePhoto(*chemin);
+}
+
+void TFrmSignaletique::PrendrePhoto(const QString& chemin) {
+  if (!ExigeEleve()) return;
+  Globals.EleveCourant->SetPhoto(LireImage(chemin));
+  DaterPhotos();
+  contexte_.Principal.Etat(TNiveauEtat::Succes, QString(u"Photo enregistrée pour " % nomComplet_));
+}
+
+void TFrmSignaletique::Effacerlaphoto1Click() {
+  if (!ExigeEleve() || photo_.isNull()) return;
+  if (!contexte_.Dialogues().ConfirmerGrave(u"Voulez-vous effacer cette photo ?"_s)) return;
+  Globals.EleveCourant->DeletePhoto();
+  DaterPhotos();
+  contexte_.Principal.Etat(TNiveauEtat::Succes, QString(u"Photo effacée pour " % nomComplet_));
+}
+
+// The tablets fetch the pictures again when the stamp is another one.
+void TFrmSignaletique::DaterPhotos() {
+  const TDateTime maintenant = contexte_.Controleur.Horloge().Maintenant();
+  Globals.Parametres->SetParametre(TParam::DatePhoto,
+                                   FormatDate(maintenant) % HeureVersQt(maintenant).toString(u" hh:mm:ss"_s));
+  Globals.Parametres->Save();
+  LirePhoto(*Globals.EleveCourant);
+  Annoncer();
+}
