@@ -216,7 +216,8 @@ void TChamps::Effacer() {
   for (int champ = 0; champ < Nombre(); ++champ) {
     const TGenreChamp genre = Champ(champ).Genre;
     const bool choix = genre == TGenreChamp::Choix || genre == TGenreChamp::Coche;
-    etats_[Place(champ)] = {{}, choix ? TValeurVue(0) : TValeurVue(), choix ? TValeurVue(0) : TValeurVue(), {}, false};
+    etats_[Place(champ)] = {
+        {}, choix ? TValeurVue(0) : TValeurVue(), choix ? TValeurVue(0) : TValeurVue(), {}, false};
   }
   SurChangement(-1);
 }

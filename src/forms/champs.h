@@ -25,11 +25,11 @@ struct TChamp {
   TGenreChamp Genre = TGenreChamp::Texte;
   int Longueur = 0;          ///< characters that its column takes; 0 when the kind knows it
   bool Obligatoire = false;  ///< an empty text is no value: it does not convert
-  QString Refus = {};  ///< what is said of a text that does not convert; "" for the conversion's own words
-  QString Unite = {};  ///< behind the field: "euros"
-  bool Suite = false;  ///< stands behind the field before it, on the same row
-  bool Boutons = false;       ///< a Choix that shows a button for each value
-  int Colonne = 0;     ///< of the panel, from the left
+  QString Refus = {};    ///< what is said of a text that does not convert; "" for the conversion's own words
+  QString Unite = {};    ///< behind the field: "euros"
+  bool Suite = false;    ///< stands behind the field before it, on the same row
+  bool Boutons = false;  ///< a Choix that shows a button for each value
+  int Colonne = 0;       ///< of the panel, from the left
   std::function<QStringList()> Choix = {};  ///< what a Choix offers
   std::function<void()> Ensuite = {};       ///< what follows a change that was stored
 };

@@ -26,7 +26,7 @@ struct TLigneGrille {
   int Etat = 0;  ///< index into the states of the grid
   bool Coche = false;
   bool SansCase = false;  ///< nothing to tick on it
-  bool Tete = false;  ///< heads the rows below it, down to the next head
+  bool Tete = false;      ///< heads the rows below it, down to the next head
 
   /// Nothing for a cell that was never written.
   TValeurVue Valeur(int colonne) const;

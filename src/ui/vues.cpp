@@ -5,13 +5,13 @@
 
 #include "forms/form.h"
 #include "screens/attendance/frm_presences.h"
+#include "screens/attendance/frm_releve_calendrier.h"
 #include "screens/commun/frm_dialogue.h"
 #include "screens/commun/frm_liste.h"
 #include "screens/documents/frm_apercu.h"
 #include "screens/documents/frm_print_wizard.h"
 #include "screens/pupils/frm_import.h"
 #include "screens/pupils/frm_signaletique.h"
-#include "screens/attendance/frm_releve_calendrier.h"
 #include "ui/attendance/vue_presences.h"
 #include "ui/attendance/vue_releve_calendrier.h"
 #include "ui/commun/vue_dialogue.h"
@@ -40,11 +40,9 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
   // One line a screen: VueDe<TFrmImport, VueImport>(). A dialog or a list that is nothing but its table of
   // fields needs none.
   static const std::vector<TFabriqueVue> kVues{
-      VueDe<TFrmImport, VueImport>(),           VueDe<TFrmSignaletique, VueSignaletique>(),
-      VueDe<TfrmPresences, VuePresences>(),
-      VueDe<TFrmReleveCalendrier, VueReleveCalendrier>(),
-      VueDe<TFrmApercu, VueApercu>(),
-      VueDe<TFrmPrintWizard, VuePrintWizard>(),
+      VueDe<TFrmImport, VueImport>(),       VueDe<TFrmSignaletique, VueSignaletique>(),
+      VueDe<TfrmPresences, VuePresences>(), VueDe<TFrmReleveCalendrier, VueReleveCalendrier>(),
+      VueDe<TFrmApercu, VueApercu>(),       VueDe<TFrmPrintWizard, VuePrintWizard>(),
   };
   for (const TFabriqueVue& vue : kVues)
     if (vue.Classe == typeid(form)) return vue.Creer(form, parent);

@@ -24,7 +24,8 @@ TTableChamps<TFiche> Table() {
   return {{{.Nom = u"edNom"_s, .Longueur = 5}, Membre(&TFiche::Nom)},
           {{.Nom = u"edCode"_s, .Genre = Entier}, Membre(&TFiche::Code)},
           {{.Nom = u"edPrix"_s, .Genre = Montant, .Obligatoire = true}, Membre(&TFiche::Prix)},
-          {{.Nom = u"edDate"_s, .Genre = TGenreChamp::Date, .Refus = u"Date incorrecte."_s}, Membre(&TFiche::Date)},
+          {{.Nom = u"edDate"_s, .Genre = TGenreChamp::Date, .Refus = u"Date incorrecte."_s},
+           Membre(&TFiche::Date)},
           {{.Nom = u"edHeure"_s, .Genre = TGenreChamp::Heure}, Membre(&TFiche::Heure)},
           {{.Nom = u"cbCoche"_s, .Genre = TGenreChamp::Coche}, Membre(&TFiche::Coche)}};
 }

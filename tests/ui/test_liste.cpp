@@ -34,7 +34,8 @@ struct Tarifs : testing::Test {
     using namespace Essai;
     TEcoleEssai ecole(Programme.Base);
     ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
-    ecole.tarif(Soir, LundiMardiJeudiVendredi, u"16:30"_s, u"18:00"_s, DemiHeure, u"0.0125"_s, ScanSortie, u"0.4"_s);
+    ecole.tarif(Soir, LundiMardiJeudiVendredi, u"16:30"_s, u"18:00"_s, DemiHeure, u"0.0125"_s, ScanSortie,
+                u"0.4"_s);
     ecole.tarif(Matin, TousLesJours, u"07:00"_s, u"08:15"_s, Forfait, u"1"_s, ScanPresence);
     ecole.tarif(Midi, TousLesJours, u"12:00"_s, u"13:30"_s, Forfait, u"10"_s, ScanPresence);
     Programme.Demarrer();
@@ -61,7 +62,8 @@ struct Tarifs : testing::Test {
   }
   QStringList Table() {
     return Programme.Base.Rangees(
-        u"SELECT TYPE_FAMILLE, TYPE_JOUR, HEURE_DEBUT_SCAN, COUT, COUT_2E_ENFANT FROM TARIF_GARDERIE ORDER BY "
+        u"SELECT TYPE_FAMILLE, TYPE_JOUR, HEURE_DEBUT_SCAN, COUT, COUT_2E_ENFANT FROM TARIF_GARDERIE ORDER "
+        u"BY "
         "TARIF_GARDERIE_ID"_s);
   }
   QStringList Colonne(int colonne) {
@@ -84,11 +86,13 @@ struct Tarifs : testing::Test {
 }  // namespace
 
 TEST_F(Tarifs, MontreLesRangeesEtLesTrieParValeur) {
-  EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"Horaires et tarifs des services offerts par l'école"_s));
-  EXPECT_EQ(Form().Grille.Textes(1), (QStringList{u"garderie du soir"_s, u"lundi, mardi, jeudi, vendredi"_s,
-                                                  u"16h30"_s, u"18h00"_s, u"0,0125 €"_s, u"à la demi-heure"_s}));
-  const char* const attendus[] = {"midi|matin|soir", "midi|soir|matin", "matin|midi|soir", "matin|midi|soir",
-                                  "soir|matin|midi", "soir|midi|matin"};
+  EXPECT_TRUE(
+      TextesDe(Programme.Fenetre()).contains(u"Horaires et tarifs des services offerts par l'école"_s));
+  EXPECT_EQ(Form().Grille.Textes(1),
+            (QStringList{u"garderie du soir"_s, u"lundi, mardi, jeudi, vendredi"_s, u"16h30"_s, u"18h00"_s,
+                         u"0,0125 €"_s, u"à la demi-heure"_s}));
+  const char* const attendus[] = {"midi|matin|soir", "midi|soir|matin", "matin|midi|soir",
+                                  "matin|midi|soir", "soir|matin|midi", "soir|midi|matin"};
   for (int colonne = 2; colonne < 5; ++colonne) {
     Liste().sortByColumn(colonne, Qt::AscendingOrder);
     EXPECT_EQ(Colonne(0).join(u'|').remove(u"garderie du "_s), QLatin1String(attendus[colonne])) << colonne;
@@ -113,7 +117,8 @@ TEST_F(Tarifs, AjouteModifieEtRefuse) {
   Taper("edHeureDebut", u"15h30"_s);
   Taper("edHeureFin", u"25:00"_s);
   Touche(Qt::Key_Tab);
-  EXPECT_EQ(QApplication::focusWidget(), &Champ<QWidget>("edHeureFin")) << "the hand stays where the fault is";
+  EXPECT_EQ(QApplication::focusWidget(), &Champ<QWidget>("edHeureFin"))
+      << "the hand stays where the fault is";
   EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"« 25:00 » n'est pas une heure (hh:mm)."_s));
   EXPECT_EQ(Etat(), u"Non enregistré : « 25:00 » n'est pas une heure (hh:mm).");
   Taper("edHeureFin", u"1630"_s);
@@ -208,14 +213,14 @@ TEST_F(Tarifs, LeMenuDeLaListe) {
   const QString fichier = Programme.Base.Chemin(u"tarifs.csv"_s);
   Programme.Dialogues.Fait(u"Exporter la liste"_s, [&](QWidget& dialogue) {
     dialogue.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(fichier);
-    QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save), Qt::LeftButton);
+    QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save),
+                      Qt::LeftButton);
   });
   choisir(u"Exporter"_s);
   QFile csv(fichier);
   ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
   const QStringList lignes = QString::fromUtf8(csv.readAll()).split(u"\r\n"_s);
-  EXPECT_EQ(lignes[1],
-            u"garderie du soir;lundi, mardi, jeudi, vendredi;16:30;18:00;0,0125;à la demi-heure");
+  EXPECT_EQ(lignes[1], u"garderie du soir;lundi, mardi, jeudi, vendredi;16:30;18:00;0,0125;à la demi-heure");
   choisir(u"Filtrer"_s);
   QTest::keyClicks(QApplication::focusWidget(), u"matin"_s);
   EXPECT_EQ(Colonne(0), QStringList{u"garderie du matin"_s});

@@ -10,7 +10,9 @@ QString Nom(const char16_t* nom) { return QString::fromUtf16(nom); }
 /// No time shows an empty field; midnight is typed, or put there for one that was left empty.
 TAcces<T> HeureOuRien(TDateTime T::*heure) {
   TAcces<T> acces = Membre(heure);
-  acces.Lire = [heure](const T& releve) { return releve.*heure == 0.0 ? TValeurVue() : TValeurVue(releve.*heure); };
+  acces.Lire = [heure](const T& releve) {
+    return releve.*heure == 0.0 ? TValeurVue() : TValeurVue(releve.*heure);
+  };
   return acces;
 }
 

@@ -73,7 +73,8 @@ void TFrmReleveCalendrier::PlannerCalendar1DblClick() {
   Globals.Presences->Save();
   marques_.insert(date);
   Noter(ajoute ? QString(FormatJour(date) % u" : ajouté.")
-               : QString(FormatJour(date) % u" : marqué, mais il y avait déjà un relevé ; rien n'a été ajouté."));
+               : QString(FormatJour(date) %
+                         u" : marqué, mais il y avait déjà un relevé ; rien n'a été ajouté."));
 }
 
 void TFrmReleveCalendrier::Noter(const QString& texte) {

@@ -12,7 +12,8 @@ struct TVuCalendrier {
   int Type = -1;         ///< 0 study, 1 meals; -1 for none
 };
 
-/// "Relevé des services": study and meals of a pupil, added day by day on a calendar of the school year. Modal.
+/// "Relevé des services": study and meals of a pupil, added day by day on a calendar of the school year.
+/// Modal.
 class TFrmReleveCalendrier : public TForm {
  public:
   /// `vu` is read and kept up to date.

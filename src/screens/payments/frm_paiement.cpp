@@ -36,24 +36,21 @@ int IndexDuGroupe(int id) {
 
 TTableChamps<T> Table() {
   using enum TGenreChamp;
-  return {{{.Nom = u"edLibelle"_s, .Libelle = u"Libellé du paiement:"_s, .Longueur = 200}, Membre(&T::Libelle)},
-          {{.Nom = u"edMontant"_s,
-            .Libelle = u"Montant du paiement:"_s,
-            .Genre = Montant,
-            .Obligatoire = true,
-            .Refus = u"Le montant introduit est incorrect !"_s,
-            .Unite = u"euros"_s},
-           Membre(&T::Montant)},
-          {{.Nom = u"cmbMois"_s, .Libelle = u"Imputé au mois de:"_s, .Genre = Choix, .Choix = Mois},
-           Membre(&T::IndexMois)},
-          {{.Nom = u"rbTP"_s,
-            .Libelle = u"Pour:"_s,
-            .Genre = Choix,
-            .Boutons = true,
-            .Choix = Familles},
-           Membre(&T::Famille)},
-          {{.Nom = u"cmbGroupePaiement"_s, .Libelle = u"Groupe de paiement:"_s, .Genre = Choix, .Choix = Groupes},
-           Membre(&T::IndexGroupe)}};
+  return {
+      {{.Nom = u"edLibelle"_s, .Libelle = u"Libellé du paiement:"_s, .Longueur = 200}, Membre(&T::Libelle)},
+      {{.Nom = u"edMontant"_s,
+        .Libelle = u"Montant du paiement:"_s,
+        .Genre = Montant,
+        .Obligatoire = true,
+        .Refus = u"Le montant introduit est incorrect !"_s,
+        .Unite = u"euros"_s},
+       Membre(&T::Montant)},
+      {{.Nom = u"cmbMois"_s, .Libelle = u"Imputé au mois de:"_s, .Genre = Choix, .Choix = Mois},
+       Membre(&T::IndexMois)},
+      {{.Nom = u"rbTP"_s, .Libelle = u"Pour:"_s, .Genre = Choix, .Boutons = true, .Choix = Familles},
+       Membre(&T::Famille)},
+      {{.Nom = u"cmbGroupePaiement"_s, .Libelle = u"Groupe de paiement:"_s, .Genre = Choix, .Choix = Groupes},
+       Membre(&T::IndexGroupe)}};
 }
 
 }  // namespace

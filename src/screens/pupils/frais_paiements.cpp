@@ -10,7 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TValeurVue MontantOuVide(Currency montant) { return montant == Currency() ? TValeurVue() : TValeurVue(montant); }
+TValeurVue MontantOuVide(Currency montant) {
+  return montant == Currency() ? TValeurVue() : TValeurVue(montant);
+}
 
 TEtatFrais EtatDe(Currency du, Currency verse) {
   if (verse >= du) return EtatPaye;
@@ -60,8 +62,8 @@ void TFraisPaiements::AjouterFrais(const TEleve& eleve) {
     if (ligne.EstLibre()) continue;
     const Currency du = ligne.MontantFrais();
     const Currency verse = ligne.MontantVerse;
-    const int place = Grille.Ajouter({ligne.LibelleFrais(), ligne.MoisFrais(), du, MontantOuVide(verse)}, &ligne,
-                                     ligne.Previsionnel() ? EtatPrevision : EtatDe(du, verse));
+    const int place = Grille.Ajouter({ligne.LibelleFrais(), ligne.MoisFrais(), du, MontantOuVide(verse)},
+                                     &ligne, ligne.Previsionnel() ? EtatPrevision : EtatDe(du, verse));
     Grille.Cocher(place, ligne.EstPaye());
     if (!ligne.Previsionnel()) Compter(du, verse);
   }
@@ -72,8 +74,8 @@ void TFraisPaiements::AjouterFrais(const TEleve& eleve) {
 void TFraisPaiements::AjouterServices(const TEleve& eleve) {
   const TPaiements* paiements = eleve.Eleves->Paiements;
   for (const int mois : kMoisFacturation) {
-    const Currency du = std::max(
-        Currency(), eleve.CoutServicesPeriode(BornesMois(mois, eleve.Eleves->AnneeScolaire)));
+    const Currency du =
+        std::max(Currency(), eleve.CoutServicesPeriode(BornesMois(mois, eleve.Eleves->AnneeScolaire)));
     TPaiement* paye = paiements != nullptr ? paiements->PaiementMois(eleve.Id, mois) : nullptr;
     if (du == Currency() && paye == nullptr) continue;
     const Currency verse = eleve.PaiementsMois(mois);
@@ -118,6 +120,7 @@ void TFraisPaiements::Compter(Currency du, Currency verse) {
 
 // What is ticked moves no balance where families pay provisions.
 void TFraisPaiements::EcrirePied(bool provision) {
-  Pied = {{u"Total"_s, {}, FormatMontant(totalDu_), FormatMontant(totalVerse_)},
-          {provision ? u"Balance (provisions, sans les coches)"_s : u"Balance"_s, {}, {}, FormatMontant(Solde)}};
+  Pied = {
+      {u"Total"_s, {}, FormatMontant(totalDu_), FormatMontant(totalVerse_)},
+      {provision ? u"Balance (provisions, sans les coches)"_s : u"Balance"_s, {}, {}, FormatMontant(Solde)}};
 }

@@ -66,8 +66,9 @@ void TFrmSignaletique::btnAjoutFaitClick() {
   const TDateTime date = saisie.DateReleve();
   const TPeriode annee = BornesAnnee(Globals.Eleves->AnneeScolaire);
   if ((date < annee.Premier || date > annee.Dernier) &&
-      !contexte_.Dialogues().ConfirmerGrave(u"Le %1 n'est pas dans l'année scolaire affichée : le relevé n'y "
-                                            "apparaîtra pas. Voulez-vous l'ajouter ?"_s.arg(FormatDate(date))))
+      !contexte_.Dialogues().ConfirmerGrave(
+          u"Le %1 n'est pas dans l'année scolaire affichée : le relevé n'y "
+          "apparaîtra pas. Voulez-vous l'ajouter ?"_s.arg(FormatDate(date))))
     return;
   auto releve = std::make_unique<TPresence>();
   releve->EleveId = Globals.EleveCourant->Id;
@@ -85,8 +86,7 @@ std::unique_ptr<TPresence> TFrmSignaletique::Derive(const TPresence& releve) con
       releve.TypePresence == TTypePresence::Repas || releve.TypePresence == TTypePresence::Soupe;
   if (!Globals.Presences->Regles.GarderieUnique || !repas) return nullptr;
   constexpr TDateTime kDecalage = 0.0001;
-  const TDateTime heure =
-      (releve.HeureEntree != 0.0 ? releve.HeureEntree : releve.HeureSortie) + kDecalage;
+  const TDateTime heure = (releve.HeureEntree != 0.0 ? releve.HeureEntree : releve.HeureSortie) + kDecalage;
   auto derive = std::make_unique<TPresence>();
   derive->EleveId = releve.EleveId;
   derive->TypePresence = TTypePresence::Garderie;
@@ -170,7 +170,8 @@ void TFrmSignaletique::grdListeFraisDblClick() {
   const int ligne = Frais.Grille.LigneCourante();
   auto* paiement = ligne < 0 ? nullptr : Frais.Grille.Ligne(ligne).Objet.En<TFraisEleve>();
   if (paiement == nullptr || !paiement->EstLibre() || paiement->Remarque.contains(u"Services du mois"_s))
-    return Signaler(u"Seul un paiement introduit à la main se modifie ; Espace marque un frais ou un mois payé"_s);
+    return Signaler(
+        u"Seul un paiement introduit à la main se modifie ; Espace marque un frais ou un mois payé"_s);
   TFrmPaiement saisie(*paiement);
   if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
   const int groupe = paiement->GroupeFraisId;
@@ -186,13 +187,13 @@ void TFrmSignaletique::SpeedButton2Click() {
   const int ligne = Frais.Grille.LigneCourante();
   if (ligne < 0) return Signaler(u"Choisissez d'abord la ligne à supprimer"_s);
   auto* frais = Frais.Grille.Ligne(ligne).Objet.En<TFraisEleve>();
-  if (frais == nullptr) return Signaler(u"Un mois de services ne se supprime pas : Espace ôte son paiement"_s);
-  const QString question =
-      frais->EstLibre()
-          ? u"Confirmez-vous la suppression du paiement de %1 euros (%2)"_s.arg(
-                FormatDeuxDecimales(frais->MontantVerse), frais->Remarque)
-          : u"Confirmez-vous la suppression de ce frais : %1 (%2 euros)"_s.arg(
-                frais->LibelleFrais(), FormatDeuxDecimales(frais->MontantFrais()));
+  if (frais == nullptr)
+    return Signaler(u"Un mois de services ne se supprime pas : Espace ôte son paiement"_s);
+  const QString question = frais->EstLibre()
+                               ? u"Confirmez-vous la suppression du paiement de %1 euros (%2)"_s.arg(
+                                     FormatDeuxDecimales(frais->MontantVerse), frais->Remarque)
+                               : u"Confirmez-vous la suppression de ce frais : %1 (%2 euros)"_s.arg(
+                                     frais->LibelleFrais(), FormatDeuxDecimales(frais->MontantFrais()));
   if (!contexte_.Dialogues().ConfirmerGrave(question)) return;
   const std::shared_ptr<TFraisEleve> copie = Copie(*frais);
   const QString quoi = frais->EstLibre() ? frais->Remarque : frais->LibelleFrais();

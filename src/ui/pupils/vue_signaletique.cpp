@@ -83,7 +83,8 @@ QWidget* VueSignaletique::CreerReleve() {
 
 QWidget* VueSignaletique::CreerFrais() {
   auto* titre = new TitreSection(u"Frais et paiements"_s);
-  Bouton(*titre, u"Ajouter"_s, u"list-add"_s, u"Ajouter un paiement"_s, [this] { form_.SpeedButton1Click(); });
+  Bouton(*titre, u"Ajouter"_s, u"list-add"_s, u"Ajouter un paiement"_s,
+         [this] { form_.SpeedButton1Click(); });
   QPushButton* supprimer = BoutonSupprimer(u"Supprimer le frais ou le paiement"_s);
   connect(supprimer, &QPushButton::clicked, this, [this] { form_.SpeedButton2Click(); });
   titre->AjouterAction(supprimer);

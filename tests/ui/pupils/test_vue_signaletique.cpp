@@ -111,7 +111,8 @@ struct TSaisieFiche : TVueSignaletique {
     return champ;
   }
   QString Eleve(const QString& colonne, int id = 0) {
-    return base.Valeur(u"SELECT %1 FROM ELEVES WHERE ELEVE_ID = %2"_s.arg(colonne).arg(id == 0 ? rose.Id : id));
+    return base.Valeur(
+        u"SELECT %1 FROM ELEVES WHERE ELEVE_ID = %2"_s.arg(colonne).arg(id == 0 ? rose.Id : id));
   }
   void Cocher(const QString& nom) {
     auto& bouton = Controle<QAbstractButton>(nom);
@@ -126,15 +127,16 @@ TEST_F(TSaisieFiche, UnChampQuitteDeToutesLesFaconsSEnregistre) {
   const struct {
     const char* Facon;
     std::function<void(QLineEdit&)> Quitter;
-  } facons[] = {{"Tab", [](QLineEdit& champ) { QTest::keyClick(&champ, Qt::Key_Tab); }},
-                {"Entree", [](QLineEdit& champ) { QTest::keyClick(&champ, Qt::Key_Return); }},
-                {"souris", [&](QLineEdit&) { Controle<QLineEdit>(u"N° compte"_s).setFocus(Qt::MouseFocusReason); }},
-                {"autre fenetre", [](QLineEdit& champ) { champ.clearFocus(); }},
-                {"commande", [&](QLineEdit&) { ecran->LaisserChamp(); }},
-                {"autre eleve", [&](QLineEdit&) {
-                   ecran->LaisserChamp();
-                   Choisir(vide.Id);
-                 }}};
+  } facons[] = {
+      {"Tab", [](QLineEdit& champ) { QTest::keyClick(&champ, Qt::Key_Tab); }},
+      {"Entree", [](QLineEdit& champ) { QTest::keyClick(&champ, Qt::Key_Return); }},
+      {"souris", [&](QLineEdit&) { Controle<QLineEdit>(u"N° compte"_s).setFocus(Qt::MouseFocusReason); }},
+      {"autre fenetre", [](QLineEdit& champ) { champ.clearFocus(); }},
+      {"commande", [&](QLineEdit&) { ecran->LaisserChamp(); }},
+      {"autre eleve", [&](QLineEdit&) {
+         ecran->LaisserChamp();
+         Choisir(vide.Id);
+       }}};
   for (const auto& [facon, quitter] : facons) {
     QLineEdit& champ = Taper(u"Localité du responsable"_s, QString::fromUtf8(facon));
     EXPECT_NE(Eleve(u"LOCALITE"_s), QString::fromUtf8(facon)) << "not while it is typed in";
@@ -152,7 +154,8 @@ TEST_F(TSaisieFiche, UnChampQuitteDeToutesLesFaconsSEnregistre) {
     ecran->LaisserChamp();
     EXPECT_EQ(Eleve(colonne), u"4000");
   }
-  EXPECT_EQ(Taper(u"Numéro du responsable"_s, QString(60, u'9')).text().size(), 40) << "what the column takes";
+  EXPECT_EQ(Taper(u"Numéro du responsable"_s, QString(60, u'9')).text().size(), 40)
+      << "what the column takes";
 }
 
 TEST_F(TSaisieFiche, UneDateFausseResteJusquAuProchainEleve) {
@@ -202,8 +205,9 @@ TEST_F(TSaisieFiche, LesCasesEtLesMois) {
 
   const auto marques = [&](int type) {
     return base
-        .Rangees(u"SELECT MOIS, ANNEE FROM PRESENCES_PARTICULIERES WHERE TYPE_PRESENCE = %1 ORDER BY ANNEE, MOIS"_s
-                     .arg(type))
+        .Rangees(
+            u"SELECT MOIS, ANNEE FROM PRESENCES_PARTICULIERES WHERE TYPE_PRESENCE = %1 ORDER BY ANNEE, MOIS"_s
+                .arg(type))
         .join(u' ');
   };
   Controle<QAbstractButton>(u"Rentre à son domicile pendant midi, janvier"_s).click();
@@ -218,7 +222,8 @@ TEST_F(TSaisieFiche, LesCasesEtLesMois) {
   Globals.EleveCourant = nullptr;
   Diffuser(TCodeMessage::EleveChange, *ecran);
   EXPECT_TRUE(Montre(u"Choisissez un élève dans la liste"_s));
-  for (const QString& nom : {u"2e enfant"_s, u"Attestation au nom du second"_s, u"Paiement forfaitaire, mars"_s}) {
+  for (const QString& nom :
+       {u"2e enfant"_s, u"Attestation au nom du second"_s, u"Paiement forfaitaire, mars"_s}) {
     base.Dialogues.Attend(u"Veuillez sélectionner un élève"_s);
     Controle<QAbstractButton>(nom).click();
     EXPECT_FALSE(Controle<QAbstractButton>(nom).isChecked()) << "the box goes back";
@@ -318,8 +323,9 @@ TEST_F(TSaisieFiche, LeCalendrierMarqueCeQuiEstCompte) {
     calendrier.btnFermerClick();
   };
   Controle<QAbstractButton>(u"Relevés sur calendrier"_s).click();
-  EXPECT_EQ(base.Rangees(u"SELECT TYPE_PRESENCE, HEURE_SORTIE FROM PRESENCES WHERE DATE_RELEVE = '2016-10-06'"_s),
-            QStringList{u"4;-"_s});
+  EXPECT_EQ(
+      base.Rangees(u"SELECT TYPE_PRESENCE, HEURE_SORTIE FROM PRESENCES WHERE DATE_RELEVE = '2016-10-06'"_s),
+      QStringList{u"4;-"_s});
   monde.SurModale = [&](TForm& form) {
     auto& calendrier = dynamic_cast<TFrmReleveCalendrier&>(form);
     EXPECT_EQ(calendrier.Type(), 0);
