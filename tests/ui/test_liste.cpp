@@ -13,6 +13,7 @@
 #include "programme_essai.h"
 #include "screens/services/frm_parametres_garderies.h"
 #include "support/ecran_essai.h"
+#include "ui/commun/champ_filtre.h"
 #include "ui/commun/menu_grille.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/commun/vue_liste.h"
@@ -222,7 +223,7 @@ TEST_F(Tarifs, LeMenuDeLaListe) {
   const QStringList lignes = QString::fromUtf8(csv.readAll()).split(u"\r\n"_s);
   EXPECT_EQ(lignes[1], u"garderie du soir;lundi, mardi, jeudi, vendredi;16:30;18:00;0,0125;à la demi-heure");
   choisir(u"Filtrer"_s);
-  QTest::keyClicks(QApplication::focusWidget(), u"matin"_s);
+  QTest::keyClicks(Vue().findChild<ChampFiltre*>(), u"matin"_s);
   EXPECT_EQ(Colonne(0), QStringList{u"garderie du matin"_s});
 }
 
