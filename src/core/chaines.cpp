@@ -27,6 +27,13 @@ QString Remplacer(const QString& texte, const QString& ancien, const QString& no
 
 QString SansRetourLigne(const QString& texte) { return QString(texte).replace(u"\r\n"_s, u" "_s); }
 
+QString MajusculesSansAccents(const QString& texte) {
+  QString resultat = texte;
+  for (QChar& c : resultat)
+    if (c >= u'a' && c <= u'z') c = QChar(c.unicode() - (u'a' - u'A'));
+  return resultat;
+}
+
 void Decouper(const QString& texte, QChar separateur, QStringList& liste) {
   liste += texte.split(separateur, Qt::SkipEmptyParts);
 }

@@ -10,6 +10,9 @@ QString Remplacer(const QString& texte, const QString& ancien, const QString& no
 /// Each carriage return with line feed becomes one blank.
 QString SansRetourLigne(const QString& texte);
 
+/// Capitals for the letters a to z only: an accented letter stays as it stands.
+QString MajusculesSansAccents(const QString& texte);
+
 /// Stands for an empty field in the list of DecouperStrict.
 inline constexpr QStringView kChampVide = u"\r\n";
 /// Appends the pieces; a run of separators counts as one, at the start and the end as none.

@@ -1,7 +1,20 @@
 #pragma once
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
+#include "core/exceptions.h"
+
+/// A file that cannot be opened. `Cause` is what the system answers, without the name of the file.
+class EOuvertureFichier : public Exception {
+ public:
+  EOuvertureFichier(const QString& message, QString cause) : Exception(message), Cause(std::move(cause)) {}
+  QString Cause;
+};
+
+/// The whole content of a file of at most 64 MB. Raises EOuvertureFichier, or Exception when it cannot be
+/// read to its end.
+QByteArray LireFichier(const QString& chemin);
 /// The whole content of a file, which is replaced only once all of it is written: whoever reads it finds
 /// the old content or the new. What is no ordinary file (a pipe, a device) keeps its place and is written
 /// through. Raises Exception.

@@ -1,17 +1,14 @@
 #include "core/texte_separe.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QStringDecoder>
 #include <algorithm>
 
 #include "core/exceptions.h"
+#include "core/fichiers.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint64 kTailleMaximum = 64LL * 1024 * 1024;
 
 // What Windows-1252 holds between 0x80 and 0x9F, where Latin-1 has control characters.
 constexpr char16_t kWindows1252[32] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
@@ -72,35 +69,20 @@ QString TexteDepuisOctets(const QByteArray& octets) {
   return ansi;
 }
 
-TTexteSepare TTexteSepare::Lire(const QString& chemin) {
-  const QFileInfo infos(chemin);
-  if (!infos.exists()) throw Exception(u"Le fichier « %1 » n'existe pas."_s.arg(chemin));
-  if (infos.isDir()) throw Exception(u"« %1 » est un dossier et non un fichier."_s.arg(chemin));
-  if (!infos.isFile()) throw Exception(u"« %1 » n'est pas un fichier ordinaire."_s.arg(chemin));
-  if (infos.size() > kTailleMaximum)
-    throw Exception(
-        u"Le fichier « %1 » est trop grand (plus de 64 Mo) : ce n'est pas le bon "
-        "fichier."_s.arg(chemin));
-  QFile fichier(chemin);
-  QByteArray octets;
-  if (fichier.open(QIODevice::ReadOnly)) octets = fichier.readAll();
-  if (fichier.error() != QFileDevice::NoError)  // half a file would pass for a whole one
-    throw Exception(u"Le fichier « %1 » ne peut pas être lu : %2"_s.arg(chemin, fichier.errorString()));
-  return Depuis(octets, chemin);
-}
+TTexteSepare TTexteSepare::Lire(const QString& chemin) { return Depuis(LireFichier(chemin), chemin); }
 
-TTexteSepare TTexteSepare::Depuis(const QByteArray& octets, const QString& nom) {
+QStringList LignesDeTexte(const QByteArray& octets, const QString& nom) {
   if (octets.contains('\0')) throw Exception(u"Le fichier « %1 » n'est pas un fichier de texte."_s.arg(nom));
   QString texte = TexteDepuisOctets(octets);
   texte.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+  QStringList lignes = texte.split(u'\n');
+  if (lignes.last().isEmpty()) lignes.removeLast();
+  return lignes;
+}
+
+TTexteSepare TTexteSepare::Depuis(const QByteArray& octets, const QString& nom) {
   TTexteSepare resultat;
-  qsizetype debut = 0;
-  while (debut < texte.size()) {
-    qsizetype fin = texte.indexOf(u'\n', debut);
-    if (fin < 0) fin = texte.size();
-    resultat.Lignes.push_back(Couper(texte.mid(debut, fin - debut)));
-    debut = fin + 1;
-  }
+  for (const QString& ligne : LignesDeTexte(octets, nom)) resultat.Lignes.push_back(Couper(ligne));
   const auto vide = [](const QStringList& l) { return l.size() == 1 && l[0].trimmed().isEmpty(); };
   while (!resultat.Lignes.empty() && vide(resultat.Lignes.back())) resultat.Lignes.pop_back();
   return resultat;

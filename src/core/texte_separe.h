@@ -23,5 +23,7 @@ class TTexteSepare {
 /// A field as such a text holds it: in quotes when it holds a ";", a quote or a line end.
 QString ChampSepare(const QString& champ);
 
+/// The lines of a text, without their ends. `nom` is for messages. Raises Exception when it is no text.
+QStringList LignesDeTexte(const QByteArray& octets, const QString& nom);
 /// UTF-8 when the bytes are valid, else Windows-1252; a byte order mark is left out.
 QString TexteDepuisOctets(const QByteArray& octets);
