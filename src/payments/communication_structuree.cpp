@@ -9,18 +9,20 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPremierIdentifiantTropGrand = 100000;
+constexpr qsizetype kLongueurPresentee = 20;
 constexpr QStringView kBord = u"+++";
 
 QString Chiffres(std::int64_t nombre, int longueur) {
   return QString::number(nombre).rightJustified(longueur, u'0');
 }
 
-/// The ten digits with their check value, as the parents read them.
+/// The ten digits with their check value.
 QString Presenter(std::int64_t dixChiffres) {
   const std::int64_t reste = dixChiffres % 97;
-  const QString t = Chiffres(dixChiffres, 10) % Chiffres(reste == 0 ? 97 : reste, 2);
-  return kBord % t.first(3) % u'/' % t.sliced(3, 4) % u'/' % t.sliced(7) % kBord;
+  return CommunicationPresentee(Chiffres(dixChiffres, 10) % Chiffres(reste == 0 ? 97 : reste, 2));
 }
+
+QString SansSignes(const QString& communication) { return QString(communication).remove(u'+').remove(u'/'); }
 
 bool Codable(IDialogues& dialogues, int eleveId) {
   if (eleveId < 1) return false;  // not stored yet
@@ -51,13 +53,22 @@ QString CommunicationCompacte(IDialogues& dialogues, int eleveId, int genre, int
   return Presenter((std::int64_t{genre} * 1000000 + eleveId) * 1000 + annee);
 }
 
+QString CommunicationPresentee(const QString& chiffres) {
+  return kBord % chiffres.first(3) % u'/' % chiffres.sliced(3, 4) % u'/' % chiffres.sliced(7) % kBord;
+}
+
 bool CommunicationValide(const QString& communication) {
-  QString chiffres = communication;
-  chiffres.remove(u'+').remove(u'/');
+  const QString chiffres = SansSignes(communication);
   if (chiffres.size() != 12 || !EstChiffres(chiffres)) return false;
   const std::int64_t nombre = chiffres.first(10).toLongLong();
   const std::int64_t controle = chiffres.sliced(10).toLongLong();
   return nombre % 97 == (controle == 97 ? 0 : controle);
+}
+
+QString CommunicationNormalisee(const QString& communication) {
+  const QString copie = Remplacer(communication, u"++++++"_s, kBord.toString());
+  if (copie.size() == kLongueurPresentee) return copie;
+  return CommunicationValide(copie) ? CommunicationPresentee(SansSignes(copie)) : communication;
 }
 
 QString TexteInterieur(const QString& communication) {

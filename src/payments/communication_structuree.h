@@ -17,7 +17,13 @@ QString CommunicationFrais(IDialogues& dialogues, int eleveId, int mois, int ann
 QString CommunicationCompacte(IDialogues& dialogues, int eleveId, int genre, int anneeScolaire,
                               bool permanente);
 
+/// Twelve digits as the parents read them: +++123/4567/89012+++.
+QString CommunicationPresentee(const QString& chiffres);
 /// Whether there are twelve digits, "+" and "/" left out, and the last two are the check value.
 bool CommunicationValide(const QString& communication);
+/// The communication in the form in which it is stored: what comes with the right twelve digits, in any
+/// shape, is written +++123/4567/89012+++. A text of twenty characters passes untested, one that is no
+/// communication stays as it came.
+QString CommunicationNormalisee(const QString& communication);
 /// The 14 characters between the first "+++" and the next one or the end; "" when they are not 14.
 QString TexteInterieur(const QString& communication);
