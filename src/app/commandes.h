@@ -55,6 +55,7 @@ struct TCommande {
 std::span<const TCommande> CommandesBase();
 std::span<const TCommande> CommandesEcole();
 std::span<const TCommande> CommandesDocuments();
+std::span<const TCommande> CommandesBanque();
 
 /// Every command of the batch program.
 const std::vector<TCommande>& Commandes();

@@ -12,6 +12,11 @@ bool EstUn(const TReglagesPoste& reglages, const QString& nom) {
   return reglages.Lire(TRacine::Utilisateur, nom) == u"1";
 }
 
+TExtraits& LireAuBesoin(std::unique_ptr<TExtraits>& extraits, TDataModule1& base, int annee) {
+  if (!extraits) extraits = std::make_unique<TExtraits>(base, annee);
+  return *extraits;
+}
+
 /// The tree's selection changes nothing for as long as it lives.
 class TSuspension {
  public:
@@ -121,6 +126,14 @@ void TControleur::ChargerAnnee(int annee) {
 void TControleur::ChoisirAnnee(int annee) {
   ChargerAnnee(annee);
   fenetre_.FermerEcran();
+}
+
+TExtraits& TControleur::Extraits() {
+  return LireAuBesoin(Globals.Extraits, base_, Globals.Eleves->AnneeScolaire);
+}
+
+TExtraits& TControleur::ExtraitsPrecedents() {
+  return LireAuBesoin(Globals.ExtraitsPrecedents, base_, Globals.Eleves->AnneeScolaire - 1);
 }
 
 void TControleur::FormClose() {

@@ -24,6 +24,11 @@ class TControleur {
   /// Reads the parameters, the working year and the tariffs if that has not been done yet.
   void ChargerParametres();
 
+  /// The bank movements of the year on display and of the year before, read at the first call after a
+  /// year load. Raises EDistributor.
+  TExtraits& Extraits();
+  TExtraits& ExtraitsPrecedents();
+
   /// Remembers that this workstation works off-line and closes the connection.
   void PasserHorsLigne();
   /// Back to the database, with the pages of the tablet.

@@ -5,6 +5,8 @@ TGlobals Globals;
 void TGlobals::Montrer(std::unique_ptr<TDonneesAnnee> annee) {
   EleveCourant = nullptr;
   ClasseCourante = nullptr;
+  Extraits.reset();
+  ExtraitsPrecedents.reset();
   annee_ = std::move(annee);
   const bool la = annee_ != nullptr;
   Eleves = la ? annee_->Eleves.get() : nullptr;

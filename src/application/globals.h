@@ -3,6 +3,7 @@
 
 #include "application/donnees_annee.h"
 #include "core/parametres.h"
+#include "payments/extraits.h"
 #include "services/groupes_frais.h"
 #include "services/tarifs_garderies.h"
 
@@ -18,6 +19,10 @@ struct TGlobals {
   TListeFrais* ListeFrais = nullptr;
   TActivites* Activites = nullptr;
   TActivitesEleves* ActivitesEleves = nullptr;
+
+  // Bank movements, null until they are needed (TControleur) and again at each year load.
+  std::unique_ptr<TExtraits> Extraits;            ///< of the year on display
+  std::unique_ptr<TExtraits> ExtraitsPrecedents;  ///< of the year before
 
   std::unique_ptr<TParametres> Parametres;  ///< null until the first connection
   std::unique_ptr<TTarifsGarderies> TarifsGarderies;

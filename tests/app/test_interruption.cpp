@@ -185,3 +185,21 @@ TEST_F(TInterruptionEssai, TheCreationOfADatabase) {
     EXPECT_EQ(Lire(tables), entier) << attente;
   }
 }
+
+TEST_F(TInterruptionEssai, ABankStatement) {
+  constexpr int lignes = 150;
+  for (int n = 1; n <= 40; ++n) ecole_.unEleve().enClasse(u"P1"_s, u"A"_s);
+  base_->Deconnecter();
+  QString releve = u";\n"_s.repeated(13);
+  for (int n = 1; n <= lignes; ++n) {
+    const QString eleve = u"%1"_s.arg(1 + n % 40, 2, 10, '0'_L1);
+    releve +=
+        u"x;05/10/2016;;;BE68;PAYEUR %1;;;;;12,50;EUR;;;+++000/%2"_s.arg(n).arg(eleve) % u"10/16100+++\n";
+  }
+  Interrompre(
+      {u"releve"_s, Fichier("releve.csv", releve.toUtf8())},
+      {u"SELECT DONNEUR_ORDRE, COMMUNICATION, ANNEE_SCOLAIRE FROM EXTRAITS ORDER BY EXTRAIT_ID"_s,
+       u"SELECT F.ELEVE_ID, F.MOIS, F.MONTANT_VERSE, E.DONNEUR_ORDRE FROM FRAIS_ELEVE F JOIN EXTRAITS E "
+       "ON E.EXTRAIT_ID = F.EXTRAIT_ID ORDER BY F.FRAIS_ELEVE_ID"_s},
+      lignes, [](const TRun&, const QList<QStringList>&) {});
+}

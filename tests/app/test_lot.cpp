@@ -133,3 +133,72 @@ TEST_F(TLotEssai, Documents) {
   ASSERT_EQ(Json()[u"rapports"].toArray().size(), 1);
   EXPECT_TRUE(QJsonDocument(Json()).toJson().contains("lundi 14 novembre 2016"));
 }
+
+TEST_F(TLotEssai, TheBank) {
+  const QByteArray entete = QByteArray(";\n").repeated(13);
+  const QString credite = Fichier("a.csv", entete +
+                                               "x;05/10/2016;;;BE68;ZOÉ;;;;;12,50;EUR;;;000011016166\n"
+                                               "x;06/10/2016;;;BE69;X;;;;;-3;EUR;;;\"a;b\"\n");
+  const QString faux = Fichier("b.csv", entete + "x;06/10/2016;;;BE69;Y;;;;;3;EUR;;;+++00x/0110/16104+++\n");
+  const QString illisible = Fichier("c.csv", entete + "x;06/10/2016;;;BE69;Z;;;;;trois;EUR;;;\n");
+  const auto releve = [](const QString& fichier) { return QStringList{u"releve"_s, fichier}; };
+  const QString rangees =
+      u"extrait_id;donneur;date;montant;communication;compte;etat;eleve_id;mois;famille\n"
+      "1;ZOÉ;2016-10-05;12.5000;+++000/0110/16166+++;BE68;comptabilise;1;10;2\n"
+      "2;X;2016-10-06;-3.0000;\"a;b\";BE69;inconnu;;;\n"_s;
+  Verifier({
+      {releve(illisible), 1, {}, u"Ligne 14 : « trois » n'est pas un montant"_s},
+      {releve(credite), 0,
+       u"Le fichier compte 2 mouvements.\n\n1 mouvements ont été comptabilisés.\n1 mouvements sont "
+       u"inconnus.\n"
+       "0 mouvements sont des régularisations.\n"_s,
+       u"100 % : X"_s},
+      {Mots(u"extraits"_s), 0, rangees, {}},
+      {releve(faux), 1, u"Le fichier compte 1 mouvements.\n"_s, u"« 00x01 » n'est pas un nombre"_s},
+      {Mots(u"extraits"_s),
+       0,
+       QString(rangees % u"3;Y;2016-10-06;3.0000;+++00x/0110/16104+++;BE69;inconnu;;;\n"),
+       {}},
+      {releve(Chemin("rien.csv")), 1, {}, u"Le code d'erreur est :"_s},
+      {releve(credite) + QStringList{u"--sec"_s}, 1, {}, u"ni un relevé CODA, ni un relevé camt.053"_s},
+  });
+}
+
+TEST_F(TLotEssai, ADryStatement) {
+  const QString camt =
+      u"<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.08'><BkToCstmrStmt><Stmt><Id>1</Id>"
+      "<Bal><Tp><CdOrPrtry><Cd>OPBD</Cd></CdOrPrtry></Tp><Amt "
+      "Ccy='EUR'>5</Amt><CdtDbtInd>CRDT</CdtDbtInd></Bal>"
+      "<Bal><Tp><CdOrPrtry><Cd>CLBD</Cd></CdOrPrtry></Tp><Amt "
+      "Ccy='EUR'>%1</Amt><CdtDbtInd>CRDT</CdtDbtInd></Bal>"
+      "<Ntry><Amt Ccy='EUR'>12.5</Amt><CdtDbtInd>DBIT</CdtDbtInd><ValDt><Dt>2016-10-05</Dt></ValDt>"
+      "<AddtlNtryInf>000011016166</AddtlNtryInf></Ntry></Stmt></BkToCstmrStmt></Document>"_s;
+  const QString juste = Fichier(
+      "juste.xml",
+      camt.arg(u"-7.5"_s).replace(u"-7.5</Amt><CdtDbtInd>CRDT"_s, u"7.5</Amt><CdtDbtInd>DBIT"_s).toUtf8());
+  const QString faux = Fichier("faux.xml", camt.arg(u"1"_s).toUtf8());
+  const QString lues =
+      u"date;montant;compte;donneur;communication\n2016-10-05;-12.5000;;;+++000/0110/16104+++\n"_s;
+  const auto sec = [](const QString& fichier, const char* options) {
+    return QStringList{u"releve"_s, fichier} + Mots(QString::fromLatin1(options));
+  };
+  VerifierTels({
+      {sec(juste, "--sec"), 0, lues, {}},
+      {sec(faux, "--sec"), 1, {}, u"le nouveau solde est 1,00"_s},
+      {sec(faux, "--sec --sans-preuve"), 0, lues, u"le nouveau solde est 1,00"_s},
+  });
+  Verifier({
+      {sec(faux, "--sans-preuve"), 1, {}, u"--sans-preuve demande --sec"_s},
+      {sec(faux, ""), 1, {}, u"Rien n'a été mémorisé."_s},
+      {sec(juste, ""), 0,
+       u"Le fichier compte 1 mouvements.\n\n0 mouvements ont été comptabilisés.\n1 mouvements sont "
+       u"inconnus.\n"
+       "0 mouvements sont des régularisations.\n"_s,
+       u"100 %"_s},
+      {Mots(u"extraits"_s),
+       0,
+       u"extrait_id;donneur;date;montant;communication;compte;etat;eleve_id;mois;famille\n"
+       "1;;2016-10-05;-12.5000;+++000/0110/16166+++;;inconnu;;;\n"_s,
+       {}},
+  });
+}

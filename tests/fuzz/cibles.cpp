@@ -10,6 +10,7 @@
 #include "report/script/arbre.h"
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
+#include "workflows/import_virements.h"
 
 using namespace Qt::StringLiterals;
 
@@ -90,6 +91,26 @@ void TCibles::Presences(const QByteArray& octets) {
     import.Etape2();
   } catch (const Exception&) {
   }
+}
+
+void TCibles::Releve(const QByteArray& octets) {
+  TMuet muet;
+  TDataModule1 base(muet, base_.Reglages);
+  base.ServerName = base_.FichierDeDonnees();
+  base.Connecter();
+  TControleur controleur(base, base_.Reglages, essai_.Fenetre, essai_.Horloge);
+  const QString fichier = base_.Fichier(u"releve"_s, octets);
+  for (const QString& disposition : {u""_s, u"1"_s, u"2"_s}) {
+    Globals.Parametres->SetParametre(TParam::TypeCompteBancaire, disposition);
+    Globals.Parametres->SetParametre(TParam::CompteCourant, disposition);
+    try {
+      TImportVirements import(controleur);
+      if (import.Etape1(fichier)) import.Etape2();
+    } catch (const Exception&) {
+    }
+  }
+  Globals.Extraits.reset();
+  Globals.ExtraitsPrecedents.reset();
 }
 
 void TCibles::Rapport(const QByteArray& octets) {

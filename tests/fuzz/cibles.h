@@ -10,6 +10,8 @@ class TCibles {
   void Registre(const QByteArray& octets);
   /// The bytes as a file of scans, through analysis and storage.
   void Presences(const QByteArray& octets);
+  /// The bytes as a bank's file of every layout, through both steps.
+  void Releve(const QByteArray& octets);
   /// The bytes as what a saved report holds once decompressed, then into a PDF.
   void Rapport(const QByteArray& octets);
   /// The bytes as a template; one that is read lays out a small report. Whether it was.

@@ -30,3 +30,19 @@ TEST(Fuzz, ScannerReader) {
       "11;1;20161003;073000000;1\r\n11;4;20161004;160000000;1\r\n99;2;20161005;120000000;1\r\n";
   for (int i = 0; i < 3000; ++i) cibles.Presences(Alterer(valide, tirage));
 }
+
+TEST(Fuzz, StatementReaders) {
+  TCibles cibles;
+  std::mt19937 tirage(51);
+  const QByteArray blancs(10, ' ');
+  const QByteArray lignes[] = {
+      QByteArray(";\r\n").repeated(13) +
+          "x;05/10/2016;x;x;BE68;Dupont;x;x;001231016185;x;12,50;EUR;x;x;+++000/0110/16178+++\r\n",
+      QByteArray(";\r\n").repeated(14) + "x;x;x;05/10/2016;BE68;Dupont;x;x;001231016185;x;12,50\r\n",
+      "x\r\na;b;c;d;05-10-16;f;1.250,00;h;i;De: DUPONT" + blancs + "IBAN: BE68" + blancs +
+          "Communication : ***000/0110/16178*** \r\n"};
+  for (const QByteArray& valide : lignes) {
+    cibles.Releve(valide);
+    for (int i = 0; i < 300; ++i) cibles.Releve(Alterer(valide, tirage));
+  }
+}

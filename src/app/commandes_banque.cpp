@@ -1,0 +1,76 @@
+// The bank's file, and the movements of the year.
+#include "app/commandes.h"
+#include "app/csv.h"
+#include "core/fichiers.h"
+#include "core/formats.h"
+#include "payments/communication_structuree.h"
+#include "payments/releve_bancaire.h"
+#include "workflows/import_virements.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The booked movements of a file that tells its own form, without a database.
+int ReleveSec(const TSession& session) {
+  const auto releve = LireReleveBancaire(LireFichier(session.Arguments[0]));
+  if (!releve) throw Exception(u"Ce fichier n'est ni un relevé CODA, ni un relevé camt.053."_s);
+  const QString preuves = releve->Preuves.join(u'\n');
+  if (!preuves.isEmpty() && !session.A(u"sans-preuve"_s)) throw Exception(preuves);
+  if (!preuves.isEmpty()) session.Dialogues.Information(preuves);
+  TCsv csv(u"date;montant;compte;donneur;communication"_s.split(u';'));
+  for (const TMouvement& m : releve->Mouvements)
+    csv.Ligne({DateVersQt(m.Date).toString(Qt::ISODate), FormatQuatreDecimales(m.Montant), m.Compte,
+               m.Donneur, CommunicationNormalisee(m.Communication)});
+  return 0;
+}
+
+int Releve(TSession& session) {
+  if (session.A(u"sec"_s)) return ReleveSec(session);
+  if (session.A(u"sans-preuve"_s)) throw Exception(u"L'option --sans-preuve demande --sec."_s);
+  session.Ouvrir();
+  TImportVirements import(session.Controleur);
+  if (!import.Etape1(session.Arguments[0])) return 1;
+  try {
+    import.Etape2();
+  } catch (...) {
+    TCsv::EcrireLigne(import.Statut());
+    throw;
+  }
+  TCsv::EcrireLigne(import.Statut());
+  return 0;
+}
+
+QString NomEtat(TEtatMouvement etat) {
+  if (etat == TEtatMouvement::Cache) return u"cache"_s;
+  return etat == TEtatMouvement::Comptabilise ? u"comptabilise"_s : u"inconnu"_s;
+}
+
+int Extraits(TSession& session) {
+  session.Ouvrir();
+  const auto attributions = LireAttributions(session.Base);
+  TCsv csv(u"extrait_id;donneur;date;montant;communication;compte;etat;eleve_id;mois;famille"_s.split(u';'));
+  for (const TExtrait& extrait : session.Controleur.Extraits()) {
+    const auto credit = attributions.find(extrait.Id);
+    QStringList pour(3);
+    if (credit != attributions.end())
+      pour = {QString::number(credit->second.EleveId), QString::number(credit->second.Mois),
+              QString::number(static_cast<int>(credit->second.Famille))};
+    csv.Ligne(QStringList{QString::number(extrait.Id), extrait.DonneurOrdre,
+                          DateVersQt(extrait.DateVirement).toString(Qt::ISODate),
+                          FormatQuatreDecimales(extrait.Montant), extrait.Communication,
+                          extrait.NumCptDonneur, NomEtat(EtatExtrait(extrait))} +
+              pour);
+  }
+  return 0;
+}
+
+}  // namespace
+
+std::span<const TCommande> CommandesBanque() {
+  static constexpr TCommande commandes[] = {
+      {"releve", "FICHIER [--sec [--sans-preuve]]", 1, 1, Releve},
+      {"extraits", "", 0, 0, Extraits},
+  };
+  return commandes;
+}

@@ -1,0 +1,92 @@
+#include "workflows/credit_extraits.h"
+
+#include <span>
+
+#include "core/conversions.h"
+#include "core/curseur.h"
+#include "core/formats.h"
+#include "payments/communication_structuree.h"
+#include "workflows/memoriser.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kSiecle = 2000;
+
+/// The digit of a communication that says what is paid, and what that is. Month layout: the digits 1 and
+/// 2 stand for the families 2 and 1.
+struct TGenre {
+  QChar Chiffre;
+  TTypeFamilleFrais Famille;
+};
+
+constexpr TGenre kGenresMois[] = {{u'1', TTypeFamilleFrais::Services}, {u'2', TTypeFamilleFrais::Frais}};
+constexpr TGenre kGenresCompacts[] = {{u'0', TTypeFamilleFrais::General},
+                                      {u'1', TTypeFamilleFrais::Services},
+                                      {u'2', TTypeFamilleFrais::Frais},
+                                      {u'3', TTypeFamilleFrais::Services}};
+
+TTypeFamilleFrais Famille(std::span<const TGenre> genres, const QString& chiffre) {
+  for (const TGenre& genre : genres)
+    if (chiffre == genre.Chiffre) return genre.Famille;
+  return TTypeFamilleFrais::General;
+}
+
+/// The inner text without its slashes; "" when there is none.
+QString Chiffres(const QString& communication) { return TexteInterieur(communication).remove(u'/'); }
+
+}  // namespace
+
+std::optional<TAttribution> LireCommunicationMois(const QString& communication, int annee) {
+  if (TexteInterieur(communication).isEmpty()) return {};
+  const QString chiffres = Chiffres(communication);
+  const int eleve = StrToInt(chiffres.mid(0, 5));
+  const int mois = StrToInt(chiffres.mid(5, 2));
+  if (StrToInt(chiffres.mid(7, 2)) + kSiecle != annee || mois < 1 || mois > 12) return {};
+  return TAttribution{eleve, mois, Famille(kGenresMois, chiffres.mid(9, 1))};
+}
+
+std::optional<TAttribution> LireCommunicationCompacte(const QString& communication, int annee,
+                                                      bool sansAnnee) {
+  if (TexteInterieur(communication).isEmpty()) return {};
+  const QString chiffres = Chiffres(communication);
+  const int eleve = StrToInt(chiffres.mid(2, 5));
+  const int anneeLue = StrToInt(chiffres.mid(8, 2));
+  if (!sansAnnee && anneeLue + kSiecle != annee) return {};
+  return TAttribution{eleve, 0, Famille(kGenresCompacts, chiffres.mid(0, 1))};
+}
+
+QString LibelleVirement(const TExtrait& extrait) {
+  return u"Votre virement du " % FormatDate(extrait.DateVirement);
+}
+
+std::unordered_map<int, TAttribution> LireAttributions(TDataModule1& base) {
+  std::unordered_map<int, TAttribution> attributions;
+  TCurseur ligne(base,
+                 u"SELECT ELEVE_ID, EXTRAIT_ID, MOIS, TYPE_FAMILLE_FRAIS FROM FRAIS_ELEVE "
+                 "WHERE EXTRAIT_ID>0"_s);
+  while (ligne.Suivant())
+    attributions.try_emplace(
+        ligne.Entier("EXTRAIT_ID"),
+        TAttribution{ligne.Entier("ELEVE_ID"), ligne.Entier("MOIS"),
+                     static_cast<TTypeFamilleFrais>(ligne.Entier("TYPE_FAMILLE_FRAIS"))});
+  return attributions;
+}
+
+bool CrediterEleve(const TAttribution& attribution, const TExtrait& extrait, int groupeFraisId,
+                   const QString& libelle) {
+  TEleve* eleve = Globals.Eleves->TrouverParId(attribution.EleveId);
+  if (eleve == nullptr || Globals.Eleves->ExtraitVersEleve(extrait.Id) != 0) return false;
+  TAllFraisEleve* frais = eleve->GetAllFrais();
+  if (frais->ExisteExtrait(extrait.Id)) return false;
+  auto nouveau = std::make_unique<TFraisEleve>();
+  nouveau->Remarque = libelle;
+  nouveau->MontantVerse = extrait.Montant;
+  nouveau->Mois = attribution.Mois;
+  nouveau->ExtraitId = extrait.Id;
+  nouveau->TypeFamilleFrais = attribution.Famille;
+  nouveau->GroupeFraisId = groupeFraisId;
+  Memoriser(*frais, std::move(nouveau));
+  return true;
+}

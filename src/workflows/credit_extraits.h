@@ -1,0 +1,30 @@
+#pragma once
+#include "application/controleur.h"
+#include "services/frais_eleve.h"
+
+/// Whom a communication credits, for what.
+struct TAttribution {
+  int EleveId = 0;
+  int Mois = 0;  ///< 0 when it names none
+  TTypeFamilleFrais Famille = TTypeFamilleFrais::General;
+};
+
+/// What a communication of the month layout says (parameter 107 is not "1"). None when it is none of the
+/// school year. Raises EConvertError when its fourteen characters have no number where one must stand; the
+/// check value is not looked at.
+std::optional<TAttribution> LireCommunicationMois(const QString& communication, int annee);
+/// The same of the compact layout; with `sansAnnee` its year does not count.
+std::optional<TAttribution> LireCommunicationCompacte(const QString& communication, int annee,
+                                                      bool sansAnnee);
+
+/// "Votre virement du 05/10/2016"
+QString LibelleVirement(const TExtrait& extrait);
+
+/// Whom each credited movement went to, of any year, by the key of the movement. Raises Exception.
+std::unordered_map<int, TAttribution> LireAttributions(TDataModule1& base);
+
+/// Gives a stored movement to a pupil of the year on display: one payment of its whole amount, saved at
+/// once. False, and nothing done, without such a pupil and for a movement that some pupil has already.
+/// Raises Exception when it cannot be saved.
+bool CrediterEleve(const TAttribution& attribution, const TExtrait& extrait, int groupeFraisId,
+                   const QString& libelle);

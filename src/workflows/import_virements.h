@@ -1,0 +1,69 @@
+#pragma once
+#include "payments/releve.h"
+#include "workflows/credit_extraits.h"
+
+/// What a movement is on the screen.
+enum class TEtatMouvement { Nouveau, Inconnu, Comptabilise, AnneePrecedente, Cache, Illisible };
+
+/// "Nouveau", "Inconnu" and so on.
+QString Texte(TEtatMouvement etat);
+/// Of a stored movement: hidden goes before accounted.
+TEtatMouvement EtatExtrait(const TExtrait& extrait);
+
+/// A row of the preview.
+struct TRangeeVirement {
+  TMouvement Lu;
+  TExtrait* Extrait = nullptr;  ///< the stored movement; null before it is stored, and when it is last year's
+  TEtatMouvement Etat = TEtatMouvement::Illisible;
+  int EleveId = 0;  ///< the pupil shown, 0 for none
+};
+
+/// Bringing a bank's file in: step 1 reads and shows, step 2 stores the new movements and credits those
+/// whose communication tells the pupil.
+class TImportVirements {
+ public:
+  /// Needs a year on display (`Globals`).
+  explicit TImportVirements(TControleur& controleur) : controleur_(controleur) {}
+
+  /// Forgets the file.
+  void Vider();
+  /// Step 1: reads, normalises, recognises. A file that tells its own form (CODA, camt.053) is read by it,
+  /// any other by the layout of parameter 58. False, after a message, for a file that cannot be opened or
+  /// read to its end, whose rows before the fault are kept, and for one whose balances and sums do not fit.
+  /// Raises Exception for one that is no bank's file at all.
+  bool Etape1(const QString& chemin);
+  /// Step 2. Raises Exception when a movement cannot be stored, EConvertError when a communication cannot be
+  /// read; what was stored and credited until then stays.
+  void Etape2();
+
+  const std::vector<TRangeeVirement>& Rangees() const { return rangees_; }
+  /// The row that ended the reading.
+  const std::optional<TFauteReleve>& Faute() const { return faute_; }
+  /// What is said of the file, and of step 2 once it is done.
+  const QString& Statut() const { return statut_; }
+
+ private:
+  /// What step 2 counts: rows, and not what they credit.
+  struct TBilan {
+    int Comptabilises = 0, Inconnus = 0, Regularisations = 0;
+  };
+
+  std::optional<QByteArray> Ouvrir(const QString& chemin) const;
+  /// The movements into rows; false after a message.
+  bool Lire(const QByteArray& octets);
+  void Reconnaitre(TRangeeVirement& rangee);
+  void Situer(TRangeeVirement& rangee);
+  void Resituer();
+  void Memoriser(TProgression& progression);
+  void Crediter(TProgression& progression);
+  void CrediterRangee(const TRangeeVirement& rangee, bool compacte, TBilan& bilan) const;
+
+  TControleur& controleur_;
+  std::vector<TRangeeVirement> rangees_;
+  std::optional<TFauteReleve> faute_;
+  QString statut_;
+  bool parSonCompte_ = false;  // the file tells whose account it is, and so the debits of the school
+};
+
+/// What is said of a file that cannot be opened; `cause` is what the system answers.
+QString MessageOuverture(const QString& cause);

@@ -1,0 +1,19 @@
+#pragma once
+#include "core/distributor.h"
+#include "core/exceptions.h"
+
+/// Adds an object and saves at once. One that cannot be stored leaves again, so that no later save meets it;
+/// raises EDistributor then.
+template <class T>
+T& Memoriser(TCollection<T>& collection, std::unique_ptr<T> objet) {
+  T& place = collection.Add(std::move(objet));
+  try {
+    collection.Save();
+    if (place.Status == TStatus::Nouveau)
+      throw EDistributor(QStringLiteral("Aucun numéro n'a pu être donné à ce qui devait être mémorisé."));
+  } catch (const EDistributor&) {
+    collection.Remettre();
+    throw;
+  }
+  return place;
+}

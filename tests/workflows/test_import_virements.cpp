@@ -1,0 +1,218 @@
+#include <gtest/gtest.h>
+
+#include "core/exceptions.h"
+#include "support/controleur_essai.h"
+#include "support/valeurs.h"
+#include "workflows/import_virements.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A payment of layout A.
+struct TVersement {
+  QString Communication;
+  QString Montant = u"10,00"_s;
+  QString Donneur = u"DUPONT"_s;
+};
+
+class TImportVirementsEssai : public testing::Test {
+ protected:
+  TImportVirementsEssai() {
+    for (int i = 0; i < 2; ++i) ecole_.unEleve().enClasse(u"P1"_s, u"A"_s);
+  }
+
+  QString Fichier(const std::vector<TVersement>& versements) {
+    QString texte = u";\n"_s.repeated(13);
+    for (const TVersement& v : versements)
+      texte += u"x;05/10/2016;;;BE68;%1;;;;;%2;EUR;;;%3\n"_s.arg(v.Donneur, v.Montant, v.Communication);
+    return base_.Fichier(u"releve.csv"_s, texte.toUtf8());
+  }
+  /// Both steps on a freshly loaded year; the status text.
+  QString ImporterFichier(const QString& fichier, int annee = 2016) {
+    Globals.Parametres.reset();  // they may have changed
+    essai_.Charger(annee);
+    TImportVirements import(essai_.Controleur);
+    EXPECT_TRUE(import.Etape1(fichier));
+    import.Etape2();
+    etats_.clear();
+    for (const TRangeeVirement& r : import.Rangees())
+      etats_ += Texte(r.Etat) % u' ' % QString::number(r.EleveId);
+    return import.Statut();
+  }
+  QString Importer(const std::vector<TVersement>& versements, int annee = 2016) {
+    return ImporterFichier(Fichier(versements), annee);
+  }
+  QStringList Extraits() {
+    return base_.Rangees(u"SELECT EXTRAIT_ID, COMMUNICATION FROM EXTRAITS ORDER BY 1"_s);
+  }
+  QStringList Credits() {
+    return base_.Rangees(
+        u"SELECT ELEVE_ID, EXTRAIT_ID, MOIS, TYPE_FAMILLE_FRAIS, MONTANT_VERSE FROM FRAIS_ELEVE ORDER BY "
+        "FRAIS_ELEVE_ID"_s);
+  }
+
+  TBaseEssai base_;
+  TEcoleEssai ecole_{base_};
+  TControleurEssai essai_{base_};
+  QStringList etats_;
+};
+
+QString Bilan(int lignes, int comptabilises, int inconnus, int regularisations = -1) {
+  QString bilan =
+      u"Le fichier compte %1 mouvements.\n\n%2 mouvements ont été comptabilisés.\n"
+      "%3 mouvements sont inconnus."_s.arg(lignes)
+          .arg(comptabilises)
+          .arg(inconnus);
+  if (regularisations >= 0) bilan += u"\n%1 mouvements sont des régularisations."_s.arg(regularisations);
+  return bilan;
+}
+
+}  // namespace
+
+TEST_F(TImportVirementsEssai, TheMonthLayout) {
+  EXPECT_EQ(Importer({{u"000011016166"_s},          // stored bare digits, pupil 1, October, services
+                      {u"+++000/0211/16299+++"_s},  // wrong check value, pupil 2, fees
+                      {u"+++000/0110/16300+++"_s},  // another kind
+                      {u"+++000/9910/16100+++"_s},  // no such pupil
+                      {u"+++000/0110/17100+++"_s},  // another year
+                      {u"+++000/0100/16100+++"_s},
+                      {u"+++000/0113/16100+++"_s},
+                      {u"+++000011016/////+++"_s, u"-3,25"_s},  // kind behind the slashes: none
+                      {u"merci"_s}}),
+            Bilan(9, 5, 4, 0));
+  EXPECT_EQ(Extraits().size(), 9);
+  EXPECT_EQ(Credits(), (QStringList{u"1;1;10;2;10.0000"_s, u"2;2;11;1;10.0000"_s, u"1;3;10;0;10.0000"_s,
+                                    u"1;8;10;0;-3.2500"_s}));
+  EXPECT_EQ(etats_[0], u"Comptabilisé 1");
+  EXPECT_EQ(etats_[3], u"Inconnu 0") << "counted, but nobody has it";
+  EXPECT_EQ(base_.Rangees(u"SELECT FIRST 1 ANNEE_SCOLAIRE, LISTEFRAIS_ID, REMARQUE, DATE_VERSEMENT, "
+                          "GROUPE_FRAIS_ID FROM FRAIS_ELEVE"_s),
+            QStringList{u"2016;-;Votre virement du 05/10/2016;-;-"_s});
+}
+
+TEST_F(TImportVirementsEssai, TheCompactLayout) {
+  ecole_.parametre(107, u"1"_s);
+  const std::vector<TVersement> versements{{u"+++000/0001/01600+++"_s}, {u"+++100/0001/01600+++"_s},
+                                           {u"+++200/0001/01600+++"_s}, {u"+++300/0002/01600+++"_s},
+                                           {u"+++900/0002/01600+++"_s}, {u"+++x00/0002/01600+++"_s},
+                                           {u"+++000/0001/01700+++"_s}, {u"merci"_s}};
+  EXPECT_EQ(Importer(versements), Bilan(8, 6, 2));
+  QStringList credits{u"1;1;0;0;10.0000"_s, u"1;2;0;2;10.0000"_s, u"1;3;0;1;10.0000"_s,
+                      u"2;4;0;2;10.0000"_s, u"2;5;0;0;10.0000"_s, u"2;6;0;0;10.0000"_s};
+  EXPECT_EQ(Credits(), credits);
+  EXPECT_EQ(Importer(versements), Bilan(8, 6, 2)) << "counted again";
+  EXPECT_EQ(Credits(), credits);
+  ecole_.parametre(114, u"1"_s);
+  EXPECT_EQ(Importer(versements), Bilan(8, 7, 1));
+  EXPECT_EQ(Credits(), credits += u"1;7;0;0;10.0000"_s);
+}
+
+TEST_F(TImportVirementsEssai, NothingIsStoredTwice) {
+  const TVersement a{u"+++000/0110/16104+++"_s}, b{u"merci"_s}, c{u"+++000/0210/16204+++"_s};
+  EXPECT_EQ(Importer({a, b}), Bilan(2, 1, 1, 0));
+  EXPECT_EQ(Importer({a, b}), Bilan(2, 0, 1, 0)) << "what is accounted is passed over";
+  EXPECT_EQ(Importer({b, c}), Bilan(2, 1, 1, 0));
+  EXPECT_EQ(Extraits().size(), 3);
+  EXPECT_EQ(Credits().size(), 2);
+  // In the next year they are last year's.
+  base_.Sql(u"UPDATE ELEVES_CLASSES SET ANNEE_SCOLAIRE = 2017"_s);
+  EXPECT_EQ(Importer({a, {u"+++000/0110/17102+++"_s}, b}, 2017), Bilan(3, 1, 0, 2));
+  EXPECT_EQ(etats_, (QStringList{u"Année précédente 0"_s, u"Comptabilisé 1"_s, u"Année précédente 0"_s}));
+  EXPECT_EQ(Extraits().size(), 4);
+}
+
+TEST_F(TImportVirementsEssai, TwinsAreTwoPayments) {
+  const TVersement a{u"+++000/0110/16104+++"_s}, jumeau = a;
+  EXPECT_EQ(Importer({a, jumeau}), Bilan(2, 2, 0, 0));
+  EXPECT_EQ(Credits(), (QStringList{u"1;1;10;2;10.0000"_s, u"1;2;10;2;10.0000"_s}));
+  base_.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
+  EXPECT_EQ(Importer({a, jumeau}), Bilan(2, 2, 0, 0)) << "both are the first one, counted twice";
+  EXPECT_EQ(Credits(), QStringList{u"1;1;10;2;10.0000"_s});
+}
+
+TEST_F(TImportVirementsEssai, AMovementBelongsToOnePupil) {
+  const TVersement a{u"+++000/0110/16104+++"_s};
+  Importer({a});
+  for (const QString& disposition : {u"0"_s, u"1"_s}) {
+    base_.Sql(u"UPDATE FRAIS_ELEVE SET ELEVE_ID = 2, ANNEE_SCOLAIRE = 2015"_s);
+    base_.Sql(u"UPDATE EXTRAITS SET COMMUNICATION = '+++100/0001/01600+++'"_s);
+    ecole_.parametre(107, disposition);
+    Importer({TVersement{u"+++100/0001/01600+++"_s}});
+    EXPECT_EQ(Credits().size(), 1) << disposition.toStdString();
+    EXPECT_EQ(etats_, QStringList{u"Comptabilisé 2"_s});
+    base_.Sql(u"DELETE FROM PARAMETRE WHERE PARAMETRE_ID = 107"_s);
+  }
+  base_.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = 1"_s);
+  Importer({TVersement{u"+++100/0001/01600+++"_s}});
+  EXPECT_EQ(etats_, QStringList{u"Caché 2"_s});
+}
+
+TEST_F(TImportVirementsEssai, WhatIsNoNumberEndsTheCrediting) {
+  const TVersement a{u"+++000/0110/16104+++"_s}, faux{u"+++00x/0110/16104+++"_s},
+      c{u"+++000/0210/16204+++"_s};
+  const QString fichier = Fichier({a, faux, c});
+  essai_.Charger();
+  TImportVirements import(essai_.Controleur);
+  ASSERT_TRUE(import.Etape1(fichier));
+  EXPECT_THROW(import.Etape2(), EConvertError);
+  EXPECT_EQ(import.Statut(), u"Le fichier compte 3 mouvements.");
+  EXPECT_EQ(import.Rangees()[0].Etat, TEtatMouvement::Comptabilise);
+  EXPECT_EQ(Extraits().size(), 3) << "all are stored";
+  EXPECT_EQ(Credits().size(), 1);
+  for (const bool sansAnnee : {false, true})
+    EXPECT_THROW(LireCommunicationCompacte(u"+++000/0001/01x00+++"_s, 2016, sansAnnee), EConvertError);
+}
+
+TEST_F(TImportVirementsEssai, AFaultStoresNothing) {
+  essai_.Charger();
+  TImportVirements import(essai_.Controleur);
+  base_.Dialogues.Attend(u"Ligne 15 : « dix » n'est pas un montant"_s);
+  EXPECT_FALSE(import.Etape1(Fichier({{u"000011016166"_s}, {u"b"_s, u"dix"_s}, {u"c"_s}})));
+  ASSERT_EQ(import.Rangees().size(), 1U);
+  EXPECT_EQ(import.Rangees()[0].Lu.Communication, u"000011016166") << "not normalised";
+  EXPECT_EQ(import.Rangees()[0].Etat, TEtatMouvement::Illisible);
+  ASSERT_TRUE(import.Faute().has_value());
+  EXPECT_EQ(import.Faute()->Montant, u"dix");
+  EXPECT_EQ(import.Statut(), QString());
+  base_.Dialogues.Attend(
+      u"Une erreur s'est produite pendant l'ouverture du fichier.\r\nLe code d'erreur est :"_s);
+  EXPECT_FALSE(import.Etape1(base_.Chemin(u"rien32.csv"_s)));
+  EXPECT_TRUE(import.Rangees().empty());
+  EXPECT_TRUE(MessageOuverture(u"32 occupé"_s).startsWith(u"Le fichier de mouvement est déjà ouvert"));
+  EXPECT_EQ(Extraits(), QStringList());
+}
+
+TEST_F(TImportVirementsEssai, EveryLayoutOfTheParameter) {
+  const QString blancs(10, u' ');
+  for (const auto& [parametre, debut, ligne] :
+       {std::tuple(u"1"_s, u";\n"_s.repeated(14),
+                   u"x;;;05/10/2016;BE68;DUPONT;;;+++000/0110/16104+++;;10,00\n"_s),
+        {u"2"_s, u"x\n"_s,
+         QString(u"x;;;;05-10-16;;10,00;;;De: DUPONT" % blancs % u"IBAN: BE68" % blancs %
+                 u"Communication : ***000/0110/16104*** ")},
+        {u"autre"_s, u";\n"_s.repeated(13),
+         u"x;05/10/2016;;;BE68;DUPONT;;;;;10,00;EUR;;;+++000/0110/16104+++"_s}}) {
+    ecole_.parametre(58, parametre);
+    ImporterFichier(base_.Fichier(u"releve"_s, (debut + ligne).toUtf8()));
+    EXPECT_EQ(Extraits(), QStringList{u"1;+++000/0110/16104+++"_s}) << "the same payment in all layouts";
+    base_.Sql(u"DELETE FROM PARAMETRE WHERE PARAMETRE_ID = 58"_s);
+  }
+  EXPECT_EQ(Credits().size(), 1);
+}
+
+TEST_F(TImportVirementsEssai, ProgressIsTwiceTheRows) {
+  base_.Dialogues.Progressions = 0;
+  Importer({{u"a"_s}, {u"b"_s}, {u"c"_s}});
+  EXPECT_EQ(base_.Dialogues.Progressions, 2 * 3 + 1);
+}
+
+TEST_F(TImportVirementsEssai, WhatCannotBeStoredLeaves) {
+  essai_.Charger();
+  TImportVirements import(essai_.Controleur);
+  ASSERT_TRUE(import.Etape1(Fichier({{u"+++000/0110/16104+++"_s}})));
+  base_.Sql(u"ALTER TABLE EXTRAITS ADD OBLIGATOIRE INTEGER CHECK (OBLIGATOIRE IS NOT NULL)"_s);
+  EXPECT_THROW(import.Etape2(), EDistributor);
+  EXPECT_EQ(Globals.Extraits->Count(), 0);
+  EXPECT_EQ(import.Rangees()[0].Etat, TEtatMouvement::Nouveau);
+}
