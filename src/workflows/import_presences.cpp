@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 
 #include "core/conversions.h"
@@ -228,6 +229,16 @@ void TImportPresences::Archiver(const QString& fichier) const {
   if (!QFile::exists(fichier)) return;
   const QDir dossier(DossierPresences(controleur_.Reglages()));
   QFile::rename(fichier, dossier.filePath(NomArchive(controleur_.Horloge().Maintenant())));
+}
+
+void TImportPresences::ArchiverSousSonNom(const QString& chemin) const {
+  const QDir dossier(DossierPresences(controleur_.Reglages()));
+  const QFileInfo fichier(chemin);
+  QString nom = fichier.fileName();
+  for (int n = 2; dossier.exists(nom); ++n)
+    nom = u"%1 (%2).%3"_s.arg(fichier.completeBaseName()).arg(n).arg(fichier.suffix());
+  if (!QFile::rename(chemin, dossier.filePath(nom)))
+    throw Exception(u"Le fichier « %1 » n'a pas pu être archivé."_s.arg(fichier.fileName()));
 }
 
 TOrigine TImportPresences::Origine(const TPresence& bon) const {

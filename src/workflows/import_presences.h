@@ -45,6 +45,9 @@ class TImportPresences {
   bool Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie, TDateTime entree);
   /// Step 2: stores the good records in one go, then archives the local copy.
   void Etape2();
+  /// Moves a stored file into the archive under its own name, but over no file that is there. Raises
+  /// Exception.
+  void ArchiverSousSonNom(const QString& chemin) const;
   /// The same for the tablet's file, which is archived; no message.
   void StockerTablette(const QString& chemin);
 

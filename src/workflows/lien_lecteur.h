@@ -1,6 +1,9 @@
 #pragma once
 #include <QByteArray>
 #include <QString>
+#include <memory>
+
+class TReglagesPoste;
 
 /// The link with the hand scanner in its cradle. Only the platform of its maker has one.
 class ILienLecteur {
@@ -28,3 +31,7 @@ class ILienLecteur {
 void CopierDepuisLecteur(ILienLecteur& lien, const QString& distant, const QString& local);
 /// Deletes a file of the device. Raises Exception.
 void EffacerDuLecteur(ILienLecteur& lien, const QString& distant);
+
+/// The link of this workstation: the folder that the setting `Lecteur` names, where the device is mounted;
+/// else the library of its maker, on the system that has one. `reglages` must outlive it.
+std::unique_ptr<ILienLecteur> LienDuPoste(const TReglagesPoste& reglages);

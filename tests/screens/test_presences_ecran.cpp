@@ -241,7 +241,7 @@ TEST_F(FrmPresences, TheTwoButtonsOfStepOne) {
   TfrmPresences autre(Ecran.Contexte);
   autre.Montrer();
   EXPECT_FALSE(autre.ScannerVisible());
-  Base.Dialogues.Attend(u"pas encore disponible"_s);
+  Base.Dialogues.Attend(u"l'adresse du site n'est pas connue"_s);
   autre.btnImportFTPClick();
 }
 

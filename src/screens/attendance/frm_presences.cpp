@@ -14,7 +14,6 @@ namespace {
 const QString kFichiersLecteur[] = {u"\\StorageCard\\Presences\\Presences.txt"_s,
                                     u"\\Backup\\Presences\\Presences.txt"_s};
 const QString kTelechargement = u"Téléchargement des données..."_s;
-const QString kErreur = u"L'erreur suivante s'est produite : "_s;
 
 std::vector<TColonneGrille> Colonnes() {
   return {{u"Nom"_s, 271},
@@ -148,15 +147,10 @@ bool TfrmPresences::CopierDuLecteur(const QString& local) {
       copie_ = distant;
       return true;
     } catch (const Exception& e) {
-      contexte_.Dialogues().Message(kErreur + e.Message);
+      DireErreur(e);
     }
   }
   return false;
-}
-
-void TfrmPresences::btnImportFTPClick() {
-  contexte_.Dialogues().Message(
-      u"L'importation depuis un site distant n'est pas encore disponible dans cette version."_s);
 }
 
 void TfrmPresences::Importerunfichierdeprsence1Click() {
@@ -272,6 +266,7 @@ void TfrmPresences::btnEtape2Click() {
   import_.Etape2();
   OublierObjets(Anomalies);
   if (source_ == TSource::Scanner) EffacerDuLecteur();
+  if (source_ == TSource::Ftp) Site(&TfrmPresences::ArchiverEtEffacer);
   FermerLien();
   Signaler(TNiveauEtat::Succes, u"Les présences ont été mémorisées."_s);
   Annoncer();
@@ -296,15 +291,20 @@ void TfrmPresences::EffacerDuLecteur() {
     try {
       ::EffacerDuLecteur(*contexte_.Lecteur, distant);
     } catch (const Exception& e) {
-      if (distant == copie_) contexte_.Dialogues().Message(kErreur + e.Message);
+      if (distant == copie_) DireErreur(e);
     }
   }
 }
 
 void TfrmPresences::FermerLien() {
+  site_.Deconnecter();
   if (!lienOuvert_) return;
   lienOuvert_ = false;
   contexte_.Lecteur->CeRapiUnInit();
+}
+
+void TfrmPresences::DireErreur(const Exception& erreur) {
+  contexte_.Dialogues().Message(u"L'erreur suivante s'est produite : " % erreur.Message);
 }
 
 void TfrmPresences::Signaler(TNiveauEtat niveau, const QString& texte) {

@@ -2,6 +2,7 @@
 #include "forms/grille.h"
 #include "screens/contexte_ecran.h"
 #include "workflows/import_presences.h"
+#include "workflows/site_ftp.h"
 
 /// "Présences": bringing the scans in, correcting what is wrong, storing the rest.
 class TfrmPresences : public TForm {
@@ -63,6 +64,11 @@ class TfrmPresences : public TForm {
  private:
   enum class TSource { Scanner, Main, Ftp };
 
+  // The FTP site.
+  void Chercher();
+  void ArchiverEtEffacer();
+  bool Site(void (TfrmPresences::*travail)());
+
   bool OuvrirLien();
   void ImporterDuLecteur();
   void RienARecuperer(const QString& texte);
@@ -75,6 +81,7 @@ class TfrmPresences : public TForm {
   bool CopierDuLecteur(const QString& local);
   void EffacerDuLecteur();
   void FermerLien();
+  void DireErreur(const Exception& erreur);
   void Signaler(TNiveauEtat niveau, const QString& texte);
 
   TContexteEcran& contexte_;
@@ -82,6 +89,10 @@ class TfrmPresences : public TForm {
   TCompteurs compteurs_;
   QString fichier_;
   QString copie_;  // the file of the device that was copied
+  TSiteFtp site_;
+  QString nomSite_;     // the file in hand of the site
+  QString localSite_;   // where it was fetched to; "" without one
+  int autresSite_ = 0;  // files that wait behind it
   TSource source_ = TSource::Scanner;
   bool scannerVisible_ = true;
   bool lienOuvert_ = false;

@@ -8,4 +8,5 @@ Programme::Programme(const THorloge& horloge)
       Assistant(Main.Contexte),
       Fenetre(Main, Dialogues) {
   Main.Contexte.Assistant = &Assistant;
+  Main.Contexte.Lecteur = Lecteur.get();
 }

@@ -5,6 +5,7 @@
 #include "ui/principal/dialogues_qt.h"
 #include "ui/principal/fenetre_modale_qt.h"
 #include "ui/principal/fenetre_principale.h"
+#include "workflows/lien_lecteur.h"
 
 /// The whole desktop program, made in the order in which it starts and freed in the reverse one.
 class Programme {
@@ -17,6 +18,7 @@ class Programme {
   TDataModule1 Base{Dialogues, Reglages};
   FenetreModaleQt Modale;
   std::unique_ptr<IApercu> Apercu;
+  std::unique_ptr<ILienLecteur> Lecteur = LienDuPoste(Reglages);
   TFrmMain Main;
   TFrmPrintWizard Assistant;
   FenetrePrincipale Fenetre;

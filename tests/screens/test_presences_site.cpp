@@ -1,0 +1,134 @@
+// The presences of a real FTP site, and of a device that is mounted as a folder.
+#include <gtest/gtest.h>
+
+#include "screens/attendance/frm_presences.h"
+#include "support/ecran_essai.h"
+#include "support/serveur_ftp.h"
+#include "workflows/lien_lecteur.h"
+
+namespace {
+
+const QByteArray kScans = "11;1;20161003;073000000;1\n";
+const QString kErreur = u"L'erreur suivante s'est produite : "_s;
+const QString kMemorisees = u"Les présences ont été mémorisées."_s;
+
+class PresencesDuSite : public testing::Test {
+ protected:
+  struct TEcole : TBaseEssai {
+    TEcole() {
+      using namespace Essai;
+      TEcoleEssai ecole(*this);
+      ecole.tarif(Matin, TousLesJours, u"07:00"_s, u"08:30"_s, Forfait, u"1"_s, ScanPresence);
+      ecole.parametre(34, u"ecole"_s);
+      ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
+    }
+  };
+
+  void SetUp() override {
+    Globals.DossierTemporaire = Base.Chemin({});
+    Base.Reglages.Ecrire(TRacine::Utilisateur, u"DossierPresences"_s, Base.Chemin(u"archives"_s));
+    Ecran.Contexte.Lecteur = Lecteur.get();
+    Form.Montrer();
+  }
+  void Viser(const TServeurFtp& serveur, const QString& motDePasse = u"secret"_s) {
+    Globals.Parametres->SetParametre(TParam::ServeurFTP, serveur.Hote());
+    Globals.Parametres->SetParametre(TParam::MdpFTP, motDePasse);
+  }
+  QString Archives(const QString& dossier = {}) const {
+    return QDir(Base.Chemin(u"archives/"_s + dossier)).entryList(QDir::Files).join(u' ');
+  }
+  QString Presences() { return Base.Valeur(u"SELECT COUNT(*) FROM PRESENCES"_s); }
+
+  TEcole Base;
+  TEcranEssai Ecran{Base};
+  std::unique_ptr<ILienLecteur> Lecteur = LienDuPoste(Base.Reglages);
+  TfrmPresences Form{Ecran.Contexte};
+};
+
+}  // namespace
+
+TEST_F(PresencesDuSite, TwoFilesInTurn) {
+  QDir().mkpath(Base.Chemin(u"archives"_s));
+  Base.Fichier(u"archives/presences.txt"_s, "tablette");
+  const TServeurFtp serveur;
+  serveur.Poser(u"presences.txt"_s, kScans);
+  serveur.Poser(u"z.TXT"_s, kScans);
+  serveur.Poser(u"z.csv"_s, kScans);
+  Viser(serveur);
+  Form.btnImportFTPClick();
+  EXPECT_EQ(Form.Fichier(), u"presences.txt · 1 fichier.");
+  Form.btnImportFTPClick();  // connected already: nothing
+  EXPECT_EQ(serveur.Fichiers(), u"presences.txt z.TXT z.csv") << "nothing goes before the save";
+  Base.Dialogues.Attend(kMemorisees);
+  Form.btnEtape2Click();
+  EXPECT_EQ(serveur.Fichiers(), u"z.TXT z.csv");
+  EXPECT_EQ(Archives(), u"presences (2).txt presences.txt");
+  EXPECT_EQ(Archives(u"Traitement"_s), QString());
+  Form.btnImportFTPClick();
+  EXPECT_EQ(Form.Fichier(), u"z.TXT · 0 fichier.");
+  Base.Dialogues.Attend(kMemorisees);
+  Form.btnEtape2Click();
+  Base.Dialogues.Attend(u"Toutes les informations ont été transférées."_s);
+  Form.btnImportFTPClick();
+  EXPECT_FALSE(Form.Etape2Active());
+  EXPECT_EQ(Presences(), u"1") << "the same scan twice";
+}
+
+TEST_F(PresencesDuSite, WhatGoesWrong) {
+  const auto essayer = [&](const QString& mode, const QString& message,
+                           const QString& motDePasse = u"secret"_s) {
+    SCOPED_TRACE(mode.toStdString());
+    const TServeurFtp serveur(mode);
+    serveur.Poser(u"a.txt"_s, kScans.repeated(10));
+    Viser(serveur, motDePasse);
+    Base.Dialogues.Attend(message);
+    Form.btnImportFTPClick();
+    EXPECT_FALSE(Base.Dialogues.Dits.join(u'|').contains(u"secret"));
+    EXPECT_FALSE(Form.Etape2Active());
+    EXPECT_EQ(serveur.Fichiers(), mode == u"gone" ? QString() : u"a.txt"_s);
+    EXPECT_EQ(Archives(u"Traitement"_s), QString());
+  };
+  essayer({}, kErreur + u"le site refuse l'utilisateur ou le mot de passe."_s, u"faux secret"_s);
+  essayer(u"gone"_s, u"Une erreur s'est produite pendant l'ouverture du fichier"_s);
+  essayer(u"cut"_s, kErreur + u"le transfert a été coupé."_s);
+  Globals.Parametres->SetParametre(TParam::ServeurFTP, {});
+  Base.Dialogues.Attend(kErreur + u"l'adresse du site n'est pas connue"_s);
+  Form.btnImportFTPClick();
+}
+
+TEST_F(PresencesDuSite, TheFileOnTheSiteAfterTheSave) {
+  for (const QString& mode : {u"closes"_s, u"keeps"_s, u"paths"_s}) {
+    SCOPED_TRACE(mode.toStdString());
+    const TServeurFtp serveur(mode);
+    serveur.Poser(u"z.txt"_s, kScans);
+    Viser(serveur);
+    Form.btnImportFTPClick();
+    EXPECT_EQ(Form.Fichier(), u"z.txt · 0 fichier.");
+    Base.Dialogues.Attend(kMemorisees);
+    if (mode == u"keeps") Base.Dialogues.Attend(kErreur + u"le site refuse d'effacer le fichier."_s);
+    Form.btnEtape2Click();
+    EXPECT_EQ(serveur.Fichiers(), mode == u"keeps" ? u"z.txt"_s : QString());
+  }
+  EXPECT_EQ(Archives(), u"z (2).txt z (3).txt z.txt");
+}
+
+TEST_F(PresencesDuSite, TheFolderOfTheDevice) {
+  const QString absent =
+      u"Veuillez vérifier si votre lecteur de code à barre est allumé et connecté à votre ordinateur."_s;
+  const QString premier = u"appareil/StorageCard/Presences/"_s, second = u"appareil/Backup/Presences/"_s;
+  Base.Reglages.Ecrire(TRacine::Utilisateur, u"Lecteur"_s, Base.Chemin(u"appareil"_s));
+  Base.Dialogues.Attend(absent);
+  Form.btnImportScannerClick();
+  for (const QString& dossier : {premier, second}) QDir().mkpath(Base.Chemin(dossier));
+  Base.Dialogues.Attend(kErreur + u"Unable to open"_s).Attend(kErreur + u"Unable to open"_s);
+  Base.Dialogues.Attend(u"Aucune donnée à récupérer"_s);
+  Form.btnImportScannerClick();
+  const QString fichier = Base.Fichier(second + u"Presences.txt"_s, kScans);
+  Base.Dialogues.Attend(kErreur + u"Unable to open"_s);
+  Form.btnImportScannerClick();
+  EXPECT_TRUE(QFile::exists(fichier));
+  Base.Dialogues.Attend(kMemorisees);
+  Form.btnEtape2Click();
+  EXPECT_FALSE(QFile::exists(fichier));
+  EXPECT_EQ(Presences(), u"1");
+}
