@@ -296,15 +296,25 @@ void TChargement::Virements() {
   Releve(mouvements);
 }
 
-/// The last statement of the year, in a file: one family in fifteen writes words instead of digits.
+/// The last statement of the year, in a file of each layout: among the payments that the invoices ask for,
+/// words instead of digits, a pupil who is not there, a payment made twice, and what is nobody's payment.
 void TChargement::Releve(const std::vector<TMouvementBanque>& mouvements) {
   auto releve = mouvements;
-  for (std::size_t i = 7; i < releve.size(); i += 15)
-    releve[i].Communication = u"Facture de mai " % releve[i].Donneur;
+  const std::size_t nombre = releve.size();
+  for (std::size_t i = 0; i < nombre; ++i) {
+    if (i % 15 == 7) releve[i].Communication = u"Facture de mai " % releve[i].Donneur;
+    if (i % 25 == 11)
+      releve[i].Communication =
+          CommunicationServices(controleur_.Dialogues(), 99900 + static_cast<int>(i % 99), 5, kAnneeExemple);
+    if (i % 20 == 3) releve.push_back(mouvements[i]);
+  }
   if (releve.empty()) return;
   releve.push_back({QDate(2017, 6, 30), u"Commune de Brumeval"_s, u"BE11 0910 0053 5848"_s,
                     Currency::Euros(1250), u"Subside garderies 2e trimestre"_s});
   releve.push_back({QDate(2017, 6, 30), u"Traiteur Les Saveurs"_s, u"BE43 0682 0467 0001"_s,
                     -Currency::Euros(2318), u"Repas de mai, facture 2017/118"_s});
-  EcrireFichier(dossier_ % u"/releve-2017-06.csv", TexteReleve(releve, u"BE68 5390 0754 7034"_s));
+  for (const auto& [disposition, suffixe] :
+       {std::pair(u""_s, u""_s), {u"1"_s, u"-disposition-2"_s}, {u"2"_s, u"-disposition-3"_s}})
+    EcrireFichier(dossier_ % u"/releve-2017-06" % suffixe % u".csv",
+                  TexteReleve(releve, u"BE68 5390 0754 7034"_s, disposition));
 }

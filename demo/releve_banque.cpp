@@ -1,6 +1,9 @@
 #include "demo/releve_banque.h"
 
 #include <QStringList>
+#include <algorithm>
+
+#include "core/formats.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,18 +40,81 @@ QStringList Entete(const std::vector<TMouvementBanque>& mouvements, const QStrin
   return lignes;
 }
 
+QString LigneA(const TMouvementBanque& m, const QString& compte, int numero) {
+  const QString date = Jour(m.Date);
+  return QStringList{compte,
+                     date,
+                     u"00006"_s,
+                     QString::number(numero),
+                     m.Compte,
+                     SansAccent(m.Donneur),
+                     QString(),
+                     QString(),
+                     u"Virement"_s,
+                     date,
+                     FormatDeuxDecimales(m.Montant),
+                     u"EUR"_s,
+                     QString(),
+                     u"BE"_s,
+                     m.Communication}
+      .join(u';');
+}
+
+QString LigneB(const TMouvementBanque& m, const QString& compte, int numero) {
+  const QString date = Jour(m.Date);
+  return QStringList{compte,
+                     u"00006"_s,
+                     QString::number(numero),
+                     date,
+                     m.Compte,
+                     SansAccent(m.Donneur),
+                     QString(),
+                     QString(),
+                     m.Communication,
+                     date,
+                     FormatDeuxDecimales(m.Montant),
+                     u"EUR"_s}
+      .join(u';');
+}
+
+/// The labels of the detail text are set apart by blanks; stars stand around a structured communication.
+QString LigneC(const TMouvementBanque& m, const QString& compte, int numero) {
+  const QString blancs(12, u' ');
+  const bool recu = m.Montant >= Currency();
+  const QString detail = u"Virement en euros" % blancs % (recu ? u"De: " : u"Vers: ") %
+                         SansAccent(m.Donneur) % blancs % u"IBAN: " % m.Compte % blancs %
+                         u"Communication : " % QString(m.Communication).replace(u"+++"_s, u"***"_s) % u' ';
+  return QStringList{compte,
+                     u"ECOLE"_s,
+                     QString(),
+                     QString::number(numero),
+                     m.Date.toString(u"dd-MM-yyyy"_s),
+                     QString(),
+                     FormatMontant(m.Montant).section(u' ', 0, -2),
+                     u"EUR"_s,
+                     u"Virement"_s,
+                     detail}
+      .join(u';');
+}
+
+struct TForme {
+  QString Parametre;
+  int Entete;
+  QString (*Ligne)(const TMouvementBanque&, const QString&, int);
+};
+
 }  // namespace
 
-QByteArray TexteReleve(const std::vector<TMouvementBanque>& mouvements, const QString& compteEcole) {
+QByteArray TexteReleve(const std::vector<TMouvementBanque>& mouvements, const QString& compteEcole,
+                       const QString& disposition) {
+  static const TForme formes[] = {{u""_s, 13, LigneA}, {u"1"_s, 14, LigneB}, {u"2"_s, 1, LigneC}};
   if (mouvements.empty()) return {};
-  QStringList lignes = Entete(mouvements, compteEcole);
+  const TForme& forme = *std::ranges::find(formes, disposition, &TForme::Parametre);
+  const QStringList entete = Entete(mouvements, compteEcole);
+  QStringList lignes(forme.Entete - 1, u";"_s);
+  for (int i = 0; i + 1 < std::min<int>(forme.Entete, 12); ++i) lignes[i] = entete[i];
+  lignes.append(entete.last());
   int numero = 0;
-  for (const TMouvementBanque& m : mouvements) {
-    const QString date = Jour(m.Date);
-    lignes.append(QStringList{compteEcole, date, u"00006"_s, QString::number(++numero), m.Compte,
-                              SansAccent(m.Donneur), QString(), QString(), u"Virement"_s, date,
-                              FormatDeuxDecimales(m.Montant), u"EUR"_s, QString(), u"BE"_s, m.Communication}
-                      .join(u';'));
-  }
+  for (const TMouvementBanque& m : mouvements) lignes.append(forme.Ligne(m, compteEcole, ++numero));
   return QString(lignes.join(u"\r\n") % u"\r\n").toLatin1();
 }

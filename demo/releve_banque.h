@@ -14,6 +14,8 @@ struct TMouvementBanque {
   QString Communication;
 };
 
-/// A statement as the bank's customers download it (layout of an empty parameter 58): thirteen header
-/// lines, then a line a movement, in Windows-1252.
-QByteArray TexteReleve(const std::vector<TMouvementBanque>& mouvements, const QString& compteEcole);
+/// A statement as the bank's customers download it, in Windows-1252, in the layout of parameter 58: ""
+/// thirteen header lines and then a line a movement, "1" fourteen, "2" a line a movement with a detail text
+/// of labels.
+QByteArray TexteReleve(const std::vector<TMouvementBanque>& mouvements, const QString& compteEcole,
+                       const QString& disposition = {});

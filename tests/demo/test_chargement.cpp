@@ -6,6 +6,7 @@
 #include "demo/terminal.h"
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
+#include "workflows/import_virements.h"
 
 using namespace Qt::StringLiterals;
 
@@ -78,4 +79,21 @@ TEST(Chargement, LesImportsAcceptentToutCeQuiEstEcrit) {
   const auto second = ecole.Registre(u"2"_s, Petit("registre-disposition-2.csv"));
   EXPECT_EQ(second.Crees, 1);
   EXPECT_EQ(second.Modifies, 10);
+}
+
+TEST(Chargement, ThePaymentsOfTheYearInEveryLayout) {
+  TEcoleChargee ecole;
+  int extraits = 0;
+  for (const auto& [disposition, fichier] : {std::pair(u""_s, u"releve-2017-06.csv"_s),
+                                             {u"1"_s, u"releve-2017-06-disposition-2.csv"_s},
+                                             {u"2"_s, u"releve-2017-06-disposition-3.csv"_s}}) {
+    Globals.Parametres->SetParametre(TParam::TypeCompteBancaire, disposition);
+    TImportVirements import(ecole.Controleur);
+    ASSERT_TRUE(import.Etape1(ecole.Dossier.filePath(fichier)));
+    import.Etape2();
+    if (extraits == 0) extraits = Globals.Extraits->Count();
+    EXPECT_EQ(Globals.Extraits->Count(), extraits) << "the same movements";
+    EXPECT_GE(import.Rangees().size(), static_cast<std::size_t>(extraits) - 1) << "layout 3 has no debit";
+  }
+  EXPECT_GT(extraits, 20);
 }
