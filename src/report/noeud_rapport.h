@@ -29,6 +29,7 @@ class TValeurs {
 struct TNoeudRapport {
   QString Texte;  ///< for the builder's own use; no band shows it
   TValeurs Valeurs;
+  TValeurs Annexes;  ///< found after the values: what the paper has besides, no part of the data
   std::vector<TNoeudRapport> Enfants;
 
   TNoeudRapport() = default;

@@ -145,10 +145,11 @@ QString TRapport::ValeurArbre(QStringView nom, int curseur) const {
     noeuds[1] = parent(place).Noeud;
     noeuds[2] = parent(parent(place)).Noeud;
   }
-  for (const TNoeudRapport* noeud : noeuds) {
-    const QString* valeur = noeud ? noeud->Valeurs.Trouver(nom) : nullptr;
-    if (valeur && !valeur->isEmpty()) return *valeur;
-  }
+  for (const auto liste : {&TNoeudRapport::Valeurs, &TNoeudRapport::Annexes})
+    for (const TNoeudRapport* noeud : noeuds) {
+      const QString* valeur = noeud ? (noeud->*liste).Trouver(nom) : nullptr;
+      if (valeur && !valeur->isEmpty()) return *valeur;
+    }
   return {};
 }
 

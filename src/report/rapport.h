@@ -69,6 +69,8 @@ class TRapport {
 
   /// Where it is not the title.
   QString NomUsuel;
+  /// What the office has to know before it prints; French. They stand among the faults of the pages.
+  QStringList Avertissements;
   /// Goes before the logo of the template unless it is null.
   QImage Logo;
   /// Fills the picture of the photo with that identifier; may be empty.

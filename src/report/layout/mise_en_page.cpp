@@ -6,6 +6,8 @@ TMiseEnPage::TMiseEnPage(const TRapport& rapport, const TModele& modele, const T
     : contexte_(rapport, modele, impression, document_.Defauts),
       moteur_(std::make_unique<TMoteur>(contexte_, document_)) {
   document_.Titre = rapport.Intitule();
+  for (const QString& avertissement : rapport.Avertissements)
+    document_.Defauts.push_back({{}, {}, avertissement});
   for (const QString& manque : TPolices::Communes().Manques()) document_.Defauts.push_back({{}, {}, manque});
 }
 
