@@ -49,7 +49,8 @@ int Document(TSession& session) {
     if (DemandeDatePaiement(*document, *Globals.Parametres)) choix.DatePaiement = date;
   }
 
-  const TResultat resultat = FaireDocument(ContexteDesGlobals(), *document, choix);
+  const TResultat resultat =
+      FaireDocument(ContexteDesGlobals(session.Controleur.Horloge()), *document, choix);
   return SortirDocument(session, titre, resultat, !choix.Classes.empty());
 }
 

@@ -1,10 +1,13 @@
 #include "documents/catalogue.h"
 
 #include "documents/badges.h"
+#include "documents/comptabilisation_repas.h"
+#include "documents/demande_provision.h"
 #include "documents/etiquettes.h"
 #include "documents/factures.h"
 #include "documents/listes_codes_barres.h"
 #include "documents/releve_detaille.h"
+#include "documents/releve_frais.h"
 #include "pupils/eleves.h"
 
 namespace {
@@ -23,18 +26,26 @@ constexpr TTitreDocument kTitres[] = {
      .AvecPeriode = true,
      .Courriel = true,
      .DemandeDate = FactureDemandeDate},
-    {.Titre = u"Relevé des frais effectifs", .AvecPeriode = true, .Courriel = true},
+    {.Titre = u"Relevé des frais effectifs",
+     .Construire = ReleveFraisEffectifs,
+     .AvecPeriode = true,
+     .Courriel = true},
     {.Titre = u"Relevé détaillé des services",
      .Construire = ReleveDetaille,
      .AvecPeriode = true,
      .Courriel = true},
-    {.Titre = u"Liste prévisionnelle des frais", .AvecPeriode = true, .Courriel = true},
+    {.Titre = u"Liste prévisionnelle des frais",
+     .Construire = ListePrevisionnelle,
+     .AvecPeriode = true,
+     .Courriel = true},
     {.Titre = u"Detail O.N.E. des accueils extrascolaires", .AvecPeriode = true},
     {.Titre = u"Balance des comptes provisoire", .Courriel = true},
     {.Titre = u"Balance des comptes définitive", .Courriel = true},
     {.Titre = u"Attestation fiscale"},
-    {.Titre = u"Comptabilisation des repas et des soupes", .AvecPeriode = true},
-    {.Titre = u"Document de provision de compte"},
+    {.Titre = u"Comptabilisation des repas et des soupes",
+     .Construire = ComptabilisationRepas,
+     .AvecPeriode = true},
+    {.Titre = u"Document de provision de compte", .Construire = DemandeProvision},
 };
 
 }  // namespace

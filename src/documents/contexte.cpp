@@ -1,8 +1,11 @@
 #include "documents/contexte.h"
 
 #include "application/globals.h"
+#include "core/horloge.h"
 
-TContexteDocument ContexteDesGlobals() { return {*Globals.Eleves, *Globals.Parametres}; }
+TContexteDocument ContexteDesGlobals(const THorloge& horloge) {
+  return {*Globals.Eleves, *Globals.Parametres, horloge.Aujourdhui()};
+}
 
 TElevesChoisis SansRadies(const TElevesChoisis& eleves) {
   TElevesChoisis gardes = eleves;

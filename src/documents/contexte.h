@@ -7,17 +7,19 @@
 class TEleve;
 class TEleves;
 class TEtiquettes;
+class THorloge;
 class TParametres;
 
 /// What the documents of a school year are made from. All must outlive it.
 struct TContexteDocument {
   const TEleves& Eleves;  ///< of the year on display, with the collections that their accounts read
   const TParametres& Parametres;
+  TDateTime Aujourdhui = 0.0;         ///< the day that the papers bear
   TEtiquettes* Etiquettes = nullptr;  ///< of the screen that prints; null: there is no printer of labels
 };
 
 /// From `Globals`: parameters and a year must have been loaded.
-TContexteDocument ContexteDesGlobals();
+TContexteDocument ContexteDesGlobals(const THorloge& horloge);
 
 /// The pupils of a document, in order; one who stands there twice gets two.
 using TElevesChoisis = std::vector<TEleve*>;

@@ -2,11 +2,12 @@
 
 #include "core/formats.h"
 #include "core/parametres.h"
-#include "documents/entete_ecole.h"
-#include "documents/libelles_services.h"
+#include "documents/lettres.h"
+#include "documents/noeud_facture.h"
 #include "documents/postes_ouverts.h"
-#include "documents/recueil_messages.h"
-#include "documents/sections.h"
+#include "documents/qr_paiement.h"
+#include "documents/sections_frais.h"
+#include "documents/services_factures.h"
 #include "payments/communication_structuree.h"
 #include "pupils/eleve.h"
 #include "services/frais_eleve.h"
@@ -25,29 +26,28 @@ class TFactureEleve {
         balanceAnnuelle_(contexte.Parametres.EstVrai(TParam::BalanceAnnuelle)) {}
 
   /// The pupil's node; none when exactly nothing is owed.
-  std::optional<TNoeudRapport> Faire(const QString& datePaiement, IDialogues& dialogues);
+  std::optional<TNoeudRapport> Faire(const QString& datePaiement, const TQrPaiement& qr,
+                                     IDialogues& dialogues);
 
  private:
   void AjouterFrais();
   void AjouterServices();
-  void AjouterService(TService service, const TServicesOuverts& ouverts);
   void AjouterArrieres();
   void AjouterRappels();
   Currency VersementsLibres(int mois) const;
   Currency VersementsPeriode() const;
-  QString Communication(const QString& datePaiement, IDialogues& dialogues) const;
 
   const TContexteDocument& contexte_;
   const TEleve& eleve_;
   const TPeriodeDocument& periode_;
   const bool balanceAnnuelle_;
-  TSection obligatoires_{u"Frais Obligatoire"_s, u"Frais obligatoires"_s};
-  TSection nonObligatoires_{u"Frais Non Obligatoire"_s, u"Frais non obligatoires"_s};
-  TSection services_{u"Services"_s, u"Services"_s};
-  TSection rappel_{u"Rappel"_s, u"Rappel"_s};
+  TSectionsFrais frais_;
+  TSection services_{u"Services"_s};
+  TSection rappel_{u"Rappel"_s};
 };
 
-std::optional<TNoeudRapport> TFactureEleve::Faire(const QString& datePaiement, IDialogues& dialogues) {
+std::optional<TNoeudRapport> TFactureEleve::Faire(const QString& datePaiement, const TQrPaiement& qr,
+                                                  IDialogues& dialogues) {
   AjouterFrais();
   AjouterServices();
   if (balanceAnnuelle_)
@@ -55,47 +55,43 @@ std::optional<TNoeudRapport> TFactureEleve::Faire(const QString& datePaiement, I
   else
     AjouterRappels();
   const Currency verse = VersementsPeriode();
-  const Currency total =
-      obligatoires_.Total + nonObligatoires_.Total + services_.Total + rappel_.Total - verse;
-  const QString communication = Communication(datePaiement, dialogues);
+  const Currency total = frais_.Total() + services_.Total + rappel_.Total - verse;
+  const QString structuree = CommunicationDuMois(CommunicationServices, eleve_, periode_, dialogues);
   if (total == Currency()) return std::nullopt;
 
-  TNoeudRapport noeud = NoeudEleve(eleve_);
-  noeud.Valeurs.Ecrire(u"SoldeFacture", FormatDeuxDecimales(total));
-  noeud.Valeurs.Ecrire(u"SoldeFacture2", FormatDeuxDecimales(total.Absolu()));
-  noeud.Valeurs.Ecrire(u"Communication", communication);
+  TNoeudRapport noeud =
+      NoeudFacture(eleve_, total, TexteCommunication(contexte_.Parametres, structuree, datePaiement));
+  qr.Ajouter(noeud, structuree, total);
   if (verse > Currency()) noeud.Valeurs.Ecrire(u"Paiement", FormatDeuxDecimales(verse));
   noeud.Valeurs.Ecrire(u"TotalGeneral", FormatDeuxDecimales(total));
-  for (TSection* section : {&obligatoires_, &nonObligatoires_, &services_, &rappel_})
-    noeud.Enfants.push_back(section->Terminer());
+  frais_.Terminer(noeud);
+  noeud.Enfants.push_back(services_.Terminer());
+  noeud.Enfants.push_back(rappel_.Terminer());
   return noeud;
 }
 
 void TFactureEleve::AjouterFrais() {
   for (const TFraisEleve* frais : FraisOuverts(eleve_, periode_))
-    if (!frais->FraisService())
-      (frais->NonObligatoire() ? nonObligatoires_ : obligatoires_)
-          .Ajouter(frais->LibelleFrais(), frais->MontantFrais());
+    if (!frais->FraisService()) frais_.Ajouter(*frais);
 }
 
 void TFactureEleve::AjouterServices() {
   const TServicesOuverts ouverts(eleve_, periode_);
-  for (const TService service : {TService::Matin, TService::Midi, TService::Soir, TService::Mercredi})
-    AjouterService(service, ouverts);
+  const auto ajouter = [&](std::span<const TService> services) {
+    ::AjouterServices(services_, services, contexte_.Parametres.Regles().TitreGarderieSoir(),
+                      [&](TService service) { return ouverts.Montant(service, true); });
+  };
+  const std::span<const TService> services(kServicesFactures);
+  constexpr std::size_t duJour = 4;
+  ajouter(services.first(duJour));
   for (const TFraisEleve* frais : FraisOuverts(eleve_, periode_))
     if (frais->FraisService()) services_.Ajouter(frais->LibelleFrais(), frais->MontantFrais());
-  for (const TService service : {TService::Repas, TService::Soupe, TService::Etude})
-    AjouterService(service, ouverts);
-}
-
-void TFactureEleve::AjouterService(TService service, const TServicesOuverts& ouverts) {
-  if (const std::optional<Currency> montant = ouverts.Montant(service, true))
-    services_.Ajouter(LibelleFacture(service, contexte_), *montant);
+  ajouter(services.subspan(duJour));
 }
 
 // What was charged and paid from the start of the year to the day before the period.
 void TFactureEleve::AjouterArrieres() {
-  const TPeriode avant{BornesAnnee(periode_.Annee).Premier, periode_.DateDebut - 1};
+  const TPeriode avant = periode_.Avant();
   if (avant.Dernier <= avant.Premier) return;
   const Currency factures = eleve_.FraisPeriode(avant) + eleve_.CoutServicesPeriode(avant);
   Currency paiements;
@@ -141,39 +137,21 @@ Currency TFactureEleve::VersementsLibres(int mois) const {
 Currency TFactureEleve::VersementsPeriode() const {
   const TAllFraisEleve* lignes = eleve_.GetAllFrais();
   if (balanceAnnuelle_ || !lignes) return {};
-  return lignes->TotalLibresPeriode({periode_.DateDebut, periode_.DateFin}, periode_.Annee);
-}
-
-QString TFactureEleve::Communication(const QString& datePaiement, IDialogues& dialogues) const {
-  QString structuree;
-  if (const int mois = periode_.MoisFacture())
-    structuree = CommunicationServices(dialogues, eleve_.Id, mois, periode_.Annee);
-  QString communication = contexte_.Parametres.GetParametre(TParam::CommunicationFacture);
-  communication.replace(u"[ComStructParFacture]"_s, structuree);
-  if (!datePaiement.isEmpty()) communication.replace(u"[DatePaiementFacture]"_s, datePaiement);
-  return communication;
+  return lignes->TotalLibresPeriode(periode_.Jours(), periode_.Annee);
 }
 
 }  // namespace
 
 TResultat FactureFraisEffectifs(const TContexteDocument& contexte, const TDemandeDocument& demande) {
-  TRapport rapport(u"Relevé des frais effectifs"_s, u"Facture"_s);
-  rapport.NomUsuel = u"Facture"_s;  // another document is called what its title says
-  rapport.EffacerVariables();
+  TRapport lettre = LettreEcole(u"Relevé des frais effectifs"_s, u"Facture"_s, contexte.Parametres,
+                                demande.Periode.PeriodeTexte());
+  lettre.NomUsuel = u"Facture"_s;  // another document is called what its title says
   const QString date = demande.DatePaiement ? FormatJourLong(*demande.DatePaiement) : QString();
-  TRecueilMessages recueil;
-  TArbreRapport arbre;
-  for (const TEleve* eleve : SansRadies(demande.Eleves))
-    if (auto noeud = TFactureEleve(contexte, *eleve, demande.Periode).Faire(date, recueil))
-      arbre.push_back(std::move(*noeud));
-  rapport.AjouterVariable(u"MoisReleve", demande.Periode.PeriodeTexte());
-  AjouterEnteteEcole(rapport, contexte.Parametres);
-  rapport.AjouterVariable(u"DatePaiement", date);
-  SupprimerNoeudsVides(arbre);
-
-  TResultat resultat;
-  resultat.Messages = recueil.Messages;
-  resultat.Ajouter(Presenter(std::move(rapport), std::move(arbre),
-                             u"Aucune facture n'est à établir pour la période choisie."_s));
-  return resultat;
+  lettre.AjouterVariable(u"DatePaiement", date);
+  const TQrPaiement qr(contexte.Parametres);
+  qr.Avertir(lettre);
+  const auto ecrire = [&](const TEleve& eleve, IDialogues& dialogues) {
+    return TFactureEleve(contexte, eleve, demande.Periode).Faire(date, qr, dialogues);
+  };
+  return FaireLettres(std::move(lettre), SansRadies(demande.Eleves), ecrire, kAucuneFacture.toString());
 }

@@ -2,24 +2,25 @@
 
 #include "core/parametres.h"
 #include "documents/facture.h"
+#include "documents/facture_compte.h"
+#include "documents/facture_provision.h"
 #include "documents/releve_detaille.h"
 #include "pupils/eleves.h"
 
 namespace {
 
 struct TRegle {
-  const char16_t* Nom;  ///< to the user, who chose "Facture"
   bool AvecDate;
   bool AvecDetail;
-  TResultat (*Construire)(const TContexteDocument&, const TDemandeDocument&);  ///< null: not there yet
+  TResultat (*Construire)(const TContexteDocument&, const TDemandeDocument&);
 };
 
 /// In the order of the enumeration.
 constexpr TRegle kRegles[] = {
-    {u"Facture (frais effectifs)", true, true, FactureFraisEffectifs},
-    {u"Facture (provision)", false, true, nullptr},
-    {u"Facture (activités)", false, false, nullptr},
-    {u"Facture (compte courant)", true, true, nullptr},
+    {true, true, FactureFraisEffectifs},
+    {false, true, FactureProvision},
+    {false, false, FactureActivites},
+    {true, true, FactureCompteCourant},
 };
 
 const TRegle& Regle(TGeneration generation) { return kRegles[static_cast<std::size_t>(generation)]; }
@@ -48,10 +49,6 @@ TResultat Factures(const TContexteDocument& contexte, const TDemandeDocument& de
   TResultat resultat;
   for (const TGeneration generation : GenerationsFacture(contexte.Parametres)) {
     const TRegle& regle = Regle(generation);
-    if (!regle.Construire) {
-      resultat.Ajouter(PasEncore(QString::fromUtf16(regle.Nom)));
-      continue;
-    }
     resultat.Ajouter(regle.Construire(contexte, retenue));
     if (regle.AvecDetail) resultat.Ajouter(DetailApresFacture(contexte, retenue));
   }

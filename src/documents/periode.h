@@ -22,6 +22,9 @@ struct TPeriodeDocument {
   bool Commence(int mois) const;
   /// The whole month lies in the period; false for what is no month.
   bool Contient(int mois) const;
+  TPeriode Jours() const { return {DateDebut, DateFin}; }
+  /// From the start of the school year to the day before; the last day may lie before the first.
+  TPeriode Avant() const { return {BornesAnnee(Annee).Premier, DateDebut - 1}; }
   /// The month that the period is, 1 to 12; 0 when it is not exactly one.
   int MoisFacture() const { return MoisExact(Annee, DateDebut, DateFin); }
   /// As shown to the reader: "du mois d'octobre 2016", "de l'année scolaire 2016 - 2017" or

@@ -1,5 +1,6 @@
 #include "documents/postes_ouverts.h"
 
+#include "documents/sections_frais.h"
 #include "pupils/eleve.h"
 #include "services/frais_eleve.h"
 
@@ -17,13 +18,10 @@ bool PerdSonCout(TService service) {
 }  // namespace
 
 std::vector<const TFraisEleve*> FraisOuverts(const TEleve& eleve, const TPeriodeDocument& periode) {
-  std::vector<const TFraisEleve*> ouverts;
-  const TAllFraisEleve* lignes = eleve.GetAllFrais();
-  if (!lignes) return ouverts;
-  for (const TFraisEleve& ligne : *lignes)
-    if (ligne.Frais() && !ligne.Previsionnel() && ligne.MontantVerse != ligne.MontantFrais() &&
-        periode.Contient(ligne.MoisFrais()))
-      ouverts.push_back(&ligne);
+  std::vector<const TFraisEleve*> ouverts = FraisDuCatalogue(eleve, periode);
+  std::erase_if(ouverts, [](const TFraisEleve* ligne) {
+    return ligne->Previsionnel() || ligne->MontantVerse == ligne->MontantFrais();
+  });
   return ouverts;
 }
 

@@ -3,7 +3,7 @@
 #include "attendance/presences.h"
 #include "core/formats.h"
 #include "core/parametres.h"
-#include "documents/entete_ecole.h"
+#include "documents/lettres.h"
 #include "documents/sections.h"
 #include "pupils/eleves.h"
 
@@ -60,26 +60,21 @@ TNoeudRapport NoeudRubrique(const TEleve& eleve, const TRubrique& rubrique, cons
   return section;
 }
 
-/// An empty tree leaves the message instead of the report, if any.
+/// Without anything to show, the message is left instead, if any.
 TResultat Relever(const TContexteDocument& contexte, const TElevesChoisis& eleves,
                   const TPeriodeDocument& periode, const QString& siVide) {
-  const bool compact = contexte.Parametres.EstVrai(TParam::CompteCourant) &&
-                       !contexte.Parametres.EstVrai(TParam::FactureDebiteurs);
-  TRapport rapport(u"Relevé détaillé des services"_s,
-                   compact ? u"DetailServiceVesper"_s : u"DetailService"_s);
-  rapport.EffacerVariables();
-  TArbreRapport arbre;
-  for (const TEleve* eleve : eleves) {
-    TNoeudRapport& noeud = arbre.emplace_back(NoeudEleve(*eleve));
+  const auto ecrire = [&](const TEleve& eleve, IDialogues&) {
+    TNoeudRapport noeud = NoeudEleve(eleve);
     for (const TRubrique& rubrique : kRubriques)
-      if (!EstAccueil(rubrique.Service) || !eleve->Flg3eEnfant)
-        noeud.Enfants.push_back(NoeudRubrique(*eleve, rubrique, {periode.DateDebut, periode.DateFin}));
-  }
-  rapport.AjouterVariable(u"MoisReleve", u"Détails des services du " % FormatDateLongue(periode.DateDebut) %
-                                             u" au " % FormatDateLongue(periode.DateFin));
-  AjouterEnteteEcole(rapport, contexte.Parametres);
-  SupprimerNoeudsVides(arbre);
-  return Presenter(std::move(rapport), std::move(arbre), siVide);
+      if (!EstAccueil(rubrique.Service) || !eleve.Flg3eEnfant)
+        noeud.Enfants.push_back(NoeudRubrique(eleve, rubrique, periode.Jours()));
+    return noeud;
+  };
+  const QString titre = u"Détails des services du " % FormatDateLongue(periode.DateDebut) % u" au " %
+                        FormatDateLongue(periode.DateFin);
+  const QString modele = LogoAGauche(contexte.Parametres) ? u"DetailServiceVesper"_s : u"DetailService"_s;
+  return FaireLettres(LettreEcole(u"Relevé détaillé des services"_s, modele, contexte.Parametres, titre),
+                      eleves, ecrire, siVide);
 }
 
 }  // namespace

@@ -61,7 +61,7 @@ struct TDocumentsEssai : testing::Test {
     choix.DateFin = J(au);
     choix.DatePaiement = datePaiement;
     for (const int eleve : eleves) choix.Eleves.push_back(Globals.Eleves->TrouverParId(eleve));
-    return FaireDocument(ContexteDesGlobals(), *TrouverTitre(titre), choix);
+    return FaireDocument(ContexteDesGlobals(controleur.Horloge), *TrouverTitre(titre), choix);
   }
   TResultat Facturer(const std::vector<int>& eleves, const char* du = "2016-10-01",
                      const char* au = "2016-10-31", std::optional<TDateTime> datePaiement = {}) {

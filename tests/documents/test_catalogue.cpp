@@ -90,7 +90,6 @@ TEST_F(TCatalogueEssai, LaFactureDeLEcole) {
       {"107", {CompteCourant}, false},
       {"107 25 32", {CompteCourant}, true},
   };
-  const int anne = UnEleve().Id;
   for (const auto& [vrais, generations, date] : cas) {
     base.Sql(u"DELETE FROM PARAMETRE WHERE PARAMETRE_ID IN (25, 32, 107, 108)"_s);
     for (const QString& id : QString::fromLatin1(vrais).split(u' ', Qt::SkipEmptyParts))
@@ -100,10 +99,4 @@ TEST_F(TCatalogueEssai, LaFactureDeLEcole) {
     EXPECT_EQ(DemandeDatePaiement(*TrouverTitre(u"Facture"), parametres), date) << vrais;
     EXPECT_FALSE(DemandeDatePaiement(*TrouverTitre(u"Attestation fiscale"), parametres)) << vrais;
   }
-  ecole.parametre(107, u"0"_s);
-  const TResultat provision = Facturer({anne});
-  EXPECT_TRUE(provision.Echec);
-  EXPECT_EQ(provision.Messages,
-            (QStringList{u"Le document « Facture (provision) » n'est pas encore disponible."_s,
-                         u"Le document « Facture (activités) » n'est pas encore disponible."_s}));
 }

@@ -58,7 +58,7 @@ struct TEtiquettesEssai : TDocumentsEssai {
     controleur.Charger();
     TChoixDocument choix;
     for (const int eleve : eleves) choix.Eleves.push_back(Globals.Eleves->TrouverParId(eleve));
-    TContexteDocument contexte = ContexteDesGlobals();
+    TContexteDocument contexte = ContexteDesGlobals(controleur.Horloge);
     contexte.Etiquettes = &etiquettes;
     carnet.Faits.clear();
     TResultat resultat = FaireDocument(contexte, *TitresOfferts(TListeTitres::Eleves)[indice].Fait, choix);

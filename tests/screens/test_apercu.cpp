@@ -36,7 +36,7 @@ struct Apercu : testing::Test {
     choix.DateFin = J("2016-10-31");
     for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
     if (melanges) std::swap(choix.Eleves.front(), choix.Eleves.back());
-    resultat = FaireDocument(ContexteDesGlobals(), *TrouverTitre(u"Facture"), choix);
+    resultat = FaireDocument(ContexteDesGlobals(controleur.Horloge), *TrouverTitre(u"Facture"), choix);
     return resultat.Rapports.at(0);
   }
   static QStringList Entrees(const TFrmApercu& form) {

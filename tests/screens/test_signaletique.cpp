@@ -194,8 +194,8 @@ TEST_F(TSignaletique, LeCourrielEstServiParLaListeEntiere) {
   Diffuser(TCodeMessage::Courriel, fiche);
   TChoixDocument choix;
   choix.Eleves = {Globals.EleveCourant};
-  const TResultat attendu =
-      FaireDocument(ContexteDesGlobals(), *TitresOfferts(TListeTitres::Eleves)[0].Fait, choix);
+  const TResultat attendu = FaireDocument(ContexteDesGlobals(monde.Essai.Horloge),
+                                          *TitresOfferts(TListeTitres::Eleves)[0].Fait, choix);
   for (const QString& message : attendu.Messages) base.Dialogues.Attend(message);
   EXPECT_TRUE(Diffuser(TCodeMessage::AssistantConfirme, fiche, choix));
   QStringList titres;

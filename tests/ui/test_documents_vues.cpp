@@ -47,7 +47,7 @@ struct TDemandeurEssai : TForm {
     Choix = *message.En<TChoixDocument>();
     const TTitreDocument& titre =
         *TitresOfferts(TListeTitres::Eleves)[static_cast<std::size_t>(Choix->Indice)].Fait;
-    TResultat resultat = FaireDocument(ContexteDesGlobals(), titre, *Choix);
+    TResultat resultat = FaireDocument(ContexteDesGlobals(Tout.Main.Controleur.Horloge()), titre, *Choix);
     for (TRapport& rapport : resultat.Rapports) Tout.Apercu->Afficher(rapport);
     return true;
   }
@@ -81,7 +81,8 @@ class DocumentsVues : public testing::Test {
     choix.DateDebut = J("2016-10-01");
     choix.DateFin = J("2016-10-31");
     for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
-    TResultat resultat = FaireDocument(ContexteDesGlobals(), *TrouverTitre(u"Facture"), choix);
+    TResultat resultat =
+        FaireDocument(ContexteDesGlobals(programme.Horloge), *TrouverTitre(u"Facture"), choix);
     return std::move(resultat.Rapports.at(0));
   }
   TContexteApercu Contexte() {

@@ -24,7 +24,7 @@ void TImprimeur::Imprimer(TChoixDocument choix) {
   TResultat resultat;
   {
     const TAttente attente(contexte_.Dialogues());
-    resultat = FaireDocument(ContexteDesGlobals(), titre, choix);
+    resultat = FaireDocument(ContexteDesGlobals(contexte_.Controleur.Horloge()), titre, choix);
   }
   Montrer(std::move(resultat));
 }

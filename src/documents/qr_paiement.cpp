@@ -1,0 +1,53 @@
+#include "documents/qr_paiement.h"
+
+#include "core/parametres.h"
+#include "payments/communication_structuree.h"
+#include "payments/iban.h"
+#include "report/rapport.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// "1": the code holds the twelve digits as a reference, not as a text.
+constexpr TParam kQrReference{116};
+constexpr qsizetype kNomMax = 70;
+constexpr Currency kMontantMax = Currency::Brut(9'999'999'999'900);  // 999,999,999.99 euros
+
+QString PremierRempli(const QString& texte, const QString& sinon) { return texte.isEmpty() ? sinon : texte; }
+
+}  // namespace
+
+TQrPaiement::TQrPaiement(const TParametres& parametres)
+    : nom_(PremierRempli(parametres.GetParametre(TParam::VirementNom).simplified(),
+                         parametres.GetParametre(TParam::NomEcole).simplified())
+               .left(kNomMax)),
+      compte_(PremierRempli(IbanSansBlancs(parametres.GetParametre(TParam::VirementIBAN)),
+                            IbanSansBlancs(parametres.GetParametre(TParam::CompteBanque)))),
+      valide_(IbanValide(compte_)),
+      reference_(parametres.EstVrai(kQrReference)) {}
+
+QString TQrPaiement::Texte(const QString& communication, Currency montant) const {
+  const QString euros = FormatDeuxDecimales(montant).replace(u',', u'.');
+  const bool due = montant > Currency() && montant <= kMontantMax && euros != u"0.00";
+  if (!valide_ || nom_.isEmpty() || !due || !CommunicationValide(communication)) return {};
+  QStringList lignes{u"BCD"_s, u"002"_s, u"1"_s,           u"SCT"_s, QString(),
+                     nom_,     compte_,  u"EUR"_s + euros, QString()};
+  if (reference_)
+    lignes += QString(communication).remove(u'+').remove(u'/');
+  else
+    lignes += {QString(), communication};  // anything more would make it a free one
+  return lignes.join(u'\n');
+}
+
+void TQrPaiement::Ajouter(TNoeudRapport& eleve, const QString& communication, Currency montant) const {
+  const QString texte = Texte(communication, montant);
+  if (!texte.isEmpty()) eleve.Annexes.Ecrire(u"QrPaiement", texte);
+}
+
+void TQrPaiement::Avertir(TRapport& rapport) const {
+  if (!valide_ && !compte_.isEmpty())
+    rapport.Avertissements +=
+        u"Le compte « %1 » n'est pas un IBAN valable : les papiers n'ont pas de code QR de paiement."_s.arg(
+            compte_);
+}

@@ -1,0 +1,8 @@
+#pragma once
+#include <QString>
+
+/// The account without its blanks.
+QString IbanSansBlancs(const QString& compte);
+/// Whether the check digits of an account without blanks are right: two capitals, two digits, and 11 to 30
+/// capitals or digits.
+bool IbanValide(const QString& compte);
