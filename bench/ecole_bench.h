@@ -34,6 +34,8 @@ class TEcole {
 
   TDataModule1& Base() { return base_; }
   const TParametres& Parametres() const { return *parametres_; }
+  /// In memory only.
+  void Regler(TParam param, const QString& valeur) { parametres_->SetParametre(param, valeur); }
   const TTarifsGarderies& Tarifs() const { return *tarifs_; }
 
  private:
