@@ -1,5 +1,6 @@
 // The documents of the wizard.
 #include "app/commandes.h"
+#include "app/etiquettes_pdf.h"
 #include "app/sortie_documents.h"
 #include "core/exceptions.h"
 #include "documents/catalogue.h"
@@ -49,9 +50,11 @@ int Document(TSession& session) {
     if (DemandeDatePaiement(*document, *Globals.Parametres)) choix.DatePaiement = date;
   }
 
-  const TResultat resultat =
-      FaireDocument(ContexteDesGlobals(session.Controleur.Horloge()), *document, choix);
-  return SortirDocument(session, titre, resultat, !choix.Classes.empty());
+  TEtiquettesPdf etiquettes(session.Dialogues);
+  TContexteDocument contexte = ContexteDesGlobals(session.Controleur.Horloge());
+  if (session.A(u"pdf"_s)) contexte.Etiquettes = &etiquettes.Etiquettes;
+  const TResultat resultat = FaireDocument(contexte, *document, choix);
+  return SortirDocument(session, titre, resultat, !choix.Classes.empty(), etiquettes.Document);
 }
 
 }  // namespace

@@ -19,6 +19,10 @@ QString TexteDefaut(const QString& modele, const TDefaut& defaut) {
   return ou.join(u", "_s) + u" : "_s + defaut.Message;
 }
 
+void DireDefauts(const TSession& session, const QString& modele, const TDocumentPrepare& document) {
+  for (const TDefaut& defaut : document.Defauts) session.Dialogues.Message(TexteDefaut(modele, defaut));
+}
+
 /// Raises Exception when there is no template yet.
 TDocumentPrepare Preparer(TSession& session, const TRapport& rapport, const TImpression& impression) {
   const auto modele = ModeleDocument(rapport.Modele(), DossierModeles(session.Controleur.Reglages()));
@@ -26,17 +30,19 @@ TDocumentPrepare Preparer(TSession& session, const TRapport& rapport, const TImp
     throw Exception(u"Le document « %1 » n'a pas encore de modèle (« %2 ») : demandez-le avec --json."_s.arg(
         rapport.Titre(), rapport.Modele()));
   TDocumentPrepare document = MettreEnPage(rapport, *modele, impression);
-  for (const TDefaut& defaut : document.Defauts)
-    session.Dialogues.Message(TexteDefaut(rapport.Modele(), defaut));
+  DireDefauts(session, rapport.Modele(), document);
   return document;
 }
 
 /// All reports in one file, with a bookmark a pupil; false when there was nothing to write.
-bool MettreEnPdf(TSession& session, const QString& titre, const TResultat& resultat, bool parClasses) {
+bool MettreEnPdf(TSession& session, const QString& titre, const TResultat& resultat, bool parClasses,
+                 const TDocumentPrepare& prets) {
   const TImpression impression{session.Controleur.Horloge().Maintenant(), parClasses};
   std::vector<TDocumentPrepare> documents;
   for (const TRapport& rapport : resultat.Rapports)
     documents.push_back(Preparer(session, rapport, impression));
+  DireDefauts(session, {}, prets);
+  documents.push_back(prets);
   std::erase_if(documents, [](const TDocumentPrepare& document) { return document.Pages.empty(); });
   if (documents.empty()) {
     if (!resultat.Echec)
@@ -63,9 +69,10 @@ void VerifierFichiers(const TSession& session) {
     throw Exception(u"Donnez deux fichiers différents à --pdf et à --json."_s);
 }
 
-int SortirDocument(TSession& session, const QString& titre, const TResultat& resultat, bool parClasses) {
+int SortirDocument(TSession& session, const QString& titre, const TResultat& resultat, bool parClasses,
+                   const TDocumentPrepare& prets) {
   for (const QString& message : resultat.Messages) session.Dialogues.Message(message);
   if (session.A(u"json"_s)) EcrireFichier(session.Option(u"json"_s), resultat.EnJson(titre));
-  const bool imprime = !session.A(u"pdf"_s) || MettreEnPdf(session, titre, resultat, parClasses);
+  const bool imprime = !session.A(u"pdf"_s) || MettreEnPdf(session, titre, resultat, parClasses, prets);
   return resultat.Echec || !imprime ? 1 : 0;
 }

@@ -1,10 +1,11 @@
 #pragma once
 #include "app/commandes.h"
 #include "documents/resultat.h"
+#include "report/layout/document_prepare.h"
 
 /// Raises Exception when the file of --json would take the place of the one of --pdf. A device takes both.
 void VerifierFichiers(const TSession& session);
 /// Says the messages, and writes what --json and --pdf ask for; gives the exit code. `parClasses`: the
-/// pupils were chosen by class. Raises Exception.
+/// pupils were chosen by class. `prets`: pages that are laid out already. Raises Exception.
 int SortirDocument(TSession& session, const QString& titre, const TResultat& resultat,
-                   bool parClasses = false);
+                   bool parClasses = false, const TDocumentPrepare& prets = {});

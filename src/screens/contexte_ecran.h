@@ -1,6 +1,7 @@
 #pragma once
 #include "application/controleur.h"
 #include "forms/form.h"
+#include "documents/etiquettes.h"
 #include "report/apercu.h"
 
 class IAssistant;
@@ -28,6 +29,7 @@ struct TContexteEcran {
   ILienPrincipal& Principal;
   IAssistant* Assistant = nullptr;  ///< the print wizard; set before the first screen opens
   ILienLecteur* Lecteur = nullptr;  ///< the hand scanner; null where there can be none
+  TPosteEtiquettes Etiquettes = {};  ///< how labels are printed here; empty where they cannot be
 
   IDialogues& Dialogues() const { return Controleur.Dialogues(); }
 };

@@ -119,6 +119,23 @@ TEST_F(TCodesEssai, UnScannerLesRelitSansTirets) {
   }
 }
 
+TEST_F(TCodesEssai, LesEtiquettesOntLeurPage) {
+  const struct {
+    QString Titre, Taille;
+  } modeles[] = {
+      {u"Etiquettes d'identification 89mm x 36mm (Etiquette Dymo 99012)"_s, u"252.28 x 102.05 pts"_s},
+      {u"Etiquettes d'identification 54mm x 25mm (Etiquette Dymo 11352)"_s, u"153.07 x 70.87 pts"_s}};
+  for (const auto& [titre, taille] : modeles) {
+    SCOPED_TRACE(qPrintable(titre));
+    Imprimer({titre, u"--tous"_s});
+    EXPECT_EQ(Codes(), (QStringList{u"CODE-39:123456"_s, u"CODE-39:553701207"_s, u"CODE-39:553799"_s}));
+    EXPECT_EQ(Pages().size(), 3) << "a page a label";
+    EXPECT_EQ(Pages()[0].split(u'\n', Qt::SkipEmptyParts).replaceInStrings(u" "_s, QString()),
+              (QStringList{u"NOMZoé"_s, u"P1A"_s, u"5537-01207"_s}));
+    EXPECT_TRUE(Outil(u"pdfinfo"_s, {Pdf()}).contains(taille)) << Outil(u"pdfinfo"_s, {Pdf()}).toStdString();
+  }
+}
+
 TEST_F(TCodesEssai, LesModelesDuPoste) {
   const QDir dossier(qEnvironmentVariable("XDG_DATA_HOME") + u"/Calpenne/Presences/modeles"_s);
   ASSERT_TRUE(QDir().mkpath(dossier.path()));

@@ -4,6 +4,7 @@
 
 #include "core/exceptions.h"
 #include "documents/modeles.h"
+#include "documents/moteur_etiquettes.h"
 #include "forms/grille.h"
 #include "report/layout/mise_en_page.h"
 #include "report/output/pdf.h"
@@ -133,6 +134,19 @@ bool TCibles::Modele(const QByteArray& octets) {
     return false;
   }
   for (const bool liste : {false, true}) MettreEnPage(PetitRapport(liste), modele);
+  return true;
+}
+
+bool TCibles::Etiquette(const QByteArray& octets) {
+  TMoteurEtiquettes moteur([](const TDocumentPrepare&, const TTravailEtiquette&) {});
+  try {
+    moteur.OuvrirOctets(octets, u"essai.label"_s);
+  } catch (const Exception&) {
+    return false;
+  }
+  for (const QString& nom : {u"NomEleve"_s, u"NomEcole"_s, u"CodeBarre"_s})
+    if (IObjetEtiquette* objet = moteur.TrouverObjet(nom)) objet->EcrireTexte(u"[NomEcole] 5537-01"_s);
+  moteur.Imprimer({}, {}, 1);
   return true;
 }
 

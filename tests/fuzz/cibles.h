@@ -16,6 +16,8 @@ class TCibles {
   void Rapport(const QByteArray& octets);
   /// The bytes as a template; one that is read lays out a small report. Whether it was.
   bool Modele(const QByteArray& octets);
+  /// The bytes as a label model; one that is read prints a label. Whether it was.
+  bool Etiquette(const QByteArray& octets);
   /// The bytes as a script, each of whose procedures is called. Whether it was read.
   bool Script(const QByteArray& octets);
 

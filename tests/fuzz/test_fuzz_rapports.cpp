@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QtEndian>
@@ -75,6 +76,22 @@ TEST(Fuzz, TemplateReader) {
     for (int i = 0; i < 50; ++i) cibles.Modele(Alterer(modele, tirage));
   }
   EXPECT_GT(lus, 300);  // the layout is met as well
+}
+
+TEST(Fuzz, LabelReader) {
+  TCibles cibles;
+  std::mt19937 tirage(44);
+  int lus = 0;
+  for (const QFileInfo& fichier :
+       QDir(QCoreApplication::applicationDirPath()).entryInfoList({u"*.label"_s})) {
+    QFile lu(fichier.filePath());
+    ASSERT_TRUE(lu.open(QIODevice::ReadOnly));
+    const QByteArray modele = lu.readAll();
+    ASSERT_TRUE(cibles.Etiquette(modele)) << fichier.fileName().toStdString();
+    for (int i = 0; i < 2000; ++i) lus += cibles.Etiquette(AltererLignes(modele, tirage)) ? 1 : 0;
+    for (int i = 0; i < 500; ++i) cibles.Etiquette(Alterer(modele, tirage));
+  }
+  EXPECT_GT(lus, 200);  // labels are printed as well
 }
 
 TEST(Fuzz, ScriptReader) {

@@ -24,7 +24,9 @@ void TImprimeur::Imprimer(TChoixDocument choix) {
   TResultat resultat;
   {
     const TAttente attente(contexte_.Dialogues());
-    resultat = FaireDocument(ContexteDesGlobals(contexte_.Controleur.Horloge()), titre, choix);
+    TContexteDocument contexte = ContexteDesGlobals(contexte_.Controleur.Horloge());
+    contexte.Etiquettes = &etiquettes_;
+    resultat = FaireDocument(contexte, titre, choix);
   }
   Montrer(std::move(resultat));
 }

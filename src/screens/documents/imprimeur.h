@@ -8,7 +8,9 @@ class TImprimeur {
  public:
   /// An answer that comes before any title was proposed is about these.
   TImprimeur(const TContexteEcran& contexte, std::vector<TTitreOffert> titres)
-      : contexte_(contexte), titres_(std::move(titres)) {}
+      : contexte_(contexte),
+        titres_(std::move(titres)),
+        etiquettes_(contexte.Etiquettes, contexte.Dialogues()) {}
 
   /// The user chooses one of these titles in the wizard, and gets its document.
   void Proposer(std::vector<TTitreOffert> titres);
@@ -20,4 +22,5 @@ class TImprimeur {
  private:
   const TContexteEcran& contexte_;
   std::vector<TTitreOffert> titres_;
+  TEtiquettes etiquettes_;  ///< keeps its engine for as long as the screen
 };

@@ -1,6 +1,7 @@
 #include "ui/principal/programme.h"
 
 #include "ui/documents/apercu_qt.h"
+#include "ui/documents/etiquettes_qt.h"
 
 Programme::Programme(const THorloge& horloge)
     : Apercu(std::make_unique<ApercuQt>(TContexteApercu{Dialogues, Reglages, horloge}, Modale)),
@@ -9,4 +10,5 @@ Programme::Programme(const THorloge& horloge)
       Fenetre(Main, Dialogues) {
   Main.Contexte.Assistant = &Assistant;
   Main.Contexte.Lecteur = Lecteur.get();
+  Main.Contexte.Etiquettes = PosteEtiquettes(Dialogues);
 }
