@@ -97,7 +97,8 @@ bool TCommande::Prend(const QString& option) const {
 const std::vector<TCommande>& Commandes() {
   static const std::vector<TCommande> commandes = [] {
     std::vector<TCommande> toutes;
-    for (const auto famille : {CommandesBase(), CommandesEcole(), CommandesDocuments(), CommandesBanque()})
+    for (const auto famille : {CommandesBase(), CommandesEcole(), CommandesDocuments(), CommandesBanque(),
+                               CommandesStatistiques()})
       toutes.insert(toutes.end(), famille.begin(), famille.end());
     return toutes;
   }();

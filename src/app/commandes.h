@@ -56,6 +56,7 @@ std::span<const TCommande> CommandesBase();
 std::span<const TCommande> CommandesEcole();
 std::span<const TCommande> CommandesDocuments();
 std::span<const TCommande> CommandesBanque();
+std::span<const TCommande> CommandesStatistiques();
 
 /// Every command of the batch program.
 const std::vector<TCommande>& Commandes();

@@ -1,6 +1,9 @@
 #include "documents/catalogue.h"
 
+#include "documents/accueil_one.h"
+#include "documents/attestation.h"
 #include "documents/badges.h"
+#include "documents/balances.h"
 #include "documents/comptabilisation_repas.h"
 #include "documents/demande_provision.h"
 #include "documents/etiquettes.h"
@@ -38,10 +41,10 @@ constexpr TTitreDocument kTitres[] = {
      .Construire = ListePrevisionnelle,
      .AvecPeriode = true,
      .Courriel = true},
-    {.Titre = u"Detail O.N.E. des accueils extrascolaires", .AvecPeriode = true},
-    {.Titre = u"Balance des comptes provisoire", .Courriel = true},
-    {.Titre = u"Balance des comptes définitive", .Courriel = true},
-    {.Titre = u"Attestation fiscale"},
+    {.Titre = u"Detail O.N.E. des accueils extrascolaires", .Construire = AccueilOne, .AvecPeriode = true},
+    {.Titre = u"Balance des comptes provisoire", .Construire = BalanceProvisoire, .Courriel = true},
+    {.Titre = u"Balance des comptes définitive", .Construire = BalanceDefinitive, .Courriel = true},
+    {.Titre = u"Attestation fiscale", .Construire = AttestationFiscale},
     {.Titre = u"Comptabilisation des repas et des soupes",
      .Construire = ComptabilisationRepas,
      .AvecPeriode = true},
@@ -85,7 +88,6 @@ TElevesChoisis ElevesDuChoix(const TEleves& eleves, const TChoixDocument& choix)
 
 TResultat FaireDocument(const TContexteDocument& contexte, const TTitreDocument& titre,
                         const TChoixDocument& choix) {
-  if (titre.Construire == nullptr) return PasEncore(QString::fromUtf16(titre.Titre));
   return titre.Construire(contexte, {ElevesDuChoix(contexte.Eleves, choix),
                                      {contexte.Eleves.AnneeScolaire, choix.DateDebut, choix.DateFin},
                                      choix.DatePaiement});

@@ -12,8 +12,8 @@ enum class TListeTitres { Eleves };
 /// A document that the user can ask for.
 struct TTitreDocument {
   const char16_t* Titre;
-  /// Null: not there yet. What there is to say of an empty document is the builder's to say.
-  TResultat (*Construire)(const TContexteDocument&, const TDemandeDocument&) = nullptr;
+  /// What there is to say of an empty document is the builder's to say.
+  TResultat (*Construire)(const TContexteDocument&, const TDemandeDocument&);
   bool AvecPeriode = false;  ///< the user chooses a period
   bool AvecEleves = true;    ///< the user chooses pupils or classes
   bool Courriel = false;     ///< the command for mail offers it too

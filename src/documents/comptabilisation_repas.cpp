@@ -89,5 +89,5 @@ TResultat ComptabilisationRepas(const TContexteDocument& contexte, const TDemand
     rapport.AjouterVariable(repas, QString::number(nombres.Repas));
     rapport.AjouterVariable(soupes, QString::number(nombres.Soupes));
   }
-  return Presenter(std::move(rapport), std::move(arbre), u"Aucune information à imprimer"_s);
+  return Presenter(std::move(rapport), std::move(arbre), TexteRienAImprimer());
 }

@@ -4,7 +4,7 @@
 #include "core/horloge.h"
 
 TContexteDocument ContexteDesGlobals(const THorloge& horloge) {
-  return {*Globals.Eleves, *Globals.Parametres, horloge.Aujourdhui()};
+  return {*Globals.Eleves, *Globals.Parametres, horloge.Aujourdhui(), Globals.AnneeScolaire};
 }
 
 TElevesChoisis SansRadies(const TElevesChoisis& eleves) {

@@ -15,6 +15,7 @@ struct TContexteDocument {
   const TEleves& Eleves;  ///< of the year on display, with the collections that their accounts read
   const TParametres& Parametres;
   TDateTime Aujourdhui = 0.0;         ///< the day that the papers bear
+  int AnneeTravail = 0;               ///< the school year open in the system, whatever is on display
   TEtiquettes* Etiquettes = nullptr;  ///< of the screen that prints; null: there is no printer of labels
 };
 

@@ -101,6 +101,6 @@ TResultat DemandeProvision(const TContexteDocument& contexte, const TDemandeDocu
     arbre.push_back(Demander(provision, qr, *eleve, demande.Periode.Annee, recueil));
   TResultat resultat;
   resultat.Messages = recueil.Messages;
-  resultat.Ajouter(Presenter(std::move(lettre), std::move(arbre), u"Aucune information à imprimer"_s));
+  resultat.Ajouter(Presenter(std::move(lettre), std::move(arbre), TexteRienAImprimer()));
   return resultat;
 }

@@ -3,16 +3,19 @@
 #include "core/parametres.h"
 #include "report/rapport.h"
 
-void AjouterEnteteEcole(TRapport& rapport, const TParametres& parametres) {
-  static constexpr struct {
-    const char16_t* Variable;
-    TParam Parametre;
-  } kVariables[] = {
-      {u"EcoleNom", TParam::NomEcole},           {u"ImplantationNom", TParam::NomImplantation},
-      {u"EcoleAdresse", TParam::RueEcole},       {u"EcoleCodePostal", TParam::CodePostalEcole},
-      {u"EcoleLocalite", TParam::LocaliteEcole}, {u"EcoleTelephone", TParam::TelephoneEcole},
-      {u"CompteBanque", TParam::CompteBanque},
-  };
-  for (const auto& [variable, parametre] : kVariables)
+void AjouterParametres(TRapport& rapport, const TParametres& parametres,
+                       std::span<const TVariableParametre> variables) {
+  for (const auto& [variable, parametre] : variables)
     rapport.AjouterVariable(variable, parametres.GetParametre(parametre));
+}
+
+void AjouterEnteteEcole(TRapport& rapport, const TParametres& parametres) {
+  using enum TParam;
+  static constexpr TVariableParametre kVariables[] = {
+      {u"EcoleNom", NomEcole},           {u"ImplantationNom", NomImplantation},
+      {u"EcoleAdresse", RueEcole},       {u"EcoleCodePostal", CodePostalEcole},
+      {u"EcoleLocalite", LocaliteEcole}, {u"EcoleTelephone", TelephoneEcole},
+      {u"CompteBanque", CompteBanque},
+  };
+  AjouterParametres(rapport, parametres, kVariables);
 }

@@ -1,7 +1,20 @@
 #pragma once
+#include <span>
+
+#include "core/param.h"
 
 class TParametres;
 class TRapport;
+
+/// A variable of a report and the parameter whose value it is.
+struct TVariableParametre {
+  const char16_t* Variable;
+  TParam Parametre;
+};
+
+/// Each variable takes the text of its parameter.
+void AjouterParametres(TRapport& rapport, const TParametres& parametres,
+                       std::span<const TVariableParametre> variables);
 
 /// The variables that the header of a parents' document reads: `EcoleNom`, `ImplantationNom`,
 /// `EcoleAdresse`, `EcoleCodePostal`, `EcoleLocalite`, `EcoleTelephone` and `CompteBanque`.

@@ -18,6 +18,8 @@ QByteArray TResultat::EnJson(const QString& titre) const {
          rapports.join(',') + "]}";
 }
 
+QString TexteRienAImprimer() { return u"Aucune information à imprimer"_s; }
+
 TResultat Presenter(TRapport rapport, TArbreRapport arbre, const QString& siVide) {
   if (!arbre.empty()) return PresenterMemeVide(std::move(rapport), std::move(arbre));
   TResultat resultat;
@@ -29,12 +31,5 @@ TResultat PresenterMemeVide(TRapport rapport, TArbreRapport arbre) {
   TResultat resultat;
   rapport.CopierArbre(std::move(arbre));
   resultat.Rapports.push_back(std::move(rapport));
-  return resultat;
-}
-
-TResultat PasEncore(const QString& document) {
-  TResultat resultat;
-  resultat.Messages += u"Le document « %1 » n'est pas encore disponible."_s.arg(document);
-  resultat.Echec = true;
   return resultat;
 }

@@ -16,11 +16,11 @@ struct TResultat {
   QByteArray EnJson(const QString& titre) const;
 };
 
+/// "Aucune information à imprimer", of a document that has no text of its own for an empty tree.
+QString TexteRienAImprimer();
+
 /// The tree goes into the report, which opens; an empty one leaves the message instead, if any.
 TResultat Presenter(TRapport rapport, TArbreRapport arbre, const QString& siVide = {});
 
 /// The same for a document that opens even when there is nothing on it.
 TResultat PresenterMemeVide(TRapport rapport, TArbreRapport arbre);
-
-/// The answer for a document that the program does not make yet.
-TResultat PasEncore(const QString& document);

@@ -3,6 +3,7 @@
 
 #include "documents/catalogue.h"
 #include "pupils/eleves.h"
+#include "report/layout/document_prepare.h"
 #include "support/affichage.h"
 #include "support/controleur_essai.h"
 #include "support/valeurs.h"
@@ -18,6 +19,19 @@ inline QString Dessin(const TRapport& rapport) {
     lignes += QString(place.Niveau * 2, u' ') % place.Noeud->Texte % u": " % valeurs.join(u" | ");
   }
   return lignes.join(u'\n');
+}
+
+/// A variable of the first report; "" when there is none.
+inline QString Variable(const TResultat& resultat, QStringView nom) {
+  return resultat.Rapports.at(0).Variables().Valeur(nom);
+}
+
+/// The texts of a page in the order in which they are drawn.
+inline QStringList TextesPage(const TPagePreparee& page) {
+  QStringList textes;
+  for (const TElement& element : page.Elements)
+    if (const auto* texte = std::get_if<TElementTexte>(&element)) textes += texte->Forme->Texte;
+  return textes;
 }
 
 /// A school whose services have prices with a tail behind the cents, and the documents it asks for.

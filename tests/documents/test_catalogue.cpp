@@ -49,6 +49,7 @@ TEST(Catalogue, SeizeTitresEtSixPourLeCourriel) {
   EXPECT_EQ(offerts(tous),
             u"0>0 1>1 2>2 3>3 4>4 5>5 6+>6 7+>7 8+>8 9+>9 10+>10 11>11 12>12 13>13 14+>14 15>15 "_s);
   EXPECT_EQ(offerts(TitresCourriel()), u"6+>0 7+>1 8+>2 9+>3 11>4 12>5 "_s);
+  for (const TTitreOffert& titre : tous) EXPECT_NE(titre.Fait->Construire, nullptr);
   EXPECT_EQ(TrouverTitre(u"facture"), nullptr);
   EXPECT_EQ(TrouverTitre(u"Facture"), tous[6].Fait);
 }
@@ -65,13 +66,6 @@ TEST_F(TCatalogueEssai, LesElevesPuisCeuxDesClasses) {
   QList<int> choisis;
   for (const TEleve* eleve : ElevesDuChoix(eleves, choix)) choisis += eleve->Id;
   EXPECT_EQ(choisis, (QList<int>{c, a, b, a, c}));
-}
-
-TEST_F(TCatalogueEssai, CeQuiNEstPasLaLeDit) {
-  const TResultat attestation = Demander(u"Attestation fiscale", {UnEleve().Id});
-  EXPECT_TRUE(attestation.Echec && attestation.Rapports.empty());
-  EXPECT_EQ(attestation.Messages,
-            QStringList{u"Le document « Attestation fiscale » n'est pas encore disponible."_s});
 }
 
 TEST_F(TCatalogueEssai, LaFactureDeLEcole) {

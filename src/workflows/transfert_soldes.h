@@ -1,0 +1,15 @@
+#pragma once
+#include "workflows/statistiques.h"
+
+/// Which balances are carried from the year on display to the working year.
+enum class TSensTransfert { Positifs, Negatifs };
+
+/// Why balances cannot be carried, in French; "" when they can: from a year to itself an amount and its
+/// opposite would meet.
+QString RefusTransfert(const TEleves& eleves, int anneeTravail);
+
+/// Carries the balances of that sign of those pupils of the year on display, each by a free line in both
+/// years that are stored together or not at all; a pupil who is not in the working year keeps his. Gives
+/// those who were carried, with the balance and its sign. Raises Exception; who was carried before stays so.
+std::vector<TMontantEleve> TransfererSoldes(const TEleves& eleves, int anneeTravail,
+                                            const std::vector<TEleve*>& lesquels, TSensTransfert sens);
