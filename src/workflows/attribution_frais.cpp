@@ -1,0 +1,185 @@
+#include "workflows/attribution_frais.h"
+
+#include "core/exceptions.h"
+#include "core/query_internal.h"
+#include "services/frais_eleve.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What is known of who owes the fee is read again afterwards, however the work ends.
+class TRelecture {
+ public:
+  explicit TRelecture(TFrais& frais) : frais_(frais) { frais_.InvalideElevesFrais(); }
+  ~TRelecture() { frais_.InvalideElevesFrais(); }
+  TRelecture(const TRelecture&) = delete;
+  TRelecture& operator=(const TRelecture&) = delete;
+
+ private:
+  TFrais& frais_;
+};
+
+/// What is refused is out of memory too, so that the next save of that pupil does not try it again.
+void Sauver(TAllFraisEleve& lignes) {
+  try {
+    lignes.Save();
+  } catch (...) {
+    lignes.Remettre();
+    throw;
+  }
+}
+
+QString NomDe(int eleveId) {
+  const TEleve* eleve = Globals.Eleves->TrouverParId(eleveId);
+  return eleve != nullptr ? eleve->NomComplet() : u"un élève d'une autre année"_s;
+}
+
+/// The fees of many pupils are read together.
+void LireFrais(const std::vector<int>& cles) {
+  std::vector<TEleve*> eleves;
+  for (const int cle : cles)
+    if (TEleve* eleve = Globals.Eleves->TrouverParId(cle)) eleves.push_back(eleve);
+  Globals.Eleves->LireFrais(eleves);
+}
+
+/// Pupil by pupil, before the eyes of the user.
+class TTravail {
+ public:
+  TTravail(IDialogues& dialogues, std::size_t total)
+      : dialogues_(dialogues), progression_(dialogues, static_cast<int>(total)) {}
+  void Suivant(const QString& quoi, int eleveId) {
+    dialogues_.TraiterEvenements();
+    progression_.Avancer(++fait_, quoi % NomDe(eleveId));
+  }
+
+ private:
+  IDialogues& dialogues_;
+  TProgression progression_;
+  int fait_ = 0;
+};
+
+const QString kAjout = u"Ajout du frais à : "_s;
+const QString kSuppression = u"Suppresion du frais chez : "_s;
+
+}  // namespace
+
+void TAttributionFrais::Ouvrir(TFrais* frais) {
+  for (auto* cles : {&depart_, &coches_, &payes_, &marques_}) cles->clear();
+  if (frais == nullptr) return;
+  const std::vector<int>& doivent = frais->ElevesFrais();
+  depart_.insert(doivent.begin(), doivent.end());
+  coches_ = depart_;
+  LireFrais(doivent);
+  for (const int cle : depart_) {
+    const TEleve* eleve = Globals.Eleves->TrouverParId(cle);
+    const TFraisEleve* ligne = eleve != nullptr ? eleve->GetAllFrais()->LigneFrais(frais->Id) : nullptr;
+    if (ligne != nullptr && ligne->EstPaye()) payes_.insert(cle);
+  }
+}
+
+bool TAttributionFrais::EstPaye(const TEleve& eleve) const {
+  return EstCoche(eleve) && (depart_.contains(eleve.Id) ? payes_ : marques_).contains(eleve.Id);
+}
+
+void TAttributionFrais::Cocher(const TEleve& eleve, bool coche) {
+  if (coche) {
+    coches_.insert(eleve.Id);
+    if (modePaye_) marques_.insert(eleve.Id);
+  } else {
+    coches_.erase(eleve.Id);
+    marques_.erase(eleve.Id);
+  }
+}
+
+void TAttributionFrais::DefinirModePaye(bool paye) {
+  modePaye_ = paye;
+  if (!paye) marques_.clear();
+}
+
+void TAttributionFrais::Enregistrer(TFrais& frais) {
+  const TRelecture relecture(frais);
+  const std::vector<int> doivent = frais.ElevesFrais();
+  const std::set<int> dejaLa(doivent.begin(), doivent.end());
+  std::vector<int> ajouts, retraits;
+  for (const TEleve& eleve : *Globals.Eleves)
+    if (EstCoche(eleve) && !dejaLa.contains(eleve.Id)) ajouts.push_back(eleve.Id);
+  for (const int cle : doivent)
+    if (depart_.contains(cle) && !coches_.contains(cle)) retraits.push_back(cle);
+  LireFrais(ajouts);
+  TTravail travail(controleur_.Dialogues(), ajouts.size() + retraits.size());
+  for (const int cle : ajouts) {
+    travail.Suivant(kAjout, cle);
+    const bool paye = modePaye_ && marques_.contains(cle);
+    Donner({.EleveId = cle, .MontantVerse = paye ? frais.Cout : Currency()}, frais.Id);
+    depart_.insert(cle);
+    if (paye) payes_.insert(cle);
+  }
+  for (const int cle : retraits) {
+    travail.Suivant(kSuppression, cle);
+    Retirer(cle, frais.Id);
+    depart_.erase(cle);
+    payes_.erase(cle);
+  }
+}
+
+TAttributionFrais::TLignesRetirees TAttributionFrais::RetirerATous(TFrais& frais) {
+  const TRelecture relecture(frais);
+  const std::vector<int> doivent = frais.ElevesFrais();
+  LireFrais(doivent);
+  TLignesRetirees retirees;
+  TTravail travail(controleur_.Dialogues(), doivent.size());
+  for (const int cle : doivent) {
+    travail.Suivant(kSuppression, cle);
+    if (const auto retiree = Retirer(cle, frais.Id)) retirees.push_back(*retiree);
+  }
+  return retirees;
+}
+
+void TAttributionFrais::Rendre(TFrais& frais, const TLignesRetirees& lignes) {
+  const TRelecture relecture(frais);
+  TTravail travail(controleur_.Dialogues(), lignes.size());
+  for (const TLigneRetiree& ligne : lignes) {
+    travail.Suivant(kAjout, ligne.EleveId);
+    Donner(ligne, frais.Id);
+  }
+}
+
+// Nobody in the table owes it at this moment, so a line that memory still has lost its row to another
+// workstation.
+void TAttributionFrais::Donner(const TLigneRetiree& retiree, int frais) {
+  const TEleve& eleve = *Globals.Eleves->TrouverParId(retiree.EleveId);
+  TAllFraisEleve& lignes = *eleve.GetAllFrais();
+  if (TFraisEleve* perdue = lignes.LigneFrais(frais)) lignes.Forget(*perdue);
+  auto neuve = std::make_unique<TFraisEleve>();
+  neuve->ListeFraisId = frais;
+  neuve->MontantVerse = retiree.MontantVerse;
+  neuve->Remarque = retiree.Remarque;
+  neuve->DateVersement = retiree.DateVersement;
+  neuve->ExtraitId = retiree.ExtraitId;
+  TFraisEleve& ligne = lignes.Add(std::move(neuve));
+  Sauver(lignes);
+  if (ligne.Id != -1) return;
+  lignes.Forget(ligne);  // no key could be had, which the user has been told
+  throw Exception(u"Le frais n'a pas pu être donné à "_s % eleve.NomComplet() % u'.');
+}
+
+// A pupil of another year, or a line that another workstation added, is not in memory: its row goes by its
+// key.
+std::optional<TAttributionFrais::TLigneRetiree> TAttributionFrais::Retirer(int eleveId, int frais) {
+  const TEleve* eleve = Globals.Eleves->TrouverParId(eleveId);
+  TAllFraisEleve* lignes = eleve != nullptr ? eleve->GetAllFrais() : nullptr;
+  if (TFraisEleve* ligne = lignes != nullptr ? lignes->LigneFrais(frais) : nullptr) {
+    const TLigneRetiree retiree{eleveId, ligne->MontantVerse, ligne->Remarque, ligne->DateVersement,
+                                ligne->ExtraitId};
+    lignes->Remove(*ligne);
+    Sauver(*lignes);
+    return retiree;
+  }
+  TQueryInternal(controleur_.Base(),
+                 u"DELETE FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = :frais AND ELEVE_ID = :eleve"_s)
+      .Parametre(u"frais"_s, frais)
+      .Parametre(u"eleve"_s, eleveId)
+      .Executer();
+  return std::nullopt;
+}
