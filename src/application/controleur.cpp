@@ -7,6 +7,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kDureeBulles = 5000;
+constexpr int kMoisPreparation = 7;  // from July on a school prepares the year that begins
 
 bool EstUn(const TReglagesPoste& reglages, const QString& nom) {
   return reglages.Lire(TRacine::Utilisateur, nom) == u"1";
@@ -72,13 +73,12 @@ bool TControleur::Demarrer(bool pagesTablette) {
   return true;
 }
 
+// The settings stay when the year among them is none: it is mended where they are shown.
 void TControleur::ChargerParametres() {
-  if (Globals.Parametres) return;
-  auto parametres = std::make_unique<TParametres>(base_);
-  const int annee = parametres->Entier(TParam::AnneeScolaire);
+  if (Globals.Parametres && Globals.TarifsGarderies) return;
+  if (!Globals.Parametres) Globals.Parametres = std::make_unique<TParametres>(base_);
+  Globals.AnneeScolaire = Globals.Parametres->Entier(TParam::AnneeScolaire);
   Globals.TarifsGarderies = std::make_unique<TTarifsGarderies>(base_);
-  Globals.Parametres = std::move(parametres);
-  Globals.AnneeScolaire = annee;
   Globals.DossierTemporaire = ::DossierTemporaire();
 }
 
@@ -141,10 +141,36 @@ void TControleur::FormClose() {
   Globals.Liberer();
 }
 
-void TControleur::EcrireReglage(const QString& nom, const QString& valeur) {
-  if (!reglages_.Ecrire(TRacine::Utilisateur, nom, valeur))
-    Dialogues().Message(u"Le réglage « %1 » de cet ordinateur n'a pas pu être enregistré."_s.arg(nom));
+int TControleur::AnneeProposee() const {
+  const TJour jour = DecodeDate(horloge_.Aujourdhui());
+  return jour.Mois >= kMoisPreparation ? jour.Annee : jour.Annee - 1;
 }
+
+bool TControleur::EleveInscrit() const {
+  return TCurseur(base_, u"SELECT FIRST 1 ELEVE_ID FROM ELEVES_CLASSES"_s).Suivant();
+}
+
+void TControleur::CommencerAnnee(int annee) {
+  TParametres& parametres = *Globals.Parametres;
+  parametres.SetParametre(TParam::AnneeScolaire, QString::number(annee));
+  try {
+    parametres.Save();
+  } catch (...) {
+    parametres.Remettre();
+    throw;
+  }
+  Globals.AnneeScolaire = annee;
+  ChargerAnnee(annee);
+}
+
+bool TControleur::EcrireReglage(const QString& nom, const QString& valeur) {
+  const bool ecrit = reglages_.Ecrire(TRacine::Utilisateur, nom, valeur);
+  if (!ecrit)
+    Dialogues().Message(u"Le réglage « %1 » de cet ordinateur n'a pas pu être enregistré."_s.arg(nom));
+  return ecrit;
+}
+
+bool TControleur::ActiverModeProfesseur() { return EcrireReglage(u"Mode"_s, u"1"_s); }
 
 void TControleur::PasserHorsLigne() {
   EcrireReglage(u"Offline"_s, u"1"_s);

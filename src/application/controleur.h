@@ -21,7 +21,8 @@ class TControleur {
   void ChargerAnnee(int annee);
   /// A year chosen in the menu of years.
   void ChoisirAnnee(int annee);
-  /// Reads the parameters, the working year and the tariffs if that has not been done yet.
+  /// Reads the parameters, the working year and the tariffs if that has not been done yet. A working year
+  /// that is no number raises EConvertError; the parameters are there all the same.
   void ChargerParametres();
 
   /// The bank movements of the year on display and of the year before, read at the first call after a
@@ -29,10 +30,21 @@ class TControleur {
   TExtraits& Extraits();
   TExtraits& ExtraitsPrecedents();
 
+  // A database that nobody has worked with yet.
+  /// The school year that one begins with today.
+  int AnneeProposee() const;
+  /// A pupil is enrolled in a year, whichever it is. Raises Exception.
+  bool EleveInscrit() const;
+  /// That year becomes the working year, and is put on display. Raises EDistributor, EConvertError.
+  void CommencerAnnee(int annee);
+
   /// Remembers that this workstation works off-line and closes the connection.
   void PasserHorsLigne();
   /// Back to the database, with the pages of the tablet.
   void PasserEnLigne();
+  /// This workstation is a teacher's from its next start on; false when that cannot be remembered, which the
+  /// user has been told.
+  bool ActiverModeProfesseur();
   /// Remembers which photos this workstation has copied (parameter 115).
   void MemoriserDatePhoto();
 
@@ -44,7 +56,7 @@ class TControleur {
  private:
   bool Connecter();
   bool Demarrer(bool pagesTablette);
-  void EcrireReglage(const QString& nom, const QString& valeur);
+  bool EcrireReglage(const QString& nom, const QString& valeur);
   void PagesTablette();
   void PagesBureau();
   void PagesProfesseur();

@@ -179,10 +179,27 @@ TEST(Controleur, AnUnreadableYearStopsTheStartUntilItIsMended) {
   } catch (const EConvertError& e) {
     EXPECT_TRUE(e.Message.startsWith(u"Paramètre 27 : ")) << e.what();
   }
-  EXPECT_EQ(Globals.Parametres, nullptr);
-  ecole.parametre(27, u"2018"_s);
+  ASSERT_NE(Globals.Parametres, nullptr) << "where it is mended";
+  Globals.Parametres->SetParametre(TParam::AnneeScolaire, u"2018"_s);
   essai.Charger();
   EXPECT_EQ(Globals.AnneeScolaire, 2018);
+}
+
+TEST(Controleur, ASchoolBeginsWithTheYearOfTheDay) {
+  TBaseEssai base;
+  TControleurEssai essai(base);
+  essai.Charger();
+  for (const auto& [mois, annee] : {std::pair(1, 2025), {6, 2025}, {7, 2026}, {12, 2026}}) {
+    essai.Horloge.Moment = EncodeDate(2026, mois, 1);
+    EXPECT_EQ(essai.Controleur.AnneeProposee(), annee) << mois;
+  }
+  EXPECT_FALSE(essai.Controleur.EleveInscrit());
+  essai.Controleur.CommencerAnnee(2026);
+  EXPECT_EQ(Globals.AnneeScolaire, 2026);
+  EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2026);
+  EXPECT_EQ(base.Valeur(u"SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 27"_s), u"2026");
+  TEcoleEssai(base).unEleve().enClasse(u"P1"_s, u"A"_s);
+  EXPECT_TRUE(essai.Controleur.EleveInscrit());
 }
 
 TEST(Controleur, TheFieldInHandIsLeftWhileItsDataAreThere) {
