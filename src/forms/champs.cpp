@@ -28,10 +28,21 @@ TValeurVue TexteLimite(const TChamp& champ, const QString& texte) {
   return texte;
 }
 
+bool EstTexte(TGenreChamp genre) {
+  using enum TGenreChamp;
+  return genre == Texte || genre == Lignes || genre == TexteMontant || genre == Secret;
+}
+
 /// What is left of a mask in which nothing was typed is nothing.
 bool EstVide(const QString& texte) { return QString(texte).remove(u':').trimmed().isEmpty(); }
 
 }  // namespace
+
+QString NomDuChamp(const TChamp& champ) {
+  QString nom = (champ.Nomme.isEmpty() ? champ.Libelle : champ.Nomme).trimmed();
+  if (nom.endsWith(u':')) nom.chop(1);
+  return nom.trimmed();
+}
 
 QString TexteDuChamp(const TChamp& champ, const TValeurVue& valeur) {
   if (std::holds_alternative<std::monostate>(valeur)) return {};
@@ -54,7 +65,7 @@ QString TexteDuChamp(const TChamp& champ, const TValeurVue& valeur) {
 }
 
 TValeurVue ValeurDuTexte(const TChamp& champ, const QString& texte) {
-  const bool simple = champ.Genre == TGenreChamp::Texte || champ.Genre == TGenreChamp::Lignes;
+  const bool simple = EstTexte(champ.Genre);
   if (!simple && !champ.Obligatoire && EstVide(texte)) return {};
   const bool absent =
       simple ? texte.trimmed().isEmpty() : champ.Genre == TGenreChamp::Choix && texte == u"-1";
@@ -106,7 +117,9 @@ bool TChamps::Quitter(int champ) {
   const TEtat& etat = etats_[Place(champ)];
   if (enCours_ || !actifs_ || lectureSeule_) return true;
   if (!etat.Tape && !etat.Faute.isEmpty()) return false;
-  if (!etat.Tape && !EcrireToujours) return true;
+  const TGenreChamp genre = Champ(champ).Genre;
+  const bool tapable = genre != TGenreChamp::Choix && genre != TGenreChamp::Coche;
+  if (!etat.Tape && !(EcrireToujours && tapable)) return true;
   const QScopedValueRollback enCours(enCours_, true);
   TValeurVue valeur;
   const QString faute = Convertir(champ, valeur);

@@ -8,22 +8,26 @@
 
 /// How a field is filled in, and what it then holds.
 enum class TGenreChamp {
-  Texte,    ///< QString
-  Lignes,   ///< QString, several lines
-  Entier,   ///< int
-  Montant,  ///< Currency, up to four decimals
-  Date,     ///< TDateTime
-  Heure,    ///< TDateTime
-  Choix,    ///< int, the index of what is offered; -1 for none
-  Coche,    ///< int, 0 or 1
+  Texte,         ///< QString
+  Lignes,        ///< QString, several lines
+  Entier,        ///< int
+  Montant,       ///< Currency, up to four decimals
+  Date,          ///< TDateTime
+  Heure,         ///< TDateTime
+  Choix,         ///< int, the index of what is offered; -1 for none
+  Coche,         ///< int, 0 or 1
+  TexteMontant,  ///< QString, an amount kept as it was typed
+  Secret,        ///< QString, not shown
 };
 
 /// What is said of a field, once for form, view and test.
 struct TChamp {
   QString Nom = {};      ///< of the control: "edLocalite"
   QString Libelle = {};  ///< "N° compte :"; of a box, what stands behind it
+  QString Nomme = {};    ///< read aloud and said in messages, where the label does not tell enough
   TGenreChamp Genre = TGenreChamp::Texte;
   int Longueur = 0;          ///< characters that its column takes; 0 when the kind knows it
+  int Largeur = 0;           ///< at 10 points; 0 for what its kind takes
   bool Obligatoire = false;  ///< an empty text is no value: it does not convert
   QString Refus = {};    ///< what is said of a text that does not convert; "" for the conversion's own words
   QString Unite = {};    ///< behind the field: "euros"
@@ -34,6 +38,8 @@ struct TChamp {
   std::function<void()> Ensuite = {};       ///< what follows a change that was stored
 };
 
+/// What the field is called: "Localité", without the colon of its label.
+QString NomDuChamp(const TChamp& champ);
 /// The text of a value as its field shows it, and back. Raises EConvertError.
 QString TexteDuChamp(const TChamp& champ, const TValeurVue& valeur);
 TValeurVue ValeurDuTexte(const TChamp& champ, const QString& texte);
@@ -80,6 +86,8 @@ class TChamps {
   bool Verifier();
   /// Escape in that field gives the stored value again; in a panel it leaves the panel.
   bool RendEnEchappant(int champ) const { return quand_ == Aussitot && etats_[Place(champ)].EstEnCours(); }
+  /// What the field of a new record holds at first.
+  void Proposer(int champ, const TValeurVue& valeur) { Montrer(champ, valeur); }
   /// The stored value again.
   void Abandonner(int champ);
   /// The same for all.
@@ -98,7 +106,7 @@ class TChamps {
   std::function<void(const TChamp&, const QString&)> SurEchec;
   /// Whether something may be chosen now; a form says why not.
   std::function<bool()> SurPermission;
-  /// A field that is left is written and stored though its value is the same.
+  /// A field for typing that is left is written and stored though its value is the same.
   bool EcrireToujours = false;
 
   /// Text, value or fault of a field has changed; -1 for all.

@@ -14,6 +14,9 @@ T Lire(const TValeurVue& valeur) {
 }
 
 QString EntierEnTexte(const TValeurVue& v) { return QString::number(Lire<int>(v)); }
+QString ElevesEnTexte(const TValeurVue& v) {
+  return EntierEnTexte(v) % (Lire<int>(v) > 1 ? u" élèves" : u" élève");
+}
 QString MontantEnTexte(const TValeurVue& v) { return FormatMontant(Lire<Currency>(v)); }
 QString DecimalesEnTexte(const TValeurVue& v) { return FormatPrix(Lire<Currency>(v)); }
 QString PrixEnTexte(const TValeurVue& v) { return FormatPrix(Lire<Currency>(v)) % u" €"; }
@@ -54,6 +57,7 @@ constexpr TGenreDecrit kGenres[] = {
     {DateLongueEnTexte, DateEnTexte},
     {HeureEnTexte, HeureEnTexte, true},
     {HeureHEnTexte, HeureEnTexte, true},
+    {ElevesEnTexte, EntierEnTexte, true},
     {MoisEnTexte, MoisEnTexte},
     {Rien, Rien},
 };

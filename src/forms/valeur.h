@@ -22,6 +22,7 @@ enum class TGenre {
   DateLongue,  ///< "samedi 5 novembre"
   Heure,       ///< "07:30"
   HeureH,      ///< "07h30"
+  Eleves,      ///< "1 élève", "12 élèves"; an int
   Mois,        ///< "Novembre", September first
   Etat,        ///< the word of the state of the row
 };

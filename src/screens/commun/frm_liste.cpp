@@ -74,7 +74,7 @@ bool TFrmListe::Essayer(const std::function<void()>& faire) {
 }
 
 bool TFrmListe::Enregistrer() {
-  if (mode_ == TModeEdition::Lecture || !Champs().Verifier()) return false;
+  if (mode_ == TModeEdition::Lecture || !Controler() || !Champs().Verifier()) return false;
   if (!Essayer([this] { Ranger(mode_ == TModeEdition::Nouveau); })) {
     Champs().SurFoyer(0);
     return false;

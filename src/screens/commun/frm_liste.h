@@ -34,7 +34,7 @@ class TFrmListe : public TForm {
   /// Head of the panel.
   QString TitrePanneau() const;
   /// Something typed or chosen is not stored yet.
-  bool EstModifie() { return mode_ != TModeEdition::Lecture && Champs().Modifies(); }
+  virtual bool EstModifie() { return mode_ != TModeEdition::Lecture && Champs().Modifies(); }
 
   void Nouveau();
   void Modifier();
@@ -69,6 +69,8 @@ class TFrmListe : public TForm {
   /// The panel shows the current row; none empties it.
   virtual void MontrerLigne() = 0;
   virtual void MontrerNouveau() = 0;
+  /// Before the texts are converted; false keeps the panel as it is.
+  virtual bool Controler() { return true; }
   /// Writes the fields into a new object or the current one and stores it. Raises Exception after memory is
   /// again what the table holds.
   virtual void Ranger(bool nouveau) = 0;

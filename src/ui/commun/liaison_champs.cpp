@@ -53,15 +53,36 @@ QWidget* NouveauChoix(const TChamp& champ) {
   return choix;
 }
 
+QWidget* NouveauTexteMontant(const TChamp& champ) {
+  QWidget* texte = NouveauTexte(champ);
+  static_cast<ChampTexte*>(texte)->setAlignment(Qt::AlignRight);
+  return texte;
+}
+
+QWidget* NouveauSecret(const TChamp& champ) {
+  QWidget* texte = NouveauTexte(champ);
+  static_cast<ChampTexte*>(texte)->setEchoMode(QLineEdit::Password);
+  return texte;
+}
+
+/// The point of the keypad, which a Belgian keyboard does not turn into a comma.
+bool EstPointDuPave(const QEvent& evenement) {
+  if (evenement.type() != QEvent::KeyPress) return false;
+  const auto& touche = static_cast<const QKeyEvent&>(evenement);
+  return touche.key() == Qt::Key_Period && touche.modifiers().testFlag(Qt::KeypadModifier);
+}
+
 /// In the order of TGenreChamp: how it is made, and its width at 10 points; 0 for what takes the room left.
 const struct {
   QWidget* (*Creer)(const TChamp&);
   int Largeur;
 } kGenres[] = {
     {NouveauTexte, 0},          {NouvellesLignes, 0},       {NouvelEntier, 64},  {Nouveau<SaisieMontant>, 88},
-    {Nouveau<SaisieDate>, 116}, {Nouveau<SaisieHeure>, 64}, {NouveauChoix, 248}, {NouvelleCoche, 0}};
+    {Nouveau<SaisieDate>, 116}, {Nouveau<SaisieHeure>, 64}, {NouveauChoix, 248}, {NouvelleCoche, 0},
+    {NouveauTexteMontant, 88},  {NouveauSecret, 0}};
 
 int LargeurDe(const TChamp& champ) {
+  if (champ.Largeur > 0) return champ.Largeur;
   return champ.Boutons ? 0 : kGenres[static_cast<std::size_t>(champ.Genre)].Largeur;
 }
 
@@ -251,6 +272,11 @@ void LiaisonChamps::AllerA(int champ) {
 bool LiaisonChamps::eventFilter(QObject* objet, QEvent* evenement) {
   const int champ = ChampDe(objet);
   if (champ < 0) return false;
+  if (champs_.Champ(champ).Genre == TGenreChamp::TexteMontant && EstPointDuPave(*evenement)) {
+    QKeyEvent virgule(QEvent::KeyPress, Qt::Key_Comma, Qt::NoModifier, u","_s);
+    QCoreApplication::sendEvent(objet, &virgule);
+    return true;
+  }
   if (evenement->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(evenement)->key() == Qt::Key_Escape &&
       champs_.RendEnEchappant(champ)) {
     champs_.Abandonner(champ);
@@ -305,5 +331,7 @@ QLayout* CreerFormulaire(LiaisonChamps& liaison) {
                         Qt::AlignTop);
     grille->addLayout(liaison.Rangee(parts), rang, 1);
   }
+  for (int champ = 0; champ < champs.Nombre(); ++champ)
+    liaison.Widget(champ, champs.Champ(champ).Nomme);  // where the label tells less
   return colonnes;
 }
