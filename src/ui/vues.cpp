@@ -10,16 +10,22 @@
 #include "screens/commun/frm_liste.h"
 #include "screens/documents/frm_apercu.h"
 #include "screens/documents/frm_print_wizard.h"
+#include "screens/parametres/frm_mon_ecole.h"
+#include "screens/parametres/frm_parametres.h"
 #include "screens/pupils/frm_import.h"
 #include "screens/pupils/frm_signaletique.h"
+#include "screens/services/frm_liste_frais.h"
 #include "ui/attendance/vue_presences.h"
 #include "ui/attendance/vue_releve_calendrier.h"
 #include "ui/commun/vue_dialogue.h"
 #include "ui/commun/vue_liste.h"
 #include "ui/documents/vue_apercu.h"
 #include "ui/documents/vue_print_wizard.h"
+#include "ui/parametres/vue_mon_ecole.h"
+#include "ui/parametres/vue_parametres.h"
 #include "ui/pupils/vue_import.h"
 #include "ui/pupils/vue_signaletique.h"
+#include "ui/services/vue_liste_frais.h"
 
 namespace {
 
@@ -40,9 +46,15 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
   // One line a screen: VueDe<TFrmImport, VueImport>(). A dialog or a list that is nothing but its table of
   // fields needs none.
   static const std::vector<TFabriqueVue> kVues{
-      VueDe<TFrmImport, VueImport>(),       VueDe<TFrmSignaletique, VueSignaletique>(),
-      VueDe<TfrmPresences, VuePresences>(), VueDe<TFrmReleveCalendrier, VueReleveCalendrier>(),
-      VueDe<TFrmApercu, VueApercu>(),       VueDe<TFrmPrintWizard, VuePrintWizard>(),
+      VueDe<TFrmListeFrais, VueListeFrais>(),
+      VueDe<TFrmMonEcole, VueMonEcole>(),
+      VueDe<TFrmParametres, VueParametres>(),
+      VueDe<TFrmImport, VueImport>(),
+      VueDe<TFrmSignaletique, VueSignaletique>(),
+      VueDe<TfrmPresences, VuePresences>(),
+      VueDe<TFrmReleveCalendrier, VueReleveCalendrier>(),
+      VueDe<TFrmApercu, VueApercu>(),
+      VueDe<TFrmPrintWizard, VuePrintWizard>(),
   };
   for (const TFabriqueVue& vue : kVues)
     if (vue.Classe == typeid(form)) return vue.Creer(form, parent);

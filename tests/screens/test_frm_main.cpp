@@ -293,7 +293,8 @@ TEST_F(FrmMain, FirstUseUntilThereArePupils) {
   QStringList etapes;
   for (const TEtapeAccueil& e : Main.Etapes())
     etapes += e.Titre + (e.Faite ? u" faite" : u"") + (e.Prochaine ? u" prochaine" : u"");
-  EXPECT_EQ(etapes, (QStringList{"Mon école faite", "Importation", "Services", "Frais prochaine"}))
+  EXPECT_EQ(etapes, (QStringList{"Année scolaire faite", "Mon école faite", "Importation", "Services",
+                                 "Frais prochaine"}))
       << "the next step is the first one whose screen there is";
   Main.Executer(TGestionnaire::AdvGlowButton16Click);
   EXPECT_FALSE(Main.PremiereUtilisation());
@@ -302,6 +303,49 @@ TEST_F(FrmMain, FirstUseUntilThereArePupils) {
   EXPECT_EQ(Main.CommandeOuverte(), nullptr);
   Main.Executer(TGestionnaire::AdvGlowButton16Click);
   EXPECT_FALSE(Main.PremiereUtilisation());
+}
+
+// A new database says 2016: pupils of 2026 must not land in it.
+TEST_F(FrmMain, FirstUseBeginsWithTheYear) {
+  Horloge.Moment = EncodeDate(2026, 11, 25);
+  Main.Montrer();
+  const auto annee = [&] { return Main.Etapes().front(); };
+  ASSERT_TRUE(annee().Prochaine);
+  for (const char* texte : {"", "abc", "26", "1999", "2028", "2026 - 2028", "2026,5"}) {
+    Base.Dialogues.Saisit(u"Quelle année scolaire"_s, QString::fromLatin1(texte))
+        .Attend(u"n'est pas une année scolaire. Introduisez par exemple 2026 - 2027"_s);
+    Main.EtapeClick(annee());
+  }
+  Base.Dialogues.Saisit(u"Quelle année scolaire"_s, std::nullopt);
+  Main.EtapeClick(annee());
+  EXPECT_EQ(Globals.AnneeScolaire, 2016);
+  Base.Dialogues.Saisit(u"Quelle année scolaire"_s, u"2026 - 2027"_s);
+  Main.EtapeClick(annee());
+  EXPECT_EQ(Base.Valeur(u"SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 27"_s), u"2026");
+  EXPECT_EQ(Main.AnneeCochee(), 2026);
+  EXPECT_TRUE(annee().Faite);
+  TEcoleEssai(Base, 2015).unEleve().enClasse(u"P1"_s, u"A"_s);
+  EXPECT_FALSE(annee().Possible) << "somebody is enrolled, in whichever year";
+  Main.EtapeClick(annee());
+}
+
+TEST_F(FrmMain, WhatIsLeftOfAYearStaysWithinReach) {
+  Ecole();
+  TEcoleEssai ecole(Base);
+  ecole.parametre(1, u"École"_s);
+  ecole.tarif(Essai::Matin, Essai::TousLesJours, u"07:00"_s, u"08:00"_s, Essai::Forfait, u"1"_s,
+              Essai::ScanPresence);
+  Main.Montrer();
+  EXPECT_TRUE(Main.PremiereUtilisation()) << "a new year without fees";
+  Main.Executer(TGestionnaire::AdvGlowButton2Click);
+  EXPECT_FALSE(Main.PremiereUtilisation());
+  Main.PageClick(TPage::PgEleve);
+  EXPECT_TRUE(Main.PremiereUtilisation());
+  Main.mnuAnneeClick(2015);
+  EXPECT_TRUE(Main.PremiereUtilisation()) << "no pupil there";
+  ecole.frais(u"Piscine"_s, u"10"_s, 10);
+  Main.mnuAnneeClick(2016);
+  EXPECT_FALSE(Main.ResteAFaire());
 }
 
 TEST_F(FrmMain, WithoutConnectionNothingOpens) {

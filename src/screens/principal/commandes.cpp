@@ -1,8 +1,12 @@
 #include "screens/principal/commandes.h"
 
 #include "screens/attendance/frm_presences.h"
+#include "screens/parametres/frm_mon_ecole.h"
+#include "screens/parametres/frm_parametres.h"
 #include "screens/pupils/frm_import.h"
 #include "screens/pupils/frm_signaletique.h"
+#include "screens/services/frm_activites.h"
+#include "screens/services/frm_liste_frais.h"
 #include "screens/services/frm_parametres_garderies.h"
 
 namespace {
@@ -34,18 +38,18 @@ std::vector<TCommandePrincipale> CommandesPrincipales() {
 
       {AdvGlowButton8Click, PgParametre, T(u"&Importation"), T(u"document-import"), 0, false,
        Ecran<TFrmImport>()},
-      {AdvGlowButton16Click, PgParametre, T(u"&Frais"), T(u"view-financial-list"), 120, false, {}},
-      {AdvGlowButton3Click, PgParametre, T(u"&Mon école"), T(u"go-home"), {}, false, {}},
+      {AdvGlowButton16Click, PgParametre, T(u"&Frais"), T(u"view-financial-list"), 120, false, Ecran<TFrmListeFrais>()},
+      {AdvGlowButton3Click, PgParametre, T(u"&Mon école"), T(u"go-home"), {}, false, Ecran<TFrmMonEcole>()},
       {AdvGlowButton5Click, PgParametre, T(u"S&ervices"), T(u"chronometer"), 120, false,
        Ecran<TFrmParametresGarderies>()},
-      {AdvGlowButton6Click, PgParametre, T(u"&Paramètres"), T(u"configure"), {}, false, {}},
+      {AdvGlowButton6Click, PgParametre, T(u"&Paramètres"), T(u"configure"), {}, false, Ecran<TFrmParametres>(), true},
       {btnActivitesClick,
        PgParametre,
        T(u"&Activités"),
        T(u"view-calendar-special-occasion"),
        120,
        false,
-       {}},
+       Ecran<TFrmActivites>()},
 
       {btnTransfertRepasClick, pgRepas3, T(u"&Transfert"), T(u"document-export"), {}, false, {}},
       {btnReservationTabletteClick, pgRepas3, T(u"&Réservation"), T(u"view-calendar-day"), {}, false, {}},

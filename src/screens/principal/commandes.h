@@ -69,6 +69,7 @@ struct TCommandePrincipale {
   bool PrendEleve = false;
   /// None for a screen that this version does not have.
   std::optional<TEcran> Ecran;
+  bool SansAnnee = false;  ///< its screen opens also when no year could be loaded
 
   /// The caption without its "&".
   QString Nom() const;

@@ -75,8 +75,11 @@ void TFrmMain::FormShow() {
   try {
     Controleur.FormShow();
   } catch (...) {  // what it is about is shown to the user by who catches it
-    Etat(TNiveauEtat::Erreur,
-         u"Aucune année scolaire n'a pu être chargée : fermez le programme et recommencez."_s);
+    Etat(
+        TNiveauEtat::Erreur,
+        PeutChoisirAnnee()
+            ? u"Aucune année scolaire n'a pu être chargée : corrigez le paramètre en cause, puis choisissez l'année."_s
+            : u"Aucune année scolaire n'a pu être chargée : fermez le programme et recommencez."_s);
     Annoncer();
     throw;
   }
@@ -132,7 +135,7 @@ std::vector<TPagePrincipale> TFrmMain::Pages() const {
 }
 
 void TFrmMain::PageClick(TPage page) {
-  accueilDevant_ = page == TPage::PgEleve && SansEleve();
+  accueilDevant_ = page == TPage::PgEleve && ResteAFaire();
   ActiverPage(page);
 }
 
@@ -149,7 +152,8 @@ QString TFrmMain::RaisonInactive(const TCommandePrincipale& commande) const {
   if (commande.Gestionnaire == TGestionnaire::AdvGlowButton4Click) return {};
   if (!commande.Ecran) return u"Pas encore disponible dans cette version"_s;
   const bool horsLigne = Globals.ModeHorsLigne && commande.Page == TPage::pgRepas3;
-  if (!EstRelie() && !horsLigne)
+  const bool reglages = commande.SansAnnee && PeutChoisirAnnee();
+  if (!EstRelie() && !horsLigne && !reglages)
     return Controleur.Base().EstConnecte() ? u"Aucune année scolaire n'est chargée"_s
                                            : u"Pas de connexion au serveur de données"_s;
   return {};
@@ -216,10 +220,15 @@ std::vector<int> TFrmMain::Annees() const {
   return annees;
 }
 
+bool TFrmMain::PeutChoisirAnnee() const {
+  return EstRelie() || (EstBureau() && Globals.Parametres && Controleur.Base().EstConnecte());
+}
+
 void TFrmMain::mnuAnneeClick(int annee) {
-  if (enTravail_ || !EstRelie()) return;
+  if (enTravail_ || !PeutChoisirAnnee()) return;
   QuitterChamp();
   if (!EcranAccepte()) return;
+  Controleur.ChargerParametres();
   Controleur.ChoisirAnnee(annee);
   EtatApresEcran(TNiveauEtat::Neutre, CombienEleves(annee, NombreEleves()));
 }
@@ -279,14 +288,6 @@ void TFrmMain::Travail(int total) {
   else if (etat_.Texte == kTravailEnCours || etat_.Texte == kFermetureRefusee)
     Etat(TNiveauEtat::Neutre, {});
   Annoncer();
-}
-
-bool TFrmMain::SansEleve() const {
-  return EstRelie() && Globals.Eleves->Count() == 0 && !Globals.ModeProfesseur && !Globals.ModeTablette;
-}
-
-bool TFrmMain::PremiereUtilisation() const {
-  return SansEleve() && (accueilDevant_ || Panneau.Courante() == nullptr);
 }
 
 // What the controller tells.

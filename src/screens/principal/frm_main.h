@@ -10,8 +10,9 @@ struct TEtatPrincipal {
 
 /// A line of what a school does first.
 struct TEtapeAccueil {
-  TGestionnaire Gestionnaire;
+  std::optional<TGestionnaire> Gestionnaire;  ///< none for the choice of the year
   QString Titre;
+  QString Icone;
   QString Explication;
   QString Bouton;
   bool Faite;
@@ -56,6 +57,8 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   int AnneeCochee() const { return anneeCochee_; }
   QString IntituleAnnee() const { return intituleAnnee_; }
   void mnuAnneeClick(int annee);
+  /// A year is on display, or can be as soon as the settings let it.
+  bool PeutChoisirAnnee() const;
 
   // Tree and search.
   bool ArbreVisible() const { return arbreVisible_; }
@@ -77,10 +80,13 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   bool PeutSupprimerProfesseur() const;
 
   // First use.
-  /// No pupil in the year, and no screen in front.
+  /// A step is left, and no screen in front.
   bool PremiereUtilisation() const;
   bool SansEleve() const;
+  /// A step is left: always without a pupil, else in the working year only.
+  bool ResteAFaire() const;
   std::vector<TEtapeAccueil> Etapes() const;
+  void EtapeClick(const TEtapeAccueil& etape);
 
   // State.
   /// A year is on display.
@@ -139,6 +145,11 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   void Diffuser(TCodeMessage code);
   bool EcranAccepte();
   TNoeud* NoeudQuiCommence(TNoeud* debut) const;
+  TEtapeAccueil EtapeAnnee() const;
+  TEtapeAccueil EtapeDe(TGestionnaire gestionnaire, const QString& explication, const QString& bouton,
+                        bool faite) const;
+  void ChoisirPremiereAnnee();
+  bool EstBureau() const;
   void Inscrire(TEleve& professeur);
   void OublierEleve(const TEleve& eleve);
 

@@ -1,4 +1,4 @@
-// The pupil tree of the main window: selection, search, teachers, and what a school does first.
+// The pupil tree of the main window: selection, search and teachers.
 #include <algorithm>
 
 #include "screens/principal/frm_ajout_professeur.h"
@@ -151,39 +151,4 @@ void TFrmMain::OublierEleve(const TEleve& eleve) {
   if (Globals.EleveCourant != &eleve) return;
   Globals.EleveCourant = nullptr;
   Diffuser(TCodeMessage::EleveChange);
-}
-
-// First use.
-
-std::vector<TEtapeAccueil> TFrmMain::Etapes() const {
-  if (!EstRelie()) return {};
-  const auto etape = [&](TGestionnaire gestionnaire, const char16_t* titre, const char16_t* explication,
-                         const char16_t* bouton, bool faite) {
-    return TEtapeAccueil{gestionnaire,
-                         QString::fromUtf16(titre),
-                         QString::fromUtf16(explication),
-                         QString::fromUtf16(bouton),
-                         faite,
-                         CommandeActive(Commande(gestionnaire)),
-                         RaisonInactive(Commande(gestionnaire)),
-                         false};
-  };
-  std::vector<TEtapeAccueil> etapes{
-      etape(TGestionnaire::AdvGlowButton3Click, u"Mon école",
-            u"Nom, adresse et compte bancaire : ce que les documents impriment.", u"Ouvrir",
-            !Globals.Parametres->GetParametre(TParam::NomEcole).trimmed().isEmpty()),
-      etape(TGestionnaire::AdvGlowButton8Click, u"Importation",
-            u"Élèves, classes et implantations, depuis l'export du registre SIEL.", u"Importer les élèves",
-            Globals.Eleves->Count() > 0),
-      etape(TGestionnaire::AdvGlowButton5Click, u"Services",
-            u"Horaires et tarifs des garderies, de l'étude et des repas.", u"Encoder les tarifs",
-            Globals.TarifsGarderies->Count() > 0),
-      etape(TGestionnaire::AdvGlowButton16Click, u"Frais",
-            u"Frais scolaires de l'année : photocopies, natation, excursions.", u"Encoder les frais",
-            Globals.ListeFrais->Count() > 0),
-  };
-  const auto prochaine =
-      std::ranges::find_if(etapes, [](const TEtapeAccueil& e) { return !e.Faite && e.Possible; });
-  if (prochaine != etapes.end()) prochaine->Prochaine = true;
-  return etapes;
 }

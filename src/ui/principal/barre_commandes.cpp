@@ -156,10 +156,12 @@ void BarreCommandes::Actualiser() {
                        (raison.isEmpty() ? ToucheAlt(commande.Libelle) : QString(u" : " % raison)));
   }
   ActualiserOutils();
-  annees_->setVisible(!form_.IntituleAnnee().isEmpty());
-  annees_->setText(form_.IntituleAnnee() % u"  ▾");
-  annees_->setAccessibleName(form_.IntituleAnnee());
-  annees_->setEnabled(form_.EstRelie() && !form_.EnTravail());
+  annees_->setVisible(!form_.IntituleAnnee().isEmpty() || form_.PeutChoisirAnnee());
+  const QString intitule =
+      form_.IntituleAnnee().isEmpty() ? u"Choisir une année scolaire"_s : form_.IntituleAnnee();
+  annees_->setText(intitule % u"  ▾");
+  annees_->setAccessibleName(intitule);
+  annees_->setEnabled(form_.PeutChoisirAnnee() && !form_.EnTravail());
   update();
 }
 

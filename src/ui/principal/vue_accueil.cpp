@@ -25,18 +25,18 @@ QFont Chapeau() {
 class VueAccueil::Ligne : public QWidget {
  public:
   Ligne(TFrmMain& form, const TEtapeAccueil& etape, int numero)
-      : premiere_(numero == 1), etat_(new MarqueEtat), bouton_(BoutonSimple(etape.Bouton)) {
-    const auto commande = std::find_if(form.Commandes.begin(), form.Commandes.end(),
-                                       [&](const auto& c) { return c.Gestionnaire == etape.Gestionnaire; });
-    icone_ = commande->Icone;
+      : premiere_(numero == 1),
+        icone_(etape.Icone),
+        etat_(new MarqueEtat),
+        bouton_(BoutonSimple(etape.Bouton)) {
     auto* titre =
         new Etiquette(QString::number(numero) % u".  " % etape.Titre, TRole::Texte, &Theme::TitreSection);
-    auto* explication = new Etiquette(etape.Explication, TRole::Secondaire);
-    explication->setWordWrap(true);
+    explication_ = new Etiquette(etape.Explication, TRole::Secondaire);
+    explication_->setWordWrap(true);
     auto* textes = new QVBoxLayout;
     textes->setSpacing(Theme::Px(4));
     textes->addWidget(titre);
-    textes->addWidget(explication);
+    textes->addWidget(explication_);
     auto* ligne = new QHBoxLayout(this);
     ligne->setContentsMargins(Theme::Px(kIcone + kEcart), Theme::Px(kEcart), 0, Theme::Px(kEcart));
     ligne->setSpacing(Theme::Px(kEcart));
@@ -46,11 +46,11 @@ class VueAccueil::Ligne : public QWidget {
     etat_->setFixedWidth(Theme::Px(108));
     bouton_->setMinimumWidth(Theme::Px(176));
     bouton_->setAccessibleName(etape.Titre % u" : " % etape.Bouton);
-    connect(bouton_, &QPushButton::clicked, this,
-            [&form, quoi = etape.Gestionnaire] { form.Executer(quoi); });
+    connect(bouton_, &QPushButton::clicked, this, [&form, etape] { form.EtapeClick(etape); });
   }
 
   void Actualiser(const TEtapeAccueil& etape) {
+    explication_->setText(etape.Explication);
     faite_ = etape.Faite;
     etat_->Definir(etape.Faite ? u"dialog-ok-apply"_s : u"data-information"_s,
                    etape.Faite ? u"Fait"_s : u"À faire"_s);
@@ -77,6 +77,7 @@ class VueAccueil::Ligne : public QWidget {
  private:
   bool premiere_;
   QString icone_;
+  Etiquette* explication_ = nullptr;
   MarqueEtat* etat_;
   QPushButton* bouton_;
   bool faite_ = false;
@@ -121,7 +122,10 @@ VueAccueil::VueAccueil(TFrmMain& form, QWidget* parent)
 
 void VueAccueil::Actualiser() {
   const int affichee = form_.AnneeCochee(), travail = Globals.AnneeScolaire;
-  if (affichee == travail) {
+  if (!form_.SansEleve()) {
+    titre_->setText(u"Année scolaire " % AnneeEnTexte(travail));
+    phrase_->setText(u"Il reste à préparer cette année scolaire."_s);
+  } else if (affichee == travail) {
     titre_->setText(u"Bienvenue dans Calpenne"_s);
     phrase_->setText(u"La base est prête et ne contient encore aucun élève. Voici par où commencer."_s);
   } else {

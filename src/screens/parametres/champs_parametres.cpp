@@ -1,0 +1,59 @@
+#include "screens/parametres/champs_parametres.h"
+
+#include <algorithm>
+
+#include "core/exceptions.h"
+
+using namespace Qt::StringLiterals;
+
+TAcces<TParametres> Reglage(TParam param) {
+  return {[param](const TParametres& p) { return p.GetParametre(param); },
+          [param](TParametres& p, const TValeurVue& valeur) {
+            p.SetParametre(param, ValeurEn<QString>(valeur).trimmed());
+          }};
+}
+
+TAcces<TParametres> ReglageCoche(TParam param) {
+  return {[param](const TParametres& p) { return static_cast<int>(p.EstVrai(param)); },
+          [param](TParametres& p, const TValeurVue& valeur) {
+            p.SetParametre(param, ValeurEn<int>(valeur) == 1 ? u"1"_s : u"0"_s);
+          }};
+}
+
+TAcces<TParametres> ReglageChoix(TParam param, const QStringList& valeurs) {
+  return {[param, valeurs](const TParametres& p) {
+            return std::max(0, static_cast<int>(valeurs.indexOf(p.GetParametre(param))));
+          },
+          [param, valeurs](TParametres& p, const TValeurVue& valeur) {
+            p.SetParametre(param, valeurs.value(ValeurEn<int>(valeur)));
+          }};
+}
+
+TChampsParametres::TChampsParametres(TContexteEcran& contexte, TTableChamps<TParametres> table)
+    : TChampsDe(std::move(table), Aussitot), contexte_(contexte) {
+  EcrireToujours = true;
+  SurEnregistrer = [this](const TChamp& champ) { Enregistrer(champ); };
+  SurRefus = [this](const TChamp&, const QString& faute) {
+    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré : " % faute);
+  };
+}
+
+void TChampsParametres::Sauver() {
+  try {
+    Globals.Parametres->Save();
+  } catch (...) {
+    Globals.Parametres->Remettre();
+    throw;
+  }
+}
+
+void TChampsParametres::Enregistrer(const TChamp& champ) {
+  if (Avant) Avant(champ);
+  Sauver();
+  const QString nom = NomDuChamp(champ);
+  const QString avis = Avis ? Avis(champ, TexteDuChamp(champ, Lire(Indice(champ.Nom)))) : QString();
+  if (avis.isEmpty())
+    contexte_.Principal.Etat(TNiveauEtat::Succes, u"Enregistré : " % nom);
+  else
+    contexte_.Principal.Etat(TNiveauEtat::Alerte, nom % u" : " % avis);
+}

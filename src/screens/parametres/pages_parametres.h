@@ -1,0 +1,15 @@
+#pragma once
+#include "screens/parametres/champs_parametres.h"
+
+/// Characters that a setting keeps.
+inline constexpr int kParametreMaximum = 1000;
+
+struct TPageDecrite {
+  QString Titre;
+  TTableChamps<TParametres> Champs;
+};
+
+/// The fields of the settings, page by page.
+std::vector<TPageDecrite> PagesDecrites();
+/// What the text of a setting will not do though it was stored; "" for nothing.
+QString AvisParametre(const TChamp& champ, const QString& texte);

@@ -1,0 +1,102 @@
+// The main window: what a school does first, and again in a new year.
+#include <QRegularExpression>
+#include <algorithm>
+
+#include "screens/principal/frm_main.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kPremiereAnnee = 2000;
+
+/// "2026" or "2026 - 2027"; 0 for a text that is no school year, or one too far away to be meant.
+int AnneeDuTexte(const QString& texte, int proposee) {
+  static const QRegularExpression kAnnee(u"^\\s*(\\d{4})(?:\\s*-\\s*(\\d{4}))?\\s*$"_s);
+  const QRegularExpressionMatch lue = kAnnee.match(texte);
+  const int annee = lue.captured(1).toInt();
+  const bool suite = lue.captured(2).isEmpty() || lue.captured(2).toInt() == annee + 1;
+  return suite && annee >= kPremiereAnnee && annee <= proposee + 1 ? annee : 0;
+}
+
+}  // namespace
+
+bool TFrmMain::EstBureau() const { return !Globals.ModeProfesseur && !Globals.ModeTablette; }
+
+bool TFrmMain::SansEleve() const { return EstRelie() && EstBureau() && Globals.Eleves->Count() == 0; }
+
+bool TFrmMain::ResteAFaire() const {
+  if (SansEleve()) return true;
+  return EstRelie() && EstBureau() && anneeCochee_ == Globals.AnneeScolaire &&
+         !std::ranges::all_of(Etapes(), &TEtapeAccueil::Faite);
+}
+
+bool TFrmMain::PremiereUtilisation() const {
+  return (accueilDevant_ || Panneau.Courante() == nullptr) && ResteAFaire();
+}
+
+TEtapeAccueil TFrmMain::EtapeDe(TGestionnaire gestionnaire, const QString& explication, const QString& bouton,
+                                bool faite) const {
+  const TCommandePrincipale& commande = Commande(gestionnaire);
+  const QString raison = RaisonInactive(commande);
+  return {gestionnaire, commande.Nom(),   commande.Icone, explication, bouton,
+          faite,        raison.isEmpty(), raison,         false};
+}
+
+// The year comes first: the register is taken into it. Once somebody is enrolled it only changes at a
+// closing.
+TEtapeAccueil TFrmMain::EtapeAnnee() const {
+  const bool inscrit = Globals.Eleves->Count() > 0 || Controleur.EleveInscrit();
+  const QString raison =
+      inscrit ? u"Des élèves sont inscrits : l'année de travail change à sa clôture"_s : QString();
+  return {{},
+          u"Année scolaire"_s,
+          u"view-calendar-day"_s,
+          u"Année de travail : " % AnneeEnTexte(Globals.AnneeScolaire) % u". Les élèves y seront inscrits.",
+          u"Choisir l'année"_s,
+          inscrit || Globals.AnneeScolaire >= Controleur.AnneeProposee(),
+          !inscrit && !enTravail_,
+          raison,
+          false};
+}
+
+std::vector<TEtapeAccueil> TFrmMain::Etapes() const {
+  if (!EstRelie()) return {};
+  using enum TGestionnaire;
+  std::vector<TEtapeAccueil> etapes{
+      EtapeAnnee(),
+      EtapeDe(AdvGlowButton3Click, u"Nom, adresse et compte bancaire : ce que les documents impriment."_s,
+              u"Ouvrir"_s, !Globals.Parametres->GetParametre(TParam::NomEcole).trimmed().isEmpty()),
+      EtapeDe(AdvGlowButton8Click, u"Élèves, classes et implantations, depuis l'export du registre SIEL."_s,
+              u"Importer les élèves"_s, Globals.Eleves->Count() > 0),
+      EtapeDe(AdvGlowButton5Click, u"Horaires et tarifs des garderies, de l'étude et des repas."_s,
+              u"Encoder les tarifs"_s, Globals.TarifsGarderies->Count() > 0),
+      EtapeDe(AdvGlowButton16Click, u"Frais scolaires de l'année : photocopies, natation, excursions."_s,
+              u"Encoder les frais"_s, Globals.ListeFrais->Count() > 0),
+  };
+  const auto prochaine =
+      std::ranges::find_if(etapes, [](const TEtapeAccueil& e) { return !e.Faite && e.Possible; });
+  if (prochaine != etapes.end()) prochaine->Prochaine = true;
+  return etapes;
+}
+
+void TFrmMain::EtapeClick(const TEtapeAccueil& etape) {
+  etape.Gestionnaire ? Executer(*etape.Gestionnaire) : ChoisirPremiereAnnee();
+}
+
+void TFrmMain::ChoisirPremiereAnnee() {
+  if (!EtapeAnnee().Possible) return;
+  const int proposee = Controleur.AnneeProposee();
+  const auto reponse = Contexte.Dialogues().Saisir(
+      u"Année scolaire"_s, u"Quelle année scolaire voulez-vous commencer ?"_s, AnneeEnTexte(proposee));
+  if (!reponse) return;
+  const int annee = AnneeDuTexte(*reponse, proposee);
+  if (annee == 0) {
+    Contexte.Dialogues().Message(u"« %1 » n'est pas une année scolaire. Introduisez par exemple %2."_s.arg(
+        *reponse, AnneeEnTexte(proposee)));
+    return;
+  }
+  Controleur.CommencerAnnee(annee);
+  FermerEcran();
+  Etat(TNiveauEtat::Succes, u"Année de travail : " % AnneeEnTexte(annee));
+}

@@ -1,0 +1,14 @@
+#pragma once
+#include "screens/commun/frm_liste.h"
+#include "services/activites.h"
+
+/// "Horaires des activités extra-scolaires": the activities of the year on display.
+class TFrmActivites : public TFrmListeDe<TActivite> {
+ public:
+  explicit TFrmActivites(TContexteEcran& contexte);
+
+ protected:
+  TCollection<TActivite>& Collection() const override;
+  /// Both dates are today's at first.
+  void MontrerNouveau() override;
+};
