@@ -29,7 +29,7 @@ QMap<QString, bool> OptionsDe(const char* usage) {
 
 }  // namespace
 
-bool TSession::Connecter() const {
+bool TSession::Connecter(bool creer) const {
   const QString serveur = Options.value(u"serveur"_s).trimmed();
   Base.ServerName = serveur;
   if (serveur.isEmpty()) Base.ReadServerName();
@@ -39,6 +39,9 @@ bool TSession::Connecter() const {
         "(un nom de serveur, « local », ou le chemin d'un fichier .fdb)."_s);
   const QString fichier = Base.FichierLocal();
   const bool nouveau = !fichier.isEmpty() && !QFile::exists(fichier);
+  if (nouveau && !creer)
+    throw Exception(
+        u"Aucune école ne se trouve à cet endroit, et rien n'y a été créé : « %1 »."_s.arg(fichier));
   Base.Connecter();
   if (nouveau) Dialogues.Information(u"La base de données « %1 » est créée."_s.arg(fichier));
   return nouveau;

@@ -15,8 +15,9 @@ struct TSession {
   TDataModule1& Base;
   TControleur& Controleur;
 
-  /// Opens the connection; true when the file of the database has just been made. Raises Exception.
-  bool Connecter() const;
+  /// Opens the connection; true when the file of the database has just been made, which only `creer` may
+  /// do. Raises Exception.
+  bool Connecter(bool creer = false) const;
   /// The connection, the parameters, and the year on display. Raises Exception.
   void Ouvrir() const;
 

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 int Creer(TSession& session) {
-  if (session.Connecter()) return 0;
+  if (session.Connecter(true)) return 0;
   session.Base.CreerTables();
   session.Dialogues.Information(u"Votre base de données est à jour !"_s);
   return 0;

@@ -6,6 +6,9 @@
 /// that are otherwise alike. Below 0, 0 or above 0.
 int ComparerTextes(const QString& a, const QString& b);
 
+/// The text as a search compares it: without case and accents.
+QString Simplifier(const QString& texte);
+
 /// What has a name to be put in order by: a pupil.
 template <class T>
 concept TNomme = requires(const T& t) {

@@ -104,10 +104,26 @@ void TDataModule1::AskServerName() {
   WriteServerName(machine ? TRacine::Machine : TRacine::Utilisateur);
 }
 
+namespace {
+
+/// A file that was moved, or whose disk is not there, must not look like a school that is lost.
+bool AccepterFichier(IDialogues& dialogues, const QString& chemin) {
+  return chemin.isEmpty() || QFileInfo::exists(chemin) ||
+         dialogues.ConfirmerGrave(
+             u"Aucune école ne se trouve à cet endroit :\n%1\n\nSi ses données y étaient, le fichier a été "
+             "déplacé ou son disque n'est pas branché : répondez Non.\nVoulez-vous y créer une base de "
+             "données vide ?"_s.arg(chemin));
+}
+
+}  // namespace
+
 bool TDataModule1::ConnectToServer() {
   ReadServerName();
   if (ServerName.trimmed().isEmpty()) AskServerName();
   if (ServerName.trimmed().isEmpty()) return false;
+  if (!AccepterFichier(dialogues_, FichierLocal()))
+    throw Exception(
+        u"Aucune école ne se trouve à cet endroit, et rien n'y a été créé : « %1 »."_s.arg(FichierLocal()));
   Connecter();
   return true;
 }

@@ -57,9 +57,15 @@ QStringList Couper(const QString& ligne) {
   return cellules;
 }
 
+/// By the mark at its beginning, which such files always have.
+bool EstUtf16(const QByteArray& octets) {
+  return octets.startsWith("\xFF\xFE") || octets.startsWith("\xFE\xFF");
+}
+
 }  // namespace
 
 QString TexteDepuisOctets(const QByteArray& octets) {
+  if (EstUtf16(octets)) return QStringDecoder(QStringDecoder::Utf16)(octets);
   QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   const QString texte = utf8(octets);
   if (!utf8.hasError()) return texte;
@@ -72,7 +78,8 @@ QString TexteDepuisOctets(const QByteArray& octets) {
 TTexteSepare TTexteSepare::Lire(const QString& chemin) { return Depuis(LireFichier(chemin), chemin); }
 
 QStringList LignesDeTexte(const QByteArray& octets, const QString& nom) {
-  if (octets.contains('\0')) throw Exception(u"Le fichier « %1 » n'est pas un fichier de texte."_s.arg(nom));
+  if (octets.contains('\0') && !EstUtf16(octets))
+    throw Exception(u"Le fichier « %1 » n'est pas un fichier de texte."_s.arg(nom));
   QString texte = TexteDepuisOctets(octets);
   texte.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
   QStringList lignes = texte.split(u'\n');

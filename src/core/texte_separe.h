@@ -25,5 +25,5 @@ QString ChampSepare(const QString& champ);
 
 /// The lines of a text, without their ends. `nom` is for messages. Raises Exception when it is no text.
 QStringList LignesDeTexte(const QByteArray& octets, const QString& nom);
-/// UTF-8 when the bytes are valid, else Windows-1252; a byte order mark is left out.
+/// UTF-16 with its mark, else UTF-8 when the bytes are valid, else Windows-1252; the mark is left out.
 QString TexteDepuisOctets(const QByteArray& octets);

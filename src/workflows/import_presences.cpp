@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "core/calendrier_scolaire.h"
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
@@ -38,9 +39,18 @@ QString NomArchive(TDateTime moment) {
       .arg(heure.second());
 }
 
+namespace {
+
+/// The day; with its year, as a text, when it is not of the one on display.
+TValeur JourVu(TDateTime date) {
+  return TImportPresences::EstHorsAnnee(date) ? TValeur(FormatJourLong(date)) : TValeur(date);
+}
+
+}  // namespace
+
 TCellules LigneRecapitulatif(const TPresence& presence) {
   const TEleve* eleve = Globals.Eleves->TrouverParId(presence.EleveId);
-  return {eleve->Nom,           eleve->Prenom,        presence.DateReleve, Texte(presence.TypePresence),
+  return {eleve->Nom,           eleve->Prenom,        JourVu(presence.DateReleve), Texte(presence.TypePresence),
           presence.HeureEntree, presence.HeureSortie, eleve->Matricule};
 }
 
@@ -48,7 +58,7 @@ TCellules LigneAnomalie(const TAnomalie& anomalie) {
   if (anomalie.Presence) return LigneRecapitulatif(*anomalie.Presence);
   return {u"Matricule inconnu ("_s + anomalie.Matricule + u')',
           QString(),
-          anomalie.Date,
+          JourVu(anomalie.Date),
           Texte(static_cast<TTypePresence>(anomalie.TypePresence)),
           anomalie.Entree,
           anomalie.Sortie,
@@ -94,6 +104,7 @@ void TImportPresences::Vider() {
   bons_.clear();
   origines_.clear();
   ajoutees_.clear();
+  bilan_ = {};
   anomalies_.clear();
   grille_ = {};
 }
@@ -181,7 +192,7 @@ bool TImportPresences::EstCorrigible(int anomalie) const {
 }
 
 bool TImportPresences::Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie,
-                                TDateTime entree) {
+                                TDateTime entree, const QString& codeImplantation) {
   if (!EstCorrigible(anomalie)) {
     controleur_.Dialogues().Message(u"La correction ne peut se faire que sur un élève existant"_s);
     return false;
@@ -191,17 +202,18 @@ bool TImportPresences::Corriger(int anomalie, TTypePresence typePresence, TDateT
   ligne.Presence->DateReleve = date;
   ligne.Presence->HeureEntree = entree;
   ligne.Presence->HeureSortie = sortie;
+  ligne.Presence->CodeImplantation = codeImplantation;
   origines_[ligne.Presence.get()] = TOrigine::Corrige;
   bons_.push_back(std::move(ligne.Presence));
   anomalies_.erase(anomalies_.begin() + anomalie);
+  pret_ = true;
   return true;
 }
 
 // A failure leaves the rest pending: the step can be taken again.
 void TImportPresences::Enregistrer() {
-  for (auto& presence : bons_)
-    if (const TPresence* ajoutee = Globals.Presences->AjoutePresence(std::move(presence)))
-      ajoutees_.push_back(ajoutee);
+  if (ajoutees_.empty()) bilan_ = {};
+  for (auto& presence : bons_) Ajouter(std::move(presence));
   bons_.clear();
   origines_.clear();
   Globals.Presences->Save();
@@ -210,6 +222,16 @@ void TImportPresences::Enregistrer() {
       throw Exception(u"Toutes les présences n'ont pas pu être mémorisées : le fichier est gardé."_s);
   ajoutees_.clear();
   pret_ = false;
+}
+
+void TImportPresences::Ajouter(std::unique_ptr<TPresence> presence) {
+  const bool derive = Origine(*presence) == TOrigine::Derive;
+  if (const TPresence* ajoutee = Globals.Presences->AjoutePresence(std::move(presence))) {
+    ajoutees_.push_back(ajoutee);
+    ++bilan_.Memorisees;
+  } else {
+    ++(derive ? bilan_.Derivees : bilan_.Doubles);
+  }
 }
 
 // A copy is left in the temporary folder by the scanner only; a file chosen by hand stays where it is.
@@ -247,6 +269,16 @@ TOrigine TImportPresences::Origine(const TPresence& bon) const {
 }
 
 int TImportPresences::NombreNonMemorises() const { return static_cast<int>(bons_.size() + ajoutees_.size()); }
+
+bool TImportPresences::EstHorsAnnee(TDateTime date) {
+  const TPeriode annee = BornesAnnee(Globals.Eleves->AnneeScolaire);
+  return date < annee.Premier || date > annee.Dernier;
+}
+
+int TImportPresences::NombreHorsAnnee() const {
+  return static_cast<int>(
+      std::ranges::count_if(bons_, [](const auto& presence) { return EstHorsAnnee(presence->DateReleve); }));
+}
 
 int TImportPresences::NombreBons() const {
   int nombre = 0;

@@ -19,6 +19,13 @@ struct TAnomalie {
 /// Where a good record comes from, besides a line of the file.
 enum class TOrigine { Fichier, Corrige, Derive };
 
+/// What step 2 made of the good records.
+struct TBilanPresences {
+  int Memorisees = 0;
+  int Doubles = 0;   ///< known already
+  int Derivees = 0;  ///< of the flat rate of the day, which is counted already
+};
+
 /// Bringing a file of scans in: each line becomes a record, the good ones are stored, and what is
 /// wrong is shown and can be corrected. What the lists show is what is stored.
 class TImportPresences {
@@ -41,13 +48,16 @@ class TImportPresences {
   /// The line of the anomalies has a record, and its pupil is still there.
   bool EstCorrigible(int anomalie) const;
   /// A line of the anomalies becomes a good record with these values; it is not tested again against
-  /// the tariff. False, after a message, when it cannot be corrected.
-  bool Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie, TDateTime entree);
+  /// the tariff, and waits for step 2, also after one. False, after a message, when it cannot be corrected.
+  bool Corriger(int anomalie, TTypePresence typePresence, TDateTime date, TDateTime sortie, TDateTime entree,
+                const QString& codeImplantation);
   /// Step 2: stores the good records in one go, then archives the local copy.
   void Etape2();
   /// Moves a stored file into the archive under its own name, but over no file that is there. Raises
   /// Exception.
   void ArchiverSousSonNom(const QString& chemin) const;
+  /// Of the last step 2.
+  const TBilanPresences& Bilan() const { return bilan_; }
   /// The same for the tablet's file, which is archived; no message.
   void StockerTablette(const QString& chemin);
 
@@ -56,7 +66,10 @@ class TImportPresences {
   TOrigine Origine(const TPresence& bon) const;
   /// Records that are ready and not stored.
   int NombreNonMemorises() const;
-  /// A file has been read and not yet stored.
+  /// Of these, those whose day is not of the year on display: nobody will see them there.
+  int NombreHorsAnnee() const;
+  static bool EstHorsAnnee(TDateTime date);
+  /// There are records to store.
   bool Pret() const { return pret_; }
   /// The site that a path stands for, "" unless parameter 113 says that there are several: the code
   /// of the first site whose name is found in the path.
@@ -82,6 +95,7 @@ class TImportPresences {
   TScan LireLigne(int ligne) const;
   void Classer(const TScan& scan, const QString& site, std::vector<TAnomalie>& sansTarif);
   void Deriver(const TScan& scan, int eleve);
+  void Ajouter(std::unique_ptr<TPresence> presence);
   void Enregistrer();
   void Archiver(const QString& fichier) const;
 
@@ -90,7 +104,8 @@ class TImportPresences {
   std::vector<std::unique_ptr<TPresence>> bons_;
   std::vector<TAnomalie> anomalies_;
   std::unordered_map<const TPresence*, TOrigine> origines_;  // of the good records that are not Fichier
-  std::vector<const TPresence*> ajoutees_;                   // by a step 2 that has not yet succeeded
+  TBilanPresences bilan_;
+  std::vector<const TPresence*> ajoutees_;  // by a step 2 that has not yet succeeded
   bool pret_ = false;
 };
 

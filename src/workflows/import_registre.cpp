@@ -1,13 +1,14 @@
 #include "workflows/import_registre.h"
 
+#include <QSet>
 #include <numeric>
-#include <unordered_set>
 
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "core/lecture_dates.h"
-#include "core/query_internal.h"
+#include "pupils/eleves.h"
+#include "workflows/professeurs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -156,57 +157,12 @@ bool TImportRegistre::VerifierAnnee() {
   if (DatePremierEleve() <= EncodeDate(annee + 1, 6, 30)) return true;
   if (!controleur_.Dialogues().ConfirmerGrave(
           u"Votre fichiel SIEL contient des élèves d'une nouvelle année scolaire.\r\n"
-          "Voulez-vous clôturer l'année scolaire %1-%2 ?"_s.arg(annee)
-              .arg(annee + 1)))
+          "Voulez-vous clôturer l'année scolaire %1-%2 ?\r\n\r\n"_s.arg(annee)
+              .arg(annee + 1) %
+          TClotureAnnee::Annonce(NombreEleves())))
     return false;
-  try {
-    Cloturer();
-  } catch (const Exception& e) {
-    throw ECloture(u"La clôture est arrêtée : l'année scolaire n'a pas changé.\n" % e.Message);
-  }
+  TClotureAnnee(controleur_).Cloturer();
   return true;
-}
-
-// The balances are those of the year on display. A second closing of a year meets the rows of the
-// first, and stops before the year moves.
-void TImportRegistre::Cloturer() {
-  IDialogues& dialogues = controleur_.Dialogues();
-  TProgression progression(dialogues, Globals.Eleves->Count());
-  int fait = 0;
-  std::unordered_set<int> clotures;  // a pupil who is enrolled twice has one account
-  for (TEleve& eleve : *Globals.Eleves) {
-    if (!clotures.insert(eleve.Id).second) continue;
-    EcrireBalance(eleve);
-    progression.Avancer(++fait, eleve.NomComplet());
-    dialogues.TraiterEvenements();
-  }
-  TParametres& parametres = *Globals.Parametres;
-  parametres.SetParametre(TParam::AnneeScolaire,
-                          QString::number(parametres.Entier(TParam::AnneeScolaire) + 1));
-  parametres.Save();
-  Globals.AnneeScolaire = parametres.Entier(TParam::AnneeScolaire);
-  dialogues.Information(
-      u"L'année scolaire est clôturée.\r\n"
-      "Vous pouvez commnencer le transfert des nouvelles informations."_s);
-}
-
-void TImportRegistre::EcrireBalance(const TEleve& eleve) {
-  TDataModule1& base = controleur_.Base();
-  const Currency frais = eleve.Solde(true, false);
-  const Currency services = eleve.Solde(false, true);
-  const Currency total = eleve.Solde(true, true);
-  const int cle = base.GetNextId(u"BALANCE"_s);
-  if (cle == -1) throw Exception(u"Le compte de " % eleve.NomComplet() % u" n'a pas reçu de numéro.");
-  TQueryInternal ajout(base,
-                       u"insert into balance values (:iBalanceID, :iEleveId, "
-                       ":iAnneeScolaire, :mTotService, :mTotFrais, :mTotal)"_s);
-  ajout.Parametre(u"iBalanceID"_s, cle)
-      .Parametre(u"iEleveId"_s, eleve.Id)
-      .Parametre(u"iAnneeScolaire"_s, Globals.AnneeScolaire)
-      .Parametre(u"mTotService"_s, services)
-      .Parametre(u"mTotFrais"_s, frais)
-      .Parametre(u"mTotal"_s, total)
-      .Executer();
 }
 
 TBilanRegistre TImportRegistre::Etape2() {
@@ -235,11 +191,83 @@ TBilanRegistre TImportRegistre::Etape2() {
   return bilan;
 }
 
+// Effect.
+
+QString TImportRegistre::NomDe(int ligne) const {
+  return QString(Champ(ligne, disposition_.Nom) % u' ' % Champ(ligne, disposition_.Prenom)).trimmed();
+}
+
+TEffetRegistre TImportRegistre::Effet() const {
+  TEffetRegistre effet;
+  if (NombreEleves() == 0) return effet;
+  const TEleves tous(controleur_.Base(), 0);
+  for (int ligne = 1; ligne < grille_.NombreLignes(); ++ligne) {
+    effet.Lignes.push_back(Sort(tous, ligne));
+    if (Champ(ligne, disposition_.Site).trimmed().isEmpty()) effet.SansSite += NomDe(ligne);
+  }
+  effet.Partis = ElevesPartis();
+  return effet;
+}
+
+TSortLigne TImportRegistre::Sort(const TEleves& eleves, int ligne) const {
+  TEleve lu;
+  try {
+    RemplirEleve(lu, ligne);
+  } catch (const EConvertError&) {
+    return TSortLigne::Illisible;
+  }
+  if (Champ(ligne, disposition_.Site).size() > kCodeImplantationMaximum) return TSortLigne::Illisible;
+  const TEleve* eleve = eleves.TrouverParMatricule(lu.Matricule);
+  if (eleve == nullptr) return TSortLigne::Nouveau;
+  return Differe(*eleve, lu, ligne) ? TSortLigne::Modifie : TSortLigne::Inchange;
+}
+
+bool TImportRegistre::Differe(const TEleve& eleve, const TEleve& lu, int ligne) const {
+  static constexpr QString TEleve::*kTextes[] = {&TEleve::Nom,
+                                                 &TEleve::Prenom,
+                                                 &TEleve::NomResponsable,
+                                                 &TEleve::PrenomResponsable,
+                                                 &TEleve::Adresse,
+                                                 &TEleve::Numero,
+                                                 &TEleve::Localite,
+                                                 &TEleve::NomResponsable2,
+                                                 &TEleve::PrenomResponsable2};
+  static constexpr QString TEleve::*kSecond[] = {&TEleve::Adresse2, &TEleve::Numero2, &TEleve::Localite2};
+  const auto autre = [&](QString TEleve::*champ) { return eleve.*champ != lu.*champ; };
+  if (std::ranges::any_of(kTextes, autre)) return true;
+  if (eleve.DateNaissance != lu.DateNaissance || eleve.CodePostal != lu.CodePostal) return true;
+  if (disposition_.Adresse2 >= 0 &&
+      (std::ranges::any_of(kSecond, autre) || eleve.CodePostal2 != lu.CodePostal2))
+    return true;
+  // The class too: of the year that step 2 will write to, which is not the one on display after a closing.
+  const TEleve* inscrit = Globals.Eleves->AnneeScolaire == Globals.AnneeScolaire
+                              ? Globals.Eleves->TrouverParId(eleve.Id)
+                              : nullptr;
+  return inscrit == nullptr || inscrit->CodeClasse != Classe(ligne) ||
+         inscrit->SousClasse != Champ(ligne, disposition_.SousClasse) ||
+         inscrit->CodeImplantation != Champ(ligne, disposition_.Site);
+}
+
+// A file of one site says nothing of the pupils of the others.
+QStringList TImportRegistre::ElevesPartis() const {
+  QSet<QString> presents;
+  for (int ligne = 1; ligne < grille_.NombreLignes(); ++ligne)
+    presents += Champ(ligne, disposition_.Matricule);
+  const QString site = Globals.Parametres->GetParametre(TParam::CodeEtablissement);
+  QStringList partis;
+  for (const TEleve& eleve : *Globals.Eleves) {
+    const bool ailleurs =
+        !site.isEmpty() && !eleve.CodeImplantation.isEmpty() && eleve.CodeImplantation != site;
+    if (eleve.FlgRadie || ailleurs || TProfesseurs::EstProfesseur(eleve)) continue;
+    if (!presents.contains(eleve.Matricule)) partis += eleve.NomComplet();
+  }
+  return partis;
+}
+
 /// The failure of a row, with the line of the file and the pupil's name.
 QString TImportRegistre::Situer(int ligne, const Exception& e) {
   ligneRefusee_ = ligne;
-  const QString nom =
-      QString(Champ(ligne, disposition_.Nom) % u' ' % Champ(ligne, disposition_.Prenom)).trimmed();
+  const QString nom = NomDe(ligne);
   return u"Ligne " % QString::number(NumeroLigne(ligne)) % u" du fichier" %
          (nom.isEmpty() ? QString() : QString(u" (" % nom % u')')) % u" : " % e.Message %
          u"\nLes élèves des lignes qui précèdent sont enregistrés.";

@@ -1,9 +1,12 @@
 #pragma once
+#include <QStringList>
+#include <algorithm>
 #include <functional>
+#include <vector>
 
 #include "application/controleur.h"
-#include "core/exceptions.h"
 #include "core/texte_separe.h"
+#include "workflows/cloture_annee.h"
 
 /// What the transfer of a register did.
 struct TBilanRegistre {
@@ -12,10 +15,15 @@ struct TBilanRegistre {
   int Modifies = 0;
 };
 
-/// The closing of a year stopped: the year has not changed.
-class ECloture : public Exception {
- public:
-  using Exception::Exception;
+/// What a row of the file will do.
+enum class TSortLigne { Nouveau, Modifie, Inchange, Illisible };
+
+/// What step 2 will do, told before it is taken.
+struct TEffetRegistre {
+  std::vector<TSortLigne> Lignes;  ///< by data row
+  QStringList Partis;              ///< pupils of the year on display that the file no longer holds
+  QStringList SansSite;            ///< pupils of the file without a site
+  int Nombre(TSortLigne sort) const { return static_cast<int>(std::ranges::count(Lignes, sort)); }
 };
 
 /// Loading the pupils from an export of the school register, in two steps; a file of a new school
@@ -29,6 +37,8 @@ class TImportRegistre {
   /// step 2 may follow. Raises Exception for a file that cannot be read, EConvertError for one that
   /// bears no date, ECloture.
   bool Etape1(const QString& fichier);
+  /// Reads every row against what the table holds; nothing is changed.
+  TEffetRegistre Effet() const;
   /// Step 2: writes each pupil and enrolment at once, then loads the working year. A malformed row
   /// raises EConvertError, which names it; the rows before it stay.
   TBilanRegistre Etape2();
@@ -75,8 +85,10 @@ class TImportRegistre {
   bool VerifierAnnee();
   TDateTime DatePremierEleve() const;
   QString Situer(int ligne, const Exception& e);
-  void Cloturer();
-  void EcrireBalance(const TEleve& eleve);
+  TSortLigne Sort(const TEleves& eleves, int ligne) const;
+  bool Differe(const TEleve& eleve, const TEleve& lu, int ligne) const;
+  QStringList ElevesPartis() const;
+  QString NomDe(int ligne) const;
   void TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan);
   void RemplirEleve(TEleve& eleve, int ligne) const;
   QString Champ(int ligne, int colonne) const;

@@ -26,6 +26,7 @@ TEST_F(TLotEssai, TheFileOfTheDatabase) {
   Fichier("vide.fdb", {});
   const auto creer = [&](const char* nom) { return QStringList{u"--serveur"_s, Chemin(nom), u"creer"_s}; };
   VerifierTels({
+      {{u"--serveur"_s, Chemin("neuve.fdb"), u"--oui"_s, u"solde"_s}, 1, {}, u"rien n'y a été créé"_s},
       {creer("neuve.fdb"), 0, {}, u"neuve.fdb » est créée."_s},
       {creer("neuve.fdb"), 0, {}, u"Votre base de données est à jour !"_s},
       {creer("vide.fdb"), 1, {}, u"est vide"_s},

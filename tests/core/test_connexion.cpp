@@ -126,13 +126,19 @@ TEST(Connexion, WhereTheServersNameComesFrom) {
   // Nothing known: the user is asked; blanks are no answer, and without a name there is no connection.
   base.Dialogues.Saisit(u"Identification du Serveur de données"_s, u"   "_s);
   EXPECT_FALSE(base->ConnectToServer());
-  base.Dialogues.Saisit(u"nom du serveur de données ou son adresse réseau :"_s, QString(u' ' + b));
+  const QString absente = u"Aucune école ne se trouve à cet endroit :\n"_s;
+  base.Dialogues.Saisit(u"nom du serveur de données ou son adresse réseau :"_s, QString(u' ' + b))
+      .Repond(absente + b, false);
+  EXPECT_THROW(base->ConnectToServer(), Exception);
+  EXPECT_FALSE(QFile::exists(b)) << "a school that was moved is not replaced by an empty one";
+  base.Dialogues.Repond(absente + b, true);
   EXPECT_TRUE(base->ConnectToServer());
   EXPECT_EQ(base->ServerName, QString(u' ' + b)) << "kept as typed";
   EXPECT_EQ(reglages.Lire(TRacine::Machine, u"Serveur"_s), QString(u' ' + b));
   // The user's own name serves when the machine has none; the machine's goes first.
   reglages.Ecrire(TRacine::Machine, u"Serveur"_s, {});
   reglages.Ecrire(TRacine::Utilisateur, u"Serveur"_s, a);
+  base.Dialogues.Repond(absente + a, true);
   EXPECT_TRUE(base->ConnectToServer());
   EXPECT_EQ(base->ServerName, a);
   reglages.Ecrire(TRacine::Machine, u"Serveur"_s, b);

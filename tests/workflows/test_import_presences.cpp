@@ -74,9 +74,9 @@ TEST_F(TScansEssai, LinesBecomeRecords) {
   EXPECT_EQ(import.NombreEntrees(), 8);
 
   base.Dialogues.Attend(u"La correction ne peut se faire que sur un élève existant"_s);
-  EXPECT_FALSE(import.Corriger(0, TTypePresence::Garderie, 0, 0, 0));
+  EXPECT_FALSE(import.Corriger(0, TTypePresence::Garderie, 0, 0, 0, {}));
   EXPECT_TRUE(import.Corriger(5, TTypePresence::Garderie, EncodeDate(2016, 10, 7), EncodeTime(17, 0),
-                              EncodeTime(15, 45)));
+                              EncodeTime(15, 45), {}));
   EXPECT_TRUE(rangees().isEmpty()) << "nothing is stored before step 2";
   base.Dialogues.Attend(kMemorisees);
   import.Etape2();
@@ -84,6 +84,33 @@ TEST_F(TScansEssai, LinesBecomeRecords) {
   EXPECT_EQ(rangees(), (QStringList{"1;2016-10-03;07:30:00.000;-;", "4;2016-10-03;-;16:00:00.000;",
                                     "1;2016-10-07;15:45:00.000;17:00:00.000;"}));
   EXPECT_TRUE(QFile::exists(base.Chemin(u"scans.txt"_s))) << "a file chosen by hand stays";
+}
+
+TEST_F(TScansEssai, StepTwoTellsWhatItStoredAndTheRestCanFollow) {
+  charger();
+  const QByteArray lignes =
+      "11;1;20161003;073015000;1\n11;1;20150903;073000000;1\n11;1;20161004;110000000;2\n";
+  base.Dialogues.Attend(kAnomalies).Attend(kMemorisees);
+  import.ImporterFichier(fichier(lignes));
+  EXPECT_EQ(import.NombreHorsAnnee(), 1);
+  EXPECT_EQ(LigneRecapitulatif(*import.Bons()[1])[2], TValeur(u"jeudi 3 septembre 2015"_s)) << "another year is seen";
+  import.Etape2();
+  EXPECT_EQ(import.Bilan().Memorisees, 2);
+  EXPECT_FALSE(import.Pret());
+
+  EXPECT_TRUE(
+      import.Corriger(0, TTypePresence::Garderie, EncodeDate(2016, 10, 4), 0, EncodeTime(7, 45), u"S1"_s));
+  EXPECT_TRUE(import.Pret()) << "what is corrected after a step 2 waits for another one";
+  EXPECT_EQ(import.NombreNonMemorises(), 1);
+  base.Dialogues.Attend(kMemorisees).Attend(kAnomalies).Attend(kMemorisees);
+  import.Etape2();
+  EXPECT_EQ(rangees().value(2), u"1;2016-10-04;07:45:00.000;-;S1");
+
+  import.ImporterFichier(fichier(lignes));
+  import.Etape2();
+  EXPECT_EQ(import.Bilan().Memorisees, 0);
+  EXPECT_EQ(import.Bilan().Doubles, 2) << "known already";
+  EXPECT_EQ(rangees().size(), 3);
 }
 
 TEST_F(TScansEssai, TheDayFlatRateMakesAMealADayCareToo) {

@@ -53,6 +53,31 @@ TEST(ImportRegistre, BothLayoutsCreateAndUpdate) {
   }
 }
 
+TEST(ImportRegistre, TheEffectIsToldBeforeStepTwo) {
+  TBaseEssai base;
+  TEcoleEssai ecole(base);
+  ecole.unEleve().matricule(u"1234-3"_s).enClasse(u"P3"_s, u"B"_s, u"SITE"_s);
+  ecole.unEleve().nomme(u"PARTI"_s, u"Luc"_s).enClasse(u"P1"_s, u"A"_s, u"SITE"_s);
+  ecole.unEleve().enClasse(u"PROFESSEURS"_s, {});
+  TControleurEssai essai(base);
+  essai.Charger();
+  TImportRegistre import(essai.Controleur);
+  ASSERT_TRUE(import.Etape1(TFichierRegistre(1).Mettre(5, 6, u"hier"_s).Mettre(2, 1, {}).Ecrire(base)));
+  const TEffetRegistre effet = import.Effet();
+  using enum TSortLigne;
+  EXPECT_EQ(effet.Lignes,
+            (std::vector{Nouveau, Nouveau, Modifie, Nouveau, Illisible, Nouveau, Nouveau, Nouveau, Nouveau}));
+  EXPECT_EQ(effet.Partis, QStringList{u"PARTI Luc"_s}) << "teachers are in no register";
+  EXPECT_EQ(effet.SansSite, QStringList{u"Nom 1234-2 Zoé"_s});
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM ELEVES"_s), u"3") << "nothing is changed";
+
+  ASSERT_TRUE(import.Etape1(TFichierRegistre(1).Ecrire(base)));
+  import.Etape2();
+  ASSERT_TRUE(import.Etape1(TFichierRegistre(1).Mettre(4, 18, u"C"_s).Ecrire(base)));
+  EXPECT_EQ(import.Effet().Nombre(Inchange), 8);
+  EXPECT_EQ(import.Effet().Lignes[3], Modifie) << "another class";
+}
+
 TEST(ImportRegistre, FiltersAndShortFiles) {
   TBaseEssai base;
   TEcoleEssai ecole(base);

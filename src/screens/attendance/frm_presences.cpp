@@ -247,7 +247,7 @@ void TfrmPresences::Corrigerlerelev1Click() {
   saisie.Charger(presence->TypePresence, presence->HeureSortie, presence->HeureEntree, presence->DateReleve);
   if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
   import_.Corriger(ligne, saisie.TypePresence(), saisie.DateReleve(), saisie.HeureSortie(),
-                   saisie.HeureEntree());
+                   saisie.HeureEntree(), saisie.CodeImplantation());
   AjouterBon(*import_.Bons().back());
   Anomalies.Retirer(ligne);
   if (compteurs_.AJour) Compter();

@@ -1,0 +1,67 @@
+#include "workflows/cloture_annee.h"
+
+#include <unordered_set>
+
+#include "core/accord.h"
+#include "core/query_internal.h"
+
+using namespace Qt::StringLiterals;
+
+QString TClotureAnnee::Annonce(int eleves) {
+  const int annee = Globals.AnneeScolaire;
+  std::unordered_set<int> comptes;
+  for (const TEleve& eleve : *Globals.Eleves) comptes.insert(eleve.Id);
+  return u"La clôture écrit la balance de %1, fait passer %2 du fichier en %3-%4 et quitte l'année "
+         "%5-%3."_s.arg(CompterEleves(static_cast<qint64>(comptes.size())), CompterEleves(eleves))
+             .arg(annee + 1)
+             .arg(annee + 2)
+             .arg(annee);
+}
+
+void TClotureAnnee::Cloturer() {
+  try {
+    EcrireBalances();
+    TParametres& parametres = *Globals.Parametres;
+    parametres.SetParametre(TParam::AnneeScolaire,
+                            QString::number(parametres.Entier(TParam::AnneeScolaire) + 1));
+    parametres.Save();
+    Globals.AnneeScolaire = parametres.Entier(TParam::AnneeScolaire);
+  } catch (const Exception& e) {
+    throw ECloture(u"La clôture est arrêtée : l'année scolaire n'a pas changé.\n" % e.Message);
+  }
+  controleur_.Dialogues().Information(
+      u"L'année scolaire est clôturée.\r\n"
+      "Vous pouvez commnencer le transfert des nouvelles informations."_s);
+}
+
+void TClotureAnnee::EcrireBalances() {
+  IDialogues& dialogues = controleur_.Dialogues();
+  TProgression progression(dialogues, Globals.Eleves->Count());
+  int fait = 0;
+  std::unordered_set<int> clotures;  // a pupil who is enrolled twice has one account
+  for (const TEleve& eleve : *Globals.Eleves) {
+    if (!clotures.insert(eleve.Id).second) continue;
+    EcrireBalance(eleve);
+    progression.Avancer(++fait, eleve.NomComplet());
+    dialogues.TraiterEvenements();
+  }
+}
+
+void TClotureAnnee::EcrireBalance(const TEleve& eleve) {
+  TDataModule1& base = controleur_.Base();
+  const Currency frais = eleve.Solde(true, false);
+  const Currency services = eleve.Solde(false, true);
+  const Currency total = eleve.Solde(true, true);
+  const int cle = base.GetNextId(u"BALANCE"_s);
+  if (cle == -1) throw Exception(u"Le compte de " % eleve.NomComplet() % u" n'a pas reçu de numéro.");
+  TQueryInternal ajout(base,
+                       u"insert into balance values (:iBalanceID, :iEleveId, "
+                       ":iAnneeScolaire, :mTotService, :mTotFrais, :mTotal)"_s);
+  ajout.Parametre(u"iBalanceID"_s, cle)
+      .Parametre(u"iEleveId"_s, eleve.Id)
+      .Parametre(u"iAnneeScolaire"_s, Globals.AnneeScolaire)
+      .Parametre(u"mTotService"_s, services)
+      .Parametre(u"mTotFrais"_s, frais)
+      .Parametre(u"mTotal"_s, total)
+      .Executer();
+}
