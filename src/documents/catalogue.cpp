@@ -74,6 +74,10 @@ const TTitreDocument* TrouverTitre(QStringView titre) {
   return trouve == std::end(kTitres) ? nullptr : trouve;
 }
 
+QString Empechement(const TTitreDocument& titre) {
+  return titre.Construire != nullptr ? QString() : QStringLiteral("pas encore disponible");
+}
+
 bool DemandeDatePaiement(const TTitreDocument& titre, const TParametres& parametres) {
   return titre.DemandeDate != nullptr && titre.DemandeDate(parametres);
 }

@@ -17,6 +17,8 @@ struct TTitreDocument {
   bool AvecPeriode = false;  ///< the user chooses a period
   bool AvecEleves = true;    ///< the user chooses pupils or classes
   bool Courriel = false;     ///< the command for mail offers it too
+  /// Why that document cannot be made here; "" when it can.
+  QString Empechement(const TTitreDocument& titre);
   /// Whether the user has to be asked for a payment date before it; null: never.
   bool (*DemandeDate)(const TParametres&) = nullptr;
   TListeTitres Liste = TListeTitres::Eleves;

@@ -34,6 +34,10 @@ std::vector<TGeneration> GenerationsFacture(const TParametres& parametres) {
   return {TGeneration::Provision, TGeneration::Activites};
 }
 
+bool EstModeleFacture(QStringView modele) {
+  return modele.startsWith(u"Facture") || modele.startsWith(u"ReleveFacture");
+}
+
 bool FactureDemandeDate(const TParametres& parametres) {
   return parametres.EstVrai(TParam::DatePaiement) && Regle(GenerationsFacture(parametres).front()).AvecDate;
 }

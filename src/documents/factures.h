@@ -8,6 +8,9 @@ enum class TGeneration { PostesOuverts, Provision, Activites, CompteCourant };
 /// The invoices of the school, in the order in which they are made, by parameters 107, 25 and 108.
 std::vector<TGeneration> GenerationsFacture(const TParametres& parametres);
 
+/// Whether that template is one of the invoices', whatever their title.
+bool EstModeleFacture(QStringView modele);
+
 /// Whether the user is asked for a payment date before the document "Facture".
 bool FactureDemandeDate(const TParametres& parametres);
 

@@ -8,16 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// Lower case, and accents as characters of their own that are left out.
-QString Simplifier(const QString& texte) {
-  QString simple = texte.normalized(QString::NormalizationForm_KD).toLower();
-  simple.removeIf([](QChar c) { return c.isMark(); });
-  return simple;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 TGrille::TLot::~TLot() {
   if (--grille_.lots_ > 0 || !grille_.change_) return;

@@ -42,8 +42,8 @@ QString NomArchive(TDateTime moment) {
 namespace {
 
 /// The day; with its year, as a text, when it is not of the one on display.
-TValeur JourVu(TDateTime date) {
-  return TImportPresences::EstHorsAnnee(date) ? TValeur(FormatJourLong(date)) : TValeur(date);
+TValeurVue JourVu(TDateTime date) {
+  return TImportPresences::EstHorsAnnee(date) ? TValeurVue(FormatJourLong(date)) : TValeurVue(date);
 }
 
 }  // namespace

@@ -113,11 +113,11 @@ TEST_F(FrmMain, ACommandOpensItsScreenWithItsTools) {
   EXPECT_EQ(journal, QStringList{"6029"}) << "the screen takes up the selected pupil at once";
   EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
   EXPECT_TRUE(Main.OutilActif(TOutil::btnPrint));
-  EXPECT_TRUE(Main.OutilActif(TOutil::btnMail));
+  EXPECT_FALSE(Main.OutilActif(TOutil::btnMail)) << "nothing is sent yet";
   EXPECT_FALSE(Main.OutilVisible(TOutil::btnDelete));
   journal.clear();
   for (const TOutilPrincipal& outil : OutilsPrincipaux()) Main.OutilClick(outil.Outil);
-  EXPECT_EQ(journal, (QStringList{"quitte", "6032", "quitte", "6037"}));
+  EXPECT_EQ(journal, (QStringList{"quitte", "6032"}));
 
   TForm* fiche = Main.Panneau.Courante();
   Main.Executer(TGestionnaire::AdvGlowButton16Click);
@@ -167,7 +167,7 @@ TEST_F(FrmMain, AStruckOffPupilIsCrossedOutOrLeftOut) {
   TArbre sien;
   ConstruireArbre(sien, true, false);
   EXPECT_EQ(sien.Racines().front()->Enfants().size(), 2U);
-  EXPECT_EQ(Main.NombreRadies(), 1);
+  EXPECT_EQ(Main.TexteNombres(), u"4 élèves, dont 1 radié");
 
   for (const bool radie : {true, false}) {
     Globals.EleveCourant = &(*Globals.Eleves)[0];
@@ -205,7 +205,7 @@ TEST_F(FrmMain, SearchFromTheStartThenOnward) {
   Ecole();
   Main.Montrer();
   const char* const cas[][2] = {
-      {"p", "P1 A"}, {"  PIR ", "Pirard X"}, {"él", "Élias X"}, {"   ", "Élias X"}, {"zz", "Élias X"}};
+      {"p", "P1 A"}, {"  PIR ", "Pirard X"}, {"él", "Élias X"}, {"   ", "Élias X"}, {"zz", ""}};
   for (const auto& [texte, attendu] : cas) {
     Chercher(texte);
     EXPECT_EQ(Choisi().toStdString(), attendu) << texte;
@@ -227,6 +227,64 @@ TEST_F(FrmMain, SearchFromTheStartThenOnward) {
   Chercher("zz");
   Base.Dialogues.Repond(fin, true).Repond(fin, true).Repond(fin, false);
   Main.btnRechercheClick();
+}
+
+// Nobody is current after a search that found nobody, so that nobody's bill is printed by mistake.
+TEST_F(FrmMain, ASecondSearchWhereTheFirstFindsNothing) {
+  Eleve("Adam", "P1");
+  Eleve("Dubois", "P1").matricule(u"212-04127-38"_s);
+  Eleve("Éloy", "P2");
+  Base.Sql(u"UPDATE ELEVES SET NOM_RESPONSABLE = 'Lefèvre' WHERE NOM <> 'Adam'"_s);
+  Main.Montrer();
+  Chercher("lefevre");
+  EXPECT_EQ(Main.Trouves().size(), 2U) << "several show a list";
+  EXPECT_EQ(Globals.EleveCourant, nullptr);
+  Main.ChoisirTrouve(1);
+  EXPECT_EQ(Globals.EleveCourant->Nom, u"Éloy");
+  EXPECT_TRUE(Main.Trouves().empty());
+  EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves") << "the first find opens its record";
+
+  Chercher("BOIS");
+  EXPECT_EQ(Choisi(), u"Dubois X");
+  Main.btnRechercheClick();
+  EXPECT_EQ(Choisi(), u"Dubois X") << "a single hit asks nothing";
+  journal.clear();
+  Chercher("personne");
+  EXPECT_EQ(Globals.EleveCourant, nullptr);
+  EXPECT_EQ(journal.last(), u"6029") << "the record lets go of the pupil";
+  EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Alerte);
+
+  // As a hand scanner types it: the field stays empty, Enter looks for the number.
+  Main.edSearchChange({});
+  for (const QString& morceau : {u"212"_s, u"-04127-38"_s})
+    EXPECT_EQ(Main.edSearchSaisie(morceau), QString());
+  Main.btnRechercheClick();
+  EXPECT_EQ(Globals.EleveCourant->Nom, u"Dubois");
+  Main.edSearchSaisie(u"99"_s);
+  Main.btnRechercheClick();
+  EXPECT_EQ(Globals.EleveCourant, nullptr);
+}
+
+TEST_F(FrmMain, TheTreeReadsAsAFrenchReaderExpects) {
+  for (const char* nom : {"Éloy", "Zorn", "Evrard", "Şahin", "Simon"}) Eleve(nom, "P1", "S1");
+  Eleve("Seul", "P2", "S2");
+  Eleve("Perdu", "P3");
+  Eleve("Maître", "PROFESSEURS");
+  Main.Montrer();
+  EXPECT_EQ(Textes().mid(2, 5),
+            (QStringList{">>Éloy X", ">>Evrard X", ">>Şahin X", ">>Simon X", ">>Zorn X"}));
+  EXPECT_EQ(Main.TexteNombres(), u"7 élèves, 1 sans implantation") << "a teacher is no pupil";
+}
+
+TEST_F(FrmMain, ItReopensOnTheLastPupilAndScreen) {
+  Ecole();
+  Main.Montrer();
+  Chercher("pirard");
+  EXPECT_TRUE(Main.Fermer());
+  Base->ConnectToServer();
+  Main.Montrer();
+  EXPECT_EQ(Globals.EleveCourant->Nom, u"Pirard");
+  EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
 }
 
 // What the dialogs say and what is stored of the name: in the tests of the window.

@@ -22,7 +22,7 @@ class FrmImport : public testing::Test {
   QString Etats() const {
     QString lettres;
     for (int ligne = 0; ligne < Form.Grille.NombreLignes(); ++ligne)
-      lettres += u"-eTR"_s.at(Form.Grille.Ligne(ligne).Etat);
+      lettres += u"-eTRNMIX"_s.at(Form.Grille.Ligne(ligne).Etat);
     return lettres;
   }
 
@@ -36,10 +36,11 @@ class FrmImport : public testing::Test {
 TEST_F(FrmImport, AFileIsShownThenTransferred) {
   Ouvrir(TFichierRegistre(1).Mettre(2, 6, u"2010/01/02"_s).Ecrire(Base));
   ASSERT_EQ(Form.Grille.NombreLignes(), 9);
-  EXPECT_EQ(Form.Grille.Textes(0),
-            (QStringList{"", "1234-1", "Nom 1234-1", "Zoé", "28/02/2010", "P3 B", "SITE", "Père", "Wavre"}));
+  EXPECT_EQ(Form.Grille.Textes(0), (QStringList{"Nouveau", "1234-1", "Nom 1234-1", "Zoé", "28/02/2010",
+                                                "P3 B", "SITE", "Père", "Wavre"}));
   EXPECT_EQ(Form.Grille.Texte(1, TFrmImport::Naissance), u"2010/01/02") << "shown as it stands";
   EXPECT_TRUE(Form.Etape2Suivante());
+  EXPECT_EQ(Form.Effet(), u"8 nouveaux, 1 illisible") << "told before anything is written";
 
   Ouvrir(TFichierRegistre(1).Ecrire(Base));
   // What a view sees while it runs.
@@ -108,4 +109,11 @@ TEST_F(FrmImport, AFaultStopsAtItsRow) {
   EXPECT_THROW(Form.btnEtape2Click(), Exception);
   EXPECT_EQ(Etats(), u"---------");
   EXPECT_EQ(Form.Feuille().Titre, u"Transfert arrêté");
+}
+
+TEST_F(FrmImport, APupilWithoutASiteIsTold) {
+  Ouvrir(TFichierRegistre(1).Mettre(3, 1, {}).Ecrire(Base));
+  EXPECT_EQ(Form.Effet(), u"9 nouveaux, 1 sans implantation");
+  Base.Dialogues.Attend(u"1 élève importé n'a pas d'implantation :\nNom 1234-3 Zoé"_s);
+  Form.btnEtape2Click();
 }

@@ -151,12 +151,12 @@ TEST_F(FrmPresences, AFileByHandIsCorrectedAndStored) {
   EXPECT_EQ(Stockees(), u"4");
   EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM PRESENCES WHERE HEURE_ENTREE = '07:45'"_s), u"1");
   EXPECT_FALSE(Form.Etape2Active());
-  EXPECT_FALSE(Form.PeutCorriger());
+  EXPECT_TRUE(Form.PeutCorriger()) << "also after a step 2";
   EXPECT_EQ(Form.NoteAnomalies(), u"1 ligne n'a pas été mémorisée");
   Base.Dialogues.Attend(kInexistant);
   Form.Corrigerlerelev1Click();
   EXPECT_TRUE(Form.Fermer());
-  EXPECT_EQ(Ecran.Etats.last(), kMemorisees) << "nothing is left to store";
+  EXPECT_EQ(Ecran.Etats.last(), u"4 relevés mémorisés") << "nothing is left to store";
 }
 
 TEST_F(FrmPresences, APupilWhoIsGoneIsNotCorrected) {
@@ -174,12 +174,33 @@ TEST_F(FrmPresences, AStepTwoThatFailsCanBeTakenAgain) {
   EXPECT_THROW(Form.btnEtape2Click(), Exception);
   EXPECT_TRUE(Form.Etape2Active());
   EXPECT_FALSE(Form.Recapitulatif.Ligne(1).Objet) << "the second was dropped";
+  Base.Dialogues.Repond(u"1 relevé non mémorisé.\nContinuer sans"_s, true);
   EXPECT_TRUE(Form.Fermer());
   EXPECT_EQ(Ecran.Etats.last(), u"1 relevé non mémorisé");
   Base.Sql(u"INSERT INTO COUNTERS VALUES ('PRESENCES', 0)"_s);
   Base.Dialogues.Attend(kMemorisees);
   Form.btnEtape2Click();
   EXPECT_EQ(Stockees(), u"1");
+}
+
+TEST_F(FrmPresences, NothingThatWasReadGoesInSilence) {
+  Importer("11;1;20161003;073015000;1\n11;1;20150903;073000000;1\n");
+  EXPECT_EQ(Lignes(Form.Recapitulatif).last(), u"Eleve1|Garderie|Hors de l'année");
+  EXPECT_EQ(Form.NoteRecapitulatif(), u"2 relevés prêts, dont 1 hors de l'année");
+  const QString question = u"2 relevés non mémorisés.\nContinuer sans les mémoriser ?"_s;
+  Base.Dialogues.Repond(question, false).Repond(question, false).Repond(u"1 relevé est daté hors"_s, false);
+  EXPECT_FALSE(Form.Fermer());
+  Form.Importerunfichierdeprsence1Click();
+  EXPECT_EQ(Form.Recapitulatif.NombreLignes(), 2) << "another file does not take its place";
+  Form.btnEtape2Click();
+  EXPECT_EQ(Stockees(), u"0");
+  Base.Dialogues.Repond(u"hors de l'année affichée, 2016 - 2017"_s, true).Attend(kMemorisees);
+  Form.btnEtape2Click();
+  EXPECT_EQ(Stockees(), u"2");
+  Importer("11;1;20161003;073015000;1\n");
+  Base.Dialogues.Attend(kMemorisees);
+  Form.btnEtape2Click();
+  EXPECT_EQ(Form.NoteRecapitulatif(), u"0 relevé mémorisé, 1 déjà connu (1 en double)");
 }
 
 TEST_F(FrmPresences, TheScannersFileIsCopiedStoredAndDeleted) {

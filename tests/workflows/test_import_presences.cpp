@@ -93,7 +93,8 @@ TEST_F(TScansEssai, StepTwoTellsWhatItStoredAndTheRestCanFollow) {
   base.Dialogues.Attend(kAnomalies).Attend(kMemorisees);
   import.ImporterFichier(fichier(lignes));
   EXPECT_EQ(import.NombreHorsAnnee(), 1);
-  EXPECT_EQ(LigneRecapitulatif(*import.Bons()[1])[2], TValeur(u"jeudi 3 septembre 2015"_s)) << "another year is seen";
+  EXPECT_EQ(LigneRecapitulatif(*import.Bons()[1])[2], TValeurVue(u"jeudi 3 septembre 2015"_s))
+      << "another year is seen";
   import.Etape2();
   EXPECT_EQ(import.Bilan().Memorisees, 2);
   EXPECT_FALSE(import.Pret());

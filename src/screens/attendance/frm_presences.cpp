@@ -3,7 +3,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QScopedValueRollback>
+#include <utility>
 
+#include "core/accord.h"
+#include "core/formats.h"
 #include "screens/attendance/frm_ajout_releve.h"
 #include "workflows/lien_lecteur.h"
 
@@ -26,17 +29,26 @@ std::vector<TColonneGrille> Colonnes() {
           {u"État"_s, 140, TGenre::Etat}};
 }
 
-/// "1 relevé prêt", "2 relevés prêts"
-QString Releves(int nombre, const QString& un, const QString& plusieurs) {
-  return QString::number(nombre) % u' ' % (nombre > 1 ? plusieurs : un);
+/// The windows in which a scan of that kind counts that day, for who corrects it: "matin 07:00 - 08:30".
+QString HeuresDesTarifs(TTypePresence type, TDateTime date) {
+  QStringList heures;
+  for (const TTarifGarderie& tarif : *Globals.TarifsGarderies) {
+    if (GroupeTarif(tarif.TypeFamille) != GroupeDe(type) || !JourConvient(tarif.TypeJour, date)) continue;
+    const QString texte = Texte(tarif.TypeFamille) % u' ' % FormatHeureCourte(tarif.HeureDebutScan) % u" - " %
+                          FormatHeureCourte(tarif.HeureFinScan);
+    if (!heures.contains(texte)) heures += texte;
+  }
+  return heures.isEmpty() ? u"Aucun tarif ce jour-là."_s : QString(u"Tarifs : " % heures.join(u", "));
 }
 
 }  // namespace
 
 TfrmPresences::TfrmPresences(TContexteEcran& contexte)
     : Recapitulatif(Colonnes()), Anomalies(Colonnes()), contexte_(contexte), import_(contexte.Controleur) {
-  Recapitulatif.Etats = {
-      {}, {u"Corrigé"_s, u"data-information"_s}, {u"Forfait journée"_s, u"data-information"_s}};
+  Recapitulatif.Etats = {{},
+                         {u"Corrigé"_s, u"data-information"_s},
+                         {u"Forfait journée"_s, u"data-information"_s},
+                         {u"Hors de l'année"_s, u"data-warning"_s}};
   Anomalies.Etats = {{}, {u"Inconnu"_s, u"data-error"_s}, {u"Sans tarif"_s, u"data-warning"_s}};
 }
 
@@ -46,7 +58,14 @@ void TfrmPresences::FormShow() { scannerVisible_ = !Globals.Parametres->EstVrai(
 
 bool TfrmPresences::FormCloseQuery() {
   if (enCours_) Signaler(TNiveauEtat::Alerte, u"Le lecteur est lu : l'écran reste ouvert jusqu'à la fin."_s);
-  return !enCours_;
+  return !enCours_ && AccepteDePerdre();
+}
+
+// What was read, and perhaps corrected, goes only when the user says so.
+bool TfrmPresences::AccepteDePerdre() const {
+  const QString reste = EnSuspens();
+  return reste.isEmpty() ||
+         contexte_.Dialogues().ConfirmerGrave(reste % u".\nContinuer sans les mémoriser ?");
 }
 
 void TfrmPresences::FormClose() {
@@ -56,7 +75,7 @@ void TfrmPresences::FormClose() {
 
 QString TfrmPresences::EnSuspens() const {
   const int reste = import_.NombreNonMemorises();
-  return reste == 0 ? QString() : Releves(reste, u"relevé non mémorisé"_s, u"relevés non mémorisés"_s);
+  return Compter(reste, u"relevé non mémorisé"_s, u"relevés non mémorisés"_s, {});
 }
 
 QString TfrmPresences::TitreSource() const {
@@ -76,22 +95,35 @@ QString TfrmPresences::NoteAnomalies() const {
   const int nombre = Anomalies.NombreLignes();
   if (nombre == 0) return lu_ ? u"Aucune anomalie"_s : QString();
   if (!import_.Pret())
-    return Releves(nombre, u"ligne n'a pas été mémorisée"_s, u"lignes n'ont pas été mémorisées"_s);
-  return Releves(nombre, u"ligne ne sera pas mémorisée tant qu'elle n'est pas corrigée"_s,
+    return Compter(nombre, u"ligne n'a pas été mémorisée"_s, u"lignes n'ont pas été mémorisées"_s);
+  return Compter(nombre, u"ligne ne sera pas mémorisée tant qu'elle n'est pas corrigée"_s,
                  u"lignes ne seront pas mémorisées tant qu'elles ne sont pas corrigées"_s);
 }
 
 QString TfrmPresences::NoteRecapitulatif() const {
-  const int nombre = Recapitulatif.NombreLignes();
   if (!lu_) return {};
-  if (!import_.Pret()) return u"Les présences sont mémorisées"_s;
-  return Releves(nombre, u"relevé prêt"_s, u"relevés prêts"_s);
+  if (!import_.Pret()) return TexteBilan();
+  const int hors = import_.NombreHorsAnnee();
+  const QString prets = Compter(import_.NombreNonMemorises(), u"relevé prêt"_s, u"relevés prêts"_s);
+  return hors == 0 ? prets : QString(prets % u", dont %1 hors de l'année"_s.arg(hors));
+}
+
+QString TfrmPresences::TexteBilan() const {
+  const TBilanPresences& bilan = import_.Bilan();
+  QString texte = Compter(bilan.Memorisees, u"relevé mémorisé"_s, u"relevés mémorisés"_s);
+  const int connus = bilan.Doubles + bilan.Derivees;
+  if (connus == 0) return texte;
+  QStringList raisons;
+  if (bilan.Doubles > 0) raisons += u"%1 en double"_s.arg(bilan.Doubles);
+  if (bilan.Derivees > 0) raisons += u"%1 du forfait journée"_s.arg(bilan.Derivees);
+  return texte % u", " % Compter(connus, u"déjà connu"_s, u"déjà connus"_s) % u" (" % raisons.join(u", ") %
+         u')';
 }
 
 // Step 1.
 
 void TfrmPresences::btnImportScannerClick() {
-  if (enCours_) return;
+  if (enCours_ || !AccepteDePerdre()) return;
   const TAttente attente(contexte_.Dialogues());
   Vider();
   if (!OuvrirLien()) {
@@ -154,7 +186,7 @@ bool TfrmPresences::CopierDuLecteur(const QString& local) {
 }
 
 void TfrmPresences::Importerunfichierdeprsence1Click() {
-  if (enCours_) return;
+  if (enCours_ || !AccepteDePerdre()) return;
   const auto chemin = contexte_.Dialogues().ChoisirFichier(u"Importer un fichier de présence"_s,
                                                            u"Fichiers de présences (*.txt)"_s);
   if (!chemin) return;
@@ -183,7 +215,7 @@ void TfrmPresences::Vider() {
   import_.Vider();
   source_ = TSource::Scanner;
   fichier_.clear();
-  lu_ = false;
+  lu_ = memorise_ = false;
   compteurs_.AJour = false;
   Afficher();
 }
@@ -224,7 +256,9 @@ void TfrmPresences::Afficher() {
 }
 
 void TfrmPresences::AjouterBon(TPresence& presence) {
-  Recapitulatif.Ajouter(LigneRecapitulatif(presence), &presence, static_cast<int>(import_.Origine(presence)));
+  const bool hors = TImportPresences::EstHorsAnnee(presence.DateReleve);
+  Recapitulatif.Ajouter(LigneRecapitulatif(presence), &presence,
+                        hors ? HorsAnnee : static_cast<int>(import_.Origine(presence)));
 }
 
 void TfrmPresences::Compter() {
@@ -244,38 +278,58 @@ void TfrmPresences::Corrigerlerelev1Click() {
   }
   TFrmAjoutReleve saisie(contexte_);
   saisie.Mode = TFrmAjoutReleve::Correction;
-  saisie.Charger(presence->TypePresence, presence->HeureSortie, presence->HeureEntree, presence->DateReleve);
+  saisie.Charger(presence->TypePresence, presence->HeureSortie, presence->HeureEntree, presence->DateReleve,
+                 presence->CodeImplantation);
+  saisie.Note = Globals.Eleves->TrouverParId(presence->EleveId)->NomComplet() % u'\n' %
+                HeuresDesTarifs(presence->TypePresence, presence->DateReleve);
   if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
   import_.Corriger(ligne, saisie.TypePresence(), saisie.DateReleve(), saisie.HeureSortie(),
                    saisie.HeureEntree(), saisie.CodeImplantation());
   AjouterBon(*import_.Bons().back());
   Anomalies.Retirer(ligne);
-  if (compteurs_.AJour) Compter();
+  CompterCorrection();
   const int corrigee = Recapitulatif.NombreLignes() - 1;
   Signaler(TNiveauEtat::Succes, QString(u"Relevé corrigé : " % Recapitulatif.Texte(corrigee, Nom) % u' ' %
                                         Recapitulatif.Texte(corrigee, Prenom)));
   Annoncer();
 }
 
+// After a step 2 the lists of the import no longer hold what was stored.
+void TfrmPresences::CompterCorrection() {
+  if (!compteurs_.AJour) return;
+  if (!memorise_) return Compter();
+  ++compteurs_.lblRecap;
+  --compteurs_.lblAnomalie;
+}
+
 // Step 2.
 
+bool TfrmPresences::AccepteHorsAnnee() const {
+  const int hors = import_.NombreHorsAnnee();
+  return hors == 0 || contexte_.Dialogues().ConfirmerGrave(
+                          Compter(hors, u"relevé est daté"_s, u"relevés sont datés"_s) %
+                          u" hors de l'année affichée, %1 - %2, où rien ne s'en verra.\nMémoriser "
+                          "quand même ?"_s.arg(Globals.Eleves->AnneeScolaire)
+                              .arg(Globals.Eleves->AnneeScolaire + 1));
+}
+
 void TfrmPresences::btnEtape2Click() {
-  if (!Etape2Active()) return;
+  if (!Etape2Active() || !AccepteHorsAnnee()) return;
   const TAttente attente(contexte_.Dialogues());
   OublierObjets(Recapitulatif);
   import_.Etape2();
-  OublierObjets(Anomalies);
-  if (source_ == TSource::Scanner) EffacerDuLecteur();
-  if (source_ == TSource::Ftp) Site(&TfrmPresences::ArchiverEtEffacer);
+  const bool premiere = !std::exchange(memorise_, true);
+  if (premiere && source_ == TSource::Scanner) EffacerDuLecteur();
+  if (premiere && source_ == TSource::Ftp) Site(&TfrmPresences::ArchiverEtEffacer);
   FermerLien();
-  Signaler(TNiveauEtat::Succes, u"Les présences ont été mémorisées."_s);
+  Signaler(TNiveauEtat::Succes, TexteBilan());
   Annoncer();
 }
 
 void TfrmPresences::MemoriserTablette(const QString& chemin) {
   OublierObjets(Recapitulatif);
   import_.StockerTablette(chemin);
-  OublierObjets(Anomalies);
+  memorise_ = true;
   Annoncer();
 }
 

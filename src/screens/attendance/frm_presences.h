@@ -31,13 +31,14 @@ class TfrmPresences : public TForm {
   bool ScannerVisible() const { return scannerVisible_; }
   QString TitreSource() const;
   QString TitreMenuImportation() const;
-  bool PeutCorriger() const { return import_.Pret() && Anomalies.NombreLignes() > 0; }
+  /// Also after step 2: what is corrected then waits for another one.
+  bool PeutCorriger() const { return Anomalies.NombreLignes() > 0; }
 
   enum TColonne { Nom, Prenom, Date, Type, Entree, Sortie, Matricule, Etat };
-  enum TEtatRecapitulatif { Bon, Corrige, Derive };
+  enum TEtatRecapitulatif { Bon, Corrige, Derive, HorsAnnee };
   enum TEtatAnomalie { Aucun, Inconnu, SansTarif };
   TGrille Recapitulatif;  ///< the object of a row is its TPresence, until step 2
-  TGrille Anomalies;      ///< the same; none for an unknown pupil
+  TGrille Anomalies;      ///< its TPresence; none for an unknown pupil
 
   /// What the counters say. Only an import by hand or by the tablet fills them.
   struct TCompteurs {
@@ -77,6 +78,10 @@ class TfrmPresences : public TForm {
   void Afficher();
   void Compter();
   void AjouterBon(TPresence& presence);
+  bool AccepteDePerdre() const;
+  bool AccepteHorsAnnee() const;
+  QString TexteBilan() const;
+  void CompterCorrection();
   void OublierObjets(TGrille& grille);
   bool CopierDuLecteur(const QString& local);
   void EffacerDuLecteur();
@@ -97,5 +102,6 @@ class TfrmPresences : public TForm {
   bool scannerVisible_ = true;
   bool lienOuvert_ = false;
   bool lu_ = false;
-  bool enCours_ = false;  // the scanner is read, and pending events are let through
+  bool memorise_ = false;  // step 2 has been taken
+  bool enCours_ = false;   // the scanner is read, and pending events are let through
 };

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 // The connection stays open until the file in hand is stored.
 void TfrmPresences::btnImportFTPClick() {
-  if (enCours_ || site_.Connecte()) return;
+  if (enCours_ || site_.Connecte() || !AccepteDePerdre()) return;
   const TAttente attente(contexte_.Dialogues());
   Vider();
   localSite_.clear();

@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 class TFrmDialogue : public TForm {
  public:
   QString Titre;
+  QString Note;                      ///< stands above the fields; "" for none
   QString Principal = u"Valider"_s;  ///< caption of the primary button
   virtual TChamps& Champs() = 0;
 

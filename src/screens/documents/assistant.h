@@ -8,6 +8,7 @@
 struct TTitreAssistant {
   QString Titre;
   bool AvecPeriode = false;  ///< the document takes a period
+  QString Empechement = {};  ///< why it cannot be made here; "" when it can
 };
 
 /// What the wizard is asked for; load of ImprimerAssistant.
@@ -16,6 +17,7 @@ struct TDemandeAssistant {
   std::vector<TTitreAssistant> Titres;
   bool PagePeriode = false;
   TForm* Demandeur = nullptr;  ///< gets AssistantConfirme with a TChoixDocument when asked by message
+  int MoisEcran = 0;           ///< 1 to 12, the month that the screen shows; 0 for none
 
   /// With the who page, and with the period page when one of the titles takes a period.
   static TDemandeAssistant De(std::vector<TTitreAssistant> titres);

@@ -6,8 +6,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/accord.h"
 #include "core/exceptions.h"
+#include "documents/factures.h"
 #include "documents/modeles.h"
+#include "report/layout/papier_modele.h"
 #include "report/output/pdf.h"
 
 using namespace Qt::StringLiterals;
@@ -21,10 +24,6 @@ constexpr double kPixelsParMm = 96.0 / 25.4;
 QString Largeur() { return u"Largeur"_s; }
 QString PageEntiere() { return u"Page entière"_s; }
 QString PourCent(double facteur) { return QString::number(std::lround(facteur * 100)) % u" %"; }
-
-QString Accorder(int nombre, const QString& un, const QString& plusieurs) {
-  return QString::number(nombre) % u' ' % (nombre < 2 ? un : plusieurs);
-}
 
 /// The pupils stand together by class, and there is more than one class: their bookmarks then stand
 /// under it.
@@ -51,18 +50,32 @@ std::shared_ptr<const TModele> ModeleDe(const TRapport& rapport, const TReglages
   return modele;
 }
 
-/// The columns of a list share the paper that there is: what reaches its right edge goes along.
-void SuivreLargeur(TPageModele& page, float avant) {
-  const float plus = page.Largeur - 2 * page.Marge - avant;
-  if (std::ranges::count(page.Bandes, TSorteBande::Colonnes, &TBandeModele::Sorte) == 0) return;
-  for (TBandeModele& bande : page.Bandes)
-    for (TObjetModele& objet : bande.Objets) {
-      if (std::abs(objet.X + objet.Largeur - avant) > 1) continue;
-      if (objet.X > 0)
-        objet.X = std::max(0.0F, objet.X + plus);
-      else
-        objet.Largeur = std::max(0.0F, objet.Largeur + plus);
-    }
+/// The pupil of a document of one, or the class of one of a class; "" for more.
+QString QuiEstDedans(const TRapport& rapport) {
+  const auto valeur = [&](QStringView nom, int i) {
+    return rapport.Valeur(nom, {i, 0}).value_or(QString()).trimmed();
+  };
+  int eleves = 0, premier = -1;
+  QSet<QString> classes;
+  const auto& plat = rapport.Plat();
+  for (int i = 0; i < static_cast<int>(plat.size()); ++i) {
+    if (plat[static_cast<std::size_t>(i)].Niveau != 0) continue;
+    if (eleves++ == 0) premier = i;
+    classes += valeur(u"Classe", i);
+  }
+  if (eleves == 1)
+    if (const QString nom = valeur(u"NomEleve", premier) % u' ' % valeur(u"PrenomEleve", premier);
+        !nom.trimmed().isEmpty())
+      return nom.trimmed();
+  return classes.size() == 1 ? *classes.begin() : QString();
+}
+
+/// "octobre 2016" of "du mois d'octobre 2016"; other periods as they are told.
+QString QuandEstCe(const TRapport& rapport) {
+  QString texte = rapport.Valeur(u"MoisReleve", {0, 0}).value_or(QString()).trimmed();
+  for (const QString& debut : {u"Détails des services "_s, u"du mois de "_s, u"du mois d'"_s})
+    if (texte.startsWith(debut)) texte.remove(0, debut.size());
+  return texte;
 }
 
 /// A name for a file, without what a file's name cannot hold.
@@ -158,7 +171,7 @@ void TFrmApercu::Suivre() {
 }
 
 QString TFrmApercu::TextePretes() const {
-  const QString texte = Accorder(PagesPretes(), u"page prête"_s, u"pages prêtes"_s);
+  const QString texte = Compter(PagesPretes(), u"page prête"_s, u"pages prêtes"_s);
   return Complet() ? texte : texte + u'…';
 }
 
@@ -185,15 +198,18 @@ void TFrmApercu::ChoisirEntree(int entree) {
 }
 
 QString TFrmApercu::TitreNavigateur() const {
-  if (signets_ > 0 && Document().Titre == u"Facture") return Accorder(signets_, u"facture"_s, u"factures"_s);
-  if (signets_ > 0) return Accorder(signets_, u"document"_s, u"documents"_s);
-  return Accorder(PagesPretes(), u"page"_s, u"pages"_s);
+  const bool factures =
+      modele_ != nullptr ? EstModeleFacture(rapport_.Modele()) : Document().Titre == u"Facture";
+  const QString unite = factures ? u"facture"_s : u"document"_s;
+  if (signets_ > 0) return Compter(signets_, unite, QString(unite % u's'));
+  return Compter(PagesPretes(), u"page"_s, u"pages"_s);
 }
 
 void TFrmApercu::Zoomer(TModeZoom mode, double facteur) {
   modeZoom_ = mode;
   facteur_ = std::clamp(facteur, kZooms[0], kZooms[std::size(kZooms) - 1]);
   Annoncer();
+  if (mode == TModeZoom::Page) SurMontrer(page_, {});
 }
 
 bool TFrmApercu::ZoomerTexte(const QString& texte) {
@@ -270,7 +286,11 @@ QString TFrmApercu::TexteRecherche() const {
 
 std::optional<QString> TFrmApercu::Demander(const QString& titre, const QString& extension,
                                             const QString& filtre) {
-  const QString nom = NomDeFichier(Document().Titre) + extension;
+  QStringList parties{Document().Titre};
+  if (modele_)  // a report that was opened from a file tells no more than its title
+    parties << QuiEstDedans(rapport_) << QuandEstCe(rapport_);
+  parties.removeAll(QString());
+  const QString nom = NomDeFichier(parties.join(u" - "_s)) + extension;
   std::optional<QString> chemin = Dialogues().FichierAEnregistrer(titre, nom, filtre);
   if (chemin && !chemin->endsWith(extension, Qt::CaseInsensitive)) *chemin += extension;
   return chemin;
@@ -318,6 +338,7 @@ bool TFrmApercu::Essayer(const std::function<void()>& action) {
     action();
     return true;
   } catch (const Exception& e) {
+    Dire(TNiveauEtat::Erreur, u"Rien n'a été fait : "_s + e.Message.section(u'\n', 0, 0));
     Dialogues().Message(e.Message);
     return false;
   }
@@ -343,17 +364,15 @@ TPapier TFrmApercu::Papier() const {
 void TFrmApercu::ChangerPapier(const TPapier& papier) {
   if (!PapierModifiable()) return;
   auto modele = std::make_shared<TModele>(*origine_);
-  for (TPageModele& page : modele->Pages) {
-    const float avant = page.Largeur - 2 * page.Marge;
-    page.Largeur = std::round(static_cast<float>(papier.Taille.width() * kPixelsParMm));
-    page.Hauteur = std::round(static_cast<float>(papier.Taille.height() * kPixelsParMm));
-    page.Marge = std::round(static_cast<float>(papier.Marge * kPixelsParMm));
-    SuivreLargeur(page, avant);
-  }
+  const auto pixels = [](double mm) { return std::round(static_cast<float>(mm * kPixelsParMm)); };
+  MettreSurPapier(*modele,
+                  {pixels(papier.Taille.width()), pixels(papier.Taille.height()), pixels(papier.Marge)});
   const int page = page_;
   miseEnPage_.reset();  // before the template that it walks
   modele_ = std::move(modele);
   Commencer();
+  while (PagesPretes() <= page && Continuer()) {  // the page in hand stays in hand
+  }
   AllerPage(page);
 }
 
@@ -370,7 +389,7 @@ QString TFrmApercu::TextePapier() const {
 QString TFrmApercu::TexteDefauts() const {
   const int nombre = static_cast<int>(Document().Defauts.size());
   if (nombre == 0) return {};
-  return Accorder(nombre, u"avertissement"_s, u"avertissements"_s);
+  return Compter(nombre, u"avertissement"_s, u"avertissements"_s);
 }
 
 QStringList TFrmApercu::Defauts() const {

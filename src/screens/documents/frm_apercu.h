@@ -104,6 +104,7 @@ class TFrmApercu : public TForm {
   /// The document is to be printed: who does it sets the name of the printer, and leaves it empty when the
   /// user gave up. It may raise Exception.
   TSignal<const TDocumentPrepare&, QString&> SurImprimer;
+  IDialogues& Dialogues() const { return contexte_.Dialogues; }
   TNiveauEtat NiveauEtat = TNiveauEtat::Neutre;
   QString Etat;  ///< the last thing done
   /// A page is to be shown, and on it a place (null: its top).
@@ -119,7 +120,6 @@ class TFrmApercu : public TForm {
   void Dire(TNiveauEtat niveau, const QString& texte);
   bool Essayer(const std::function<void()>& action);
   std::optional<QString> Demander(const QString& titre, const QString& extension, const QString& filtre);
-  IDialogues& Dialogues() const { return contexte_.Dialogues; }
 
   const TContexteApercu contexte_;
   const TRapport& rapport_;

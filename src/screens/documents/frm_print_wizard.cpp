@@ -3,6 +3,7 @@
 #include <QSet>
 #include <algorithm>
 
+#include "core/accord.h"
 #include "core/comparaisons.h"
 #include "core/formats.h"
 #include "pupils/eleves.h"
@@ -13,17 +14,12 @@ namespace {
 
 constexpr TPageAssistant kPages[] = {TPageAssistant::Rapport, TPageAssistant::Qui, TPageAssistant::Periode};
 
-QString Combien(std::size_t nombre, const QString& un, const QString& plusieurs, const QString& aucun) {
-  if (nombre == 0) return aucun;
-  return QString::number(nombre) + u' ' + (nombre == 1 ? un : plusieurs);
-}
-
 QString CombienEleves(std::size_t nombre) {
-  return Combien(nombre, u"élève"_s, u"élèves"_s, u"aucun élève"_s);
+  return Compter(static_cast<qint64>(nombre), u"élève"_s, u"élèves"_s, u"aucun élève"_s);
 }
 
 QString CombienClasses(std::size_t nombre) {
-  return Combien(nombre, u"classe"_s, u"classes"_s, u"aucune classe"_s);
+  return Compter(static_cast<qint64>(nombre), u"classe"_s, u"classes"_s, u"aucune classe"_s);
 }
 
 /// The objects of the ticked rows, in the order in which the list shows them.
@@ -33,6 +29,12 @@ std::vector<T*> Coches(const TGrille& liste) {
   for (int ligne = 0; ligne < liste.NombreLignes(); ++ligne)
     if (liste.Ligne(ligne).Coche) objets.push_back(liste.Ligne(ligne).Objet.En<T>());
   return objets;
+}
+
+/// In the list of months; -1 for one without school.
+int IndiceDuMois(int mois) {
+  const auto* trouve = std::ranges::find(kMoisFacturation, mois);
+  return trouve == kMoisFacturation.end() ? -1 : static_cast<int>(trouve - kMoisFacturation.begin());
 }
 
 int AnneeAffichee() { return Globals.Eleves->AnneeScolaire; }
@@ -78,7 +80,7 @@ void TFrmPrintWizard::Preparer(const TDemandeAssistant& demande) {
   lblEleve = Globals.EleveCourant != nullptr ? Globals.EleveCourant->NomComplet() : QString();
   lblClasse = Globals.ClasseCourante != nullptr ? Globals.ClasseCourante->Libelle() : QString();
   ChoisirQui();
-  ChoixRapportClick(Titres().empty() ? -1 : 0);
+  ChoixRapportClick(PremierPossible());
   const auto* premiere = std::ranges::find_if(kPages, [this](TPageAssistant p) { return PageVisible(p); });
   OuvrirPage(premiere != std::end(kPages) ? *premiere : TPageAssistant::Rapport);
 }
@@ -103,6 +105,7 @@ void TFrmPrintWizard::RemplirListes() {
     pupilles.push_back({&eleve,
                         {eleve.NomComplet(), eleve.LibelleClasse(), eleve.LibelleImplantation()},
                         annee % u'/' % QString::number(eleve.Id)});
+  RangerNoms(pupilles);
   for (const auto& classe : eleves.Classes())
     classes.push_back({classe.get(),
                        {classe->Libelle(), classe->LibelleImplantation()},
@@ -112,6 +115,19 @@ void TFrmPrintWizard::RemplirListes() {
   });
   Remplir(LstEleve, contenuEleves_, std::move(pupilles), triEleve_);
   Remplir(LstClasse, contenuClasses_, std::move(classes), triClasse_);
+}
+
+// Within a class the year gives the names in the order of the database, which knows no accents.
+void TFrmPrintWizard::RangerNoms(TContenu& pupilles) {
+  for (auto debut = pupilles.begin(); debut != pupilles.end();) {
+    const auto fin = std::find_if(debut, pupilles.end(), [&](const TLigneListe& ligne) {
+      return ligne.Textes[1] != debut->Textes[1] || ligne.Textes[2] != debut->Textes[2];
+    });
+    std::stable_sort(debut, fin, [](const TLigneListe& a, const TLigneListe& b) {
+      return ComparerValeurs(TGenre::Texte, a.Textes[0], b.Textes[0]) < 0;
+    });
+    debut = fin;
+  }
 }
 
 void TFrmPrintWizard::Remplir(TGrille& liste, TContenu& avant, TContenu contenu, const TTri& tri) {
@@ -131,8 +147,7 @@ void TFrmPrintWizard::PoserDates() {
   if (dtDate1_ != 0.0) return;
   const TDateTime aujourdhui = contexte_.Controleur.Horloge().Aujourdhui();
   dtDate1_ = dtDate2_ = aujourdhui;
-  const auto* mois = std::ranges::find(kMoisFacturation, DecodeDate(aujourdhui).Mois);
-  indiceMois_ = mois != kMoisFacturation.end() ? static_cast<int>(mois - kMoisFacturation.begin()) : -1;
+  indiceMois_ = IndiceDuMois(DecodeDate(aujourdhui).Mois);
 }
 
 bool TFrmPrintWizard::PageVisible(TPageAssistant page) const {
@@ -157,6 +172,31 @@ TPageAssistant TFrmPrintWizard::PageVoisine(int sens) const {
 void TFrmPrintWizard::OuvrirPage(TPageAssistant page) {
   page_ = page;
   Annoncer();
+}
+
+// The first title, or the first that can be made when that one cannot.
+int TFrmPrintWizard::PremierPossible() const {
+  const auto possible = std::ranges::find_if(
+      Titres(), [](const TTitreAssistant& titre) { return titre.Empechement.isEmpty(); });
+  if (Titres().empty()) return -1;
+  return possible == Titres().end() ? 0 : static_cast<int>(possible - Titres().begin());
+}
+
+int TFrmPrintWizard::IndiceDernier() const {
+  const auto trouve = std::ranges::find_if(Titres(), [this](const TTitreAssistant& titre) {
+    return titre.Titre == dernier_ && titre.Empechement.isEmpty();
+  });
+  return trouve == Titres().end() ? -1 : static_cast<int>(trouve - Titres().begin());
+}
+
+void TFrmPrintWizard::btnDernierClick() {
+  if (IndiceDernier() >= 0) ChoixRapportClick(IndiceDernier());
+}
+
+void TFrmPrintWizard::btnMoisEcranClick() {
+  if (MoisEcran() == 0) return;
+  choixPeriode_ = TChoixPeriode::Mois;
+  ChoisirMois(IndiceDuMois(MoisEcran()));
 }
 
 void TFrmPrintWizard::ChoixRapportClick(int indice) {
@@ -231,6 +271,7 @@ void TFrmPrintWizard::KWizard1FinishButtonClick() {
                    LstClasseActive() ? TChampAssistant::LstClasse : TChampAssistant::LstEleve);
   }
   choix_.Indice = indice_;
+  if (indice_ >= 0) dernier_ = Titres()[static_cast<std::size_t>(indice_)].Titre;
   const TPeriode periode = Periode();
   choix_.DateDebut = periode.Premier;
   choix_.DateFin = periode.Dernier;

@@ -34,6 +34,9 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   const std::vector<TTitreAssistant>& Titres() const { return demande_.Titres; }
   int Indice() const { return indice_; }  ///< of the checked title; -1 without titles
   void ChoixRapportClick(int indice);
+  /// Of the document that this session chose last; -1 when it is not offered.
+  int IndiceDernier() const;
+  void btnDernierClick();
 
   // Who page. Ticks of the two lists are the rows' own.
   TChoixQui ChoixQui() const { return choixQui_; }
@@ -59,6 +62,9 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   const QStringList& cmbMois() const { return mois_; }
   int IndiceMois() const { return indiceMois_; }  ///< 0 is September; -1 for none
   void ChoisirMois(int indice);
+  /// 1 to 12, the month that the screen behind shows; 0 for none.
+  int MoisEcran() const { return demande_.MoisEcran; }
+  void btnMoisEcranClick();
   void ChoisirDates(TDateTime debut, TDateTime fin);
   TDateTime dtDate1() const { return dtDate1_; }
   TDateTime dtDate2() const { return dtDate2_; }
@@ -87,9 +93,11 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   using TContenu = std::vector<TLigneListe>;
 
   void Preparer(const TDemandeAssistant& demande);
+  int PremierPossible() const;
   void ChoisirQui();
   void RemplirListes();
   void PoserDates();
+  static void RangerNoms(TContenu& pupilles);
   static void Remplir(TGrille& liste, TContenu& avant, TContenu contenu, const TTri& tri);
   static void Trier(TGrille& liste, TTri& tri, int colonne, bool croissant);
   TPageAssistant PageVoisine(int sens) const;
@@ -104,6 +112,7 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   TDemandeAssistant demande_;
   TPageAssistant page_ = TPageAssistant::Rapport;
   int indice_ = -1;
+  QString dernier_;             ///< title of the last document chosen
   bool periodeDuTitre_ = true;  ///< the checked title takes a period
   TChoixQui choixQui_ = TChoixQui::Eleve;
   bool quiChoisi_ = false;  ///< by the user

@@ -3,13 +3,15 @@
 #include "screens/documents/assistant.h"
 #include "screens/payments/frm_date_paiement.h"
 
-void TImprimeur::Proposer(std::vector<TTitreOffert> titres) {
+void TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
   titres_ = std::move(titres);
   std::vector<TTitreAssistant> offerts;
   for (const TTitreOffert& titre : titres_)
-    offerts.push_back({QString::fromUtf16(titre.Montre->Titre), titre.Montre->AvecPeriode});
+    offerts.push_back(
+        {QString::fromUtf16(titre.Montre->Titre), titre.Montre->AvecPeriode, Empechement(*titre.Fait)});
   TDemandeAssistant demande = TDemandeAssistant::De(std::move(offerts));
   demande.PageQui = std::ranges::any_of(titres_, [](const auto& titre) { return titre.Montre->AvecEleves; });
+  demande.MoisEcran = moisEcran;
   if (auto choix = contexte_.Assistant->Demander(demande)) Imprimer(std::move(*choix));
 }
 

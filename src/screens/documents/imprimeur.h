@@ -12,8 +12,9 @@ class TImprimeur {
         titres_(std::move(titres)),
         etiquettes_(contexte.Etiquettes, contexte.Dialogues()) {}
 
-  /// The user chooses one of these titles in the wizard, and gets its document.
-  void Proposer(std::vector<TTitreOffert> titres);
+  /// The user chooses one of these titles in the wizard, and gets its document. `moisEcran`: the month that
+  /// the screen shows, 1 to 12; 0 for none.
+  void Proposer(std::vector<TTitreOffert> titres, int moisEcran = 0);
   /// The wizard's answer about the titles that were proposed last. An index of none is passed over.
   void Imprimer(TChoixDocument choix);
   /// What a document says, then its previews one after the other.

@@ -1,6 +1,9 @@
 #include "screens/principal/arbre_eleves.h"
 
+#include <algorithm>
+
 #include "application/globals.h"
+#include "core/comparaisons.h"
 
 namespace {
 
@@ -12,7 +15,9 @@ TNoeud& NoeudSite(TArbre& arbre, const TClasse& classe) {
 }
 
 void AjouterEleves(TArbre& arbre, TNoeud& noeud, const TClasse& classe, bool avecRadies) {
-  for (TEleve* eleve : classe.ListeEleves) {
+  std::vector<TEleve*> eleves = classe.ListeEleves;
+  std::ranges::stable_sort(eleves, [](const TEleve* a, const TEleve* b) { return ComparerNoms(*a, *b) < 0; });
+  for (TEleve* eleve : eleves) {
     if (eleve->FlgRadie && !avecRadies) continue;
     MarquerRadie(arbre.Ajouter(&noeud, eleve->NomComplet(), eleve), *eleve);
   }

@@ -60,7 +60,8 @@ std::vector<TCommandePrincipale> CommandesPrincipales() {
 const std::vector<TOutilPrincipal>& OutilsPrincipaux() {
   static const std::vector<TOutilPrincipal> kOutils{
       {TOutil::btnPrint, TCodeMessage::Imprimer, T(u"Imprimer"), T(u"document-print"), T(u"F8, Ctrl+P")},
-      {TOutil::btnMail, TCodeMessage::Courriel, T(u"Envoyer"), T(u"mail-send"), T(u"Ctrl+M")},
+      {TOutil::btnMail, TCodeMessage::Courriel, T(u"Envoyer"), T(u"mail-send"), T(u"Ctrl+M"),
+       T(u"l'envoi par courriel n'est pas encore disponible")},
       {TOutil::btnNew, TCodeMessage::Nouveau, T(u"Nouveau"), T(u"document-new"), T(u"F7")},
       {TOutil::btnEdit, TCodeMessage::Modifier, T(u"Modifier"), T(u"document-edit"), T(u"F2")},
       {TOutil::btnSave, TCodeMessage::Enregistrer, T(u"Enregistrer"), T(u"document-save"), T(u"F9")},

@@ -81,6 +81,8 @@ struct TOutilPrincipal {
   QString Libelle;
   QString Icone;
   QString Touche;  ///< as a tip shows it
+  /// Why it is off on every screen; "" when it works. Its message is answered all the same.
+  QString Raison = {};
 };
 
 struct TPagePrincipale {

@@ -3,12 +3,15 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "core/accord.h"
 #include "screens/principal/arbre_eleves.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString kDernierEleve = u"DernierEleve"_s;
+const QString kDernierEcran = u"DernierEcran"_s;
 const QString kTravailEnCours = u"Travail en cours"_s;
 const QString kFermetureRefusee =
     u"Un travail est en cours : la fenêtre pourra être fermée quand il sera terminé."_s;
@@ -38,14 +41,20 @@ TGestionnaire GestionnaireDe(TCommandePage commande) {
   return TGestionnaire::btnComptabiliteClick;
 }
 
-TCodeMessage CodeDe(TOutil outil) {
-  return std::ranges::find(OutilsPrincipaux(), outil, &TOutilPrincipal::Outil)->Code;
+const TOutilPrincipal& OutilDe(TOutil outil) {
+  return *std::ranges::find(OutilsPrincipaux(), outil, &TOutilPrincipal::Outil);
+}
+
+TCodeMessage CodeDe(TOutil outil) { return OutilDe(outil).Code; }
+
+/// Two pages have a command of one name.
+QString NomDePlace(const TCommandePrincipale& commande) {
+  return QString::number(static_cast<int>(commande.Page)) % u' ' % commande.Nom();
 }
 
 QString CombienEleves(int annee, int nombre) {
   if (nombre == 0) return u"Aucun élève en " % AnneeEnTexte(annee);
-  return u"Année " % AnneeEnTexte(annee) % u" : " % QString::number(nombre) %
-         (nombre > 1 ? u" élèves" : u" élève");
+  return u"Année " % AnneeEnTexte(annee) % u" : " % CompterEleves(nombre);
 }
 
 }  // namespace
@@ -54,7 +63,9 @@ QString AnneeEnTexte(int annee) { return u"%1 - %2"_s.arg(annee).arg(annee + 1);
 
 TFrmMain::TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge& horloge,
                    IFenetreModale& modale, IApercu& apercu)
-    : Controleur(base, reglages, *this, horloge), Contexte{Controleur, modale, apercu, *this, nullptr} {
+    : Controleur(base, reglages, *this, horloge),
+      Contexte{Controleur, modale, apercu, *this, nullptr},
+      reglages_(reglages) {
   liens_ += Arbre.SurSelection.Suivre([this] {
     SurSelection();
     tvEleveChange();
@@ -83,16 +94,41 @@ void TFrmMain::FormShow() {
     Annoncer();
     throw;
   }
-  if (EstRelie())
+  if (EstRelie()) {
+    RouvrirPlace();
     Etat(TNiveauEtat::Neutre, CombienEleves(anneeCochee_, NombreEleves()));
-  else if (!Globals.ModeHorsLigne)
+  } else if (!Globals.ModeHorsLigne)
     Etat(TNiveauEtat::Erreur,
          u"Pas de connexion au serveur de données : fermez le programme et recommencez."_s);
   Annoncer();
 }
 
+// Where the hand was when the program was closed: the pupil first, whom the screen then takes up.
+void TFrmMain::RouvrirPlace() {
+  if (Globals.ModeProfesseur || Globals.ModeTablette || SansEleve()) return;
+  const TReglagesPoste& reglages = Controleur.Reglages();
+  const int eleve = reglages.Lire(TRacine::Utilisateur, kDernierEleve).toInt();
+  if (TEleve* dernier = Globals.Eleves->TrouverParId(eleve))
+    if (TNoeud* noeud = Arbre.TrouverObjet(dernier)) Arbre.Selectionner(noeud);
+  const QString nom = reglages.Lire(TRacine::Utilisateur, kDernierEcran);
+  for (const TCommandePrincipale& commande : Commandes)
+    if (!nom.isEmpty() && NomDePlace(commande) == nom && PageVisible(commande.Page) &&
+        CommandeActive(commande))
+      return Executer(commande.Gestionnaire);
+}
+
+void TFrmMain::MemoriserPlace() {
+  if (!EstRelie()) return;
+  const TCommandePrincipale* ouverte = CommandeOuverte();
+  const int eleve = Globals.EleveCourant != nullptr ? Globals.EleveCourant->Id : 0;
+  reglages_.Ecrire(TRacine::Utilisateur, kDernierEleve, eleve > 0 ? QString::number(eleve) : QString());
+  reglages_.Ecrire(TRacine::Utilisateur, kDernierEcran,
+                   ouverte != nullptr ? NomDePlace(*ouverte) : QString());
+}
+
 void TFrmMain::FormClose() {
   QuitterChamp();
+  MemoriserPlace();
   Panneau.Vider();
   Arbre.Vider();
   Arbre.Annoncer();
@@ -197,8 +233,8 @@ void TFrmMain::Executer(TGestionnaire gestionnaire) {
 bool TFrmMain::OutilVisible(TOutil outil) const { return (outils_ & static_cast<int>(outil)) != 0; }
 
 bool TFrmMain::OutilActif(TOutil outil) const {
-  return OutilVisible(outil) && !enTravail_ && CommandeOuverte() != nullptr &&
-         Panneau.Courante()->Accepte(CodeDe(outil));
+  return OutilVisible(outil) && OutilDe(outil).Raison.isEmpty() && !enTravail_ &&
+         CommandeOuverte() != nullptr && Panneau.Courante()->Accepte(CodeDe(outil));
 }
 
 void TFrmMain::OutilClick(TOutil outil) {
@@ -278,6 +314,12 @@ QString TFrmMain::Serveur() const {
   return fichier ? QFileInfo(base.FichierLocal()).fileName() : base.ServerName.trimmed();
 }
 
+QString TFrmMain::TexteServeur() const {
+  const QString serveur = Serveur();
+  if (!serveur.isEmpty()) return u"Serveur : " % serveur;
+  return Globals.ModeHorsLigne ? u"Hors ligne"_s : u"Non connecté"_s;
+}
+
 // The numbers stand on the sheet of the progress; the status bar, which is read aloud, says it once.
 void TFrmMain::Travail(int total) {
   const bool enTravail = total > 0;
@@ -312,7 +354,10 @@ void TFrmMain::MontrerArbre(bool oui) {
   Annoncer();
 }
 
-void TFrmMain::ConstruireArbre() { ::ConstruireArbre(Arbre, true, true); }
+void TFrmMain::ConstruireArbre() {
+  MontrerTrouves({});
+  ::ConstruireArbre(Arbre, true, true);
+}
 
 void TFrmMain::IntitulerAnnee(const QString& texte) {
   intituleAnnee_ = texte;

@@ -67,10 +67,18 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   void edSearchChange(const QString& texte);
   /// The text without what the search does not take.
   static QString edSearchKeyPress(const QString& texte);
+  /// What is typed or pasted in the field; gives what the field then shows. Digits alone are a register
+  /// number, which Enter looks for.
+  QString edSearchSaisie(const QString& texte);
+  /// Enter.
   void btnRechercheClick();
+  /// Of a search that found several pupils but no beginning of a name, for the user to choose from.
+  const std::vector<TNoeud*>& Trouves() const { return trouves_; }
+  void ChoisirTrouve(int rang);
   const QString& TexteRecherche() const { return recherche_; }
   int NombreEleves() const;
-  int NombreRadies() const;
+  /// "412 élèves, dont 3 radiés, 2 sans implantation"
+  QString TexteNombres() const;
 
   // Teachers.
   void Ajouterunprofesseur1Click();
@@ -94,6 +102,10 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   const TEtatPrincipal& Etat() const { return etat_; }
   /// "" without a connection.
   QString Serveur() const;
+  /// "Serveur : ecole", "Hors ligne" or "Non connecté"
+  QString TexteServeur() const;
+  int AnneeTravail() const { return Globals.AnneeScolaire; }
+  bool AnneeDeTravailAffichee() const { return anneeCochee_ == Globals.AnneeScolaire; }
   /// A long work goes on; `total` 0 ends it. Commands, tree and closing are off meanwhile.
   void Travail(int total);
   bool EnTravail() const { return enTravail_; }
@@ -122,6 +134,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   // Followed by the view, besides SurChangement.
   TSignal<TForm&, TEtapeForm> SurEtape;
   TSignal<> SurSelection;  ///< before the screens are told
+  TSignal<> SurTrouves;
   TSignal<> SurEtat;
   TSignal<> SurOutils;  ///< shared commands go on or off
   TSignal<> SurTerminer;
@@ -139,6 +152,8 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
 
  private:
   const TCommandePrincipale& Commande(TGestionnaire gestionnaire) const;
+  void RouvrirPlace();
+  void MemoriserPlace();
   void tvEleveChange();
   /// What was done, and what the screen that had to go for it has left undone.
   void EtatApresEcran(TNiveauEtat niveau, const QString& fait);
@@ -150,9 +165,16 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
                         bool faite) const;
   void ChoisirPremiereAnnee();
   bool EstBureau() const;
-  void Inscrire(TEleve& professeur);
+  void OuvrirNoeud(TNoeud& noeud);
+  void LaisserEleve();
+  void MontrerTrouves(std::vector<TNoeud*> trouves);
+  bool ChercherPartout();
+  void OuvrirMatricule();
+  template <class T>
+  int Combien(T compte) const;
   void OublierEleve(const TEleve& eleve);
 
+  TReglagesPoste& reglages_;
   std::vector<TPage> pagesCachees_{TPage::pgRepas, TPage::pgRepas3};
   std::vector<TGestionnaire> commandesCachees_;
   TPage page_ = TPage::PgEleve;
@@ -163,6 +185,8 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   QString intituleAnnee_;
   int anneeCochee_ = 0;
   QString recherche_;
+  QString matricule_;  // digits typed in the search
+  std::vector<TNoeud*> trouves_;
   TEtatPrincipal etat_;
   QString enSuspens_;  // of the screen that was freed last
   bool enTravail_ = false;

@@ -1,16 +1,12 @@
-// The pupil tree of the main window: selection, search and teachers.
+// The pupil tree of the main window: selection, counts and teachers.
 #include <algorithm>
 
+#include "core/accord.h"
 #include "screens/principal/frm_ajout_professeur.h"
 #include "screens/principal/frm_main.h"
+#include "workflows/professeurs.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-const QString kProfesseurs = u"PROFESSEURS"_s;
-
-}  // namespace
 
 // The control in hand is left first, so that its change is saved for the pupil it belongs to.
 void TFrmMain::tvEleveChange() {
@@ -29,55 +25,30 @@ void TFrmMain::tvEleveChange() {
   Annoncer();
 }
 
-// Search.
+// What the year holds: staff are no pupils.
 
-TNoeud* TFrmMain::NoeudQuiCommence(TNoeud* debut) const {
-  const QString cherche = recherche_.trimmed();
-  if (cherche.isEmpty()) return nullptr;
-  return Arbre.Trouver(
-      [&](const TNoeud& noeud) { return noeud.Texte.startsWith(cherche, Qt::CaseInsensitive); }, debut);
-}
-
-QString TFrmMain::edSearchKeyPress(const QString& texte) {
-  QString admis;
-  for (const QChar c : texte)
-    if (!c.isDigit() && !QStringView(u"*+-./").contains(c)) admis += c;
-  return admis;
-}
-
-void TFrmMain::edSearchChange(const QString& texte) {
-  recherche_ = texte;
-  if (TNoeud* noeud = NoeudQuiCommence(Arbre.Premier())) {
-    Arbre.Selectionner(noeud);
-    Etat(TNiveauEtat::Neutre, {});
-  } else if (!texte.trimmed().isEmpty()) {
-    Etat(TNiveauEtat::Alerte, u"Aucun nom de la liste ne commence par « " % texte.trimmed() % u" »");
-  }
-}
-
-void TFrmMain::btnRechercheClick() {
-  if (recherche_.trimmed().isEmpty() || enTravail_) return;
-  for (;;) {
-    const TNoeud* choisi = Arbre.Selection();
-    TNoeud* debut = choisi != nullptr ? Arbre.Suivant(*choisi) : Arbre.Premier();
-    if (TNoeud* noeud = NoeudQuiCommence(debut)) {
-      Arbre.Selectionner(noeud);
-      return;
-    }
-    if (!Contexte.Dialogues().Confirmer(
-            u"Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?"_s))
-      return;
-    Arbre.Selectionner(Arbre.Premier());
-  }
-}
-
-int TFrmMain::NombreEleves() const { return Globals.Eleves != nullptr ? Globals.Eleves->Count() : 0; }
-
-int TFrmMain::NombreRadies() const {
+template <class T>
+int TFrmMain::Combien(T compte) const {
   int nombre = 0;
   if (Globals.Eleves != nullptr)
-    for (const TEleve& eleve : *Globals.Eleves) nombre += eleve.FlgRadie;
+    for (const TEleve& eleve : *Globals.Eleves)
+      nombre += CategorieDeClasse(eleve.CodeClasse) != TCategorie::Personnel && compte(eleve);
   return nombre;
+}
+
+int TFrmMain::NombreEleves() const {
+  return Combien([](const TEleve&) { return true; });
+}
+
+QString TFrmMain::TexteNombres() const {
+  QString texte = CompterEleves(NombreEleves());
+  const int radies = Combien([](const TEleve& eleve) { return eleve.FlgRadie; });
+  if (radies > 0) texte += u", dont " % Compter(radies, u"radié"_s, u"radiés"_s);
+  const int sansSite =
+      Combien([](const TEleve& eleve) { return eleve.CodeImplantation.trimmed().isEmpty(); });
+  if (sansSite > 0 && Globals.Eleves->PlusieursImplantations())
+    texte += u", %1 sans implantation"_s.arg(sansSite);
+  return texte;
 }
 
 // Teachers.
@@ -85,26 +56,11 @@ int TFrmMain::NombreRadies() const {
 void TFrmMain::Ajouterunprofesseur1Click() {
   if (!PeutAjouterProfesseur()) return;
   QuitterChamp();
+  if (!EcranAccepte()) return;
   TFrmAjoutProfesseur saisie(Contexte);
   if (Contexte.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
-  TEleves& eleves = *Globals.Eleves;
-  auto nouveau = std::make_unique<TEleve>();
-  nouveau->Nom = saisie.Saisi.Nom;
-  nouveau->Prenom = saisie.Saisi.Prenom;
-  TEleve& professeur = eleves.AddEleve(std::move(nouveau));
-  try {
-    eleves.Save();
-  } catch (...) {  // a later save must not try it again
-    eleves.RemoveEleve(professeur);
-    throw;
-  }
-  if (professeur.Id == -1) {  // no key could be had, which the user has been told
-    eleves.RemoveEleve(professeur);
-    return;
-  }
-  Inscrire(professeur);
-  const QString nom = professeur.NomComplet();
-  Controleur.ChargerAnnee(Globals.AnneeScolaire);
+  const QString nom = TProfesseurs(Controleur).Ajouter(saisie.Saisi.Nom, saisie.Saisi.Prenom);
+  if (nom.isEmpty()) return;
   FermerEcran();
   QString fait = u"Professeur ajouté : " % nom;
   if (Globals.Eleves->PlusieursImplantations())
@@ -112,21 +68,10 @@ void TFrmMain::Ajouterunprofesseur1Click() {
   EtatApresEcran(TNiveauEtat::Succes, fait);
 }
 
-// The pupils of an earlier year on display would enrol it in that year, so the enrolment goes through
-// the enrolments of the working year.
-void TFrmMain::Inscrire(TEleve& professeur) {
-  TElevesClasses(Controleur.Base(), Globals.AnneeScolaire)
-      .Inscrire(professeur.Id, kProfesseurs, Globals.AnneeScolaire, {}, {});
-  professeur.Matricule = u"000" % QString::number(professeur.Id);
-  Globals.Eleves->AddEleve(professeur);
-  Globals.Eleves->Save();
-}
-
 bool TFrmMain::PeutSupprimerProfesseur() const {
   const TNoeud* noeud = Arbre.Selection();
   const TEleve* eleve = noeud != nullptr ? noeud->Objet.En<TEleve>() : nullptr;
-  return eleve != nullptr && eleve->Classe != nullptr && eleve->Classe->CodeClasse == kProfesseurs &&
-         !enTravail_;
+  return eleve != nullptr && TProfesseurs::EstProfesseur(*eleve) && !enTravail_;
 }
 
 void TFrmMain::Supprimerunprofesseur1Click() {
@@ -139,8 +84,7 @@ void TFrmMain::Supprimerunprofesseur1Click() {
   TEleve& professeur = *noeud.Objet.En<TEleve>();
   const QString nom = professeur.NomComplet();
   OublierEleve(professeur);
-  Globals.Eleves->RemoveEleve(professeur);
-  Globals.Eleves->Save();
+  TProfesseurs(Controleur).Supprimer(professeur);
   Arbre.Supprimer(noeud);
   Arbre.Annoncer();
   Etat(TNiveauEtat::Succes, u"Professeur supprimé : " % nom);

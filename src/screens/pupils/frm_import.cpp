@@ -3,7 +3,9 @@
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
+#include "core/accord.h"
 #include "core/lecture_dates.h"
+#include "pupils/eleves.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,9 +15,18 @@ const QString kNonCloturee = u"Année non clôturée : pas de transfert"_s;
 
 QString NomSeul(const QString& chemin) { return QFileInfo(chemin).fileName(); }
 
-QString Eleves(int nombre) {
-  return QString::number(nombre) % (nombre > 1 ? u" élèves transférés" : u" élève transféré");
-}
+/// At most so many names are listed in a message.
+constexpr qsizetype kNomsListes = 20;
+
+struct TMotEffet {
+  TSortLigne Sort;
+  QString Un, Plusieurs;
+};
+
+const TMotEffet kMotsEffet[] = {{TSortLigne::Nouveau, u"nouveau"_s, u"nouveaux"_s},
+                                {TSortLigne::Modifie, u"modifié"_s, u"modifiés"_s},
+                                {TSortLigne::Inchange, u"inchangé"_s, u"inchangés"_s},
+                                {TSortLigne::Illisible, u"illisible"_s, u"illisibles"_s}};
 
 /// What is no date is shown as it stands in the file.
 TValeurVue DateOuTexte(const QString& texte) {
@@ -38,7 +49,11 @@ TFrmImport::TFrmImport(TContexteEcran& contexte) : contexte_(contexte) {
   Grille.Etats = {{},
                   {u"En cours"_s, u"data-information"_s},
                   {u"Transféré"_s, u"dialog-ok-apply"_s},
-                  {u"Refusé"_s, u"data-error"_s}};
+                  {u"Refusé"_s, u"data-error"_s},
+                  {u"Nouveau"_s, u"list-add"_s},
+                  {u"Modifié"_s, u"document-edit"_s},
+                  {u"Inchangé"_s, {}},
+                  {u"Illisible"_s, u"data-error"_s}};
 }
 
 void TFrmImport::FormShow() {
@@ -64,6 +79,7 @@ void TFrmImport::btnEtape1Click() {
     import_->Vider();
     feuille_ = {};
     fichier_ = {};
+    effet_ = {};
     RemplirGrille();
     const auto chemin = contexte_.Dialogues().ChoisirFichier(u"Ouvrir le fichier de données"_s,
                                                              u"Export du registre (*.csv *.txt)"_s);
@@ -87,11 +103,43 @@ void TFrmImport::Ouvrir(const QString& chemin) {
 
 void TFrmImport::DecrireFichier(bool accepte) {
   if (accepte)
-    DefinirFichier(TNiveauEtat::Succes, fichier_.Texte);
+    AnnoncerEffet();
   else if (import_->NombreEleves() < TImportRegistre::kElevesMinimum)
     DefinirFichier(TNiveauEtat::Alerte, u"Fichier trop court : rien à transférer"_s);
   else
     DefinirFichier(TNiveauEtat::Alerte, kNonCloturee);
+}
+
+void TFrmImport::AnnoncerEffet() {
+  effet_ = import_->Effet();
+  const TGrille::TLot lot(Grille);
+  for (int ligne = 0; ligne < Grille.NombreLignes(); ++ligne)
+    Grille.ChangerEtat(ligne, Nouveau + static_cast<int>(effet_.Lignes[static_cast<std::size_t>(ligne)]));
+  DefinirFichier(effet_.Nombre(TSortLigne::Illisible) > 0 ? TNiveauEtat::Alerte : TNiveauEtat::Succes,
+                 fichier_.Texte);
+}
+
+QString TFrmImport::Effet() const {
+  QStringList parties;
+  const auto ajouter = [&](qsizetype nombre, const QString& un, const QString& plusieurs) {
+    if (nombre > 0) parties += Compter(nombre, un, plusieurs);
+  };
+  for (const TMotEffet& mot : kMotsEffet) ajouter(effet_.Nombre(mot.Sort), mot.Un, mot.Plusieurs);
+  ajouter(effet_.Partis.size(), u"parti"_s, u"partis"_s);
+  ajouter(effet_.SansSite.size(), u"sans implantation"_s, u"sans implantation"_s);
+  return parties.join(u", "_s);
+}
+
+void TFrmImport::DireSansSite() const {
+  const qsizetype nombre = effet_.SansSite.size();
+  if (nombre == 0) return;
+  QString texte = Compter(nombre, u"élève importé n'a pas d'implantation :"_s,
+                          u"élèves importés n'ont pas d'implantation :"_s) %
+                  u'\n' % effet_.SansSite.mid(0, kNomsListes).join(u'\n');
+  if (nombre > kNomsListes) texte += u"\net %1 de plus"_s.arg(nombre - kNomsListes);
+  if (Globals.Eleves->PlusieursImplantations())
+    texte += u"\nIls n'apparaissent pas dans la liste des élèves."_s;
+  contexte_.Dialogues().Information(texte);
 }
 
 void TFrmImport::DefinirFichier(TNiveauEtat niveau, const QString& texte) {
@@ -141,9 +189,12 @@ void TFrmImport::btnEtape2Click() {
     }
     feuille_ = {};
   }
-  DefinirFichier(TNiveauEtat::Succes, QString(Eleves(bilan.Lignes) % u" : " % QString::number(bilan.Crees) %
-                                              (bilan.Crees > 1 ? u" nouveaux, " : u" nouveau, ") %
-                                              QString::number(bilan.Modifies) % u" mis à jour"));
+  DefinirFichier(TNiveauEtat::Succes,
+                 QString(Compter(bilan.Lignes, u"élève transféré"_s, u"élèves transférés"_s) % u" : " %
+                         Compter(bilan.Crees, u"nouveau"_s, u"nouveaux"_s) % u", " %
+                         QString::number(bilan.Modifies) % u" mis à jour"));
+  DireSansSite();
+  effet_ = {};
   Annoncer();
 }
 

@@ -20,7 +20,7 @@ class TFrmImport : public TForm {
   bool Etape2Suivante() const { return Etape2Active() && !feuille_.Arretee; }
 
   /// States of the rows, in the order of the grid's.
-  enum TEtatLigne { Attente, EnCours, Transfere, Refuse };
+  enum TEtatLigne { Attente, EnCours, Transfere, Refuse, Nouveau, Modifie, Inchange, Illisible };
   enum TColonne { Etat, Matricule, Nom, Prenom, Naissance, Classe, Implantation, Responsable, Localite };
   TGrille Grille;
 
@@ -31,6 +31,10 @@ class TFrmImport : public TForm {
     QString Texte;
   };
   const TLigneFichier& Fichier() const { return fichier_; }
+  /// What step 2 will do: "12 nouveaux, 3 modifiés, 2 partis"; "" before a file is accepted.
+  QString Effet() const;
+  /// Who is no longer in the file, one a line.
+  QString Partis() const { return effet_.Partis.join(u'\n'); }
 
   /// The band of the progress.
   struct TFeuille {
@@ -56,10 +60,13 @@ class TFrmImport : public TForm {
   void PrendreEnMain(int ligne);
   void SuivreLigne(int ligne);
   void Arreter();
+  void AnnoncerEffet();
+  void DireSansSite() const;
 
   TContexteEcran& contexte_;
   std::unique_ptr<TImportRegistre> import_;  // once shown: it knows the layout of the files
   TLigneFichier fichier_;
+  TEffetRegistre effet_;
   TFeuille feuille_;
   bool enCours_ = false;
 };

@@ -5,6 +5,7 @@
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "pupils/eleves.h"
+#include "services/frais_eleve.h"
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +29,15 @@ QString SousTitreDe(const TEleve& eleve) {
   if (!eleve.Matricule.isEmpty()) morceaux += u"Matricule " % eleve.Matricule;
   morceaux.removeAll(QString());
   return morceaux.join(u"  ·  "_s);
+}
+
+/// "2017-2018", to which what was owed in the year on display has been carried; "" when it was not.
+QString AnneeDuReport(const TEleve& eleve) {
+  if (const TAllFraisEleve* lignes = eleve.GetAllFrais())
+    for (const TFraisEleve& ligne : *lignes)
+      if (ligne.Remarque.startsWith(u"Report vers l'année scolaire "))
+        return ligne.Remarque.section(u' ', -1);
+  return {};
 }
 
 }  // namespace
@@ -63,11 +73,11 @@ bool TFrmSignaletique::RecevoirMessage(const TMessage& message) {
       return true;
     case TCodeMessage::Imprimer:
       courriel_ = false;
-      imprimeur_.Proposer(TitresOfferts(TListeTitres::Eleves));
+      imprimeur_.Proposer(TitresOfferts(TListeTitres::Eleves), MoisVu());
       return true;
     case TCodeMessage::Courriel:
       courriel_ = true;
-      imprimeur_.Proposer(TitresCourriel());
+      imprimeur_.Proposer(TitresCourriel(), MoisVu());
       return true;
     case TCodeMessage::AssistantConfirme:
       if (const auto* choix = message.En<TChoixDocument>()) imprimeur_.Imprimer(*choix);
@@ -137,8 +147,10 @@ TEtatGrille TFrmSignaletique::EtatSolde() const {
   // By what is shown: less than a cent is nothing.
   const Currency vu = Frais.Solde.TronqueAuCent();
   if (vu < Currency()) return {u"À payer"_s, u"data-warning"_s};
-  if (vu > Currency()) return {u"En avance"_s, u"dialog-ok-apply"_s};
-  return {u"En ordre"_s, u"dialog-ok-apply"_s};
+  if (vu > Currency()) return {u"En votre faveur"_s, u"dialog-ok-apply"_s};
+  const QString annee =
+      avecEleve_ && Globals.EleveCourant != nullptr ? AnneeDuReport(*Globals.EleveCourant) : QString();
+  return {annee.isEmpty() ? u"En ordre"_s : QString(u"Reporté en " % annee), u"dialog-ok-apply"_s};
 }
 
 QStringList TFrmSignaletique::NomsMois() {
@@ -155,8 +167,7 @@ void TFrmSignaletique::cmbMoisChange(int indice) {
 }
 
 void TFrmSignaletique::RemplirReleve(const TEleve& eleve) {
-  const int mois = kMoisFacturation[static_cast<std::size_t>(indiceMois_)];
-  Releve.Remplir(eleve, BornesMois(mois, eleve.Eleves->AnneeScolaire));
+  Releve.Remplir(eleve, BornesMois(MoisVu(), eleve.Eleves->AnneeScolaire));
 }
 
 QString TFrmSignaletique::TexteSansReleve() const {

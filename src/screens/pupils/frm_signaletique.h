@@ -72,6 +72,8 @@ class TFrmSignaletique : public TForm {
   // The month of the list, 0 for September to 9 for June.
   static QStringList NomsMois();
   int IndiceMois() const { return indiceMois_; }
+  /// The same, 1 to 12.
+  int MoisVu() const { return kMoisFacturation[static_cast<std::size_t>(indiceMois_)]; }
   void cmbMoisChange(int indice);
   /// Instead of a list without a row: "Aucun relevé en novembre"; else "".
   QString TexteSansReleve() const;

@@ -3,11 +3,13 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <algorithm>
 #include <cmath>
 
+#include "core/dialogues.h"
 #include "core/exceptions.h"
 #include "report/output/pdf.h"
 #include "report/output/peintre.h"
@@ -130,9 +132,14 @@ void PeindreSurImprimante(const TDocumentPrepare& document, QPrinter& imprimante
   }
 }
 
-QString ImprimerAvecDialogue(const TDocumentPrepare& document, int page, QWidget* parent) {
+QString ImprimerAvecDialogue(const TDocumentPrepare& document, int page, IDialogues& dialogues,
+                             QWidget* parent) {
   QPrinter imprimante(QPrinter::HighResolution);
   if (document.Pages.empty()) return {};
+  if (QPrinterInfo::availablePrinterNames().isEmpty())
+    dialogues.Message(
+        u"Aucune imprimante n'a été trouvée sur cet ordinateur. La fenêtre suivante ne propose que "
+        "d'enregistrer un fichier PDF."_s);
   imprimante.setPageLayout(Papier(document.Pages[0]));
   QPrintDialog dialogue(&imprimante, parent);
   dialogue.setWindowTitle(u"Imprimer"_s);

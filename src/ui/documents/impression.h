@@ -1,6 +1,7 @@
 #pragma once
 #include <QString>
 
+class IDialogues;
 class QPrinter;
 class QWidget;
 class TDocumentPrepare;
@@ -14,5 +15,6 @@ void Imprimer(const TDocumentPrepare& document, QPrinter& imprimante);
 void PeindreSurImprimante(const TDocumentPrepare& document, QPrinter& imprimante);
 
 /// Asks for the printer, the default one first, and prints. `page` is the one in hand, from 0. The name
-/// of the printer; "" when the user gave up.
-QString ImprimerAvecDialogue(const TDocumentPrepare& document, int page, QWidget* parent);
+/// of the printer; "" when the user gave up. Without any printer that is said first.
+QString ImprimerAvecDialogue(const TDocumentPrepare& document, int page, IDialogues& dialogues,
+                             QWidget* parent);

@@ -61,9 +61,18 @@ void PagesApercu::Rafraichir() {
           place.left() + static_cast<int>(std::lround(enLargeur * place.width())) - viewport()->width() / 2);
     }
   }
-  setAccessibleDescription(form_.PagesPretes() == 0 ? QString()
-                                                    : u"Page " % QString::number(form_.PageCourante() + 1));
+  DireLaPage();
   viewport()->update();
+}
+
+// An assistive program reads the page in hand; its text is gathered once.
+void PagesApercu::DireLaPage() {
+  const int page = form_.PagesPretes() == 0 ? -1 : form_.PageCourante();
+  if (page == pageDite_ && form_.Version() == versionDite_) return;
+  pageDite_ = page;
+  versionDite_ = form_.Version();
+  setAccessibleDescription(page < 0 ? QString()
+                                    : u"Page %1\n"_s.arg(page + 1) % form_.Document().TexteDePage(page));
 }
 
 void PagesApercu::Disposer() {

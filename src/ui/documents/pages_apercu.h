@@ -25,6 +25,7 @@ class PagesApercu : public QAbstractScrollArea {
   void wheelEvent(QWheelEvent* evenement) override;
 
  private:
+  void DireLaPage();
   void Disposer();
   void PoserBarres();
   int PageA(int y) const;
@@ -39,7 +40,8 @@ class PagesApercu : public QAbstractScrollArea {
   QSize etendue_;
   double echelle_ = 0.0;
   int version_ = -1;
-  bool enCours_ = false;        ///< the program itself scrolls
-  int molette_ = 0;             ///< part of a notch turned with Ctrl
-  QCache<int, QImage> images_;  ///< by page; costs are KiB
+  bool enCours_ = false;                  ///< the program itself scrolls
+  int molette_ = 0;                       ///< part of a notch turned with Ctrl
+  QCache<int, QImage> images_;            ///< by page; costs are KiB
+  int pageDite_ = -2, versionDite_ = -1;  // whose text is told
 };

@@ -60,7 +60,7 @@ void VueApercu::Suivre() {
   liens_ += form_.SurChangement.Suivre([this] { Rafraichir(); });
   liens_ += form_.SurMontrer.Suivre([this](int page, const QRectF& place) { pages_->Montrer(page, place); });
   liens_ += form_.SurImprimer.Suivre([this](const TDocumentPrepare& document, QString& imprimante) {
-    imprimante = ImprimerAvecDialogue(document, form_.PageCourante(), this);
+    imprimante = ImprimerAvecDialogue(document, form_.PageCourante(), form_.Dialogues(), this);
   });
   connect(&minuterie_, &QTimer::timeout, this, [this] { form_.Continuer(); });
   minuterie_.setInterval(0);
@@ -129,6 +129,7 @@ void VueApercu::CreerZoom(QHBoxLayout& ligne) {
   zoom_->addItems(TFrmApercu::ChoixZoom());
   zoom_->setCompleter(nullptr);
   zoom_->setAccessibleName(u"Zoom"_s);
+  zoom_->lineEdit()->setAccessibleName(u"Zoom"_s);
   zoom_->setToolTip(u"Zoom (Ctrl+0 : 100 %)"_s);
   zoom_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   zoom_->setMinimumContentsLength(5);

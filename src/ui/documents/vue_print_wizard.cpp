@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QStackedWidget>
 
+#include "documents/periode.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/saisie.h"
@@ -133,13 +134,22 @@ QWidget* VuePrintWizard::CreerPageRapport() {
   colonne->setSpacing(Theme::Px(4));
   auto* zone = new QScrollArea;
   for (const TTitreAssistant& titre : form_.Titres()) {
-    auto* bouton = new QRadioButton(titre.Titre);
+    const bool possible = titre.Empechement.isEmpty();
+    auto* bouton =
+        new QRadioButton(possible ? titre.Titre : QString(titre.Titre % u" (" % titre.Empechement % u')'));
+    bouton->setEnabled(possible);
     bouton->setMinimumSize(Theme::Px(420), Theme::Px(24));
     titres_->addButton(bouton, static_cast<int>(titres_->buttons().size()));
     colonne->addWidget(bouton, 0, Qt::AlignLeft);
     connect(bouton, &QRadioButton::toggled, zone, [zone, bouton](bool coche) {
       if (coche) zone->ensureWidgetVisible(bouton);
     });
+  }
+  if (const int dernier = form_.IndiceDernier(); dernier >= 0) {
+    QPushButton* reprendre =
+        BoutonDiscret(u"Comme la dernière fois : " % form_.Titres()[static_cast<std::size_t>(dernier)].Titre);
+    connect(reprendre, &QPushButton::clicked, this, [this] { form_.btnDernierClick(); });
+    colonne->addWidget(reprendre, 0, Qt::AlignLeft);
   }
   colonne->addStretch(1);
   zone->setFrameShape(QFrame::NoFrame);
@@ -204,7 +214,15 @@ QWidget* VuePrintWizard::CreerLigneMois() {
   mois_->setPlaceholderText(u"Choisir un mois"_s);
   mois_->setMinimumWidth(Theme::Px(160));
   mois_->setAccessibleName(u"Mois"_s);
-  return mois_;
+  auto* champs = new QWidget;
+  auto* ligne = SansMarge<QHBoxLayout>(champs, 12);
+  ligne->addWidget(mois_);
+  if (form_.MoisEcran() > 0) {
+    QPushButton* ecran = BoutonDiscret(u"Mois à l'écran : " % NomMois(form_.MoisEcran()).toLower());
+    connect(ecran, &QPushButton::clicked, this, [this] { form_.btnMoisEcranClick(); });
+    ligne->addWidget(ecran);
+  }
+  return champs;
 }
 
 QWidget* VuePrintWizard::CreerLigneDates() {

@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "screens/principal/frm_main.h"
+#include "ui/commun/acces_bouton.h"
 #include "ui/commun/theme.h"
 
 using namespace Qt::StringLiterals;
@@ -65,6 +66,7 @@ QString ToucheAlt(const QString& libelle) {
 }  // namespace
 
 BarreCommandes::BarreCommandes(TFrmMain& form, QWidget* parent) : QWidget(parent), form_(form) {
+  InstallerAccesBoutons();
   setAccessibleName(u"Barre de commandes"_s);
   auto* onglets = new QHBoxLayout;
   onglets->setContentsMargins(Theme::Px(8), 0, Theme::Px(16), 0);
@@ -107,6 +109,22 @@ void BarreCommandes::CreerOnglets(QHBoxLayout& ligne) {
   annees_->setToolTip(u"Année affichée (Ctrl+0)"_s);
   connect(annees_, &QToolButton::clicked, this, &BarreCommandes::OuvrirMenuAnnees);
   ligne.addWidget(annees_);
+  CreerAide(ligne);
+}
+
+void BarreCommandes::CreerAide(QHBoxLayout& ligne) {
+  aide_ = CreerOnglet(u"?"_s);
+  aide_->setCheckable(false);
+  aide_->setFixedHeight(Theme::Px(kHauteurOnglets));
+  aide_->setAccessibleName(u"Aide"_s);
+  aide_->setToolTip(u"Guide (F1), touches (Maj+F1), version"_s);
+  aide_->setPopupMode(QToolButton::InstantPopup);
+  auto* menu = new QMenu(aide_);
+  menu->addAction(u"&Guide\tF1"_s, this, &BarreCommandes::GuideDemande);
+  menu->addAction(u"&Touches\tMaj+F1"_s, this, &BarreCommandes::TouchesDemandees);
+  menu->addAction(u"À &propos"_s, this, &BarreCommandes::AProposDemande);
+  aide_->setMenu(menu);
+  ligne.addWidget(aide_);
 }
 
 void BarreCommandes::CreerCommandes(QHBoxLayout& ligne) {
@@ -173,9 +191,10 @@ void BarreCommandes::ActualiserOutils() {
     unOutil = unOutil || visible;
     bouton->setVisible(visible);
     bouton->setEnabled(actif);
-    bouton->setToolTip(outil.Libelle % (actif               ? QString(u" (" % outil.Touche % u')')
-                                        : form_.EnTravail() ? u" : un travail est en cours"_s
-                                                            : u" : pas maintenant"_s));
+    bouton->setToolTip(outil.Libelle % (actif                     ? QString(u" (" % outil.Touche % u')')
+                                        : !outil.Raison.isEmpty() ? QString(u" : " % outil.Raison)
+                                        : form_.EnTravail()       ? u" : un travail est en cours"_s
+                                                                  : u" : pas maintenant"_s));
   }
   separateur_->setVisible(unOutil);
 }

@@ -23,13 +23,20 @@ class BarreCommandes : public QWidget {
   void ActiverPage(int rang);
   QToolButton* Bouton(TGestionnaire gestionnaire) const { return commandes_.at(gestionnaire); }
   QToolButton* Bouton(TOutil outil) const { return outils_.at(outil); }
+  QToolButton* Aide() const { return aide_; }
   QToolButton* Annees() const { return annees_; }
   QToolButton* Onglet(TPage page) const { return onglets_.at(page); }
+
+ signals:
+  void GuideDemande();
+  void TouchesDemandees();
+  void AProposDemande();
 
  protected:
   void paintEvent(QPaintEvent* evenement) override;
 
  private:
+  void CreerAide(QHBoxLayout& ligne);
   void CreerOnglets(QHBoxLayout& ligne);
   void CreerCommandes(QHBoxLayout& ligne);
   void CreerOutils(QHBoxLayout& ligne);
@@ -40,4 +47,5 @@ class BarreCommandes : public QWidget {
   std::map<TOutil, QToolButton*> outils_;
   QWidget* separateur_;
   QToolButton* annees_;
+  QToolButton* aide_;
 };

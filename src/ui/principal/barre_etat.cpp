@@ -28,16 +28,12 @@ BarreEtat::BarreEtat(const TFrmMain& form, QWidget* parent)
 
 void BarreEtat::Actualiser() {
   const bool relie = form_.EstRelie();
-  const int affichee = form_.AnneeCochee(), travail = Globals.AnneeScolaire;
   for (Etiquette* texte : {affichee_, travail_}) texte->setVisible(relie);
-  affichee_->setText(u"Affichée : " % AnneeEnTexte(affichee));
-  travail_->setText(u"Année de travail : " % AnneeEnTexte(travail));
-  ecart_->setVisible(relie && affichee != travail);
+  affichee_->setText(u"Affichée : " % AnneeEnTexte(form_.AnneeCochee()));
+  travail_->setText(u"Année de travail : " % AnneeEnTexte(form_.AnneeTravail()));
+  ecart_->setVisible(relie && !form_.AnneeDeTravailAffichee());
   ecart_->Definir(TNiveauEtat::Alerte, u"Année affichée ≠ année de travail"_s);
-  const QString serveur = form_.Serveur();
-  serveur_->setText(!serveur.isEmpty()      ? QString(u"Serveur : " % serveur)
-                    : Globals.ModeHorsLigne ? u"Hors ligne"_s
-                                            : u"Non connecté"_s);
+  serveur_->setText(form_.TexteServeur());
 }
 
 void BarreEtat::MontrerEtat() {

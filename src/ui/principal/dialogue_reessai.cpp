@@ -52,6 +52,13 @@ DialogueReessai::DialogueReessai(const TReessai& reessai, QWidget* parent)
     : DialogueBase(reessai.Titre, parent) {
   DefinirEntete(reessai.Texte);
   setMinimumWidth(Theme::Px(kLargeur));
+  if (!reessai.Cause.isEmpty()) {  // what really happened comes before what it may be
+    auto* cause = new Etiquette(reessai.Cause, TRole::Texte, &Theme::Gras);
+    cause->setWordWrap(true);
+    cause->setTextFormat(Qt::PlainText);
+    cause->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    Contenu()->addWidget(cause);
+  }
   auto* explication = new Etiquette(reessai.Explication);
   explication->setWordWrap(true);
   Contenu()->addWidget(explication);
@@ -59,16 +66,10 @@ DialogueReessai::DialogueReessai(const TReessai& reessai, QWidget* parent)
   auto* lien = new Lien(reessai.Lien);
   connect(lien, &QLabel::linkActivated, this, [surLien = reessai.SurLien] {
     if (surLien) surLien();
+    Principal()->setFocus();  // Enter tries the new name
   });
   Contenu()->addWidget(lien);
 
-  if (!reessai.Cause.isEmpty()) {
-    auto* cause = new Etiquette(reessai.Cause, TRole::Secondaire);
-    cause->setWordWrap(true);
-    cause->setTextFormat(Qt::PlainText);
-    cause->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    Contenu()->addWidget(cause);
-  }
   Contenu()->addStretch();
   DefinirPrincipal(u"&Réessayer"_s);
   resize(minimumWidth(), layout()->totalHeightForWidth(minimumWidth()));

@@ -1,6 +1,7 @@
 #include "ui/principal/dialogue_saisie.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "ui/commun/champ_libelle.h"
 
@@ -8,9 +9,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+bool EstServeur(const QString& titre) { return titre == u"Identification du Serveur de données"; }
+
 /// What a person needs to know to answer, besides what is asked.
 QString Aide(const QString& titre) {
-  if (titre != u"Identification du Serveur de données") return {};
+  if (!EstServeur(titre)) return {};
   return u"Le nom « local » fait travailler ce poste seul, sans serveur : les données sont alors dans un "
          u"fichier "
          "de cet ordinateur, créé à la première ouverture."_s;
@@ -31,6 +34,13 @@ DialogueSaisie::DialogueSaisie(const QString& titre, const QString& invite, cons
     auto* note = new Etiquette(texte, TRole::Secondaire);
     note->setWordWrap(true);
     Contenu()->addWidget(note);
+  }
+  if (EstServeur(titre)) {
+    connect(AjouterBouton(u"&Travailler seul"_s), &QPushButton::clicked, this, [this] {
+      champ_->setText(u"local"_s);
+      accept();
+    });
+    DefinirPrincipal(u"&Se connecter à un serveur"_s);
   }
   resize(minimumWidth(), layout()->totalHeightForWidth(minimumWidth()));
   champ_->selectAll();

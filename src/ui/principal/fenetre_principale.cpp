@@ -1,17 +1,21 @@
 #include "ui/principal/fenetre_principale.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
 
 #include "screens/principal/frm_main.h"
+#include "ui/commun/dialogue_base.h"
 #include "ui/commun/etat_vide.h"
 #include "ui/commun/feuille_progression.h"
 #include "ui/commun/theme.h"
 #include "ui/principal/barre_commandes.h"
 #include "ui/principal/barre_etat.h"
 #include "ui/principal/dialogues_qt.h"
+#include "ui/principal/guide.h"
 #include "ui/principal/panneau_eleves.h"
 #include "ui/principal/vue_accueil.h"
 #include "ui/vues.h"
@@ -51,6 +55,13 @@ FenetrePrincipale::FenetrePrincipale(TFrmMain& form, DialoguesQt& dialogues)
   CreerTouches();
   Suivre();
   qApp->installEventFilter(this);
+  connect(barre_, &BarreCommandes::GuideDemande, this, &FenetrePrincipale::MontrerGuide);
+  connect(barre_, &BarreCommandes::TouchesDemandees, this, &FenetrePrincipale::MontrerTouches);
+  connect(barre_, &BarreCommandes::AProposDemande, this, &FenetrePrincipale::MontrerAPropos);
+  // Whatever was copied, and wherever: the hand is told.
+  connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
+    if (QApplication::clipboard()->ownsClipboard()) form_.Etat(TNiveauEtat::Succes, u"Copié"_s);
+  });
   connect(vide_, &EtatVide::BoutonPresse, this,
           [this] { form_.Executer(TGestionnaire::AdvGlowButton2Click); });
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* present) {
@@ -222,6 +233,26 @@ void FenetrePrincipale::DonnerFoyer(QWidget& zone) {
   }
 }
 
+void FenetrePrincipale::MontrerGuide() {
+  if (!guide_) guide_ = new Guide(this);
+  guide_->show();
+  guide_->raise();
+  guide_->activateWindow();
+}
+
+void FenetrePrincipale::MontrerTouches() {
+  DialogueBase dialogue(u"Touches"_s, this);
+  dialogue.Contenu()->addWidget(ListeDesTouches());
+  dialogue.resize(Theme::Px(480), Theme::Px(520));
+  dialogue.Annuler()->hide();
+  dialogue.DefinirPrincipal(u"Fermer"_s);
+  dialogue.exec();
+}
+
+void FenetrePrincipale::MontrerAPropos() {
+  dialogues_.Information(QStringLiteral("Calpenne, version " CALPENNE_VERSION));
+}
+
 // F6: bar, tree, content, and round again; backwards for sens -1.
 void FenetrePrincipale::ZoneSuivante(int sens) {
   QWidget* const zones[] = {barre_, eleves_, contenu_};
@@ -250,6 +281,8 @@ void FenetrePrincipale::ToucheOutil(const QKeySequence& touche, TOutil outil) {
 }
 
 void FenetrePrincipale::CreerTouches() {
+  Touche(Qt::Key_F1, [this] { MontrerGuide(); });
+  Touche(Qt::SHIFT | Qt::Key_F1, [this] { MontrerTouches(); });
   Touche(Qt::Key_F3, [this] { eleves_->AllerALaRecherche(); });
   Touche(Qt::Key_F6, [this] { ZoneSuivante(1); });
   Touche(Qt::SHIFT | Qt::Key_F6, [this] { ZoneSuivante(-1); });

@@ -10,6 +10,7 @@ class BarreEtat;
 class DialoguesQt;
 class EtatVide;
 class FeuilleProgression;
+class Guide;
 class PanneauEleves;
 class QShortcut;
 class QStackedWidget;
@@ -52,6 +53,9 @@ class FenetrePrincipale : public QMainWindow {
   void SuivreEtape(TForm& form, TEtapeForm etape);
   void Montrer(TForm& form);
   void Progresser(int fait, int total, const QString& nom);
+  void MontrerGuide();
+  void MontrerTouches();
+  void MontrerAPropos();
   void ZoneSuivante(int sens);
   void DonnerFoyer(QWidget& zone);
 
@@ -73,5 +77,6 @@ class FenetrePrincipale : public QMainWindow {
   bool foyerDuContenu_ = false;  // it was in the screen that has just gone
   bool feuilleOuverte_ = false;  // by this window, which then shuts it
   int dureeBulles_ = -1;
+  QPointer<Guide> guide_;
   TLiens liens_;
 };

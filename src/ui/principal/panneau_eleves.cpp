@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QListWidget>
 #include <QMenu>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -93,6 +94,7 @@ class DelegueEleves : public QStyledItemDelegate {
 PanneauEleves::PanneauEleves(TFrmMain& form, QWidget* parent)
     : QWidget(parent), form_(form), modele_(new ModeleArbre(form.Arbre, this)) {
   CreerRecherche();
+  CreerTrouves();
   CreerArbre();
   vide_ = new Etiquette({}, TRole::Texte, &Theme::Gras);
   phrase_ = new Etiquette({}, TRole::Secondaire);
@@ -115,12 +117,14 @@ PanneauEleves::PanneauEleves(TFrmMain& form, QWidget* parent)
   colonne->setContentsMargins(Theme::Px(12), Theme::Px(12), Theme::Px(12), Theme::Px(8));
   colonne->setSpacing(Theme::Px(8));
   colonne->addWidget(recherche_);
+  colonne->addWidget(trouves_);
   colonne->addWidget(arbre_, 1);
   colonne->addWidget(sansEleve_, 1);
   colonne->addWidget(compte_);
   setFixedWidth(Theme::Px(248));
 
-  lien_ = form_.Arbre.SurChangement.Suivre([this] { Relire(); });
+  liens_ += form_.Arbre.SurChangement.Suivre([this] { Relire(); });
+  liens_ += form_.SurTrouves.Suivre([this] { MontrerTrouves(); });
   Relire();
 }
 
@@ -128,7 +132,7 @@ void PanneauEleves::CreerRecherche() {
   recherche_ = new QLineEdit;
   recherche_->setPlaceholderText(u"Rechercher (F3)"_s);
   recherche_->setAccessibleName(u"Rechercher un élève"_s);
-  recherche_->setToolTip(u"Début du nom (F3) ; Entrée : élève suivant ; Début : effacer"_s);
+  recherche_->setToolTip(u"Nom, responsable ou matricule (F3) ; Entrée : élève suivant ; Début : effacer"_s);
   recherche_->addAction(Theme::Icone(u"edit-find"_s, TRole::Secondaire), QLineEdit::LeadingPosition);
   suivant_ =
       recherche_->addAction(Theme::Icone(u"go-down"_s, TRole::Secondaire), QLineEdit::TrailingPosition);
@@ -137,6 +141,18 @@ void PanneauEleves::CreerRecherche() {
   recherche_->installEventFilter(this);
   connect(suivant_, &QAction::triggered, this, [this] { form_.btnRechercheClick(); });
   connect(recherche_, &QLineEdit::textEdited, this, &PanneauEleves::Texter);
+}
+
+// Those that the second search found, between field and tree while there are several.
+void PanneauEleves::CreerTrouves() {
+  trouves_ = new QListWidget;
+  trouves_->setAccessibleName(u"Élèves trouvés"_s);
+  trouves_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  trouves_->hide();
+  connect(trouves_, &QListWidget::itemActivated, this,
+          [this](const QListWidgetItem* choisi) { form_.ChoisirTrouve(trouves_->row(choisi)); });
+  connect(trouves_, &QListWidget::itemClicked, this,
+          [this](const QListWidgetItem* choisi) { form_.ChoisirTrouve(trouves_->row(choisi)); });
 }
 
 void PanneauEleves::CreerArbre() {
@@ -196,7 +212,6 @@ void PanneauEleves::SuivreSelection() {
 void PanneauEleves::Actualiser() {
   const bool vide = form_.SansEleve();
   const bool actif = form_.EstRelie() && !form_.EnTravail();
-  const int eleves = form_.NombreEleves(), radies = form_.NombreRadies();
   recherche_->setEnabled(actif && !vide);
   arbre_->setVisible(!vide);
   arbre_->setEnabled(actif);
@@ -204,24 +219,30 @@ void PanneauEleves::Actualiser() {
   compte_->setVisible(form_.EstRelie() && !vide);
   if (vide) {
     vide_->setText(u"Aucun élève en " % AnneeEnTexte(form_.AnneeCochee()));
-    phrase_->setText(form_.AnneeCochee() == Globals.AnneeScolaire
+    phrase_->setText(form_.AnneeDeTravailAffichee()
                          ? u"Importez l'export du registre SIEL pour créer les classes et les élèves."_s
                          : u"Le menu des années (Ctrl+0) montre les autres."_s);
   }
-  QString compte = QString::number(eleves) % (eleves > 1 ? u" élèves" : u" élève");
-  if (radies > 0) compte += u", dont " % QString::number(radies) % (radies > 1 ? u" radiés" : u" radié");
-  compte_->setText(compte);
+  compte_->setText(form_.TexteNombres());
 }
 
-// Typed or pasted: what the search does not take is dropped.
+// Typed or pasted: what the search does not take leaves the field.
 void PanneauEleves::Texter(const QString& texte) {
-  const QString admis = TFrmMain::edSearchKeyPress(texte);
-  if (admis != texte) {
-    const auto apres = recherche_->cursorPosition() - (texte.size() - admis.size());
-    recherche_->setText(admis);
-    recherche_->setCursorPosition(static_cast<int>(apres));
-  }
-  if (admis != form_.TexteRecherche()) form_.edSearchChange(admis);
+  const QString admis = form_.edSearchSaisie(texte);
+  if (admis == texte) return;
+  const auto apres = recherche_->cursorPosition() - (texte.size() - admis.size());
+  recherche_->setText(admis);
+  recherche_->setCursorPosition(static_cast<int>(apres));
+}
+
+void PanneauEleves::MontrerTrouves() {
+  const auto& trouves = form_.Trouves();
+  trouves_->clear();
+  for (const TNoeud* noeud : trouves) trouves_->addItem(noeud->Texte % u"  ·  " % noeud->Parent()->Texte);
+  trouves_->setVisible(!trouves.empty());
+  constexpr int kLignes = 8;
+  const int lignes = std::min(static_cast<int>(trouves.size()), kLignes);
+  trouves_->setFixedHeight(lignes * trouves_->sizeHintForRow(0) + 2 * trouves_->frameWidth());
 }
 
 bool PanneauEleves::ToucheRecherche(int touche) {
@@ -236,7 +257,8 @@ bool PanneauEleves::ToucheRecherche(int touche) {
       form_.btnRechercheClick();
       return true;
     case Qt::Key_Down:
-      arbre_->setFocus(Qt::OtherFocusReason);
+      if (trouves_->count() > 0) trouves_->setCurrentRow(0);
+      (trouves_->count() > 0 ? static_cast<QWidget*>(trouves_) : arbre_)->setFocus(Qt::OtherFocusReason);
       return true;
     default:
       return false;

@@ -8,6 +8,7 @@ class Etiquette;
 class ModeleArbre;
 class QAction;
 class QLineEdit;
+class QListWidget;
 class QTreeView;
 class TFrmMain;
 
@@ -32,6 +33,8 @@ class PanneauEleves : public QWidget {
  private:
   void CreerRecherche();
   void CreerArbre();
+  void CreerTrouves();
+  void MontrerTrouves();
   void Relire();
   void Deplier(const QModelIndex& index);
   void NoterPli(const QModelIndex& index, bool ouvert);
@@ -43,6 +46,7 @@ class PanneauEleves : public QWidget {
   ModeleArbre* modele_;
   QLineEdit* recherche_;
   QAction* suivant_;
+  QListWidget* trouves_;
   QTreeView* arbre_;
   QWidget* sansEleve_;  // in the place of the tree
   Etiquette* vide_;
@@ -51,5 +55,5 @@ class PanneauEleves : public QWidget {
   // By their path, so that a tree built anew opens as it was: sites stand open, classes shut.
   QSet<QString> fermes_;
   QSet<QString> ouverts_;
-  TLien lien_;
+  TLiens liens_;
 };

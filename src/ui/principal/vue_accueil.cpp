@@ -121,7 +121,7 @@ VueAccueil::VueAccueil(TFrmMain& form, QWidget* parent)
 }
 
 void VueAccueil::Actualiser() {
-  const int affichee = form_.AnneeCochee(), travail = Globals.AnneeScolaire;
+  const int affichee = form_.AnneeCochee(), travail = form_.AnneeTravail();
   if (!form_.SansEleve()) {
     titre_->setText(u"Année scolaire " % AnneeEnTexte(travail));
     phrase_->setText(u"Il reste à préparer cette année scolaire."_s);

@@ -5,6 +5,7 @@
 #include <QScopeGuard>
 #include <QVBoxLayout>
 
+#include "core/accord.h"
 #include "screens/pupils/frm_import.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/champ_filtre.h"
@@ -25,6 +26,7 @@ VueImport::VueImport(TFrmImport& form, QWidget* parent)
       etape2_(BoutonSimple(u"Etape n°2 : Démarrer le transfert des données"_s, u"document-import"_s)),
       eleves_(new Compteur({})),
       fichier_(new MarqueEtat),
+      effet_(new Etiquette({}, TRole::Secondaire)),
       feuille_(new FeuilleProgression),
       grille_(new VueGrille(form.Grille, u"Contenu du fichier"_s, u"Importation/Fichier"_s)),
       vide_(new EtatVide(grille_)) {
@@ -69,6 +71,7 @@ void VueImport::Disposer() {
   colonne->addWidget(new TitreEcran(u"Importation des élèves"_s));
   colonne->addLayout(boutons);
   colonne->addLayout(comptes);
+  colonne->addWidget(effet_);
   colonne->addWidget(feuille_);
   colonne->addWidget(titre);
   colonne->addWidget(grille_, 1);
@@ -83,8 +86,11 @@ void VueImport::Actualiser() {
   etape2_->setEnabled(form_.Etape2Active());
   const int nombre = form_.NombreEleves();
   eleves_->Definir(nombre);
-  eleves_->DefinirMot(nombre > 1 ? u"élèves dans le fichier"_s : u"élève dans le fichier"_s);
+  eleves_->DefinirMot(Accorder(nombre, u"élève dans le fichier"_s, u"élèves dans le fichier"_s));
   fichier_->Definir(form_.Fichier().Niveau, form_.Fichier().Texte);
+  effet_->setText(form_.Effet());
+  effet_->setVisible(!form_.Effet().isEmpty());
+  effet_->setToolTip(form_.Partis());
   if (form_.Grille.NombreLignes() > 0)
     vide_->Cacher();
   else

@@ -5,6 +5,7 @@
 
 class Compteur;
 class EtatVide;
+class Etiquette;
 class FeuilleProgression;
 class MarqueEtat;
 class QPushButton;
@@ -28,6 +29,7 @@ class VueImport : public QWidget {
   QPushButton* etape2_;
   Compteur* eleves_;
   MarqueEtat* fichier_;
+  Etiquette* effet_;
   FeuilleProgression* feuille_;
   VueGrille* grille_;
   EtatVide* vide_;

@@ -1,0 +1,150 @@
+// The search of the main window: first the names of the tree by their beginning, then any part of what is
+// known of a pupil, and the register number as a hand scanner types it.
+#include <QRegularExpression>
+#include <algorithm>
+#include <utility>
+
+#include "core/accord.h"
+#include "core/comparaisons.h"
+#include "screens/principal/frm_main.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString Connu(const TEleve& eleve) {
+  return Simplifier(QStringList{eleve.NomComplet(), eleve.NomResponsable, eleve.PrenomResponsable,
+                                eleve.NomResponsable2, eleve.PrenomResponsable2}
+                        .join(u'\n'));
+}
+
+}  // namespace
+
+QString TFrmMain::edSearchKeyPress(const QString& texte) {
+  QString admis;
+  for (const QChar c : texte)
+    if (!c.isDigit() && !QStringView(u"*+-./").contains(c)) admis += c;
+  return admis;
+}
+
+QString TFrmMain::edSearchSaisie(const QString& texte) {
+  const QString admis = edSearchKeyPress(texte);
+  if (admis != recherche_) edSearchChange(admis);
+  if (!admis.trimmed().isEmpty()) return admis;
+  for (const QChar c : texte)
+    if (c.isDigit()) matricule_ += c;
+  if (!matricule_.isEmpty())
+    Etat(TNiveauEtat::Neutre, u"Matricule %1 : Entrée ouvre la fiche"_s.arg(matricule_));
+  return admis;
+}
+
+TNoeud* TFrmMain::NoeudQuiCommence(TNoeud* debut) const {
+  const QString cherche = recherche_.trimmed();
+  if (cherche.isEmpty()) return nullptr;
+  return Arbre.Trouver(
+      [&](const TNoeud& noeud) { return noeud.Texte.startsWith(cherche, Qt::CaseInsensitive); }, debut);
+}
+
+// At the start, with no screen open, the one found shows its record.
+void TFrmMain::OuvrirNoeud(TNoeud& noeud) {
+  Arbre.Selectionner(&noeud);
+  if (noeud.Objet.En<TEleve>() == nullptr || Panneau.Courante() != nullptr) return;
+  const TGestionnaire fiche = TGestionnaire::AdvGlowButton2Click;
+  if (PageVisible(TPage::PgEleve) && CommandeActive(Commande(fiche))) Executer(fiche);
+}
+
+// Nobody is current after a search that found nobody, so that nobody's papers are printed by mistake.
+void TFrmMain::LaisserEleve() {
+  if (Arbre.Selection() != nullptr) Arbre.Selectionner(nullptr);
+  if (Globals.EleveCourant == nullptr && Globals.ClasseCourante == nullptr) return;
+  Globals.EleveCourant = nullptr;
+  Globals.ClasseCourante = nullptr;
+  Diffuser(TCodeMessage::EleveChange);
+  Annoncer();
+}
+
+void TFrmMain::edSearchChange(const QString& texte) {
+  recherche_ = texte;
+  matricule_.clear();
+  MontrerTrouves({});
+  if (texte.trimmed().isEmpty()) return;
+  if (TNoeud* noeud = NoeudQuiCommence(Arbre.Premier())) {
+    OuvrirNoeud(*noeud);
+    Etat(TNiveauEtat::Neutre, {});
+  } else {
+    ChercherPartout();
+  }
+}
+
+void TFrmMain::MontrerTrouves(std::vector<TNoeud*> trouves) {
+  if (trouves_.empty() && trouves.empty()) return;
+  trouves_ = std::move(trouves);
+  SurTrouves();
+}
+
+void TFrmMain::ChoisirTrouve(int rang) {
+  if (rang < 0 || rang >= static_cast<int>(trouves_.size())) return;
+  TNoeud& noeud = *trouves_[static_cast<std::size_t>(rang)];
+  MontrerTrouves({});
+  OuvrirNoeud(noeud);
+}
+
+bool TFrmMain::ChercherPartout() {
+  const QStringList mots = Simplifier(recherche_).split(u' ', Qt::SkipEmptyParts);
+  std::vector<TNoeud*> trouves;
+  for (TNoeud* noeud = Arbre.Premier(); noeud != nullptr; noeud = Arbre.Suivant(*noeud)) {
+    const TEleve* eleve = noeud->Objet.En<TEleve>();
+    if (eleve == nullptr) continue;
+    const QString connu = Connu(*eleve);
+    if (std::ranges::all_of(mots, [&](const QString& mot) { return connu.contains(mot); }))
+      trouves.push_back(noeud);
+  }
+  const QString cherche = recherche_.trimmed();
+  if (trouves.size() == 1) {
+    MontrerTrouves({});
+    OuvrirNoeud(*trouves.front());
+    Etat(TNiveauEtat::Neutre, u"Trouvé pour « %1 » : "_s.arg(cherche) % trouves.front()->Texte);
+    return true;
+  }
+  LaisserEleve();
+  if (trouves.empty())
+    Etat(TNiveauEtat::Alerte, u"Aucun élève n'est trouvé pour « %1 »"_s.arg(cherche));
+  else
+    Etat(TNiveauEtat::Neutre, u"%1 pour « %2 » : choisissez dans la liste"_s.arg(
+                                  CompterEleves(static_cast<qint64>(trouves.size())), cherche));
+  MontrerTrouves(std::move(trouves));
+  return !trouves_.empty();
+}
+
+void TFrmMain::OuvrirMatricule() {
+  const QString matricule = std::exchange(matricule_, {});
+  TEleve* eleve = Globals.Eleves != nullptr ? Globals.Eleves->TrouverParCode(matricule) : nullptr;
+  TNoeud* noeud = eleve != nullptr ? Arbre.TrouverObjet(eleve) : nullptr;
+  if (noeud != nullptr) {
+    OuvrirNoeud(*noeud);
+    Etat(TNiveauEtat::Neutre, u"Matricule %1 : "_s.arg(matricule) % noeud->Texte);
+    return;
+  }
+  LaisserEleve();
+  Etat(TNiveauEtat::Alerte, u"Aucun élève de la liste ne porte le matricule « %1 »"_s.arg(matricule));
+}
+
+// The question comes when there is another node to go back to, or none at all; a single one needs no word.
+void TFrmMain::btnRechercheClick() {
+  if (enTravail_) return;
+  if (!matricule_.isEmpty()) return OuvrirMatricule();
+  if (recherche_.trimmed().isEmpty()) return;
+  TNoeud* premier = NoeudQuiCommence(Arbre.Premier());
+  if (premier == nullptr && ChercherPartout()) return;
+  if (premier != nullptr && NoeudQuiCommence(Arbre.Suivant(*premier)) == nullptr)
+    return OuvrirNoeud(*premier);
+  for (;;) {
+    const TNoeud* choisi = Arbre.Selection();
+    TNoeud* debut = choisi != nullptr ? Arbre.Suivant(*choisi) : Arbre.Premier();
+    if (TNoeud* noeud = NoeudQuiCommence(debut)) return OuvrirNoeud(*noeud);
+    if (!Contexte.Dialogues().Confirmer(
+            u"Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?"_s))
+      return;
+    Arbre.Selectionner(Arbre.Premier());
+  }
+}
