@@ -16,6 +16,7 @@
 
 #include "core/exceptions.h"
 #include "screens/attendance/frm_presences.h"
+#include "screens/commun/frm_liste.h"
 #include "screens/pupils/frm_import.h"
 #include "ui/commun/dialogue_base.h"
 #include "ui/commun/theme.h"
@@ -63,6 +64,7 @@ class Photographe : public QObject {
   void Tout(const QString& suffixe) {
     suffixe_ = suffixe;
     Signaletique();
+    Tarifs();
     Assistant();
     Importation();
     Presences();
@@ -105,6 +107,19 @@ class Photographe : public QObject {
     main.Executer(TGestionnaire::AdvGlowButton2Click);
     Attendre(50);
     Prendre(programme_.Fenetre, u"signaletique"_s);
+  }
+
+  void Tarifs() {
+    programme_.Main.Executer(TGestionnaire::AdvGlowButton5Click);
+    auto* form = dynamic_cast<TFrmListe*>(programme_.Main.Panneau.Courante());
+    if (form == nullptr) throw Exception(u"Les tarifs ne s'ouvrent pas."_s);
+    form->Grille.ChoisirLigne(3);
+    form->Modifier();
+    form->Champs().SurFoyer(form->Champs().Indice(u"edCout"_s));
+    Attendre(50);
+    Prendre(programme_.Fenetre, u"services-tarifs"_s);
+    form->Annuler();
+    programme_.Main.Executer(TGestionnaire::AdvGlowButton2Click);
   }
 
   void Assistant() {

@@ -23,10 +23,10 @@ TEtatFrais EtatDe(Currency du, Currency verse) {
 
 TFraisPaiements::TFraisPaiements() {
   Grille.DefinirColonnes({{u"Libellé"_s, 180},
-                          {u"Mois"_s, 88, TGenre::Mois},
-                          {u"Dû"_s, 80, TGenre::Montant},
-                          {u"Payé"_s, 80, TGenre::Montant},
-                          {u"État"_s, 94, TGenre::Etat}});
+                          {u"Mois"_s, 92, TGenre::Mois},
+                          {u"Dû"_s, 72, TGenre::Montant},
+                          {u"Payé"_s, 72, TGenre::Montant},
+                          {u"État"_s, 86, TGenre::Etat}});
   Grille.CasesACocher = true;
   Grille.Etats = {{u"Payé"_s, u"dialog-ok-apply"_s},
                   {u"Dû"_s, u"data-warning"_s},

@@ -13,6 +13,12 @@ Etiquette* CreerLibelle(const QString& texte, QWidget* champ, QWidget* parent) {
   return libelle;
 }
 
+Etiquette* CreerLibelleDeRang(const QString& texte, QWidget* champ) {
+  Etiquette* libelle = CreerLibelle(texte, champ);
+  libelle->setMinimumHeight(Theme::Px(28));
+  return libelle;
+}
+
 void MarquerFaute(QWidget& champ, bool faute) {
   if (champ.property("faute").toBool() == faute) return;
   champ.setProperty("faute", faute);

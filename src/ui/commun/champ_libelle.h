@@ -9,6 +9,9 @@ class MarqueEtat;
 /// forms whose labels stand in the column of a grid layout.
 Etiquette* CreerLibelle(const QString& texte, QWidget* champ, QWidget* parent = nullptr);
 
+/// The same, as high as a field, for rows that a fault makes higher: it stays beside its field.
+Etiquette* CreerLibelleDeRang(const QString& texte, QWidget* champ);
+
 /// Draws the field as faulty or not.
 void MarquerFaute(QWidget& champ, bool faute);
 

@@ -328,7 +328,7 @@ QLayout* CreerFormulaire(LiaisonChamps& liaison) {
     } while (++champ < champs.Nombre() && champs.Champ(champ).Suite);
     const int rang = grille->rowCount();
     if (premier.Genre != TGenreChamp::Coche && !premier.Libelle.isEmpty())
-      grille->addWidget(CreerLibelle(premier.Libelle, liaison.Widget(parts.front().Champ)), rang, 0,
+      grille->addWidget(CreerLibelleDeRang(premier.Libelle, liaison.Widget(parts.front().Champ)), rang, 0,
                         Qt::AlignTop);
     grille->addLayout(liaison.Rangee(parts), rang, 1);
   }

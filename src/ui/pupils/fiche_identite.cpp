@@ -82,7 +82,7 @@ QLayout* FicheIdentite::CreerEntete() {
   naissance->setFixedWidth(Theme::Px(96));
   auto* date = new QHBoxLayout;
   date->setSpacing(Theme::Px(8));
-  date->addWidget(CreerLibelle(u"Date de naissance:"_s, naissance), 0, Qt::AlignTop);
+  date->addWidget(CreerLibelleDeRang(u"Date de naissance:"_s, naissance), 0, Qt::AlignTop);
   date->addLayout(liaison_->Rangee({{form_.Champs().Indice(u"lblDateNaissance"_s), 0}}), 1);
 
   auto* textes = new QVBoxLayout;
@@ -137,7 +137,7 @@ QLayout* FicheIdentite::CreerResponsables() {
     ++rang;
     grille->addLayout(Rangee(noms), rang, 1);
     grille->addLayout(Rangee({noms[0] % u'2', noms[1] % u'2'}), rang, 2);
-    grille->addWidget(CreerLibelle(libelle, liaison_->Widget(noms[0])), rang, 0, Qt::AlignTop);
+    grille->addWidget(CreerLibelleDeRang(libelle, liaison_->Widget(noms[0])), rang, 0, Qt::AlignTop);
   }
   const QString nom = u"rbAttestationResponsable"_s;
   attestations_ = {liaison_->Radio(nom, 0, u"Au nom du responsable"_s),
@@ -150,11 +150,11 @@ QLayout* FicheIdentite::CreerResponsables() {
 
   QWidget* compte = liaison_->Widget(u"edNumCompte"_s);
   QWidget* titulaire = liaison_->Widget(u"edNomTitulaireCompte"_s);
-  grille->addWidget(CreerLibelle(u"N° compte :"_s, compte), ++rang, 0, Qt::AlignTop);
+  grille->addWidget(CreerLibelleDeRang(u"N° compte :"_s, compte), ++rang, 0, Qt::AlignTop);
   grille->addLayout(Rangee({u"edNumCompte"_s}), rang, 1);
   auto* second = new QHBoxLayout;
   second->setSpacing(Theme::Px(8));
-  second->addWidget(CreerLibelle(u"Nom du titulaire :"_s, titulaire), 0, Qt::AlignTop);
+  second->addWidget(CreerLibelleDeRang(u"Nom du titulaire :"_s, titulaire), 0, Qt::AlignTop);
   second->addLayout(Rangee({u"edNomTitulaireCompte"_s}), 1);
   grille->addLayout(second, rang, 2);
   return grille;

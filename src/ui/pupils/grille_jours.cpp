@@ -12,7 +12,7 @@ GrilleJours::GrilleJours(QWidget* parent) : QWidget(parent), grille_(new QGridLa
   grille_->setContentsMargins(0, 0, 0, 0);
   grille_->setHorizontalSpacing(Theme::Px(12));
   grille_->setVerticalSpacing(Theme::Px(4));
-  grille_->setColumnStretch(kJours + 1, 1);
+  grille_->setColumnStretch(0, 1);
 }
 
 void GrilleJours::Definir(const QStringList& lignes) {
@@ -22,7 +22,9 @@ void GrilleJours::Definir(const QStringList& lignes) {
   textes_ = lignes;
   for (int ligne = 0; ligne < lignes.size(); ++ligne) {
     const QString& texte = lignes[ligne];
-    if (!texte.isEmpty()) grille_->addWidget(new Etiquette(texte), ligne, 0);
+    auto* libelle = new Etiquette(texte);
+    libelle->DefinirElision(true);
+    grille_->addWidget(libelle, ligne, 0);
     auto& cases = lignes_.emplace_back();
     for (int jour = 0; jour < kJours; ++jour) {
       const QString nom = LocaleEcole().dayName(jour + 1);

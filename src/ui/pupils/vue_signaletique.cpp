@@ -66,10 +66,10 @@ QWidget* VueSignaletique::CreerReleve() {
   connect(cmbMois_, &QComboBox::activated, this, [this](int indice) { form_.cmbMoisChange(indice); });
   auto* titre = new TitreSection(u"Relevé mensuel des services"_s);
   titre->AjouterSuite(cmbMois_);
-  Bouton(*titre, u"Ajouter"_s, u"list-add"_s, u"Ajouter un relevé"_s, [this] { form_.btnAjoutFaitClick(); });
-  Bouton(*titre, u"Calendrier"_s, u"view-calendar-day"_s, u"Relevés sur calendrier"_s,
+  Bouton(*titre, {}, u"list-add"_s, u"Ajouter un relevé"_s, [this] { form_.btnAjoutFaitClick(); });
+  Bouton(*titre, {}, u"view-calendar-day"_s, u"Relevés sur calendrier"_s,
          [this] { form_.btnCalendrierClick(); });
-  QPushButton* supprimer = BoutonSupprimer(u"Supprimer le relevé"_s);
+  QPushButton* supprimer = BoutonSupprimer(u"Supprimer le relevé"_s, {});
   connect(supprimer, &QPushButton::clicked, this, [this] { form_.btnDeleteFaitClick(); });
   titre->AjouterAction(supprimer);
   releve_ = new VueGrille(form_.Releve.Grille, titre->Texte(), u"Signaletique/Releve"_s);
