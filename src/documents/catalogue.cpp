@@ -13,6 +13,8 @@
 #include "documents/releve_frais.h"
 #include "pupils/eleves.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr TTitreDocument kTitres[] = {
@@ -75,7 +77,7 @@ const TTitreDocument* TrouverTitre(QStringView titre) {
 }
 
 QString Empechement(const TTitreDocument& titre) {
-  return titre.Construire != nullptr ? QString() : QStringLiteral("pas encore disponible");
+  return titre.Construire != nullptr ? QString() : u"pas encore disponible"_s;
 }
 
 bool DemandeDatePaiement(const TTitreDocument& titre, const TParametres& parametres) {

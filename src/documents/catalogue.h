@@ -17,12 +17,13 @@ struct TTitreDocument {
   bool AvecPeriode = false;  ///< the user chooses a period
   bool AvecEleves = true;    ///< the user chooses pupils or classes
   bool Courriel = false;     ///< the command for mail offers it too
-  /// Why that document cannot be made here; "" when it can.
-  QString Empechement(const TTitreDocument& titre);
   /// Whether the user has to be asked for a payment date before it; null: never.
   bool (*DemandeDate)(const TParametres&) = nullptr;
   TListeTitres Liste = TListeTitres::Eleves;
 };
+
+/// Why that document cannot be made here; "" when it can.
+QString Empechement(const TTitreDocument& titre);
 
 /// A title as it stands before the user, and what is made when it is chosen.
 struct TTitreOffert {

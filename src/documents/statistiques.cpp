@@ -4,6 +4,7 @@
 #include "core/parametres.h"
 #include "documents/entete_ecole.h"
 #include "pupils/eleves.h"
+#include "services/liste_frais.h"
 
 using namespace Qt::StringLiterals;
 

@@ -24,9 +24,9 @@ enum class TGenreChamp {
 struct TChamp {
   QString Nom = {};      ///< of the control: "edLocalite"
   QString Libelle = {};  ///< "N° compte :"; of a box, what stands behind it
-  QString Nomme = {};    ///< read aloud and said in messages, where the label does not tell enough
   TGenreChamp Genre = TGenreChamp::Texte;
   int Longueur = 0;          ///< characters that its column takes; 0 when the kind knows it
+  QString Nomme = {};        ///< read aloud and said in messages, where the label does not tell enough
   int Largeur = 0;           ///< at 10 points; 0 for what its kind takes
   bool Obligatoire = false;  ///< an empty text is no value: it does not convert
   QString Refus = {};    ///< what is said of a text that does not convert; "" for the conversion's own words

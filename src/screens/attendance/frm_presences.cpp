@@ -198,7 +198,7 @@ void TfrmPresences::Importerunfichierdeprsence1Click() {
     nom += u" · site " % site->LibelleCourt;
   Vider();
   Lire(TSource::Main, *chemin, nom);
-  Compter();
+  CompterReleves();
 }
 
 void TfrmPresences::ImporterTablette(const QString& chemin) {
@@ -207,7 +207,7 @@ void TfrmPresences::ImporterTablette(const QString& chemin) {
   source_ = TSource::Main;
   lu_ = true;
   Afficher();
-  Compter();
+  CompterReleves();
 }
 
 void TfrmPresences::Vider() {
@@ -261,7 +261,7 @@ void TfrmPresences::AjouterBon(TPresence& presence) {
                         hors ? HorsAnnee : static_cast<int>(import_.Origine(presence)));
 }
 
-void TfrmPresences::Compter() {
+void TfrmPresences::CompterReleves() {
   compteurs_ = {import_.NombreEntrees(), import_.NombreBons(), import_.NombreAnomalies(),
                 import_.NombreTotal(), true};
   Annoncer();
@@ -297,7 +297,7 @@ void TfrmPresences::Corrigerlerelev1Click() {
 // After a step 2 the lists of the import no longer hold what was stored.
 void TfrmPresences::CompterCorrection() {
   if (!compteurs_.AJour) return;
-  if (!memorise_) return Compter();
+  if (!memorise_) return CompterReleves();
   ++compteurs_.lblRecap;
   --compteurs_.lblAnomalie;
 }

@@ -76,7 +76,7 @@ class TfrmPresences : public TForm {
   void Lire(TSource source, const QString& chemin, const QString& nom);
   void Vider();
   void Afficher();
-  void Compter();
+  void CompterReleves();
   void AjouterBon(TPresence& presence);
   bool AccepteDePerdre() const;
   bool AccepteHorsAnnee() const;

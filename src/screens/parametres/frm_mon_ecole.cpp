@@ -42,8 +42,8 @@ void AjouterHoraire(TTableChamps<TParametres>& table, const THoraire& horaire) {
     const QString derriere = i == 3 ? jours : QString::fromUtf16(unite);
     table.push_back({{.Nom = QString::fromUtf16(debut) % QString::fromUtf16(horaire.Suffixe),
                       .Libelle = QString::fromUtf16(libelle),
-                      .Nomme = QString::fromUtf16(quoi) % u", " % jours,
                       .Longueur = kParametreMaximum,
+                      .Nomme = QString::fromUtf16(quoi) % u", " % jours,
                       .Largeur = 44,
                       .Unite = derriere,
                       .Suite = i > 0},

@@ -9,6 +9,8 @@
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QVBoxLayout* Remplir(QWidget& page) {

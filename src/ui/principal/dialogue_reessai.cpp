@@ -64,7 +64,7 @@ DialogueReessai::DialogueReessai(const TReessai& reessai, QWidget* parent)
   Contenu()->addWidget(explication);
 
   auto* lien = new Lien(reessai.Lien);
-  connect(lien, &QLabel::linkActivated, this, [surLien = reessai.SurLien] {
+  connect(lien, &QLabel::linkActivated, this, [this, surLien = reessai.SurLien] {
     if (surLien) surLien();
     Principal()->setFocus();  // Enter tries the new name
   });
