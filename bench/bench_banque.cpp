@@ -19,7 +19,7 @@ std::unique_ptr<TExtrait> Extrait(int rang) {
   extrait->DonneurOrdre = u"Famille %1"_s.arg(rang % 700);
   extrait->DateVirement = EncodeDate(2016, 10, 1 + rang % 28);
   extrait->Montant = Currency::Brut(1250 + rang % 9000);
-  extrait->Communication = u"+++000/%1/16100+++"_s.arg(rang % 10000, 4, 10, u'0');
+  extrait->Communication = u"+++000/%1/16100+++"_s.arg(rang % 10000, 4, 10, QChar(u'0'));
   extrait->NumCptDonneur = u"BE%1"_s.arg(rang);
   return extrait;
 }
@@ -62,7 +62,7 @@ double Etape2(TControleur& controleur, const QTemporaryDir& dossier, int nombre)
   for (int i = 0; i < nombre; ++i)
     texte += u"x;05/10/2016;;;BE%1;Famille %1;;;;;12,50;EUR;;;+++00%2/%3/16100+++\n"_s.arg(i + nombre)
                  .arg((i % 500 + 1) / 100)
-                 .arg(QString(u"%1"_s.arg((i % 500 + 1) % 100, 2, 10, u'0') % u"10"));
+                 .arg(QString(u"%1"_s.arg((i % 500 + 1) % 100, 2, 10, QChar(u'0')) % u"10"));
   const QString chemin = dossier.filePath(u"releve.csv"_s);
   EcrireFichier(chemin, texte.toUtf8());
   TImportVirements import(controleur);

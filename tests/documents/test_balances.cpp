@@ -8,7 +8,7 @@ namespace {
 
 struct TBalancesEssai : TDocumentsEssai {
   TResultat Balance(const char16_t* sorte, const std::vector<int>& eleves) {
-    return Demander(u"Balance des comptes "_s + QString::fromUtf16(sorte), eleves);
+    return Demander(QString(u"Balance des comptes "_s + QString::fromUtf16(sorte)), eleves);
   }
   /// What the pages say below the sums, a line a text.
   static QStringList Conclusion(const TResultat& resultat) {

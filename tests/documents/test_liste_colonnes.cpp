@@ -15,10 +15,11 @@ TDocumentPrepare Liste(int colonnes, int lignes, const QString& adresse) {
   titres.push_back({u"Montant"_s, 80});
   TGrille grille(titres);
   for (int ligne = 1; ligne <= lignes; ++ligne) {
-    QStringList textes{u"élève %1"_s.arg(ligne), u"P1 A"_s};
+    TCellules textes{u"élève %1"_s.arg(ligne), u"P1 A"_s};
     if (ligne == 2) textes[0] = u"VANDENBOSSCHE-DE LA CROIX Marie-Antoinette "_s.repeated(2);
-    for (int i = 3; i < colonnes; ++i) textes += u"34,50 €"_s;
-    grille.Ajouter(textes << u"12,50 €"_s);
+    for (int i = 3; i < colonnes; ++i) textes.emplace_back(u"34,50 €"_s);
+    textes.emplace_back(u"12,50 €"_s);
+    grille.Ajouter(std::move(textes));
   }
   TRapport rapport(u"Liste des frais"_s, u"RepDynamicFromListviewPortrait"_s);
   rapport.AjouterVariable(u"NomEcole", u"École (Centre)"_s);

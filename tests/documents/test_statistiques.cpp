@@ -81,7 +81,7 @@ TEST_F(TStatistiquesEssai, CeQuiEstPayeDeLaGarde) {
 
 TEST_F(TStatistiquesEssai, LesSoldesPassentUneFois) {
   TEleveEssai anne = UnEleve().nomme(u"ADAM"_s, u"Anne"_s).paie(u"12.3456"_s, 10, 1, {});
-  TEleveEssai parti = UnEleve().paie(u"5"_s, 10, 1, {});
+  UnEleve().paie(u"5"_s, 10, 1, {});
   TEleveEssai leo = UnEleve().nomme(u"LEO"_s, u"Léo"_s).doit(ecole.frais(u"Piscine"_s, u"14"_s, 10));
   TEcoleEssai suivante(base, 2017);
   for (const int id : {anne.Id, leo.Id}) TEleveEssai(suivante, id).enClasse(u"P4"_s, u"A"_s);

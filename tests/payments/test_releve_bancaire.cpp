@@ -38,7 +38,7 @@ QString Enregistrement(const std::vector<std::pair<int, QString>>& champs) {
   return ligne;
 }
 
-QString Centimes(int centimes) { return u"%1"_s.arg(centimes * 10, 15, 10, u'0'); }
+QString Centimes(int centimes) { return u"%1"_s.arg(centimes * 10, 15, 10, QChar(u'0')); }
 
 /// A record 2.1, the amount in cents; `article` is sequence and detail.
 QString Mouvement(const QString& article, int centimes, const QString& communication, QChar type = u'0',
@@ -67,7 +67,7 @@ QByteArray Coda(const QStringList& milieu, int total, int debits = 0, int ecart 
                             {43, Centimes(10000 + total + ecart)},
                             {58, u"051016"_s}});
   lignes += Enregistrement({{1, u"9"_s},
-                            {17, u"%1"_s.arg(milieu.size() + 2, 6, 10, u'0')},
+                            {17, u"%1"_s.arg(static_cast<int>(milieu.size()) + 2, 6, 10, QChar(u'0'))},
                             {23, Centimes(debits)},
                             {38, Centimes(total + debits)},
                             {128, u"2"_s}});

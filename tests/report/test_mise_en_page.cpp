@@ -29,7 +29,10 @@ TRapport LireListe(const QStringList& lignes) {
   for (const QString& titre : lignes[0].split(u'|').mid(1))
     colonnes.push_back({titre.section(u':', 0, 0), titre.section(u':', 1).toInt()});
   TGrille grille(colonnes);
-  for (const QString& ligne : lignes.mid(1)) grille.Ajouter(ligne.split(u'|').mid(1));
+  for (const QString& ligne : lignes.mid(1)) {
+    const QStringList textes = ligne.split(u'|').mid(1);
+    grille.Ajouter(TCellules(textes.begin(), textes.end()));
+  }
   TRapport rapport(u"Liste"_s, u"Liste"_s);
   rapport.ChargerColonnesListe(grille);
   return rapport;
