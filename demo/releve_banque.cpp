@@ -90,7 +90,7 @@ QString LigneC(const TMouvementBanque& m, const QString& compte, int numero) {
                      QString::number(numero),
                      m.Date.toString(u"dd-MM-yyyy"_s),
                      QString(),
-                     FormatMontant(m.Montant).section(u' ', 0, -2),
+                     FormatMontant(m.Montant).section(u' ', 0, -2).replace(QChar(0x202F), u'.'),
                      u"EUR"_s,
                      u"Virement"_s,
                      detail}

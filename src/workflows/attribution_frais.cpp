@@ -121,6 +121,7 @@ void TAttributionFrais::Enregistrer(TFrais& frais) {
     depart_.erase(cle);
     payes_.erase(cle);
   }
+  depart_ = coches_;  // with those that another workstation had stored already
 }
 
 TAttributionFrais::TLignesRetirees TAttributionFrais::RetirerATous(TFrais& frais) {

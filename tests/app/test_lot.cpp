@@ -179,7 +179,7 @@ TEST_F(TLotEssai, ADryStatement) {
       camt.arg(u"-7.5"_s).replace(u"-7.5</Amt><CdtDbtInd>CRDT"_s, u"7.5</Amt><CdtDbtInd>DBIT"_s).toUtf8());
   const QString faux = Fichier("faux.xml", camt.arg(u"1"_s).toUtf8());
   const QString lues =
-      u"date;montant;compte;donneur;communication\n2016-10-05;-12.5000;;;+++000/0110/16104+++\n"_s;
+      u"date;montant;compte;donneur;communication\n2016-10-05;-12.5000;;;+++000/0110/16166+++\n"_s;
   const auto sec = [](const QString& fichier, const char* options) {
     return QStringList{u"releve"_s, fichier} + Mots(QString::fromLatin1(options));
   };

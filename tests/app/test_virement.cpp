@@ -47,7 +47,7 @@ struct TVirementEssai : TPapierEssai {
       };
       QString texte = mot.captured(5);
       texte.replace(u"&lt;"_s, u"<"_s).replace(u"&gt;"_s, u">"_s).replace(u"&quot;"_s, u"\""_s);
-      texte.replace(u"&amp;"_s, u"&"_s);
+      texte.replace(u"&apos;"_s, u"'"_s).replace(u"&amp;"_s, u"&"_s);
       if (milieu(2, 4) > kCoupe) dessous.push_back({texte, milieu(1, 3), milieu(2, 4) - kCoupe});
     }
     return dessous;

@@ -91,7 +91,7 @@ TEST_F(TBalancesEssai, QuiDoitQuoi) {
     if (parametre != 0) ecole.parametre(parametre, u"1"_s);
     EXPECT_EQ(Balance(sorte, {anne.Id}).Rapports.at(0).Modele(), modele);
     EXPECT_EQ(Conclusion(Balance(sorte, {anne.Id})).join(u'|'), QString(du % aVerser));
-    EXPECT_EQ(Conclusion(Balance(sorte, {leo})).join(u'|'), QString(positif % enPlus));
+    EXPECT_EQ(Conclusion(Balance(sorte, {leo})).join(u'|'), QString(positif % enPlus).trimmed());
     EXPECT_EQ(Conclusion(Balance(sorte, {paul})).join(u'|'), u"Votre compte est en équilibre"_s);
     if (parametre == 107 && modele != u"BalanceProvisoire"_s) continue;
     base.Sql(u"DELETE FROM PARAMETRE"_s);

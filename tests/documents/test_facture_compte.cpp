@@ -55,16 +55,16 @@ TEST_F(TCompteEssai, ChaqueDisposition) {
       u"\nServices, Activités du mois: Piscine 54,00; Atelier 30,00 = <i>Sous-total</i><i>84,00</i>"_s;
   const QString etat =
       u"\nEtat de votre compte, Etat de votre compte: Vos paiements depuis le 1er septembre "_s;
-  const QString garderies =
-      u"Garderies des mois précédents/%1 des mois précédents -1,23; "
-      "Garderies du mois en cours/%1 du mois d'octobre 2016 -36,74"_s;
+  const QString garderies = u"%2 -1,23; Garderies du mois en cours/%1 du mois d'octobre 2016 -36,74"_s;
   const QString frais =
       u"; Frais des mois précédents/Activités des mois précédents -9,00; "
       "Frais du mois en cours/Activités du mois d'octobre 2016 %1 = <b>SOLDE</b><b>%2</b>"_s;
   const QString repas =
       u"ReleveFactureBrumeval 47,77 1 +++300/0001/01651+++ TypeService=\n"
       "Services, Repas du mois: "_s %
-      mois % etat % u"85,74; " % garderies.arg(u"Repas"_s) % u" = <b>SOLDE</b><b>47,77</b>";
+      mois % etat % u"85,74; " %
+      garderies.arg(u"Repas"_s, u"Garderies des mois précédents/Repas des mois précédents"_s) %
+      u" = <b>SOLDE</b><b>47,77</b>";
   const QString aucune = u"Aucune facture n'est à établir pour la période choisie."_s;
   const struct {
     const char* Vrais;
@@ -73,12 +73,15 @@ TEST_F(TCompteEssai, ChaqueDisposition) {
       {"",
        u"ReleveFactureVesper -45,23 0 +++100/0001/01680+++ TypeService=1\n"
        "Services, Garderies du mois: "_s %
-           mois % activites % etat % u"85,74; " % garderies.arg(u"Garderies et études"_s) %
+           mois % activites % etat % u"85,74; " %
+           garderies.arg(u"Garderies et études"_s,
+                         u"Garderies des mois précédents/Garderies et études des mois précédents"_s) %
            frais.arg(u"-84,00"_s, u"-45,23"_s)},
       {"112",
        u"ReleveFactureVesper 38,77 1 +++100/0001/01680+++ TypeService=1\n"
        "Services, Garderies du mois: "_s %
-           mois % etat % u"85,74; " % garderies.arg(u"Garderies"_s) % frais.arg(u"0,00"_s, u"38,77"_s)},
+           mois % etat % u"85,74; " % garderies.arg(u"Garderies"_s, u"Garderies des mois précédents"_s) %
+           frais.arg(u"0,00"_s, u"38,77"_s)},
       // What was paid on fee lines counts twice, and the activities of the month without a row.
       {"110",
        u"FactureVirement -7,23 0 +++000/0001/01646+++ TypeService=1\n"

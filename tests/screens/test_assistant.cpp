@@ -132,9 +132,9 @@ TEST_F(Assistant, WhoIsCheckedAtTheOpening) {
 
 TEST_F(Assistant, TheListsAndTheirTwoButtons) {
   const auto choix = Ouvrir([&] {
-    EXPECT_EQ(Colonne0(assistant.LstEleve), (QStringList{u"Luc X"_s, u"Éva X"_s, u"Adam X"_s, u"Zoé X"_s}))
-        << "as the year has them";
-    EXPECT_EQ(assistant.LstEleve.Textes(0), (QStringList{u"Luc X"_s, u"P2 A"_s, u"S1"_s}));
+    EXPECT_EQ(Colonne0(assistant.LstEleve), (QStringList{u"Éva X"_s, u"Luc X"_s, u"Adam X"_s, u"Zoé X"_s}))
+        << "É with E";
+    EXPECT_EQ(assistant.LstEleve.Textes(0), (QStringList{u"Éva X"_s, u"P2 A"_s, u"S1"_s}));
     EXPECT_EQ(Colonne0(assistant.LstClasse), (QStringList{u"P1 A"_s, u"P2 A"_s}));
     Globals.EleveCourant = Globals.Eleves->TrouverParId(eleves[0]);
     Globals.ClasseCourante = Globals.EleveCourant->Classe;

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 class TServeurFtp {
  public:
   explicit TServeurFtp(const QString& mode = {}) {
-    serveur_.start(u"python3"_s,
+    serveur_.start(QStringLiteral(PYTHON_FTP),
                    {QStringLiteral(SERVEUR_FTP), dossier_.path(), u"ecole"_s, u"secret"_s, mode});
     EXPECT_TRUE(serveur_.waitForStarted()) << serveur_.errorString().toStdString();
     while (!serveur_.canReadLine() && serveur_.waitForReadyRead(60'000)) {

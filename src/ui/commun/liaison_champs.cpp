@@ -271,6 +271,8 @@ void LiaisonChamps::AllerA(int champ) {
 }
 
 bool LiaisonChamps::eventFilter(QObject* objet, QEvent* evenement) {
+  // A field that ends gives the focus away when nothing but a plain widget is left of it.
+  if (objet->metaObject() == &QWidget::staticMetaObject) return false;
   const int champ = ChampDe(objet);
   if (champ < 0) return false;
   if (champs_.Champ(champ).Genre == TGenreChamp::TexteMontant && EstPointDuPave(*evenement)) {
