@@ -35,7 +35,7 @@ class TServeurFtp {
     fichier.write(contenu);
   }
   /// The files that are there.
-  QString Fichiers() const { return QDir(dossier_.path()).entryList(QDir::Files).join(u' '); }
+  QString Fichiers() const { return QDir(dossier_.path()).entryList(QDir::Files, QDir::Name).join(u' '); }
 
  private:
   QTemporaryDir dossier_;

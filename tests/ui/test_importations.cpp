@@ -235,12 +235,14 @@ TEST_F(Importations, ScansThatCannotBeReadAreRefusedAndTheWindowGoesOn) {
   Choisit(kImporter, Base.Fichier(u"bon.txt"_s, "11;1;20161003;073000;1\n"));
   ImporterPresences();
   EXPECT_EQ(QApplication::focusWidget(), BoutonDe(Programme.Fenetre(), kPresences2)) << "nothing is wrong";
+  Programme.Dialogues.Repond(u"Continuer sans les mémoriser"_s, true);
   Programme.Ouvrir(TGestionnaire::AdvGlowButton8Click);
   EXPECT_EQ(Etat(), u"1 relevé non mémorisé");
 
   Programme.Ouvrir(TGestionnaire::AdvGlowButton1Click);
   Choisit(kImporter, Base.Chemin(u"bon.txt"_s));
   ImporterPresences();
+  Programme.Dialogues.Repond(u"Continuer sans les mémoriser"_s, true);
   Programme.Main().mnuAnneeClick(2015);
   EXPECT_TRUE(Etat().endsWith(u" · 1 relevé non mémorisé")) << Etat().toStdString();
   EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM PRESENCES"_s), u"0");

@@ -286,13 +286,17 @@ bool LiaisonChamps::eventFilter(QObject* objet, QEvent* evenement) {
     return true;
   }
   if (evenement->type() != QEvent::FocusOut) return false;
+  if (retour_ >= 0 && retour_ != champ)
+    return false;  // it had the focus only until the refused one gets it back
   const Qt::FocusReason raison = static_cast<QFocusEvent*>(evenement)->reason();
   if (raison == Qt::PopupFocusReason || Quitter(champ) || raison == Qt::ActiveWindowFocusReason) return false;
   // Only once the focus has gone where it goes; by then another record may have taken the fault away.
+  retour_ = champ;
   QMetaObject::invokeMethod(
       this,
       [this, champ] {
         if (!champs_.Faute(champ).isEmpty()) AllerA(champ);
+        retour_ = -1;
       },
       Qt::QueuedConnection);
   return false;

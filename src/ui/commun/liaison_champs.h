@@ -49,6 +49,7 @@ class LiaisonChamps : public QObject {
   void AjouterAuRang(QBoxLayout& rang, const TPart& part, bool premier);
 
   TChamps& champs_;
+  int retour_ = -1;                ///< refused field that the focus is going back to; -1 for none
   std::vector<QWidget*> widgets_;  ///< by field; null until asked for
   struct TRadio {
     int Champ;

@@ -107,7 +107,6 @@ TEST_F(Parametres, AMealPriceThatIsNoneIsNeverStored) {
 
 TEST_F(Parametres, ABadSettingOfTheLoadIsMendedWithoutAYear) {
   Ecole.parametre(101, "abc");
-  Programme.Dialogues.Attend("abc");
   Demarrer();
   EXPECT_EQ(Globals.Eleves, nullptr);
   Programme.Ouvrir(TGestionnaire::AdvGlowButton3Click);
@@ -155,9 +154,9 @@ TEST_F(Parametres, WhatIsInsertedStandsAtTheCaretAndFits) {
 }
 
 TEST_F(Parametres, GroupsComeAndGo) {
-  Base.Sql("INSERT INTO GROUPE_FRAIS VALUES (1, 'Galettes')");
+  Base.Sql("INSERT INTO GROUPE_FRAIS VALUES (900, 'Galettes')");
   Ecole.unEleve().paie("7", 11, 1, "Vente");
-  Base.Sql("UPDATE FRAIS_ELEVE SET GROUPE_FRAIS_ID = 1");
+  Base.Sql("UPDATE FRAIS_ELEVE SET GROUPE_FRAIS_ID = 900");
   Ouvrir();
   auto& form = Form<TFrmParametres>();
   for (const QString& nom : {QString("  "), QString(251, 'n')}) {
@@ -175,7 +174,7 @@ TEST_F(Parametres, GroupsComeAndGo) {
   Programme.Dialogues.Repond("Confirmez-vous la suppression du groupe: Galettes?", true);
   form.btnDeleteFaitClick();
   EXPECT_EQ(Base.Rangees("SELECT LIBELLE FROM GROUPE_FRAIS"), QStringList("Tombola"));
-  EXPECT_EQ(Base.Valeur("SELECT GROUPE_FRAIS_ID FROM FRAIS_ELEVE"), "1") << "the payment is left as it is";
+  EXPECT_EQ(Base.Valeur("SELECT GROUPE_FRAIS_ID FROM FRAIS_ELEVE"), "900") << "the payment is left as it is";
 }
 
 TEST_F(Parametres, MaintenanceByMouseAndKeyboard) {
@@ -190,10 +189,10 @@ TEST_F(Parametres, MaintenanceByMouseAndKeyboard) {
   Programme.Dialogues.Saisit("Paramètre", "113").Saisit("Valeur actuelle : ", "1");
   QTest::mouseClick(etape1, Qt::RightButton, Qt::ShiftModifier);
   EXPECT_EQ(Parametre(113), "1");
-  Programme.Dialogues.Saisit("Paramètre", "41").Saisit("Valeur actuelle : 1", "");
+  Programme.Dialogues.Saisit("Paramètre", "41").Saisit("Valeur actuelle : 1", "0");
   Aller(*etape1);
   QTest::keyClick(etape1, Qt::Key_Menu, Qt::ShiftModifier);
-  EXPECT_EQ(Parametre(41), "");
+  EXPECT_EQ(Parametre(41), "0");
   EXPECT_EQ(BoutonDe(Programme.Fenetre(), "Activer le mode professeur"), nullptr)
       << "not where meals are not used";
   Programme.Dialogues.Saisit("Paramètre", "abc").Attend("abc");
@@ -243,7 +242,10 @@ TEST_F(MonEcole, EachFieldWritesItsSetting) {
 TEST_F(MonEcole, ASiteTakesItsShortNameAndTheTreeFollowsOnClosing) {
   Base.Sql(
       "INSERT INTO IMPLANTATION (IMPLANTATION_ID, CODE_IMPLANTATION, LIBELLE_COURT, ADRESSE) VALUES "
-      "(90, 'S1', 'Centre', 'Rue Haute'), (91, 'S2', 'Gare', 'Quai')");
+      "(90, 'S1', 'Centre', 'Rue Haute')");
+  Base.Sql(
+      "INSERT INTO IMPLANTATION (IMPLANTATION_ID, CODE_IMPLANTATION, LIBELLE_COURT, ADRESSE) VALUES "
+      "(91, 'S2', 'Gare', 'Quai')");
   Demarrer(TGestionnaire::AdvGlowButton3Click);
   Saisir("edLibelleCourt", "Tilleuls");
   const QString site = "SELECT LIBELLE_COURT || ADRESSE FROM IMPLANTATION WHERE CODE_IMPLANTATION = 'S1'";

@@ -67,7 +67,7 @@ TEST_F(ListesServices, ActivitiesAreKeptAndDeleted) {
   Touche(Qt::Key_F9);
   const QString tout =
       "SELECT LIBELLE, ANNEE_SCOLAIRE, DATE_DEBUT, DATE_FIN, HEURE_DEBUT, HEURE_FIN FROM ACTIVITES";
-  EXPECT_EQ(Base.Rangees(tout), QStringList("Judo;2016;2016-10-03;2016-09-01;16:00:00;17:30:00"));
+  EXPECT_EQ(Base.Rangees(tout), QStringList("Judo;2016;2016-10-03;2016-09-01;16:00:00.000;17:30:00.000"));
   Touche(Qt::Key_F2);
   Taper("edLibelle", "Judo petits");
   Touche(Qt::Key_F9);
