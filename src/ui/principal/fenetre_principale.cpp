@@ -121,7 +121,7 @@ void FenetrePrincipale::Demarrer() {
   show();
   QTimer::singleShot(0, this, [this] {
     form_.Montrer();
-    if (form_.PremiereUtilisation())
+    if (form_.SansEleve())
       accueil_->PrendreFoyer();
     else if (form_.ArbreVisible())
       eleves_->AllerALaRecherche();

@@ -142,7 +142,6 @@ void VueAccueil::Actualiser() {
 }
 
 void VueAccueil::PrendreFoyer() {
-  if (!form_.SansEleve()) return;  // the hand is at the search
   for (Ligne* ligne : lignes_)
     if (ligne->EstProchaine()) ligne->Bouton()->setFocus(Qt::OtherFocusReason);
 }
