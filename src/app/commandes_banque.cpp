@@ -1,6 +1,7 @@
 // The bank's file, and the movements of the year.
 #include "app/commandes.h"
 #include "app/csv.h"
+#include "core/accord.h"
 #include "core/fichiers.h"
 #include "core/formats.h"
 #include "payments/communication_structuree.h"
@@ -25,12 +26,24 @@ int ReleveSec(const TSession& session) {
   return 0;
 }
 
+/// All of them or none: here they cannot be ticked one by one.
+void ProposerDejaImportes(TImportVirements& import, IDialogues& dialogues) {
+  const int nombre = import.NombreDejaImportes();
+  if (nombre == 0 || !dialogues.ConfirmerGrave(
+                         Compter(nombre, u"mouvement est peut-être déjà importé"_s,
+                                 u"mouvements sont peut-être déjà importés"_s) %
+                         u" : même jour, même montant et même compte qu'un autre.\nMémoriser quand même ?"))
+    return;
+  for (int i = 0; i < static_cast<int>(import.Rangees().size()); ++i) import.Cocher(i, true);
+}
+
 int Releve(TSession& session) {
   if (session.A(u"sec"_s)) return ReleveSec(session);
   if (session.A(u"sans-preuve"_s)) throw Exception(u"L'option --sans-preuve demande --sec."_s);
   session.Ouvrir();
   TImportVirements import(session.Controleur);
   if (!import.Etape1(session.Arguments[0])) return 1;
+  ProposerDejaImportes(import, session.Dialogues);
   try {
     import.Etape2();
   } catch (...) {

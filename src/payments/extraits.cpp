@@ -76,11 +76,12 @@ TPeriode TExtraits::BornesDates() const {
   return bornes;
 }
 
-// The row first: Forget takes the key away.
+// The row first: Forget takes the key away. What has gone to the year before must be found there.
 void TExtraits::Deplacer(TExtrait& extrait, int annee) {
   TQueryInternal(Base(), u"UPDATE EXTRAITS SET ANNEE_SCOLAIRE=:iAnnee WHERE EXTRAIT_ID=:iExtraitID"_s)
       .Parametre(u"iAnnee"_s, annee)
       .Parametre(u"iExtraitID"_s, extrait.Id)
       .Executer();
   Forget(extrait);
+  precedente_.reset();
 }

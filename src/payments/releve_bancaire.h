@@ -7,7 +7,6 @@ struct TEnteteReleve {
   QString Numero;  ///< as the bank numbers it; "" when it does not
   std::optional<Currency> AncienSolde, NouveauSolde;
   TDateTime DateAncienSolde = 0.0, DateNouveauSolde = 0.0;  ///< 0 when none
-  bool Duplicata = false;                                   ///< the bank sends it once more
 };
 
 /// A bank's file that says of itself what it is: the booked movements in the order of the file.

@@ -6,6 +6,7 @@
 #include "core/exceptions.h"
 #include "payments/arbre_xml.h"
 #include "payments/communication_structuree.h"
+#include "payments/iban.h"
 #include "payments/releve_bancaire.h"
 
 using namespace Qt::StringLiterals;
@@ -15,6 +16,17 @@ namespace {
 const QString kEuro = u"EUR"_s;
 
 bool EstCredit(const TElementXml& element) { return element.Lire(u"CdtDbtInd") == u"CRDT"; }
+
+/// Taken back: the money goes the other way than the entry that it cancels.
+bool EstExtourne(const TElementXml& ecriture) {
+  const QString indice = ecriture.Lire(u"RvslInd");
+  return indice == u"true" || indice == u"1";
+}
+
+/// Whichever says credit or debit of a transaction: itself, else its entry.
+const TElementXml& AyantSens(const TElementXml& transaction, const TElementXml& ecriture) {
+  return transaction.Trouver(u"CdtDbtInd") != nullptr ? transaction : ecriture;
+}
 
 /// An amount in euros. Raises Exception for another currency, EConvertError for what is no amount.
 Currency Montant(const TElementXml& montant) {
@@ -112,7 +124,6 @@ class TLecteurCamt {
     entete.Compte = NumeroCompte(releve.Trouver(u"Acct"));
     for (const char16_t* numero : {u"ElctrncSeqNb", u"LglSeqNb", u"Id"})
       if (entete.Numero.isEmpty()) entete.Numero = releve.Lire(numero);
-    entete.Duplicata = releve.Lire(u"CpyDplctInd").contains(u"DUPL");
     const QString devise = releve.Lire(u"Acct/Ccy");
     if (!devise.isEmpty() && devise != kEuro)
       throw Exception(u"Le compte est en « %1 » et non en euros."_s.arg(devise.left(10)));
@@ -155,7 +166,7 @@ class TLecteurCamt {
     for (const auto& [detail, montant] : Details(ecriture, mouvement.Montant)) {
       TMouvement& rendu = releve_.Mouvements.emplace_back(mouvement);
       rendu.Montant = montant;
-      Donneur(*detail, EstCredit(ecriture) != (ecriture.Lire(u"RvslInd") == u"true"), compte, rendu);
+      Donneur(*detail, EstCredit(AyantSens(*detail, ecriture)) != EstExtourne(ecriture), compte, rendu);
       rendu.Communication = Communication(*detail, ecriture);
     }
     return mouvement.Montant;
@@ -172,7 +183,7 @@ class TLecteurCamt {
     TDetails details;
     Currency somme;
     for (const TElementXml* transaction : transactions) {
-      const auto montant = MontantTransaction(*transaction, EstCredit(ecriture));
+      const auto montant = MontantTransaction(*transaction, ecriture);
       if (!montant) continue;
       details.emplace_back(transaction, *montant);
       somme = Additionner(somme, *montant);
@@ -182,12 +193,12 @@ class TLecteurCamt {
   }
 
   /// None when it has no amount in euros of its own; what was ordered in the beginning is none.
-  static std::optional<Currency> MontantTransaction(const TElementXml& transaction, bool credit) {
+  static std::optional<Currency> MontantTransaction(const TElementXml& transaction,
+                                                    const TElementXml& ecriture) {
     const TElementXml* montant = transaction.Trouver(u"Amt");
     if (montant == nullptr) montant = transaction.Trouver(u"AmtDtls/TxAmt/Amt");
     if (montant == nullptr || montant->Devise != kEuro) return {};
-    const bool sien = transaction.Trouver(u"CdtDbtInd") != nullptr;
-    return (sien ? EstCredit(transaction) : credit) ? Montant(*montant) : -Montant(*montant);
+    return EstCredit(AyantSens(transaction, ecriture)) ? Montant(*montant) : -Montant(*montant);
   }
 
   /// The debtor or the creditor, whichever is asked for, but never the school itself.
@@ -198,7 +209,7 @@ class TLecteurCamt {
     for (const bool cote : {debiteur, !debiteur}) {
       const QString partie = cote ? u"Dbtr"_s : u"Cdtr"_s;
       const QString numero = NumeroCompte(parties->Trouver(QString(partie + u"Acct")));
-      if (!numero.isEmpty() && numero == compte) continue;
+      if (!numero.isEmpty() && IbanSansBlancs(numero) == IbanSansBlancs(compte)) continue;
       const TElementXml* qui = parties->Trouver(partie);
       mouvement.Compte = numero;
       if (qui != nullptr) mouvement.Donneur = qui->Lire(qui->Trouver(u"Pty") != nullptr ? u"Pty/Nm" : u"Nm");

@@ -5,6 +5,7 @@
 #include "core/chaines.h"
 #include "core/exceptions.h"
 #include "core/texte_separe.h"
+#include "payments/iban.h"
 #include "payments/releve_bancaire.h"
 
 using namespace Qt::StringLiterals;
@@ -16,6 +17,8 @@ namespace {
 
 constexpr std::size_t kLongueur = 128;
 constexpr QStringView kTotal = u"0000";
+/// Zeros, date, bank and application at the beginning of a record 0; the addressee's name may hold anything.
+constexpr qsizetype kDebutEntete = 16;
 
 class TEnregistrement {
  public:
@@ -120,9 +123,11 @@ QString Communication(const TArticle& article) {
 
 /// The account number without the currency and whatever else stands behind it.
 QString SansSuite(const QString& compte) {
-  static constexpr qsizetype kIbanBelge = 16;
+  static constexpr qsizetype kIbanBelge = 16, kDevise = 3;
   const QString mot = compte.trimmed().section(u' ', 0, 0);
-  return mot.startsWith(u"BE") ? mot.first(std::min(kIbanBelge, mot.size())) : mot;
+  if (mot.startsWith(u"BE")) return mot.first(std::min(kIbanBelge, mot.size()));
+  const QString sansDevise = mot.chopped(std::min(kDevise, mot.size()));
+  return !IbanValide(mot) && IbanValide(sansDevise) ? sansDevise : mot;
 }
 
 class TLecteurCoda {
@@ -166,7 +171,6 @@ class TLecteurCoda {
     if (e.Caractere(128) != U'2') e.Refuser(u"ce n'est pas un fichier CODA de la version 2."_s);
     if (ouvert_) Clore(nullptr);
     ouvert_ = true;
-    duplicata_ = e.Caractere(17) == U'D';
     comptes_ = {};
   }
 
@@ -180,7 +184,6 @@ class TLecteurCoda {
     entete_->Numero = e.Champ(126, 3).trimmed();
     entete_->AncienSolde = e.MontantSigne(43, 44);
     entete_->DateAncienSolde = e.Date(59);
-    entete_->Duplicata = duplicata_;
   }
 
   void NouveauSolde(const TEnregistrement& e) {
@@ -294,7 +297,7 @@ class TLecteurCoda {
   }
 
   TReleveBancaire releve_;
-  bool ouvert_ = false, duplicata_ = false, libre_ = false;
+  bool ouvert_ = false, libre_ = false;
   TComptes comptes_;
   std::optional<TEnteteReleve> entete_;  // of the statement in hand
   Currency mouvements_;                  // their sum in it
@@ -305,8 +308,7 @@ class TLecteurCoda {
 
 bool EstCoda(const QByteArray& octets) {
   const QString debut = TexteDepuisOctets(octets.first(std::min<qsizetype>(octets.size(), 400))).trimmed();
-  const QString ligne = debut.section(u'\n', 0, 0);
-  return ligne.startsWith(u"0000") && !ligne.contains(u';');
+  return debut.startsWith(u"0000") && !debut.left(kDebutEntete).contains(u';');
 }
 
 TReleveBancaire LireCoda(const QByteArray& octets) {

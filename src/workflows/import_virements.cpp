@@ -1,9 +1,15 @@
 #include "workflows/import_virements.h"
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
 #include "core/exceptions.h"
 #include "core/fichiers.h"
+#include "core/schema.h"
+#include "core/transaction_commune.h"
 #include "payments/communication_structuree.h"
-#include "payments/releve_bancaire.h"
+#include "payments/releves_connus.h"
 #include "workflows/memoriser.h"
 
 using namespace Qt::StringLiterals;
@@ -23,11 +29,23 @@ std::unique_ptr<TExtrait> EnExtrait(const TMouvement& lu) {
   return extrait;
 }
 
+/// Null on a database that has not been brought up to date: it has no place for them.
+std::unique_ptr<TRelevesConnus> LireConnus(TDataModule1& base) {
+  const bool aJour = ElementsDuSchema(base).contains(u"RELEVE_BANQUE"_s);
+  return aJour ? std::make_unique<TRelevesConnus>(base) : nullptr;
+}
+
+bool AMemoriser(const TRangeeVirement& rangee) {
+  return rangee.Etat == TEtatMouvement::Nouveau ||
+         (rangee.Etat == TEtatMouvement::DejaImporte && rangee.Coche);
+}
+
 }  // namespace
 
 QString Texte(TEtatMouvement etat) {
-  static const QString textes[] = {u"Nouveau"_s,          u"Inconnu"_s, u"Comptabilisé"_s,
-                                   u"Année précédente"_s, u"Caché"_s,   u"Illisible"_s};
+  static const QString textes[] = {
+      u"Nouveau"_s, u"Inconnu"_s,   u"Comptabilisé"_s,          u"Année précédente"_s,
+      u"Caché"_s,   u"Illisible"_s, u"Peut-être déjà importé"_s};
   return textes[static_cast<int>(etat)];
 }
 
@@ -48,6 +66,8 @@ void TImportVirements::Vider() {
   rangees_.clear();
   faute_.reset();
   statut_.clear();
+  entetes_.clear();
+  parSonCompte_ = false;
 }
 
 std::optional<QByteArray> TImportVirements::Ouvrir(const QString& chemin) const {
@@ -67,29 +87,40 @@ bool TImportVirements::Etape1(const QString& chemin) {
   const auto octets = Ouvrir(chemin);
   if (!octets || !Lire(*octets)) return false;
   for (TRangeeVirement& rangee : rangees_) Reconnaitre(rangee);
+  ReconnaitreProches();
   statut_ = u"Le fichier compte %1 mouvements."_s.arg(rangees_.size());
   return true;
 }
 
 bool TImportVirements::Lire(const QByteArray& octets) {
-  const auto prendre = [&](std::vector<TMouvement>& mouvements) {
-    for (TMouvement& lu : mouvements) rangees_.push_back({std::move(lu)});
-  };
-  auto bancaire = LireReleveBancaire(octets);
-  parSonCompte_ = bancaire.has_value();
-  if (bancaire) {
-    if (bancaire->Preuves.isEmpty())
-      prendre(bancaire->Mouvements);
-    else
-      controleur_.Dialogues().Message(bancaire->Preuves.join(u'\n') % u"\nRien n'a été mémorisé.");
-    return bancaire->Preuves.isEmpty();
-  }
+  if (auto bancaire = LireReleveBancaire(octets)) return LireBancaire(std::move(*bancaire));
   TReleveLu releve = LireReleve(
       octets, DispositionDuParametre(Globals.Parametres->GetParametre(TParam::TypeCompteBancaire)));
-  prendre(releve.Mouvements);
+  for (TMouvement& lu : releve.Mouvements) rangees_.push_back({std::move(lu)});
   faute_ = std::move(releve.Faute);
   if (faute_) controleur_.Dialogues().Message(faute_->Message);
   return !faute_;
+}
+
+bool TImportVirements::LireBancaire(TReleveBancaire releve) {
+  IDialogues& dialogues = controleur_.Dialogues();
+  if (!releve.Preuves.isEmpty()) {
+    dialogues.Message(releve.Preuves.join(u'\n') % u"\nRien n'a été mémorisé.");
+    return false;
+  }
+  const auto connus = LireConnus(controleur_.Base());
+  if (!connus)
+    throw Exception(
+        u"La base de données n'est pas à jour : lancez sa mise à jour (paramètres de l'école) avant "
+        "d'importer un relevé CODA ou camt.053."_s);
+  const QStringList doutes =
+      connus->Doutes(releve.Entetes, Globals.Parametres->GetParametre(TParam::VirementIBAN));
+  if (!doutes.isEmpty() && !dialogues.ConfirmerGrave(doutes.join(u'\n') % u"\nL'importer quand même ?"))
+    return false;
+  parSonCompte_ = true;
+  entetes_ = std::move(releve.Entetes);
+  for (TMouvement& lu : releve.Mouvements) rangees_.push_back({std::move(lu)});
+  return true;
 }
 
 void TImportVirements::Reconnaitre(TRangeeVirement& rangee) {
@@ -105,17 +136,48 @@ void TImportVirements::Reconnaitre(TRangeeVirement& rangee) {
   }
 }
 
+// The same days may come as a statement and as a table, with other names and texts: what differs from a
+// stored movement only by these is not stored by itself. Two tables are compared by all five fields alone.
+void TImportVirements::ReconnaitreProches() {
+  const auto connus = LireConnus(controleur_.Base());
+  std::optional<TProches> proches;
+  for (TRangeeVirement& rangee : rangees_) {
+    if (rangee.Etat != TEtatMouvement::Nouveau ||
+        (!parSonCompte_ && !(connus && connus->Couvre(rangee.Lu.Date))))
+      continue;
+    if (!proches) {
+      proches.emplace();
+      proches->Ajouter(controleur_.Extraits());
+      proches->Ajouter(controleur_.ExtraitsPrecedents());
+    }
+    if (proches->Contient(*EnExtrait(rangee.Lu))) rangee.Etat = TEtatMouvement::DejaImporte;
+  }
+}
+
+int TImportVirements::NombreDejaImportes() const {
+  return static_cast<int>(std::ranges::count_if(rangees_, [](const TRangeeVirement& rangee) {
+    return rangee.Etat == TEtatMouvement::DejaImporte && !rangee.Coche;
+  }));
+}
+
+void TImportVirements::Cocher(int rangee, bool coche) {
+  TRangeeVirement& choisie = rangees_.at(static_cast<std::size_t>(rangee));
+  choisie.Coche = coche && choisie.Etat == TEtatMouvement::DejaImporte;
+}
+
 void TImportVirements::Situer(TRangeeVirement& rangee) {
   rangee.Etat = EtatExtrait(*rangee.Extrait);
   rangee.EleveId = Globals.Eleves->ExtraitVersEleve(rangee.Extrait->Id);
 }
 
-// All movements are stored before the first is credited, so that whatever ends the crediting loses none.
+// All movements are stored before the first is credited, so that whatever ends the crediting loses none; the
+// statement counts as taken after that, so that it can be read again for the rest without a question.
 void TImportVirements::Etape2() {
   try {
     TProgression progression(controleur_.Dialogues(), static_cast<int>(2 * rangees_.size()));
     Memoriser(progression);
     Crediter(progression);
+    if (!entetes_.empty()) TRelevesConnus(controleur_.Base()).Retenir(entetes_);
   } catch (...) {
     Resituer();
     throw;
@@ -129,16 +191,48 @@ void TImportVirements::Resituer() {
     if (rangee.Extrait != nullptr) Situer(rangee);
 }
 
+/// For each row the place of the last one that is its twin, both still to be stored.
+std::vector<std::size_t> TImportVirements::DerniersJumeaux() const {
+  std::unordered_map<TCleExtrait, std::size_t> derniers;
+  std::vector<std::size_t> places(rangees_.size());
+  for (std::size_t i = rangees_.size(); i-- > 0;)
+    places[i] = AMemoriser(rangees_[i])
+                    ? derniers.try_emplace(TCleExtrait(*EnExtrait(rangees_[i].Lu)), i).first->second
+                    : i;
+  return places;
+}
+
+// One row at a time, but twins with what stands between them: were only one of them stored, a later reading
+// would take both for it.
 void TImportVirements::Memoriser(TProgression& progression) {
-  TExtraits& extraits = controleur_.Extraits();
-  int fait = 0;
-  for (TRangeeVirement& rangee : rangees_) {
-    if (rangee.Etat == TEtatMouvement::Nouveau) {
-      rangee.Extrait = &::Memoriser(extraits, EnExtrait(rangee.Lu));
-      rangee.Etat = TEtatMouvement::Inconnu;
-    }
-    progression.Avancer(++fait, rangee.Lu.Donneur);
+  const std::vector<std::size_t> derniers = DerniersJumeaux();
+  for (std::size_t premier = 0, fin = 0; premier < rangees_.size(); premier = fin) {
+    fin = premier + 1;
+    for (std::size_t i = premier; i < fin; ++i) fin = std::max(fin, derniers[i] + 1);
+    MemoriserEnsemble(std::span(rangees_).subspan(premier, fin - premier));
+    for (std::size_t i = premier; i < fin; ++i)
+      progression.Avancer(static_cast<int>(i) + 1, rangees_[i].Lu.Donneur);
   }
+}
+
+/// All of them or none.
+void TImportVirements::MemoriserEnsemble(std::span<TRangeeVirement> rangees) {
+  TExtraits& extraits = controleur_.Extraits();
+  std::optional<TTransactionCommune> ensemble;
+  if (rangees.size() > 1) ensemble.emplace(controleur_.Base());
+  std::vector<TRangeeVirement*> memorisees;
+  try {
+    for (TRangeeVirement& rangee : rangees) {
+      if (!AMemoriser(rangee)) continue;
+      rangee.Extrait = &::Memoriser(extraits, EnExtrait(rangee.Lu));
+      memorisees.push_back(&rangee);
+    }
+    if (ensemble) ensemble->Valider();
+  } catch (...) {
+    for (TRangeeVirement* rangee : memorisees) extraits.Forget(*std::exchange(rangee->Extrait, nullptr));
+    throw;
+  }
+  for (TRangeeVirement* rangee : memorisees) rangee->Etat = TEtatMouvement::Inconnu;
 }
 
 void TImportVirements::Crediter(TProgression& progression) {
@@ -153,11 +247,13 @@ void TImportVirements::Crediter(TProgression& progression) {
       u"\n\n%1 mouvements ont été comptabilisés.\n%2 mouvements sont inconnus."_s.arg(bilan.Comptabilises)
           .arg(bilan.Inconnus);
   if (!compacte) statut_ += u"\n%1 mouvements sont des régularisations."_s.arg(bilan.Regularisations);
+  if (const int dejaImportes = NombreDejaImportes(); dejaImportes > 0)
+    statut_ += u"\n%1 mouvements sont peut-être déjà importés."_s.arg(dejaImportes);
 }
 
 void TImportVirements::CrediterRangee(const TRangeeVirement& rangee, bool compacte, TBilan& bilan) const {
   if (rangee.Extrait == nullptr) {
-    ++bilan.Regularisations;
+    bilan.Regularisations += rangee.Etat == TEtatMouvement::AnneePrecedente ? 1 : 0;
     return;
   }
   const TExtrait& extrait = *rangee.Extrait;

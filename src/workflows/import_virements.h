@@ -1,9 +1,19 @@
 #pragma once
-#include "payments/releve.h"
+#include <span>
+
+#include "payments/releve_bancaire.h"
 #include "workflows/credit_extraits.h"
 
 /// What a movement is on the screen.
-enum class TEtatMouvement { Nouveau, Inconnu, Comptabilise, AnneePrecedente, Cache, Illisible };
+enum class TEtatMouvement {
+  Nouveau,
+  Inconnu,
+  Comptabilise,
+  AnneePrecedente,
+  Cache,
+  Illisible,
+  DejaImporte  ///< perhaps: a stored one differs by its name or text only
+};
 
 /// "Nouveau", "Inconnu" and so on.
 QString Texte(TEtatMouvement etat);
@@ -15,7 +25,8 @@ struct TRangeeVirement {
   TMouvement Lu;
   TExtrait* Extrait = nullptr;  ///< the stored movement; null before it is stored, and when it is last year's
   TEtatMouvement Etat = TEtatMouvement::Illisible;
-  int EleveId = 0;  ///< the pupil shown, 0 for none
+  int EleveId = 0;     ///< the pupil shown, 0 for none
+  bool Coche = false;  ///< one that is perhaps imported already is to be stored all the same
 };
 
 /// Bringing a bank's file in: step 1 reads and shows, step 2 stores the new movements and credits those
@@ -29,12 +40,18 @@ class TImportVirements {
   void Vider();
   /// Step 1: reads, normalises, recognises. A file that tells its own form (CODA, camt.053) is read by it,
   /// any other by the layout of parameter 58. False, after a message, for a file that cannot be opened or
-  /// read to its end, whose rows before the fault are kept, and for one whose balances and sums do not fit.
-  /// Raises Exception for one that is no bank's file at all.
+  /// read to its end, whose rows before the fault are kept, and for one whose balances and sums do not fit;
+  /// and when the user does not want a statement that was taken before, follows no other or is another
+  /// account's. Raises Exception for one that is no bank's file at all.
   bool Etape1(const QString& chemin);
   /// Step 2. Raises Exception when a movement cannot be stored, EConvertError when a communication cannot be
   /// read; what was stored and credited until then stays.
   void Etape2();
+
+  /// Rows that are perhaps imported already, and not to be stored.
+  int NombreDejaImportes() const;
+  /// Ticks such a row, so that step 2 stores it, or takes the tick away.
+  void Cocher(int rangee, bool coche);
 
   const std::vector<TRangeeVirement>& Rangees() const { return rangees_; }
   /// The row that ended the reading.
@@ -51,10 +68,15 @@ class TImportVirements {
   std::optional<QByteArray> Ouvrir(const QString& chemin) const;
   /// The movements into rows; false after a message.
   bool Lire(const QByteArray& octets);
+  /// The same of a file that tells its own form.
+  bool LireBancaire(TReleveBancaire releve);
   void Reconnaitre(TRangeeVirement& rangee);
+  void ReconnaitreProches();
   void Situer(TRangeeVirement& rangee);
   void Resituer();
+  std::vector<std::size_t> DerniersJumeaux() const;
   void Memoriser(TProgression& progression);
+  void MemoriserEnsemble(std::span<TRangeeVirement> rangees);
   void Crediter(TProgression& progression);
   void CrediterRangee(const TRangeeVirement& rangee, bool compacte, TBilan& bilan) const;
 
@@ -62,7 +84,8 @@ class TImportVirements {
   std::vector<TRangeeVirement> rangees_;
   std::optional<TFauteReleve> faute_;
   QString statut_;
-  bool parSonCompte_ = false;  // the file tells whose account it is, and so the debits of the school
+  std::vector<TEnteteReleve> entetes_;  // of the statements in the file
+  bool parSonCompte_ = false;           // the file tells whose account it is, and so the debits of the school
 };
 
 /// What is said of a file that cannot be opened; `cause` is what the system answers.
