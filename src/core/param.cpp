@@ -70,6 +70,7 @@ constexpr TReglesParam kRegles[] = {
     {PlusieursImplantations, OuiNon},
     {AnneeDeSelection, OuiNon},
     {DatePhoto},
+    {QrReference, OuiNon},
 };
 
 }  // namespace

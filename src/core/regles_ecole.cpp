@@ -24,6 +24,7 @@ constexpr struct {
     {TParam::SansActivitesMois, &TReglesEcole::SansActivitesMois},
     {TParam::AnneeDeSelection, &TReglesEcole::AnneeDeSelection},
     {TParam::PlusieursImplantations, &TReglesEcole::PlusieursImplantations},
+    {TParam::QrReference, &TReglesEcole::QrReference},
 };
 
 constexpr TParam kPrixRepas[] = {TParam::RepasMaternel, TParam::RepasPrimaire, TParam::RepasPersonnel};

@@ -41,6 +41,7 @@ struct TReglesEcole {
   bool SansActivitesMois = false;   ///< running account without its second section
   bool AnneeDeSelection = false;    ///< the year of a communication is that of the screen
   bool PlusieursImplantations = false;
+  bool QrReference = false;  ///< payment codes hold the twelve digits as a reference, not as a text
 
   /// How the evening service is called.
   QString TitreGarderieSoir() const;

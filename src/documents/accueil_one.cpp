@@ -216,7 +216,7 @@ TArbreRapport PlusieursLieux(const TContexteDocument& contexte, const TPeriode& 
 }  // namespace
 
 TResultat AccueilOne(const TContexteDocument& contexte, const TDemandeDocument& demande) {
-  const bool plusieurs = contexte.Parametres.EstVrai(TParam::PlusieursImplantations);
+  const bool plusieurs = contexte.Parametres.Regles().PlusieursImplantations;
   const bool maximumParJour = contexte.Parametres.EstVrai(TParam::MaximumParJour);
   const TDateTime debut = demande.Periode.DateDebut;
   const int trimestre = Trimestre(debut);

@@ -14,7 +14,7 @@ namespace {
 QString ModeleAttestation(const TParametres& parametres) {
   const QString calcul = parametres.GetParametre(TParam::CalculAttestation);
   if (calcul == u"1") return u"AttestationContributionValmonde"_s;
-  if (calcul == u"4" || parametres.EstVrai(TParam::SignatureASBL)) return u"AttestationContributionASBL"_s;
+  if (calcul == u"4" || parametres.Regles().SignatureASBL) return u"AttestationContributionASBL"_s;
   return u"AttestationContribution"_s;
 }
 

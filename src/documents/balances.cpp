@@ -68,7 +68,7 @@ TNoeudRapport NoeudBalance(const TEleve& eleve, bool definitive, bool provision)
 TResultat Balances(TRapport rapport, bool definitive, const TContexteDocument& contexte,
                    const TDemandeDocument& demande) {
   contexte.Eleves.LireFrais(demande.Eleves);
-  const bool provision = contexte.Parametres.EstVrai(TParam::ModeProvision);
+  const bool provision = contexte.Parametres.Regles().ModeProvision;
   TArbreRapport arbre;
   for (const TEleve* eleve : SansRadies(demande.Eleves))
     arbre.push_back(NoeudBalance(*eleve, definitive, provision));
@@ -78,8 +78,8 @@ TResultat Balances(TRapport rapport, bool definitive, const TContexteDocument& c
 }
 
 QString ModeleDefinitif(const TParametres& parametres) {
-  if (parametres.EstVrai(TParam::CommunicationRepas)) return u"BalanceDefinitiveRepas"_s;
-  return parametres.EstVrai(TParam::CompteCourant) ? u"BalanceDefinitiveVesper"_s : u"BalanceDefinitive"_s;
+  if (parametres.Regles().CommunicationRepas) return u"BalanceDefinitiveRepas"_s;
+  return parametres.Regles().CompteCourant ? u"BalanceDefinitiveVesper"_s : u"BalanceDefinitive"_s;
 }
 
 }  // namespace

@@ -34,8 +34,8 @@ struct TProvision {
 };
 
 TProvision::TProvision(const TParametres& parametres) {
-  const bool repas = parametres.EstVrai(TParam::CommunicationRepas);
-  Permanente = parametres.EstVrai(TParam::AnneeDeSelection);
+  const bool repas = parametres.Regles().CommunicationRepas;
+  Permanente = parametres.Regles().AnneeDeSelection;
   Modele = Permanente ? u"DocumentProvisionUniversel"_s
            : repas    ? u"DocumentProvision"_s
                       : u"DocumentProvisionVESPER"_s;
@@ -43,7 +43,7 @@ TProvision::TProvision(const TParametres& parametres) {
   Garderie = parametres.GetParametre(TParam::ProvisionGarderie);
   Globale =
       QString::number(qint64{Entier(Garderie)} + Entier(parametres.GetParametre(TParam::ProvisionFrais)));
-  if (repas || !parametres.EstVrai(TParam::CompteCourant)) LireMontant();
+  if (repas || !parametres.Regles().CompteCourant) LireMontant();
 }
 
 void TProvision::LireMontant() {

@@ -23,7 +23,7 @@ class TFactureEleve {
       : contexte_(contexte),
         eleve_(eleve),
         periode_(periode),
-        balanceAnnuelle_(contexte.Parametres.EstVrai(TParam::BalanceAnnuelle)) {}
+        balanceAnnuelle_(contexte.Parametres.Regles().BalanceAnnuelle) {}
 
   /// The pupil's node; none when exactly nothing is owed.
   std::optional<TNoeudRapport> Faire(const QString& datePaiement, const TQrPaiement& qr,

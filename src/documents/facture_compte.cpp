@@ -25,21 +25,22 @@ struct TTextes {
 };
 
 constexpr struct {
-  TParam Param;
+  bool TReglesEcole::*Si;
   TTextes Textes;
 } kTextes[] = {
-    {TParam::CommunicationRepas, {u"Repas du mois", false, u"Repas des mois précédents", u"Repas"}},
-    {TParam::SansActivitesMois,
+    {&TReglesEcole::CommunicationRepas, {u"Repas du mois", false, u"Repas des mois précédents", u"Repas"}},
+    {&TReglesEcole::SansActivitesMois,
      {u"Garderies du mois", false, u"Garderies des mois précédents", u"Garderies"}},
-    {TParam::FactureDebiteurs, {u"Services du mois", true, u"Services des mois précédents", u"Services"}},
+    {&TReglesEcole::FactureDebiteurs,
+     {u"Services du mois", true, u"Services des mois précédents", u"Services"}},
 };
 constexpr TTextes kTextesSinon{u"Garderies du mois", true, u"Garderies et études des mois précédents",
                                u"Garderies et études"};
 
 /// The first setting that is true decides.
-TTextes TextesDe(const TParametres& parametres) {
-  for (const auto& [param, textes] : kTextes)
-    if (parametres.EstVrai(param)) return textes;
+TTextes TextesDe(const TReglesEcole& regles) {
+  for (const auto& [si, textes] : kTextes)
+    if (regles.*si) return textes;
   return kTextesSinon;
 }
 
@@ -47,12 +48,9 @@ TTextes TextesDe(const TParametres& parametres) {
 class TComptes {
  public:
   TComptes(const TContexteDocument& contexte, const TPeriodeDocument& periode)
-      : titreSoir_(contexte.Parametres.Regles().TitreGarderieSoir()),
+      : regles_(contexte.Parametres.Regles()),
         periode_(periode),
-        repas_(contexte.Parametres.EstVrai(TParam::CommunicationRepas)),
-        debiteurs_(contexte.Parametres.EstVrai(TParam::FactureDebiteurs)),
-        permanente_(contexte.Parametres.EstVrai(TParam::AnneeDeSelection)),
-        textes_(TextesDe(contexte.Parametres)),
+        textes_(TextesDe(regles_)),
         qr_(contexte.Parametres) {}
 
   QString Modele() const;
@@ -66,20 +64,17 @@ class TComptes {
   TSection ActivitesDuMois(const TEleve& eleve) const;
   TSection Etat(const TEleve& eleve, Currency services, Currency activites) const;
   Currency Paiements(const TEleve& eleve) const;
-  int GenreCommunication() const { return repas_ ? 3 : debiteurs_ ? 0 : 1; }
+  int GenreCommunication() const { return regles_.CommunicationRepas ? 3 : regles_.FactureDebiteurs ? 0 : 1; }
 
-  const QString titreSoir_;
+  const TReglesEcole& regles_;
   const TPeriodeDocument& periode_;
-  const bool repas_;
-  const bool debiteurs_;
-  const bool permanente_;
   const TTextes textes_;
   const TQrPaiement qr_;
 };
 
 QString TComptes::Modele() const {
-  if (repas_) return u"ReleveFactureBrumeval"_s;
-  return debiteurs_ ? u"FactureVirement"_s : u"ReleveFactureVesper"_s;
+  if (regles_.CommunicationRepas) return u"ReleveFactureBrumeval"_s;
+  return regles_.FactureDebiteurs ? u"FactureVirement"_s : u"ReleveFactureVesper"_s;
 }
 
 std::optional<TNoeudRapport> TComptes::Rediger(const TEleve& eleve, IDialogues& dialogues) const {
@@ -87,10 +82,10 @@ std::optional<TNoeudRapport> TComptes::Rediger(const TEleve& eleve, IDialogues& 
   TSection activites = ActivitesDuMois(eleve);
   TSection etat = Etat(eleve, services.Total, activites.Total);
   const Currency solde = etat.Total;
-  const QString communication =
-      CommunicationCompacte(dialogues, eleve.Id, GenreCommunication(), periode_.Annee, permanente_);
+  const QString communication = CommunicationCompacte(dialogues, eleve.Id, GenreCommunication(),
+                                                      periode_.Annee, regles_.AnneeDeSelection);
   const auto signe = solde <=> Currency();
-  if (debiteurs_ && signe >= 0) return std::nullopt;
+  if (regles_.FactureDebiteurs && signe >= 0) return std::nullopt;
 
   TNoeudRapport noeud = NoeudFacture(eleve, solde, communication);
   noeud.Valeurs.Ecrire(u"SoldePostif", signe > 0 ? u"1"_s : signe < 0 ? u"0"_s : u"2"_s);
@@ -104,7 +99,8 @@ std::optional<TNoeudRapport> TComptes::Rediger(const TEleve& eleve, IDialogues& 
 
 TSection TComptes::ServicesDuMois(const TEleve& eleve) const {
   TSection section(u"Services"_s, QString::fromUtf16(textes_.Mois));
-  AjouterServices(section, kServicesFactures, titreSoir_, CoutsEntiers(eleve, periode_.Jours()));
+  AjouterServices(section, kServicesFactures, regles_.TitreGarderieSoir(),
+                  CoutsEntiers(eleve, periode_.Jours()));
   for (const TFraisEleve* frais : FraisOuverts(eleve, periode_))
     if (frais->FraisService()) section.Ajouter(frais->LibelleFrais(), frais->MontantFrais());
   return section;
@@ -125,11 +121,11 @@ TSection TComptes::Etat(const TEleve& eleve, Currency services, Currency activit
   const QString periode = u' ' % periode_.PeriodeTexte();
   TSection etat(u"Etat de votre compte"_s);
   etat.Ajouter(u"Vos paiements depuis le 1er septembre"_s, Paiements(eleve));
-  const QString objet = debiteurs_ ? u"Services"_s : u"Garderies"_s;
+  const QString objet = regles_.FactureDebiteurs ? u"Services"_s : u"Garderies"_s;
   etat.Ajouter(objet % u" des mois précédents", QString::fromUtf16(textes_.Precedents),
                -(eleve.CoutServicesPeriode(avant) + eleve.FraisServicesPeriode(avant)));
   etat.Ajouter(objet % u" du mois en cours", QString::fromUtf16(textes_.Court) % periode, -services);
-  if (repas_ || debiteurs_) {
+  if (regles_.CommunicationRepas || regles_.FactureDebiteurs) {
     etat.Total -= activites;  // they count without a row
     return etat;
   }
@@ -143,7 +139,7 @@ TSection TComptes::Etat(const TEleve& eleve, Currency services, Currency activit
 Currency TComptes::Paiements(const TEleve& eleve) const {
   const Currency frais = eleve.FraisPayes();
   const Currency paiements = eleve.VersementsServices() + frais + eleve.PaiementsAnnee();
-  return debiteurs_ ? paiements + frais : paiements;
+  return regles_.FactureDebiteurs ? paiements + frais : paiements;
 }
 
 }  // namespace
@@ -154,8 +150,7 @@ TResultat FactureCompteCourant(const TContexteDocument& contexte, const TDemande
       LettreEcole(u"Facture"_s, comptes.Modele(), contexte.Parametres, demande.Periode.PeriodeTexte());
   lettre.AjouterVariable(u"DatePaiement",
                          demande.DatePaiement ? FormatJourLong(*demande.DatePaiement) : QString());
-  if (!contexte.Parametres.EstVrai(TParam::CommunicationRepas))
-    lettre.AjouterVariable(u"TypeService", u"1"_s);
+  if (!contexte.Parametres.Regles().CommunicationRepas) lettre.AjouterVariable(u"TypeService", u"1"_s);
   RemplirBeneficiaire(lettre, contexte.Parametres);
   comptes.Avertir(lettre);
   const auto ecrire = [&](const TEleve& eleve, IDialogues& dialogues) {

@@ -51,7 +51,7 @@ TNoeudRapport Rediger(TCompte compte, const TContexteDocument& contexte, const T
 
 TCompte CompteGarderies(const TContexteDocument& contexte, const TEleve& eleve,
                         const TPeriodeDocument& periode) {
-  const bool repas = contexte.Parametres.EstVrai(TParam::CommunicationRepas);
+  const bool repas = contexte.Parametres.Regles().CommunicationRepas;
   TCompte compte(repas ? u"Repas du mois"_s : u"Garderies du mois"_s);
   const TServicesOuverts ouverts(eleve, periode);
   AjouterServices(compte.Mois, kServicesFactures, contexte.Parametres.Regles().TitreGarderieSoir(),
@@ -88,7 +88,7 @@ QString ModeleActivites(const TParametres& parametres) {
 
 TResultat FactureProvision(const TContexteDocument& contexte, const TDemandeDocument& demande) {
   const TPeriodeDocument& periode = demande.Periode;
-  const bool repas = contexte.Parametres.EstVrai(TParam::CommunicationRepas);
+  const bool repas = contexte.Parametres.Regles().CommunicationRepas;
   TRapport lettre = LettreEcole(u"Facture"_s, repas ? u"ReleveFacture"_s : u"Facture2"_s, contexte.Parametres,
                                 periode.PeriodeTexte());
   const TQrPaiement qr(contexte.Parametres);

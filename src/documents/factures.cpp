@@ -28,9 +28,9 @@ const TRegle& Regle(TGeneration generation) { return kRegles[static_cast<std::si
 }  // namespace
 
 std::vector<TGeneration> GenerationsFacture(const TParametres& parametres) {
-  if (parametres.EstVrai(TParam::CompteCourant)) return {TGeneration::CompteCourant};
-  if (!parametres.EstVrai(TParam::ModeProvision)) return {TGeneration::PostesOuverts};
-  if (parametres.EstVrai(TParam::CommunicationRepas)) return {TGeneration::Provision};
+  if (parametres.Regles().CompteCourant) return {TGeneration::CompteCourant};
+  if (!parametres.Regles().ModeProvision) return {TGeneration::PostesOuverts};
+  if (parametres.Regles().CommunicationRepas) return {TGeneration::Provision};
   return {TGeneration::Provision, TGeneration::Activites};
 }
 
@@ -39,7 +39,7 @@ bool EstModeleFacture(QStringView modele) {
 }
 
 bool FactureDemandeDate(const TParametres& parametres) {
-  return parametres.EstVrai(TParam::DatePaiement) && Regle(GenerationsFacture(parametres).front()).AvecDate;
+  return parametres.Regles().DatePaiement && Regle(GenerationsFacture(parametres).front()).AvecDate;
 }
 
 TResultat Factures(const TContexteDocument& contexte, const TDemandeDocument& demande) {

@@ -14,7 +14,7 @@ TRapport LettreEcole(const QString& titre, const QString& modele, const TParamet
 }
 
 bool LogoAGauche(const TParametres& parametres) {
-  return parametres.EstVrai(TParam::CompteCourant) && !parametres.EstVrai(TParam::FactureDebiteurs);
+  return parametres.Regles().CompteCourant && !parametres.Regles().FactureDebiteurs;
 }
 
 TResultat FaireLettres(TRapport lettre, const TElevesChoisis& eleves, const TEcrireLettre& ecrire,

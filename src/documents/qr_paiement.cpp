@@ -9,8 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// "1": the code holds the twelve digits as a reference, not as a text.
-constexpr TParam kQrReference{116};
 constexpr qsizetype kNomMax = 70;
 constexpr Currency kMontantMax = Currency::Brut(9'999'999'999'900);  // 999,999,999.99 euros
 
@@ -25,7 +23,7 @@ TQrPaiement::TQrPaiement(const TParametres& parametres)
       compte_(PremierRempli(IbanSansBlancs(parametres.GetParametre(TParam::VirementIBAN)),
                             IbanSansBlancs(parametres.GetParametre(TParam::CompteBanque)))),
       valide_(IbanValide(compte_)),
-      reference_(parametres.EstVrai(kQrReference)) {}
+      reference_(parametres.Regles().QrReference) {}
 
 QString TQrPaiement::Texte(const QString& communication, Currency montant) const {
   const QString euros = FormatDeuxDecimales(montant).replace(u',', u'.');

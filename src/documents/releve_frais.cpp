@@ -14,7 +14,7 @@ TResultat ReleveFraisEffectifs(const TContexteDocument& contexte, const TDemande
   const TPeriodeDocument& periode = demande.Periode;
   const std::span<const TService> services(kServicesFactures);
   static_assert(kServicesFactures.back() == TService::Etude);
-  const auto factures = contexte.Parametres.EstVrai(TParam::SansServices) ? services.last(1) : services;
+  const auto factures = contexte.Parametres.Regles().SansServices ? services.last(1) : services;
   const auto ecrire = [&](const TEleve& eleve, IDialogues&) {
     TSectionsFrais sections;
     for (const TFraisEleve* frais : FraisDuCatalogue(eleve, periode))

@@ -5,7 +5,7 @@ namespace {
 /// Gathers pieces; marks may begin in one value and end in another.
 class TAssembleur {
  public:
-  explicit TAssembleur(TMorceau debut) : ici_(std::move(debut)) {}
+  explicit TAssembleur(const TMorceau& debut) : debut_(debut), ici_(debut) {}
 
   void Ajouter(QStringView texte, bool balises) {
     while (balises && !texte.isEmpty()) {
@@ -45,7 +45,7 @@ class TAssembleur {
         return 0;
     }
     Pousser();
-    ici_.*marque = place == 1;
+    ici_.*marque = place == 1 || debut_.*marque;  // a bold text stays bold behind </b>
     return place + 2;
   }
 
@@ -54,6 +54,7 @@ class TAssembleur {
     ici_.Texte.clear();
   }
 
+  const TMorceau debut_;  ///< how the text looks without marks
   TMorceau ici_;
   std::vector<TMorceau> morceaux_;
 };
@@ -62,7 +63,7 @@ class TAssembleur {
 
 std::vector<TMorceau> Remplacer(const QString& modele, const TResolveur& valeur, TBalises balises,
                                 TMorceau debut) {
-  TAssembleur texte(std::move(debut));
+  TAssembleur texte(debut);
   QStringView reste(modele);
   for (;;) {
     const qsizetype ouvre = reste.indexOf(u'[');
