@@ -169,17 +169,21 @@ TResultat ImprimerListe(const TContexteDocument& contexte, const QString& titre,
   return resultat;
 }
 
-// The classes in their own order, each once.
+// The classes in their own order, each once; a pupil who has none yet stands behind them.
 TResultat ImprimerPaiements(const TContexteDocument& contexte, const QString& groupe,
                             const std::vector<TPaiementsEleve>& lignes) {
   TRapport rapport(u"Relevé des paiements : " % groupe, u"RelevePaiement"_s);
   AjouterEcole(rapport, contexte, {});
   TArbreRapport arbre;
-  for (const auto& classe : contexte.Eleves.Classes()) {
-    TNoeudRapport noeud(classe->Libelle());
-    noeud.Valeurs.Ecrire(u"Classe", classe->Libelle());
+  std::vector<const TClasse*> classes;
+  for (const auto& classe : contexte.Eleves.Classes()) classes.push_back(classe.get());
+  classes.push_back(nullptr);
+  for (const TClasse* classe : classes) {
+    const QString libelle = classe != nullptr ? classe->Libelle() : QString();
+    TNoeudRapport noeud(libelle);
+    noeud.Valeurs.Ecrire(u"Classe", libelle);
     for (const TPaiementsEleve& ligne : lignes)
-      if (ligne.Eleve->Classe == classe.get()) noeud.Enfants.push_back(NoeudPaiements(ligne));
+      if (ligne.Eleve->Classe == classe) noeud.Enfants.push_back(NoeudPaiements(ligne));
     if (!noeud.Enfants.empty()) arbre.push_back(std::move(noeud));
   }
   return Presenter(std::move(rapport), std::move(arbre), u"Aucun relevé à imprimer."_s);

@@ -188,6 +188,14 @@ TEST_F(TSignaletique, LeChoixDeLAssistantFaitLeDocument) {
   EXPECT_EQ(monde.Apercus, QStringList());
 }
 
+TEST_F(TSignaletique, LaGrilleDuMoisEstCelleDeTouteLEcole) {
+  TFrmSignaletique& fiche = Ouvrir(vide);
+  fiche.cmbMoisChange(1);
+  fiche.SpeedButton3Click();
+  EXPECT_EQ(monde.Apercus, QStringList{u"Accueil extrascolaire"_s});
+  EXPECT_EQ(base.Dialogues.Attentes, 0);
+}
+
 // The six titles for mail are dispatched by the list of sixteen: "Facture", the first, gives labels.
 TEST_F(TSignaletique, LeCourrielEstServiParLaListeEntiere) {
   TFrmSignaletique& fiche = Ouvrir(rose);

@@ -12,6 +12,8 @@ namespace {
 constexpr float kPremiereMinimum = 200;
 /// Amounts at the right edge of a list keep their comma on the axis of all papers.
 constexpr float kBlancDernierMontant = 19;
+/// A number and the text beside it are no one word.
+constexpr float kBlancNombre = 16;
 
 bool EstNombre(const QString& cellule) {
   static const QRegularExpression nombre(uR"(^-?\d[\d .\x{A0}\x{202F}]*(,\d+)?\s*€?$)"_s,
@@ -84,7 +86,8 @@ std::vector<TPlaceColonne> PlacesColonnes(const TRapport& rapport, float largeur
     const QString ecran = i == 0 ? valeur(u"COLREFWIDTH", 0) : valeur(u"COLWIDTH", i - 1);
     const QString titre = i == 0 ? valeur(u"COLREFTITLE", 0) : valeur(u"COLTITLE", i - 1);
     TPlaceColonne& place = places.emplace_back(TPlaceColonne{0, ecran.toFloat(), EstDeNombres(rapport, i)});
-    if (place.Droite && i > 0 && i == rapport.NombreColonnes() - 1) place.Blanc = kBlancDernierMontant;
+    const bool derniere = i == rapport.NombreColonnes() - 1;
+    if (place.Droite && i > 0) place.Blanc = derniere ? kBlancDernierMontant : kBlancNombre;
     minimums.push_back(LargeurMinimum(rapport, i, titre, place, styles));
   }
   const bool visible = std::ranges::any_of(places, [](const TPlaceColonne& p) { return p.Largeur > 0; });

@@ -23,12 +23,16 @@ void TImprimeur::Imprimer(TChoixDocument choix) {
     if (contexte_.Modale.MontrerModal(date) == TResultatModal::Valide)
       choix.DatePaiement = date.dtDatePaiement();
   }
+  Faire([&](const TContexteDocument& contexte) { return FaireDocument(contexte, titre, choix); });
+}
+
+void TImprimeur::Faire(const std::function<TResultat(const TContexteDocument&)>& construire) {
   TResultat resultat;
   {
     const TAttente attente(contexte_.Dialogues());
     TContexteDocument contexte = ContexteDesGlobals(contexte_.Controleur.Horloge());
     contexte.Etiquettes = &etiquettes_;
-    resultat = FaireDocument(contexte, titre, choix);
+    resultat = construire(contexte);
   }
   Montrer(std::move(resultat));
 }

@@ -1,4 +1,6 @@
 #pragma once
+#include <functional>
+
 #include "documents/catalogue.h"
 #include "screens/contexte_ecran.h"
 
@@ -17,10 +19,13 @@ class TImprimeur {
   void Proposer(std::vector<TTitreOffert> titres, int moisEcran = 0);
   /// The wizard's answer about the titles that were proposed last. An index of none is passed over.
   void Imprimer(TChoixDocument choix);
+  /// A document that is in no list: it is made under the wait cursor, then shown.
+  void Faire(const std::function<TResultat(const TContexteDocument&)>& construire);
+
+ private:
   /// What a document says, then its previews one after the other.
   void Montrer(TResultat resultat);
 
- private:
   const TContexteEcran& contexte_;
   std::vector<TTitreOffert> titres_;
   TEtiquettes etiquettes_;  ///< keeps its engine for as long as the screen

@@ -84,6 +84,8 @@ class TFrmSignaletique : public TForm {
   void btnDeleteFaitClick();
   /// Study and meals on the days of a calendar.
   void btnCalendrierClick();
+  /// The month of the list for the whole school, day by day, in a preview.
+  void SpeedButton3Click();
 
   // Fees and payments.
   /// A new payment.

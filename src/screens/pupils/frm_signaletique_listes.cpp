@@ -1,6 +1,7 @@
 #include "attendance/presences.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
+#include "documents/accueil_extrascolaire.h"
 #include "documents/periode.h"
 #include "payments/paiements.h"
 #include "pupils/eleves.h"
@@ -138,6 +139,11 @@ void TFrmSignaletique::btnCalendrierClick() {
   TFrmReleveCalendrier calendrier(contexte_, *Globals.EleveCourant, vuCalendrier_);
   contexte_.Modale.MontrerModal(calendrier);
   RelireListes();
+}
+
+void TFrmSignaletique::SpeedButton3Click() {
+  imprimeur_.Faire(
+      [mois = MoisVu()](const TContexteDocument& contexte) { return AccueilExtraScolaire(contexte, mois); });
 }
 
 // Fees and payments
