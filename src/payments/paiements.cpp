@@ -69,9 +69,10 @@ std::unique_ptr<TPaiement> TPaiements::MarqueImpaye(TPaiement& paiement) {
 }
 
 TPaiement* TPaiements::PaiementMois(int eleveId, int mois) const {
+  TPaiement* dernier = nullptr;
   for (TPaiement* paiement : parEleve_.Tous(eleveId))
-    if (paiement->TypePaiement == kPaiementServices && paiement->Mois == mois) return paiement;
-  return nullptr;
+    if (paiement->TypePaiement == kPaiementServices && paiement->Mois == mois) dernier = paiement;
+  return dernier;
 }
 
 Currency TPaiements::TotalPaiements(int eleveId) const {
@@ -82,8 +83,6 @@ Currency TPaiements::TotalPaiements(int eleveId) const {
 }
 
 Currency TPaiements::MontantMois(int eleveId, int mois) const {
-  Currency montant;
-  for (const TPaiement* paiement : parEleve_.Tous(eleveId))
-    if (paiement->TypePaiement == kPaiementServices && paiement->Mois == mois) montant = paiement->Montant;
-  return montant;
+  const TPaiement* paiement = PaiementMois(eleveId, mois);
+  return paiement != nullptr ? paiement->Montant : Currency();
 }

@@ -28,11 +28,12 @@ class TPaiements : public TCollection<TPaiement> {
   /// Takes a month's row out; handed back is an object of type 0 that stands for the unpaid month.
   std::unique_ptr<TPaiement> MarqueImpaye(TPaiement& paiement);
 
-  /// First payment of the services of that month, or null.
+  /// The payment of the services of that month, or null. Of two, which only two workstations can make, the
+  /// last one: it is its amount that counts.
   TPaiement* PaiementMois(int eleveId, int mois) const;
   /// Sum of the pupil's payments of services.
   Currency TotalPaiements(int eleveId) const;
-  /// Amount of the last payment of the services of that month; 0 if there is none.
+  /// Its amount; 0 if there is none.
   Currency MontantMois(int eleveId, int mois) const;
 
   const int AnneeScolaire;

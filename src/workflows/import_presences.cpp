@@ -48,10 +48,31 @@ TValeurVue JourVu(TDateTime date) {
 
 }  // namespace
 
+// With the day flat rate a meal eaten at school is a day-care presence too, whether or not the meal
+// itself has a tariff.
+std::unique_ptr<TPresence> GarderieDuRepas(const TPresence& repas) {
+  const bool aTable =
+      repas.TypePresence == TTypePresence::Repas || repas.TypePresence == TTypePresence::Soupe;
+  if (!aTable || !Globals.Presences->Regles.GarderieUnique) return nullptr;
+  auto derive = std::make_unique<TPresence>();
+  derive->EleveId = repas.EleveId;
+  derive->TypePresence = TTypePresence::Garderie;
+  derive->DateReleve = repas.DateReleve;
+  const bool entree = repas.HeureEntree > 0.0;
+  derive->HeureEntree = entree ? HeureAuMilliseconde(repas.HeureEntree + kDecalage) : repas.HeureSortie;
+  derive->HeureSortie = entree ? 0.0 : repas.HeureSortie;
+  return derive;
+}
+
 TCellules LigneRecapitulatif(const TPresence& presence) {
   const TEleve* eleve = Globals.Eleves->TrouverParId(presence.EleveId);
-  return {eleve->Nom,           eleve->Prenom,        JourVu(presence.DateReleve), Texte(presence.TypePresence),
-          presence.HeureEntree, presence.HeureSortie, eleve->Matricule};
+  return {eleve->Nom,
+          eleve->Prenom,
+          JourVu(presence.DateReleve),
+          Texte(presence.TypePresence),
+          presence.HeureEntree,
+          presence.HeureSortie,
+          eleve->Matricule};
 }
 
 TCellules LigneAnomalie(const TAnomalie& anomalie) {
@@ -160,27 +181,13 @@ void TImportPresences::Classer(const TScan& scan, const QString& site, std::vect
                              scan.Sens == kSortie && scan.Heure <= kFinDesEntrees;
   const bool entree = scan.Sens == kEntree || entreeDuMatin;
   (entree ? presence->HeureEntree : presence->HeureSortie) = scan.Heure;
+  std::unique_ptr<TPresence> derive = GarderieDuRepas(*presence);
   if (Globals.TarifsGarderies->TarifExiste(GroupeDe(presence->TypePresence), presence->HeureSortie,
                                            presence->HeureEntree, scan.Date))
     bons_.push_back(std::move(presence));
   else
     sansTarif.push_back({eleve->Matricule, std::move(presence)});
-  const auto type = static_cast<TTypePresence>(scan.TypePresence);
-  if (Globals.Presences->Regles.GarderieUnique &&
-      (type == TTypePresence::Repas || type == TTypePresence::Soupe))
-    Deriver(scan, eleve->Id);
-}
-
-// With the day flat rate a meal eaten at school is a day-care presence too, whether or not the meal
-// itself has a tariff.
-void TImportPresences::Deriver(const TScan& scan, int eleve) {
-  auto derive = std::make_unique<TPresence>();
-  derive->EleveId = eleve;
-  derive->TypePresence = TTypePresence::Garderie;
-  derive->DateReleve = scan.Date;
-  const bool entree = scan.Sens == kEntree && scan.Heure > 0.0;
-  derive->HeureEntree = entree ? HeureAuMilliseconde(scan.Heure + kDecalage) : scan.Heure;
-  derive->HeureSortie = entree ? 0.0 : scan.Heure;
+  if (!derive) return;
   origines_[derive.get()] = TOrigine::Derive;
   bons_.push_back(std::move(derive));
 }

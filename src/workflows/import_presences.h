@@ -94,7 +94,6 @@ class TImportPresences {
   void Analyser(const QString& site);
   TScan LireLigne(int ligne) const;
   void Classer(const TScan& scan, const QString& site, std::vector<TAnomalie>& sansTarif);
-  void Deriver(const TScan& scan, int eleve);
   void Ajouter(std::unique_ptr<TPresence> presence);
   void Enregistrer();
   void Archiver(const QString& fichier) const;
@@ -108,6 +107,9 @@ class TImportPresences {
   std::vector<const TPresence*> ajoutees_;  // by a step 2 that has not yet succeeded
   bool pret_ = false;
 };
+
+/// The day-care record that goes with a meal or a soup when the day has a flat rate; else null.
+std::unique_ptr<TPresence> GarderieDuRepas(const TPresence& repas);
 
 /// A line of the grid "Récapitulatif": name, first name, day, kind, entry, exit, register number.
 TCellules LigneRecapitulatif(const TPresence& presence);

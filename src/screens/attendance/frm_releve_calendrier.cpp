@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "attendance/presences.h"
+#include "core/exceptions.h"
 #include "core/formats.h"
 #include "pupils/eleves.h"
 
@@ -70,7 +71,13 @@ void TFrmReleveCalendrier::PlannerCalendar1DblClick() {
   if (Globals.Parametres->EstVrai(TParam::PlusieursImplantations))
     releve->CodeImplantation = eleve_.CodeImplantation;
   const bool ajoute = Globals.Presences->AjoutePresence(std::move(releve)) != nullptr;
-  Globals.Presences->Save();
+  try {
+    Globals.Presences->Save();
+  } catch (const Exception& e) {
+    Globals.Presences->Remettre();
+    Noter(u"Rien n'a été enregistré."_s);
+    return contexte_.Dialogues().Message(e.Message);
+  }
   marques_.insert(date);
   Noter(ajoute ? QString(FormatJour(date) % u" : ajouté.")
                : QString(FormatJour(date) %

@@ -5,6 +5,7 @@
 
 #include "core/accord.h"
 #include "screens/principal/arbre_eleves.h"
+#include "screens/pupils/frm_signaletique.h"
 
 using namespace Qt::StringLiterals;
 
@@ -107,23 +108,31 @@ void TFrmMain::FormShow() {
 void TFrmMain::RouvrirPlace() {
   if (Globals.ModeProfesseur || Globals.ModeTablette || SansEleve()) return;
   const TReglagesPoste& reglages = Controleur.Reglages();
-  const int eleve = reglages.Lire(TRacine::Utilisateur, kDernierEleve).toInt();
+  Rouvrir(reglages.Lire(TRacine::Utilisateur, kDernierEleve).toInt(),
+          reglages.Lire(TRacine::Utilisateur, kDernierEcran));
+}
+
+void TFrmMain::Rouvrir(int eleve, const QString& place) {
   if (TEleve* dernier = Globals.Eleves->TrouverParId(eleve))
     if (TNoeud* noeud = Arbre.TrouverObjet(dernier)) Arbre.Selectionner(noeud);
-  const QString nom = reglages.Lire(TRacine::Utilisateur, kDernierEcran);
   for (const TCommandePrincipale& commande : Commandes)
-    if (!nom.isEmpty() && NomDePlace(commande) == nom && PageVisible(commande.Page) &&
+    if (!place.isEmpty() && NomDePlace(commande) == place && PageVisible(commande.Page) &&
         CommandeActive(commande))
       return Executer(commande.Gestionnaire);
 }
 
 void TFrmMain::MemoriserPlace() {
   if (!EstRelie()) return;
-  const TCommandePrincipale* ouverte = CommandeOuverte();
-  const int eleve = Globals.EleveCourant != nullptr ? Globals.EleveCourant->Id : 0;
+  const auto [eleve, place] = Place();
   reglages_.Ecrire(TRacine::Utilisateur, kDernierEleve, eleve > 0 ? QString::number(eleve) : QString());
-  reglages_.Ecrire(TRacine::Utilisateur, kDernierEcran,
-                   ouverte != nullptr ? NomDePlace(*ouverte) : QString());
+  reglages_.Ecrire(TRacine::Utilisateur, kDernierEcran, place);
+}
+
+// The pupil, 0 for none, and the open screen.
+std::pair<int, QString> TFrmMain::Place() const {
+  const TCommandePrincipale* ouverte = CommandeOuverte();
+  return {Globals.EleveCourant != nullptr ? Globals.EleveCourant->Id : 0,
+          ouverte != nullptr ? NomDePlace(*ouverte) : QString()};
 }
 
 void TFrmMain::FormClose() {
@@ -260,12 +269,29 @@ bool TFrmMain::PeutChoisirAnnee() const {
   return EstRelie() || (EstBureau() && Globals.Parametres && Controleur.Base().EstConnecte());
 }
 
-void TFrmMain::mnuAnneeClick(int annee) {
-  if (enTravail_ || !PeutChoisirAnnee()) return;
+bool TFrmMain::ChoisirAnnee(int annee) {
+  if (enTravail_ || !PeutChoisirAnnee()) return false;
   QuitterChamp();
-  if (!EcranAccepte()) return;
+  if (!EcranAccepte()) return false;
   Controleur.ChargerParametres();
   Controleur.ChoisirAnnee(annee);
+  return true;
+}
+
+// Pupil, screen and month stay where they were.
+void TFrmMain::RechargerAnnee() {
+  if (!EstRelie()) return;
+  const auto [eleve, place] = Place();
+  const auto fiche = [this] { return dynamic_cast<TFrmSignaletique*>(Panneau.Courante()); };
+  const int mois = fiche() != nullptr ? fiche()->IndiceMois() : 0;
+  if (!ChoisirAnnee(anneeCochee_)) return;
+  Rouvrir(eleve, place);
+  if (fiche() != nullptr) fiche()->cmbMoisChange(mois);
+  EtatApresEcran(TNiveauEtat::Succes, u"Données relues · " % CombienEleves(anneeCochee_, NombreEleves()));
+}
+
+void TFrmMain::mnuAnneeClick(int annee) {
+  if (!ChoisirAnnee(annee)) return;
   EtatApresEcran(TNiveauEtat::Neutre, CombienEleves(annee, NombreEleves()));
 }
 

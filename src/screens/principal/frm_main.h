@@ -57,6 +57,8 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   int AnneeCochee() const { return anneeCochee_; }
   QString IntituleAnnee() const { return intituleAnnee_; }
   void mnuAnneeClick(int annee);
+  /// The year on display is read again, with what other workstations have done.
+  void RechargerAnnee();
   /// A year is on display, or can be as soon as the settings let it.
   bool PeutChoisirAnnee() const;
 
@@ -153,6 +155,9 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
  private:
   const TCommandePrincipale& Commande(TGestionnaire gestionnaire) const;
   void RouvrirPlace();
+  void Rouvrir(int eleve, const QString& place);
+  std::pair<int, QString> Place() const;
+  bool ChoisirAnnee(int annee);
   void MemoriserPlace();
   void tvEleveChange();
   /// What was done, and what the screen that had to go for it has left undone.

@@ -109,6 +109,17 @@ void TFrmSignaletique::PrendreEleve() {
   }
 }
 
+// A text that was refused stands nowhere but in its field.
+QString TFrmSignaletique::EnSuspens() const {
+  return champs_.Modifies() ? QString(u"modification non enregistrée de " % nomComplet_) : QString();
+}
+
+bool TFrmSignaletique::FormCloseQuery() {
+  return !champs_.Modifies() ||
+         contexte_.Dialogues().ConfirmerGrave(
+             u"Ce que vous avez introduit n'est pas enregistré. Voulez-vous l'abandonner ?"_s);
+}
+
 void TFrmSignaletique::LireFiche(TEleve& eleve) {
   avecEleve_ = true;
   champs_.Montrer(&eleve);

@@ -1,6 +1,7 @@
 #pragma once
 #include <QImage>
 
+#include "core/distributor.h"
 #include "documents/periode.h"
 #include "screens/attendance/frm_releve_calendrier.h"
 #include "screens/documents/imprimeur.h"
@@ -9,7 +10,6 @@
 #include "screens/pupils/groupes_mois.h"
 #include "screens/pupils/releve_mensuel.h"
 
-class TDistributor;
 struct TActiviteEleve;
 struct TFraisEleve;
 struct TPaiement;
@@ -25,6 +25,8 @@ class TFrmSignaletique : public TForm {
   bool RecevoirMessage(const TMessage& message) override;
   bool Accepte(TCodeMessage code) const override;
   bool LaisserChamp() override { return champs_.QuitterTout(); }
+  /// What a field holds that was refused.
+  QString EnSuspens() const override;
 
   /// False before the first pupil and when the one on display went with its year.
   bool AvecEleve() const { return avecEleve_; }
@@ -84,7 +86,7 @@ class TFrmSignaletique : public TForm {
   void btnDeleteFaitClick();
   /// Study and meals on the days of a calendar.
   void btnCalendrierClick();
-  /// The month of the list for the whole school, day by day, in a preview.
+  /// "Accueil extrascolaire": the day-care of the whole school in the month of the list.
   void SpeedButton3Click();
 
   // Fees and payments.
@@ -109,6 +111,7 @@ class TFrmSignaletique : public TForm {
 
  protected:
   void FormShow() override;
+  bool FormCloseQuery() override;
 
  private:
   void PrendreEleve();
@@ -118,16 +121,24 @@ class TFrmSignaletique : public TForm {
   /// False, with the message, without a pupil.
   bool ExigeEleve();
   void EnregistrerEleve(const TChamp& champ);
-  /// Stores a collection; false after the message of the database.
-  bool Enregistrer(TDistributor& collection, const QString& fait);
+  /// Stores a collection and says what was done. False after the message of the database, or when another
+  /// workstation has deleted the row; memory is then what the table holds.
+  template <class T>
+  bool Enregistrer(TCollection<T>& collection, const QString& fait) {
+    return Enregistrer(
+        collection, [&] { return !collection.RangeesDisparues().empty(); }, fait);
+  }
+  bool Enregistrer(TDistributor& collection, const std::function<bool()>& disparue, const QString& fait);
   void MarquerMois(int groupe, const std::vector<int>& mois, bool coche);
   void MarquerJour(TActiviteEleve* inscription, int activite, int jour, bool coche);
   /// What a change moves: the monthly list, the fees, the balances.
   void RelireListes();
   void DaterPhotos();
-  std::unique_ptr<TPresence> Derive(const TPresence& releve) const;
-  void AjouterReleve(std::unique_ptr<TPresence> releve);
+  /// `derive`: what goes with it, if anything.
+  void AjouterReleve(std::unique_ptr<TPresence> releve, std::unique_ptr<TPresence> derive = nullptr);
+  void DireReleve(const TPresence& demande, bool garde, bool prolonge) const;
   void AjouterLigne(std::unique_ptr<TFraisEleve> ligne, const QString& fait);
+  void Offrir(const QString& supprime, std::function<void()> retour);
   void RelireGroupes(int groupe);
   void BasculerMois(TPaiement& mois);
   void BasculerFrais(TFraisEleve& frais);

@@ -10,6 +10,7 @@
 #include "screens/payments/frm_paiement.h"
 #include "screens/pupils/frm_signaletique.h"
 #include "services/frais_eleve.h"
+#include "workflows/import_presences.h"
 
 using namespace Qt::StringLiterals;
 
@@ -52,6 +53,12 @@ void TFrmSignaletique::Retablir() {
   faire();
 }
 
+/// What was deleted of this pupil, and how it comes back.
+void TFrmSignaletique::Offrir(const QString& supprime, std::function<void()> retour) {
+  annulation_ = {Globals.EleveCourant->Id, std::move(retour)};
+  contexte_.Principal.Etat(TNiveauEtat::Succes, QString(supprime % u" (Ctrl+Z rétablit)"));
+}
+
 bool TFrmSignaletique::PeutRetablir() const {
   return annulation_.Faire && Globals.EleveCourant != nullptr &&
          annulation_.EleveId == Globals.EleveCourant->Id;
@@ -78,44 +85,39 @@ void TFrmSignaletique::btnAjoutFaitClick() {
   releve->HeureEntree = saisie.HeureEntree();
   releve->HeureSortie = saisie.HeureSortie();
   releve->CodeImplantation = saisie.CodeImplantation();
-  AjouterReleve(std::move(releve));
+  std::unique_ptr<TPresence> derive = GarderieDuRepas(*releve);
+  AjouterReleve(std::move(releve), std::move(derive));
 }
 
-/// The second record of a day at a flat rate, as the import makes it.
-std::unique_ptr<TPresence> TFrmSignaletique::Derive(const TPresence& releve) const {
-  const bool repas =
-      releve.TypePresence == TTypePresence::Repas || releve.TypePresence == TTypePresence::Soupe;
-  if (!Globals.Presences->Regles.GarderieUnique || !repas) return nullptr;
-  constexpr TDateTime kDecalage = 0.0001;
-  const TDateTime heure = (releve.HeureEntree != 0.0 ? releve.HeureEntree : releve.HeureSortie) + kDecalage;
-  auto derive = std::make_unique<TPresence>();
-  derive->EleveId = releve.EleveId;
-  derive->TypePresence = TTypePresence::Garderie;
-  derive->DateReleve = releve.DateReleve;
-  derive->HeureEntree = heure;
-  derive->HeureSortie = releve.HeureEntree != 0.0 ? releve.HeureSortie : heure;
-  return derive;
-}
-
-void TFrmSignaletique::AjouterReleve(std::unique_ptr<TPresence> releve) {
+void TFrmSignaletique::AjouterReleve(std::unique_ptr<TPresence> releve, std::unique_ptr<TPresence> derive) {
   TPresences& presences = *Globals.Presences;
-  const TDateTime date = releve->DateReleve;
-  std::unique_ptr<TPresence> derive = Derive(*releve);
-  const TPresence* ajoute = presences.AjoutePresence(std::move(releve));
-  const bool garde = ajoute != nullptr;
-  if (!Enregistrer(presences, u"Relevé du %1"_s.arg(FormatDate(date)))) return RelireListes();
-  if (derive) {
-    presences.AjoutePresence(std::move(derive));
-    Enregistrer(presences, u"Relevé du %1 et son forfait"_s.arg(FormatDate(date)));
-  }
-  const int mois = DecodeDate(date).Mois;
-  if (!garde)
-    contexte_.Principal.Etat(TNiveauEtat::Alerte,
-                             u"Relevé non ajouté : cet élève en a déjà un pour ce service ce jour-là"_s);
-  else if (mois != kMoisFacturation[static_cast<std::size_t>(indiceMois_)])
+  const std::unique_ptr<TPresence> demande = Copie(*releve);
+  const QString quoi = u"Relevé du " % FormatDate(demande->DateReleve);
+  const auto sortieConnue = [&] {
+    return presences.ChercheDoublon(demande->EleveId, demande->DateReleve, 0.0, demande->HeureSortie) !=
+           nullptr;
+  };
+  const bool connue = sortieConnue();
+  const bool garde = presences.AjoutePresence(std::move(releve)) != nullptr;
+  const bool prolonge = !garde && !connue && sortieConnue();
+  if (!Enregistrer(presences, quoi)) return RelireListes();
+  if (derive && presences.AjoutePresence(std::move(derive)) != nullptr)
+    Enregistrer(presences, quoi % u" et son forfait");
+  DireReleve(*demande, garde, prolonge);
+  RelireListes();
+}
+
+// What is not seen in the list is told.
+void TFrmSignaletique::DireReleve(const TPresence& demande, bool garde, bool prolonge) const {
+  const int mois = DecodeDate(demande.DateReleve).Mois;
+  if (prolonge)
+    contexte_.Principal.Etat(TNiveauEtat::Succes,
+                             u"La sortie de ce soir-là est maintenant la plus tardive"_s);
+  else if (!garde)
+    Signaler(u"Relevé non ajouté : cet élève en a déjà un pour ce service ce jour-là"_s);
+  else if (mois != MoisVu())
     contexte_.Principal.Etat(TNiveauEtat::Succes,
                              QString(u"Relevé ajouté au mois de " % NomMois(mois).toLower()));
-  RelireListes();
 }
 
 void TFrmSignaletique::btnDeleteFaitClick() {
@@ -130,7 +132,7 @@ void TFrmSignaletique::btnDeleteFaitClick() {
   Releve.Grille.ChoisirLigne(-1);
   Globals.Presences->Remove(*releve);
   if (Enregistrer(*Globals.Presences, u"Suppression du relevé du " % Jour(*copie)))
-    annulation_ = {copie->EleveId, [this, copie] { AjouterReleve(Copie(*copie)); }};
+    Offrir(u"Relevé du %1 supprimé"_s.arg(Jour(*copie)), [this, copie] { AjouterReleve(Copie(*copie)); });
   RelireListes();
 }
 
@@ -161,6 +163,7 @@ void TFrmSignaletique::AjouterLigne(std::unique_ptr<TFraisEleve> ligne, const QS
   TAllFraisEleve* lignes = Globals.EleveCourant->GetAllFrais();
   if (lignes == nullptr) return;
   const int groupe = ligne->GroupeFraisId;
+  if (ligne->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is taken
   lignes->Add(std::move(ligne));
   Enregistrer(*lignes, fait);
   RelireGroupes(groupe);
@@ -182,10 +185,11 @@ void TFrmSignaletique::grdListeFraisDblClick() {
   if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
   const int groupe = paiement->GroupeFraisId;
   saisie.EcrireDans(*paiement);
-  RelireGroupes(std::max(groupe, paiement->GroupeFraisId));
+  const int nouveau = paiement->GroupeFraisId;
   TAllFraisEleve& lignes = *Globals.EleveCourant->GetAllFrais();
   lignes.Add(*paiement);
   Enregistrer(lignes, u"Paiement de " % FormatMontant(paiement->MontantVerse));
+  RelireGroupes(std::max(groupe, nouveau));
   RelireListes();
 }
 
@@ -208,7 +212,7 @@ void TFrmSignaletique::SpeedButton2Click() {
   lignes.Remove(*frais);
   if (Enregistrer(lignes, u"Suppression de " % quoi)) {
     if (copie->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is free again
-    annulation_ = {Globals.EleveCourant->Id, [this, copie, quoi] { AjouterLigne(Copie(*copie), quoi); }};
+    Offrir(quoi % u" : supprimé", [this, copie, quoi] { AjouterLigne(Copie(*copie), quoi); });
   }
   RelireGroupes(copie->GroupeFraisId);
   RelireListes();
@@ -218,7 +222,8 @@ void TFrmSignaletique::grdListeFraisCocheClick(int ligne) {
   const TLigneGrille& vue = Frais.Grille.Ligne(ligne);
   auto* mois = vue.Objet.En<TPaiement>();
   auto* frais = vue.Objet.En<TFraisEleve>();
-  const bool partiel = vue.Etat == EtatPartiel;
+  const bool partiel = vue.Etat == EtatPartiel ||
+                       (frais != nullptr && frais->EstPaye() && frais->MontantVerse < frais->MontantFrais());
   if (partiel && !contexte_.Dialogues().ConfirmerGrave(
                      u"« %1 » n'est payé qu'en partie. Voulez-vous ôter ce paiement ?"_s.arg(
                          Frais.Grille.Texte(ligne, TFraisPaiements::Libelle))))

@@ -1,5 +1,6 @@
 #include <QFileInfo>
 #include <QImageReader>
+#include <algorithm>
 
 #include "core/exceptions.h"
 #include "core/formats.h"
@@ -56,17 +57,20 @@ void TFrmSignaletique::EnregistrerEleve(const TChamp& champ) {
   annulation_ = {};
   Globals.Eleves->AddEleve(eleve);
   Globals.Eleves->Save();
-  if (!Globals.Eleves->RangeesDisparues().empty())
+  const std::vector<TEleve*> disparus = Globals.Eleves->RangeesDisparues();  // others may be waiting there
+  if (std::ranges::find(disparus, &eleve) != disparus.end())
     throw Exception(u"Cet élève n'existe plus : un autre poste l'a supprimé."_s);
   QString quoi = champ.Libelle;
   while (quoi.endsWith(u':') || quoi.endsWith(u' ')) quoi.chop(1);
   contexte_.Principal.Etat(TNiveauEtat::Succes, QString(quoi % u" : enregistré pour " % nomComplet_));
 }
 
-bool TFrmSignaletique::Enregistrer(TDistributor& collection, const QString& fait) {
+bool TFrmSignaletique::Enregistrer(TDistributor& collection, const std::function<bool()>& disparue,
+                                   const QString& fait) {
   try {
     annulation_ = {};
     collection.Save();
+    if (disparue()) throw Exception(u"Cette ligne n'existe plus : un autre poste l'a supprimée."_s);
     contexte_.Principal.Etat(TNiveauEtat::Succes, QString(fait % u" : enregistré pour " % nomComplet_));
     return true;
   } catch (const Exception& e) {

@@ -212,6 +212,9 @@ void BarreCommandes::OuvrirMenuAnnees() {
     if (choix->isChecked()) menu->setActiveAction(choix);
     connect(choix, &QAction::triggered, this, [this, annee] { form_.mnuAnneeClick(annee); });
   }
+  menu->addSeparator();
+  menu->addAction(u"Relire les données\tF5"_s, this, [this] { form_.RechargerAnnee(); })
+      ->setEnabled(form_.EstRelie());
   const QSize taille = menu->sizeHint();
   menu->popup(annees_->mapToGlobal(QPoint(annees_->width() - taille.width(), annees_->height())));
 }

@@ -284,6 +284,7 @@ void FenetrePrincipale::CreerTouches() {
   Touche(Qt::Key_F1, [this] { MontrerGuide(); });
   Touche(Qt::SHIFT | Qt::Key_F1, [this] { MontrerTouches(); });
   Touche(Qt::Key_F3, [this] { eleves_->AllerALaRecherche(); });
+  Touche(Qt::Key_F5, [this] { form_.RechargerAnnee(); });
   Touche(Qt::Key_F6, [this] { ZoneSuivante(1); });
   Touche(Qt::SHIFT | Qt::Key_F6, [this] { ZoneSuivante(-1); });
   Touche(Qt::CTRL | Qt::Key_0, [this] { barre_->OuvrirMenuAnnees(); });

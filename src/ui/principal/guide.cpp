@@ -34,6 +34,7 @@ const std::vector<TToucheAide>& TouchesAide() {
       {u"Maj+F1"_s, u"Cette liste"_s},
       {u"F2"_s, u"Modifier"_s},
       {u"F3"_s, u"Rechercher un élève"_s},
+      {u"F5"_s, u"Relire les données (autres postes)"_s},
       {u"F6, Maj+F6"_s, u"Zone suivante, précédente"_s},
       {u"F7"_s, u"Nouveau"_s},
       {u"F8, Ctrl+P"_s, u"Imprimer"_s},

@@ -2,11 +2,9 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include "screens/pupils/frm_signaletique.h"
-#include "ui/commun/bouton.h"
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/grille_mois.h"
 #include "ui/commun/liaison_champs.h"
@@ -182,13 +180,7 @@ void FicheIdentite::AjouterMois() {
           [this](int groupe, int mois, bool coche) { form_.cbMoisClick(groupe, mois, coche); });
   connect(mois_, &GrilleMois::TousBascules, this,
           [this](int groupe, bool coche) { form_.cbMaitreClick(groupe, coche); });
-  auto* titre = new TitreSection(u"Mois par mois"_s);
-  QPushButton* imprimer = BoutonDiscret(u"Imprimer"_s, u"document-print"_s);
-  imprimer->setEnabled(false);
-  imprimer->setAccessibleName(u"Imprimer le relevé mois par mois"_s);
-  imprimer->setToolTip(u"Pas encore disponible dans cette version"_s);
-  titre->AjouterAction(imprimer);
-  AjouterSection(titre)->addWidget(mois_);
+  AjouterSection(CreerTitre(u"Mois par mois"_s))->addWidget(mois_);
 }
 
 void FicheIdentite::AjouterActivites() {

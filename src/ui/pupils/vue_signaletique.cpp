@@ -69,7 +69,7 @@ QWidget* VueSignaletique::CreerReleve() {
   Bouton(*titre, {}, u"list-add"_s, u"Ajouter un relevé"_s, [this] { form_.btnAjoutFaitClick(); });
   Bouton(*titre, {}, u"view-calendar-day"_s, u"Relevés sur calendrier"_s,
          [this] { form_.btnCalendrierClick(); });
-  Bouton(*titre, {}, u"document-export"_s, u"Exporter les informations"_s,
+  Bouton(*titre, {}, u"document-print"_s, u"Exporter les informations (accueil extrascolaire du mois)"_s,
          [this] { form_.SpeedButton3Click(); });
   QPushButton* supprimer = BoutonSupprimer(u"Supprimer le relevé"_s, {});
   connect(supprimer, &QPushButton::clicked, this, [this] { form_.btnDeleteFaitClick(); });
