@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <deque>
@@ -62,12 +63,33 @@ class Photographe : public QObject {
   }
 
   void Tout(const QString& suffixe) {
+    using enum TGestionnaire;
     suffixe_ = suffixe;
     Signaletique();
-    Tarifs();
+    Liste(AdvGlowButton5Click, 3, u"edCout"_s, u"services-tarifs"_s);
+    Liste(AdvGlowButton16Click, 2, u"edMontant"_s, u"frais"_s);
+    Liste(btnActivitesClick, 1, u"edDateFin"_s, u"activites"_s);
+    Pages(AdvGlowButton6Click, u"parametres"_s);
+    Pages(AdvGlowButton3Click, u"mon-ecole"_s);
+    programme_.Main.Executer(AdvGlowButton2Click);
     Assistant();
     Importation();
     Presences();
+  }
+
+  /// A database that is not there yet is made, and the window shows what comes first.
+  void Commencer() {
+    Suivre({[](QWidget& fenetre) {
+      Bouton(fenetre, u"Oui"_s)->click();
+      return true;
+    }});
+    programme_.Fenetre.Demarrer();
+    Attendre(3000);
+  }
+  void PremiereUtilisation(const QString& suffixe) {
+    suffixe_ = suffixe;
+    Attendre(50);
+    Prendre(programme_.Fenetre, u"premiere-utilisation"_s);
   }
 
  private:
@@ -109,17 +131,30 @@ class Photographe : public QObject {
     Prendre(programme_.Fenetre, u"signaletique"_s);
   }
 
-  void Tarifs() {
-    programme_.Main.Executer(TGestionnaire::AdvGlowButton5Click);
+  /// A list screen while a row is changed.
+  void Liste(TGestionnaire ecran, int ligne, const QString& champ, const QString& nom) {
+    programme_.Main.Executer(ecran);
     auto* form = dynamic_cast<TFrmListe*>(programme_.Main.Panneau.Courante());
-    if (form == nullptr) throw Exception(u"Les tarifs ne s'ouvrent pas."_s);
-    form->Grille.ChoisirLigne(3);
+    if (form == nullptr) throw Exception(u"« " % nom % u" » ne s'ouvre pas.");
+    form->Grille.ChoisirLigne(ligne);
     form->Modifier();
-    form->Champs().SurFoyer(form->Champs().Indice(u"edCout"_s));
+    form->Champs().SurFoyer(form->Champs().Indice(champ));
     Attendre(50);
-    Prendre(programme_.Fenetre, u"services-tarifs"_s);
+    Prendre(programme_.Fenetre, nom);
     form->Annuler();
-    programme_.Main.Executer(TGestionnaire::AdvGlowButton2Click);
+  }
+
+  /// A screen of several pages.
+  void Pages(TGestionnaire ecran, const QString& nom) {
+    programme_.Main.Executer(ecran);
+    QWidget* vue = programme_.Fenetre.VueCourante();
+    auto* pages = vue != nullptr ? vue->findChild<QTabWidget*>() : nullptr;
+    if (pages == nullptr) throw Exception(u"« " % nom % u" » ne s'ouvre pas.");
+    for (int i = 0; i < pages->count(); ++i) {
+      pages->setCurrentIndex(i);
+      Attendre(50);
+      Prendre(programme_.Fenetre, nom % u'-' % QString::number(i + 1));
+    }
   }
 
   void Assistant() {
@@ -217,16 +252,9 @@ void PreparerPoste(const QTemporaryDir& poste, const QString& base) {
   reglages.Ecrire(TRacine::Utilisateur, u"Serveur"_s, copie);
 }
 
-void Executer(Application& application, const QString& base, const TSujet& sujet) {
-  const QTemporaryDir poste;
-  PreparerPoste(poste, base);
-  if (!QDir().mkpath(sujet.Dossier)) throw Exception(u"« " % sujet.Dossier % u" » ne peut pas être créé.");
-  const THorlogeFixe horloge;
-  Programme programme(horloge);
-  application.Dialogues = &programme.Dialogues;
-  programme.Fenetre.Demarrer();
-  Attendre(50);
-  Photographe photographe(programme, sujet);
+/// In both palettes, at the smallest size and at a usual one.
+void ChaqueVue(Application& application, FenetrePrincipale& fenetre,
+               const std::function<void(const QString&)>& prendre) {
   const struct {
     Theme::TMode Mode;
     QSize Taille;
@@ -239,11 +267,36 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
   };
   for (const auto& [mode, taille, suffixe] : vues) {
     Theme::Appliquer(application, mode);
-    programme.Fenetre.resize(taille);
-    photographe.Tout(suffixe);
+    fenetre.resize(taille);
+    prendre(suffixe);
   }
+}
+
+void Commencer(Application& application, const QTemporaryDir& poste, const TSujet& sujet) {
+  TReglagesPoste().Ecrire(TRacine::Utilisateur, u"Serveur"_s, poste.filePath(u"nouvelle.fdb"_s));
+  const THorlogeFixe horloge;
+  Programme programme(horloge);
+  Photographe photographe(programme, sujet);
+  photographe.Commencer();
+  ChaqueVue(application, programme.Fenetre,
+            [&](const QString& suffixe) { photographe.PremiereUtilisation(suffixe); });
+  programme.Fenetre.close();
+}
+
+void Executer(Application& application, const QString& base, const TSujet& sujet) {
+  const QTemporaryDir poste;
+  PreparerPoste(poste, base);
+  if (!QDir().mkpath(sujet.Dossier)) throw Exception(u"« " % sujet.Dossier % u" » ne peut pas être créé.");
+  const THorlogeFixe horloge;
+  Programme programme(horloge);
+  application.Dialogues = &programme.Dialogues;
+  programme.Fenetre.Demarrer();
+  Attendre(50);
+  Photographe photographe(programme, sujet);
+  ChaqueVue(application, programme.Fenetre, [&](const QString& suffixe) { photographe.Tout(suffixe); });
   programme.Fenetre.close();
   application.Dialogues = nullptr;
+  Commencer(application, poste, sujet);
 }
 
 }  // namespace

@@ -116,6 +116,7 @@ void TControleur::ChargerAnnee(int annee) {
   const TAttente attente(Dialogues());
   auto donnees = ChargerDonneesAnnee(base_, annee, *Globals.Parametres, *Globals.TarifsGarderies);
   auto groupes = std::make_unique<TGroupesFrais>(base_);
+  Globals.Parametres->RelireRegles();
   Globals.Montrer(std::move(donnees));
   Globals.GroupesFrais = std::move(groupes);
   fenetre_.IntitulerAnnee(u"Année scolaire %1 - %2"_s.arg(annee).arg(annee + 1));

@@ -28,15 +28,16 @@ auto Convertir(const TParametres& parametres, TParam param, Conversion conversio
 TParametres::TParametres(TDataModule1& base) : TCollection(base) {
   Charger();
   charge_ = true;
-  RelireRegles();
+  try {
+    RelireRegles();
+  } catch (const EConvertError&) {  // the year load says so
+  }
 }
 
-void TParametres::RelireRegles() {
-  if (!charge_) return;
-  try {
-    regles_ = LireReglesEcole(*this);
-  } catch (const EConvertError&) {
-  }
+void TParametres::RelireRegles() { regles_ = LireReglesEcole(*this); }
+
+void TParametres::SuivreRegles() {
+  if (charge_) SuivreReglesEcole(*this, regles_);
 }
 
 void TParametres::DefineQuery() {

@@ -26,18 +26,19 @@ class TParametres : public TCollection<TParametre> {
   /// Null when there is no row.
   TParametre* FindParametre(TParam param) const { return ParCle(static_cast<int>(param)); }
 
-  /// What the settings say of amounts and documents. Always the same object: whoever was given it sees at
-  /// the next amount what has been written since. A text that does not convert leaves the rules as they
-  /// were; `LireReglesEcole` says so.
+  /// What the settings say of amounts and documents. Always the same object: whoever was given it sees what
+  /// has been written since, if it converts; what waits for the year load, from the next `RelireRegles` on.
   const TReglesEcole& Regles() const { return regles_; }
+  /// At each year load. Raises EConvertError as `LireReglesEcole`; the rules are then as they were.
+  void RelireRegles();
 
  protected:
   void DefineQuery() override;
-  void Indexer(TParametre&) override { RelireRegles(); }
-  void Desindexer(TParametre&) override { RelireRegles(); }
+  void Indexer(TParametre&) override { SuivreRegles(); }
+  void Desindexer(TParametre&) override { SuivreRegles(); }
 
  private:
-  void RelireRegles();
+  void SuivreRegles();
 
   TReglesEcole regles_;
   bool charge_ = false;

@@ -1,5 +1,6 @@
 #include "core/regles_ecole.h"
 
+#include "core/exceptions.h"
 #include "core/parametres.h"
 
 using namespace Qt::StringLiterals;
@@ -9,25 +10,27 @@ namespace {
 constexpr struct {
   TParam Param;
   bool TReglesEcole::*Champ;
+  bool Aussitot;  ///< holds as soon as it is written
 } kDrapeaux[] = {
-    {TParam::GarderieUnique, &TReglesEcole::GarderieUnique},
-    {TParam::DeductionEtude, &TReglesEcole::DeductionEtude},
-    {TParam::ModeProvision, &TReglesEcole::ModeProvision},
-    {TParam::SansServices, &TReglesEcole::SansServices},
-    {TParam::DatePaiement, &TReglesEcole::DatePaiement},
-    {TParam::BalanceAnnuelle, &TReglesEcole::BalanceAnnuelle},
-    {TParam::TitreSoirEtudes, &TReglesEcole::SoirEtEtudes},
-    {TParam::CompteCourant, &TReglesEcole::CompteCourant},
-    {TParam::CommunicationRepas, &TReglesEcole::CommunicationRepas},
-    {TParam::FactureDebiteurs, &TReglesEcole::FactureDebiteurs},
-    {TParam::SignatureASBL, &TReglesEcole::SignatureASBL},
-    {TParam::SansActivitesMois, &TReglesEcole::SansActivitesMois},
-    {TParam::AnneeDeSelection, &TReglesEcole::AnneeDeSelection},
-    {TParam::PlusieursImplantations, &TReglesEcole::PlusieursImplantations},
-    {TParam::QrReference, &TReglesEcole::QrReference},
+    {TParam::GarderieUnique, &TReglesEcole::GarderieUnique, true},
+    {TParam::DeductionEtude, &TReglesEcole::DeductionEtude, false},
+    {TParam::ModeProvision, &TReglesEcole::ModeProvision, false},
+    {TParam::SansServices, &TReglesEcole::SansServices, true},
+    {TParam::DatePaiement, &TReglesEcole::DatePaiement, true},
+    {TParam::BalanceAnnuelle, &TReglesEcole::BalanceAnnuelle, true},
+    {TParam::TitreSoirEtudes, &TReglesEcole::SoirEtEtudes, true},
+    {TParam::CompteCourant, &TReglesEcole::CompteCourant, true},
+    {TParam::CommunicationRepas, &TReglesEcole::CommunicationRepas, true},
+    {TParam::FactureDebiteurs, &TReglesEcole::FactureDebiteurs, true},
+    {TParam::SignatureASBL, &TReglesEcole::SignatureASBL, true},
+    {TParam::SansActivitesMois, &TReglesEcole::SansActivitesMois, true},
+    {TParam::AnneeDeSelection, &TReglesEcole::AnneeDeSelection, true},
+    {TParam::PlusieursImplantations, &TReglesEcole::PlusieursImplantations, true},
+    {TParam::QrReference, &TReglesEcole::QrReference, true},
 };
 
 constexpr TParam kPrixRepas[] = {TParam::RepasMaternel, TParam::RepasPrimaire, TParam::RepasPersonnel};
+constexpr std::size_t kPrixSuivis = 2;  // of those that have a field on the screen of the settings
 
 }  // namespace
 
@@ -43,10 +46,21 @@ QString TReglesEcole::TitreGarderieSoir() const {
 
 TReglesEcole LireReglesEcole(const TParametres& parametres) {
   TReglesEcole regles;
-  for (const auto& [param, champ] : kDrapeaux) regles.*champ = parametres.EstVrai(param);
+  for (const auto& [param, champ, aussitot] : kDrapeaux) regles.*champ = parametres.EstVrai(param);
   for (std::size_t i = 0; i < std::size(kPrixRepas); ++i)
     regles.PrixRepas[i + 1] = parametres.Montant(kPrixRepas[i]);
   regles.ModeDeduction = static_cast<TModeDeduction>(parametres.Entier(TParam::ModeDeduction));
   regles.ActivitesExt = LireTypeActivitesExt(parametres.GetParametre(TParam::ActivitesExt));
   return regles;
+}
+
+void SuivreReglesEcole(const TParametres& parametres, TReglesEcole& regles) {
+  for (const auto& [param, champ, aussitot] : kDrapeaux)
+    if (aussitot) regles.*champ = parametres.EstVrai(param);
+  for (std::size_t i = 0; i < kPrixSuivis; ++i) {
+    try {
+      regles.PrixRepas[i + 1] = parametres.Montant(kPrixRepas[i]);
+    } catch (const EConvertError&) {  // what is refused changes no amount
+    }
+  }
 }

@@ -49,3 +49,6 @@ struct TReglesEcole {
 
 /// Raises EConvertError, which names the setting that is not the number it must be.
 TReglesEcole LireReglesEcole(const TParametres& parametres);
+/// What holds as soon as it is written: the day flat rate, each price of a meal that converts, and the rules
+/// of documents. The others wait for the next year load.
+void SuivreReglesEcole(const TParametres& parametres, TReglesEcole& regles);

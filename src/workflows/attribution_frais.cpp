@@ -2,7 +2,6 @@
 
 #include "core/exceptions.h"
 #include "core/query_internal.h"
-#include "services/frais_eleve.h"
 
 using namespace Qt::StringLiterals;
 
@@ -157,7 +156,10 @@ void TAttributionFrais::Donner(const TLigneRetiree& retiree, int frais) {
   neuve->MontantVerse = retiree.MontantVerse;
   neuve->Remarque = retiree.Remarque;
   neuve->DateVersement = retiree.DateVersement;
+  neuve->Mois = retiree.Mois;
   neuve->ExtraitId = retiree.ExtraitId;
+  neuve->TypeFamilleFrais = retiree.TypeFamilleFrais;
+  neuve->GroupeFraisId = retiree.GroupeFraisId;
   TFraisEleve& ligne = lignes.Add(std::move(neuve));
   Sauver(lignes);
   if (ligne.Id != -1) return;
@@ -171,8 +173,9 @@ std::optional<TAttributionFrais::TLigneRetiree> TAttributionFrais::Retirer(int e
   const TEleve* eleve = Globals.Eleves->TrouverParId(eleveId);
   TAllFraisEleve* lignes = eleve != nullptr ? eleve->GetAllFrais() : nullptr;
   if (TFraisEleve* ligne = lignes != nullptr ? lignes->LigneFrais(frais) : nullptr) {
-    const TLigneRetiree retiree{eleveId, ligne->MontantVerse, ligne->Remarque, ligne->DateVersement,
-                                ligne->ExtraitId};
+    const TLigneRetiree retiree{
+        eleveId,     ligne->MontantVerse, ligne->Remarque,         ligne->DateVersement,
+        ligne->Mois, ligne->ExtraitId,    ligne->TypeFamilleFrais, ligne->GroupeFraisId};
     lignes->Remove(*ligne);
     Sauver(*lignes);
     return retiree;

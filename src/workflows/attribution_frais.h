@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "application/controleur.h"
+#include "services/frais_eleve.h"
 
 /// Who owes a fee of the year on display: as the hand ticks it, and as it is stored. A tick or a mark stays
 /// in memory until `Enregistrer`.
@@ -38,7 +39,10 @@ class TAttributionFrais {
     Currency MontantVerse = {};
     QString Remarque = {};
     TDateTime DateVersement = 0.0;
+    int Mois = 0;
     int ExtraitId = 0;
+    TTypeFamilleFrais TypeFamilleFrais = {};
+    int GroupeFraisId = 0;
   };
   using TLignesRetirees = std::vector<TLigneRetiree>;
   /// Takes the fee from all who owe it. Raises Exception as `Enregistrer`.

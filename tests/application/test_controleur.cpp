@@ -149,6 +149,11 @@ TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
   EXPECT_EQ(regles.PrixRepas[1].EnBrut(), 25000) << "what is written shows in the next amount";
   Globals.Parametres->SetParametre(TParam::RepasPrimaire, u"2.50"_s);
   EXPECT_EQ(regles.PrixRepas[1].EnBrut(), 25000) << "what does not convert changes nothing";
+  Globals.Parametres->SetParametre(TParam::ModeProvision, u"0"_s);
+  Globals.Parametres->SetParametre(TParam::RepasPrimaire, {});
+  EXPECT_TRUE(regles.ModeProvision) << "until a year is loaded";
+  essai.Controleur.ChargerAnnee(2016);
+  EXPECT_FALSE(Globals.Eleves->Regles->ModeProvision);
   Globals.Parametres->Remettre();
   EXPECT_EQ(regles.PrixRepas[1].EnBrut(), 22000);
   Globals.EleveCourant = &(*Globals.Eleves)[0];

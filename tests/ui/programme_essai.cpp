@@ -11,6 +11,7 @@
 #include <QToolButton>
 
 #include "ui/commun/dialogue_base.h"
+#include "ui/principal/application.h"
 #include "ui/principal/barre_commandes.h"
 
 using namespace Qt::StringLiterals;
@@ -63,6 +64,7 @@ TRepondeur& TRepondeur::Saisit(const QString& extrait, const QString& texte) {
     auto* champ = fenetre.findChild<QLineEdit*>();
     ASSERT_NE(champ, nullptr);
     champ->selectAll();
+    QTest::keyClick(champ, Qt::Key_Delete);
     QTest::keyClicks(champ, texte);
     QTest::mouseClick(dynamic_cast<DialogueBase&>(fenetre).Principal(), Qt::LeftButton);
   });
@@ -98,6 +100,7 @@ TProgrammeEssai::~TProgrammeEssai() {
 
 void TProgrammeEssai::Demarrer() {
   programme_ = std::make_unique<Programme>(Horloge);
+  qobject_cast<Application*>(qApp)->Dialogues = &programme_->Dialogues;
   Fenetre().Demarrer();
   QCoreApplication::processEvents();
   if (!Fenetre().isVisible()) return;
@@ -110,6 +113,7 @@ void TProgrammeEssai::Fermer() {
   if (programme_ == nullptr) return;
   Fenetre().close();
   QCoreApplication::processEvents();
+  qobject_cast<Application*>(qApp)->Dialogues = nullptr;
   programme_.reset();
 }
 

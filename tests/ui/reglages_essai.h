@@ -8,7 +8,6 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "ui/principal/application.h"
 #include "ui/principal/barre_etat.h"
 #include "ui/programme_essai.h"
 
@@ -16,13 +15,8 @@
 /// of their controls.
 class TReglagesEssai : public testing::Test {
  protected:
-  void TearDown() override { qobject_cast<Application*>(qApp)->Dialogues = nullptr; }
-  void Demarrer() {
-    Programme.Demarrer();
-    qobject_cast<Application*>(qApp)->Dialogues = &Programme.Tout().Dialogues;
-  }
   void Demarrer(TGestionnaire ecran) {
-    Demarrer();
+    Programme.Demarrer();
     Programme.Ouvrir(ecran);
   }
   /// The control, on the page of its tab.

@@ -18,7 +18,6 @@
 #include "ui/commun/saisie.h"
 #include "ui/commun/vue_dialogue.h"
 #include "ui/commun/vue_grille.h"
-#include "ui/principal/application.h"
 #include "ui/principal/barre_etat.h"
 #include "ui/programme_essai.h"
 #include "ui/pupils/vue_import.h"
@@ -58,10 +57,8 @@ std::vector<TMauvaisFichier> MauvaisFichiers(TBaseEssai& base) {
 class Importations : public testing::Test {
  protected:
   void SetUp() override { Ecole(Base); }
-  void TearDown() override { qobject_cast<Application*>(qApp)->Dialogues = nullptr; }
   void Demarrer(TGestionnaire ecran) {
     Programme.Demarrer();
-    qobject_cast<Application*>(qApp)->Dialogues = &Programme.Tout().Dialogues;
     Programme.Ouvrir(ecran);
   }
   /// In the file dialog with this title the path is typed.

@@ -12,7 +12,6 @@
 #include "screens/principal/frm_ajout_professeur.h"
 #include "ui/commun/feuille_progression.h"
 #include "ui/commun/vue_dialogue.h"
-#include "ui/principal/application.h"
 #include "ui/principal/barre_commandes.h"
 #include "ui/principal/barre_etat.h"
 #include "ui/principal/dialogue_reessai.h"
@@ -286,6 +285,9 @@ TEST_F(Principal, FirstUseLeadsToTheImport) {
   EcrireLEcole();
   Programme.Main().mnuAnneeClick(2016);
   EXPECT_TRUE(Fenetre().Accueil()->isVisible()) << "neither tariffs nor fees yet";
+  Cliquer(Fenetre(), u"Pas de frais cette année"_s);
+  EXPECT_TRUE(TextesDe(Fenetre()).contains(u"se passe sans frais"));
+  EXPECT_EQ(BoutonDe(Fenetre(), u"Pas de frais cette année"_s), nullptr);
   EXPECT_TRUE(Recherche()->isEnabled());
 }
 
@@ -357,13 +359,10 @@ TEST_F(Principal, LongWorkKeepsTheWindowShutAndAlive) {
 
 TEST_F(Principal, WhatNobodyCatchesIsShownAndTheProgramGoesOn) {
   DemarrerLEcole();
-  auto& application = *static_cast<Application*>(qApp);
-  application.Dialogues = &Programme.Tout().Dialogues;
   QTimer::singleShot(0, &Fenetre(), [] { throw std::out_of_range("place 12"); });
   Programme.Dialogues.Attend(u"Erreur inattendue : place 12"_s);
   while (Programme.Dialogues.Vus.isEmpty()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   QCoreApplication::processEvents();
-  application.Dialogues = nullptr;
   QTest::keyClicks(Recherche(), u"dub"_s);
   EXPECT_EQ(Choisi(), u"Dubois X");
 }

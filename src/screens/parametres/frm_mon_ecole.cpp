@@ -82,6 +82,15 @@ QString AvisHoraire(const TChamp& champ, const QString& texte) {
                                                        heure ? u"une heure"_s : u"un nombre de minutes"_s);
 }
 
+/// Another site of that name, by which the tree knows sites; null for none.
+const TImplantation* HomonymeDe(const TImplantation& site) {
+  for (const TImplantation& autre : *Globals.Eleves->Implantations)
+    if (&autre != &site && !site.LibelleCourt.isEmpty() &&
+        autre.LibelleCourt.compare(site.LibelleCourt, Qt::CaseInsensitive) == 0)
+      return &autre;
+  return nullptr;
+}
+
 TTableChamps<TImplantation> ChampsImplantation() {
   return {{{.Nom = u"edLibelleCourt"_s,
             .Libelle = u"Nom de l'implantation:"_s,
@@ -141,7 +150,13 @@ void TFrmMonEcole::grdImplantationCellEdited() {
   if (site.Status != TStatus::Inchange)
     throw Exception(u"Cette implantation n'existe plus : un autre poste l'a supprimée."_s);
   grdImplantation.Ecrire(choisie_, 1, site.LibelleCourt);
-  contexte_.Principal.Etat(TNiveauEtat::Succes, u"Enregistré : implantation "_s % site.Code);
+  const TImplantation* autre = HomonymeDe(site);
+  if (autre == nullptr)
+    contexte_.Principal.Etat(TNiveauEtat::Succes, u"Enregistré : implantation "_s % site.Code);
+  else
+    contexte_.Principal.Etat(TNiveauEtat::Alerte,
+                             u"Enregistré, mais l'implantation %1 porte le même nom : la liste des élèves "
+                             u"les réunira au prochain chargement"_s.arg(autre->Code));
 }
 
 // Leaving

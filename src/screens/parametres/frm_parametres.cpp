@@ -122,7 +122,9 @@ void TFrmParametres::ServeurFtpChange() {
 int TFrmParametres::Inserer(const QString& nom, int debut, int fin, const QString& texte) {
   TChampsParametres& champs = PageDe(nom);
   const int champ = champs.Indice(nom);
-  const QString nouveau = QString(champs.Texte(champ)).replace(debut, fin - debut, texte);
+  QString nouveau = champs.Texte(champ);
+  nouveau.replace(u"\r\n"_s, u"\n"_s);  // the places are those of the field, which knows one end of line
+  nouveau.replace(debut, fin - debut, texte);
   if (nouveau.size() > kParametreMaximum) {
     contexte_.Dialogues().Message(
         u"Ce texte n'a pas de place : la communication compterait %1 caractères, et %2 au plus sont conservés."_s
@@ -137,7 +139,7 @@ int TFrmParametres::Inserer(const QString& nom, int debut, int fin, const QStrin
 void TFrmParametres::AdvGlowButton2Click() {
   const QString nom = u"memFraisEffectifs"_s;
   TChampsParametres& champs = PageDe(nom);
-  const QString texte = champs.Texte(champs.Indice(nom));
+  const QString texte = QString(champs.Texte(champs.Indice(nom))).replace(u"\r\n"_s, u"\n"_s);
   const QString separation = texte.isEmpty() || texte.endsWith(u'\n') ? QString() : u"\n"_s;
   const auto fin = static_cast<int>(texte.size());
   if (Inserer(nom, fin, fin, separation % kTexteLegal) >= 0) champs.Quitter(champs.Indice(nom));
@@ -155,14 +157,14 @@ QString TFrmParametres::EnSuspens() const {
   return enSuspens ? u"paramètre non enregistré"_s : QString();
 }
 
+// What lets the screen go, such as the load of another year, reads the settings.
 bool TFrmParametres::FormCloseQuery() {
-  return EnSuspens().isEmpty() ||
-         contexte_.Dialogues().ConfirmerGrave(
-             u"Un paramètre n'est pas enregistré. Voulez-vous abandonner ce que vous avez introduit ?"_s);
-}
-
-void TFrmParametres::FormClose() {
-  if (Globals.Parametres) RendrePrix({});
+  if (!EnSuspens().isEmpty() &&
+      !contexte_.Dialogues().ConfirmerGrave(
+          u"Un paramètre n'est pas enregistré. Voulez-vous abandonner ce que vous avez introduit ?"_s))
+    return false;
+  RendrePrix({});
+  return true;
 }
 
 // Payment groups

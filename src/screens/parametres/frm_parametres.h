@@ -46,7 +46,6 @@ class TFrmParametres : public TForm {
 
  protected:
   void FormShow() override;
-  void FormClose() override;
   bool FormCloseQuery() override;
 
  private:

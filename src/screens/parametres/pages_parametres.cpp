@@ -144,6 +144,8 @@ std::vector<TPageDecrite> PagesDecrites() {
 }
 
 QString AvisParametre(const TChamp& champ, const QString& texte) {
+  if (champ.Nom == u"cbFactureModeProvision")
+    return u"enregistré ; vaut dès que l'année est chargée à nouveau (menu des années, Ctrl+0)"_s;
   if (champ.Nom == u"edVirementIBAN" && texte.contains(u' '))
     return u"enregistré, mais le bulletin de virement le demande sans espaces"_s;
   const bool provision = champ.Nom == u"edProvisionGarderie" || champ.Nom == u"edProvisionFrais";

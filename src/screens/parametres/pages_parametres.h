@@ -11,5 +11,5 @@ struct TPageDecrite {
 
 /// The fields of the settings, page by page.
 std::vector<TPageDecrite> PagesDecrites();
-/// What the text of a setting will not do though it was stored; "" for nothing.
+/// What the text of a setting will not do, or not yet, though it was stored; "" for nothing.
 QString AvisParametre(const TChamp& champ, const QString& texte);

@@ -19,6 +19,7 @@ struct TEtapeAccueil {
   bool Possible;           ///< its screen can be opened
   QString RaisonInactive;  ///< why not, or ""
   bool Prochaine;          ///< the first one that is left and possible
+  QString Ecarter = {};    ///< caption of what does without the step in this year; "" for nothing
 };
 
 /// The main window: pages and commands, the pupil tree and its search, the menu of years, and the
@@ -97,6 +98,8 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   bool ResteAFaire() const;
   std::vector<TEtapeAccueil> Etapes() const;
   void EtapeClick(const TEtapeAccueil& etape);
+  /// The working year does without fees: this workstation asks for them no more.
+  void SansFraisClick();
 
   // State.
   /// A year is on display.
@@ -169,6 +172,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   TEtapeAccueil EtapeDe(TGestionnaire gestionnaire, const QString& explication, const QString& bouton,
                         bool faite) const;
   void ChoisirPremiereAnnee();
+  TEtapeAccueil EtapeFrais() const;
   bool EstBureau() const;
   void OuvrirNoeud(TNoeud& noeud);
   void LaisserEleve();

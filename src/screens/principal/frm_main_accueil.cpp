@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPremiereAnnee = 2000;
+const QString kAnneeSansFrais = u"AnneeSansFrais"_s;
 
 /// "2026" or "2026 - 2027"; 0 for a text that is no school year, or one too far away to be meant.
 int AnneeDuTexte(const QString& texte, int proposee) {
@@ -71,13 +72,32 @@ std::vector<TEtapeAccueil> TFrmMain::Etapes() const {
               u"Importer les élèves"_s, Globals.Eleves->Count() > 0),
       EtapeDe(AdvGlowButton5Click, u"Horaires et tarifs des garderies, de l'étude et des repas."_s,
               u"Encoder les tarifs"_s, Globals.TarifsGarderies->Count() > 0),
-      EtapeDe(AdvGlowButton16Click, u"Frais scolaires de l'année : photocopies, natation, excursions."_s,
-              u"Encoder les frais"_s, Globals.ListeFrais->Count() > 0),
+      EtapeFrais(),
   };
   const auto prochaine =
       std::ranges::find_if(etapes, [](const TEtapeAccueil& e) { return !e.Faite && e.Possible; });
   if (prochaine != etapes.end()) prochaine->Prochaine = true;
   return etapes;
+}
+
+// Not every school has fees every year.
+TEtapeAccueil TFrmMain::EtapeFrais() const {
+  const bool encodes = Globals.ListeFrais->Count() > 0;
+  const bool sans =
+      !encodes && reglages_.Lire(TRacine::Utilisateur, kAnneeSansFrais).toInt() == Globals.AnneeScolaire;
+  TEtapeAccueil etape =
+      EtapeDe(TGestionnaire::AdvGlowButton16Click,
+              sans ? u"Cette année se passe sans frais scolaires. Vous pouvez en encoder à tout moment."_s
+                   : u"Frais scolaires de l'année : photocopies, natation, excursions."_s,
+              u"Encoder les frais"_s, encodes || sans);
+  if (!etape.Faite) etape.Ecarter = u"Pas de frais cette année"_s;
+  return etape;
+}
+
+void TFrmMain::SansFraisClick() {
+  reglages_.Ecrire(TRacine::Utilisateur, kAnneeSansFrais, QString::number(Globals.AnneeScolaire));
+  Etat(TNiveauEtat::Succes, u"Année " % AnneeEnTexte(Globals.AnneeScolaire) % u" sans frais scolaires");
+  Annoncer();
 }
 
 void TFrmMain::EtapeClick(const TEtapeAccueil& etape) {
@@ -86,6 +106,8 @@ void TFrmMain::EtapeClick(const TEtapeAccueil& etape) {
 
 void TFrmMain::ChoisirPremiereAnnee() {
   if (!EtapeAnnee().Possible) return;
+  QuitterChamp();
+  if (!EcranAccepte()) return;
   const int proposee = Controleur.AnneeProposee();
   const auto reponse = Contexte.Dialogues().Saisir(
       u"Année scolaire"_s, u"Quelle année scolaire voulez-vous commencer ?"_s, AnneeEnTexte(proposee));

@@ -95,7 +95,7 @@ void TFrmListeFrais::FormShow() {
   ConstruireArbre(arbre_, true, true);
   TFrmListeDe::FormShow();
   liens_ += Champs().SurChangement.Suivre([this](int champ) {
-    if (champ == concerne_) ConcerneChange();
+    if (champ == concerne_) SurCoches();
   });
 }
 
@@ -103,12 +103,12 @@ TCollection<T>& TFrmListeFrais::Collection() const { return *Globals.ListeFrais;
 
 // Who owes it
 
-TEtatCoche TFrmListeFrais::EtatDe(const TNoeud& noeud) const {
-  if (const TEleve* eleve = noeud.Objet.En<TEleve>())
+TEtatCoche TFrmListeFrais::EtatDe(const TNoeud* noeud) const {
+  if (const TEleve* eleve = noeud != nullptr ? noeud->Objet.En<TEleve>() : nullptr)
     return attribution_.EstCoche(*eleve) ? TEtatCoche::Tous : TEtatCoche::Aucun;
   bool aucun = true, tous = true;
-  for (const auto& enfant : noeud.Enfants()) {
-    const TEtatCoche etat = EtatDe(*enfant);
+  for (const auto& enfant : Sous(noeud)) {
+    const TEtatCoche etat = EtatDe(enfant.get());
     aucun = aucun && etat == TEtatCoche::Aucun;
     tous = tous && etat == TEtatCoche::Tous;
   }
@@ -120,24 +120,16 @@ bool TFrmListeFrais::EstPaye(const TNoeud& noeud) const {
   return eleve != nullptr && attribution_.EstPaye(*eleve);
 }
 
-void TFrmListeFrais::Cocher(const TNoeud& noeud, bool coche) {
+void TFrmListeFrais::Cocher(const TNoeud* noeud, bool coche) {
   if (Ecrit()) CocherSous(noeud, coche);
   SurCoches();
   Annoncer();
 }
 
-void TFrmListeFrais::CocherSous(const TNoeud& noeud, bool coche) {
-  if (const TEleve* eleve = noeud.Objet.En<TEleve>()) attribution_.Cocher(*eleve, coche);
-  for (const auto& enfant : noeud.Enfants()) CocherSous(*enfant, coche);
-}
-
-// The whole school, chosen by hand, ticks everyone there is to see.
-void TFrmListeFrais::ConcerneChange() {
-  const int choix = Champs().Entier(concerne_);
-  if (choix == std::exchange(choisi_, choix)) return;
-  if (Ecrit() && Concerne() == TTypeFrais::Ecole)
-    for (const auto& racine : arbre_.Racines()) CocherSous(*racine, true);
-  SurCoches();
+void TFrmListeFrais::CocherSous(const TNoeud* noeud, bool coche) {
+  if (const TEleve* eleve = noeud != nullptr ? noeud->Objet.En<TEleve>() : nullptr)
+    attribution_.Cocher(*eleve, coche);
+  for (const auto& enfant : Sous(noeud)) CocherSous(enfant.get(), coche);
 }
 
 QString TFrmListeFrais::TexteCoches() const {
@@ -159,7 +151,6 @@ void TFrmListeFrais::OuvrirCoches(TFrais* frais) {
   range_ = false;
   if (frais != nullptr) frais->InvalideElevesFrais();
   attribution_.Ouvrir(frais);
-  choisi_ = Champs().Entier(concerne_);
   SurCoches();
 }
 

@@ -14,12 +14,12 @@ class TFrmListeFrais : public TFrmListeDe<TFrais> {
   const TArbre& Arbre() const { return arbre_; }
   /// "Le frais concerne:": which of the trees is shown.
   TTypeFrais Concerne() { return static_cast<TTypeFrais>(Champs().Entier(concerne_)); }
-  /// Of the pupil, or of those below.
-  TEtatCoche EtatDe(const TNoeud& noeud) const;
+  /// Of the pupil, or of those below; null is the whole school.
+  TEtatCoche EtatDe(const TNoeud* noeud) const;
   /// The pupil is ticked and has paid, or will have.
   bool EstPaye(const TNoeud& noeud) const;
-  /// Ticks or unticks the pupil, or all those below; nothing while one only reads.
-  void Cocher(const TNoeud& noeud, bool coche);
+  /// Ticks or unticks the pupil, or all those below; nothing while one only reads. Null as above.
+  void Cocher(const TNoeud* noeud, bool coche);
   /// How many are ticked: "12 élèves".
   QString TexteCoches() const;
 
@@ -30,7 +30,7 @@ class TFrmListeFrais : public TFrmListeDe<TFrais> {
 
   bool EstModifie() override { return TFrmListe::EstModifie() || (Ecrit() && attribution_.EstModifiee()); }
 
-  /// The ticks have changed.
+  /// The ticks, or the tree that shows them, have changed.
   TSignal<> SurCoches;
 
  protected:
@@ -47,8 +47,10 @@ class TFrmListeFrais : public TFrmListeDe<TFrais> {
  private:
   bool Ecrit() const { return Mode() != TModeEdition::Lecture; }
   void OuvrirCoches(TFrais* frais);
-  void CocherSous(const TNoeud& noeud, bool coche);
-  void ConcerneChange();
+  const std::vector<std::unique_ptr<TNoeud>>& Sous(const TNoeud* noeud) const {
+    return noeud != nullptr ? noeud->Enfants() : arbre_.Racines();
+  }
+  void CocherSous(const TNoeud* noeud, bool coche);
 
   TArbre arbre_;
   TAttributionFrais attribution_;
@@ -58,6 +60,5 @@ class TFrmListeFrais : public TFrmListeDe<TFrais> {
   bool range_ = false;  ///< the new fee is stored, but not given to all yet
   int concerne_ = -1;
   int mois_ = -1;
-  int choisi_ = 0;  ///< what `concerne_` showed last
   TLiens liens_;
 };

@@ -231,7 +231,7 @@ void LiaisonChamps::ActualiserUn(int champ) {
     }
   } else if (auto* lignes = qobject_cast<QPlainTextEdit*>(widget)) {
     lignes->setReadOnly(inactif);
-    if (lignes->toPlainText() != texte) lignes->setPlainText(texte);
+    if (lignes->toPlainText() != QString(texte).replace(u"\r\n"_s, u"\n"_s)) lignes->setPlainText(texte);
   } else if (auto* choix = qobject_cast<QComboBox*>(widget)) {
     choix->setEnabled(!lecture);
     choix->setCurrentIndex(champs_.Actifs() ? valeur : -1);

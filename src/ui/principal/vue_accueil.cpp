@@ -28,7 +28,8 @@ class VueAccueil::Ligne : public QWidget {
       : premiere_(numero == 1),
         icone_(etape.Icone),
         etat_(new MarqueEtat),
-        bouton_(BoutonSimple(etape.Bouton)) {
+        bouton_(BoutonSimple(etape.Bouton)),
+        ecarter_(BoutonDiscret({})) {
     auto* titre =
         new Etiquette(QString::number(numero) % u".  " % etape.Titre, TRole::Texte, &Theme::TitreSection);
     explication_ = new Etiquette(etape.Explication, TRole::Secondaire);
@@ -41,12 +42,14 @@ class VueAccueil::Ligne : public QWidget {
     ligne->setContentsMargins(Theme::Px(kIcone + kEcart), Theme::Px(kEcart), 0, Theme::Px(kEcart));
     ligne->setSpacing(Theme::Px(kEcart));
     ligne->addLayout(textes, 1);
+    ligne->addWidget(ecarter_);
     ligne->addWidget(etat_);
     ligne->addWidget(bouton_);
     etat_->setFixedWidth(Theme::Px(108));
     bouton_->setMinimumWidth(Theme::Px(176));
     bouton_->setAccessibleName(etape.Titre % u" : " % etape.Bouton);
     connect(bouton_, &QPushButton::clicked, this, [&form, etape] { form.EtapeClick(etape); });
+    connect(ecarter_, &QPushButton::clicked, this, [&form] { form.SansFraisClick(); });
   }
 
   void Actualiser(const TEtapeAccueil& etape) {
@@ -57,6 +60,8 @@ class VueAccueil::Ligne : public QWidget {
     DefinirGenre(*bouton_, etape.Prochaine ? TGenreBouton::Principal : TGenreBouton::Simple);
     bouton_->setEnabled(etape.Possible);
     bouton_->setToolTip(etape.RaisonInactive);
+    ecarter_->setText(etape.Ecarter);
+    ecarter_->setVisible(!etape.Ecarter.isEmpty());
     prochaine_ = etape.Prochaine;
     update();
   }
@@ -80,6 +85,7 @@ class VueAccueil::Ligne : public QWidget {
   Etiquette* explication_ = nullptr;
   MarqueEtat* etat_;
   QPushButton* bouton_;
+  QPushButton* ecarter_;
   bool faite_ = false;
   bool prochaine_ = false;
 };

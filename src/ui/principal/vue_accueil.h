@@ -5,7 +5,7 @@ class Etiquette;
 class QVBoxLayout;
 class TFrmMain;
 
-/// What a school does first, while the year has no pupil: four lines, each with state and button.
+/// What a school does first, and again in a new year: a line a step, each with state and button.
 /// On another year than the working one it says so: the import goes to the working year.
 class VueAccueil : public QScrollArea {
   Q_OBJECT

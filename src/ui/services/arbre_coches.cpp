@@ -12,8 +12,9 @@ namespace {
 
 enum TColonne { kNom, kEtat };
 
-const TNoeud& NoeudDe(const QTreeWidgetItem& ligne) {
-  return *static_cast<const TNoeud*>(ligne.data(kNom, Qt::UserRole).value<void*>());
+/// Null for the whole school.
+const TNoeud* NoeudDe(const QTreeWidgetItem& ligne) {
+  return static_cast<const TNoeud*>(ligne.data(kNom, Qt::UserRole).value<void*>());
 }
 
 constexpr Qt::CheckState kCoches[] = {Qt::Unchecked, Qt::PartiallyChecked, Qt::Checked};  // of TEtatCoche
@@ -30,13 +31,18 @@ ArbreCoches::ArbreCoches(TFrmListeFrais& form, TProfondeur profondeur, const QSt
   header()->setStretchLastSection(false);
   header()->setSectionResizeMode(kNom, QHeaderView::Stretch);
   header()->setSectionResizeMode(kEtat, QHeaderView::ResizeToContents);
-  for (const auto& racine : form.Arbre().Racines()) Ajouter(nullptr, *racine);
+  QTreeWidgetItem* ecole = nullptr;
+  if (profondeur == Classes) {
+    ecole = new QTreeWidgetItem(this, {u"Toute l'école"_s});
+    ecole->setExpanded(true);
+  }
+  for (const auto& racine : form.Arbre().Racines()) Ajouter(ecole, *racine);
   if (topLevelItemCount() > 0) setCurrentItem(topLevelItem(0));
   connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* ligne, int colonne) {
     if (!enCours_ && colonne == kNom) form_.Cocher(NoeudDe(*ligne), ligne->checkState(kNom) == Qt::Checked);
   });
   liens_ += form.SurCoches.Suivre([this] { Actualiser(); });
-  liens_ += form.SurChangement.Suivre([this] { Actualiser(); });
+  liens_ += form.SurCommandes.Suivre([this] { Actualiser(); });  // reading or writing
   Actualiser();
 }
 
@@ -65,15 +71,16 @@ void ArbreCoches::Actualiser() {
 }
 
 void ArbreCoches::Montrer(QTreeWidgetItem& ligne) {
-  const TNoeud& noeud = NoeudDe(ligne);
-  const bool ecrit = form_.Mode() != TModeEdition::Lecture, paye = form_.EstPaye(noeud);
-  const bool radie = noeud.Marque == TMarqueNoeud::Barree;
+  const TNoeud* noeud = NoeudDe(ligne);
+  const bool ecrit = form_.Mode() != TModeEdition::Lecture;
+  const bool paye = noeud != nullptr && form_.EstPaye(*noeud);
+  const bool radie = noeud != nullptr && noeud->Marque == TMarqueNoeud::Barree;
   ligne.setFlags(ecrit ? ligne.flags() | Qt::ItemIsUserCheckable : ligne.flags() & ~Qt::ItemIsUserCheckable);
   ligne.setCheckState(kNom, kCoches[static_cast<std::size_t>(form_.EtatDe(noeud))]);
   ligne.setText(kEtat, paye ? u"payé"_s : radie ? u"radié"_s : QString());
   ligne.setIcon(kEtat, paye ? Theme::Icone(u"dialog-ok-apply"_s, TRole::Succes) : QIcon());
   ligne.setForeground(kEtat, Theme::Couleur(paye ? TRole::Succes : TRole::Secondaire));
-  QString nom = noeud.Texte;
+  QString nom = ligne.text(kNom);
   if (radie) nom += u", radié"_s;
   if (paye) nom += u", payé"_s;
   ligne.setData(kNom, Qt::AccessibleTextRole, nom);

@@ -56,6 +56,8 @@ TEST_F(Parametres, EachFieldWritesItsSetting) {
       EXPECT_EQ(Parametre(id), valeur) << nom;
     }
   }
+  Cocher("cbFactureModeProvision");
+  EXPECT_TRUE(Etat().contains("chargée à nouveau")) << Etat().toStdString();
   Choisir("cmbTypeCompteBancaire", 2);
   EXPECT_EQ(Parametre(58), "2");
   Choisir("cmbTypeCompteBancaire", 0);
@@ -101,13 +103,15 @@ TEST_F(Parametres, AMealPriceThatIsNoneIsNeverStored) {
   EXPECT_EQ(Globals.Presences->Regles.PrixRepas[1].EnBrut(), 0) << "no price";
   Saisir("edRepasMaternel", "x");
   Programme.Dialogues.Repond("n'est pas enregistré", true);
-  Programme.Ouvrir(TGestionnaire::AdvGlowButton3Click);
-  EXPECT_EQ(Globals.Parametres->GetParametre(TParam::RepasMaternel), "");
+  Programme.Main().mnuAnneeClick(2016);
+  EXPECT_EQ(Globals.Parametres->GetParametre(TParam::RepasMaternel), "") << "or no year could be loaded";
+  EXPECT_EQ(Programme.Vue<VueParametres>(), nullptr);
 }
 
 TEST_F(Parametres, ABadSettingOfTheLoadIsMendedWithoutAYear) {
   Ecole.parametre(101, "abc");
-  Demarrer();
+  Programme.Dialogues.Attend("Paramètre 101 : « abc » n'est pas un montant");
+  Programme.Demarrer();
   EXPECT_EQ(Globals.Eleves, nullptr);
   Programme.Ouvrir(TGestionnaire::AdvGlowButton3Click);
   EXPECT_EQ(Programme.Vue<VueMonEcole>(), nullptr);
@@ -122,20 +126,20 @@ TEST_F(Parametres, ABadSettingOfTheLoadIsMendedWithoutAYear) {
 }
 
 TEST_F(Parametres, WhatIsInsertedStandsAtTheCaretAndFits) {
-  Ecole.parametre(10, "AB");
+  Ecole.parametre(10, "1\r\n2\r\nAB");
   Ecole.parametre(26, QString(300, 'x'));
   Ouvrir();
   auto& facture = Controle<QPlainTextEdit>("memFacture");
   Aller(facture);
-  facture.moveCursor(QTextCursor::Start);
-  QTest::keyClick(&facture, Qt::Key_Right);
+  facture.moveCursor(QTextCursor::End);
+  QTest::keyClick(&facture, Qt::Key_Left);
   Cliquer("Insérer la communication structurée");
-  EXPECT_EQ(facture.toPlainText(), "A[ComStructParFacture]B");
+  EXPECT_EQ(facture.toPlainText(), "1\n2\nA[ComStructParFacture]B");
   EXPECT_TRUE(facture.hasFocus());
-  EXPECT_EQ(Parametre(10), "AB");
+  EXPECT_EQ(Parametre(10), "1\r\n2\r\nAB");
   QTest::keyClicks(&facture, "-");
   Touche(Qt::Key_Tab);
-  EXPECT_EQ(Parametre(10), "A[ComStructParFacture]-B");
+  EXPECT_EQ(Parametre(10), "1\n2\nA[ComStructParFacture]-B");
 
   auto& effectifs = Controle<QPlainTextEdit>("memFraisEffectifs");
   Programme.Dialogues.Attend("1000 au plus");
@@ -195,6 +199,9 @@ TEST_F(Parametres, MaintenanceByMouseAndKeyboard) {
   EXPECT_EQ(Parametre(41), "0");
   EXPECT_EQ(BoutonDe(Programme.Fenetre(), "Activer le mode professeur"), nullptr)
       << "not where meals are not used";
+  Programme.Dialogues.Saisit("Paramètre", "113").Saisit("Valeur actuelle : 1", "");
+  QTest::keyClick(etape1, Qt::Key_Menu, Qt::ShiftModifier);
+  EXPECT_EQ(Base.Rangees("SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 113"), QStringList(""));
   Programme.Dialogues.Saisit("Paramètre", "abc").Attend("abc");
   QTest::keyClick(etape1, Qt::Key_Menu, Qt::ShiftModifier);
   QTest::mouseClick(etape1, Qt::RightButton);
