@@ -78,6 +78,7 @@ int TSession::Mois() const {
 TPeriode TSession::Periode() const {
   const int annee = Globals.Eleves->AnneeScolaire;
   const QString choix = UneSeule({u"mois"_s, u"du"_s, u"annee-scolaire"_s});
+  if (A(u"au"_s) && choix != u"du") throw Exception(u"L'option --au demande --du."_s);
   if (choix == u"du") return {Date(u"du"_s), Date(u"au"_s)};
   if (choix == u"annee-scolaire") return BornesAnnee(annee);
   return BornesMois(Mois(), annee);

@@ -21,17 +21,27 @@ QString TClotureAnnee::Annonce(int eleves) {
 void TClotureAnnee::Cloturer() {
   try {
     EcrireBalances();
-    TParametres& parametres = *Globals.Parametres;
-    parametres.SetParametre(TParam::AnneeScolaire,
-                            QString::number(parametres.Entier(TParam::AnneeScolaire) + 1));
-    parametres.Save();
-    Globals.AnneeScolaire = parametres.Entier(TParam::AnneeScolaire);
+    AvancerAnnee();
   } catch (const Exception& e) {
     throw ECloture(u"La clôture est arrêtée : l'année scolaire n'a pas changé.\n" % e.Message);
   }
   controleur_.Dialogues().Information(
       u"L'année scolaire est clôturée.\r\n"
       "Vous pouvez commnencer le transfert des nouvelles informations."_s);
+}
+
+// A year that was refused must not move with what is saved next.
+void TClotureAnnee::AvancerAnnee() {
+  TParametres& parametres = *Globals.Parametres;
+  parametres.SetParametre(TParam::AnneeScolaire,
+                          QString::number(parametres.Entier(TParam::AnneeScolaire) + 1));
+  try {
+    parametres.Save();
+  } catch (const Exception&) {
+    parametres.Remettre();
+    throw;
+  }
+  Globals.AnneeScolaire = parametres.Entier(TParam::AnneeScolaire);
 }
 
 void TClotureAnnee::EcrireBalances() {

@@ -20,6 +20,7 @@ class TClotureAnnee {
   void Cloturer();
 
  private:
+  void AvancerAnnee();
   void EcrireBalances();
   void EcrireBalance(const TEleve& eleve);
 

@@ -116,6 +116,7 @@ TEST_F(TLotEssai, Documents) {
       {Mots(u"document Facture --mois 10 --eleves 77"_s), 1, {}, u"élève n° 77"_s},
       {Mots(u"document Facture --mois 10 --classes X"_s), 1, {}, u"classe « X »"_s},
       {Mots(u"document Facture --tous"_s), 1, {}, u"--mois, --du"_s},
+      {Mots(u"document Facture --mois 10 --au 01/11/2016 --tous"_s), 1, {}, u"--au demande --du"_s},
       {Mots(u"document Rien --tous"_s), 1, {}, u"pas de document « Rien »"_s},
       {tous + QStringList{u"--pdf"_s, Chemin("./document.json")}, 1, {}, u"deux fichiers différents"_s},
   });

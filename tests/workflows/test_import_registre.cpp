@@ -132,6 +132,16 @@ TEST(ImportRegistre, TheClosingMovesTheYearOnce) {
   base.Dialogues.Repond(kQuestion, true);
   EXPECT_THROW(import.Etape1(nouvelle), ECloture);
   EXPECT_EQ(base.Valeur(u"SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 27"_s), u"2016");
+
+  // The year itself is refused: what is saved next does not move it either.
+  base.Sql(u"DELETE FROM BALANCE"_s);
+  base.Sql(u"ALTER TABLE PARAMETRE ADD CONSTRAINT PAS_2017 CHECK (VALEUR <> '2017')"_s);
+  base.Dialogues.Repond(kQuestion, true);
+  EXPECT_THROW(import.Etape1(nouvelle), ECloture);
+  base.Sql(u"ALTER TABLE PARAMETRE DROP CONSTRAINT PAS_2017"_s);
+  Globals.Parametres->SetParametre(TParam::NomEcole, u"École"_s);
+  Globals.Parametres->Save();
+  EXPECT_EQ(base.Valeur(u"SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 27"_s), u"2016");
 }
 
 TEST(ImportRegistre, ARowThatCannotBeStoredStopsAndTheRestCanFollow) {

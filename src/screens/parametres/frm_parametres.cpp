@@ -229,12 +229,17 @@ void TFrmParametres::btnDeleteFaitClick() {
 
 // Maintenance
 
+// The script has been run, whatever its statements came to: what is missing all the same is said after that.
 void TFrmParametres::btnEtape1Click() {
-  {
+  const QString fait = u"Votre base de données est à jour !"_s;
+  try {
     const TAttente attente(contexte_.Dialogues());
     contexte_.Controleur.Base().CreerTables();
+  } catch (const Exception&) {
+    contexte_.Dialogues().Information(fait);
+    throw;
   }
-  contexte_.Dialogues().Information(u"Votre base de données est à jour !"_s);
+  contexte_.Dialogues().Information(fait);
 }
 
 void TFrmParametres::btnEtape1MouseDown() {
