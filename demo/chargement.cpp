@@ -4,6 +4,7 @@
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "demo/calendrier.h"
+#include "demo/chargement_repas.h"
 #include "demo/fichiers.h"
 #include "demo/releve_banque.h"
 #include "demo/virements.h"
@@ -57,6 +58,7 @@ TBilanChargement TChargement::Tout() {
   Recharger();
   MoisPayes();
   Virements();
+  ChargerRepas(controleur_.Dialogues(), dossier_);
   bilan_.Eleves = static_cast<int>(ecole_.Eleves.size());
   bilan_.Presences = Globals.Presences->Count();
   return bilan_;

@@ -90,40 +90,40 @@ TEleve& TSession::Eleve(const QString& numero) const {
   return *eleve;
 }
 
-QString TCommande::Ligne() const {
+QString TCommandeLot::Ligne() const {
   return QString(QString::fromUtf8(Nom) + u' ' + QString::fromUtf8(Usage)).trimmed();
 }
 
-bool TCommande::Prend(const QString& option) const {
+bool TCommandeLot::Prend(const QString& option) const {
   return OptionsDe(Usage).contains(option) || OptionsDe(kOptionsCommunes).contains(option);
 }
 
-const std::vector<TCommande>& Commandes() {
-  static const std::vector<TCommande> commandes = [] {
-    std::vector<TCommande> toutes;
+const std::vector<TCommandeLot>& Commandes() {
+  static const std::vector<TCommandeLot> commandes = [] {
+    std::vector<TCommandeLot> toutes;
     for (const auto famille : {CommandesBase(), CommandesEcole(), CommandesDocuments(), CommandesBanque(),
-                               CommandesStatistiques()})
+                               CommandesStatistiques(), CommandesRepas(), CommandesTablette()})
       toutes.insert(toutes.end(), famille.begin(), famille.end());
     return toutes;
   }();
   return commandes;
 }
 
-const TCommande* TrouverCommande(const QStringList& mots) {
+const TCommandeLot* TrouverCommande(const QStringList& mots) {
   const QString debut = mots.join(u' ') + u' ';
-  for (const TCommande& commande : Commandes())
+  for (const TCommandeLot& commande : Commandes())
     if (debut.startsWith(QString(QString::fromUtf8(commande.Nom) + u' '))) return &commande;
   return nullptr;
 }
 
 void DeclarerOptions(QCommandLineParser& options) {
   QMap<QString, bool> toutes = OptionsDe(kOptionsCommunes);
-  for (const TCommande& commande : Commandes()) toutes.insert(OptionsDe(commande.Usage));
+  for (const TCommandeLot& commande : Commandes()) toutes.insert(OptionsDe(commande.Usage));
   for (const auto& [nom, avecValeur] : toutes.asKeyValueRange())
     options.addOption({nom, {}, avecValeur ? u"valeur"_s : QString()});
 }
 
-QString OptionEtrangere(const TCommande& commande, const QCommandLineParser& options) {
+QString OptionEtrangere(const TCommandeLot& commande, const QCommandLineParser& options) {
   for (const QString& nom : options.optionNames())
     if (!commande.Prend(nom)) return nom;
   return {};

@@ -41,7 +41,7 @@ inline constexpr int kSansLimite = 1000;
 
 /// A command. The options that it takes are those that its usage names, besides the ones that every
 /// command has.
-struct TCommande {
+struct TCommandeLot {
   const char* Nom;    ///< one word, or two: "solde", "ticket acheter"
   const char* Usage;  ///< what stands behind the name: arguments, then "--nom" or "--nom VALEUR"
   int ArgumentsMin, ArgumentsMax;
@@ -53,17 +53,19 @@ struct TCommande {
 };
 
 /// The commands of each family; a family is a file of its own, and a row in `Commandes`.
-std::span<const TCommande> CommandesBase();
-std::span<const TCommande> CommandesEcole();
-std::span<const TCommande> CommandesDocuments();
-std::span<const TCommande> CommandesBanque();
-std::span<const TCommande> CommandesStatistiques();
+std::span<const TCommandeLot> CommandesBase();
+std::span<const TCommandeLot> CommandesEcole();
+std::span<const TCommandeLot> CommandesDocuments();
+std::span<const TCommandeLot> CommandesBanque();
+std::span<const TCommandeLot> CommandesStatistiques();
+std::span<const TCommandeLot> CommandesRepas();
+std::span<const TCommandeLot> CommandesTablette();
 
 /// Every command of the batch program.
-const std::vector<TCommande>& Commandes();
+const std::vector<TCommandeLot>& Commandes();
 /// The command that the first words name; null when there is none.
-const TCommande* TrouverCommande(const QStringList& mots);
+const TCommandeLot* TrouverCommande(const QStringList& mots);
 /// Declares the options of every command, and those that all have.
 void DeclarerOptions(QCommandLineParser& options);
 /// The first option given that the command does not have; "" when there is none.
-QString OptionEtrangere(const TCommande& commande, const QCommandLineParser& options);
+QString OptionEtrangere(const TCommandeLot& commande, const QCommandLineParser& options);

@@ -80,8 +80,8 @@ int Extraits(TSession& session) {
 
 }  // namespace
 
-std::span<const TCommande> CommandesBanque() {
-  static constexpr TCommande commandes[] = {
+std::span<const TCommandeLot> CommandesBanque() {
+  static constexpr TCommandeLot commandes[] = {
       {"releve", "FICHIER [--sec [--sans-preuve]]", 1, 1, Releve},
       {"extraits", "", 0, 0, Extraits},
   };

@@ -28,8 +28,8 @@ int Parametre(TSession& session) {
 
 }  // namespace
 
-std::span<const TCommande> CommandesBase() {
-  static constexpr TCommande commandes[] = {
+std::span<const TCommandeLot> CommandesBase() {
+  static constexpr TCommandeLot commandes[] = {
       {"creer", "", 0, 0, Creer},
       {"parametre", "ID [VALEUR]   (une valeur qui commence par un tiret : parametre -- ID VALEUR)", 1, 2,
        Parametre},

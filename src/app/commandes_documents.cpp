@@ -50,6 +50,8 @@ int Document(TSession& session) {
     if (DemandeDatePaiement(*document, *Globals.Parametres)) choix.DatePaiement = date;
   }
 
+  choix.Jour = session.Controleur.Horloge().Aujourdhui();
+  choix.NouveauxRepas = session.A(u"nouvelle"_s);
   TEtiquettesPdf etiquettes(session.Dialogues);
   TContexteDocument contexte = ContexteDesGlobals(session.Controleur.Horloge());
   if (session.A(u"pdf"_s)) contexte.Etiquettes = &etiquettes.Etiquettes;
@@ -59,12 +61,12 @@ int Document(TSession& session) {
 
 }  // namespace
 
-std::span<const TCommande> CommandesDocuments() {
-  static constexpr TCommande commandes[] = {
+std::span<const TCommandeLot> CommandesDocuments() {
+  static constexpr TCommandeLot commandes[] = {
       {"document",
        "TITRE (--mois M | --du jj/mm/aaaa --au jj/mm/aaaa | --annee-scolaire) "
        "(--tous | --eleves ID,ID | --classes NOM,NOM) [--date-paiement jj/mm/aaaa] "
-       "[--pdf FICHIER] [--json FICHIER]",
+       "[--jour jj/mm/aaaa] [--nouvelle] [--pdf FICHIER] [--json FICHIER]",
        1, 1, Document},
   };
   return commandes;

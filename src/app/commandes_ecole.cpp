@@ -29,8 +29,6 @@ int Registre(TSession& session) {
   return 0;
 }
 
-QString DateIso(TDateTime date) { return DateVersQt(date).toString(Qt::ISODate); }
-
 QStringList LignePresence(const QString& etat, const QString& matricule, const TPresence& presence) {
   return {etat,
           matricule,
@@ -99,8 +97,8 @@ int Solde(TSession& session) {
 
 }  // namespace
 
-std::span<const TCommande> CommandesEcole() {
-  static constexpr TCommande commandes[] = {
+std::span<const TCommandeLot> CommandesEcole() {
+  static constexpr TCommandeLot commandes[] = {
       {"registre", "FICHIER [--cloturer]", 1, 1, Registre},
       {"presences", "FICHIER", 1, 1, Presences},
       {"couts", "--mois M", 0, 0, Couts},

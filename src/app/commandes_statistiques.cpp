@@ -232,8 +232,8 @@ int TransfererNegatifs(TSession& session) { return Transferer(session, TSensTran
 
 }  // namespace
 
-std::span<const TCommande> CommandesStatistiques() {
-  static constexpr TCommande commandes[] = {
+std::span<const TCommandeLot> CommandesStatistiques() {
+  static constexpr TCommandeLot commandes[] = {
       {"accueil", "--mois M [--pdf FICHIER] [--json FICHIER]", 0, 0, Accueil},
       {"statistiques impayes",
        "(--annee-scolaire | --mois M | --jusque M) [--frais] [--services] [--export FICHIER] "

@@ -22,3 +22,5 @@ void TCsv::EcrireLigne(const QString& texte) {
   if (ecrits != static_cast<std::size_t>(octets.size()))
     throw Exception(u"Le résultat ne peut pas être écrit."_s);
 }
+
+QString DateIso(TDateTime date) { return DateVersQt(date).toString(Qt::ISODate); }

@@ -1,6 +1,8 @@
 #pragma once
 #include <QStringList>
 
+#include "core/dates.h"
+
 /// A table on the standard output: ";" between fields, a header line, UTF-8. A field that holds ";",
 /// a quote or a line end is quoted.
 class TCsv {
@@ -11,3 +13,6 @@ class TCsv {
   /// A line as it stands. Raises Exception when the output takes no more.
   static void EcrireLigne(const QString& texte);
 };
+
+/// "2016-09-01"; "" for 0.
+QString DateIso(TDateTime date);

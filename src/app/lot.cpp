@@ -11,6 +11,7 @@
 #include <cstring>
 
 #include "app/commandes.h"
+#include "core/conversions.h"
 #include "core/exceptions.h"
 
 using namespace Qt::StringLiterals;
@@ -27,18 +28,30 @@ struct TLiberation {
   TLiberation& operator=(const TLiberation&) = delete;
 };
 
+/// The present time of the day at work: of --jour, else of today.
+class THorlogeDuJour : public THorloge {
+ public:
+  explicit THorlogeDuJour(const QCommandLineParser& options)
+      : ecart_(options.isSet(u"jour"_s) ? StrToDate(options.value(u"jour"_s)) - Aujourdhui() : 0.0) {}
+  TDateTime Maintenant() const override { return THorloge::Maintenant() + ecart_; }
+
+ private:
+  TDateTime ecart_ = 0.0;  // whole days
+};
+
 QString Usage() {
   QString texte = u"Usage : calpenne-lot [--serveur S] [--annee A] [--oui] COMMANDE\n"_s;
-  for (const TCommande& commande : Commandes()) texte += u"  " + commande.Ligne() + u'\n';
+  for (const TCommandeLot& commande : Commandes()) texte += u"  " + commande.Ligne() + u'\n';
   return texte.trimmed();
 }
 
-int Lancer(const TCommande& commande, const QCommandLineParser& options, const QStringList& arguments,
+int Lancer(const TCommandeLot& commande, const QCommandLineParser& options, const QStringList& arguments,
            TDialoguesTerminal& dialogues) {
   TReglagesPoste reglages;
   TDataModule1 base(dialogues, reglages);
   TSansFenetre sansFenetre;
-  const THorloge horloge;
+  base.ServeurImpose = options.value(u"serveur"_s).trimmed();
+  const THorlogeDuJour horloge(options);
   TControleur controleur(base, reglages, sansFenetre, horloge);
   const TLiberation liberation;
   TSession session{options, arguments, dialogues, base, controleur};
@@ -48,7 +61,7 @@ int Lancer(const TCommande& commande, const QCommandLineParser& options, const Q
 }
 
 /// What is wrong with the call of that command; "" when nothing is.
-QString Faute(const TCommande& commande, const QCommandLineParser& options, qsizetype arguments) {
+QString Faute(const TCommandeLot& commande, const QCommandLineParser& options, qsizetype arguments) {
   const QString nom = QString::fromUtf8(commande.Nom);
   if (const QString option = OptionEtrangere(commande, options); !option.isEmpty())
     return u"La commande « %1 » n'a pas d'option --%2."_s.arg(nom, option);
@@ -59,7 +72,7 @@ QString Faute(const TCommande& commande, const QCommandLineParser& options, qsiz
 
 int Executer(const QCommandLineParser& options, TDialoguesTerminal& dialogues) {
   const QStringList mots = options.positionalArguments();
-  const TCommande* commande = TrouverCommande(mots);
+  const TCommandeLot* commande = TrouverCommande(mots);
   if (commande == nullptr || options.isSet(u"aide"_s)) {
     if (!mots.isEmpty() && commande == nullptr)
       dialogues.Message(u"Il n'y a pas de commande « %1 »."_s.arg(mots.join(u' ')));

@@ -9,9 +9,10 @@ namespace {
 constexpr int kDureeBulles = 5000;
 constexpr int kMoisPreparation = 7;  // from July on a school prepares the year that begins
 
-bool EstUn(const TReglagesPoste& reglages, const QString& nom) {
-  return reglages.Lire(TRacine::Utilisateur, nom) == u"1";
-}
+// Settings of the workstation. A transfer puts it on-line for a while: kTransfert says that it is to be
+// off-line again, wherever the transfer ends.
+const QString kHorsLigne = u"Offline"_s;
+const QString kTransfert = u"Transfert"_s;
 
 TExtraits& LireAuBesoin(std::unique_ptr<TExtraits>& extraits, TDataModule1& base, int annee) {
   if (!extraits) extraits = std::make_unique<TExtraits>(base, annee);
@@ -39,14 +40,14 @@ TControleur::TControleur(TDataModule1& base, TReglagesPoste& reglages, IFenetreP
 void TControleur::FormShow() {
   Globals.Montrer(nullptr);  // it follows the settings
   Globals.Parametres.reset();
-  Globals.ModeHorsLigne = EstUn(reglages_, u"Offline"_s);
+  Globals.ModeHorsLigne = DemarreHorsLigne();
   Globals.DatePhoto = reglages_.Lire(TRacine::Utilisateur, u"Photo"_s);
   if (Globals.ModeHorsLigne) {
     PagesTablette();
     fenetre_.OuvrirReservationTablette();
     return;
   }
-  if (!Demarrer(false) || !base_.EstConnecte()) return;
+  if (!Demarrer() || !base_.EstConnecte()) return;
   if (Globals.ModeProfesseur)
     PagesProfesseur();
   else if (!Globals.ModeTablette)
@@ -55,14 +56,18 @@ void TControleur::FormShow() {
 }
 
 // False ends the program. True does not promise a connection: see Connecter.
-bool TControleur::Demarrer(bool pagesTablette) {
+bool TControleur::Demarrer() {
   if (!Connecter()) {
     fenetre_.Terminer();
     return false;
   }
-  if (!base_.EstConnecte()) return true;
-  Globals.ModeProfesseur = EstUn(reglages_, u"Mode"_s);
-  Globals.ModeTablette = EstUn(reglages_, u"Tablette"_s);
+  if (base_.EstConnecte()) Preparer(false);
+  return true;
+}
+
+void TControleur::Preparer(bool pagesTablette) {
+  Globals.ModeProfesseur = EstUn(u"Mode"_s);
+  Globals.ModeTablette = EstUn(u"Tablette"_s);
   fenetre_.DureeBulles(kDureeBulles);
   ChargerParametres();
   if (Globals.ModeTablette || pagesTablette)
@@ -70,7 +75,19 @@ bool TControleur::Demarrer(bool pagesTablette) {
   else
     PagesBureau();
   ChargerAnnee(Globals.AnneeScolaire);
-  return true;
+}
+
+bool TControleur::EstUn(const QString& nom) const {
+  return reglages_.Lire(TRacine::Utilisateur, nom) == u"1";
+}
+
+bool TControleur::DemarreHorsLigne() {
+  if (EstUn(kTransfert)) {
+    EcrireReglage(kHorsLigne, u"1"_s);
+    EcrireReglage(kTransfert, u"0"_s);
+    return true;
+  }
+  return EstUn(kHorsLigne);
 }
 
 // The settings stay when the year among them is none: it is mended where they are shown.
@@ -173,18 +190,39 @@ bool TControleur::EcrireReglage(const QString& nom, const QString& valeur) {
 
 bool TControleur::ActiverModeProfesseur() { return EcrireReglage(u"Mode"_s, u"1"_s); }
 
+void TControleur::ExigerReglage(const QString& nom, const QString& valeur) {
+  if (!reglages_.Ecrire(TRacine::Utilisateur, nom, valeur))
+    throw Exception(u"Le réglage « %1 » de cet ordinateur n'a pas pu être enregistré."_s.arg(nom));
+}
+
+// A lazy reading would ask a closed connection, and a new one brings parameters and year as they are then.
+void TControleur::OublierDonnees() {
+  const TSuspension suspension(fenetre_);
+  Globals.Liberer();
+  fenetre_.ConstruireArbre();
+}
+
 void TControleur::PasserHorsLigne() {
-  EcrireReglage(u"Offline"_s, u"1"_s);
+  EcrireReglage(kHorsLigne, u"1"_s);
+  EcrireReglage(kTransfert, u"0"_s);
+  OublierDonnees();
   base_.Deconnecter();
   Globals.ModeHorsLigne = true;
   PagesTablette();
 }
 
-void TControleur::PasserEnLigne() {
-  EcrireReglage(u"Offline"_s, u"0"_s);
+bool TControleur::PasserEnLigne() {
+  ExigerReglage(kTransfert, u"1"_s);
+  ExigerReglage(kHorsLigne, u"0"_s);
   Globals.ModeHorsLigne = false;
-  Demarrer(true);
+  Globals.DatePhoto = reglages_.Lire(TRacine::Utilisateur, u"Photo"_s);
+  OublierDonnees();
+  if (!Connecter() || !base_.EstConnecte()) return false;
+  Preparer(true);
+  return true;
 }
+
+void TControleur::AbandonnerTransfert() { EcrireReglage(kTransfert, u"0"_s); }
 
 void TControleur::MemoriserDatePhoto() {
   if (!Globals.Parametres) return;

@@ -38,10 +38,16 @@ class TControleur {
   /// That year becomes the working year, and is put on display. Raises EDistributor, EConvertError.
   void CommencerAnnee(int annee);
 
-  /// Remembers that this workstation works off-line and closes the connection.
+  /// Whether this workstation starts off-line: it says so, or a transfer was cut short, which is then over.
+  bool DemarreHorsLigne();
+  /// Remembers that this workstation works off-line, and closes the connection. Ends a transfer.
   void PasserHorsLigne();
-  /// Back to the database, with the pages of the tablet.
-  void PasserEnLigne();
+  /// Begins a transfer: back to the database, with the pages of the tablet. False when no connection is
+  /// had; giving up does not end the program. Raises Exception, before anything else, when the settings of
+  /// this workstation cannot be written.
+  bool PasserEnLigne();
+  /// Ends a transfer that has failed or was refused: the workstation stays on-line.
+  void AbandonnerTransfert();
   /// This workstation is a teacher's from its next start on; false when that cannot be remembered, which the
   /// user has been told.
   bool ActiverModeProfesseur();
@@ -55,8 +61,12 @@ class TControleur {
 
  private:
   bool Connecter();
-  bool Demarrer(bool pagesTablette);
+  bool Demarrer();
+  void Preparer(bool pagesTablette);
+  void OublierDonnees();
+  bool EstUn(const QString& nom) const;
   bool EcrireReglage(const QString& nom, const QString& valeur);
+  void ExigerReglage(const QString& nom, const QString& valeur);
   void PagesTablette();
   void PagesBureau();
   void PagesProfesseur();

@@ -118,7 +118,8 @@ bool AccepterFichier(IDialogues& dialogues, const QString& chemin) {
 }  // namespace
 
 bool TDataModule1::ConnectToServer() {
-  ReadServerName();
+  ServerName = ServeurImpose;
+  if (ServerName.trimmed().isEmpty()) ReadServerName();
   if (ServerName.trimmed().isEmpty()) AskServerName();
   if (ServerName.trimmed().isEmpty()) return false;
   if (!AccepterFichier(dialogues_, FichierLocal()))

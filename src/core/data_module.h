@@ -65,6 +65,8 @@ class TDataModule1 {
 
   /// A host, "host/port", "local", or the path of a ".fdb" file; as typed.
   QString ServerName;
+  /// A name that was given for this run: it holds, and settings are not looked at. "" when there is none.
+  QString ServeurImpose;
 
  private:
   void OuvrirFichier(const QString& chemin);

@@ -1,6 +1,6 @@
 #include "core/data_set.h"
 
-TDataSet::TDataSet(const QStringList& colonnes) {
+TDataSet::TDataSet(const QStringList& colonnes) : noms_(colonnes) {
   for (const QString& nom : colonnes) colonnes_.insert(nom, static_cast<std::size_t>(colonnes_.size()));
 }
 

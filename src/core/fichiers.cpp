@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <memory>
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
 #endif
@@ -71,4 +72,14 @@ void EcrireFichier(const QString& chemin, QByteArrayView octets) {
   }
   QSaveFile fichier(chemin);
   if (!Ecrire(fichier, octets) || !fichier.commit()) Refuser(chemin, fichier);
+}
+
+void EcrireFichiers(const std::vector<std::pair<QString, QByteArray>>& fichiers) {
+  std::vector<std::unique_ptr<QSaveFile>> ecrits;
+  for (const auto& [chemin, octets] : fichiers) {
+    auto& fichier = *ecrits.emplace_back(std::make_unique<QSaveFile>(chemin));
+    if (!Ecrire(fichier, octets)) Refuser(chemin, fichier);
+  }
+  for (const auto& fichier : ecrits)
+    if (!fichier->commit()) Refuser(fichier->fileName(), *fichier);
 }

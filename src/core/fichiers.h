@@ -2,6 +2,8 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
+#include <utility>
+#include <vector>
 
 #include "core/exceptions.h"
 
@@ -19,3 +21,7 @@ QByteArray LireFichier(const QString& chemin);
 /// the old content or the new. What is no ordinary file (a pipe, a device) keeps its place and is written
 /// through. Raises Exception.
 void EcrireFichier(const QString& chemin, QByteArrayView octets);
+
+/// Several files of a folder that belong together: all are written beside their places before the first is
+/// renamed. Raises Exception, and leaves them as they were unless the renaming itself fails.
+void EcrireFichiers(const std::vector<std::pair<QString, QByteArray>>& fichiers);

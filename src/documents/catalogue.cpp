@@ -5,12 +5,14 @@
 #include "documents/badges.h"
 #include "documents/balances.h"
 #include "documents/comptabilisation_repas.h"
+#include "documents/cuisine.h"
 #include "documents/demande_provision.h"
 #include "documents/etiquettes.h"
 #include "documents/factures.h"
 #include "documents/listes_codes_barres.h"
 #include "documents/releve_detaille.h"
 #include "documents/releve_frais.h"
+#include "documents/tickets.h"
 #include "pupils/eleves.h"
 
 using namespace Qt::StringLiterals;
@@ -51,6 +53,27 @@ constexpr TTitreDocument kTitres[] = {
      .Construire = ComptabilisationRepas,
      .AvecPeriode = true},
     {.Titre = u"Document de provision de compte", .Construire = DemandeProvision},
+
+    {.Titre = u"Récapitulatif des tickets pour les parents",
+     .Construire = TicketsParents,
+     .Liste = TListeTitres::Tickets},
+    {.Titre = u"Récapitulatif des tickets disponibles par classe",
+     .Construire = TicketsParClasse,
+     .Liste = TListeTitres::Tickets},
+    {.Titre = u"Fiche de préparation",
+     .Construire = FichePreparation,
+     .AvecEleves = false,
+     .Liste = TListeTitres::Cuisine},
+    {.Titre = u"Détail des commandes",
+     .Construire = DetailCommandes,
+     .AvecEleves = false,
+     .Liste = TListeTitres::Cuisine},
+    {.Titre = u"Choix de repas", .Construire = ChoixDeRepas, .Liste = TListeTitres::Aucune},
+    {.Titre = u"Tickets vendus",
+     .Construire = TicketsVendus,
+     .AvecPeriode = true,
+     .AvecEleves = false,
+     .Liste = TListeTitres::Aucune},
 };
 
 }  // namespace
@@ -96,5 +119,8 @@ TResultat FaireDocument(const TContexteDocument& contexte, const TTitreDocument&
                         const TChoixDocument& choix) {
   return titre.Construire(contexte, {ElevesDuChoix(contexte.Eleves, choix),
                                      {contexte.Eleves.AnneeScolaire, choix.DateDebut, choix.DateFin},
-                                     choix.DatePaiement});
+                                     choix.DatePaiement,
+                                     choix.Classes,
+                                     choix.Jour,
+                                     choix.NouveauxRepas});
 }

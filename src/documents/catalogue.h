@@ -7,7 +7,12 @@
 class TClasse;
 
 /// Which screen offers a title.
-enum class TListeTitres { Eleves };
+enum class TListeTitres {
+  Eleves,
+  Tickets,
+  Cuisine,
+  Aucune  ///< its screen prints it without asking
+};
 
 /// A document that the user can ask for.
 struct TTitreDocument {
@@ -39,6 +44,8 @@ struct TChoixDocument {
   TDateTime DateDebut = 0.0;
   TDateTime DateFin = 0.0;
   std::optional<TDateTime> DatePaiement;  ///< what the user answered; none when not asked or given up
+  TDateTime Jour = 0.0;                   ///< the day at work of a document about meals
+  bool NouveauxRepas = false;             ///< in the words of the second generation of meal screens
 };
 
 /// The titles of that screen, in order.

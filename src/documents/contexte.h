@@ -4,6 +4,7 @@
 
 #include "documents/periode.h"
 
+class TClasse;
 class TEleve;
 class TEleves;
 class TEtiquettes;
@@ -31,6 +32,9 @@ TElevesChoisis SansRadies(const TElevesChoisis& eleves);
 /// For whom, for when, and what the user was asked before.
 struct TDemandeDocument {
   TElevesChoisis Eleves;
-  TPeriodeDocument Periode;               ///< any days for a document that takes no period
-  std::optional<TDateTime> DatePaiement;  ///< none when it was not asked for, or not given
+  TPeriodeDocument Periode;                  ///< any days for a document that takes no period
+  std::optional<TDateTime> DatePaiement;     ///< none when it was not asked for, or not given
+  std::vector<const TClasse*> Classes = {};  ///< those that were chosen as such
+  TDateTime Jour = 0.0;                      ///< the day at work of a document about meals
+  bool NouveauxRepas = false;                ///< in the words of the second generation of meal screens
 };

@@ -2,6 +2,8 @@
 #include <QString>
 #include <vector>
 
+#include "core/dates.h"
+
 class TEleve;
 class TEleves;
 
@@ -24,6 +26,13 @@ class TClasse {
   TCategorie Categorie() const { return CategorieDeClasse(Libelle()); }
   /// Short name of the site, or its code when it has none.
   QString LibelleImplantation() const;
+
+  // The orders of a day.
+  int NombreRepas(TDateTime jour) const;
+  /// Sandwiches and dagos.
+  int NombreSandwichs(TDateTime jour) const;
+  /// Pupils without an order, or with one of nothing.
+  int NombreSansCommande(TDateTime jour) const;
 
   TEleves& Eleves;
   const QString CodeClasse;

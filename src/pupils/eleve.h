@@ -1,5 +1,6 @@
 #pragma once
 #include <QImage>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -9,12 +10,15 @@
 #include "core/calendrier_scolaire.h"
 #include "core/currency.h"
 #include "core/dates.h"
+#include "meals/comptage.h"
+#include "meals/tickets.h"
 #include "pupils/classe.h"
 #include "pupils/service.h"
 
 class TAllFraisEleve;
 class TDataModule1;
 enum class TTypeFamilleFrais : std::uint8_t;
+struct TCommande;
 struct TFraisEleve;
 
 /// A pupil, or a member of the staff, who is a pupil of a class whose name holds "PROF". What is read
@@ -38,6 +42,8 @@ class TEleve : public TBaseObject {
   /// Thumbnail of 95 x 110 pixels, kept; a null picture without a photo. A damaged photo raises
   /// Exception once and then counts as none.
   const QImage& GetPhoto() const;
+  /// The stored picture; none without a photo.
+  std::optional<QByteArray> OctetsPhoto() const;
   /// Stores the picture at its full size. Raises Exception.
   void SetPhoto(const QImage& image);
   void DeletePhoto();
@@ -45,6 +51,34 @@ class TEleve : public TBaseObject {
   /// Number of the tax attestation, taken and stored at once the first time, for good. 0 when no
   /// number can be had, which the user has then been told.
   int GetNumAttestation();
+
+  // Meals, of a pupil in a collection. They raise Exception off-line. What stores raises EDistributor, and
+  // the data concerned are then read again when next asked for.
+
+  /// The tickets, read on first use.
+  TTickets& GetTickets() const;
+  /// They are read again when next asked for.
+  void ClearTickets() const { tickets_.reset(); }
+  /// Buys tickets of that value, missing ones first.
+  void AcheterTickets(int nombre, TPaiementTicket type, Currency valeur, TDateTime date);
+  /// Notes a meal that was eaten without a ticket.
+  void AjouterCredit(Currency valeur, TDateTime date);
+  /// Deletes a ticket of the list.
+  void SupprimerTicket(TTicket& ticket);
+  /// The order of a day, or null.
+  TCommande* GetCommande(TDateTime date) const;
+  /// Whether the order of the day is complete; no order is.
+  bool CommandeValide(TDateTime date) const;
+  /// Changes the order of a day, a new one when there is none, stores it, and takes or frees the ticket of
+  /// the day. False, with nothing changed, when another workstation has made that order in the meantime: it
+  /// has been read.
+  bool SetCommande(TDateTime date, Currency valeurTicket, const std::function<void(TCommande&)>& changement);
+  /// The sum of the payments to the meal account over three years. Orders take nothing off.
+  Currency SoldeRepas() const;
+  /// What was paid to the meal account on a day.
+  Currency RecuLe(TDateTime jour) const;
+  /// Puts cash on the meal account: it takes the place of what was counted before on that day.
+  void EncaisserRepas(TDateTime jour, const TComptage& comptage);
 
   // The account, of a pupil in a collection, from the data as they stand at each call. A month is 1 to
   // 12, else EConvertError; `annee` is a school year. What is said of fees leaves the forecast ones out.
@@ -124,9 +158,10 @@ class TEleve : public TBaseObject {
 
  private:
   TDataModule1& Base() const;
-  std::optional<QByteArray> OctetsPhoto() const;
+  void ModifierTickets(const std::function<void(TTickets&)>& changement);
 
-  friend class TEleves;  // reads the fees of many together
+  friend class TEleves;  // reads the fees and the tickets of many together
   mutable std::unique_ptr<TAllFraisEleve> allFrais_;
+  mutable std::unique_ptr<TTickets> tickets_;
   mutable std::optional<QImage> photo_;
 };

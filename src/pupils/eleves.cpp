@@ -6,6 +6,8 @@
 #include "core/data_module.h"
 #include "core/data_set.h"
 #include "core/query_internal.h"
+#include "meals/commandes.h"
+#include "meals/repas_paiements.h"
 #include "services/frais_eleve.h"
 
 using namespace Qt::StringLiterals;
@@ -88,6 +90,7 @@ void TEleves::LoadFromSource(TDataSet& source) {
   eleve->Nom = source.Valeur(u"NOM"_s).toString();
   eleve->Prenom = source.Valeur(u"PRENOM"_s).toString();
   eleve->Matricule = source.Valeur(u"MATRICULE"_s).toString();
+  eleve->FlgRadie = source.Valeur(u"FLG_RADIE"_s).toInt() == 1;
   Placer(std::move(eleve));
 }
 
@@ -201,13 +204,6 @@ void TEleves::ComptesDonneurs(int eleveId, QStringList& numeros, QStringList& no
     numeros += ligne.Texte("NUM_CPT_DONNEUR");
     noms += ligne.Texte("DONNEUR_ORDRE");
   }
-}
-
-void TEleves::DeplacerTicket(int ancienEleveId, int nouvelEleveId, int ticketId) {
-  TQueryInternal(BaseDeDonnees(), u"UPDATE TICKET SET ELEVE_ID = " % QString::number(nouvelEleveId) %
-                                      u" where ELEVE_ID=" % QString::number(ancienEleveId) %
-                                      u" AND TICKET_ID=" % QString::number(ticketId))
-      .Executer();
 }
 
 TDataModule1& TEleves::BaseDeDonnees() const {

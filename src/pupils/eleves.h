@@ -10,9 +10,11 @@
 #include "pupils/implantations.h"
 
 class TActivitesEleves;
+class TCommandes;
 class TListeFrais;
 class TPaiements;
 class TPresences;
+class TRepasPaiements;
 
 /// The pupils of a school year under their classes, or all pupils of all years: the way to everything
 /// that is known of one of them.
@@ -22,6 +24,7 @@ class TEleves : public TCollection<TEleve> {
   TEleves(TDataModule1& base, int annee);
   /// Off-line, from the local copies of enrolments and pupils: no sites, nothing is saved.
   TEleves(int annee, TDataSet& inscriptions, TDataSet& eleves);
+  ~TEleves() override;
 
   TEleve& AddEleve(std::unique_ptr<TEleve> eleve) { return Add(std::move(eleve)); }
   TEleve& AddEleve(TEleve& eleve) { return Add(eleve); }
@@ -63,7 +66,17 @@ class TEleves : public TCollection<TEleve> {
   int ExtraitVersEleve(int extraitId);
   /// Account numbers and names of those who paid for a pupil in this year, in step.
   void ComptesDonneurs(int eleveId, QStringList& numeros, QStringList& noms) const;
-  /// Gives a meal ticket of one pupil to another.
+
+  // Meals. They raise Exception off-line.
+  /// The orders of the school, and the payments to the meal accounts around the year; read on first use.
+  TCommandes& Commandes() const;
+  TRepasPaiements& RepasPaiements() const;
+  /// Orders and tickets of all pupils are read again when next asked for.
+  void LibererCommandes();
+  void LibererRepasPaiements();
+  /// Reads the tickets of those pupils who still have to read theirs, in one statement.
+  void LireTickets(const std::vector<TEleve*>& eleves) const;
+  /// Gives a meal ticket of one pupil to another; both lists are read again when next asked for.
   void DeplacerTicket(int ancienEleveId, int nouvelEleveId, int ticketId);
 
   /// Calendar year of a month of the school year: months 7 to 12 lie in its first one.
@@ -101,4 +114,6 @@ class TEleves : public TCollection<TEleve> {
   TIndex<QString, TEleve> parMatricule_;
   TIndex<QString, TEleve> parCode_;
   std::unordered_map<int, int> eleveParExtrait_;
+  mutable std::unique_ptr<TCommandes> commandes_;
+  mutable std::unique_ptr<TRepasPaiements> repasPaiements_;
 };

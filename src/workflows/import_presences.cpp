@@ -24,6 +24,14 @@ const TDateTime kFinDesEntrees = EncodeTime(11, 0);
 /// What sets the derived day-care record of a meal apart from the meal's own time.
 const TDateTime kDecalage = HeureAuMilliseconde(0.0001);
 
+/// The path itself, or with the first number that no file has yet: "Presences-... (2).txt".
+QString NomLibre(const QString& chemin) {
+  QString libre = chemin;
+  for (int numero = 2; QFile::exists(libre); ++numero)
+    libre = QString(chemin).insert(chemin.lastIndexOf(u'.'), u" (%1)"_s.arg(numero));
+  return libre;
+}
+
 bool ACompter(TDateTime entree, TDateTime sortie) { return entree != 0.0 || sortie != 0.0; }
 
 }  // namespace
@@ -248,16 +256,20 @@ void TImportPresences::Etape2() {
   Archiver(Globals.DossierTemporaire + u"/Presences.txt"_s);
 }
 
-void TImportPresences::StockerTablette(const QString& chemin) {
-  Enregistrer();
-  Archiver(chemin);
+bool TImportPresences::ArchiverTablette(const QString& chemin) const {
+  if (Archiver(chemin)) return true;
+  controleur_.Dialogues().Message(
+      u"Les repas sont enregistrés, mais leur fichier « %1 » n'a pas pu être archivé : enlevez-le, sinon il "
+      "sera relu au prochain transfert."_s.arg(chemin));
+  return false;
 }
 
-// A failure is ignored: the records are stored, and the file stays where it was.
-void TImportPresences::Archiver(const QString& fichier) const {
-  if (!QFile::exists(fichier)) return;
-  const QDir dossier(DossierPresences(controleur_.Reglages()));
-  QFile::rename(fichier, dossier.filePath(NomArchive(controleur_.Horloge().Maintenant())));
+// Of the scanner's copy a failure is ignored: the records are stored, and the file stays where it was.
+bool TImportPresences::Archiver(const QString& fichier) const {
+  if (!QFile::exists(fichier)) return true;
+  const QString archive =
+      QDir(DossierPresences(controleur_.Reglages())).filePath(NomArchive(controleur_.Horloge().Maintenant()));
+  return QFile::rename(fichier, NomLibre(archive));
 }
 
 void TImportPresences::ArchiverSousSonNom(const QString& chemin) const {

@@ -58,8 +58,10 @@ class TImportPresences {
   void ArchiverSousSonNom(const QString& chemin) const;
   /// Of the last step 2.
   const TBilanPresences& Bilan() const { return bilan_; }
-  /// The same for the tablet's file, which is archived; no message.
-  void StockerTablette(const QString& chemin);
+  /// The same as step 2 for the tablet's file, without a word; `ArchiverTablette` comes next.
+  void EnregistrerTablette() { Enregistrer(); }
+  /// Archives the tablet's file. False, after a message, when it cannot be moved: it would be read again.
+  bool ArchiverTablette(const QString& chemin) const;
 
   const std::vector<std::unique_ptr<TPresence>>& Bons() const { return bons_; }
   const std::vector<TAnomalie>& Anomalies() const { return anomalies_; }
@@ -96,7 +98,7 @@ class TImportPresences {
   void Classer(const TScan& scan, const QString& site, std::vector<TAnomalie>& sansTarif);
   void Ajouter(std::unique_ptr<TPresence> presence);
   void Enregistrer();
-  void Archiver(const QString& fichier) const;
+  bool Archiver(const QString& fichier) const;
 
   TControleur& controleur_;
   TTexteSepare grille_;

@@ -1,11 +1,14 @@
 #include "fuzz/cibles.h"
 
+#include <QCryptographicHash>
 #include <QtEndian>
 
+#include "core/data_set.h"
 #include "core/exceptions.h"
 #include "documents/modeles.h"
 #include "documents/moteur_etiquettes.h"
 #include "forms/grille.h"
+#include "meals/fichier_repas.h"
 #include "report/layout/mise_en_page.h"
 #include "report/output/pdf.h"
 #include "report/script/arbre.h"
@@ -112,6 +115,29 @@ void TCibles::Releve(const QByteArray& octets) {
   }
   Globals.Extraits.reset();
   Globals.ExtraitsPrecedents.reset();
+}
+
+bool TCibles::CopieLocale(const QByteArray& octets) {
+  bool lue = false;
+  for (const QByteArray& copie :
+       {octets, QByteArray(octets + QCryptographicHash::hash(octets, QCryptographicHash::Sha256))}) {
+    try {
+      TDataSet::DepuisOctets(TDataSet::DepuisOctets(copie, u"copie"_s).EnOctets(), u"copie"_s);
+      lue = true;
+    } catch (const Exception&) {
+    }
+  }
+  return lue;
+}
+
+void TCibles::Repas(const QByteArray& octets) {
+  TFichierRepas repas(base_.Fichier(u"repas.txt"_s, octets));
+  const QByteArray ligne = LigneRepas(u"1-1"_s, 42646);
+  const bool la = repas.Contient(ligne);
+  repas.Basculer(ligne);
+  repas.Basculer(ligne);
+  if (repas.Contient(ligne) != la || TFichierRepas(repas.Chemin()).Lignes() != repas.Lignes()) std::abort();
+  for (const QByteArray& lue : repas.Lignes()) JourDeLigne(lue);
 }
 
 void TCibles::Rapport(const QByteArray& octets) {

@@ -12,6 +12,10 @@ class TCibles {
   void Presences(const QByteArray& octets);
   /// The bytes as a bank's file of every layout, through both steps.
   void Releve(const QByteArray& octets);
+  /// The bytes as a local data set, and as what one holds behind a right checksum. Whether one was read.
+  bool CopieLocale(const QByteArray& octets);
+  /// The bytes as the tablet's file of meals, in which a meal is noted and taken back.
+  void Repas(const QByteArray& octets);
   /// The bytes as what a saved report holds once decompressed, then into a PDF.
   void Rapport(const QByteArray& octets);
   /// The bytes as a template; one that is read lays out a small report. Whether it was.

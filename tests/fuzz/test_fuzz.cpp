@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/data_set.h"
 #include "fuzz/alterer.h"
 #include "fuzz/cibles.h"
 
@@ -45,4 +46,22 @@ TEST(Fuzz, StatementReaders) {
     cibles.Releve(valide);
     for (int i = 0; i < 300; ++i) cibles.Releve(Alterer(valide, tirage));
   }
+}
+
+TEST(Fuzz, LocalDataSet) {
+  TCibles cibles;
+  std::mt19937 tirage(65);
+  TDataSet copie({u"ELEVE_ID"_s, u"NOM"_s, u"PHOTO"_s});
+  for (int i = 0; i < 5; ++i) copie.Ajouter({i, u"Zoé"_s, QByteArray(20, 'x')});
+  copie.Ajouter({{}, u"seul"_s, {}});
+  const QByteArray valide = copie.EnOctets();
+  EXPECT_TRUE(cibles.CopieLocale(valide));
+  for (int i = 0; i < 5000; ++i) cibles.CopieLocale(Alterer(valide.chopped(32), tirage));
+}
+
+TEST(Fuzz, FileOfMeals) {
+  TCibles cibles;
+  std::mt19937 tirage(65);
+  const QByteArray valide = "11;2;20161003;120000000;1\r\n11;2;20161004;120000000;1\n\nzoé\n";
+  for (int i = 0; i < 300; ++i) cibles.Repas(Alterer(valide, tirage));
 }

@@ -170,7 +170,8 @@ TEST_F(TScansEssai, TheTabletsFileIsArchived) {
   import.ImporterTablette(tablette);
   EXPECT_EQ(import.Anomalies().size(), 1U);
   essai.Horloge.Moment = EncodeDate(2016, 10, 13) + EncodeTime(15, 35, 9);
-  import.StockerTablette(tablette);
+  import.EnregistrerTablette();
+  EXPECT_TRUE(import.ArchiverTablette(tablette));
   EXPECT_FALSE(QFile::exists(tablette));
   EXPECT_TRUE(QFile::exists(base.Chemin(u"archives/Presences-13.10.2016-15h35m9s.txt"_s)));
   EXPECT_EQ(rangees().size(), 1);

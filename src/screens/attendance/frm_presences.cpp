@@ -328,8 +328,9 @@ void TfrmPresences::btnEtape2Click() {
 
 void TfrmPresences::MemoriserTablette(const QString& chemin) {
   OublierObjets(Recapitulatif);
-  import_.StockerTablette(chemin);
+  import_.EnregistrerTablette();
   memorise_ = true;
+  import_.ArchiverTablette(chemin);
   Annoncer();
 }
 

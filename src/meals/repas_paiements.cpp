@@ -1,0 +1,116 @@
+#include "meals/repas_paiements.h"
+
+#include "core/exceptions.h"
+#include "core/formats.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kJoursAutour = 500;
+
+using namespace Colonne;
+
+constexpr TColonne<TRepasPaiement> kColonnes[] = {
+    Entier<&TRepasPaiement::EleveId>("ELEVE_ID"),
+    Montant<&TRepasPaiement::Montant>("MONTANT"),
+    Entier<&TRepasPaiement::TypePaiement>("TYPE_PAIEMENT"),
+    Date<&TRepasPaiement::DatePaiement>("DATE_PAIEMENT"),
+    Texte<&TRepasPaiement::Remarque>("REMARQUE"),
+    Reference<&TRepasPaiement::ExtraitId>("EXTRAIT_ID"),
+    Reference<&TRepasPaiement::PersonnelId>("PERSONNEL_ID"),
+};
+
+/// The count of one note.
+template <std::size_t I>
+constexpr TColonne<TDetailPaiementLiquide> Nombre() {
+  return {Coupures()[I].Colonne,
+          [](TDetailPaiementLiquide& d, TCurseur& l, const char* n) { d.Comptage[I] = l.Entier(n); },
+          [](const TDetailPaiementLiquide& d, TLigne& l, const char* n) { l.Ecrire(n, d.Comptage[I]); }};
+}
+
+template <std::size_t... I>
+constexpr std::array<TColonne<TDetailPaiementLiquide>, kNombreCoupures + 1> ColonnesDetail(
+    std::index_sequence<I...>) {
+  return {Entier<&TDetailPaiementLiquide::RepasPaiementId>("REPAS_PAIEMENT_ID"), Nombre<I>()...};
+}
+
+constexpr auto kColonnesDetail = ColonnesDetail(std::make_index_sequence<kNombreCoupures>());
+
+constexpr const char16_t* kTextes[] = {u"Paiement liquide", u"Virement", u"Paiement en ligne", u"Bancontact",
+                                       u"Borne"};
+
+}  // namespace
+
+QString Texte(TPaiementRepas type) {
+  const auto i = static_cast<std::size_t>(type);
+  return i < std::size(kTextes) ? QString::fromUtf16(kTextes[i]) : QString();
+}
+
+TDetailPaiementsLiquides::TDetailPaiementsLiquides(TDataModule1& base) : TCollection(base) { Charger(); }
+
+void TDetailPaiementsLiquides::DefineQuery() {
+  SelectSql = u"SELECT * FROM DETAIL_PAIEMENT_LIQUIDE"_s;
+  TableName = u"DETAIL_PAIEMENT_LIQUIDE"_s;
+  KeyField = "DETAIL_PAIEMENT_LIQUIDE_ID";
+  CounterName = u"DETAIL_PAIEMENT_LIQUIDE"_s;
+  Colonnes = kColonnesDetail;
+}
+
+TRepasPaiements::TRepasPaiements(TDataModule1& base, const TPeriode& periode)
+    : TCollection(base), periode_(periode), details_(base) {
+  Charger();
+}
+
+void TRepasPaiements::DefineQuery() {
+  SelectSql = u"SELECT * FROM REPAS_PAIEMENT WHERE DATE_PAIEMENT >=" %
+              FormatDateSql(periode_.Premier - kJoursAutour) % u" AND DATE_PAIEMENT <=" %
+              FormatDateSql(periode_.Dernier + kJoursAutour) % u" ORDER BY REPAS_PAIEMENT_ID";
+  TableName = u"REPAS_PAIEMENT"_s;
+  KeyField = "REPAS_PAIEMENT_ID";
+  CounterName = u"REPAS_PAIEMENT"_s;
+  Colonnes = kColonnes;
+}
+
+void TRepasPaiements::Indexer(TRepasPaiement& p) {
+  parEleveJour_.Suivre(p, CleEleveJour(p.EleveId, p.DatePaiement));
+  parEleve_.Suivre(p, p.EleveId);
+}
+
+void TRepasPaiements::Desindexer(TRepasPaiement& p) {
+  parEleveJour_.Oublier(p);
+  parEleve_.Oublier(p);
+}
+
+TRepasPaiement* TRepasPaiements::PaiementDu(int eleve, TDateTime jour, TPaiementRepas type) const {
+  for (TRepasPaiement* paiement : parEleveJour_.Tous(CleEleveJour(eleve, jour)))
+    if (paiement->TypePaiement == type) return paiement;
+  return nullptr;
+}
+
+Currency TRepasPaiements::Recu(int eleve, const TPeriode& periode) const {
+  Currency recu;
+  for (const TRepasPaiement* paiement : parEleve_.Tous(eleve))
+    if (paiement->DatePaiement >= periode.Premier && paiement->DatePaiement <= periode.Dernier)
+      recu += paiement->Montant;
+  return recu;
+}
+
+void TRepasPaiements::Encaisser(int eleve, TDateTime jour, const TComptage& comptage) {
+  TRepasPaiement* paiement = PaiementDu(eleve, jour, TPaiementRepas::Liquide);
+  if (paiement == nullptr) paiement = &Add(std::make_unique<TRepasPaiement>());
+  paiement->EleveId = eleve;
+  paiement->Montant = Total(comptage);
+  paiement->DatePaiement = jour;
+  paiement->TypePaiement = TPaiementRepas::Liquide;
+  paiement->Remarque.clear();
+  Add(*paiement);
+  Save();
+  if (paiement->Status == TStatus::Nouveau) return;  // it has no key: the user knows
+  TDetailPaiementLiquide* detail = Detail(*paiement);
+  if (detail == nullptr) detail = &details_.Add(std::make_unique<TDetailPaiementLiquide>());
+  detail->RepasPaiementId = paiement->Id;
+  detail->Comptage = comptage;
+  details_.Add(*detail);
+  details_.Save();
+}

@@ -1,0 +1,112 @@
+#include "workflows/reservation.h"
+
+#include "core/dialogues.h"
+#include "core/formats.h"
+#include "meals/generation_repas.h"
+#include "pupils/eleves.h"
+#include "workflows/prix_repas.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Columns whose price the account has to cover.
+constexpr int kDerniereColonnePayante = 2;
+
+}  // namespace
+
+TGrilleCommandes::TGrilleCommandes(IDialogues& dialogues, const TGenerationRepas& generation)
+    : dialogues_(dialogues), generation_(generation) {}
+
+bool TGrilleCommandes::EstVerrouillee() const {
+  return generation_.AvecVerrou && courant_ != nullptr && !courant_->CommandeValide(jour_);
+}
+
+bool TGrilleCommandes::PeutQuitter() {
+  if (!EstVerrouillee()) return true;
+  dialogues_.Message(u"Attention le choix du sandwich est incomplet !"_s);
+  return false;
+}
+
+bool TGrilleCommandes::Selectionner(TEleve* eleve, TDateTime jour) {
+  if (eleve == courant_ && jour == jour_) return true;
+  if (!PeutQuitter()) return false;
+  courant_ = eleve;
+  jour_ = jour;
+  return true;
+}
+
+TEffetClic TGrilleCommandes::Cliquer(TEleve& eleve, TDateTime jour, int colonne) {
+  if (!Selectionner(&eleve, jour)) return TEffetClic::Verrou;
+  if (colonne < 1 || colonne > generation_.NombreColonnes) return TEffetClic::Ignore;
+  return Appliquer(eleve, jour, colonne);
+}
+
+TEffetClic TGrilleCommandes::Appliquer(TEleve& eleve, TDateTime jour, int colonne) {
+  const Currency prix = PrixCommande(eleve, generation_);
+  const auto flag = ColonnesCommande()[static_cast<std::size_t>(colonne - 1)].Flag;
+  const TCommande* commande = eleve.GetCommande(jour);
+  const bool marquee = commande != nullptr && commande->*flag;
+  if (!marquee && generation_.AvecSolde && colonne <= kDerniereColonnePayante &&
+      eleve.SoldeRepas() - prix < Currency()) {
+    dialogues_.Message(u"Solde insuffisant"_s);
+    return TEffetClic::Insuffisant;
+  }
+  const bool change = eleve.SetCommande(jour, prix, [&](TCommande& c) {
+    if (marquee)
+      c.*flag = false;
+    else
+      Marquer(c, colonne);
+  });
+  if (!change) {
+    dialogues_.Message(
+        u"Un autre poste vient de commander pour %1 ce jour-là : sa commande est affichée."_s.arg(
+            eleve.NomComplet()));
+    return TEffetClic::AutrePoste;
+  }
+  return marquee ? TEffetClic::Efface : TEffetClic::Marque;
+}
+
+TDateTime JourPrecedent(TDateTime jour) { return jour - (JourLundi1(jour) == 1 ? 3 : 1); }
+
+TDateTime JourSuivant(TDateTime jour) { return jour + (JourLundi1(jour) == 5 ? 3 : 1); }
+
+QString TexteSoldeTickets(int solde) {
+  switch (solde) {
+    case -1:
+      return u"1 ticket manquant"_s;
+    case 0:
+      return u"Aucun ticket disponible"_s;
+    case 1:
+      return u"1 ticket disponible"_s;
+    default:
+      return QString::number(qAbs(solde)) % (solde < 0 ? u" tickets manquants" : u" tickets disponibles");
+  }
+}
+
+namespace {
+
+/// Clicks each column that the other order has. False when the first click was refused.
+bool Repeter(TGrilleCommandes& grille, TEleve& eleve, const TCommande& source, TDateTime jour) {
+  bool repete = false;
+  for (int c = 1; c <= grille.Generation().NombreColonnes; ++c) {
+    if (!(source.*ColonnesCommande()[static_cast<std::size_t>(c - 1)].Flag)) continue;
+    if (grille.Cliquer(eleve, jour, c) != TEffetClic::Marque) return repete;
+    repete = true;
+  }
+  return repete;
+}
+
+}  // namespace
+
+int RepeterCommandes(TGrilleCommandes& grille, const TClasse& classe, TDateTime source, TDateTime jour) {
+  int nombre = 0;
+  for (TEleve* eleve : classe.ListeEleves) {
+    const TCommande* avant = eleve->GetCommande(source);
+    const TCommande* deja = eleve->GetCommande(jour);
+    if (avant == nullptr || !avant->EstUnRepas() || (deja != nullptr && deja->EstUnRepas())) continue;
+    if (grille.Generation().AvecVerrou && !avant->EstComplete()) continue;
+    nombre += Repeter(grille, *eleve, *avant, jour);
+  }
+  return nombre;
+}

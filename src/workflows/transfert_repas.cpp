@@ -1,0 +1,185 @@
+#include "workflows/transfert_repas.h"
+
+#include <QFile>
+
+#include "core/exceptions.h"
+#include "core/fichiers.h"
+#include "core/formats.h"
+#include "pupils/photo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The local copy in the making.
+class TCopie {
+ public:
+  TCopie() {
+    for (TDataSet* copie : {&eleves_, &classes_, &photos_}) {
+      copie->Annee = Globals.Eleves->AnneeScolaire;
+      copie->AnneeTravail = Globals.AnneeScolaire;
+    }
+  }
+
+  void Ajouter(const TEleve& eleve) {
+    eleves_.Ajouter({eleve.Id, eleve.Matricule, eleve.Nom, eleve.Prenom, eleve.FlgRadie ? 1 : 0});
+    classes_.Ajouter({eleve.Id, eleve.CodeClasse, eleve.SousClasse});
+  }
+
+  void AjouterPhoto(const TEleve& eleve) {
+    const auto octets = eleve.OctetsPhoto();
+    if (!octets || octets->isEmpty()) return;
+    try {
+      DecoderJpeg(*octets);
+      photos_.Ajouter({eleve.Id, *octets});
+    } catch (const Exception&) {
+      abimees_ += eleve.NomComplet();
+    }
+  }
+
+  /// Pictures that have not been copied stay in their file as they are.
+  void Enregistrer(const TFichiersTablette& fichiers, bool avecPhotos) const {
+    std::vector<std::pair<QString, QByteArray>> tous{{fichiers.Eleves, eleves_.EnOctets()},
+                                                     {fichiers.Classes, classes_.EnOctets()}};
+    if (avecPhotos) tous.emplace_back(fichiers.Photos, photos_.EnOctets());
+    EcrireFichiers(tous);
+  }
+
+  const QStringList& PhotosAbimees() const { return abimees_; }
+
+ private:
+  TDataSet eleves_{{u"ELEVE_ID"_s, u"MATRICULE"_s, u"NOM"_s, u"PRENOM"_s, u"FLG_RADIE"_s}};
+  TDataSet classes_{{u"ELEVE_ID"_s, u"CLASSE"_s, u"SOUS_CLASSE"_s}};
+  TDataSet photos_{{u"ELEVE_ID"_s, u"PHOTO"_s}};
+  QStringList abimees_;
+};
+
+void Remplir(TCopie& copie, bool avecPhotos, TProgression& progression) {
+  int fait = 0;
+  for (const auto& classe : Globals.Eleves->Classes())
+    for (const TEleve* eleve : classe->ListeEleves) {
+      copie.Ajouter(*eleve);
+      if (avecPhotos) copie.AjouterPhoto(*eleve);
+      progression.Avancer(++fait, eleve->NomComplet());
+    }
+}
+
+/// The lines of today that will have been transferred; those of other days are of no more use.
+QByteArray LignesTransferees(const TFichiersTablette& fichiers, TDateTime jour) {
+  std::vector<QByteArray> lignes;
+  for (const QString& chemin : {fichiers.Transferes, fichiers.Repas})
+    for (const QByteArray& ligne : TFichierRepas(chemin).Lignes())
+      if (JourDeLigne(ligne) == jour) lignes.push_back(ligne);
+  return TexteDesLignes(lignes);
+}
+
+}  // namespace
+
+void CopierEleves(const TFichiersTablette& fichiers, bool avecPhotos, IDialogues& dialogues) {
+  TCopie copie;
+  {
+    TProgression progression(dialogues, Globals.Eleves->NombreEleves());
+    Remplir(copie, avecPhotos, progression);
+  }
+  copie.Enregistrer(fichiers, avecPhotos);
+  if (!copie.PhotosAbimees().isEmpty())
+    dialogues.Message(
+        u"Ces photos sont abîmées et n'ont pas été copiées : %1."_s.arg(copie.PhotosAbimees().join(u", ")));
+}
+
+QString RaisonAnomalie(const TAnomalie& anomalie) {
+  if (!anomalie.Presence) return u"Matricule inconnu"_s;
+  return u"Aucun tarif ne couvre cette heure de ce jour-là"_s;
+}
+
+QString TexteAnomalie(const TAnomalie& anomalie) {
+  const TPresence* presence = anomalie.Presence.get();
+  const TEleve* eleve = presence != nullptr ? Globals.Eleves->TrouverParId(presence->EleveId) : nullptr;
+  const QString qui = eleve != nullptr ? eleve->NomComplet() : anomalie.Matricule;
+  const TDateTime jour = presence != nullptr ? presence->DateReleve : anomalie.Date;
+  return qui % u", " % FormatJour(jour) % u" : " % RaisonAnomalie(anomalie);
+}
+
+TBilanTransfert TTransfertRepas::Executer() {
+  TBilanTransfert bilan;
+  try {
+    bilan.Connecte = controleur_.PasserEnLigne();
+    if (bilan.Connecte) Transferer(bilan);
+  } catch (...) {
+    controleur_.AbandonnerTransfert();
+    throw;
+  }
+  if (bilan.Connecte && bilan.AImporter && !bilan.Importe) {
+    controleur_.AbandonnerTransfert();
+    return bilan;
+  }
+  import_.Vider();
+  controleur_.PasserHorsLigne();
+  bilan.HorsLigne = true;
+  return bilan;
+}
+
+void TTransfertRepas::Transferer(TBilanTransfert& bilan) {
+  bilan.PhotosCopiees = Synchroniser();
+  if (bilan.PhotosCopiees) controleur_.MemoriserDatePhoto();
+  ImporterRepas(bilan);
+}
+
+// A tablet without pictures takes them, also from a school that has never changed one.
+bool TTransfertRepas::Synchroniser() {
+  const TFichiersTablette fichiers(controleur_.Reglages());
+  const bool avecPhotos = Globals.Parametres->GetParametre(TParam::DatePhoto) != Globals.DatePhoto ||
+                          !QFile::exists(fichiers.Photos);
+  CopierEleves(fichiers, avecPhotos, controleur_.Dialogues());
+  return avecPhotos;
+}
+
+void TTransfertRepas::ImporterRepas(TBilanTransfert& bilan) {
+  const TFichiersTablette fichiers(controleur_.Reglages());
+  if (!QFile::exists(fichiers.Repas) || LireFichier(fichiers.Repas).trimmed().isEmpty()) return;
+  bilan.AImporter = true;
+  import_.ImporterTablette(fichiers.Repas);
+  bilan.Lignes = import_.NombreEntrees();
+  bilan.Bons = import_.NombreBons();
+  bilan.Anomalies = import_.NombreAnomalies();
+  if (SurAnalyse) SurAnalyse(bilan);
+  if (!AccepterAnomalies() || !AccepterHorsAnnee()) return;
+  const QByteArray transferees = LignesTransferees(fichiers, controleur_.Horloge().Aujourdhui());
+  import_.EnregistrerTablette();
+  bilan.Importe = true;
+  bilan.Archive = import_.ArchiverTablette(fichiers.Repas);
+  try {
+    EcrireFichier(fichiers.Transferes, transferees);
+  } catch (const Exception& e) {  // the meals are stored: only the mark "transféré" is lost
+    controleur_.Dialogues().Message(e.Message);
+  }
+}
+
+bool TTransfertRepas::AccepterAnomalies() const {
+  const auto nombre = static_cast<int>(import_.Anomalies().size());
+  if (nombre == 0) return true;
+  return controleur_.Dialogues().ConfirmerGrave(
+      (nombre == 1 ? u"1 repas ne sera pas enregistré.\n"_s
+                   : u"%1 repas ne seront pas enregistrés.\n"_s.arg(nombre)) +
+      u"Souhaitez-vous tout de même continuer la procédure ?"_s);
+}
+
+// They are stored and seen in no year, nor would a second import of them be recognised.
+bool TTransfertRepas::AccepterHorsAnnee() const {
+  const TPeriode annee = BornesAnnee(Globals.Eleves->AnneeScolaire);
+  int nombre = 0;
+  TDateTime premier = 0.0;
+  for (const auto& bon : import_.Bons()) {
+    if (bon->DateReleve >= annee.Premier && bon->DateReleve <= annee.Dernier) continue;
+    if (nombre++ == 0) premier = bon->DateReleve;
+  }
+  if (nombre == 0) return true;
+  return controleur_.Dialogues().ConfirmerGrave(
+      u"%1 repas hors de l'année scolaire %2 - %3 (le premier, du %4) : ils seront enregistrés, mais ne se "
+      "verront pas dans cette année. L'horloge de la tablette est-elle juste ? Souhaitez-vous tout de même "
+      "les "
+      "enregistrer ?"_s.arg(nombre)
+          .arg(Globals.Eleves->AnneeScolaire)
+          .arg(Globals.Eleves->AnneeScolaire + 1)
+          .arg(FormatDate(premier)));
+}

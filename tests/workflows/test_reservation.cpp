@@ -1,0 +1,206 @@
+#include <gtest/gtest.h>
+
+#include "core/exceptions.h"
+#include "meals/commandes.h"
+#include "meals/generation_repas.h"
+#include "support/controleur_essai.h"
+#include "support/valeurs.h"
+#include "workflows/jour_cuisine.h"
+#include "workflows/reservation.h"
+#include "workflows/vente_tickets.h"
+#include "workflows/ventes_tickets.h"
+
+namespace {
+
+/// A nursery pupil (1), two of the primary (2, 3) and one of the staff (4).
+struct TReservationEssai : testing::Test {
+  TReservationEssai() {
+    ecole.parametre(101, u"2,20"_s);
+    ecole.parametre(102, u"2,60"_s);
+    ecole.unEleve().enClasse(u"M1"_s, u"B"_s);
+    ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
+    ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
+    ecole.unEleve().enClasse(u"PROFESSEURS"_s, {});
+  }
+
+  TEleve& Eleve(int id) const { return *Globals.Eleves->TrouverParId(id); }
+
+  /// Clicks "pupil column [day of October]", and what each did.
+  QString Cliquer(bool nouvelle, const QStringList& clics) {
+    TGrilleCommandes grille(base.Dialogues, GenerationRepas(nouvelle));
+    QString effets;
+    for (const QString& clic : clics) {
+      const QStringList mots = clic.split(u' ');
+      const int jour = mots.size() > 2 ? mots[2].toInt() : 3;
+      effets += u"MEVI-A"_s[static_cast<int>(
+          grille.Cliquer(Eleve(mots[0].toInt()), EncodeDate(2016, 10, jour), mots[1].toInt()))];
+    }
+    return effets;
+  }
+
+  QStringList Commandes() {
+    return base.Rangees(
+        u"SELECT ELEVE_ID || ':' || FLG_REPAS || FLG_DAGO || FLG_SANDWICH || FLG_JAMBON || FLG_FROMAGE || "
+        "FLG_JAMBON_FROMAGE || FLG_BEURRE || FLG_MAYONNAISE FROM COMMANDE ORDER BY ELEVE_ID, DATE_COMMANDE"_s);
+  }
+  QStringList Tickets() {
+    return base.Rangees(
+        u"SELECT ELEVE_ID || ':' || EXTRACT(DAY FROM DATE_UTILISATION) || ' ' || CAST(VALEUR AS "
+        u"DECIMAL(9,2)) "
+        "FROM TICKET ORDER BY ELEVE_ID, DATE_UTILISATION"_s);
+  }
+
+  TBaseEssai base;
+  TEcoleEssai ecole{base};
+  TControleurEssai essai{base};
+};
+
+const QString kIncomplet = u"Attention le choix du sandwich est incomplet !"_s;
+
+}  // namespace
+
+TEST_F(TReservationEssai, Clicks) {
+  const struct {
+    const char* Nom;
+    bool Nouvelle;
+    QStringList Clics;
+    QString Effets;
+    QStringList Commandes, Tickets;
+    int Messages = 0;
+  } cas[] = {
+      {"a meal, then bread: one ticket, and the row holds until it has a filling",
+       false,
+       {u"2 1"_s, u"2 3"_s, u"3 1"_s, u"2 4"_s, u"3 1"_s},
+       u"MMVMM"_s,
+       {u"2:00110000"_s, u"3:10000000"_s},
+       {u"2:3 2.60"_s, u"3:3 2.60"_s},
+       1},
+      {"the lock holds other days and classes too, and a refused click does not release it",
+       false,
+       {u"2 7"_s, u"1 1"_s, u"2 1 4"_s, u"1 1"_s},
+       u"MVVV"_s,
+       {u"2:00000010"_s},
+       {},
+       3},
+      {"butter clears a hot meal and frees its ticket",
+       false,
+       {u"1 1"_s, u"1 7"_s},
+       u"MM"_s,
+       {u"1:00000010"_s},
+       {}},
+      {"clearing bread leaves its filling, which locks",
+       false,
+       {u"1 2"_s, u"1 5"_s, u"1 2"_s, u"2 1"_s},
+       u"MMEV"_s,
+       {u"1:00001000"_s},
+       {},
+       1},
+      {"the row stays with eight zeros, each price by its section, staff at 0",
+       false,
+       {u"1 1"_s, u"2 1"_s, u"4 1"_s, u"2 1"_s},
+       u"MMME"_s,
+       {u"1:10000000"_s, u"2:00000000"_s, u"4:10000000"_s},
+       {u"1:3 2.20"_s, u"4:3 0.00"_s}},
+      {"columns that are none", false, {u"2 0"_s, u"2 9"_s}, u"--"_s, {}, {}},
+      {"second generation: money for the first two columns, the price of the primary for all, no lock",
+       true,
+       {u"1 1"_s, u"1 2"_s, u"1 3"_s, u"3 1"_s, u"3 2"_s, u"3 4"_s, u"3 2"_s},
+       u"IIMMM-E"_s,
+       {u"1:00100000"_s, u"3:00000000"_s},
+       {u"1:3 2.60"_s},
+       2},
+  };
+  ecole.Ajouter(u"REPAS_PAIEMENT"_s, u"REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT"_s,
+                {u"3"_s, u"2.60"_s, u"0"_s, u"'2016-09-05'"_s});
+  ecole.Ajouter(u"REPAS_PAIEMENT"_s, u"REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT"_s,
+                {u"1"_s, u"2.59"_s, u"0"_s, u"'2015-09-01'"_s});
+  ecole.Ajouter(u"REPAS_PAIEMENT"_s, u"REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT"_s,
+                {u"1"_s, u"99"_s, u"0"_s, u"'2015-08-31'"_s});
+  for (const auto& c : cas) {
+    SCOPED_TRACE(c.Nom);
+    for (const char* table : {"COMMANDE", "TICKET"}) base.Sql(u"DELETE FROM "_s + QString::fromLatin1(table));
+    essai.Charger();
+    for (int i = 0; i < c.Messages; ++i)
+      base.Dialogues.Attend(c.Nouvelle ? u"Solde insuffisant"_s : kIncomplet);
+    EXPECT_EQ(Cliquer(c.Nouvelle, c.Clics), c.Effets);
+    EXPECT_EQ(Commandes(), c.Commandes);
+    EXPECT_EQ(Tickets(), c.Tickets);
+  }
+}
+
+TEST_F(TReservationEssai, TwoWorkstationsOrderTheSameMeal) {
+  essai.Charger();
+  EXPECT_EQ(Eleve(2).GetCommande(EncodeDate(2016, 10, 3)), nullptr);
+  ecole.Ajouter(u"COMMANDE"_s, u"COMMANDE_ID, ELEVE_ID, DATE_COMMANDE, FLG_SANDWICH, FLG_JAMBON"_s,
+                {u"2"_s, u"'2016-10-03'"_s, u"1"_s, u"1"_s});
+  base.Dialogues.Attend(u"Un autre poste vient de commander"_s);
+  EXPECT_EQ(Cliquer(false, {u"2 1"_s}), u"A");
+  EXPECT_TRUE(Eleve(2).GetCommande(EncodeDate(2016, 10, 3))->FlgSandwich);
+  EXPECT_EQ(Cliquer(false, {u"2 1"_s}), u"M");
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM COMMANDE WHERE FLG_REPAS = 1 AND FLG_JAMBON = 0"_s), u"1");
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM TICKET"_s), u"1");
+}
+
+TEST_F(TReservationEssai, CountersKitchenAndSteps) {
+  essai.Charger();
+  Cliquer(false, {u"1 2"_s, u"1 4"_s, u"1 7"_s, u"2 1"_s, u"4 3"_s, u"4 6"_s});
+  base.Sql(u"UPDATE COMMANDE SET FLG_MAYONNAISE = 1 WHERE ELEVE_ID = 1"_s);
+  Globals.Eleves->LibererCommandes();
+  const TDateTime jour = EncodeDate(2016, 10, 3);
+  const TClasse& primaire = Globals.Eleves->GetClasse(1);
+  EXPECT_EQ(primaire.NombreRepas(jour) * 100 + primaire.NombreSandwichs(jour) * 10 +
+                primaire.NombreSansCommande(jour),
+            101);
+  const TJourCuisine cuisine = JourDeCuisine(*Globals.Eleves, jour);
+  EXPECT_EQ(cuisine.Repas * 100 + cuisine.Dagos * 10 + cuisine.Sandwichs, 111);
+  // Ham with both dressings counts in both, and no longer as plain ham.
+  EXPECT_EQ(cuisine.DagosDuJour.Varietes, (TVarietes{0, 1, 1, 0, 0, 0, 0, 0, 0}));
+  EXPECT_EQ(cuisine.SandwichsDuJour.Varietes, (TVarietes{0, 0, 0, 0, 0, 0, 1, 0, 0}));
+  const auto lignes = [&](std::size_t classe, bool nouvelle) {
+    QStringList textes;
+    for (const TLigneCuisine& l : LignesDeClasse(cuisine.Classes[classe], GenerationRepas(nouvelle)))
+      textes += l.Texte();
+    return textes.join(u'|');
+  };
+  EXPECT_EQ(lignes(0, false), u"Dago;1");
+  EXPECT_EQ(lignes(0, true), u"Sandwich");
+  EXPECT_EQ(lignes(1, false), u"Repas Complet;1");
+  EXPECT_EQ(lignes(2, true), u"Soupe;1");
+  const std::pair<const char*, const char*> pas[] = {{"2016-10-07", "2016-10-10"},
+                                                     {"2016-10-08", "2016-10-09"},
+                                                     {"2016-10-05", "2016-10-06"},
+                                                     {"2016-10-09", "2016-10-10"}};
+  for (const auto& [de, a] : pas) EXPECT_EQ(JourSuivant(J(de)), J(a)) << de;
+  EXPECT_EQ(JourPrecedent(J("2016-10-10")), J("2016-10-07"));
+  EXPECT_EQ(JourPrecedent(J("2016-10-09")), J("2016-10-08"));
+  const char* const soldes[] = {"2 tickets manquants", "1 ticket manquant", "Aucun ticket disponible",
+                                "1 ticket disponible", "2 tickets disponibles"};
+  for (int solde = -2; solde <= 2; ++solde)
+    EXPECT_EQ(TexteSoldeTickets(solde), QString::fromUtf8(soldes[solde + 2]));
+}
+
+TEST_F(TReservationEssai, Sales) {
+  essai.Charger();
+  const TDateTime jour = EncodeDate(2016, 10, 3);
+  Eleve(1).AcheterTickets(2, TPaiementTicket::Comptant, Currency::Brut(22000), jour);
+  Eleve(2).AcheterTickets(1, TPaiementTicket::Comptant, {}, jour);  // sold for nothing
+  Eleve(4).AcheterTickets(3, TPaiementTicket::Comptant, Currency::Euros(1), jour);
+  Eleve(4).AcheterTickets(1, TPaiementTicket::Comptant, Currency::Euros(1), jour + 1);
+  Eleve(3).AcheterTickets(1, TPaiementTicket::Virement, Currency::Euros(3), jour + 2);
+  const auto lignes = [&](const TPeriode& periode) {
+    QStringList textes;
+    for (const TVentesJour& j : VentesDeTickets(*Globals.Eleves, periode, TPaiementTicket::Comptant)) {
+      textes += LigneVentesJour(j).join(u';');
+      for (const TVenteEleve& v : j.Eleves) textes += LigneVenteEleve(v).join(u';');
+    }
+    return textes;
+  };
+  EXPECT_EQ(lignes({jour, jour + 2}),
+            (QStringList{u"03/10/2016;2;2,20 €;4,40 €;0;2,60 €;0,00 €;4,40 €"_s,
+                         u"Eleve1 Prenom1;2;2,20 €;4,40 €;;;;"_s, u"Eleve4 Prenom4;;;;;;;"_s,
+                         u"04/10/2016;;;;;;;"_s, u"Eleve4 Prenom4;;;;;;;"_s}));
+  EXPECT_EQ(lignes({jour, jour - 1}), QStringList());
+  EXPECT_EQ(CompterTickets(*Eleve(2).Classe).Bas, 2);
+  for (const char* texte : {"0", "-1", "1000000000", "abc", "1000"})
+    EXPECT_THROW(LireNombreTickets(QString::fromLatin1(texte)), EConvertError) << texte;
+}

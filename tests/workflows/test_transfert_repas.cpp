@@ -1,0 +1,216 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "core/data_set.h"
+#include "core/exceptions.h"
+#include "core/fichiers.h"
+#include "pupils/photo.h"
+#include "support/controleur_essai.h"
+#include "support/valeurs.h"
+#include "workflows/copie_locale.h"
+#include "workflows/transfert_repas.h"
+
+namespace {
+
+/// A tablet beside a school of two pupils of P1 A, codes 11 and 22, whose meals have a tariff on schooldays.
+struct TTabletteEssai : testing::Test {
+  TTabletteEssai() {
+    using namespace Essai;
+    ecole.tarif(FamilleRepas, LundiMardiJeudiVendredi, u"11:30"_s, u"13:30"_s, Forfait, u"2"_s, ScanPresence);
+    for (int i = 0; i < 2; ++i) ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
+    ecole.unEleve().enClasse(u"M1"_s, u"B"_s).avec(u"FLG_RADIE"_s);
+    base->Deconnecter();
+    Regler(u"Serveur"_s, base.FichierDeDonnees());
+    base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, base.FichierDeDonnees());
+    Regler(u"DossierPresences"_s, base.Chemin(u"presences"_s));
+    Regler(u"Offline"_s, u"1"_s);
+  }
+  ~TTabletteEssai() override { base->Deconnecter(); }
+
+  void Regler(const QString& nom, const QString& valeur) {
+    base.Reglages.Ecrire(TRacine::Utilisateur, nom, valeur);
+  }
+  QString Reglage(const char* nom) {
+    return base.Reglages.Lire(TRacine::Utilisateur, QString::fromLatin1(nom));
+  }
+  /// What is done to the school by another workstation.
+  void Ecole(const std::function<void()>& geste) {
+    base->ServerName = base.FichierDeDonnees();
+    base->Connecter();
+    geste();
+    base->Deconnecter();
+  }
+  void Photo(int eleve, const QByteArray& octets) {
+    Ecole([&] {
+      base.Sql(u"INSERT INTO ELEVE_PHOTO (ELEVE_PHOTO_ID, ELEVE_ID, PHOTO) VALUES (%1, %1, x'%2')"_s.arg(
+          QString::number(eleve), QString::fromLatin1(octets.toHex())));
+    });
+  }
+  TBilanTransfert Transferer() { return TTransfertRepas(essai.Controleur).Executer(); }
+  QStringList Presences() {
+    QStringList rangees;
+    Ecole([&] {
+      rangees = base.Rangees(u"SELECT ELEVE_ID, TYPE_PRESENCE, DATE_RELEVE FROM PRESENCES ORDER BY 3, 1"_s);
+    });
+    return rangees;
+  }
+  QStringList Archives() {
+    return QDir(base.Chemin(u"presences"_s)).entryList({u"Presences-*"_s}, QDir::Files);
+  }
+  void Taps(const QByteArray& lignes) { EcrireFichier(Fichiers().Repas, lignes); }
+  TFichiersTablette Fichiers() { return TFichiersTablette(base.Reglages); }
+
+  TBaseEssai base;
+  TEcoleEssai ecole{base};
+  TControleurEssai essai{base};
+};
+
+QByteArray Jpeg(Qt::GlobalColor couleur) {
+  QImage image(60, 70, QImage::Format_RGB32);
+  image.fill(couleur);
+  return EncoderJpeg(image);
+}
+
+}  // namespace
+
+TEST_F(TTabletteEssai, FromTheFirstLoadToTheTransferAndBack) {
+  Photo(1, Jpeg(Qt::red));
+  EXPECT_FALSE(PourquoiSansService(true, base.Reglages).isEmpty());
+  EXPECT_TRUE(Transferer().HorsLigne);
+  EXPECT_FALSE(base->EstConnecte());
+  EXPECT_EQ(PourquoiSansService(true, base.Reglages), QString());
+  const TDateTime jour = essai.Horloge.Aujourdhui();
+  {
+    TServiceHorsLigne service(base.Reglages, base.Dialogues);
+    EXPECT_EQ(service.Eleves().AnneeScolaire * 10000 + service.AnneeTravail(), 20162016);
+    EXPECT_EQ(service.Annees(), (std::vector<QString>{u"M1"_s, u"P1"_s}));
+    EXPECT_TRUE(service.Eleves().TrouverParId(3)->FlgRadie);
+    TEleve& un = *service.Eleves().TrouverParId(1);
+    TEleve& deux = *service.Eleves().TrouverParId(2);
+    EXPECT_FALSE(un.GetPhoto().isNull());
+    EXPECT_TRUE(deux.GetPhoto().isNull());
+    EXPECT_TRUE(service.Toucher(un, jour));
+    EXPECT_TRUE(service.Toucher(deux, jour));
+    EXPECT_FALSE(service.Toucher(deux, jour));  // a second tap takes the meal back
+    EXPECT_TRUE(service.Toucher(deux, jour + 1));
+    EXPECT_EQ(service.NombreServis(*un.Classe, jour), 1);
+    EXPECT_EQ(service.DernierJour(), jour + 1);
+    EXPECT_EQ(LireFichier(Fichiers().Repas), "11;2;20161003;120000000;1\n21;2;20161004;120000000;1\n");
+  }
+  EcrireFichier(base.Chemin(u"presences/Presences-3.10.2016-7h5m0s.txt"_s), "déjà là");
+  const QByteArray photos = LireFichier(Fichiers().Photos);
+  const TBilanTransfert bilan = Transferer();
+  EXPECT_TRUE(bilan.Importe && bilan.Archive && bilan.HorsLigne && !bilan.PhotosCopiees);
+  EXPECT_EQ(bilan.Lignes * 100 + bilan.Bons * 10 + bilan.Anomalies, 220);
+  EXPECT_EQ(Presences(), (QStringList{u"1;2;2016-10-03"_s, u"2;2;2016-10-04"_s}));
+  EXPECT_EQ(Archives(),
+            (QStringList{u"Presences-3.10.2016-7h5m0s (2).txt"_s, u"Presences-3.10.2016-7h5m0s.txt"_s}));
+  EXPECT_EQ(LireFichier(Fichiers().Photos), photos);
+  const TServiceHorsLigne service(base.Reglages, base.Dialogues);
+  EXPECT_TRUE(service.EstTransfere(*service.Eleves().TrouverParId(1), jour));
+  EXPECT_EQ(service.NombreEnAttente(), 0);
+}
+
+TEST_F(TTabletteEssai, PicturesAreCopiedWhenTheyChanged) {
+  Photo(1, Jpeg(Qt::red));
+  Photo(2, Jpeg(Qt::blue).left(300));
+  base.Dialogues.Attend(u"abîmées"_s);
+  Transferer();
+  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 1);
+  Ecole([&] {
+    base.Sql(u"UPDATE ELEVE_PHOTO SET PHOTO = x'%1' WHERE ELEVE_ID = 2"_s.arg(
+        QString::fromLatin1(Jpeg(Qt::green).toHex())));
+  });
+  Transferer();
+  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 1) << "the stamp is as it was";
+  Ecole([&] { ecole.parametre(115, u"4 octobre"_s); });
+  Transferer();
+  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 2);
+  EXPECT_EQ(Reglage("Photo"), u"4 octobre");
+}
+
+TEST_F(TTabletteEssai, NoMealIsStoredTwice) {
+  Transferer();
+  Taps("11;2;20161003;120000000;1\n11;2;20161003;120000000;1\n21;2;20161003;120000000;1\n");
+  Transferer();
+  Taps("11;2;20161003;120000000;1\n21;2;20161004;120000000;1");  // another tablet, and an old copy
+  Transferer();
+  EXPECT_EQ(Presences(), (QStringList{u"1;2;2016-10-03"_s, u"2;2;2016-10-03"_s, u"2;2;2016-10-04"_s}));
+}
+
+TEST_F(TTabletteEssai, RefusalsLeaveTheFileAndStayConnected) {
+  const QByteArray taps = "99;2;20161003;120000000;1\n11;2;20161005;120000000;1\n11;2;20170703;120000000;1\n";
+  Transferer();
+  Taps(taps);
+  base.Dialogues.Repond(
+      u"2 repas ne seront pas enregistrés.\nSouhaitez-vous tout de même continuer la procédure ?"_s, false);
+  TTransfertRepas transfert(essai.Controleur);
+  EXPECT_FALSE(transfert.Executer().HorsLigne);
+  EXPECT_TRUE(base->EstConnecte());
+  EXPECT_EQ(Reglage("Offline") + Reglage("Transfert"), u"00");
+  EXPECT_EQ(RaisonAnomalie(transfert.Anomalies()[0]), u"Matricule inconnu");
+  // What lies outside the year is asked about by itself.
+  base.Dialogues.Repond(u"continuer la procédure"_s, true)
+      .Repond(u"1 repas hors de l'année scolaire"_s, false);
+  EXPECT_FALSE(Transferer().Importe);
+  EXPECT_EQ(LireFichier(Fichiers().Repas), taps);
+  base.Dialogues.Repond(u"continuer la procédure"_s, true).Repond(u"03/07/2017"_s, true);
+  EXPECT_TRUE(Transferer().Importe);
+  EXPECT_EQ(Presences(), QStringList(u"1;2;2017-07-03"_s));
+}
+
+TEST_F(TTabletteEssai, ABrokenLineIsNamedAndNothingIsStored) {
+  Transferer();
+  Taps("11;2;20161003;120000000;1\n11;x;20161004;120000000;1\n");
+  try {
+    Transferer();
+    ADD_FAILURE();
+  } catch (const Exception& e) {
+    EXPECT_TRUE(e.Message.startsWith(u"Ligne 2 : ")) << e.what();
+  }
+  EXPECT_EQ(Reglage("Transfert"), u"0");
+  EXPECT_TRUE(QFile::exists(Fichiers().Repas));
+  EXPECT_EQ(Presences(), QStringList());
+}
+
+TEST_F(TTabletteEssai, WithoutAServerTheTabletGoesOnOffLine) {
+  Transferer();
+  base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, base.Fichier(u"mauvais.fdb"_s, QByteArray(5000, 'z')));
+  base.Dialogues.Reessaie(true).Reessaie(false);
+  const TBilanTransfert bilan = Transferer();
+  EXPECT_TRUE(!bilan.Connecte && bilan.HorsLigne);
+  EXPECT_FALSE(essai.Fenetre.Faits.contains(u"fin"_s)) << "giving up does not end the program";
+  // Cut short, it starts off-line again.
+  Regler(u"Transfert"_s, u"1"_s);
+  Regler(u"Offline"_s, u"0"_s);
+  essai.Controleur.FormShow();
+  EXPECT_TRUE(Globals.ModeHorsLigne);
+  EXPECT_EQ(Reglage("Offline") + Reglage("Transfert"), u"10");
+}
+
+TEST_F(TTabletteEssai, ADamagedCopyIsRefusedAndTheTapsStay) {
+  Photo(1, Jpeg(Qt::red));
+  Transferer();
+  Taps("11;2;20161003;120000000;1\n");
+  for (const QString& fichier : {Fichiers().Eleves, Fichiers().Classes}) {
+    QByteArray octets = LireFichier(fichier);
+    const QByteArray bons = octets;
+    octets[octets.size() / 2] = static_cast<char>(octets[octets.size() / 2] ^ 1);
+    for (const QByteArray& mauvais : {octets, bons.left(bons.size() - 1), QByteArray()}) {
+      EcrireFichier(fichier, mauvais);
+      EXPECT_THROW(TServiceHorsLigne(base.Reglages, base.Dialogues), Exception);
+    }
+    EcrireFichier(fichier, bons);
+  }
+  EcrireFichier(Fichiers().Photos, "abc");
+  base.Dialogues.Attend(u"PHOTOS"_s);
+  TServiceHorsLigne service(base.Reglages, base.Dialogues);
+  EXPECT_EQ(service.NombreEnAttente(), 1);
+  // A tap that cannot be written is not shown as one.
+  QFile::remove(Fichiers().Repas);
+  QDir().mkpath(Fichiers().Repas + u"/dossier"_s);
+  EXPECT_THROW(service.Toucher(*service.Eleves().TrouverParId(2), 42646), Exception);
+  EXPECT_FALSE(service.EstServi(*service.Eleves().TrouverParId(2), 42646));
+}
