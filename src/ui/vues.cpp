@@ -10,6 +10,14 @@
 #include "screens/commun/frm_liste.h"
 #include "screens/documents/frm_apercu.h"
 #include "screens/documents/frm_print_wizard.h"
+#include "screens/meals/frm_comptabilite.h"
+#include "screens/meals/frm_compte_eleve.h"
+#include "screens/meals/frm_cuisine.h"
+#include "screens/meals/frm_presence_repas.h"
+#include "screens/meals/frm_reservation.h"
+#include "screens/meals/frm_ticket.h"
+#include "screens/meals/frm_transfert_repas.h"
+#include "screens/meals/frm_transfert_ticket.h"
 #include "screens/parametres/frm_mon_ecole.h"
 #include "screens/parametres/frm_parametres.h"
 #include "screens/pupils/frm_import.h"
@@ -21,6 +29,14 @@
 #include "ui/commun/vue_liste.h"
 #include "ui/documents/vue_apercu.h"
 #include "ui/documents/vue_print_wizard.h"
+#include "ui/meals/vue_comptabilite.h"
+#include "ui/meals/vue_compte_eleve.h"
+#include "ui/meals/vue_cuisine.h"
+#include "ui/meals/vue_presence_repas.h"
+#include "ui/meals/vue_reservation.h"
+#include "ui/meals/vue_ticket.h"
+#include "ui/meals/vue_transfert_repas.h"
+#include "ui/meals/vue_transfert_ticket.h"
 #include "ui/parametres/vue_mon_ecole.h"
 #include "ui/parametres/vue_parametres.h"
 #include "ui/pupils/vue_import.h"
@@ -53,6 +69,16 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
       VueDe<TFrmSignaletique, VueSignaletique>(),
       VueDe<TfrmPresences, VuePresences>(),
       VueDe<TFrmReleveCalendrier, VueReleveCalendrier>(),
+      VueDe<TFrmReservation, VueReservation>(),
+      VueDe<TFrmReservation2, VueReservation>(),
+      VueDe<TFrmCuisine, VueCuisine>(),
+      VueDe<TFrmCuisine2, VueCuisine>(),
+      VueDe<TFrmCompteEleve, VueCompteEleve>(),
+      VueDe<TFrmTicket, VueTicket>(),
+      VueDe<TFrmTransfertTicket, VueTransfertTicket>(),
+      VueDe<TFrmComptabilite, VueComptabilite>(),
+      VueDe<TFrmPresenceRepas, VuePresenceRepas>(),
+      VueDe<TFrmTransfertRepas, VueTransfertRepas>(),
       VueDe<TFrmApercu, VueApercu>(),
       VueDe<TFrmPrintWizard, VuePrintWizard>(),
   };

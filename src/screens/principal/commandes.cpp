@@ -1,6 +1,13 @@
 #include "screens/principal/commandes.h"
 
 #include "screens/attendance/frm_presences.h"
+#include "screens/meals/frm_comptabilite.h"
+#include "screens/meals/frm_compte_eleve.h"
+#include "screens/meals/frm_cuisine.h"
+#include "screens/meals/frm_presence_repas.h"
+#include "screens/meals/frm_reservation.h"
+#include "screens/meals/frm_ticket.h"
+#include "screens/meals/frm_transfert_repas.h"
 #include "screens/parametres/frm_mon_ecole.h"
 #include "screens/parametres/frm_parametres.h"
 #include "screens/pupils/frm_import.h"
@@ -27,32 +34,50 @@ std::vector<TCommandePrincipale> CommandesPrincipales() {
       {AdvGlowButton1Click, PgEleve, T(u"&Présences"), T(u"view-barcode"), {}, false, Ecran<TfrmPresences>()},
       {btnVirementClick, PgEleve, T(u"&Virements"), T(u"view-bank"), {}, false, {}},
 
-      {btnCompteEleveClick, pgRepasNew, T(u"C&omptes"), T(u"wallet-open"), {}, false, {}},
-      {btnReservation2Click, pgRepasNew, T(u"&Réservation"), T(u"view-calendar-day"), {}, false, {}},
-      {btnClick, pgRepasNew, T(u"&Cuisine"), T(u"food"), {}, false, {}},
+      {btnCompteEleveClick, pgRepasNew, T(u"C&omptes"), T(u"wallet-open"), 2, false,
+       Ecran<TFrmCompteEleve>()},
+      {btnReservation2Click, pgRepasNew, T(u"&Réservation"), T(u"view-calendar-day"), 2, false,
+       Ecran<TFrmReservation2>()},
+      {btnClick, pgRepasNew, T(u"&Cuisine"), T(u"food"), 2, false, Ecran<TFrmCuisine2>()},
 
-      {btnTicketClick, pgRepas, T(u"&Tickets"), T(u"tag"), 6, true, {}},
-      {btnReservationClick, pgRepas, T(u"&Réservation"), T(u"view-calendar-day"), 6, false, {}},
-      {btnCuisineClick, pgRepas, T(u"&Cuisine"), T(u"food"), 6, false, {}},
-      {btnComptabiliteClick, pgRepas, T(u"C&ompta"), T(u"wallet-open"), {}, false, {}},
+      {btnTicketClick, pgRepas, T(u"&Tickets"), T(u"tag"), 6, true, Ecran<TFrmTicket>(TRemplacement::Cache)},
+      {btnReservationClick, pgRepas, T(u"&Réservation"), T(u"view-calendar-day"), 6, false,
+       Ecran<TFrmReservation>()},
+      {btnCuisineClick, pgRepas, T(u"&Cuisine"), T(u"food"), 6, false, Ecran<TFrmCuisine>()},
+      {btnComptabiliteClick, pgRepas, T(u"C&ompta"), T(u"wallet-open"), 2, false, Ecran<TFrmComptabilite>()},
 
       {AdvGlowButton8Click, PgParametre, T(u"&Importation"), T(u"document-import"), 0, false,
        Ecran<TFrmImport>()},
-      {AdvGlowButton16Click, PgParametre, T(u"&Frais"), T(u"view-financial-list"), 120, false, Ecran<TFrmListeFrais>()},
+      {AdvGlowButton16Click, PgParametre, T(u"&Frais"), T(u"view-financial-list"), 120, false,
+       Ecran<TFrmListeFrais>()},
       {AdvGlowButton3Click, PgParametre, T(u"&Mon école"), T(u"go-home"), {}, false, Ecran<TFrmMonEcole>()},
       {AdvGlowButton5Click, PgParametre, T(u"S&ervices"), T(u"chronometer"), 120, false,
        Ecran<TFrmParametresGarderies>()},
-      {AdvGlowButton6Click, PgParametre, T(u"&Paramètres"), T(u"configure"), {}, false, Ecran<TFrmParametres>(), true},
-      {btnActivitesClick,
+      {AdvGlowButton6Click,
        PgParametre,
-       T(u"&Activités"),
-       T(u"view-calendar-special-occasion"),
-       120,
+       T(u"&Paramètres"),
+       T(u"configure"),
+       {},
        false,
+       Ecran<TFrmParametres>(),
+       true},
+      {btnActivitesClick, PgParametre, T(u"&Activités"), T(u"view-calendar-special-occasion"), 120, false,
        Ecran<TFrmActivites>()},
 
-      {btnTransfertRepasClick, pgRepas3, T(u"&Transfert"), T(u"document-export"), {}, false, {}},
-      {btnReservationTabletteClick, pgRepas3, T(u"&Réservation"), T(u"view-calendar-day"), {}, false, {}},
+      {btnTransfertRepasClick,
+       pgRepas3,
+       T(u"&Transfert"),
+       T(u"document-export"),
+       {},
+       false,
+       Ecran<TFrmTransfertRepas>()},
+      {btnReservationTabletteClick,
+       pgRepas3,
+       T(u"&Réservation"),
+       T(u"view-calendar-day"),
+       {},
+       false,
+       Ecran<TFrmPresenceRepas>()},
       {AdvGlowButton4Click, pgRepas3, T(u"&Quitter"), T(u"application-exit"), {}, false, {}},
   };
 }

@@ -1,0 +1,208 @@
+#include "screens/meals/frm_compte_eleve.h"
+
+#include "core/conversions.h"
+#include "core/formats.h"
+#include "documents/cuisine.h"
+#include "pupils/eleves.h"
+#include "screens/documents/impression.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString Euros(Currency montant) { return FormatDeuxDecimales(montant) % u" €"; }
+
+}  // namespace
+
+TFrmCompteEleve::TFrmCompteEleve(TContexteEcran& contexte)
+    : Grille({{u"Nom de l'élève"_s, 260}, {u"Solde Compte"_s, 200}}), contexte_(contexte) {
+  liens_ += Grille.SurChoix.Suivre([this] { Annoncer(); });
+}
+
+void TFrmCompteEleve::FormShow() {
+  jour_.Definir(Aujourdhui());
+  Globals.Eleves->LibererCommandes();
+  Globals.Eleves->LibererRepasPaiements();
+  cmbClasseChange(0);
+}
+
+TDateTime TFrmCompteEleve::Aujourdhui() const { return contexte_.Controleur.Horloge().Aujourdhui(); }
+
+bool TFrmCompteEleve::DatesVisibles() const { return !Globals.ModeProfesseur; }
+
+TClasse* TFrmCompteEleve::Classe() const {
+  return classe_ > 0 ? &Globals.Eleves->GetClasse(classe_ - 1) : nullptr;
+}
+
+TEleve* TFrmCompteEleve::Courant() const {
+  const int ligne = Grille.LigneCourante();
+  return ligne < 0 ? nullptr : Grille.Ligne(ligne).Objet.En<TEleve>();
+}
+
+void TFrmCompteEleve::cmbClasseChange(int indice) {
+  btnAnnulerClick();
+  classe_ = indice;
+  Grille.ChoisirLigne(-1);
+  Remplir();
+}
+
+void TFrmCompteEleve::ChangerJour(void (TJourEcran::*pas)()) {
+  (jour_.*pas)();
+  Annoncer();
+}
+
+QString TFrmCompteEleve::Titre() const {
+  return Classe() != nullptr ? u"Compte classe du " % FormatJour(Aujourdhui()) : QString();
+}
+
+QString TFrmCompteEleve::TotalRecu() const {
+  Currency total;
+  if (const TClasse* classe = Classe())
+    for (const TEleve* eleve : classe->ListeEleves) total += eleve->RecuLe(Aujourdhui());
+  return u"Total reçu ce jour : " % Euros(total);
+}
+
+QString TFrmCompteEleve::TexteSolde(const TEleve& eleve) const {
+  const QString solde = Euros(eleve.SoldeRepas());
+  const bool paye = Globals.Eleves->RepasPaiements().PaiementDu(eleve.Id, Aujourdhui(),
+                                                                TPaiementRepas::Liquide) != nullptr ||
+                    eleve.RecuLe(Aujourdhui()) != Currency();
+  return paye ? solde % u"  (+" % Euros(eleve.RecuLe(Aujourdhui())) % u')' : solde;
+}
+
+void TFrmCompteEleve::Remplir() {
+  TEleve* courant = Courant();
+  {
+    const TGrille::TLot lot(Grille);
+    Grille.Vider();
+    if (const TClasse* classe = Classe())
+      for (TEleve* eleve : classe->ListeEleves)
+        Grille.Ajouter({eleve->NomComplet(), TexteSolde(*eleve)}, eleve);
+    const int ligne = courant != nullptr ? Grille.TrouverObjet(courant) : -1;
+    Grille.ChoisirLigne(ligne >= 0 ? ligne : qMin(0, Grille.NombreLignes() - 1));
+  }
+  Annoncer();
+}
+
+QString TFrmCompteEleve::NomEleve() const {
+  const TEleve* eleve = Courant();
+  return eleve != nullptr ? eleve->NomComplet() : QString();
+}
+
+TRepasPaiement* TFrmCompteEleve::PaiementDuJour() const {
+  const TEleve* eleve = Courant();
+  if (eleve == nullptr) return nullptr;
+  return Globals.Eleves->RepasPaiements().PaiementDu(eleve->Id, Aujourdhui(), TPaiementRepas::Liquide);
+}
+
+QString TFrmCompteEleve::TitreAjouteArgent() const {
+  return PaiementDuJour() != nullptr ? u"Modifier le paiement"_s : u"Ajouter un paiement"_s;
+}
+
+void TFrmCompteEleve::btnAjouteArgentClick() {
+  if (Courant() == nullptr) {
+    contexte_.Dialogues().Message(u"Veuillez sélectionner un élève dans la liste"_s);
+    return;
+  }
+  Vider();
+  const TRepasPaiement* paiement = PaiementDuJour();
+  if (paiement != nullptr)
+    if (const TDetailPaiementLiquide* detail = Globals.Eleves->RepasPaiements().Detail(*paiement))
+      for (std::size_t i = 0; i < kNombreCoupures; ++i) champs_[i] = IntOuVide(detail->Comptage[i]);
+  enSaisie_ = true;
+  Annoncer();
+}
+
+void TFrmCompteEleve::edChange(int coupure, const QString& texte) {
+  champs_[static_cast<std::size_t>(coupure)] = texte;
+  compte_ = true;
+  Annoncer();
+}
+
+void TFrmCompteEleve::btnCoupureClick(int coupure) {
+  edChange(coupure, QString::number(LireNombreCoupures(Champ(coupure)) + 1));
+}
+
+TComptage TFrmCompteEleve::Comptage() const {
+  TComptage comptage{};
+  for (std::size_t i = 0; i < kNombreCoupures; ++i) comptage[i] = LireNombreCoupures(champs_[i]);
+  return comptage;
+}
+
+QString TFrmCompteEleve::lblTotal() const {
+  const TRepasPaiement* paiement = compte_ ? nullptr : PaiementDuJour();
+  return Euros(paiement != nullptr ? paiement->Montant : Total(Comptage()));
+}
+
+void TFrmCompteEleve::btnValiderClick() {
+  TEleve* eleve = Courant();
+  if (!enSaisie_ || eleve == nullptr) return;
+  eleve->EncaisserRepas(Aujourdhui(), Comptage());
+  contexte_.Principal.Etat(TNiveauEtat::Succes,
+                           u"Enregistré pour " % eleve->NomComplet() % u" : " % lblTotal());
+  Vider();
+  Remplir();
+}
+
+void TFrmCompteEleve::btnAnnulerClick() {
+  Vider();
+  Annoncer();
+}
+
+void TFrmCompteEleve::Vider() {
+  champs_.fill({});
+  enSaisie_ = false;
+  compte_ = false;
+}
+
+TGrille TFrmCompteEleve::Caisse() const {
+  TComptage total{};
+  TRepasPaiements& paiements = Globals.Eleves->RepasPaiements();
+  for (const TRepasPaiement& paiement : paiements)
+    if (paiement.DatePaiement == Aujourdhui() && paiement.TypePaiement == TPaiementRepas::Liquide)
+      if (const TDetailPaiementLiquide* detail = paiements.Detail(paiement))
+        for (std::size_t i = 0; i < kNombreCoupures; ++i) total[i] += detail->Comptage[i];
+  TGrille caisse(
+      {{u"Coupure"_s, 200}, {u"Nombre"_s, 90, TGenre::Entier}, {u"Montant"_s, 110, TGenre::Montant}});
+  for (std::size_t i = 0; i < kNombreCoupures; ++i)
+    caisse.Ajouter({QString::fromUtf16(Coupures()[i].Libelle), total[i],
+                    Currency::Brut(Coupures()[i].Centimes * 100LL) * total[i]});
+  caisse.Ajouter({u"Total"_s, {}, Total(total)});
+  return caisse;
+}
+
+void TFrmCompteEleve::ImprimerCaisse() {
+  TRapport rapport(u"Caisse des repas"_s, u"RepDynamicFromListviewPortrait"_s);
+  rapport.AjouterVariable(u"NomRapportSSTitre", FormatJourLong(Aujourdhui()));
+  rapport.AjouterVariable(u"NomEcole", Globals.Parametres->GetParametre(TParam::NomEcole));
+  rapport.ChargerColonnesListe(Caisse());
+  TResultat resultat;
+  resultat.Rapports.push_back(std::move(rapport));
+  TImpression(contexte_, {}).Montrer(std::move(resultat));
+}
+
+bool TFrmCompteEleve::RecevoirMessage(const TMessage& message) {
+  if (message.Code != TCodeMessage::Imprimer) return false;
+  Imprimer();
+  return true;
+}
+
+void TFrmCompteEleve::Imprimer() {
+  const TClasse* classe = Classe();
+  if (classe == nullptr) {
+    contexte_.Dialogues().Message(u"Veuillez choisir une classe dans la liste"_s);
+    return;
+  }
+  TImpression(contexte_, {})
+      .Montrer(ChoixDeRepas(ContexteDesGlobals(contexte_.Controleur.Horloge()), *classe, jour_.Jour()));
+}
+
+QString TFrmCompteEleve::EnSuspens() const {
+  return enSaisie_ && compte_ ? u"l'argent compté pour " % NomEleve() : QString();
+}
+
+bool TFrmCompteEleve::FormCloseQuery() {
+  return EnSuspens().isEmpty() || contexte_.Dialogues().ConfirmerGrave(
+                                      u"L'argent compté pour %1 n'est pas enregistré. Quitter tout de "
+                                      "même cet écran ?"_s.arg(NomEleve()));
+}

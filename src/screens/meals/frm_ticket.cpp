@@ -1,0 +1,223 @@
+#include "screens/meals/frm_ticket.h"
+
+#include "core/formats.h"
+#include "documents/tickets.h"
+#include "pupils/eleves.h"
+#include "screens/documents/assistant.h"
+#include "screens/documents/impression.h"
+#include "screens/meals/frm_ajout_ticket.h"
+#include "screens/meals/frm_transfert_ticket.h"
+#include "workflows/prix_repas.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kPageDetail = 1;
+constexpr int kTicketsBas = 2;
+
+enum TTitre { kParents, kParClasse };
+
+int EtatDe(int solde) {
+  if (solde < 0) return TFrmTicket::Negatif;
+  if (solde == 0) return TFrmTicket::Sans;
+  return solde <= kTicketsBas ? TFrmTicket::Bas : TFrmTicket::Suffisant;
+}
+
+}  // namespace
+
+TFrmTicket::TFrmTicket(TContexteEcran& contexte)
+    : LstEleve(
+          {{u"Nom prénom"_s, 240}, {u"Nb tickets"_s, 90, TGenre::Entier}, {u"État"_s, 110, TGenre::Etat}}),
+      Detail({{u"Date achat"_s, 200},
+              {u"Date utilisation"_s, 150, TGenre::Date},
+              {u"Total"_s, 70, TGenre::Entier}}),
+      contexte_(contexte) {
+  LstEleve.Etats = {{QString(), QString()},
+                    {u"en négatif"_s, u"data-error"_s},
+                    {u"sans ticket"_s, u"data-warning"_s},
+                    {u"< 3 tickets"_s, u"data-information"_s}};
+  liens_ += LstEleve.SurChoix.Suivre([this] { LstEleveClick(); });
+}
+
+void TFrmTicket::FormShow() {
+  Globals.Eleves->LibererCommandes();
+  page_ = 0;
+  PrendreClasse(Globals.ClasseCourante);
+}
+
+QString TFrmTicket::NomClasse() const { return classe_ != nullptr ? classe_->Libelle() : QString(); }
+
+QStringList TFrmTicket::Compteurs() const {
+  return {QString::number(compteurs_.Negatif) % u" élève(s) en négatif",
+          QString::number(compteurs_.Sans) % u" élève(s) sans ticket",
+          QString::number(compteurs_.Bas) % u" élève(s) < 3 tickets"};
+}
+
+TEleve* TFrmTicket::Courant() const {
+  const int ligne = LstEleve.LigneCourante();
+  return ligne < 0 ? nullptr : LstEleve.Ligne(ligne).Objet.En<TEleve>();
+}
+
+TTicket* TFrmTicket::TicketCourant() const {
+  const int ligne = Detail.LigneCourante();
+  return ligne < 0 ? nullptr : Detail.Ligne(ligne).Objet.En<TTicket>();
+}
+
+QString TFrmTicket::NomEleve() const {
+  const TEleve* eleve = Courant();
+  return eleve != nullptr ? eleve->NomComplet() : QString();
+}
+
+void TFrmTicket::ChoisirPage(int page) {
+  page_ = page;
+  Annoncer();
+}
+
+void TFrmTicket::MontrerSousTrois(bool oui) {
+  sousTrois_ = oui;
+  Remplir(Courant());
+}
+
+void TFrmTicket::PrendreClasse(TClasse* classe) {
+  classe_ = classe;
+  Remplir(nullptr);
+}
+
+void TFrmTicket::PrendreEleve(TEleve* eleve) {
+  if (eleve == nullptr) return;
+  classe_ = eleve->Classe;
+  Remplir(eleve);
+}
+
+void TFrmTicket::Remplir(TEleve* choisi) {
+  remplit_ = true;
+  {
+    const TGrille::TLot lot(LstEleve);
+    LstEleve.Vider();
+    compteurs_ = classe_ != nullptr ? CompterTickets(*classe_) : TCompteursTickets();
+    if (classe_ != nullptr)
+      for (TEleve* eleve : classe_->ListeEleves) {
+        const int solde = eleve->GetTickets().Solde();
+        if (!sousTrois_ || solde <= kTicketsBas)
+          LstEleve.Ajouter({eleve->NomComplet(), solde, {}}, eleve, EtatDe(solde));
+      }
+    LstEleve.ChoisirLigne(choisi != nullptr ? LstEleve.TrouverObjet(choisi) : -1);
+  }
+  remplit_ = false;
+  RemplirDetail();
+  Annoncer();
+}
+
+void TFrmTicket::RemplirDetail() {
+  const TGrille::TLot lot(Detail);
+  Detail.Vider();
+  const TEleve* eleve = Courant();
+  if (eleve == nullptr) return;
+  const TTickets& tickets = eleve->GetTickets();
+  for (const TDateTime date : tickets.DatesAchat()) AjouterAchat(tickets, date);
+}
+
+void TFrmTicket::AjouterAchat(const TTickets& tickets, TDateTime date) {
+  const auto achetes = tickets.AchetesLe(date);
+  Detail.AjouterTete(
+      {date == 0.0 ? u"Tickets manquants"_s : FormatDate(date), {}, static_cast<int>(achetes.size())});
+  for (TTicket* ticket : achetes)
+    Detail.Ajouter({FormatDate(ticket->DateAchat), TValeurVue(ticket->DateUtilisation), 1}, ticket);
+}
+
+// A click makes the pupil the current one of the whole program.
+void TFrmTicket::LstEleveClick() {
+  if (remplit_) return;
+  RemplirDetail();
+  if (TEleve* eleve = Courant(); eleve != nullptr && eleve != Globals.EleveCourant) {
+    page_ = kPageDetail;
+    Globals.EleveCourant = eleve;
+    Globals.ClasseCourante = eleve->Classe;
+    contexte_.Principal.Envoyer({TCodeMessage::EleveChange, {}});
+  }
+  Annoncer();
+}
+
+bool TFrmTicket::ExigeEleve() const {
+  if (Courant() != nullptr) return true;
+  contexte_.Dialogues().Message(u"Veuillez sélectionner un élève dans la liste."_s);
+  return false;
+}
+
+bool TFrmTicket::ExigeTicket() const {
+  if (!ExigeEleve()) return false;
+  if (TicketCourant() != nullptr) return true;
+  contexte_.Dialogues().Message(u"Veuillez sélectionner un ticket dans la liste."_s);
+  return false;
+}
+
+void TFrmTicket::btnEtape1Click() {
+  if (!ExigeEleve()) return;
+  TEleve& eleve = *Courant();
+  TFrmAjoutTicket ajout(contexte_, eleve, PrixSection(eleve.Categorie()));
+  if (contexte_.Modale.MontrerModal(ajout) != TResultatModal::Valide) return;
+  ajout.Enregistrer();
+  contexte_.Principal.Etat(TNiveauEtat::Succes, u"Enregistré pour " % eleve.NomComplet());
+  Remplir(&eleve);
+}
+
+void TFrmTicket::AdvGlowButton1Click() {
+  TEleve* eleve = Courant();
+  Globals.Eleves->LibererCommandes();
+  Remplir(eleve);
+}
+
+void TFrmTicket::AdvGlowButton2Click() {
+  if (!ExigeTicket()) return;
+  TEleve* eleve = Courant();
+  TTicket& ticket = *TicketCourant();
+  if (SupprimerTicket(contexte_.Dialogues(), *eleve, ticket)) Remplir(eleve);
+}
+
+void TFrmTicket::AdvGlowButton3Click() {
+  if (!ExigeTicket()) return;
+  TEleve* eleve = Courant();
+  const int ticket = TicketCourant()->Id;
+  TFrmTransfertTicket transfert;
+  if (contexte_.Modale.MontrerModal(transfert) != TResultatModal::Valide || transfert.Choisi() == nullptr)
+    return;
+  Globals.Eleves->DeplacerTicket(eleve->Id, transfert.Choisi()->Id, ticket);
+  contexte_.Principal.Etat(TNiveauEtat::Succes, u"Ticket transféré à " % transfert.Choisi()->NomComplet());
+  Remplir(eleve);
+}
+
+bool TFrmTicket::RecevoirMessage(const TMessage& message) {
+  switch (message.Code) {
+    case TCodeMessage::EleveChange:
+      if (Globals.EleveCourant != Courant()) PrendreEleve(Globals.EleveCourant);
+      return true;
+    case TCodeMessage::ClasseChange:
+      PrendreClasse(Globals.ClasseCourante);
+      return true;
+    case TCodeMessage::Imprimer:
+      Proposer();
+      return true;
+    case TCodeMessage::AssistantConfirme:
+      if (const auto* choix = message.En<TChoixDocument>()) Imprimer(*choix);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void TFrmTicket::Proposer() {
+  const auto choix = contexte_.Assistant->Demander(
+      TDemandeAssistant::De({{u"Récapitulatif des tickets pour les parents"_s},
+                             {u"Récapitulatif des tickets disponibles par classe"_s}}));
+  if (choix) Imprimer(*choix);
+}
+
+void TFrmTicket::Imprimer(const TChoixDocument& choix) {
+  const TDateTime jour = contexte_.Controleur.Horloge().Aujourdhui();
+  const TContexteDocument contexte = ContexteDesGlobals(contexte_.Controleur.Horloge());
+  const TElevesChoisis eleves = ElevesDuChoix(*Globals.Eleves, choix);
+  TImpression(contexte_, {})
+      .Montrer(choix.Indice == kParents ? TicketsParents(contexte, eleves, jour)
+                                        : TicketsParClasse(contexte, eleves, jour));
+}

@@ -1,0 +1,66 @@
+#pragma once
+#include "forms/grille.h"
+#include "meals/tickets.h"
+#include "screens/contexte_ecran.h"
+#include "workflows/vente_tickets.h"
+
+/// "Gestion des tickets": the tickets of the pupils of a class, and of one of them in detail.
+class TFrmTicket : public TForm {
+ public:
+  explicit TFrmTicket(TContexteEcran& contexte);
+
+  /// "P3 A"; "" without a class.
+  QString NomClasse() const;
+  /// "2 élève(s) en négatif" and so on, in the order of the states of the list.
+  QStringList Compteurs() const;
+  enum TEtat { Suffisant, Negatif, Sans, Bas };
+  TGrille LstEleve;  ///< "Nom prénom", "Nb tickets"; the object of a row is its pupil
+  QString NomEleve() const;
+  /// "Date achat", "Date utilisation", "Total": a head a purchase, its tickets below. The object of a row is
+  /// its TTicket.
+  TGrille Detail;
+  /// "Aperçu classe", then "Détail de l'élève".
+  int Page() const { return page_; }
+  void ChoisirPage(int page);
+  /// Only pupils with less than three tickets are listed.
+  bool SousTrois() const { return sousTrois_; }
+  void MontrerSousTrois(bool oui);
+
+  void LstEleveClick();
+  /// "Ajouter des tickets"
+  void btnEtape1Click();
+  /// "Actualiser"
+  void AdvGlowButton1Click();
+  /// "Supprimer un ticket"
+  void AdvGlowButton2Click();
+  /// "Transférer un ticket"
+  void AdvGlowButton3Click();
+
+  bool RecevoirMessage(const TMessage& message) override;
+  bool Accepte(TCodeMessage code) const override { return code == TCodeMessage::Imprimer; }
+
+ protected:
+  void FormShow() override;
+
+ private:
+  TEleve* Courant() const;
+  TTicket* TicketCourant() const;
+  /// False, after a message, without a pupil, or without a ticket.
+  bool ExigeEleve() const;
+  bool ExigeTicket() const;
+  void PrendreClasse(TClasse* classe);
+  void PrendreEleve(TEleve* eleve);
+  void Remplir(TEleve* choisi);
+  void RemplirDetail();
+  void AjouterAchat(const TTickets& tickets, TDateTime date);
+  void Imprimer(const struct TChoixDocument& choix);
+  void Proposer();
+
+  TContexteEcran& contexte_;
+  TClasse* classe_ = nullptr;
+  TCompteursTickets compteurs_;
+  int page_ = 0;
+  bool sousTrois_ = false;
+  bool remplit_ = false;
+  TLiens liens_;
+};

@@ -1,0 +1,72 @@
+#include "ui/meals/choix_classe_jour.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QToolButton>
+
+#include "ui/commun/etiquette.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QToolButton* Pas(const QString& icone, const QString& nom, const QKeySequence& touche) {
+  auto* bouton = new QToolButton;
+  bouton->setIcon(Theme::Icone(icone));
+  bouton->setAccessibleName(nom);
+  bouton->setShortcut(touche);
+  bouton->setToolTip(nom % u" (" % touche.toString(QKeySequence::NativeText) % u')');
+  bouton->setFocusPolicy(Qt::StrongFocus);
+  return bouton;
+}
+
+}  // namespace
+
+ChoixClasseJour::ChoixClasseJour(bool avecClasse, QWidget* parent)
+    : QWidget(parent),
+      classes_(new QComboBox),
+      recule_(Pas(u"go-previous"_s, u"Jour précédent"_s, QKeySequence(u"Alt+Left"_s))),
+      jour_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
+      avance_(Pas(u"go-next"_s, u"Jour suivant"_s, QKeySequence(u"Alt+Right"_s))) {
+  classes_->setAccessibleName(u"Classe"_s);
+  classes_->setMinimumWidth(Theme::Px(220));
+  classes_->setVisible(avecClasse);
+  auto* ligne = new QHBoxLayout(this);
+  ligne->setContentsMargins(0, 0, 0, 0);
+  ligne->setSpacing(Theme::Px(8));
+  if (avecClasse) ligne->addWidget(classes_);
+  for (QWidget* widget :
+       {static_cast<QWidget*>(recule_), static_cast<QWidget*>(jour_), static_cast<QWidget*>(avance_)})
+    ligne->addWidget(widget);
+  ligne->addStretch(1);
+  if (!avecClasse) classes_->setParent(this);
+  connect(classes_, &QComboBox::activated, this, &ChoixClasseJour::ClasseChoisie);
+  connect(recule_, &QToolButton::clicked, this, &ChoixClasseJour::Recule);
+  connect(avance_, &QToolButton::clicked, this, &ChoixClasseJour::Avance);
+}
+
+void ChoixClasseJour::DefinirClasses(const QStringList& classes, int choisie) {
+  const QSignalBlocker silence(classes_);
+  QStringList presentes;
+  for (int i = 0; i < classes_->count(); ++i) presentes += classes_->itemText(i);
+  if (presentes != classes) {
+    classes_->clear();
+    classes_->addItems(classes);
+  }
+  classes_->setCurrentIndex(choisie);
+}
+
+void ChoixClasseJour::DefinirJour(const QString& titre, bool pas) {
+  jour_->setText(titre);
+  recule_->setVisible(pas);
+  avance_->setVisible(pas);
+}
+
+void ChoixClasseJour::Verrouiller(bool verrou) {
+  for (QWidget* widget :
+       {static_cast<QWidget*>(classes_), static_cast<QWidget*>(recule_), static_cast<QWidget*>(avance_)})
+    widget->setEnabled(!verrou);
+}
+
+void ChoixClasseJour::AjouterAction(QWidget* action) { layout()->addWidget(action); }

@@ -1,0 +1,183 @@
+#include "ui/meals/vue_presence_repas.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "screens/meals/frm_presence_repas.h"
+#include "ui/commun/bouton.h"
+#include "ui/commun/etat_vide.h"
+#include "ui/commun/rangee_pliante.h"
+#include "ui/meals/cadre_eleve.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kLargeurBouton = 180;
+constexpr int kHauteurBouton = 48;
+constexpr int kMarge = 18;
+constexpr int kMinuteMs = 30'000;
+
+QPushButton* GrandBouton(const QString& texte) {
+  QPushButton* bouton = BoutonSimple(texte);
+  bouton->setMinimumSize(Theme::Px(kLargeurBouton), Theme::Px(kHauteurBouton));
+  return bouton;
+}
+
+void Vider(QLayout& place) {
+  while (QLayoutItem* element = place.takeAt(0)) {
+    if (QWidget* widget = element->widget()) {
+      widget->hide();
+      widget->deleteLater();
+    }
+    delete element;
+  }
+}
+
+}  // namespace
+
+VuePresenceRepas::VuePresenceRepas(TFrmPresenceRepas& form, QWidget* parent)
+    : QWidget(parent),
+      form_(form),
+      date_(new Etiquette({}, TRole::Texte, &Theme::TitreAccueil)),
+      avertissement_(new Etiquette({}, TRole::Erreur, &Theme::Gras)),
+      attente_(new Etiquette({}, TRole::Secondaire)),
+      transfert_(new Etiquette({}, TRole::Secondaire)),
+      recherche_(new QLineEdit),
+      classe_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
+      cadres_(new QScrollArea),
+      vide_(new EtatVide(cadres_)),
+      minuterie_(new QTimer(this)) {
+  auto* tete = new QHBoxLayout;
+  tete->addWidget(date_, 1);
+  auto* notes = new QVBoxLayout;
+  notes->addWidget(attente_, 0, Qt::AlignRight);
+  notes->addWidget(transfert_, 0, Qt::AlignRight);
+  tete->addLayout(notes);
+  auto* corps = new QHBoxLayout;
+  corps->setSpacing(Theme::Px(16));
+  corps->addWidget(Gauche());
+  corps->addWidget(Droite(), 1);
+  auto* colonne = new QVBoxLayout(this);
+  colonne->setContentsMargins(Theme::Px(16), Theme::Px(16), Theme::Px(16), Theme::Px(12));
+  colonne->addLayout(tete);
+  colonne->addWidget(avertissement_);
+  colonne->addLayout(corps, 1);
+  connect(minuterie_, &QTimer::timeout, this, [this] { form_.Horloge(); });
+  minuterie_->start(kMinuteMs);
+  lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
+  Actualiser();
+}
+
+QWidget* VuePresenceRepas::Gauche() {
+  auto* place = new QWidget;
+  auto* colonne = new QVBoxLayout(place);
+  colonne->setContentsMargins(0, 0, 0, 0);
+  boutons_ = new QVBoxLayout;
+  boutons_->setSpacing(Theme::Px(8));
+  colonne->addLayout(boutons_);
+  colonne->addStretch(1);
+  auto* defile = new QScrollArea;
+  defile->setWidgetResizable(true);
+  defile->setFrameShape(QFrame::NoFrame);
+  defile->setFixedWidth(Theme::Px(kLargeurBouton + 30));
+  defile->setWidget(place);
+  return defile;
+}
+
+QWidget* VuePresenceRepas::Droite() {
+  recherche_->setPlaceholderText(u"Rechercher un élève"_s);
+  recherche_->setAccessibleName(u"Rechercher un élève"_s);
+  recherche_->setClearButtonEnabled(true);
+  recherche_->setMinimumHeight(Theme::Px(kHauteurBouton));
+  connect(recherche_, &QLineEdit::textEdited, this, [this](const QString& t) { form_.edRechercheChange(t); });
+  cadres_->setWidgetResizable(true);
+  cadres_->setFrameShape(QFrame::NoFrame);
+  auto* place = new QWidget;
+  auto* colonne = new QVBoxLayout(place);
+  colonne->setContentsMargins(0, 0, 0, 0);
+  auto* tete = new QHBoxLayout;
+  tete->addWidget(classe_, 1);
+  tete->addWidget(recherche_);
+  colonne->addLayout(tete);
+  colonne->addWidget(cadres_, 1);
+  return place;
+}
+
+void VuePresenceRepas::Actualiser() {
+  date_->setText(form_.lblDate());
+  avertissement_->setText(form_.AvertissementDate());
+  avertissement_->setVisible(!form_.AvertissementDate().isEmpty());
+  attente_->setText(form_.NoteEnAttente());
+  transfert_->setText(form_.NoteTransfert());
+  classe_->setText(form_.lblClasse());
+  if (recherche_->text().trimmed() != form_.Recherche()) recherche_->setText(form_.Recherche());
+  RemplirBoutons();
+  RemplirCadres();
+  if (form_.Empechement().isEmpty())
+    vide_->Cacher();
+  else
+    vide_->Montrer(u"Aucun élève à servir"_s, form_.Empechement());
+}
+
+void VuePresenceRepas::RemplirBoutons() {
+  Vider(*boutons_);
+  if (!form_.AnneeChoisie()) {
+    for (const QString& annee : form_.Annees()) {
+      QPushButton* bouton = GrandBouton(annee);
+      connect(
+          bouton, &QPushButton::clicked, this, [this, annee] { form_.btnAnneeClick(annee); },
+          Qt::QueuedConnection);
+      boutons_->addWidget(bouton);
+    }
+    return;
+  }
+  for (const auto& [classe, libelle, compte] : form_.ClassesDeLAnnee()) {
+    QPushButton* bouton = GrandBouton(libelle % u"\n" % compte);
+    connect(
+        bouton, &QPushButton::clicked, this, [this, classe = classe] { form_.btnClasseClick(*classe); },
+        Qt::QueuedConnection);
+    boutons_->addWidget(bouton);
+  }
+  boutons_->addSpacing(Theme::Px(20));
+  QPushButton* retour = GrandBouton(u"RETOUR"_s);
+  connect(
+      retour, &QPushButton::clicked, this, [this] { form_.btnRetourClick(); }, Qt::QueuedConnection);
+  boutons_->addWidget(retour);
+}
+
+bool VuePresenceRepas::MettreAJourCadres() {
+  const auto cadres = form_.Cadres();
+  const bool memes = std::ranges::equal(
+      cadres, montres_, [](const auto& cadre, const auto& montre) { return cadre.Eleve == montre.first; });
+  if (!memes) return false;
+  for (std::size_t i = 0; i < cadres.size(); ++i)
+    montres_[i].second->Definir(cadres[i].Statut, cadres[i].Servi, cadres[i].Radie);
+  return true;
+}
+
+void VuePresenceRepas::RemplirCadres() {
+  if (!montres_.empty() && MettreAJourCadres()) return;
+  montres_.clear();
+  auto* place = new QWidget;
+  auto* rangees = new RangeePliante;
+  rangees->setContentsMargins(Theme::Px(kMarge), 0, Theme::Px(kMarge), 0);
+  rangees->setSpacing(Theme::Px(kMarge));
+  auto* colonne = new QVBoxLayout(place);
+  colonne->addLayout(rangees);
+  colonne->addStretch(1);
+  for (const TFrmPresenceRepas::TCadre& cadre : form_.Cadres()) {
+    auto* bouton = new CadreEleve(cadre.Nom, cadre.Prenom, TFrmPresenceRepas::Photo(*cadre.Eleve));
+    bouton->Definir(cadre.Statut, cadre.Servi, cadre.Radie);
+    connect(
+        bouton, &QAbstractButton::clicked, this, [this, eleve = cadre.Eleve] { form_.CadreClick(*eleve); },
+        Qt::QueuedConnection);
+    rangees->addWidget(bouton);
+    montres_.emplace_back(cadre.Eleve, bouton);
+  }
+  cadres_->setWidget(place);
+}

@@ -1,0 +1,109 @@
+#include "ui/meals/vue_reservation.h"
+
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include "screens/meals/frm_reservation.h"
+#include "ui/commun/bouton.h"
+#include "ui/commun/compteur.h"
+#include "ui/commun/etat_vide.h"
+#include "ui/commun/rangee_pliante.h"
+#include "ui/commun/titres.h"
+#include "ui/commun/vue_grille.h"
+#include "ui/meals/choix_classe_jour.h"
+#include "ui/meals/grille_commandes.h"
+
+using namespace Qt::StringLiterals;
+
+VueReservation::VueReservation(TFrmReservation& form, QWidget* parent)
+    : QWidget(parent),
+      form_(form),
+      choix_(new ChoixClasseJour(true)),
+      grille_(new GrilleCommandes(form)),
+      vueMois_(new VueGrille(mois_, u"Commandes du mois"_s, u"Reservation/Mois"_s)),
+      pages_(new QStackedWidget),
+      boutonMois_(BoutonSimple(u"Le mois"_s, u"view-calendar-month"_s)),
+      nom_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
+      solde_(new Etiquette({}, TRole::Texte, &Theme::Gras)),
+      vide_(new EtatVide(grille_)) {
+  Disposer();
+  connect(choix_, &ChoixClasseJour::ClasseChoisie, this, [this](int i) { form_.cmbClasseChange(i); });
+  connect(choix_, &ChoixClasseJour::Recule, this, [this] { form_.btnReculeDateClick(); });
+  connect(choix_, &ChoixClasseJour::Avance, this, [this] { form_.btnAvanceDateClick(); });
+  connect(boutonMois_, &QPushButton::toggled, this, &VueReservation::MontrerMois);
+  liens_ += form_.SurChangement.Suivre([this] { Actualiser(); });
+  Actualiser();
+}
+
+QLayout* VueReservation::Boutons() {
+  reprises_ = {BoutonSimple(u"Comme la veille"_s, u"edit-copy"_s),
+               BoutonSimple(u"Comme la semaine passée"_s, u"edit-copy"_s)};
+  connect(reprises_[0], &QPushButton::clicked, this, [this] { form_.CommeLaVeille(); });
+  connect(reprises_[1], &QPushButton::clicked, this, [this] { form_.CommeLaSemainePassee(); });
+  QPushButton* actualiser = BoutonSimple(u"Actualiser"_s, u"view-refresh"_s);
+  actualiser->setShortcut(QKeySequence::Refresh);
+  connect(actualiser, &QPushButton::clicked, this, [this] { form_.Actualiser(); });
+  boutonMois_->setCheckable(true);
+  auto* rangee = new RangeePliante;
+  for (QPushButton* bouton : {reprises_[0], reprises_[1], boutonMois_, actualiser}) rangee->addWidget(bouton);
+  return rangee;
+}
+
+QLayout* VueReservation::Comptes() {
+  auto* ligne = new QHBoxLayout;
+  ligne->setSpacing(Theme::Px(32));
+  for (Compteur*& compteur : comptes_) ligne->addWidget(compteur = new Compteur({}));
+  ligne->addStretch(1);
+  return ligne;
+}
+
+QLayout* VueReservation::Eleve() {
+  auto* ligne = new QHBoxLayout;
+  ligne->setSpacing(Theme::Px(16));
+  ligne->addWidget(nom_);
+  ligne->addWidget(solde_);
+  ligne->addStretch(1);
+  return ligne;
+}
+
+void VueReservation::Disposer() {
+  pages_->addWidget(grille_);
+  pages_->addWidget(vueMois_);
+  auto* colonne = new QVBoxLayout(this);
+  const int marge = Theme::Px(16);
+  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
+  colonne->setSpacing(Theme::Px(12));
+  colonne->addWidget(new TitreEcran(u"Réservation"_s));
+  colonne->addWidget(choix_);
+  colonne->addLayout(Boutons());
+  colonne->addLayout(Comptes());
+  colonne->addLayout(Eleve());
+  colonne->addWidget(pages_, 1);
+}
+
+void VueReservation::MontrerMois(bool mois) {
+  if (mois) form_.RemplirMois(mois_);
+  pages_->setCurrentWidget(mois ? static_cast<QWidget*>(vueMois_) : static_cast<QWidget*>(grille_));
+}
+
+void VueReservation::Actualiser() {
+  choix_->DefinirClasses(form_.Classes(), form_.IndiceClasse());
+  choix_->DefinirJour(form_.TitreJour(), form_.DatesVisibles());
+  choix_->Verrouiller(form_.EstVerrouillee());
+  const auto compteurs = form_.Compteurs();
+  for (std::size_t i = 0; i < comptes_.size(); ++i) {
+    comptes_[i]->DefinirMot(compteurs[i].Libelle);
+    comptes_[i]->Definir(compteurs[i].Nombre);
+  }
+  nom_->setText(form_.NomEleve());
+  solde_->setText(form_.TexteSolde());
+  solde_->DefinirRole(form_.SoldeSuffit() ? TRole::Succes : TRole::Erreur);
+  for (QPushButton* bouton : reprises_)
+    bouton->setEnabled(form_.IndiceClasse() > 0 && !form_.EstVerrouillee());
+  if (boutonMois_->isChecked()) form_.RemplirMois(mois_);
+  if (form_.Grille.NombreLignes() > 0)
+    vide_->Cacher();
+  else
+    vide_->Montrer(u"Aucun élève à montrer"_s, u"Choisissez une classe dans la liste."_s);
+}

@@ -1,0 +1,44 @@
+#pragma once
+#include <QWidget>
+#include <array>
+
+#include "forms/grille.h"
+
+class ChoixClasseJour;
+class Compteur;
+class EtatVide;
+class Etiquette;
+class GrilleCommandes;
+class QPushButton;
+class QStackedWidget;
+class TFrmReservation;
+class VueGrille;
+
+/// "Réservation": the grid of a class and a day, or the month at a glance, and the pupil in hand.
+class VueReservation : public QWidget {
+  Q_OBJECT
+ public:
+  VueReservation(TFrmReservation& form, QWidget* parent);
+
+ private:
+  void Disposer();
+  QLayout* Boutons();
+  QLayout* Comptes();
+  QLayout* Eleve();
+  void Actualiser();
+  void MontrerMois(bool mois);
+
+  TFrmReservation& form_;
+  ChoixClasseJour* choix_;
+  std::array<Compteur*, 3> comptes_{};
+  GrilleCommandes* grille_;
+  TGrille mois_;
+  VueGrille* vueMois_;
+  QStackedWidget* pages_;
+  QPushButton* boutonMois_;
+  std::array<QPushButton*, 2> reprises_{};
+  Etiquette* nom_;
+  Etiquette* solde_;
+  EtatVide* vide_;
+  TLiens liens_;
+};

@@ -1,0 +1,104 @@
+#include "ui/meals/vue_ticket.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "screens/meals/frm_ticket.h"
+#include "ui/commun/bouton.h"
+#include "ui/commun/etat_vide.h"
+#include "ui/commun/rangee_pliante.h"
+#include "ui/commun/titres.h"
+#include "ui/commun/vue_grille.h"
+
+using namespace Qt::StringLiterals;
+
+VueTicket::VueTicket(TFrmTicket& form, QWidget* parent)
+    : QWidget(parent),
+      form_(form),
+      classe_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
+      eleves_(new VueGrille(form.LstEleve, u"Élèves de la classe"_s, u"Tickets/Eleves"_s)),
+      eleve_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
+      detail_(new VueGrille(form.Detail, u"Tickets de l'élève"_s, u"Tickets/Detail"_s)),
+      pages_(new QTabWidget),
+      vide_(new EtatVide(eleves_)) {
+  pages_->addTab(Classe(), u"Aperçu classe"_s);
+  pages_->addTab(PageDetail(), u"Détail de l'élève"_s);
+  connect(pages_, &QTabWidget::currentChanged, this, [this](int page) { form_.ChoisirPage(page); });
+  connect(detail_, &VueGrille::Suppression, this, [this] { form_.AdvGlowButton2Click(); });
+  auto* colonne = new QVBoxLayout(this);
+  const int marge = Theme::Px(16);
+  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
+  colonne->setSpacing(Theme::Px(12));
+  colonne->addWidget(new TitreEcran(u"Gestion des tickets"_s));
+  colonne->addLayout(Boutons());
+  colonne->addWidget(pages_, 1);
+  liens_ += form_.SurChangement.Suivre([this] { Actualiser(); });
+  Actualiser();
+}
+
+QLayout* VueTicket::Boutons() {
+  const struct {
+    const char16_t* Texte;
+    const char16_t* Icone;
+    void (TFrmTicket::*Faire)();
+    bool Principal;
+  } boutons[] = {
+      {u"Ajouter des tickets", u"list-add", &TFrmTicket::btnEtape1Click, true},
+      {u"Supprimer un ticket", u"edit-delete", &TFrmTicket::AdvGlowButton2Click, false},
+      {u"Transférer un ticket", u"document-export", &TFrmTicket::AdvGlowButton3Click, false},
+      {u"Actualiser", u"view-refresh", &TFrmTicket::AdvGlowButton1Click, false},
+  };
+  auto* rangee = new RangeePliante;
+  for (const auto& [texte, icone, faire, principal] : boutons) {
+    QPushButton* bouton = CreerBouton(principal ? TGenreBouton::Principal : TGenreBouton::Simple,
+                                      QString::fromUtf16(texte), QString::fromUtf16(icone));
+    connect(bouton, &QPushButton::clicked, this, [this, faire = faire] { (form_.*faire)(); });
+    rangee->addWidget(bouton);
+  }
+  return rangee;
+}
+
+QWidget* VueTicket::Classe() {
+  auto* page = new QWidget;
+  auto* colonne = new QVBoxLayout(page);
+  colonne->addWidget(classe_);
+  auto* comptes = new QHBoxLayout;
+  comptes->setSpacing(Theme::Px(24));
+  for (Etiquette*& compteur : compteurs_)
+    comptes->addWidget(compteur = new Etiquette({}, TRole::Texte, &Theme::Gras));
+  compteurs_[0]->DefinirRole(TRole::Erreur);
+  compteurs_[1]->DefinirRole(TRole::Alerte);
+  compteurs_[2]->DefinirRole(TRole::Succes);
+  comptes->addStretch(1);
+  auto* sousTrois = new QCheckBox(u"Seulement les élèves avec moins de 3 tickets"_s);
+  connect(sousTrois, &QCheckBox::toggled, this, [this](bool oui) { form_.MontrerSousTrois(oui); });
+  comptes->addWidget(sousTrois);
+  colonne->addLayout(comptes);
+  colonne->addWidget(eleves_, 1);
+  return page;
+}
+
+QWidget* VueTicket::PageDetail() {
+  auto* page = new QWidget;
+  auto* colonne = new QVBoxLayout(page);
+  colonne->addWidget(eleve_);
+  colonne->addWidget(detail_, 1);
+  return page;
+}
+
+void VueTicket::Actualiser() {
+  classe_->setText(form_.NomClasse());
+  const QStringList textes = form_.Compteurs();
+  for (std::size_t i = 0; i < compteurs_.size(); ++i)
+    compteurs_[i]->setText(textes[static_cast<qsizetype>(i)]);
+  eleve_->setText(form_.NomEleve());
+  pages_->setCurrentIndex(form_.Page());
+  if (form_.LstEleve.NombreLignes() > 0)
+    vide_->Cacher();
+  else
+    vide_->Montrer(u"Aucun élève à montrer"_s,
+                   form_.SousTrois() ? u"Tous les élèves de la classe ont trois tickets et plus."_s
+                                     : u"Choisissez une classe ou un élève dans l'arbre de gauche."_s);
+}

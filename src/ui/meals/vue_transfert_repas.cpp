@@ -1,0 +1,52 @@
+#include "ui/meals/vue_transfert_repas.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "screens/meals/frm_transfert_repas.h"
+#include "ui/commun/bouton.h"
+#include "ui/commun/compteur.h"
+#include "ui/commun/marque_etat.h"
+#include "ui/commun/titres.h"
+#include "ui/commun/vue_grille.h"
+
+using namespace Qt::StringLiterals;
+
+VueTransfertRepas::VueTransfertRepas(TFrmTransfertRepas& form, QWidget* parent)
+    : QWidget(parent),
+      form_(form),
+      etat_(new MarqueEtat),
+      repas_(new Compteur(u"Nombre de repas relevés"_s)),
+      nombreAnomalies_(new Compteur(u"Nombre d'anomalies détectées"_s)),
+      anomalies_(new VueGrille(form.Anomalies, u"Anomalies"_s, u"TransfertRepas/Anomalies"_s)),
+      recommencer_(BoutonSimple(u"Recommencer le transfert"_s, u"view-refresh"_s)) {
+  recommencer_->setMinimumHeight(Theme::Px(48));
+  connect(recommencer_, &QPushButton::clicked, this, [this] { form_.btnRecommencerClick(); });
+  auto* comptes = new QHBoxLayout;
+  comptes->setSpacing(Theme::Px(32));
+  comptes->addWidget(repas_);
+  comptes->addWidget(nombreAnomalies_);
+  comptes->addStretch(1);
+  auto* colonne = new QVBoxLayout(this);
+  const int marge = Theme::Px(16);
+  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
+  colonne->setSpacing(Theme::Px(12));
+  colonne->addWidget(new TitreEcran(u"Transfert"_s));
+  colonne->addWidget(etat_);
+  colonne->addLayout(comptes);
+  colonne->addWidget(anomalies_, 1);
+  colonne->addWidget(recommencer_, 0, Qt::AlignLeft);
+  colonne->addStretch(0);
+  lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
+  Actualiser();
+}
+
+void VueTransfertRepas::Actualiser() {
+  etat_->Definir(form_.Niveau(), form_.Etat());
+  for (Compteur* compteur : {repas_, nombreAnomalies_}) compteur->setVisible(form_.Analyse());
+  repas_->Definir(form_.NombreRepas());
+  nombreAnomalies_->Definir(form_.NombreAnomalies());
+  nombreAnomalies_->DefinirRole(form_.NombreAnomalies() > 0 ? TRole::Alerte : TRole::Texte);
+  anomalies_->setVisible(form_.Anomalies.NombreLignes() > 0);
+  recommencer_->setEnabled(form_.PeutRecommencer());
+}
