@@ -3,7 +3,7 @@
 #include "screens/documents/assistant.h"
 #include "screens/payments/frm_date_paiement.h"
 
-void TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
+bool TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
   titres_ = std::move(titres);
   std::vector<TTitreAssistant> offerts;
   for (const TTitreOffert& titre : titres_)
@@ -12,18 +12,22 @@ void TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
   TDemandeAssistant demande = TDemandeAssistant::De(std::move(offerts));
   demande.PageQui = std::ranges::any_of(titres_, [](const auto& titre) { return titre.Montre->AvecEleves; });
   demande.MoisEcran = moisEcran;
-  if (auto choix = contexte_.Assistant->Demander(demande)) Imprimer(std::move(*choix));
+  auto choix = contexte_.Assistant->Demander(demande);
+  return choix && Imprimer(std::move(*choix));
 }
 
-void TImprimeur::Imprimer(TChoixDocument choix) {
-  if (choix.Indice < 0 || choix.Indice >= std::ssize(titres_)) return;
+bool TImprimeur::Imprimer(TChoixDocument choix) {
+  if (choix.Indice < 0 || choix.Indice >= std::ssize(titres_)) return false;
   const TTitreDocument& titre = *titres_[static_cast<std::size_t>(choix.Indice)].Fait;
   if (DemandeDatePaiement(titre, *Globals.Parametres)) {
     TFrmDatePaiement date(contexte_);
     if (contexte_.Modale.MontrerModal(date) == TResultatModal::Valide)
       choix.DatePaiement = date.dtDatePaiement();
   }
+  choix.Jour = jourRepas_ != 0.0 ? jourRepas_ : contexte_.Controleur.Horloge().Aujourdhui();
+  choix.NouveauxRepas = nouveauxRepas_;
   Faire([&](const TContexteDocument& contexte) { return FaireDocument(contexte, titre, choix); });
+  return true;
 }
 
 void TImprimeur::Faire(const std::function<TResultat(const TContexteDocument&)>& construire) {

@@ -14,11 +14,16 @@ class TImprimeur {
         titres_(std::move(titres)),
         etiquettes_(contexte.Etiquettes, contexte.Dialogues()) {}
 
+  /// The day of documents about meals, and the words of the second generation; without it they are of today.
+  void DefinirJourRepas(TDateTime jour, bool nouveauxRepas) {
+    jourRepas_ = jour;
+    nouveauxRepas_ = nouveauxRepas;
+  }
   /// The user chooses one of these titles in the wizard, and gets its document. `moisEcran`: the month that
-  /// the screen shows, 1 to 12; 0 for none.
-  void Proposer(std::vector<TTitreOffert> titres, int moisEcran = 0);
-  /// The wizard's answer about the titles that were proposed last. An index of none is passed over.
-  void Imprimer(TChoixDocument choix);
+  /// the screen shows, 1 to 12; 0 for none. False when the user gave up.
+  bool Proposer(std::vector<TTitreOffert> titres, int moisEcran = 0);
+  /// The wizard's answer about the titles that were proposed last. An index of none is passed over, with false.
+  bool Imprimer(TChoixDocument choix);
   /// A document that is in no list: it is made under the wait cursor, then shown.
   void Faire(const std::function<TResultat(const TContexteDocument&)>& construire);
 
@@ -28,5 +33,7 @@ class TImprimeur {
 
   const TContexteEcran& contexte_;
   std::vector<TTitreOffert> titres_;
+  TDateTime jourRepas_ = 0.0;
+  bool nouveauxRepas_ = false;
   TEtiquettes etiquettes_;  ///< keeps its engine for as long as the screen
 };

@@ -1,7 +1,7 @@
 #include "screens/meals/frm_comptabilite.h"
 
 #include "documents/tickets.h"
-#include "screens/documents/impression.h"
+#include "screens/documents/imprimeur.h"
 #include "workflows/ventes_tickets.h"
 
 using namespace Qt::StringLiterals;
@@ -45,7 +45,7 @@ void TFrmComptabilite::Remplir(TGrille& grille, TPaiementTicket type) const {
 
 bool TFrmComptabilite::RecevoirMessage(const TMessage& message) {
   if (message.Code != TCodeMessage::Imprimer) return false;
-  TImpression(contexte_, {})
-      .Montrer(TicketsVendus(ContexteDesGlobals(contexte_.Controleur.Horloge()), {dtDebut, dtFin}));
+  TImprimeur(contexte_, {}).Faire(
+      [&](const TContexteDocument& contexte) { return TicketsVendus(contexte, {dtDebut, dtFin}); });
   return true;
 }

@@ -4,7 +4,7 @@
 #include "core/formats.h"
 #include "documents/cuisine.h"
 #include "pupils/eleves.h"
-#include "screens/documents/impression.h"
+#include "screens/documents/imprimeur.h"
 
 using namespace Qt::StringLiterals;
 
@@ -178,7 +178,7 @@ void TFrmCompteEleve::ImprimerCaisse() {
   rapport.ChargerColonnesListe(Caisse());
   TResultat resultat;
   resultat.Rapports.push_back(std::move(rapport));
-  TImpression(contexte_, {}).Montrer(std::move(resultat));
+  TImprimeur(contexte_, {}).Faire([&](const TContexteDocument&) { return std::move(resultat); });
 }
 
 bool TFrmCompteEleve::RecevoirMessage(const TMessage& message) {
@@ -193,8 +193,9 @@ void TFrmCompteEleve::Imprimer() {
     contexte_.Dialogues().Message(u"Veuillez choisir une classe dans la liste"_s);
     return;
   }
-  TImpression(contexte_, {})
-      .Montrer(ChoixDeRepas(ContexteDesGlobals(contexte_.Controleur.Horloge()), *classe, jour_.Jour()));
+  TImprimeur(contexte_, {}).Faire([&](const TContexteDocument& contexte) {
+    return ChoixDeRepas(contexte, *classe, jour_.Jour());
+  });
 }
 
 QString TFrmCompteEleve::EnSuspens() const {

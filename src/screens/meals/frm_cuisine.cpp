@@ -1,16 +1,11 @@
 #include "screens/meals/frm_cuisine.h"
 
 #include "core/formats.h"
-#include "documents/cuisine.h"
 #include "pupils/eleves.h"
-#include "screens/documents/assistant.h"
-#include "screens/documents/impression.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-enum TTitre { kFichePreparation, kDetailCommandes };
 
 /// "+2 repas chauds"; "" for no difference.
 QString Ecart(int avant, int apres, const QString& mot) {
@@ -21,7 +16,9 @@ QString Ecart(int avant, int apres, const QString& mot) {
 }  // namespace
 
 TFrmCuisine::TFrmCuisine(TContexteEcran& contexte, const TGenerationRepas& generation)
-    : contexte_(contexte), generation_(generation) {}
+    : contexte_(contexte),
+      generation_(generation),
+      imprimeur_(contexte, TitresOfferts(TListeTitres::Cuisine)) {}
 
 void TFrmCuisine::FormShow() {
   date_.Definir(contexte_.Controleur.Horloge().Aujourdhui());
@@ -73,28 +70,18 @@ QString TFrmCuisine::NoteChangements() const {
 }
 
 bool TFrmCuisine::RecevoirMessage(const TMessage& message) {
+  imprimeur_.DefinirJourRepas(jour_.Jour, &generation_ == &GenerationRepas(true));
   if (message.Code == TCodeMessage::Imprimer) {
-    Proposer();
+    NoterImpression(imprimeur_.Proposer(TitresOfferts(TListeTitres::Cuisine)));
     return true;
   }
   if (message.Code != TCodeMessage::AssistantConfirme) return false;
-  if (const auto* choix = message.En<TChoixDocument>()) Imprimer(choix->Indice);
+  if (const auto* choix = message.En<TChoixDocument>()) NoterImpression(imprimeur_.Imprimer(*choix));
   return true;
 }
 
-// The sheets take the whole school: the page of pupils has nothing to ask.
-void TFrmCuisine::Proposer() {
-  TDemandeAssistant demande =
-      TDemandeAssistant::De({{u"Fiche de préparation"_s}, {u"Détail des commandes"_s}});
-  demande.PageQui = false;
-  if (const auto choix = contexte_.Assistant->Demander(demande)) Imprimer(choix->Indice);
-}
-
-void TFrmCuisine::Imprimer(int titre) {
-  const TContexteDocument contexte = ContexteDesGlobals(contexte_.Controleur.Horloge());
-  TImpression(contexte_, {})
-      .Montrer(titre == kFichePreparation ? FichePreparation(contexte, jour_, generation_)
-                                          : DetailCommandes(contexte, jour_, generation_));
-  if (titre == kFichePreparation) imprime_ = {jour_.Jour, jour_.Repas, jour_.Dagos, jour_.Sandwichs};
+void TFrmCuisine::NoterImpression(bool imprime) {
+  if (!imprime) return;
+  imprime_ = {jour_.Jour, jour_.Repas, jour_.Dagos, jour_.Sandwichs};
   Annoncer();
 }

@@ -1,7 +1,7 @@
 #pragma once
 #include "forms/arbre.h"
 #include "meals/generation_repas.h"
-#include "screens/contexte_ecran.h"
+#include "screens/documents/imprimeur.h"
 #include "screens/meals/jour_ecran.h"
 #include "workflows/jour_cuisine.h"
 
@@ -44,11 +44,11 @@ class TFrmCuisine : public TForm {
 
   void ChangerJour(void (TJourEcran::*pas)());
   void Recapituler();
-  void Proposer();
-  void Imprimer(int titre);
+  void NoterImpression(bool imprime);
 
   TContexteEcran& contexte_;
   const TGenerationRepas& generation_;
+  TImprimeur imprimeur_;
   TJourEcran date_;
   TJourCuisine jour_;
   QString titre_;

@@ -6,7 +6,7 @@
 #include "documents/cuisine.h"
 #include "meals/commandes.h"
 #include "pupils/eleves.h"
-#include "screens/documents/impression.h"
+#include "screens/documents/imprimeur.h"
 
 using namespace Qt::StringLiterals;
 
@@ -204,8 +204,9 @@ void TFrmReservation::Imprimer() {
     contexte_.Dialogues().Message(u"Veuillez choisir une classe dans la liste"_s);
     return;
   }
-  TImpression(contexte_, {})
-      .Montrer(ChoixDeRepas(ContexteDesGlobals(contexte_.Controleur.Horloge()), *classe, jour_.Jour()));
+  TImprimeur(contexte_, {}).Faire([&](const TContexteDocument& contexte) {
+    return ChoixDeRepas(contexte, *classe, jour_.Jour());
+  });
 }
 
 QString TFrmReservation::EnSuspens() const {

@@ -1,10 +1,7 @@
 #include "screens/meals/frm_ticket.h"
 
 #include "core/formats.h"
-#include "documents/tickets.h"
 #include "pupils/eleves.h"
-#include "screens/documents/assistant.h"
-#include "screens/documents/impression.h"
 #include "screens/meals/frm_ajout_ticket.h"
 #include "screens/meals/frm_transfert_ticket.h"
 #include "workflows/prix_repas.h"
@@ -15,8 +12,6 @@ namespace {
 
 constexpr int kPageDetail = 1;
 constexpr int kTicketsBas = 2;
-
-enum TTitre { kParents, kParClasse };
 
 int EtatDe(int solde) {
   if (solde < 0) return TFrmTicket::Negatif;
@@ -32,7 +27,8 @@ TFrmTicket::TFrmTicket(TContexteEcran& contexte)
       Detail({{u"Date achat"_s, 200},
               {u"Date utilisation"_s, 150, TGenre::Date},
               {u"Total"_s, 70, TGenre::Entier}}),
-      contexte_(contexte) {
+      contexte_(contexte),
+      imprimeur_(contexte, TitresOfferts(TListeTitres::Tickets)) {
   LstEleve.Etats = {{QString(), QString()},
                     {u"en négatif"_s, u"data-error"_s},
                     {u"sans ticket"_s, u"data-warning"_s},
@@ -196,28 +192,12 @@ bool TFrmTicket::RecevoirMessage(const TMessage& message) {
       PrendreClasse(Globals.ClasseCourante);
       return true;
     case TCodeMessage::Imprimer:
-      Proposer();
+      imprimeur_.Proposer(TitresOfferts(TListeTitres::Tickets));
       return true;
     case TCodeMessage::AssistantConfirme:
-      if (const auto* choix = message.En<TChoixDocument>()) Imprimer(*choix);
+      if (const auto* choix = message.En<TChoixDocument>()) imprimeur_.Imprimer(*choix);
       return true;
     default:
       return false;
   }
-}
-
-void TFrmTicket::Proposer() {
-  const auto choix = contexte_.Assistant->Demander(
-      TDemandeAssistant::De({{u"Récapitulatif des tickets pour les parents"_s},
-                             {u"Récapitulatif des tickets disponibles par classe"_s}}));
-  if (choix) Imprimer(*choix);
-}
-
-void TFrmTicket::Imprimer(const TChoixDocument& choix) {
-  const TDateTime jour = contexte_.Controleur.Horloge().Aujourdhui();
-  const TContexteDocument contexte = ContexteDesGlobals(contexte_.Controleur.Horloge());
-  const TElevesChoisis eleves = ElevesDuChoix(*Globals.Eleves, choix);
-  TImpression(contexte_, {})
-      .Montrer(choix.Indice == kParents ? TicketsParents(contexte, eleves, jour)
-                                        : TicketsParClasse(contexte, eleves, jour));
 }

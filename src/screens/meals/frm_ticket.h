@@ -1,7 +1,7 @@
 #pragma once
 #include "forms/grille.h"
 #include "meals/tickets.h"
-#include "screens/contexte_ecran.h"
+#include "screens/documents/imprimeur.h"
 #include "workflows/vente_tickets.h"
 
 /// "Gestion des tickets": the tickets of the pupils of a class, and of one of them in detail.
@@ -53,10 +53,9 @@ class TFrmTicket : public TForm {
   void Remplir(TEleve* choisi);
   void RemplirDetail();
   void AjouterAchat(const TTickets& tickets, TDateTime date);
-  void Imprimer(const struct TChoixDocument& choix);
-  void Proposer();
 
   TContexteEcran& contexte_;
+  TImprimeur imprimeur_;
   TClasse* classe_ = nullptr;
   TCompteursTickets compteurs_;
   int page_ = 0;

@@ -31,16 +31,15 @@ ChoixClasseJour::ChoixClasseJour(bool avecClasse, QWidget* parent)
       avance_(Pas(u"go-next"_s, u"Jour suivant"_s, QKeySequence(u"Alt+Right"_s))) {
   classes_->setAccessibleName(u"Classe"_s);
   classes_->setMinimumWidth(Theme::Px(220));
-  classes_->setVisible(avecClasse);
   auto* ligne = new QHBoxLayout(this);
   ligne->setContentsMargins(0, 0, 0, 0);
   ligne->setSpacing(Theme::Px(8));
-  if (avecClasse) ligne->addWidget(classes_);
+  ligne->addWidget(classes_);
   for (QWidget* widget :
        {static_cast<QWidget*>(recule_), static_cast<QWidget*>(jour_), static_cast<QWidget*>(avance_)})
     ligne->addWidget(widget);
   ligne->addStretch(1);
-  if (!avecClasse) classes_->setParent(this);
+  classes_->setVisible(avecClasse);
   connect(classes_, &QComboBox::activated, this, &ChoixClasseJour::ClasseChoisie);
   connect(recule_, &QToolButton::clicked, this, &ChoixClasseJour::Recule);
   connect(avance_, &QToolButton::clicked, this, &ChoixClasseJour::Avance);
