@@ -88,5 +88,5 @@ TEST_F(TPaiementsEssai, SommesEtDerniereRangeeDuMois) {
   EXPECT_EQ(paiements.MontantMois(eleve.Id, 9), Currency::Euros(30));
   EXPECT_EQ(paiements.MontantMois(eleve.Id, 11), Currency());
   EXPECT_EQ(paiements.TotalPaiements(eleve.Id), Currency::Brut(495000));
-  EXPECT_EQ(paiements.PaiementMois(eleve.Id, 9)->Montant, Currency::Brut(125000));
+  EXPECT_EQ(paiements.PaiementMois(eleve.Id, 9)->Montant, Currency::Euros(30));
 }

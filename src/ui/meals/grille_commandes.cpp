@@ -64,7 +64,7 @@ void GrilleCommandes::Ecrire(int ligne) {
     cellule->setTextAlignment(Qt::AlignCenter);
     cellule->setBackground(texte.isEmpty() ? QBrush() : QBrush(Theme::Selection()));
     cellule->setData(Qt::AccessibleTextRole,
-                     form_.Grille.Colonne(c).Titre % (texte.isEmpty() ? u" : non" : u" : oui"));
+                     QString(form_.Grille.Colonne(c).Titre % (texte.isEmpty() ? u" : non" : u" : oui")));
   }
 }
 
