@@ -67,9 +67,11 @@ void Remplir(TCopie& copie, bool avecPhotos, TProgression& progression) {
 /// The lines of today that will have been transferred; those of other days are of no more use.
 QByteArray LignesTransferees(const TFichiersTablette& fichiers, TDateTime jour) {
   std::vector<QByteArray> lignes;
-  for (const QString& chemin : {fichiers.Transferes, fichiers.Repas})
-    for (const QByteArray& ligne : TFichierRepas(chemin).Lignes())
+  for (const QString& chemin : {fichiers.Transferes, fichiers.Repas}) {
+    const TFichierRepas fichier(chemin);
+    for (const QByteArray& ligne : fichier.Lignes())
       if (JourDeLigne(ligne) == jour) lignes.push_back(ligne);
+  }
   return TexteDesLignes(lignes);
 }
 
