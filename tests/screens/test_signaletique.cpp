@@ -291,7 +291,10 @@ TEST_F(TSignaletique, CeQuiEstRefuseNeSePerdPasEnSilence) {
 
 // A payment of the bank frees its movement when it goes, and takes it again when it comes back.
 TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
-  base.Sql(u"INSERT INTO EXTRAITS (EXTRAIT_ID, DATE_VIREMENT, MONTANT) VALUES (5, '2016-11-02', 30)"_s);
+  base.Sql(
+      u"INSERT INTO EXTRAITS (EXTRAIT_ID, DATE_VIREMENT, MONTANT, DONNEUR_ORDRE, NUM_CPT_DONNEUR, "
+      u"COMMUNICATION) "
+      "VALUES (5, '2016-11-02', 30, 'x', 'x', 'x')"_s);
   base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 5 WHERE REMARQUE = 'Acompte'"_s);
   TFrmSignaletique& fiche = Ouvrir(rose);
   const auto faire = [&](auto&& quoi) {
