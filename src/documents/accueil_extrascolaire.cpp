@@ -4,6 +4,7 @@
 
 #include "attendance/presences.h"
 #include "core/formats.h"
+#include "core/mois.h"
 #include "core/parametres.h"
 #include "pupils/eleves.h"
 #include "services/activites.h"
@@ -109,8 +110,8 @@ TResultat AccueilExtraScolaire(const TContexteDocument& contexte, int mois) {
   const TPeriode bornes = BornesMois(mois, contexte.Eleves.AnneeScolaire);
   TRapport rapport(u"Accueil extrascolaire"_s, u"AccueilExtraScolaire"_s);
   rapport.AjouterVariable(u"NomEcole", contexte.Parametres.GetParametre(TParam::NomEcole));
-  rapport.AjouterVariable(u"MoisReleve", LocaleEcole().standaloneMonthName(mois, QLocale::LongFormat) % u' ' %
-                                             QString::number(DecodeDate(bornes.Premier).Annee));
+  rapport.AjouterVariable(u"MoisReleve",
+                          NomMoisCourant(mois) % u' ' % QString::number(DecodeDate(bornes.Premier).Annee));
   for (TDateTime date = bornes.Premier; date <= bornes.Dernier; ++date)
     if (JourLundi1(date) > 5) rapport.AjouterVariable(Case(date), u"C"_s);
   TArbreRapport arbre;

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "core/formats.h"
+#include "core/mois.h"
 #include "core/parametres.h"
 #include "documents/comptes_one.h"
 #include "documents/entete_ecole.h"
@@ -83,8 +84,7 @@ void TGrilleOne::CommencerMois(TDateTime premier) {
   totalMois_ = 0;
   const int jour = JourLundi1(premier);
   case_ = jour <= kVendredi ? jour : 1;
-  ecrire_(u"Mois" % QString::number(mois_),
-          LocaleEcole().standaloneMonthName(DecodeDate(premier).Mois, QLocale::LongFormat));
+  ecrire_(u"Mois" % QString::number(mois_), NomMoisCourant(DecodeDate(premier).Mois));
 }
 
 void TGrilleOne::Jour(TDateTime date) {

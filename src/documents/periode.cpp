@@ -6,33 +6,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct TTextesMois {
-  const char* Nom;
-  const char* DuMois;
-};
-
-constexpr TTextesMois kTextes[] = {
-    {"Janvier", "du mois de janvier"},
-    {"Février", "du mois de février"},
-    {"Mars", "du mois de mars"},
-    {"Avril", "du mois d'avril"},
-    {"Mai", "du mois de mai"},
-    {"Juin", "du mois de juin"},
-    {"Juillet", "du mois de juillet"},
-    {"Août", "du mois d'août"},
-    {"Septembre", "du mois de septembre"},
-    {"Octobre", "du mois d'octobre"},
-    {"Novembre", "du mois de novembre"},
-    {"Décembre", "du mois de décembre"},
-};
-
 bool EstUnMois(int mois) { return mois >= 1 && mois <= 12; }
 
 }  // namespace
-
-QString NomMois(int mois) { return QString::fromUtf8(kTextes[mois - 1].Nom); }
-
-QString TexteDuMois(int mois) { return QString::fromUtf8(kTextes[mois - 1].DuMois); }
 
 bool TPeriodeDocument::Commence(int mois) const {
   return EstUnMois(mois) && MoisDebuteDansPeriode(mois, Annee, DateDebut, DateFin);

@@ -1,7 +1,9 @@
 #include "forms/valeur.h"
 
+#include "core/accord.h"
 #include "core/comparaisons.h"
 #include "core/formats.h"
+#include "core/mois.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,9 +16,7 @@ T Lire(const TValeurVue& valeur) {
 }
 
 QString EntierEnTexte(const TValeurVue& v) { return QString::number(Lire<int>(v)); }
-QString ElevesEnTexte(const TValeurVue& v) {
-  return EntierEnTexte(v) % (Lire<int>(v) > 1 ? u" élèves" : u" élève");
-}
+QString ElevesEnTexte(const TValeurVue& v) { return CompterEleves(Lire<int>(v)); }
 QString MontantEnTexte(const TValeurVue& v) { return FormatMontant(Lire<Currency>(v)); }
 QString DecimalesEnTexte(const TValeurVue& v) { return FormatPrix(Lire<Currency>(v)); }
 QString PrixEnTexte(const TValeurVue& v) { return FormatPrix(Lire<Currency>(v)) % u" €"; }
@@ -30,11 +30,7 @@ QString DateLongueEnTexte(const TValeurVue& v) {
 }
 QString HeureEnTexte(const TValeurVue& v) { return FormatHeureCourte(Lire<TDateTime>(v)); }
 QString HeureHEnTexte(const TValeurVue& v) { return FormatHeure(Lire<TDateTime>(v)); }
-QString MoisEnTexte(const TValeurVue& v) {
-  QString nom = LocaleEcole().standaloneMonthName(Lire<int>(v));
-  if (!nom.isEmpty()) nom[0] = nom[0].toUpper();
-  return nom;
-}
+QString MoisEnTexte(const TValeurVue& v) { return NomMois(Lire<int>(v)); }
 QString Rien(const TValeurVue&) { return {}; }
 
 /// The months of a school year begin with September.

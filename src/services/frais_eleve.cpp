@@ -1,6 +1,7 @@
 #include "services/frais_eleve.h"
 
 #include "core/exceptions.h"
+#include "core/mois.h"
 
 using namespace Qt::StringLiterals;
 
@@ -184,7 +185,7 @@ Currency TAllFraisEleve::TotalVersePeriode(const TPeriode& periode) const {
 
 Currency TAllFraisEleve::TotalCumuleVerse(int annee, TDateTime date) const {
   Currency total;
-  for (const int mois : {9, 10, 11, 12, 1, 2, 3, 4, 5, 6}) {
+  for (const int mois : kMoisScolaires) {
     const TPeriode bornes = BornesMois(mois, annee);
     if (bornes.Premier > date) break;
     total += TotalVersePeriode(bornes);

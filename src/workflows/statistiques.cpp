@@ -3,12 +3,11 @@
 #include <array>
 
 #include "application/globals.h"
+#include "core/mois.h"
 #include "services/frais_eleve.h"
 #include "workflows/total_ecole.h"
 
 namespace {
-
-constexpr std::array kMoisScolaires{9, 10, 11, 12, 1, 2, 3, 4, 5, 6};
 
 void LireFraisDeTous(const TEleves& eleves) {
   std::vector<TEleve*> tous;

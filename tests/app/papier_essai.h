@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 
 #include "lot_essai.h"
-#include "support/affichage.h"
+#include "support/outil.h"
 
 /// A pupil's entry in the table of contents: the class above it, or "", and the page, from 1.
 struct TEntree {
@@ -15,14 +15,6 @@ struct TEntree {
 
 class TPapierEssai : public TProgrammeEssai {
  protected:
-  static QString Outil(const QString& programme, const QStringList& arguments) {
-    QProcess outil;
-    outil.start(programme, arguments);
-    EXPECT_TRUE(outil.waitForFinished(60'000)) << programme.toStdString();
-    EXPECT_EQ(outil.exitCode(), 0) << programme.toStdString() << ": "
-                                   << outil.readAllStandardError().toStdString();
-    return QString::fromUtf8(outil.readAllStandardOutput());
-  }
   /// The command line of a document that becomes a PDF.
   QStringList EnPdf(const QStringList& document) const {
     return QStringList{u"document"_s} + document + QStringList{u"--pdf"_s, Pdf()};
@@ -36,13 +28,13 @@ class TPapierEssai : public TProgrammeEssai {
   }
 
   QStringList Pages(const QStringList& options = {u"-layout"_s}) const {
-    QStringList pages = Outil(u"pdftotext"_s, options + QStringList{Pdf(), u"-"_s}).split(u'\f');
+    QStringList pages = Sortie(u"pdftotext"_s, options + QStringList{Pdf(), u"-"_s}).split(u'\f');
     pages.removeLast();
     return pages;
   }
 
   std::vector<TEntree> Signets() const {
-    const QString json = Outil(u"qpdf"_s, {u"--json=2"_s, u"--json-key=outlines"_s, Pdf()});
+    const QString json = Sortie(u"qpdf"_s, {u"--json=2"_s, u"--json-key=outlines"_s, Pdf()});
     std::vector<TEntree> entrees;
     for (const QJsonValue& racine : QJsonDocument::fromJson(json.toUtf8())[u"outlines"_s].toArray()) {
       const auto ajouter = [&](const QString& classe, const QJsonValue& signet) {
@@ -59,7 +51,7 @@ class TPapierEssai : public TProgrammeEssai {
   QStringList Images() const {
     const QDir dossier(Chemin("points"));
     EXPECT_TRUE(QDir(dossier).removeRecursively() && QDir().mkpath(dossier.path()));
-    Outil(u"pdftoppm"_s, {u"-r"_s, u"300"_s, u"-gray"_s, Pdf(), dossier.filePath(u"p"_s)});
+    Sortie(u"pdftoppm"_s, {u"-r"_s, u"300"_s, u"-gray"_s, Pdf(), dossier.filePath(u"p"_s)});
     QStringList images;
     for (const QFileInfo& page : dossier.entryInfoList(QDir::Files, QDir::Name)) images += page.filePath();
     return images;
@@ -68,7 +60,7 @@ class TPapierEssai : public TProgrammeEssai {
   /// What a scanner reads on the pages, sorted.
   QStringList Codes() const {
     const QStringList options{u"-q"_s, u"--nodbus"_s};
-    QStringList codes = Outil(u"zbarimg"_s, options + Images()).split(u'\n', Qt::SkipEmptyParts);
+    QStringList codes = Sortie(u"zbarimg"_s, options + Images()).split(u'\n', Qt::SkipEmptyParts);
     codes.sort();
     return codes;
   }

@@ -132,7 +132,8 @@ TEST_F(TCodesEssai, LesEtiquettesOntLeurPage) {
     EXPECT_EQ(Pages().size(), 3) << "a page a label";
     EXPECT_EQ(Pages()[0].split(u'\n', Qt::SkipEmptyParts).replaceInStrings(u" "_s, QString()),
               (QStringList{u"NOMZoé"_s, u"P1A"_s, u"5537-01207"_s}));
-    EXPECT_TRUE(Outil(u"pdfinfo"_s, {Pdf()}).contains(taille)) << Outil(u"pdfinfo"_s, {Pdf()}).toStdString();
+    EXPECT_TRUE(Sortie(u"pdfinfo"_s, {Pdf()}).contains(taille))
+        << Sortie(u"pdfinfo"_s, {Pdf()}).toStdString();
   }
 }
 

@@ -39,7 +39,8 @@ struct TVirementEssai : TPapierEssai {
     static const QRegularExpression motif(
         u"<word xMin=\"(.*?)\" yMin=\"(.*?)\" xMax=\"(.*?)\" yMax=\"(.*?)\">(.*?)</word>"_s);
     const QString numero = QString::number(page);
-    const QString mots = Outil(u"pdftotext"_s, {u"-bbox"_s, u"-f"_s, numero, u"-l"_s, numero, Pdf(), u"-"_s});
+    const QString mots =
+        Sortie(u"pdftotext"_s, {u"-bbox"_s, u"-f"_s, numero, u"-l"_s, numero, Pdf(), u"-"_s});
     std::vector<TMot> dessous;
     for (const QRegularExpressionMatch& mot : motif.globalMatch(mots)) {
       const auto milieu = [&](int a, int b) {
@@ -76,9 +77,9 @@ struct TVirementEssai : TPapierEssai {
 
   /// What a telephone reads, as it stands in the code.
   static QString Telephone(const QStringList& images) {
-    return Outil(u"zbarimg"_s, QStringList{u"-q"_s, u"--nodbus"_s, u"--raw"_s, u"-Sdisable"_s,
-                                           u"-Sqrcode.enable"_s, u"-Sbinary"_s} +
-                                   images);
+    return Sortie(u"zbarimg"_s, QStringList{u"-q"_s, u"--nodbus"_s, u"--raw"_s, u"-Sdisable"_s,
+                                            u"-Sqrcode.enable"_s, u"-Sbinary"_s} +
+                                    images);
   }
 
   QStringList Legendes;

@@ -2,9 +2,7 @@
 #include "attendance/presences.h"
 #include "services/activites.h"
 #include "services/tarifs_garderies.h"
-#include "support/affichage.h"
 #include "support/ecole_essai.h"
-#include "support/valeurs.h"
 
 /// A school with one window a service; described first, then loaded.
 struct TGarderiesEssai : testing::Test {

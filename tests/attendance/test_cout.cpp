@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "garderies_essai.h"
 
 using namespace Essai;

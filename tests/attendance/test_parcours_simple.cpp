@@ -1,6 +1,5 @@
 // The engine's look-ups against a plain walk over all records and rows for each amount, on random data
 // that changes between the rounds. The price of a presence, once it is classed, is another test's.
-#include <gtest/gtest.h>
 
 #include <random>
 

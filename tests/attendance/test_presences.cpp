@@ -1,9 +1,5 @@
-#include <gtest/gtest.h>
-
 #include "attendance/presences_particulieres.h"
 #include "garderies_essai.h"
-
-using namespace Qt::StringLiterals;
 
 using namespace Essai;
 

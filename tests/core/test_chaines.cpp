@@ -12,7 +12,7 @@ Liste Pieces(void (*couper)(const QString&, QChar, QStringList&), const QString&
   Liste liste{u"déjà là"_s};
   couper(texte, u';', liste);
   EXPECT_EQ(liste.takeFirst(), u"déjà là"_s);
-  return liste;
+  return liste.replaceInStrings(u"\r\n"_s, u"(vide)"_s);
 }
 
 }  // namespace
@@ -42,19 +42,18 @@ TEST(Chaines, Remplacer) {
 
 TEST(Chaines, RetourLigne) { EXPECT_EQ(SansRetourLigne(u"a\r\n\r\nb\nc\rd"_s), u"a  b\nc\rd"_s); }
 
-TEST(Chaines, DecouperPasseLesVides) {
-  EXPECT_EQ(Pieces(Decouper, u";;a;b"_s), (Liste{u"a"_s, u"b"_s}));
-  EXPECT_EQ(Pieces(Decouper, u"a;; ;b;;"_s), (Liste{u"a"_s, u" "_s, u"b"_s}));
-  EXPECT_EQ(Pieces(Decouper, QString()), Liste());
-}
-
-TEST(Chaines, DecouperStrictCompteLesVides) {
-  const QString a = u"a"_s, b = u"b"_s, vide = u"\r\n"_s;
-  EXPECT_EQ(Pieces(DecouperStrict, u"a;;b"_s), (Liste{a, vide, b}));
-  EXPECT_EQ(Pieces(DecouperStrict, u";a;b"_s), (Liste{vide, a, b}));
-  EXPECT_EQ(Pieces(DecouperStrict, u"a;b;"_s), (Liste{a, b}));
-  EXPECT_EQ(Pieces(DecouperStrict, u"a;;"_s), (Liste{a, vide}));
-  EXPECT_EQ(Pieces(DecouperStrict, QString()), Liste());
+TEST(Chaines, DecouperPasseLesVidesOuLesCompte) {
+  const struct {
+    QString Texte;
+    Liste Pieces, Strictes;
+  } cas[] = {{u";;a;b"_s, {"a", "b"}, {"(vide)", "(vide)", "a", "b"}},
+             {u"a;; ;b;;"_s, {"a", " ", "b"}, {"a", "(vide)", " ", "b", "(vide)"}},
+             {u"a;b;"_s, {"a", "b"}, {"a", "b"}},
+             {{}, {}, {}}};
+  for (const auto& [texte, pieces, strictes] : cas) {
+    EXPECT_EQ(Pieces(Decouper, texte), pieces);
+    EXPECT_EQ(Pieces(DecouperStrict, texte), strictes);
+  }
 }
 
 TEST(Chaines, NombresEtRecherche) {

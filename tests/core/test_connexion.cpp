@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -10,8 +8,6 @@
 #include "core/schema.h"
 #include "core/schema_script.h"
 #include "support/base_essai.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,13 +1,9 @@
-#include <gtest/gtest.h>
-
 #include "core/exceptions.h"
 #include "core/index.h"
 #include "core/parametres.h"
 #include "core/query_internal.h"
 #include "core/transaction_commune.h"
 #include "support/base_essai.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -12,8 +12,6 @@
 #include "support/dialogues_scenario.h"
 #include "support/serveur_firebird.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// One workstation: a connection and what it has loaded.

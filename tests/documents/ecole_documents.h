@@ -1,14 +1,8 @@
 #pragma once
-#include <gtest/gtest.h>
-
 #include "documents/catalogue.h"
 #include "pupils/eleves.h"
 #include "report/layout/document_prepare.h"
-#include "support/affichage.h"
 #include "support/controleur_essai.h"
-#include "support/valeurs.h"
-
-using namespace Qt::StringLiterals;
 
 /// The nodes of a report as lines of text: two blanks a level, the text, the values.
 inline QString Dessin(const TRapport& rapport) {

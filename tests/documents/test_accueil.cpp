@@ -3,8 +3,6 @@
 #include "ecole_documents.h"
 #include "report/layout/mise_en_page.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct TAccueilEssai : TDocumentsEssai {

@@ -1,58 +1,29 @@
-#include <QFile>
-
 #include "documents/etiquettes.h"
+
+#include "documents/moteur_etiquettes.h"
 #include "ecole_documents.h"
 
 namespace {
 
-/// What is done to an engine, a word an operation.
-struct TCarnet {
-  QStringList Faits;
-  QStringList Objets{u"NomEleve"_s, u"NomEcole"_s, u"CodeBarre"_s};  ///< of every model
-  int Moteurs = 0;
-  bool EnAttente = true;  ///< the wait cursor showed at every operation
-};
-
-class TMoteurEssai final : public IMoteurEtiquettes {
- public:
-  TMoteurEssai(TCarnet& carnet, const TDialoguesScenario& dialogues)
-      : carnet_(carnet), dialogues_(dialogues) {
-    Noter(u"moteur"_s);
-  }
-  void OuvrirFichier(const QString& chemin) override { Noter(u"ouvre " % QFileInfo(chemin).fileName()); }
-  IObjetEtiquette* TrouverObjet(const QString& nom) override {
-    if (!carnet_.Objets.contains(nom)) return nullptr;
-    objet_.emplace(*this, nom);
-    return &*objet_;
-  }
-  void Imprimer(const QString& imprimante, const QString& port, int exemplaires) override {
-    Noter(u"imprime %1 sur [%2] en [%3]"_s.arg(exemplaires).arg(imprimante, port));
-  }
-
- private:
-  struct TObjet final : IObjetEtiquette {
-    TObjet(TMoteurEssai& moteur, QString nom) : Moteur(moteur), Nom(std::move(nom)) {}
-    void EcrireTexte(const QString& texte) override { Moteur.Noter(Nom % u" = " % texte); }
-    void EcrireCodeBarres(const QString& texte) override { Moteur.Noter(Nom % u" || " % texte); }
-    TMoteurEssai& Moteur;
-    QString Nom;
-  };
-  void Noter(const QString& fait) {
-    carnet_.Faits += fait;
-    carnet_.EnAttente = carnet_.EnAttente && dialogues_.Attentes == 1;
-  }
-
-  TCarnet& carnet_;
-  const TDialoguesScenario& dialogues_;
-  std::optional<TObjet> objet_;
-};
-
+/// Labels by the program's own engine, from models of the test.
 struct TEtiquettesEssai : TDocumentsEssai {
   TEtiquettesEssai() {
     anne = ecole.unEleve().nomme(u"ADAM"_s, u"Anne"_s).enClasse(u"P3"_s, u"A"_s).matricule(u"5537-1"_s).Id;
     radie = UnEleve(u"FLG_RADIE"_s).nomme(u"BODART"_s, u"Max"_s).Id;
   }
-  /// The document at index 0 or 1 of the catalogue, printed by `etiquettes`.
+  /// A model that shows these objects, one below the other, below its own number.
+  void Modele(const QString& numero, const QStringList& objets) {
+    QString textes = u"<texte largeur='300' hauteur='18'>%1</texte>"_s.arg(numero);
+    for (int i = 0; i < objets.size(); ++i)
+      textes +=
+          u"<texte nom='%1' y='%2' largeur='300' hauteur='18'>[%1]</texte>"_s.arg(objets[i]).arg(20 * i + 20);
+    const QString page = u"<page nom='P' largeur='336' hauteur='136' marge='0'><bande sorte='maitre' "_s;
+    base.Fichier(u"EtiquetteEleve-%1.label"_s.arg(numero),
+                 (u"<modele nom='M'>"_s + page + u"nom='MasterData1' hauteur='136'>" + textes +
+                  u"</bande></page></modele>")
+                     .toUtf8());
+  }
+  /// The document at index 0 or 1 of the catalogue; `imprimees` gets a line a label.
   TResultat Demander(std::size_t indice, const std::vector<int>& eleves) {
     Globals = {};
     controleur.Charger();
@@ -60,44 +31,46 @@ struct TEtiquettesEssai : TDocumentsEssai {
     for (const int eleve : eleves) choix.Eleves.push_back(Globals.Eleves->TrouverParId(eleve));
     TContexteDocument contexte = ContexteDesGlobals(controleur.Horloge);
     contexte.Etiquettes = &etiquettes;
-    carnet.Faits.clear();
+    imprimees.clear();
     TResultat resultat = FaireDocument(contexte, *TitresOfferts(TListeTitres::Eleves)[indice].Fait, choix);
     EXPECT_EQ(base.Dialogues.Attentes, 0) << "the wait cursor stays";
-    EXPECT_TRUE(carnet.EnAttente && resultat.Rapports.empty());
+    EXPECT_TRUE(resultat.Rapports.empty());
     return resultat;
   }
+  std::unique_ptr<IMoteurEtiquettes> CreerMoteur() {
+    ++moteurs;
+    if (!installe) return nullptr;
+    return std::make_unique<TMoteurEtiquettes>(
+        [this](const TDocumentPrepare& page, const TTravailEtiquette& t) {
+          EXPECT_EQ(base.Dialogues.Attentes, 1);
+          imprimees += page.TexteDePage(0).replace(u'\n', u'/') %
+                       u" %1x sur [%2] en [%3]"_s.arg(t.Exemplaires).arg(t.Imprimante, t.Port);
+        });
+  }
 
-  int anne = 0, radie = 0;
-  TCarnet carnet;
+  int anne = 0, radie = 0, moteurs = 0;
+  QStringList imprimees;
   bool installe = true;
   QString imprimante = u"DYMO LabelWriter on USB on 1"_s;
-  TEtiquettes etiquettes{{[this]() -> std::unique_ptr<IMoteurEtiquettes> {
-                            ++carnet.Moteurs;
-                            if (!installe) return nullptr;
-                            return std::make_unique<TMoteurEssai>(carnet, base.Dialogues);
-                          },
-                          [this] { return imprimante; }, base.Chemin(u""_s)},
-                         base.Dialogues};
+  TEtiquettes etiquettes{
+      {[this] { return CreerMoteur(); }, [this] { return imprimante; }, base.Chemin(u""_s)}, base.Dialogues};
 };
 
 }  // namespace
 
 TEST_F(TEtiquettesEssai, UneParEleveSaufLesRadies) {
-  base.Fichier(u"EtiquetteEleve-99012.label"_s, "1");
-  base.Fichier(u"EtiquetteEleve-11352.label"_s, "2");
+  for (const QString& numero : {u"99012"_s, u"11352"_s})
+    Modele(numero, {"NomEleve", "NomEcole", "CodeBarre"});
   const TResultat resultat = Demander(0, {anne, radie, anne});
   EXPECT_TRUE(!resultat.Echec && resultat.Messages.isEmpty());
-  const QStringList une{u"NomEleve = ADAM Anne"_s, u"NomEcole = P3 A"_s, u"CodeBarre || 5537-1"_s,
-                        u"imprime 1 sur [DYMO LabelWriter] en [USB on 1]"_s};
-  EXPECT_EQ(carnet.Faits, (QStringList{u"moteur"_s, u"ouvre EtiquetteEleve-99012.label"_s} + une + une));
+  const QString une = u"99012/ADAM Anne/P3 A/5537-1 1x sur [DYMO LabelWriter] en [USB on 1]"_s;
+  EXPECT_EQ(imprimees, (QStringList{une, une}));
   imprimante = u"Dymo"_s;
   EXPECT_FALSE(Demander(1, {anne}).Echec);
-  EXPECT_EQ(carnet.Moteurs, 1) << "the engine is kept";
-  EXPECT_EQ(carnet.Faits.first(), u"ouvre EtiquetteEleve-11352.label"_s);
-  EXPECT_EQ(carnet.Faits.last(), u"imprime 1 sur [Dymo] en []"_s);
-  // Alone, too.
+  EXPECT_EQ(moteurs, 1) << "the engine is kept";
+  EXPECT_EQ(imprimees, QStringList{u"11352/ADAM Anne/P3 A/5537-1 1x sur [Dymo] en []"_s});
   EXPECT_FALSE(Demander(1, {radie}).Echec);
-  EXPECT_EQ(carnet.Faits, QStringList{u"ouvre EtiquetteEleve-11352.label"_s});
+  EXPECT_EQ(imprimees, QStringList()) << "not even alone";
 }
 
 TEST_F(TEtiquettesEssai, SansMoteurNiModele) {
@@ -107,7 +80,7 @@ TEST_F(TEtiquettesEssai, SansMoteurNiModele) {
     EXPECT_TRUE(sans.Echec);
     EXPECT_EQ(sans.Messages, QStringList{u"Impossible d'initialiser les pilotes d'impression. Veuillez "
                                          "vérifier l'installation de votre imprimante Dymo."_s});
-    EXPECT_EQ(carnet.Moteurs, fois) << "it is tried again";
+    EXPECT_EQ(moteurs, fois) << "it is tried again";
   }
   installe = true;
   const QString suite =
@@ -117,20 +90,16 @@ TEST_F(TEtiquettesEssai, SansMoteurNiModele) {
   const TResultat petite = Demander(1, {anne});
   EXPECT_TRUE(petite.Echec);
   EXPECT_EQ(petite.Messages, QStringList{debut % u" : \"EtiquetteEleve-11352.label\"." % suite});
-  EXPECT_TRUE(carnet.Faits.isEmpty());
 }
 
 TEST_F(TEtiquettesEssai, UnObjetQuiManqueSeDitAChaqueEtiquette) {
-  base.Fichier(u"EtiquetteEleve-99012.label"_s, "1");
-  carnet.Objets = {u"NomEcole"_s};
-  const TResultat resultat = Demander(0, {anne, anne});
-  EXPECT_FALSE(resultat.Echec);
-  const QStringList messages{u"Le modèle d'étiquette de contient pas de champs \"NomEleve\"."_s,
-                             u"Le modèle d'étiquette de contient pas de champs \"CodeBarre\"."_s};
-  EXPECT_EQ(resultat.Messages, messages + messages);
-  const QStringList une{u"NomEcole = P3 A"_s, u"imprime 1 sur [DYMO LabelWriter] en [USB on 1]"_s};
-  EXPECT_EQ(carnet.Faits.mid(2), une + une);
-  carnet.Objets = {u"NomEleve"_s, u"CodeBarre"_s};
-  EXPECT_EQ(Demander(0, {anne}).Messages,
-            QStringList{u"Le modèle d'étiquette de contient pas de champs \"NomEcole\"."_s});
+  const auto manque = [](const QString& nom) {
+    return u"Le modèle d'étiquette de contient pas de champs \"%1\"."_s.arg(nom);
+  };
+  Modele(u"99012"_s, {"NomEcole"});
+  const QStringList messages{manque(u"NomEleve"_s), manque(u"CodeBarre"_s)};
+  EXPECT_EQ(Demander(0, {anne, anne}).Messages, messages + messages);
+  EXPECT_EQ(imprimees.size(), 2) << "printed all the same";
+  Modele(u"99012"_s, {"NomEleve", "CodeBarre"});
+  EXPECT_EQ(Demander(0, {anne}).Messages, QStringList{manque(u"NomEcole"_s)});
 }

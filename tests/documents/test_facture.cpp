@@ -1,7 +1,5 @@
 #include "ecole_documents.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct TFactureEssai : TDocumentsEssai {

@@ -2,8 +2,6 @@
 
 #include "ecole_documents.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct TReleveDetailleEssai : TDocumentsEssai {

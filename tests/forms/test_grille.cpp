@@ -88,65 +88,28 @@ TEST(Grille, UneLigneGardeCeQuElleEst) {
   EXPECT_EQ(grille.LigneCourante(), 1);
   EXPECT_EQ(grille.Ligne(1).Objet.En<TEleveFictif>(), &luc);
   EXPECT_EQ(grille.Ligne(1).Objet.En<TClasseFictive>(), nullptr);
-  EXPECT_EQ(grille.Ligne(1).Etat, 2);
-  EXPECT_TRUE(grille.Ligne(1).Coche);
+  EXPECT_TRUE(grille.Ligne(1).Coche && grille.Ligne(1).Etat == 2);
   EXPECT_EQ(grille.TrouverObjet(&anne), 0);
   EXPECT_EQ(grille.TrouverObjet(nullptr), -1);
   grille.Trier(1);  // alike rows keep their order
   EXPECT_EQ(Colonne(grille, 0), (QStringList{u"Marc"_s, u"Anne"_s, u"Luc"_s}));
   EXPECT_EQ(choix, 0);
-
   grille.Retirer(0);
   EXPECT_EQ(grille.LigneCourante(), 1);
   grille.Retirer(1);
   EXPECT_EQ(grille.LigneCourante(), 0);
   EXPECT_EQ(choix, 1);
-  grille.Vider();
-  EXPECT_EQ(grille.LigneCourante(), -1);
-  EXPECT_EQ(choix, 2);
-  EXPECT_EQ(grille.NombreColonnes(), 2);
-  EXPECT_THROW(grille.Retirer(0), std::out_of_range);
+  EXPECT_THROW(grille.Retirer(1), std::out_of_range);
 }
 
-TEST(Grille, FiltreSansCasseNiAccent) {
-  TGrille grille = Grille(TGenre::Texte, {u"Élodie Gaëlle"_s, {}});
-  for (const char* oui : {"", "elodie", "GAELLE él", "x ÉLO"})
+TEST(Grille, FiltreSansCasseNiAccentEtParLEtat) {
+  TGrille grille({{u"Nom"_s}, {u"Valeur"_s}, {u"État"_s, 80, TGenre::Etat}});
+  grille.Etats = {{}, {u"Payé"_s, u"dialog-ok-apply"_s}};
+  grille.Ajouter({u"x"_s, u"Élodie Gaëlle"_s}, {}, 1);
+  for (const char* oui : {"", "elodie", "GAELLE él", "x ÉLO", "paye"})
     EXPECT_TRUE(grille.Contient(0, QString::fromUtf8(oui))) << oui;
   for (const char* non : {"elodies", "xé", "elodie luc"})
     EXPECT_FALSE(grille.Contient(0, QString::fromUtf8(non))) << non;
-}
-
-TEST(Grille, LesGroupesTiennentEnsemble) {
-  TGrille grille = Grille(TGenre::Montant, {M("9")});
-  const auto remplir = [&] {
-    grille.AjouterTete({u"Soir"_s, u"2 relevés"_s});
-    for (const char* montant : {"3", "-2,50"}) grille.Ajouter({{}, M(montant)});
-    grille.AjouterTete({u"Matin"_s});
-    grille.Ajouter({{}, M("1")});
-  };
-  remplir();
-  EXPECT_EQ(grille.TeteDe(0), -1);
-  EXPECT_EQ(grille.TeteDe(1), -1);
-  EXPECT_EQ(grille.TeteDe(3), 1);
-  EXPECT_EQ(grille.TeteDe(5), 4);
-  grille.Trier(1);
-  EXPECT_EQ(Colonne(grille, 1), u"9,00 €|2 relevés|-2,50 €|3,00 €||1,00 €"_s.split(u'|'));
-  grille.Fermer(4, true);
-  grille.Vider();
-  remplir();
-  EXPECT_FALSE(grille.EstFerme(0));
-  EXPECT_TRUE(grille.EstFerme(3));
-}
-
-TEST(Grille, LEtatSeLitCommeUnTexte) {
-  TGrille grille({{u"Nom"_s}, {u"État"_s, 80, TGenre::Etat}});
-  grille.Etats = {{}, {u"Payé"_s, u"dialog-ok-apply"_s}, {u"Dû"_s, {}}};
-  for (const int etat : {1, 0, 2}) grille.Ajouter({u"x"_s}, {}, etat);
-  EXPECT_EQ(grille.Texte(0, 1), u"Payé"_s);
-  EXPECT_TRUE(grille.Contient(2, u"du"_s));
-  EXPECT_FALSE(grille.Contient(1, u"du"_s));
-  EXPECT_GT(grille.Comparer(0, 2, 1), 0);
-  EXPECT_LT(grille.Comparer(1, 2, 1), 0);
 }
 
 TEST(Grille, AnnonceChaqueChangementOuUnLot) {
@@ -155,52 +118,35 @@ TEST(Grille, AnnonceChaqueChangementOuUnLot) {
   const TLien lien = grille.SurChangement.Suivre(
       [&](TGrille::TChangement changement) { lignes.push_back(changement.Ligne); });
   grille.Ecrire(1, 1, u"loin"_s);
-  EXPECT_EQ(grille.Texte(1, 1), u"loin"_s);
   grille.ChangerEtat(0, 1);
-  grille.Ajouter({u"c"_s});
-  EXPECT_EQ(lignes, (std::vector{1, 0, -1}));
-  lignes.clear();
   {
     TGrille::TLot lot(grille);
-    grille.DefinirColonnes({{u"Seule"_s}});
+    grille.Vider();
     grille.Ajouter({u"d"_s});
-    EXPECT_TRUE(lignes.empty());
   }
-  EXPECT_EQ(lignes, std::vector{-1});
   { TGrille::TLot rien(grille); }
-  EXPECT_EQ(lignes.size(), 1U);
+  EXPECT_EQ(lignes, (std::vector{1, 0, -1}));
 }
 
 TEST(Arbre, OrdreEtRecherche) {
   TEleveFictif anne, luc;
   TArbre arbre;
-  EXPECT_EQ(arbre.Premier(), nullptr);
   TNoeud& m1 = arbre.Ajouter(nullptr, u"M1"_s);
   TNoeud& p1 = arbre.Ajouter(nullptr, u"P1"_s);
-  TNoeud& noeudAnne = arbre.Ajouter(&m1, u"Élan Anne"_s, &anne);
+  arbre.Ajouter(&m1, u"Élan Anne"_s, &anne);
   TNoeud& noeudLuc = arbre.Ajouter(&p1, u"p1"_s, &luc);
-
-  std::vector<const TNoeud*> ordre;
-  for (const TNoeud* noeud = arbre.Premier(); noeud; noeud = arbre.Suivant(*noeud)) ordre.push_back(noeud);
-  EXPECT_EQ(ordre, (std::vector<const TNoeud*>{&m1, &noeudAnne, &p1, &noeudLuc}));
-  EXPECT_EQ(noeudLuc.Niveau(), 1);
-
+  QStringList ordre;
+  for (const TNoeud* noeud = arbre.Premier(); noeud; noeud = arbre.Suivant(*noeud)) ordre += noeud->Texte;
+  EXPECT_EQ(ordre, (QStringList{u"M1"_s, u"Élan Anne"_s, u"P1"_s, u"p1"_s}));
   EXPECT_EQ(arbre.TrouverObjet(&luc), &noeudLuc);
   EXPECT_EQ(arbre.TrouverObjet(nullptr), nullptr);  // M1 carries none
-  EXPECT_EQ(arbre.TrouverTexte(u"éLAN aNNE"_s), &noeudAnne);
-  EXPECT_EQ(arbre.TrouverTexte(u"p1"_s), &p1);  // the first in tree order
-  EXPECT_EQ(arbre.TrouverTexte(u"P"_s), nullptr);
-
   int choix = 0;
   const TLien lien = arbre.SurSelection.Suivre([&] { ++choix; });
-  arbre.Selectionner(&noeudLuc);
-  arbre.Selectionner(&noeudLuc);
-  EXPECT_EQ(choix, 1);
+  for (int fois = 0; fois < 2; ++fois) arbre.Selectionner(&noeudLuc);
   arbre.Supprimer(m1);
   EXPECT_EQ(arbre.Selection(), &noeudLuc);
   EXPECT_EQ(arbre.TrouverObjet(&anne), nullptr);
   arbre.Supprimer(p1);
   EXPECT_EQ(arbre.Selection(), nullptr);
   EXPECT_EQ(choix, 2);
-  EXPECT_EQ(arbre.Premier(), nullptr);
 }

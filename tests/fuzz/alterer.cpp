@@ -30,31 +30,18 @@ void ChangerValeur(QByteArray& ligne, char guillemet, const QByteArray& tout, st
 }  // namespace
 
 QByteArray Alterer(QByteArray octets, std::mt19937& tirage) {
-  static const QByteArray pieces[] = {";",
-                                      "\"",
-                                      "\"\"",
-                                      "\r\n",
-                                      "\n\n",
-                                      QByteArray(1, '\0'),
-                                      "\xff\xfe",
-                                      "\xEF\xBB\xBF",
-                                      "=\"",
-                                      "-1",
-                                      "00000000",
-                                      "99999999999999999999",
-                                      "\xC3",
-                                      "20161003",
-                                      "é",
-                                      QByteArray(3000, ';'),
-                                      QByteArray(5000, '7'),
-                                      "4;",
-                                      "31/06/2017"};
+  static const QList<QByteArray> pieces =
+      QByteArray(
+          ";|\"|\"\"|\r\n|\n\n|\xff\xfe|\xEF\xBB\xBF|=\"|-1|00000000|99999999999999999999|\xC3|20161003|é|"
+          "4;|31/06/2017")
+          .split('|')
+      << QByteArray(1, '\0') << QByteArray(3000, ';') << QByteArray(5000, '7');
   const auto hasard = [&](qsizetype n) { return Hasard(n, tirage); };
   for (auto fois = hasard(6) + 1; fois > 0; --fois) {
     const qsizetype ou = hasard(octets.size() + 1);
     switch (hasard(5)) {
       case 0:
-        octets.insert(ou, pieces[hasard(std::size(pieces))]);
+        octets.insert(ou, pieces[hasard(pieces.size())]);
         break;
       case 1:
         octets.remove(ou, hasard(40));

@@ -16,8 +16,6 @@
 #include "workflows/import_registre.h"
 #include "workflows/import_virements.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// Says nothing and refuses everything, whatever the bytes lead to.

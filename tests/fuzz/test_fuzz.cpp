@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "core/data_set.h"
 #include "fuzz/alterer.h"
 #include "fuzz/cibles.h"

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -9,8 +7,6 @@
 #include "fuzz/alterer.h"
 #include "fuzz/cibles.h"
 #include "report/layout/document_prepare.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

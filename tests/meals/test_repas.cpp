@@ -1,11 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "core/exceptions.h"
 #include "meals/commandes.h"
 #include "meals/repas_paiements.h"
 #include "meals/tickets.h"
 #include "support/ecole_essai.h"
-#include "support/valeurs.h"
 
 namespace {
 

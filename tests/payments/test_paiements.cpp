@@ -1,10 +1,5 @@
-#include <gtest/gtest.h>
-
 #include "payments/paiements.h"
-#include "support/affichage.h"
 #include "support/ecole_essai.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

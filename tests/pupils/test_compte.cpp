@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "attendance/presences.h"
 #include "payments/paiements.h"
 #include "pupils/eleves.h"
@@ -7,8 +5,6 @@
 #include "services/frais_eleve.h"
 #include "services/tarifs_garderies.h"
 #include "support/ecole_essai.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,11 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "core/data_set.h"
 #include "pupils/eleves.h"
-#include "support/affichage.h"
 #include "support/ecole_essai.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

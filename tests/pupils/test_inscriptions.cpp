@@ -1,10 +1,5 @@
-#include <gtest/gtest.h>
-
 #include "pupils/eleves.h"
-#include "support/affichage.h"
 #include "support/ecole_essai.h"
-
-using namespace Qt::StringLiterals;
 
 TEST(Inscriptions, UnEleveInscritDeuxFoisLaMemeAnnee) {
   TBaseEssai base;

@@ -1,13 +1,8 @@
-#include <gtest/gtest.h>
-
 #include <random>
 
-#include "core/data_set.h"
 #include "pupils/eleves.h"
 #include "pupils/photo.h"
 #include "support/ecole_essai.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -89,17 +84,4 @@ TEST(Photo, AucunOctetNeFaitTomberLeLecteur) {
   }
   EXPECT_GT(lues, 100);
   EXPECT_LT(lues, 2900);
-}
-
-TEST(Photo, HorsLigne) {
-  TDataSet inscriptions({u"ELEVE_ID"_s}), copie({u"ELEVE_ID"_s}), photos({u"ELEVE_ID"_s, u"PHOTO"_s});
-  for (const int id : {1, 2, 3}) copie.Ajouter({id});
-  photos.Ajouter({3, QByteArray("rien")});
-  photos.Ajouter({2, EncoderJpeg(Image(kRouge, kBleu))});
-  TEleves eleves(2016, inscriptions, copie);
-  eleves.SourcePhotos = &photos;
-  EXPECT_TRUE(eleves[0].GetPhoto().isNull());
-  EXPECT_TRUE(Montre(eleves[1].GetPhoto(), kRouge, kBleu));
-  EXPECT_THROW(eleves[2].GetPhoto(), Exception);
-  EXPECT_THROW(eleves[0].SetPhoto(Image(kRouge, kBleu)), Exception);
 }

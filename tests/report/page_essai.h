@@ -1,24 +1,12 @@
 #pragma once
-#include <gtest/gtest.h>
-
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include "report/layout/codes_barres.h"
+#include "support/outil.h"
 
 /// A text at a place, in 11 points unless said.
 inline TElementTexte Texte(const QString& texte, float x, float y, const TStyle& style = {}) {
   return {Former(texte, style), x, y};
-}
-
-/// What a program prints; a program that fails fails the test.
-inline QString Sortie(const QString& programme, const QStringList& arguments) {
-  QProcess processus;
-  processus.start(programme, arguments);
-  EXPECT_TRUE(processus.waitForFinished()) << programme.toStdString();
-  EXPECT_EQ(processus.exitCode(), 0) << programme.toStdString() << ": "
-                                     << processus.readAllStandardError().toStdString();
-  return QString::fromUtf8(processus.readAllStandardOutput());
 }
 
 /// One page with an element of each kind.

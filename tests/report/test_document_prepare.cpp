@@ -2,8 +2,6 @@
 #include "page_essai.h"
 #include "report/output/peintre.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 TDocumentPrepare Document() {

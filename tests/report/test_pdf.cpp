@@ -7,8 +7,6 @@
 #include "report/output/pdf.h"
 #include "report/output/peintre.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class Pdf : public testing::Test {

@@ -1,13 +1,8 @@
 #pragma once
-#include <gtest/gtest.h>
-
 #include "pupils/eleves.h"
 #include "screens/documents/frm_print_wizard.h"
 #include "screens/pupils/frm_signaletique.h"
 #include "support/ecran_essai.h"
-#include "support/valeurs.h"
-
-using namespace Qt::StringLiterals;
 
 /// A pupil of whom there is something to see in each place of its record, and one of whom there is
 /// nothing. What the screen asks of the wizard is noted.

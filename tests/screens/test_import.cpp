@@ -1,10 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "screens/pupils/frm_import.h"
 #include "support/ecran_essai.h"
 #include "support/fichier_registre.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -33,39 +29,12 @@ class FrmImport : public testing::Test {
 
 }  // namespace
 
-TEST_F(FrmImport, AFileIsShownThenTransferred) {
+TEST_F(FrmImport, AFileIsShownAsItStands) {
   Ouvrir(TFichierRegistre(1).Mettre(2, 6, u"2010/01/02"_s).Ecrire(Base));
-  ASSERT_EQ(Form.Grille.NombreLignes(), 9);
   EXPECT_EQ(Form.Grille.Textes(0), (QStringList{"Nouveau", "1234-1", "Nom 1234-1", "Zoé", "28/02/2010",
                                                 "P3 B", "SITE", "Père", "Wavre"}));
-  EXPECT_EQ(Form.Grille.Texte(1, TFrmImport::Naissance), u"2010/01/02") << "shown as it stands";
-  EXPECT_TRUE(Form.Etape2Suivante());
+  EXPECT_EQ(Form.Grille.Texte(1, TFrmImport::Naissance), u"2010/01/02");
   EXPECT_EQ(Form.Effet(), u"8 nouveaux, 1 illisible") << "told before anything is written";
-
-  Ouvrir(TFichierRegistre(1).Ecrire(Base));
-  // What a view sees while it runs.
-  QStringList vus;
-  TLien suivi = Form.SurChangement.Suivre([&] {
-    if (!Form.Feuille().Visible) return;
-    vus += u"%1 %2/%3 %4"_s.arg(Etats())
-               .arg(Form.Feuille().Fait)
-               .arg(Form.Feuille().Total)
-               .arg(Form.Feuille().Nom);
-    EXPECT_FALSE(Form.Etape1Active() || Form.Etape2Active());
-    Form.btnEtape1Click();
-    Form.btnEtape2Click();
-    EXPECT_FALSE(Form.Fermer()) << "nothing starts or closes meanwhile";
-    EXPECT_EQ(Ecran.Niveau, TNiveauEtat::Alerte);
-  });
-  Form.btnEtape2Click();
-  ASSERT_EQ(vus.size(), 10);
-  EXPECT_EQ(vus[3], u"TTTe----- 4/9 Nom 1234-4 Zoé");
-  EXPECT_EQ(Etats(), u"TTTTTTTTT");
-  EXPECT_FALSE(Form.Feuille().Visible);
-  EXPECT_FALSE(Form.Etape2Active());
-  EXPECT_EQ(Globals.EleveCourant, nullptr);
-  suivi.Rompre();
-  EXPECT_TRUE(Form.Fermer());
 }
 
 // Short files, an answer of "Non" and files that are no register: in the tests of the window.
@@ -93,18 +62,8 @@ TEST_F(FrmImport, AClosingThatFailsIsNoTransfer) {
   EXPECT_EQ(Form.Grille.NombreLignes(), 0) << "what was shown is gone";
 }
 
-TEST_F(FrmImport, AFaultStopsAtItsRow) {
-  Ouvrir(TFichierRegistre(1).Mettre(5, 14, u"B-1300"_s).Ecrire(Base));
-  EXPECT_THROW(Form.btnEtape2Click(), EConvertError);
-  EXPECT_EQ(Etats(), u"TTTTR----");
-  EXPECT_EQ(Form.Grille.LigneCourante(), 4);
-  EXPECT_TRUE(Form.Feuille().Arretee);
-  EXPECT_TRUE(Form.Etape2Active());
-  EXPECT_FALSE(Form.Etape2Suivante()) << "a mended file comes first";
-
-  // A failure that is no row's marks none.
+TEST_F(FrmImport, AFailureThatIsNoRowsMarksNone) {
   Ouvrir(TFichierRegistre(1).Ecrire(Base));
-  EXPECT_FALSE(Form.Feuille().Visible);
   Base.Sql(u"ALTER TABLE ELEVES ALTER NOM TO NOM_PERDU"_s);
   EXPECT_THROW(Form.btnEtape2Click(), Exception);
   EXPECT_EQ(Etats(), u"---------");

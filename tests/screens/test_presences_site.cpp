@@ -1,6 +1,4 @@
 // The presences of a real FTP site, and of a device that is mounted as a folder.
-#include <gtest/gtest.h>
-
 #include "screens/attendance/frm_presences.h"
 #include "support/ecran_essai.h"
 #include "support/serveur_ftp.h"
@@ -116,19 +114,27 @@ TEST_F(PresencesDuSite, TheFolderOfTheDevice) {
   const QString absent =
       u"Veuillez vérifier si votre lecteur de code à barre est allumé et connecté à votre ordinateur."_s;
   const QString premier = u"appareil/StorageCard/Presences/"_s, second = u"appareil/Backup/Presences/"_s;
+  Ecran.Contexte.Lecteur = nullptr;  // a machine that knows no scanner
+  Base.Dialogues.Attend(absent).Attend(absent);
+  Form.btnImportScannerClick();
+  Ecran.Contexte.Lecteur = Lecteur.get();
   Base.Reglages.Ecrire(TRacine::Utilisateur, u"Lecteur"_s, Base.Chemin(u"appareil"_s));
-  Base.Dialogues.Attend(absent);
   Form.btnImportScannerClick();
   for (const QString& dossier : {premier, second}) QDir().mkpath(Base.Chemin(dossier));
   Base.Dialogues.Attend(kErreur + u"Unable to open"_s).Attend(kErreur + u"Unable to open"_s);
   Base.Dialogues.Attend(u"Aucune donnée à récupérer"_s);
   Form.btnImportScannerClick();
-  const QString fichier = Base.Fichier(second + u"Presences.txt"_s, kScans);
-  Base.Dialogues.Attend(kErreur + u"Unable to open"_s);
+  const QString fichier = Base.Fichier(second + u"Presences.txt"_s, "11;x\n");
+  Base.Dialogues.Attend(kErreur + u"Unable to open"_s).Attend(kErreur + u"Unable to open"_s);
+  EXPECT_THROW(Form.btnImportScannerClick(), EConvertError);
+  EXPECT_TRUE(QFile::exists(fichier)) << "a malformed file stays on the device";
+  Base.Fichier(second + u"Presences.txt"_s, kScans + QByteArray(5000, ' '));
   Form.btnImportScannerClick();
-  EXPECT_TRUE(QFile::exists(fichier));
+  const QString copie = Base.Chemin(u"Presences.txt"_s);
+  EXPECT_TRUE(QFile::exists(fichier) && QFile::exists(copie));
   Base.Dialogues.Attend(kMemorisees);
   Form.btnEtape2Click();
-  EXPECT_FALSE(QFile::exists(fichier));
+  EXPECT_FALSE(QFile::exists(fichier) || QFile::exists(copie));
+  EXPECT_EQ(Archives(), u"Presences-3.10.2016-7h5m0s.txt");
   EXPECT_EQ(Presences(), u"1");
 }

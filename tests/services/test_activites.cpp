@@ -1,10 +1,5 @@
-#include <gtest/gtest.h>
-
 #include "services/activites.h"
 #include "support/ecole_essai.h"
-#include "support/valeurs.h"
-
-using namespace Qt::StringLiterals;
 
 TEST(Activites, DuJourEtEnCours) {
   TBaseEssai base;

@@ -1,12 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "services/frais_eleve.h"
 #include "services/groupes_frais.h"
-#include "support/affichage.h"
 #include "support/ecole_essai.h"
-#include "support/valeurs.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

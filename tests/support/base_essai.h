@@ -1,4 +1,6 @@
 #pragma once
+#include <gtest/gtest.h>
+
 #include <QTemporaryDir>
 
 #include "core/data_module.h"

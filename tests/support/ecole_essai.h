@@ -1,7 +1,6 @@
 #pragma once
 #include "support/base_essai.h"
-
-using namespace Qt::StringLiterals;
+#include "support/valeurs.h"
 
 /// Presence kinds and tariff values by name, so that a test reads like a sentence.
 namespace Essai {

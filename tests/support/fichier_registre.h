@@ -1,8 +1,6 @@
 #pragma once
 #include "support/base_essai.h"
 
-using namespace Qt::StringLiterals;
-
 /// A register file of either layout, built by column: nine pupils of P3 B, dated 1 September 2016.
 class TFichierRegistre {
  public:

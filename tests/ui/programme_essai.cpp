@@ -1,7 +1,5 @@
 #include "ui/programme_essai.h"
 
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,8 +11,6 @@
 #include "ui/commun/dialogue_base.h"
 #include "ui/principal/application.h"
 #include "ui/principal/barre_commandes.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -8,8 +8,6 @@
 #include "support/controleur_essai.h"
 #include "ui/principal/programme.h"
 
-using namespace Qt::StringLiterals;
-
 class QAbstractButton;
 
 /// Answers the program's dialogs by clicking and typing in them, in the order in which a test expects

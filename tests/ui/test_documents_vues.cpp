@@ -1,11 +1,8 @@
-#include <gtest/gtest.h>
-
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPrinter>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -15,7 +12,7 @@
 #include "documents/catalogue.h"
 #include "pupils/eleves.h"
 #include "screens/payments/frm_date_paiement.h"
-#include "support/valeurs.h"
+#include "support/outil.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/saisie.h"
 #include "ui/commun/vue_dialogue.h"
@@ -27,8 +24,6 @@
 #include "ui/documents/vue_print_wizard.h"
 #include "ui/programme_essai.h"
 #include "ui/verifier_vue.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -110,13 +105,7 @@ class DocumentsVues : public testing::Test {
     return ici != nullptr && (TextesDe(*ici).contains(nom) || ici->accessibleName() == nom ||
                               ici->property("text").toString() == nom);
   }
-  static QString Lire(const QString& outil, const QStringList& arguments) {
-    QProcess lecteur;
-    lecteur.start(outil, arguments);
-    lecteur.waitForFinished();
-    return QString::fromUtf8(lecteur.readAllStandardOutput());
-  }
-  static QString Texte(const QString& pdf) { return Lire(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s}); }
+  static QString Texte(const QString& pdf) { return Sortie(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s}); }
 
   TProgrammeEssai programme;
 };
@@ -237,7 +226,7 @@ TEST_F(DocumentsVues, PrintedPagesReadBack) {
   imprimante.setOutputFormat(QPrinter::PdfFormat);
   imprimante.setOutputFileName(programme.Base.Chemin(u"peint.pdf"_s));
   PeindreSurImprimante(form.Document(), imprimante);
-  const QString lu = Lire(u"pdfinfo"_s, {imprimante.outputFileName()}).simplified();
+  const QString lu = Sortie(u"pdfinfo"_s, {imprimante.outputFileName()}).simplified();
   EXPECT_TRUE(lu.contains(u"Pages: 3 "_s) && lu.contains(u"A4"_s)) << lu.toStdString();
 
   // To a file: the range that was asked for.

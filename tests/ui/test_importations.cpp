@@ -1,13 +1,9 @@
 // The two imports through the real window: files chosen, read, refused, corrected, stored.
-#include <gtest/gtest.h>
-
-#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QMenu>
 #include <QPushButton>
-#include <QTest>
 
 #include "screens/attendance/frm_ajout_releve.h"
 #include "screens/attendance/frm_presences.h"
@@ -18,12 +14,9 @@
 #include "ui/commun/saisie.h"
 #include "ui/commun/vue_dialogue.h"
 #include "ui/commun/vue_grille.h"
-#include "ui/principal/barre_etat.h"
-#include "ui/programme_essai.h"
 #include "ui/pupils/vue_import.h"
+#include "ui/reglages_essai.h"
 #include "ui/verifier_vue.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -54,13 +47,9 @@ std::vector<TMauvaisFichier> MauvaisFichiers(TBaseEssai& base) {
       {base.Fichier(u"binaire.txt"_s, QByteArray("MZ\0\x90;\0\0", 7)), u"n'est pas un fichier de texte."_s}};
 }
 
-class Importations : public testing::Test {
+class Importations : public TReglagesEssai {
  protected:
-  void SetUp() override { Ecole(Base); }
-  void Demarrer(TGestionnaire ecran) {
-    Programme.Demarrer();
-    Programme.Ouvrir(ecran);
-  }
+  void SetUp() override { ::Ecole(Base); }
   /// In the file dialog with this title the path is typed.
   TRepondeur& Choisit(const QString& titre, const QString& chemin) {
     return Programme.Dialogues.Fait(titre, [chemin](QWidget& dialogue) {
@@ -72,13 +61,7 @@ class Importations : public testing::Test {
   TRepondeur& Abandonne(const QString& titre) {
     return Programme.Dialogues.Fait(titre, [](QWidget& dialogue) { dialogue.close(); });
   }
-  void Cliquer(const QString& bouton) { ::Cliquer(Programme.Fenetre(), bouton); }
   bool EstActif(const QString& bouton) { return BoutonDe(Programme.Fenetre(), bouton)->isEnabled(); }
-  QString Etat() { return Programme.Fenetre().Etat()->Texte(); }
-  template <class T>
-  T& Form() {
-    return dynamic_cast<T&>(*Programme.Main().Panneau.Courante());
-  }
   void ImporterPresences() {
     for (QAction* action : Programme.Vue<VuePresences>()->findChild<QMenu*>()->actions())
       if (action->text() == kImporter)
@@ -86,11 +69,6 @@ class Importations : public testing::Test {
     QCoreApplication::processEvents();
     Activer();
   }
-  /// After a dialog: no window manager does it.
-  void Activer() { QApplication::setActiveWindow(&Programme.Fenetre()); }
-
-  TProgrammeEssai Programme;
-  TBaseEssai& Base = Programme.Base;
 };
 
 }  // namespace

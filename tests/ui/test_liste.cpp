@@ -1,16 +1,10 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QTest>
 
-#include "programme_essai.h"
 #include "screens/services/frm_parametres_garderies.h"
 #include "support/ecran_essai.h"
 #include "ui/commun/champ_filtre.h"
@@ -18,11 +12,8 @@
 #include "ui/commun/vue_grille.h"
 #include "ui/commun/vue_liste.h"
 #include "ui/principal/barre_commandes.h"
-#include "ui/principal/barre_etat.h"
-#include "ui/principal/fenetre_principale.h"
+#include "ui/reglages_essai.h"
 #include "verifier_vue.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,42 +21,24 @@ const QString kQuestion = u"Voulez-vous supprimer ce tarif ?"_s;
 const QString kAbandon = u"Voulez-vous l'abandonner ?"_s;
 
 /// The screen of the tariffs in the whole program, by clicking and typing.
-struct Tarifs : testing::Test {
+struct Tarifs : TReglagesEssai {
   void SetUp() override {
     using namespace Essai;
-    TEcoleEssai ecole(Programme.Base);
-    ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
-    ecole.tarif(Soir, LundiMardiJeudiVendredi, u"16:30"_s, u"18:00"_s, DemiHeure, u"0.0125"_s, ScanSortie,
+    Ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
+    Ecole.tarif(Soir, LundiMardiJeudiVendredi, u"16:30"_s, u"18:00"_s, DemiHeure, u"0.0125"_s, ScanSortie,
                 u"0.4"_s);
-    ecole.tarif(Matin, TousLesJours, u"07:00"_s, u"08:15"_s, Forfait, u"1"_s, ScanPresence);
-    ecole.tarif(Midi, TousLesJours, u"12:00"_s, u"13:30"_s, Forfait, u"10"_s, ScanPresence);
-    Programme.Demarrer();
-    Programme.Ouvrir(TGestionnaire::AdvGlowButton5Click);
+    Ecole.tarif(Matin, TousLesJours, u"07:00"_s, u"08:15"_s, Forfait, u"1"_s, ScanPresence);
+    Ecole.tarif(Midi, TousLesJours, u"12:00"_s, u"13:30"_s, Forfait, u"10"_s, ScanPresence);
+    Demarrer(TGestionnaire::AdvGlowButton5Click);
   }
-  TFrmParametresGarderies& Form() {
-    return dynamic_cast<TFrmParametresGarderies&>(*Programme.Main().Panneau.Courante());
-  }
+  TFrmParametresGarderies& Ecran() { return Form<TFrmParametresGarderies>(); }
   VueListe& Vue() { return *Programme.Vue<VueListe>(); }
   VueGrille& Liste() { return *Vue().findChild<VueGrille*>(); }
-  template <class T>
-  T& Champ(const char* nom) {
-    return *Vue().findChild<T*>(QLatin1String(nom));
-  }
-  void Touche(Qt::Key touche, Qt::KeyboardModifiers avec = {}) {
-    QCoreApplication::processEvents();
-    QTest::keyClick(QApplication::focusWidget(), touche, avec);
-    QCoreApplication::processEvents();
-  }
-  void Taper(const char* champ, const QString& texte) {
-    Champ<QLineEdit>(champ).setFocus(Qt::TabFocusReason);
-    Champ<QLineEdit>(champ).selectAll();
-    QTest::keyClicks(&Champ<QLineEdit>(champ), texte);
-  }
+  QString Texte(const char* champ) { return Controle<QLineEdit>(QLatin1String(champ)).text(); }
   QStringList Table() {
-    return Programme.Base.Rangees(
+    return Base.Rangees(
         u"SELECT TYPE_FAMILLE, TYPE_JOUR, HEURE_DEBUT_SCAN, COUT, COUT_2E_ENFANT FROM TARIF_GARDERIE ORDER "
-        u"BY "
-        "TARIF_GARDERIE_ID"_s);
+        "BY TARIF_GARDERIE_ID"_s);
   }
   QStringList Colonne(int colonne) {
     QStringList textes;
@@ -79,9 +52,6 @@ struct Tarifs : testing::Test {
       if (Programme.Main().OutilActif(outil.Outil)) actifs += outil.Libelle;
     return actifs;
   }
-  QString Etat() { return Programme.Fenetre().Etat()->Texte(); }
-
-  TProgrammeEssai Programme;
 };
 
 }  // namespace
@@ -89,7 +59,7 @@ struct Tarifs : testing::Test {
 TEST_F(Tarifs, MontreLesRangeesEtLesTrieParValeur) {
   EXPECT_TRUE(
       TextesDe(Programme.Fenetre()).contains(u"Horaires et tarifs des services offerts par l'école"_s));
-  EXPECT_EQ(Form().Grille.Textes(1),
+  EXPECT_EQ(Ecran().Grille.Textes(1),
             (QStringList{u"garderie du soir"_s, u"lundi, mardi, jeudi, vendredi"_s, u"16h30"_s, u"18h00"_s,
                          u"0,0125 €"_s, u"à la demi-heure"_s}));
   const char* const attendus[] = {"midi|matin|soir", "midi|soir|matin", "matin|midi|soir",
@@ -99,10 +69,10 @@ TEST_F(Tarifs, MontreLesRangeesEtLesTrieParValeur) {
     EXPECT_EQ(Colonne(0).join(u'|').remove(u"garderie du "_s), QLatin1String(attendus[colonne])) << colonne;
   }
   Liste().setFocus();
-  Form().Grille.ChoisirLigne(1);
-  EXPECT_EQ(Champ<QLineEdit>("edCout").text(), u"0,0125"_s);
-  EXPECT_EQ(Champ<QComboBox>("cmbTypeScan").currentText(), u"scanning à la sortie"_s);
-  EXPECT_TRUE(Champ<QLineEdit>("edCout").isReadOnly());
+  Ecran().Grille.ChoisirLigne(1);
+  EXPECT_EQ(Texte("edCout"), u"0,0125"_s);
+  EXPECT_EQ(Controle<QComboBox>("cmbTypeScan").currentText(), u"scanning à la sortie"_s);
+  EXPECT_TRUE(Controle<QLineEdit>("edCout").isReadOnly());
   EXPECT_EQ(Outils(), (QStringList{"Nouveau", "Modifier", "Supprimer"}));
 }
 
@@ -110,45 +80,44 @@ TEST_F(Tarifs, AjouteModifieEtRefuse) {
   Liste().setFocus();
   Touche(Qt::Key_F7);
   EXPECT_EQ(Outils(), QStringList{"Enregistrer"});
-  EXPECT_EQ(QApplication::focusWidget(), &Champ<QWidget>("cmbTypeFamille"));
-  EXPECT_EQ(Champ<QLineEdit>("edCout").text(), QString());
+  EXPECT_EQ(QApplication::focusWidget(), &Controle("cmbTypeFamille"));
+  EXPECT_EQ(Texte("edCout"), QString());
   for (int i = 0; i < 4; ++i) Touche(Qt::Key_Down);  // "étude"
-  Champ<QComboBox>("cmbTypeJour").setFocus();
+  Controle<QComboBox>("cmbTypeJour").setFocus();
   for (int i = 0; i < 6; ++i) Touche(Qt::Key_Down);
   Taper("edHeureDebut", u"15h30"_s);
   Taper("edHeureFin", u"25:00"_s);
   Touche(Qt::Key_Tab);
-  EXPECT_EQ(QApplication::focusWidget(), &Champ<QWidget>("edHeureFin"))
-      << "the hand stays where the fault is";
+  EXPECT_EQ(QApplication::focusWidget(), &Controle("edHeureFin")) << "the hand stays where the fault is";
   EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"« 25:00 » n'est pas une heure (hh:mm)."_s));
   EXPECT_EQ(Etat(), u"Non enregistré : « 25:00 » n'est pas une heure (hh:mm).");
   Taper("edHeureFin", u"1630"_s);
-  Champ<QLineEdit>("edCout").setFocus(Qt::TabFocusReason);
-  QTest::keyClicks(&Champ<QLineEdit>("edCout"), u"1"_s);
-  QTest::keyClick(&Champ<QLineEdit>("edCout"), Qt::Key_Period, Qt::KeypadModifier);
-  QTest::keyClicks(&Champ<QLineEdit>("edCout"), u"2375"_s);
+  Controle<QLineEdit>("edCout").setFocus(Qt::TabFocusReason);
+  QTest::keyClicks(&Controle<QLineEdit>("edCout"), u"1"_s);
+  QTest::keyClick(&Controle<QLineEdit>("edCout"), Qt::Key_Period, Qt::KeypadModifier);
+  QTest::keyClicks(&Controle<QLineEdit>("edCout"), u"2375"_s);
   Touche(Qt::Key_F9);
-  EXPECT_EQ(QApplication::focusWidget(), &Champ<QWidget>("edCout2eEnfant")) << "an empty price is a fault";
+  EXPECT_EQ(QApplication::focusWidget(), &Controle("edCout2eEnfant")) << "an empty price is a fault";
   EXPECT_EQ(Table().size(), 3);
   QTest::keyClicks(QApplication::focusWidget(), u"0"_s);
   Touche(Qt::Key_F9);
   EXPECT_EQ(Table().last(), u"4;6;15:30:00.000;1.2375;0.0000") << Table().last().toStdString();
   EXPECT_EQ(Etat(), u"Tarif enregistré");
-  EXPECT_EQ(Form().Courant()->TypeFamille, TTypeFamille::Etude);
+  EXPECT_EQ(Ecran().Courant()->TypeFamille, TTypeFamille::Etude);
   EXPECT_TRUE(Programme.Main().OutilActif(TOutil::btnNew));
 
   Touche(Qt::Key_F2);  // then the same key as another row
-  Champ<QComboBox>("cmbTypeFamille").setFocus();
+  Controle<QComboBox>("cmbTypeFamille").setFocus();
   for (int i = 0; i < 3; ++i) Touche(Qt::Key_Up);  // "garderie du matin"
   Taper("edHeureDebut", u"07:00"_s);
   Taper("edHeureFin", u"08:15"_s);
   Programme.Dialogues.Attend(u"UNIQ_TARIF_GARDERIE"_s);
   Touche(Qt::Key_F9);
-  EXPECT_EQ(Form().Mode(), TModeEdition::Modification);
-  EXPECT_EQ(Champ<QLineEdit>("edHeureDebut").text(), u"07:00"_s) << "what was typed stays";
-  EXPECT_EQ(Form().Courant()->TypeFamille, TTypeFamille::Etude) << "memory is what the table holds";
+  EXPECT_EQ(Ecran().Mode(), TModeEdition::Modification);
+  EXPECT_EQ(Texte("edHeureDebut"), u"07:00"_s) << "what was typed stays";
+  EXPECT_EQ(Ecran().Courant()->TypeFamille, TTypeFamille::Etude) << "memory is what the table holds";
   Touche(Qt::Key_Escape);
-  EXPECT_EQ(Champ<QLineEdit>("edHeureDebut").text(), u"15:30"_s);
+  EXPECT_EQ(Texte("edHeureDebut"), u"15:30"_s);
   Touche(Qt::Key_F2);
   Taper("edCout", u"2"_s);
   Touche(Qt::Key_F9);
@@ -157,7 +126,7 @@ TEST_F(Tarifs, AjouteModifieEtRefuse) {
 
 TEST_F(Tarifs, SupprimeEtRetablit) {
   Liste().setFocus();
-  Form().Grille.ChoisirLigne(1);
+  Ecran().Grille.ChoisirLigne(1);
   Programme.Dialogues.Repond(kQuestion, false).Repond(kQuestion, true);
   Touche(Qt::Key_Delete);
   EXPECT_EQ(Table().size(), 3);
@@ -173,7 +142,7 @@ TEST_F(Tarifs, SupprimeEtRetablit) {
     Touche(Qt::Key_Delete);
   }
   EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"Aucun tarif."_s));
-  EXPECT_EQ(Champ<QLineEdit>("edCout").text(), QString());
+  EXPECT_EQ(Texte("edCout"), QString());
   EXPECT_EQ(Outils(), QStringList{"Nouveau"});
 }
 
@@ -191,7 +160,7 @@ TEST_F(Tarifs, DemandeAvantDAbandonner) {
   Programme.Dialogues.Repond(kAbandon, false);
   Programme.Fenetre().close();
   EXPECT_TRUE(Programme.EstOuvert());
-  EXPECT_EQ(Champ<QLineEdit>("edCout").text(), u"7,00"_s);
+  EXPECT_EQ(Texte("edCout"), u"7,00"_s);
   Programme.Dialogues.Repond(kAbandon, true);
   Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
   EXPECT_EQ(Programme.Vue<VueListe>(), nullptr);
@@ -199,7 +168,7 @@ TEST_F(Tarifs, DemandeAvantDAbandonner) {
 
 TEST_F(Tarifs, LeMenuDeLaListe) {
   Liste().setFocus();
-  Form().Grille.ChoisirLigne(0);
+  Ecran().Grille.ChoisirLigne(0);
   const auto choisir = [&](const QString& texte) {
     QMenu menu;
     RemplirMenu(menu, Liste());
@@ -211,7 +180,7 @@ TEST_F(Tarifs, LeMenuDeLaListe) {
   EXPECT_TRUE(QApplication::clipboard()->text().startsWith(u"garderie du midi\ttous les jours\t12h00"_s));
   choisir(u"Coût"_s);
   EXPECT_EQ(Colonne(4).first(), u"0,0125\u00A0€");
-  const QString fichier = Programme.Base.Chemin(u"tarifs.csv"_s);
+  const QString fichier = Base.Chemin(u"tarifs.csv"_s);
   Programme.Dialogues.Fait(u"Exporter la liste"_s, [&](QWidget& dialogue) {
     dialogue.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(fichier);
     QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save),

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "core/exceptions.h"
 #include "services/frais_eleve.h"
 #include "support/controleur_essai.h"

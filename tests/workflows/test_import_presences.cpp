@@ -1,14 +1,9 @@
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 
 #include "core/exceptions.h"
 #include "support/controleur_essai.h"
-#include "support/valeurs.h"
 #include "workflows/import_presences.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -160,19 +155,4 @@ TEST_F(TScansEssai, MalformedFilesStoreNothing) {
   }
   EXPECT_THROW(import.ImporterFichier(fichier(QByteArray("\0\1\2", 3))), Exception);
   EXPECT_THROW(import.ImporterFichier(base.Chemin({})), Exception);
-}
-
-TEST_F(TScansEssai, TheTabletsFileIsArchived) {
-  charger(true);
-  base.Reglages.Ecrire(TRacine::Utilisateur, u"DossierPresences"_s, base.Chemin(u"archives"_s));
-  const QString tablette =
-      base.Fichier(u"presences.txt"_s, "11;2;20161003;120000000;1\n77;2;20161003;120000000;1\n");
-  import.ImporterTablette(tablette);
-  EXPECT_EQ(import.Anomalies().size(), 1U);
-  essai.Horloge.Moment = EncodeDate(2016, 10, 13) + EncodeTime(15, 35, 9);
-  import.EnregistrerTablette();
-  EXPECT_TRUE(import.ArchiverTablette(tablette));
-  EXPECT_FALSE(QFile::exists(tablette));
-  EXPECT_TRUE(QFile::exists(base.Chemin(u"archives/Presences-13.10.2016-15h35m9s.txt"_s)));
-  EXPECT_EQ(rangees().size(), 1);
 }

@@ -1,11 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "core/exceptions.h"
 #include "support/controleur_essai.h"
 #include "support/fichier_registre.h"
 #include "workflows/import_registre.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

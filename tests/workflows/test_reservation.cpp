@@ -1,10 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "core/exceptions.h"
 #include "meals/commandes.h"
 #include "meals/generation_repas.h"
 #include "support/controleur_essai.h"
-#include "support/valeurs.h"
 #include "workflows/jour_cuisine.h"
 #include "workflows/reservation.h"
 #include "workflows/vente_tickets.h"

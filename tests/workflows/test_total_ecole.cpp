@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "support/controleur_essai.h"
 #include "workflows/total_ecole.h"
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 
@@ -8,7 +6,6 @@
 #include "core/fichiers.h"
 #include "pupils/photo.h"
 #include "support/controleur_essai.h"
-#include "support/valeurs.h"
 #include "workflows/copie_locale.h"
 #include "workflows/transfert_repas.h"
 

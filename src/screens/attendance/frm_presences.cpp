@@ -201,15 +201,6 @@ void TfrmPresences::Importerunfichierdeprsence1Click() {
   CompterReleves();
 }
 
-void TfrmPresences::ImporterTablette(const QString& chemin) {
-  Vider();
-  import_.ImporterTablette(chemin);
-  source_ = TSource::Main;
-  lu_ = true;
-  Afficher();
-  CompterReleves();
-}
-
 void TfrmPresences::Vider() {
   FermerLien();
   import_.Vider();
@@ -323,14 +314,6 @@ void TfrmPresences::btnEtape2Click() {
   if (premiere && source_ == TSource::Ftp) Site(&TfrmPresences::ArchiverEtEffacer);
   FermerLien();
   Signaler(TNiveauEtat::Succes, TexteBilan());
-  Annoncer();
-}
-
-void TfrmPresences::MemoriserTablette(const QString& chemin) {
-  OublierObjets(Recapitulatif);
-  import_.EnregistrerTablette();
-  memorise_ = true;
-  import_.ArchiverTablette(chemin);
   Annoncer();
 }
 

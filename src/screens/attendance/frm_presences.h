@@ -21,10 +21,6 @@ class TfrmPresences : public TForm {
   /// "Corriger le relevé" on the current line of the anomalies.
   void Corrigerlerelev1Click();
 
-  // What the tablet does with its file, without a dialog.
-  void ImporterTablette(const QString& chemin);
-  void MemoriserTablette(const QString& chemin);
-
   bool Etape1Active() const { return !enCours_; }
   bool Etape2Active() const { return import_.Pret(); }
   /// The button of step 1 is that of the scanner; else that of the FTP site.

@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "core/accord.h"
 #include "screens/attendance/frm_presences.h"
 
 using namespace Qt::StringLiterals;
@@ -18,8 +19,7 @@ void TfrmPresences::btnImportFTPClick() {
     return;
   }
   try {
-    Lire(TSource::Ftp, localSite_,
-         nomSite_ % u" · " % QString::number(autresSite_) % (autresSite_ > 1 ? u" fichiers." : u" fichier."));
+    Lire(TSource::Ftp, localSite_, nomSite_ % u" · " % Compter(autresSite_, u"fichier."_s, u"fichiers."_s));
   } catch (...) {
     site_.Deconnecter();
     throw;

@@ -6,6 +6,7 @@
 #include "core/accord.h"
 #include "core/comparaisons.h"
 #include "core/formats.h"
+#include "core/mois.h"
 #include "pupils/eleves.h"
 
 using namespace Qt::StringLiterals;
@@ -31,12 +32,6 @@ std::vector<T*> Coches(const TGrille& liste) {
   return objets;
 }
 
-/// In the list of months; -1 for one without school.
-int IndiceDuMois(int mois) {
-  const auto* trouve = std::ranges::find(kMoisFacturation, mois);
-  return trouve == kMoisFacturation.end() ? -1 : static_cast<int>(trouve - kMoisFacturation.begin());
-}
-
 int AnneeAffichee() { return Globals.Eleves->AnneeScolaire; }
 
 }  // namespace
@@ -52,7 +47,7 @@ TFrmPrintWizard::TFrmPrintWizard(const TContexteEcran& contexte) : contexte_(con
   LstEleve.CasesACocher = LstClasse.CasesACocher = true;
   for (TGrille* liste : {&LstEleve, &LstClasse})
     liens_ += liste->SurChangement.Suivre([this](TGrille::TChangement) { Annoncer(); });
-  for (const int mois : kMoisFacturation) mois_ += NomMois(mois);
+  mois_ = NomsMoisScolaires();
 }
 
 bool TFrmPrintWizard::RecevoirMessage(const TMessage& message) {
@@ -147,7 +142,7 @@ void TFrmPrintWizard::PoserDates() {
   if (dtDate1_ != 0.0) return;
   const TDateTime aujourdhui = contexte_.Controleur.Horloge().Aujourdhui();
   dtDate1_ = dtDate2_ = aujourdhui;
-  indiceMois_ = IndiceDuMois(DecodeDate(aujourdhui).Mois);
+  indiceMois_ = IndiceMoisScolaire(DecodeDate(aujourdhui).Mois);
 }
 
 bool TFrmPrintWizard::PageVisible(TPageAssistant page) const {
@@ -196,7 +191,7 @@ void TFrmPrintWizard::btnDernierClick() {
 void TFrmPrintWizard::btnMoisEcranClick() {
   if (MoisEcran() == 0) return;
   choixPeriode_ = TChoixPeriode::Mois;
-  ChoisirMois(IndiceDuMois(MoisEcran()));
+  ChoisirMois(IndiceMoisScolaire(MoisEcran()));
 }
 
 void TFrmPrintWizard::ChoixRapportClick(int indice) {
@@ -336,7 +331,7 @@ QString TFrmPrintWizard::TextePeriode() const {
     return u"du " % FormatDate(dtDate1_) % u" au " % FormatDate(dtDate2_);
   if (indiceMois_ < 0) return u"aucun mois choisi"_s;
   const int mois = kMoisFacturation[static_cast<std::size_t>(indiceMois_)];
-  return NomMois(mois).toLower() % u' ' % QString::number(Globals.Eleves->AnneeDuMois(mois));
+  return NomMoisCourant(mois) % u' ' % QString::number(Globals.Eleves->AnneeDuMois(mois));
 }
 
 QString TFrmPrintWizard::Resume() const {

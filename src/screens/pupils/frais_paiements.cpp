@@ -1,6 +1,7 @@
 #include "screens/pupils/frais_paiements.h"
 
 #include "core/formats.h"
+#include "core/mois.h"
 #include "documents/periode.h"
 #include "payments/paiements.h"
 #include "pupils/eleves.h"
@@ -80,7 +81,7 @@ void TFraisPaiements::AjouterServices(const TEleve& eleve) {
     if (du == Currency() && paye == nullptr) continue;
     const Currency verse = eleve.PaiementsMois(mois);
     const int place =
-        Grille.Ajouter({QString(u"Services " % NomMois(mois).toLower()), mois, du, MontantOuVide(verse)},
+        Grille.Ajouter({QString(u"Services " % NomMoisCourant(mois)), mois, du, MontantOuVide(verse)},
                        paye != nullptr ? paye : &Impaye(eleve, mois, du), EtatDe(du, verse));
     Grille.Cocher(place, paye != nullptr);
     Compter(du, verse);

@@ -4,6 +4,7 @@
 
 #include "core/exceptions.h"
 #include "core/formats.h"
+#include "core/mois.h"
 #include "pupils/eleves.h"
 #include "services/frais_eleve.h"
 
@@ -56,8 +57,7 @@ TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte)
     contexte_.Dialogues().Message(faute);
   };
   const int mois = DecodeDate(contexte.Controleur.Horloge().Aujourdhui()).Mois;
-  const auto trouve = std::ranges::find(kMoisFacturation, mois);
-  if (trouve != kMoisFacturation.end()) indiceMois_ = static_cast<int>(trouve - kMoisFacturation.begin());
+  indiceMois_ = std::max(IndiceMoisScolaire(mois), 0);
 }
 
 void TFrmSignaletique::FormShow() {
@@ -164,12 +164,6 @@ TEtatGrille TFrmSignaletique::EtatSolde() const {
   return {annee.isEmpty() ? u"En ordre"_s : QString(u"Reporté en " % annee), u"dialog-ok-apply"_s};
 }
 
-QStringList TFrmSignaletique::NomsMois() {
-  QStringList noms;
-  for (const int mois : kMoisFacturation) noms += NomMois(mois);
-  return noms;
-}
-
 void TFrmSignaletique::cmbMoisChange(int indice) {
   if (indice < 0 || indice >= std::ssize(kMoisFacturation) || indice == indiceMois_) return;
   indiceMois_ = indice;
@@ -183,5 +177,5 @@ void TFrmSignaletique::RemplirReleve(const TEleve& eleve) {
 
 QString TFrmSignaletique::TexteSansReleve() const {
   if (!avecEleve_ || Releve.Grille.NombreLignes() > 0) return {};
-  return u"Aucun relevé en " % NomsMois()[indiceMois_].toLower();
+  return u"Aucun relevé en " % NomMoisCourant(MoisVu());
 }

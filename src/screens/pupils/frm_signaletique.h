@@ -72,7 +72,6 @@ class TFrmSignaletique : public TForm {
   void Effacerlaphoto1Click();
 
   // The month of the list, 0 for September to 9 for June.
-  static QStringList NomsMois();
   int IndiceMois() const { return indiceMois_; }
   /// The same, 1 to 12.
   int MoisVu() const { return kMoisFacturation[static_cast<std::size_t>(indiceMois_)]; }

@@ -1,6 +1,7 @@
 #include "attendance/presences.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
+#include "core/mois.h"
 #include "documents/accueil_extrascolaire.h"
 #include "documents/periode.h"
 #include "payments/paiements.h"
@@ -117,7 +118,7 @@ void TFrmSignaletique::DireReleve(const TPresence& demande, bool garde, bool pro
     Signaler(u"Relevé non ajouté : cet élève en a déjà un pour ce service ce jour-là"_s);
   else if (mois != MoisVu())
     contexte_.Principal.Etat(TNiveauEtat::Succes,
-                             QString(u"Relevé ajouté au mois de " % NomMois(mois).toLower()));
+                             QString(u"Relevé ajouté au mois de " % NomMoisCourant(mois)));
 }
 
 void TFrmSignaletique::btnDeleteFaitClick() {
@@ -237,7 +238,7 @@ void TFrmSignaletique::grdListeFraisCocheClick(int ligne) {
 
 void TFrmSignaletique::BasculerMois(TPaiement& mois) {
   TPaiements& paiements = *Globals.Paiements;
-  const QString quoi = u"Services " % NomMois(mois.Mois).toLower();
+  const QString quoi = u"Services " % NomMoisCourant(mois.Mois);
   if (mois.TypePaiement != 0) {
     Frais.Grille.ChoisirLigne(-1);
     paiements.MarqueImpaye(mois);

@@ -1,5 +1,6 @@
 #include "screens/pupils/releve_mensuel.h"
 
+#include "core/accord.h"
 #include "pupils/eleve.h"
 
 using namespace Qt::StringLiterals;
@@ -19,7 +20,7 @@ constexpr const char16_t* kGroupes[] = {u"Garderie du matin",
 static_assert(std::size(kGroupes) == kServices.size());
 
 QString CombienReleves(std::size_t nombre) {
-  return QString::number(nombre) % (nombre == 1 ? u" relevé" : u" relevés");
+  return Compter(static_cast<qint64>(nombre), u"relevé"_s, u"relevés"_s);
 }
 
 }  // namespace

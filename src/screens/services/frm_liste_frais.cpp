@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
+#include "core/mois.h"
 #include "screens/principal/arbre_eleves.h"
 
 namespace {
@@ -10,8 +11,6 @@ namespace {
 using T = TFrais;
 
 constexpr int kLibelleMaximum = 200;
-/// By the index of the list, whose first entry is empty.
-constexpr int kMois[] = {0, 9, 10, 11, 12, 1, 2, 3, 4, 5, 6};
 
 TTextesListe Textes() {
   return {.Titre = u"Liste des frais scolaires"_s,
@@ -38,16 +37,8 @@ std::vector<TColonneDe<T>> Colonnes() {
           {{u"Concerne"_s, 130, TGenre::Eleves}, [](const T& f) { return f.NombreElevesFrais(); }}};
 }
 
-QStringList TextesMois() {
-  QStringList textes;
-  for (const int mois : kMois) textes += TexteDe(TGenre::Mois, mois == 0 ? TValeurVue() : TValeurVue(mois));
-  return textes;
-}
-
-TValeurVue IndiceMois(const T& frais) {
-  const auto* mois = std::ranges::find(kMois, frais.Mois);
-  return mois == std::end(kMois) ? 0 : static_cast<int>(mois - kMois);
-}
+/// The first entry is that of a fee without month.
+QStringList TextesMois() { return QStringList{QString()} + NomsMoisScolaires(); }
 
 TTableChamps<T> ChampsFrais() {
   using enum TGenreChamp;
@@ -68,9 +59,10 @@ TTableChamps<T> ChampsFrais() {
        {[](const T& f) { return static_cast<int>(f.TypeFrais); },
         [](T& f, const TValeurVue&) { f.TypeFrais = TTypeFrais::Eleves; }}},
       {{.Nom = u"cmbMois"_s, .Libelle = u"Imputé au mois de:"_s, .Genre = Choix, .Choix = TextesMois},
-       {IndiceMois,
+       {[](const T& f) { return IndiceMoisScolaire(f.Mois) + 1; },
         [](T& f, const TValeurVue& indice) {
-          f.Mois = kMois[static_cast<std::size_t>(ValeurEn<int>(indice))];
+          const auto i = static_cast<std::size_t>(ValeurEn<int>(indice));
+          f.Mois = i == 0 ? 0 : kMoisScolaires[i - 1];
         }}},
       {{.Nom = u"cbPrevisionnel"_s, .Libelle = u"Frais prévisionnel"_s, .Genre = Coche},
        Membre(&T::FlgPrevisionnel)},

@@ -97,21 +97,6 @@ void Bouton(QPainter& peintre, const QStyleOption& option, TGenreBouton genre) {
   Boite(peintre, option.rect, fond, contour, foyer ? 2 : discret ? 0 : 1);
 }
 
-void ListeFermee(QPainter& peintre, const QStyleOption& option) {
-  Bouton(peintre, option, TGenreBouton::Simple);
-}
-
-void Outil(QPainter& peintre, const QStyleOption& option) {
-  const bool actif = A(option, QStyle::State_Enabled);
-  const bool foyer = actif && A(option, QStyle::State_HasFocus);
-  QBrush fond(Qt::NoBrush);
-  if (actif && A(option, QStyle::State_MouseOver)) fond = Theme::Survol();
-  if (A(option, QStyle::State_On) || A(option, QStyle::State_Sunken)) fond = Theme::Selection();
-  const bool plat = A(option, QStyle::State_AutoRaise);
-  const QColor contour = foyer ? Accent() : actif ? Theme::Bord() : Theme::Ligne();
-  Boite(peintre, option.rect, fond, contour, foyer ? 2 : plat ? 0 : 1);
-}
-
 void Foyer(QPainter& peintre, const QStyleOption& option, const QWidget* widget) {
   // Lists draw it on the row, above the ground of the selection.
   QRect place = option.rect;
@@ -120,21 +105,18 @@ void Foyer(QPainter& peintre, const QStyleOption& option, const QWidget* widget)
   Boite(peintre, place, Qt::NoBrush, Accent(), 2, 3);
 }
 
-void Case(QPainter& peintre, const QStyleOption& option, const QWidget* widget) {
+void Case(QPainter& peintre, const QStyleOption& option) {
   const bool actif = A(option, QStyle::State_Enabled);
   const bool plein = A(option, QStyle::State_On), partiel = A(option, QStyle::State_NoChange);
-  const bool lecture = widget && widget->property("lectureSeule").toBool();
   const int cote = std::min(option.rect.width(), option.rect.height());
   QRect place(0, 0, cote, cote);
   place.moveCenter(option.rect.center());
-  const bool vif = actif && !lecture;
-  const QColor fond = plein || partiel ? (vif ? Accent() : Theme::Bord())
-                                       : option.palette.color(vif ? QPalette::Base : QPalette::Window);
-  const QColor contour = plein || partiel ? fond : vif ? Theme::Bord() : Theme::Ligne();
   const Crayon crayon(peintre);
-  if (!actif && (plein || partiel)) peintre.setOpacity(0.5);
-  Boite(peintre, place, fond, contour, 1, 3);
-  if (!plein && !partiel) return;
+  if (!plein && !partiel)
+    return Boite(peintre, place, option.palette.color(actif ? QPalette::Base : QPalette::Window),
+                 actif ? Theme::Bord() : Theme::Ligne(), 1, 3);
+  if (!actif) peintre.setOpacity(0.5);
+  Boite(peintre, place, actif ? Accent() : Theme::Bord(), {}, 0, 3);
   const double u = cote / 16.0;
   peintre.setPen(QPen(Theme::Couleur(TRole::SurAccent), 2 * u, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   peintre.translate(place.topLeft());
@@ -149,25 +131,20 @@ void CaseSeule(QPainter& peintre, const QStyleOptionButton& option, const QWidge
   const int cote = Theme::Px(16);
   QStyleOptionButton copie = option;
   copie.rect = QStyle::alignedRect(option.direction, Qt::AlignCenter, {cote, cote}, option.rect);
-  Case(peintre, copie, widget);
+  Case(peintre, copie);
   copie.rect.adjust(-3, -3, 3, 3);
   if (A(option, QStyle::State_HasFocus)) Foyer(peintre, copie, widget);
 }
 
-void Choix(QPainter& peintre, const QStyleOption& option, const QWidget* widget) {
-  const bool lecture = widget && widget->property("lectureSeule").toBool();
-  const bool actif = A(option, QStyle::State_Enabled) && !lecture, choisi = A(option, QStyle::State_On);
-  const Crayon crayon(peintre);
-  const QColor vif = actif ? (choisi ? Accent() : Theme::Bord()) : Theme::Ligne();
-  peintre.setBrush(option.palette.color(actif ? QPalette::Base : QPalette::Window));
-  const QRectF rond = QRectF(option.rect).adjusted(0.75, 0.75, -0.75, -0.75);
-  peintre.setPen(QPen(choisi && !actif ? Theme::Bord() : vif, choisi ? 1.5 : 1));
-  peintre.drawEllipse(rond);
-  if (!choisi) return;
-  peintre.setPen(Qt::NoPen);
-  peintre.setBrush(actif ? Accent() : Theme::Bord());
-  const double retrait = rond.width() * 0.25;
-  peintre.drawEllipse(rond.adjusted(retrait, retrait, -retrait, -retrait));
+void Choix(QPainter& peintre, const QStyleOption& option) {
+  const bool actif = A(option, QStyle::State_Enabled), choisi = A(option, QStyle::State_On);
+  const QColor vif = choisi && actif ? Accent() : actif || choisi ? Theme::Bord() : Theme::Ligne();
+  const QRectF rond = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  const double rayon = rond.width() / 2;
+  Boite(peintre, rond, option.palette.color(actif ? QPalette::Base : QPalette::Window), vif, choisi ? 1.5 : 1,
+        rayon);
+  const double retrait = rayon / 2;
+  if (choisi) Boite(peintre, rond.adjusted(retrait, retrait, -retrait, -retrait), vif, {}, 0, rayon);
 }
 
 void Fleche(QPainter& peintre, const QRect& place, Qt::ArrowType sens, const QColor& couleur, int demi) {
@@ -212,36 +189,6 @@ void TexteDeTete(QPainter& peintre, const QStyleOptionHeader& option) {
       QFontMetrics(Theme::Gras()).elidedText(option.text, Qt::ElideRight, option.rect.width());
   peintre.drawText(option.rect,
                    static_cast<int>(option.textAlignment | Qt::AlignVCenter) | Qt::TextSingleLine, texte);
-}
-
-void Barre(QPainter& peintre, const QRect& place, const QColor& couleur) {
-  Boite(peintre, place, couleur, couleur, 0, place.height() / 2.0);
-}
-
-void Progression(QPainter& peintre, const QStyleOptionProgressBar& option) {
-  const int etendue = option.maximum - option.minimum;
-  if (etendue <= 0) {  // how long is not known
-    QRect milieu = option.rect;
-    milieu.setWidth(option.rect.width() / 3);
-    milieu.moveLeft(option.rect.width() / 3);
-    return Barre(peintre, milieu, Accent());
-  }
-  const int fait = std::clamp(option.progress - option.minimum, 0, etendue);
-  QRect place = option.rect;
-  place.setWidth(static_cast<int>(static_cast<qint64>(place.width()) * fait / etendue));
-  if (place.width() >= place.height()) Barre(peintre, place, Accent());
-}
-
-void Defilement(QPainter& peintre, const QStyleOptionSlider& option, const QRect& curseur) {
-  peintre.fillRect(option.rect, option.palette.color(QPalette::Window));
-  if (option.maximum <= option.minimum) return;
-  const bool vif = A(option, QStyle::State_MouseOver) || A(option, QStyle::State_Sunken);
-  const QColor couleur =
-      vif ? Theme::Bord() : Melange(Theme::Bord(), option.palette.color(QPalette::Window), 0.4);
-  const int retrait = Theme::Px(2);
-  const QRect place = option.orientation == Qt::Vertical ? curseur.adjusted(retrait, 0, -retrait, 0)
-                                                         : curseur.adjusted(0, retrait, 0, -retrait);
-  Boite(peintre, place, couleur, couleur, 0, std::min(place.width(), place.height()) / 2.0);
 }
 
 }  // namespace DessinStyle

@@ -7,8 +7,6 @@
 class QPainter;
 class QStyleOption;
 class QStyleOptionHeader;
-class QStyleOptionProgressBar;
-class QStyleOptionSlider;
 
 /// The strokes of StyleCalpenne, each on the rectangle of its option.
 namespace DessinStyle {
@@ -18,21 +16,16 @@ QColor CouleurTexte(const QStyleOption& option);
 void Champ(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
 void Contour(QPainter& peintre, const QRect& place, const QColor& couleur);
 void Bouton(QPainter& peintre, const QStyleOption& option, TGenreBouton genre);
-void ListeFermee(QPainter& peintre, const QStyleOption& option);
-void Outil(QPainter& peintre, const QStyleOption& option);
 void Foyer(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
-void Case(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
+void Case(QPainter& peintre, const QStyleOption& option);
 /// A box without words stands in the middle of its cell, and so does the focus.
 void CaseSeule(QPainter& peintre, const QStyleOptionButton& option, const QWidget* widget);
-void Choix(QPainter& peintre, const QStyleOption& option, const QWidget* widget);
+void Choix(QPainter& peintre, const QStyleOption& option);
 /// `demi` is half the width of the arrow, at 10 points.
 void Fleche(QPainter& peintre, const QRect& place, Qt::ArrowType sens, const QColor& couleur, int demi);
 /// The ground of a cell, or with `rangee` of what stands left of the first one.
 void LigneDeListe(QPainter& peintre, const QStyleOption& option, const QWidget* widget, bool rangee);
 void Tete(QPainter& peintre, const QStyleOption& option);
 void TexteDeTete(QPainter& peintre, const QStyleOptionHeader& option);
-void Barre(QPainter& peintre, const QRect& place, const QColor& couleur);
-void Progression(QPainter& peintre, const QStyleOptionProgressBar& option);
-void Defilement(QPainter& peintre, const QStyleOptionSlider& option, const QRect& curseur);
 
 }  // namespace DessinStyle

@@ -20,7 +20,6 @@ FeuilleProgression::FeuilleProgression(QWidget* parent)
   grille->setHorizontalSpacing(Theme::Px(8));
   grille->setVerticalSpacing(Theme::Px(8));
   barre_->setTextVisible(false);
-  barre_->setProperty("surSelection", true);
   nom_->DefinirElision(true);
   note_->DefinirElision(true);
   note_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

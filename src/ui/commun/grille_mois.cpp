@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "core/mois.h"
 #include "ui/commun/etiquette.h"
 #include "ui/commun/texte.h"
 
@@ -12,26 +13,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr const char* kTetes[] = {"tous",  "sept.", "oct.", "nov.", "déc.", "janv.",
-                                  "févr.", "mars",  "avr.", "mai",  "juin"};
-constexpr const char* kNoms[] = {"tous les mois", "septembre", "octobre", "novembre", "décembre", "janvier",
-                                 "février",       "mars",      "avril",   "mai",      "juin"};
+/// Column 0 is the master.
+int MoisDe(int colonne) { return kMoisScolaires[static_cast<size_t>(colonne) - 1]; }
+QString Tete(int colonne) { return colonne == 0 ? u"tous"_s : NomMoisCourt(MoisDe(colonne)); }
+QString NomDe(int colonne) { return colonne == 0 ? u"tous les mois"_s : NomMoisCourant(MoisDe(colonne)); }
 
-/// A box whose whole cell takes the click, and that a reading grid does not switch.
+/// A box whose whole cell takes the click.
 class CaseMois : public QCheckBox {
  public:
-  CaseMois(const bool& lectureSeule, QWidget* parent) : QCheckBox(parent), lectureSeule_(lectureSeule) {}
+  using QCheckBox::QCheckBox;
   QSize sizeHint() const override { return {Theme::Px(28), Theme::Px(22)}; }
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   bool hitButton(const QPoint& place) const override { return rect().contains(place); }
-  void nextCheckState() override {
-    if (!lectureSeule_) setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
-  }
-
- private:
-  const bool& lectureSeule_;
+  void nextCheckState() override { setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked); }
 };
 
 }  // namespace
@@ -42,7 +38,7 @@ GrilleMois::GrilleMois(const QStringList& lignes, QWidget* parent) : QWidget(par
   grille->setSpacing(0);
   grille->setColumnStretch(0, 1);
   for (int colonne = 0; colonne <= kMois; ++colonne) {
-    auto* tete = new Etiquette(QString::fromUtf8(kTetes[colonne]), TRole::Secondaire, &Theme::TeteMois);
+    auto* tete = new Etiquette(Tete(colonne), TRole::Secondaire, &Theme::TeteMois);
     tete->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     tete->setContentsMargins(1, 0, 1, 0);
     // Behind the master stands the line that sets it apart.
@@ -57,7 +53,7 @@ GrilleMois::GrilleMois(const QStringList& lignes, QWidget* parent) : QWidget(par
     nouvelle.Libelle->setContentsMargins(0, 0, Theme::Px(8), 0);
     grille->addWidget(nouvelle.Libelle, ligne + 1, 0);
     for (int colonne = 0; colonne <= kMois; ++colonne) {
-      const QString nom = NomAccessible(texte) % u", "_s % QString::fromUtf8(kNoms[colonne]);
+      const QString nom = NomAccessible(texte) % u", "_s % NomDe(colonne);
       QCheckBox* boite = CreerCase(ligne, colonne, nom);
       nouvelle.Cases[static_cast<size_t>(colonne)] = boite;
       grille->addWidget(boite, ligne + 1, colonne == 0 ? 1 : colonne + 2, Qt::AlignHCenter);
@@ -67,13 +63,12 @@ GrilleMois::GrilleMois(const QStringList& lignes, QWidget* parent) : QWidget(par
 }
 
 QCheckBox* GrilleMois::CreerCase(int ligne, int colonne, const QString& nom) {
-  auto* boite = new CaseMois(lectureSeule_, this);
+  auto* boite = new CaseMois(this);
   boite->setAccessibleName(nom);
   boite->setToolTip(nom);
   boite->setFocusPolicy(Qt::ClickFocus);
   boite->installEventFilter(this);
   connect(boite, &QCheckBox::clicked, this, [this, ligne, colonne] {
-    if (lectureSeule_) return;
     TLigneMois& mienne = lignes_[static_cast<size_t>(ligne)];
     const bool coche = mienne.Cases[static_cast<size_t>(colonne)]->isChecked();
     if (colonne > 0) {
@@ -95,15 +90,6 @@ void GrilleMois::Definir(int ligne, int mois, bool coche) {
 
 bool GrilleMois::Coche(int ligne, int mois) const {
   return lignes_.at(static_cast<size_t>(ligne)).Cases.at(static_cast<size_t>(mois) + 1)->isChecked();
-}
-
-void GrilleMois::DefinirLectureSeule(bool lectureSeule) {
-  lectureSeule_ = lectureSeule;
-  for (TLigneMois& ligne : lignes_)
-    for (QCheckBox* boite : ligne.Cases) {
-      boite->setProperty("lectureSeule", lectureSeule);
-      boite->update();
-    }
 }
 
 void GrilleMois::MontrerLigne(int ligne, bool visible) {

@@ -15,7 +15,6 @@ class GrilleMois : public QWidget {
   /// `mois` from 0, September, to 9, June. Emits nothing.
   void Definir(int ligne, int mois, bool coche);
   bool Coche(int ligne, int mois) const;
-  void DefinirLectureSeule(bool lectureSeule);
   /// A caption may have to be hidden with its boxes.
   void MontrerLigne(int ligne, bool visible);
 
@@ -44,5 +43,4 @@ class GrilleMois : public QWidget {
 
   std::vector<TLigneMois> lignes_;
   QWidget* premiereTete_ = nullptr;
-  bool lectureSeule_ = false;
 };

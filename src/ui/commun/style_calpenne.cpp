@@ -8,11 +8,11 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOption>
 #include <QTextEdit>
+#include <algorithm>
 
 #include "ui/commun/bouton.h"
 #include "ui/commun/dessin_style.h"
@@ -37,8 +37,6 @@ void StyleCalpenne::polish(QWidget* widget) {
   }
   if (auto* texte = qobject_cast<QTextEdit*>(widget)) texte->setTabChangesFocus(true);
   if (auto* texte = qobject_cast<QPlainTextEdit*>(widget)) texte->setTabChangesFocus(true);
-  // Qt asks for room for a text beside the size of the style.
-  if (qobject_cast<QProgressBar*>(widget)) widget->setFixedHeight(Theme::Px(8));
   // Hover is drawn, so these must be told of it.
   if (qobject_cast<QAbstractItemView*>(widget) || qobject_cast<QHeaderView*>(widget))
     widget->setAttribute(Qt::WA_Hover);
@@ -60,15 +58,15 @@ void StyleCalpenne::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     case PE_PanelButtonCommand:
       return Bouton(*peintre, *option, Genre(widget));
     case PE_PanelButtonTool:
-      return Outil(*peintre, *option);
+      return Bouton(*peintre, *option,
+                    option->state & State_AutoRaise ? TGenreBouton::Discret : TGenreBouton::Simple);
     case PE_FrameFocusRect:
       return Foyer(*peintre, *option, widget);
     case PE_IndicatorCheckBox:
-      return Case(*peintre, *option, widget);
     case PE_IndicatorItemViewItemCheck:
-      return Case(*peintre, *option, nullptr);
+      return Case(*peintre, *option);
     case PE_IndicatorRadioButton:
-      return Choix(*peintre, *option, widget);
+      return Choix(*peintre, *option);
     case PE_IndicatorBranch:
       if (option->state & State_Children)
         Fleche(*peintre, option->rect, option->state & State_Open ? Qt::DownArrow : Qt::RightArrow,
@@ -103,47 +101,18 @@ void StyleCalpenne::drawControl(ControlElement element, const QStyleOption* opti
         return QProxyStyle::drawControl(element, &copie, peintre, widget);
       }
       break;
-    case CE_ItemViewItem:
-      if (const auto* cellule = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
-        QStyleOptionViewItem copie = *cellule;
-        copie.palette.setColor(QPalette::HighlightedText, Theme::SurSelection());
-        copie.palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
-                               copie.palette.color(QPalette::Disabled, QPalette::Text));
-        return QProxyStyle::drawControl(element, &copie, peintre, widget);
-      }
-      break;
     case CE_CheckBox:
       if (const auto* boite = qstyleoption_cast<const QStyleOptionButton*>(option);
           boite && boite->text.isEmpty())
         return CaseSeule(*peintre, *boite, widget);
       break;
-    case CE_MenuItem:
-      if (const auto* entree = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-          entree && entree->menuItemType == QStyleOptionMenuItem::Separator && entree->text.isEmpty()) {
-        peintre->fillRect(QRect(option->rect.x(), option->rect.center().y(), option->rect.width(), 1),
-                          Theme::Ligne());
-        return;
-      }
-      break;
     case CE_HeaderSection:
-      return Tete(*peintre, *option);
     case CE_HeaderEmptyArea:
       return Tete(*peintre, *option);
     case CE_HeaderLabel:
       if (const auto* tete = qstyleoption_cast<const QStyleOptionHeader*>(option))
         return TexteDeTete(*peintre, *tete);
       break;
-    case CE_ProgressBarGroove:
-      // On the sheet of a long work the hairline's colour would not be seen.
-      return Barre(*peintre, option->rect,
-                   widget && widget->property("surSelection").toBool() ? option->palette.color(QPalette::Base)
-                                                                       : Theme::Ligne());
-    case CE_ProgressBarContents:
-      if (const auto* barre = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
-        return Progression(*peintre, *barre);
-      break;
-    case CE_ProgressBarLabel:
-      return;
     default:
       break;
   }
@@ -158,7 +127,7 @@ void StyleCalpenne::drawComplexControl(ComplexControl element, const QStyleOptio
         if (liste->editable)
           Champ(*peintre, *option, widget);
         else
-          ListeFermee(*peintre, *option);
+          Bouton(*peintre, *option, TGenreBouton::Simple);
         const QRect place = proxy()->subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
         return Fleche(*peintre, place, Qt::DownArrow,
                       option->state & State_Enabled ? Theme::Secondaire() : CouleurTexte(*option), 4);
@@ -174,12 +143,6 @@ void StyleCalpenne::drawComplexControl(ComplexControl element, const QStyleOptio
         return Fleche(*peintre, bas, Qt::DownArrow, CouleurTexte(*option), 3);
       }
       break;
-    case CC_ScrollBar:
-      if (const auto* barre = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
-        const QRect curseur = proxy()->subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget);
-        return Defilement(*peintre, *barre, curseur);
-      }
-      break;
     default:
       break;
   }
@@ -187,51 +150,33 @@ void StyleCalpenne::drawComplexControl(ComplexControl element, const QStyleOptio
 }
 
 int StyleCalpenne::pixelMetric(PixelMetric mesure, const QStyleOption* option, const QWidget* widget) const {
-  switch (mesure) {
-    case PM_FocusFrameHMargin:
-      return Theme::Px(7);
-    case PM_FocusFrameVMargin:
-      return Theme::Px(2);
-    case PM_ScrollBarExtent:
-      return Theme::Px(12);
-    case PM_ScrollBarSliderMin:
-      return Theme::Px(32);
-    case PM_IndicatorWidth:
-    case PM_IndicatorHeight:
-    case PM_ExclusiveIndicatorWidth:
-    case PM_ExclusiveIndicatorHeight:
-    case PM_SmallIconSize:
-    case PM_ButtonIconSize:
-    case PM_ListViewIconSize:
-    case PM_TabBarIconSize:
-      return Theme::Px(16);
-    case PM_CheckBoxLabelSpacing:
-    case PM_RadioButtonLabelSpacing:
-      return Theme::Px(7);
-    case PM_HeaderMargin:
-      return Theme::Px(8);
-    case PM_HeaderMarkSize:
-      return Theme::Px(8);
-    case PM_LayoutHorizontalSpacing:
-    case PM_LayoutVerticalSpacing:
-      return Theme::Px(8);
-    case PM_LayoutLeftMargin:
-    case PM_LayoutRightMargin:
-    case PM_LayoutTopMargin:
-    case PM_LayoutBottomMargin:
-      // White space separates, and widgets stand in each other: only the window has a margin.
-      return widget && widget->isWindow() ? Theme::Px(16) : 0;
-    case PM_DefaultFrameWidth:
-      if (qobject_cast<const QAbstractItemView*>(widget)) return 1;
-      return 2;
-    case PM_ScrollView_ScrollBarSpacing:
-    case PM_ButtonShiftHorizontal:
-    case PM_ButtonShiftVertical:
-    case PM_ScrollView_ScrollBarOverlap:
-      return 0;
-    default:
-      return QProxyStyle::pixelMetric(mesure, option, widget);
-  }
+  static constexpr std::pair<PixelMetric, int> mesures[] = {{PM_FocusFrameHMargin, 7},
+                                                            {PM_FocusFrameVMargin, 2},
+                                                            {PM_IndicatorWidth, 16},
+                                                            {PM_IndicatorHeight, 16},
+                                                            {PM_ExclusiveIndicatorWidth, 16},
+                                                            {PM_ExclusiveIndicatorHeight, 16},
+                                                            {PM_SmallIconSize, 16},
+                                                            {PM_ButtonIconSize, 16},
+                                                            {PM_ListViewIconSize, 16},
+                                                            {PM_TabBarIconSize, 16},
+                                                            {PM_CheckBoxLabelSpacing, 7},
+                                                            {PM_RadioButtonLabelSpacing, 7},
+                                                            {PM_HeaderMargin, 8},
+                                                            {PM_HeaderMarkSize, 8},
+                                                            {PM_LayoutHorizontalSpacing, 8},
+                                                            {PM_LayoutVerticalSpacing, 8},
+                                                            {PM_ScrollView_ScrollBarSpacing, 0},
+                                                            {PM_ScrollView_ScrollBarOverlap, 0},
+                                                            {PM_ButtonShiftHorizontal, 0},
+                                                            {PM_ButtonShiftVertical, 0}};
+  const auto* connue = std::ranges::find(mesures, mesure, &std::pair<PixelMetric, int>::first);
+  if (connue != std::end(mesures)) return Theme::Px(connue->second);
+  if (mesure == PM_DefaultFrameWidth) return qobject_cast<const QAbstractItemView*>(widget) ? 1 : 2;
+  // White space separates, and widgets stand in each other: only the window has a margin.
+  if (mesure >= PM_LayoutLeftMargin && mesure <= PM_LayoutBottomMargin)
+    return widget && widget->isWindow() ? Theme::Px(16) : 0;
+  return QProxyStyle::pixelMetric(mesure, option, widget);
 }
 
 int StyleCalpenne::styleHint(StyleHint conseil, const QStyleOption* option, const QWidget* widget,
@@ -241,12 +186,10 @@ int StyleCalpenne::styleHint(StyleHint conseil, const QStyleOption* option, cons
     case SH_ComboBox_Popup:
     case SH_ItemView_ActivateItemOnSingleClick:
     case SH_DialogButtonBox_ButtonsHaveIcons:
-    case SH_UnderlineShortcut:
-      // Mnemonics show with the Alt key only where the platform does so by itself.
-      return conseil == SH_UnderlineShortcut ? QProxyStyle::styleHint(conseil, option, widget, retour) : 0;
-    case SH_ItemView_ShowDecorationSelected:
     case SH_ScrollView_FrameOnlyAroundContents:
-      return conseil == SH_ItemView_ShowDecorationSelected;
+      return 0;
+    case SH_ItemView_ShowDecorationSelected:
+      return 1;
     default:
       return QProxyStyle::styleHint(conseil, option, widget, retour);
   }
@@ -254,53 +197,29 @@ int StyleCalpenne::styleHint(StyleHint conseil, const QStyleOption* option, cons
 
 QSize StyleCalpenne::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& taille,
                                       const QWidget* widget) const {
-  QSize voulue = QProxyStyle::sizeFromContents(type, option, taille, widget);
-  const auto hauteur = [&voulue](int longueur) {
-    voulue.setHeight(std::max(voulue.height(), Theme::Px(longueur)));
-  };
-  switch (type) {
-    case CT_LineEdit:
-    case CT_ComboBox:
-    case CT_SpinBox:
-      voulue.setHeight(std::max(Theme::Px(28), taille.height() + 6));
-      break;
-    case CT_PushButton: {
-      const bool texte = !static_cast<const QStyleOptionButton*>(option)->text.isEmpty();
-      const bool discret =
-          Genre(widget) == TGenreBouton::Discret || Genre(widget) == TGenreBouton::Suppression;
-      const int marge = Theme::Px(!texte ? 6 : discret ? 8 : 12);
-      voulue = {taille.width() + 2 * marge,
-                std::max(Theme::Px(Genre(widget) == TGenreBouton::Principal ? 34 : 30), taille.height())};
-      break;
-    }
-    case CT_CheckBox:
-    case CT_RadioButton:
-      hauteur(24);
-      break;
-    case CT_ToolButton:
-      hauteur(26);
-      break;
-    case CT_ItemViewItem:
-      hauteur(25);
-      break;
-    case CT_HeaderSection:
-      voulue.setHeight(std::max(Theme::Px(31), voulue.height()));
-      break;
-    case CT_ProgressBar:
-      voulue.setHeight(Theme::Px(8));
-      break;
-    default:
-      break;
+  static constexpr std::pair<ContentsType, int> moindres[] = {{CT_CheckBox, 24},
+                                                              {CT_RadioButton, 24},
+                                                              {CT_ToolButton, 26},
+                                                              {CT_ItemViewItem, 25},
+                                                              {CT_HeaderSection, 31}};
+  if (type == CT_PushButton) {
+    const TGenreBouton genre = Genre(widget);
+    const bool texte = !static_cast<const QStyleOptionButton*>(option)->text.isEmpty();
+    const bool discret = genre == TGenreBouton::Discret || genre == TGenreBouton::Suppression;
+    const int marge = Theme::Px(!texte ? 6 : discret ? 8 : 12);
+    return {taille.width() + 2 * marge,
+            std::max(Theme::Px(genre == TGenreBouton::Principal ? 34 : 30), taille.height())};
   }
-  return voulue;
+  const QSize voulue = QProxyStyle::sizeFromContents(type, option, taille, widget);
+  if (type == CT_LineEdit || type == CT_ComboBox || type == CT_SpinBox)
+    return {voulue.width(), std::max(Theme::Px(28), taille.height() + 6)};
+  const auto* moindre = std::ranges::find(moindres, type, &std::pair<ContentsType, int>::first);
+  return moindre == std::end(moindres) ? voulue : voulue.expandedTo({0, Theme::Px(moindre->second)});
 }
 
 QRect StyleCalpenne::subElementRect(SubElement element, const QStyleOption* option,
                                     const QWidget* widget) const {
   switch (element) {
-    case SE_ProgressBarGroove:
-    case SE_ProgressBarContents:
-      return option->rect;
     case SE_HeaderArrow:
     case SE_HeaderLabel: {
       // Fusion keeps twice the room that the arrow takes: the title of a narrow column would be cut.

@@ -114,31 +114,58 @@ TPresentation& Presente() {
   return presentation;
 }
 
-/// What a style cannot give: the buttons of the command bar and its tabs.
+/// What a style sheet gives best: the command bar with its tabs, scroll bars, progress, chosen rows. `@Nom`
+/// is a colour, `@12` a length at 10 points.
 QString Feuille() {
   const TPresentation& p = Presente();
-  const auto nom = [](const QColor& couleur) { return couleur.name(); };
-  return uR"(
-QToolButton[genre="commande"] { border: 2px solid transparent; border-radius: %1px; padding: 1px %2px;
-  background: transparent; color: %4; }
-QToolButton[genre="commande"]:hover { background: %5; }
-QToolButton[genre="commande"]:checked { background: %6; color: %7; font-weight: 600; }
-QToolButton[genre="commande"]:focus { border-color: %8; }
-QToolButton[genre="commande"]:disabled { color: %9; }
-QToolButton[genre="onglet"] { border: 0; border-bottom: 3px solid transparent; padding: %2px %3px;
-  background: transparent; color: %10; }
-QToolButton[genre="onglet"]:hover, QToolButton#annees { color: %4; }
-QToolButton[genre="onglet"]:checked { color: %4; font-weight: 600; border-bottom-color: %8; }
-QToolButton[genre="onglet"]:focus { border: 2px solid %8; border-bottom: 3px solid %8; border-radius: %1px;
-  padding: %2px %11px; }
+  const std::pair<const char16_t*, QColor> couleurs[] = {
+      {u"@Inactif", p.Palette.color(QPalette::Disabled, QPalette::ButtonText)},
+      {u"@Texte", p.Palette.color(QPalette::ButtonText)},
+      {u"@Fenetre", p.Palette.color(QPalette::Window)},
+      {u"@Base", p.Palette.color(QPalette::Base)},
+      {u"@Accent", p.Palette.color(QPalette::Highlight)},
+      {u"@Secondaire", p.Couleurs.Secondaire},
+      {u"@SurSelection", p.Couleurs.SurSelection},
+      {u"@Selection", p.Couleurs.Selection},
+      {u"@Survol", p.Couleurs.Survol},
+      {u"@BordPale", QColor(p.Couleurs.Bord.red(), p.Couleurs.Bord.green(), p.Couleurs.Bord.blue(), 153)},
+      {u"@Bord", p.Couleurs.Bord},
+      {u"@Ligne", p.Couleurs.Ligne}};
+  QString feuille =
+      uR"(
+QToolButton[genre="commande"] { border: 2px solid transparent; border-radius: @4; padding: 1px @4;
+  background: transparent; color: @Texte; }
+QToolButton[genre="commande"]:hover { background: @Survol; }
+QToolButton[genre="commande"]:checked { background: @Selection; color: @SurSelection; font-weight: 600; }
+QToolButton[genre="commande"]:focus { border-color: @Accent; }
+QToolButton[genre="commande"]:disabled { color: @Inactif; }
+QToolButton[genre="onglet"] { border: 0; border-bottom: 3px solid transparent; padding: @4 @12;
+  background: transparent; color: @Secondaire; }
+QToolButton[genre="onglet"]:hover, QToolButton#annees { color: @Texte; }
+QToolButton[genre="onglet"]:checked { color: @Texte; font-weight: 600; border-bottom-color: @Accent; }
+QToolButton[genre="onglet"]:focus { border: 2px solid @Accent; border-bottom: 3px solid @Accent;
+  border-radius: @4; padding: @4 @10; }
 QStatusBar::item { border: 0; }
-)"_s.arg(Theme::Px(4))
-      .arg(Theme::Px(4))
-      .arg(Theme::Px(12))
-      .arg(nom(p.Palette.color(QPalette::ButtonText)), nom(p.Couleurs.Survol), nom(p.Couleurs.Selection),
-           nom(p.Couleurs.SurSelection), nom(p.Palette.color(QPalette::Highlight)),
-           nom(p.Palette.color(QPalette::Disabled, QPalette::ButtonText)), nom(p.Couleurs.Secondaire))
-      .arg(Theme::Px(12) - 2);
+QMenu::separator { height: 1px; margin: @4 0; background: @Ligne; }
+QAbstractItemView { selection-color: @SurSelection; }
+QAbstractItemView:disabled { selection-color: @Inactif; }
+QProgressBar { border: 0; border-radius: @4; background: @Base; min-height: @8; max-height: @8; }
+QProgressBar::chunk { border-radius: @4; background: @Accent; }
+QScrollBar { border: 0; background: @Fenetre; }
+QScrollBar:vertical { width: @12; }
+QScrollBar:horizontal { height: @12; }
+QScrollBar::handle { border-radius: @4; background: @BordPale; }
+QScrollBar::handle:hover { background: @Bord; }
+QScrollBar::handle:vertical { margin: 0 @2; min-height: @32; }
+QScrollBar::handle:horizontal { margin: @2 0; min-width: @32; }
+QScrollBar::handle:disabled, QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+)"_s;
+  for (const auto& [nom, couleur] : couleurs)
+    feuille.replace(QStringView(nom).toString(), couleur.name(QColor::HexArgb));
+  for (const int longueur : {2, 4, 8, 10, 12, 32})
+    feuille.replace(u"@%1"_s.arg(longueur), u"%1px"_s.arg(Theme::Px(longueur)));
+  return feuille;
 }
 
 /// Follows the system, keeps the wheel away from fields without focus and a letter with Alt out of them

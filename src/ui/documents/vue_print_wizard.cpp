@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QStackedWidget>
 
+#include "core/mois.h"
 #include "documents/periode.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/champ_filtre.h"
@@ -218,7 +219,7 @@ QWidget* VuePrintWizard::CreerLigneMois() {
   auto* ligne = SansMarge<QHBoxLayout>(champs, 12);
   ligne->addWidget(mois_);
   if (form_.MoisEcran() > 0) {
-    QPushButton* ecran = BoutonDiscret(u"Mois à l'écran : " % NomMois(form_.MoisEcran()).toLower());
+    QPushButton* ecran = BoutonDiscret(u"Mois à l'écran : " % NomMoisCourant(form_.MoisEcran()));
     connect(ecran, &QPushButton::clicked, this, [this] { form_.btnMoisEcranClick(); });
     ligne->addWidget(ecran);
   }

@@ -1,5 +1,6 @@
 #include "ui/principal/modele_arbre.h"
 
+#include "core/accord.h"
 #include "forms/arbre.h"
 
 ModeleArbre::ModeleArbre(const TArbre& arbre, QObject* parent) : QAbstractItemModel(parent), arbre_(arbre) {
@@ -68,9 +69,7 @@ QVariant ModeleArbre::data(const QModelIndex& index, int role) const {
       return noeud->Texte;
     case Qt::AccessibleTextRole:
       if (barre) return QString(noeud->Texte % u", radié");
-      return feuilles > 0 ? QString(noeud->Texte % u", " % QString::number(feuilles) %
-                                    (feuilles > 1 ? u" élèves" : u" élève"))
-                          : noeud->Texte;
+      return feuilles > 0 ? QString(noeud->Texte % u", " % CompterEleves(feuilles)) : noeud->Texte;
     case kCompte:
       return noeud->Enfants().empty() ? QVariant() : QVariant(feuilles);
     case kMarque:

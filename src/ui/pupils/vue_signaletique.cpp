@@ -7,6 +7,7 @@
 #include <QResizeEvent>
 
 #include "core/formats.h"
+#include "core/mois.h"
 #include "screens/pupils/frm_signaletique.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/etat_vide.h"
@@ -59,7 +60,7 @@ VueSignaletique::VueSignaletique(TFrmSignaletique& form, QWidget* parent)
 
 QWidget* VueSignaletique::CreerReleve() {
   cmbMois_ = new QComboBox;
-  cmbMois_->addItems(TFrmSignaletique::NomsMois());
+  cmbMois_->addItems(NomsMoisScolaires());
   cmbMois_->setAccessibleName(u"Mois du relevé"_s);
   cmbMois_->setMaxVisibleItems(10);
   cmbMois_->setSizeAdjustPolicy(QComboBox::AdjustToContents);

@@ -11,7 +11,6 @@
 #include "ui/commun/dialogue_base.h"
 #include "ui/commun/saisie.h"
 #include "ui/commun/titres.h"
-#include "ui/verifier_vue.h"
 
 using namespace Qt::StringLiterals;
 
@@ -57,13 +56,4 @@ TEST(DialogueBase, RefuseResteOuvertEtMontreLeChamp) {
   dialogue.show();
   QTest::keyClick(&dialogue, Qt::Key_Escape);
   EXPECT_EQ(dialogue.result(), QDialog::Rejected);
-}
-
-TEST(DialogueBase, SeParcourt) {
-  VerifierVuePartout([] {
-    auto dialogue = std::make_unique<DialogueEssai>();
-    dialogue->show();
-    dialogue->Principal()->click();  // with the line of its fault
-    return dialogue;
-  });
 }
