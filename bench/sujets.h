@@ -12,5 +12,7 @@ void MesurerTarification(TEcole& ecole, const QTemporaryDir& dossier);
 void MesurerFactures(TEcole& ecole, const QTemporaryDir& dossier);
 /// The school is disconnected and connected again meanwhile.
 void MesurerEcran(TEcole& ecole, const QTemporaryDir& dossier);
+/// Leaves five years of tickets and orders in the school.
+void MesurerRepas(TEcole& ecole, const QTemporaryDir& dossier);
 /// Leaves its movements in the school.
 void MesurerBanque(TEcole& ecole, const QTemporaryDir& dossier);

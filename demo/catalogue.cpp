@@ -23,6 +23,7 @@ constexpr TParametre kParametres[] = {
     {CodePostalEcole, u"5537"},
     {LocaliteEcole, u"Brumeval"},
     {TelephoneEcole, u"082 61 00 00"},
+    {ModuleRepas, u"1"},
     {NomImplantation, u"Implantation du Centre"},
     {CommunicationFacture, u"Communication à mentionner sur votre virement : [ComStructParFacture]"},
     {CompteBanque, u"BE68 5390 0754 7034"},

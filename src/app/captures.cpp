@@ -18,6 +18,11 @@
 #include "core/exceptions.h"
 #include "screens/attendance/frm_presences.h"
 #include "screens/commun/frm_liste.h"
+#include "screens/meals/frm_comptabilite.h"
+#include "screens/meals/frm_compte_eleve.h"
+#include "screens/meals/frm_presence_repas.h"
+#include "screens/meals/frm_reservation.h"
+#include "screens/meals/frm_ticket.h"
 #include "screens/pupils/frm_import.h"
 #include "ui/commun/dialogue_base.h"
 #include "ui/commun/theme.h"
@@ -73,8 +78,21 @@ class Photographe : public QObject {
     Pages(AdvGlowButton3Click, u"mon-ecole"_s);
     programme_.Main.Executer(AdvGlowButton2Click);
     Assistant();
+    Repas();
     Importation();
     Presences();
+  }
+
+  /// The tablet: years, a class, and the transfer that has been refused.
+  void Tablette(const QString& suffixe) {
+    suffixe_ = suffixe;
+    programme_.Main.Executer(TGestionnaire::btnReservationTabletteClick);
+    auto& form = Ecran<TFrmPresenceRepas>();
+    form.btnAnneeClick(u"P3"_s);
+    form.btnClasseClick(*form.ClassesDeLAnnee().front().Classe);
+    Prendre(u"tablette"_s);
+    form.edRechercheChange(u"la"_s);
+    Prendre(u"tablette-recherche"_s);
   }
 
   /// A database that is not there yet is made, and the window shows what comes first.
@@ -95,6 +113,66 @@ class Photographe : public QObject {
  private:
   /// What is done in a dialog once it is there; true when its turn is over.
   using TPas = std::function<bool(QWidget&)>;
+
+  template <class T>
+  T& Ecran() {
+    auto* form = dynamic_cast<T*>(programme_.Main.Panneau.Courante());
+    if (form == nullptr) throw Exception(u"Un écran ne s'ouvre pas."_s);
+    return *form;
+  }
+
+  /// The main window, once it shows what was done.
+  void Prendre(const QString& nom) {
+    Attendre(50);
+    Prendre(programme_.Fenetre, nom);
+  }
+
+  /// Tickets, orders, kitchen, accounts and sales.
+  void Repas() {
+    using enum TGestionnaire;
+    TFrmMain& main = programme_.Main;
+    main.edSearchChange(u"LAMB"_s);
+    main.Executer(btnTicketClick);
+    auto& tickets = Ecran<TFrmTicket>();
+    tickets.ChoisirPage(0);
+    Prendre(u"tickets"_s);
+    tickets.ChoisirPage(1);
+    Prendre(u"tickets-detail"_s);
+    Suivre({[this](QWidget& fenetre) {
+      Prendre(fenetre, u"tickets-vente"_s);
+      fenetre.close();
+      return true;
+    }});
+    tickets.btnEtape1Click();
+    const int classe = std::max(1, static_cast<int>(ChoixDeClasses().indexOf(tickets.NomClasse())));
+    for (const auto& [ecran, nom] : {std::pair(btnReservationClick, u"reservation"_s),
+                                     std::pair(btnReservation2Click, u"reservation-2"_s)}) {
+      main.Executer(ecran);
+      auto& form = Ecran<TFrmReservation>();
+      form.cmbClasseChange(classe);
+      form.grdEleveRowChanging(2);
+      Prendre(nom);
+    }
+    main.Executer(btnReservationClick);
+    Ecran<TFrmReservation>().cmbClasseChange(classe);
+    Bouton(programme_.Fenetre, u"Le mois"_s)->click();
+    Prendre(u"reservation-mois"_s);
+    main.Executer(btnCuisineClick);
+    Prendre(u"cuisine"_s);
+    main.Executer(btnClick);
+    Prendre(u"cuisine-2"_s);
+    main.Executer(btnCompteEleveClick);
+    auto& comptes = Ecran<TFrmCompteEleve>();
+    comptes.cmbClasseChange(classe);
+    comptes.btnAjouteArgentClick();
+    comptes.btnCoupureClick(3);
+    comptes.edChange(5, u"2"_s);
+    Prendre(u"comptes"_s);
+    comptes.btnAnnulerClick();
+    main.Executer(btnComptabiliteClick);
+    Ecran<TFrmComptabilite>().dtChange(EncodeDate(2016, 10, 24), EncodeDate(2016, 10, 31));
+    Prendre(u"compta"_s);
+  }
 
   void Prendre(QWidget& fenetre, const QString& nom) {
     const QString chemin = sujet_.Dossier % u'/' % nom % suffixe_ % u".png";
@@ -283,6 +361,30 @@ void Commencer(Application& application, const QTemporaryDir& poste, const TSuje
   programme.Fenetre.close();
 }
 
+/// A tablet that serves without a server, from a copy of its folder; at the size of a tablet.
+void Tablette(Application& application, const QTemporaryDir& poste, const QString& dossier,
+              const TSujet& sujet) {
+  const QString copie = poste.filePath(u"tablette"_s);
+  QDir().mkpath(copie);
+  for (const QString& fichier : QDir(dossier).entryList(QDir::Files))
+    QFile::copy(dossier % u'/' % fichier, copie % u'/' % fichier);
+  TReglagesPoste reglages;
+  reglages.Ecrire(TRacine::Utilisateur, u"DossierPresences"_s, copie);
+  reglages.Ecrire(TRacine::Utilisateur, u"Offline"_s, u"1"_s);
+  const THorlogeFixe horloge;
+  Programme programme(horloge);
+  programme.Fenetre.Demarrer();
+  Photographe photographe(programme, sujet);
+  for (const auto& [mode, suffixe] : {std::pair(Theme::TMode::Clair, u"-1280x800"_s),
+                                      std::pair(Theme::TMode::Sombre, u"-sombre-1280x800"_s)}) {
+    Theme::Appliquer(application, mode);
+    programme.Fenetre.resize(1280, 800);
+    photographe.Tablette(suffixe);
+  }
+  programme.Fenetre.close();
+  reglages.Ecrire(TRacine::Utilisateur, u"Offline"_s, u"0"_s);
+}
+
 void Executer(Application& application, const QString& base, const TSujet& sujet) {
   const QTemporaryDir poste;
   PreparerPoste(poste, base);
@@ -296,6 +398,9 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
   ChaqueVue(application, programme.Fenetre, [&](const QString& suffixe) { photographe.Tout(suffixe); });
   programme.Fenetre.close();
   application.Dialogues = nullptr;
+  Globals = {};
+  Tablette(application, poste, QFileInfo(base).dir().filePath(u"tablette"_s), sujet);
+  Globals = {};
   Commencer(application, poste, sujet);
 }
 

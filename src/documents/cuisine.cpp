@@ -71,12 +71,6 @@ const TServiceRepas kServices[] = {
     {u"4e service", {u"P3 A", u"P4 A", u"P5 A", u"P6 A"}},
 };
 
-constexpr const char16_t* kVarietesTextes[kVarietes] = {
-    u"jambon",         u"jambon beurre",         u"jambon mayonnaise",
-    u"fromage",        u"fromage beurre",        u"fromage mayonnaise",
-    u"jambon fromage", u"jambon fromage beurre", u"jambon fromage mayonnaise",
-};
-
 /// Hot meals and the others of a section.
 struct TSectionRepas {
   int Repas = 0;
@@ -164,7 +158,7 @@ TNoeudRapport BlocVarietes(const TContexteDocument& contexte, TDateTime jour, co
     std::vector<const TEleve*> eleves;
     for (const TEleve* eleve : sandwichs.Eleves)
       if (EstDeVariete(*contexte.Eleves.Commandes().Trouver(eleve->Id, jour), v)) eleves.push_back(eleve);
-    const QString variete = Mot(kVarietesTextes[v]);
+    const QString variete = TexteVariete(v);
     AjouterVariete(bloc, sorte % u' ' % variete, Nombre(sandwichs.Varietes[v]) % u' ' % variete, eleves);
   }
   return bloc;

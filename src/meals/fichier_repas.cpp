@@ -47,19 +47,17 @@ QByteArray TexteDesLignes(const std::vector<QByteArray>& lignes) {
 
 TFichierRepas::TFichierRepas(QString chemin) : chemin_(std::move(chemin)) {
   if (QFile::exists(chemin_)) lignes_ = LignesDuTexte(LireFichier(chemin_));
-}
-
-bool TFichierRepas::Contient(const QByteArray& ligne) const {
-  return std::ranges::find(lignes_, ligne) != lignes_.end();
+  for (const QByteArray& ligne : lignes_) ++nombres_[ligne];
 }
 
 void TFichierRepas::Basculer(const QByteArray& ligne) {
   auto apres = lignes_;
-  const auto i = std::ranges::find(apres, ligne);
-  if (i == apres.end())
-    apres.push_back(ligne);
+  const bool present = Contient(ligne);
+  if (present)
+    apres.erase(std::ranges::find(apres, ligne));
   else
-    apres.erase(i);
+    apres.push_back(ligne);
   EcrireFichier(chemin_, TexteDesLignes(apres));
   lignes_ = std::move(apres);
+  if ((nombres_[ligne] += present ? -1 : 1) == 0) nombres_.remove(ligne);
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <vector>
 
@@ -17,7 +18,7 @@ class TFichierRepas {
   /// Reads the file; a missing one is empty. Raises Exception.
   explicit TFichierRepas(QString chemin);
 
-  bool Contient(const QByteArray& ligne) const;
+  bool Contient(const QByteArray& ligne) const { return nombres_.contains(ligne); }
   /// Adds the line, or takes the first such one away, and writes the file at once. Raises Exception, and
   /// then nothing has changed.
   void Basculer(const QByteArray& ligne);
@@ -27,6 +28,7 @@ class TFichierRepas {
  private:
   QString chemin_;
   std::vector<QByteArray> lignes_;
+  QHash<QByteArray, int> nombres_;  // how often each line is there
 };
 
 /// Lines of a text: ended by CR, LF or both; what follows the last end is a line when it is not empty.

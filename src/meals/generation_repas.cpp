@@ -5,6 +5,7 @@ namespace {
 constexpr TGenerationRepas kPremiere{
     .NombreColonnes = 8,
     .Colonnes = {u"Repas", u"Dago", u"Sandwich", u"Jambon", u"Fromage", u"Jamb/From", u"Beurre", u"Mayon."},
+    .Abreges = {u"R", u"D", u"S"},
     .PrixParSection = true,
     .AvecVerrou = true,
     .AvecSolde = false,
@@ -25,6 +26,7 @@ constexpr TGenerationRepas kPremiere{
 constexpr TGenerationRepas kSeconde{
     .NombreColonnes = 3,
     .Colonnes = {u"Repas", u"Soupe", u"Sandwich"},
+    .Abreges = {u"R", u"So", u"Sa"},
     .PrixParSection = false,
     .AvecVerrou = false,
     .AvecSolde = true,

@@ -7,6 +7,7 @@
 struct TGenerationRepas {
   int NombreColonnes;                       ///< of the grid of orders, beside the names
   std::array<const char16_t*, 8> Colonnes;  ///< their titles, which are also the marks
+  std::array<const char16_t*, 3> Abreges;   ///< of what makes a meal, for a month at a glance
   bool PrixParSection;                      ///< else the price of the primary section holds for all
   bool AvecVerrou;                          ///< an incomplete order holds the grid
   bool AvecSolde;                           ///< the account must cover a meal or a soup

@@ -106,7 +106,8 @@ void TRepasPaiements::Encaisser(int eleve, TDateTime jour, const TComptage& comp
   paiement->Remarque.clear();
   Add(*paiement);
   Save();
-  if (paiement->Status == TStatus::Nouveau) return;  // it has no key: the user knows
+  if (paiement->Status == TStatus::Nouveau || !RangeesDisparues().empty())
+    throw EDistributor(u"Le paiement n'a pas pu être enregistré : les comptes sont relus. Recommencez."_s);
   TDetailPaiementLiquide* detail = Detail(*paiement);
   if (detail == nullptr) detail = &details_.Add(std::make_unique<TDetailPaiementLiquide>());
   detail->RepasPaiementId = paiement->Id;

@@ -57,7 +57,8 @@ class TRepasPaiements : public TCollection<TRepasPaiement> {
   TDetailPaiementLiquide* Detail(const TRepasPaiement& paiement) const {
     return details_.DuPaiement(paiement.Id);
   }
-  /// Cash counted for a pupil on a day: it takes the place of what was counted before on that day. Saves.
+  /// Cash counted for a pupil on a day: it takes the place of what was counted before on that day.
+  /// Saves; raises EDistributor.
   void Encaisser(int eleve, TDateTime jour, const TComptage& comptage);
 
  protected:

@@ -1,6 +1,7 @@
 #include "meals/tickets.h"
 
 #include <algorithm>
+#include <functional>
 #include <span>
 
 #include "core/exceptions.h"
@@ -28,6 +29,22 @@ QString Enumerer(std::span<const int> cles) {
   return textes.join(u',');
 }
 
+/// Reads a statement on those keys ("%1"), in as many runs as it takes.
+void LireParCles(TDataModule1& base, const std::vector<int>& eleves, QStringView sql,
+                 const std::function<void(TCurseur&)>& lire) {
+  try {
+    for (std::size_t i = 0; i < eleves.size(); i += kClesParLecture) {
+      const std::span cles(eleves.data() + i, std::min(kClesParLecture, eleves.size() - i));
+      TCurseur ligne(base, sql.toString().arg(Enumerer(cles)));
+      while (ligne.Suivant()) lire(ligne);
+    }
+  } catch (const EDistributor&) {
+    throw;
+  } catch (const Exception& e) {
+    throw EDistributor(e.Message);
+  }
+}
+
 /// The order of the list.
 bool Avant(const TTicket* a, const TTicket* b) {
   if ((a->DateAchat == 0.0) != (b->DateAchat == 0.0)) return b->DateAchat == 0.0;
@@ -51,19 +68,23 @@ std::unordered_map<int, std::unique_ptr<TTickets>> TTickets::LireEnsemble(TDataM
   std::unordered_map<int, std::unique_ptr<TTickets>> ensemble;
   for (const int eleve : eleves)
     ensemble.try_emplace(eleve, std::make_unique<TTickets>(base, eleve, TSansLire{}));
-  try {
-    for (std::size_t i = 0; i < eleves.size(); i += kClesParLecture) {
-      const std::span cles(eleves.data() + i, std::min(kClesParLecture, eleves.size() - i));
-      TCurseur ligne(base, u"SELECT * FROM TICKET WHERE ELEVE_ID IN (" % Enumerer(cles) % u')');
-      while (ligne.Suivant()) ensemble.at(ligne.Entier("ELEVE_ID"))->LoadItems(ligne);
-    }
-  } catch (const EDistributor&) {
-    throw;
-  } catch (const Exception& e) {
-    throw EDistributor(e.Message);
-  }
+  LireParCles(base, eleves, u"SELECT * FROM TICKET WHERE ELEVE_ID IN (%1)",
+              [&](TCurseur& ligne) { ensemble.at(ligne.Entier("ELEVE_ID"))->LoadItems(ligne); });
   for (auto& [eleve, tickets] : ensemble) tickets->Ranger();
   return ensemble;
+}
+
+// The first day of the calendar is no date in memory.
+std::unordered_map<int, int> TTickets::LireSoldes(TDataModule1& base, const std::vector<int>& eleves) {
+  std::unordered_map<int, int> soldes;
+  for (const int eleve : eleves) soldes.emplace(eleve, 0);
+  LireParCles(base, eleves,
+              u"SELECT ELEVE_ID, SUM(IIF(DATE_ACHAT > DATE '1899-12-30', 1, 0) - "
+              "IIF(DATE_UTILISATION > DATE '1899-12-30', 1, 0)) SOLDE FROM TICKET WHERE ELEVE_ID IN (%1) AND "
+              "(DATE_ACHAT IS NULL OR DATE_UTILISATION IS NULL OR DATE_ACHAT <= DATE '1899-12-30' OR "
+              "DATE_UTILISATION <= DATE '1899-12-30') GROUP BY ELEVE_ID",
+              [&](TCurseur& ligne) { soldes[ligne.Entier("ELEVE_ID")] = ligne.Entier("SOLDE"); });
+  return soldes;
 }
 
 void TTickets::DefineQuery() {

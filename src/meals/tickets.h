@@ -38,6 +38,10 @@ class TTickets : public TCollection<TTicket> {
   static std::unordered_map<int, std::unique_ptr<TTickets>> LireEnsemble(TDataModule1& base,
                                                                          const std::vector<int>& eleves);
 
+  /// Their balances only, by key, of every pupil asked for. What is bought and used counts for nothing, and
+  /// is not read. Raises EDistributor.
+  static std::unordered_map<int, int> LireSoldes(TDataModule1& base, const std::vector<int>& eleves);
+
   /// In the order of the list; what was added since the last save stands at the end.
   const std::vector<TTicket*>& Liste() const { return liste_; }
   /// Bought less used: negative when meals were eaten without a ticket.

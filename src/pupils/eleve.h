@@ -57,8 +57,10 @@ class TEleve : public TBaseObject {
 
   /// The tickets, read on first use.
   TTickets& GetTickets() const;
+  /// Bought less used; it does not need the list.
+  int SoldeTickets() const;
   /// They are read again when next asked for.
-  void ClearTickets() const { tickets_.reset(); }
+  void ClearTickets() const;
   /// Buys tickets of that value, missing ones first.
   void AcheterTickets(int nombre, TPaiementTicket type, Currency valeur, TDateTime date);
   /// Notes a meal that was eaten without a ticket.
@@ -159,9 +161,12 @@ class TEleve : public TBaseObject {
  private:
   TDataModule1& Base() const;
   void ModifierTickets(const std::function<void(TTickets&)>& changement);
+  void EcrireTickets(const std::function<void(TTickets&)>& changement);
+  bool EcrireCommande(TCommande& commande, Currency valeurTicket);
 
   friend class TEleves;  // reads the fees and the tickets of many together
   mutable std::unique_ptr<TAllFraisEleve> allFrais_;
   mutable std::unique_ptr<TTickets> tickets_;
+  mutable std::optional<int> soldeTickets_;  ///< of tickets that are not read
   mutable std::optional<QImage> photo_;
 };

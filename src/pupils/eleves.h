@@ -76,6 +76,8 @@ class TEleves : public TCollection<TEleve> {
   void LibererRepasPaiements();
   /// Reads the tickets of those pupils who still have to read theirs, in one statement.
   void LireTickets(const std::vector<TEleve*>& eleves) const;
+  /// The same of their balances only, which costs as little after years of tickets.
+  void LireSoldesTickets(const std::vector<TEleve*>& eleves) const;
   /// Gives a meal ticket of one pupil to another; both lists are read again when next asked for.
   void DeplacerTicket(int ancienEleveId, int nouvelEleveId, int ticketId);
 

@@ -1,6 +1,7 @@
 // The meals of a pupil, of a class and of the school.
 #include "core/exceptions.h"
 #include "core/query_internal.h"
+#include "core/transaction_commune.h"
 #include "meals/commandes.h"
 #include "meals/repas_paiements.h"
 #include "pupils/eleves.h"
@@ -12,6 +13,21 @@ namespace {
 
 /// The meal account counts from the year before to the year after.
 TPeriode PeriodeSolde(int annee) { return {EncodeDate(annee - 1, 9, 1), EncodeDate(annee + 2, 6, 30)}; }
+
+/// What is written stands together or not at all; false from it leaves everything as it was. Raises
+/// EDistributor.
+bool Ensemble(TDataModule1& base, const std::function<bool()>& ecrire) {
+  try {
+    TTransactionCommune ensemble(base);
+    if (!ecrire()) return false;
+    ensemble.Valider();
+    return true;
+  } catch (const EDistributor&) {
+    throw;
+  } catch (const Exception& e) {
+    throw EDistributor(e.Message);
+  }
+}
 
 template <class Condition>
 int Compter(const TClasse& classe, TDateTime jour, Condition condition) {
@@ -28,14 +44,33 @@ TTickets& TEleve::GetTickets() const {
   return *tickets_;
 }
 
+int TEleve::SoldeTickets() const {
+  if (!tickets_ && soldeTickets_) return *soldeTickets_;
+  return GetTickets().Solde();
+}
+
+void TEleve::ClearTickets() const {
+  tickets_.reset();
+  soldeTickets_.reset();
+}
+
+// A ticket that another workstation has deleted meanwhile would take a sale with it.
+void TEleve::EcrireTickets(const std::function<void(TTickets&)>& changement) {
+  TTickets& tickets = GetTickets();
+  changement(tickets);
+  tickets.Save();
+  for (const TTicket* ticket : tickets.Liste())
+    if (ticket->Status == TStatus::Nouveau)
+      throw EDistributor(u"Les tickets n'ont pas pu être enregistrés."_s);
+  if (!tickets.RangeesDisparues().empty())
+    throw EDistributor(
+        u"Un autre poste a changé les tickets de %1 : ils sont relus, et rien n'a été enregistré. "
+        "Recommencez."_s.arg(NomComplet()));
+}
+
 void TEleve::ModifierTickets(const std::function<void(TTickets&)>& changement) {
   try {
-    TTickets& tickets = GetTickets();
-    changement(tickets);
-    tickets.Save();
-    for (const TTicket* ticket : tickets.Liste())
-      if (ticket->Status == TStatus::Nouveau)
-        throw EDistributor(u"Tous les tickets n'ont pas pu être enregistrés."_s);
+    Ensemble(Base(), [&] { return EcrireTickets(changement), true; });
   } catch (const EDistributor&) {
     ClearTickets();
     throw;
@@ -73,18 +108,21 @@ bool TEleve::SetCommande(TDateTime date, Currency valeurTicket,
   commande->DateCommande = date;
   changement(*commande);
   commandes.Add(*commande);
-  const bool repas = commande->EstUnRepas();
   try {
-    if (commandes.Enregistrer(*commande) != nullptr) return false;
+    return Ensemble(Base(), [&] { return EcrireCommande(*commande, valeurTicket); });
   } catch (const EDistributor&) {
     Eleves->LibererCommandes();
     throw;
   }
-  ModifierTickets([&](TTickets& tickets) {
-    if (repas)
-      tickets.Consommer(date, valeurTicket);
-    else
-      tickets.Liberer(date);
+}
+
+// The order, then the ticket that pays it.
+bool TEleve::EcrireCommande(TCommande& commande, Currency valeurTicket) {
+  const TDateTime date = commande.DateCommande;
+  if (Eleves->Commandes().Enregistrer(commande) != nullptr) return false;
+  if (commande.Status == TStatus::Nouveau) throw EDistributor(u"La commande n'a pas pu être enregistrée."_s);
+  EcrireTickets([&](TTickets& tickets) {
+    commande.EstUnRepas() ? tickets.Consommer(date, valeurTicket) : tickets.Liberer(date);
   });
   return true;
 }
@@ -100,9 +138,10 @@ Currency TEleve::RecuLe(TDateTime jour) const {
 }
 
 void TEleve::EncaisserRepas(TDateTime jour, const TComptage& comptage) {
-  Base();
+  TDataModule1& base = Base();
+  TRepasPaiements& paiements = Eleves->RepasPaiements();
   try {
-    Eleves->RepasPaiements().Encaisser(Id, jour, comptage);
+    Ensemble(base, [&] { return paiements.Encaisser(Id, jour, comptage), true; });
   } catch (const EDistributor&) {
     Eleves->LibererRepasPaiements();
     throw;
@@ -143,21 +182,48 @@ void TEleves::LibererCommandes() {
 
 void TEleves::LibererRepasPaiements() { repasPaiements_.reset(); }
 
-void TEleves::LireTickets(const std::vector<TEleve*>& eleves) const {
-  std::vector<int> cles;
-  for (const TEleve* eleve : eleves)
-    if (!eleve->tickets_ && eleve->Id != -1) cles.push_back(eleve->Id);
-  if (cles.empty()) return;
-  auto ensemble = TTickets::LireEnsemble(BaseDeDonnees(), cles);
+namespace {
+
+/// Those whose tickets are still to be read, by key.
+std::unordered_map<int, TEleve*> SansTickets(const std::vector<TEleve*>& eleves,
+                                             const std::function<bool(const TEleve&)>& connus) {
+  std::unordered_map<int, TEleve*> aLire;
   for (TEleve* eleve : eleves)
-    if (!eleve->tickets_ && eleve->Id != -1) eleve->tickets_ = std::move(ensemble[eleve->Id]);
+    if (eleve->Id != -1 && !connus(*eleve)) aLire.emplace(eleve->Id, eleve);
+  return aLire;
+}
+
+std::vector<int> Cles(const std::unordered_map<int, TEleve*>& eleves) {
+  std::vector<int> cles;
+  for (const auto& [cle, _] : eleves) cles.push_back(cle);
+  return cles;
+}
+
+}  // namespace
+
+void TEleves::LireTickets(const std::vector<TEleve*>& eleves) const {
+  const auto aLire = SansTickets(eleves, [](const TEleve& e) { return e.tickets_ != nullptr; });
+  if (aLire.empty()) return;
+  for (auto& [cle, tickets] : TTickets::LireEnsemble(BaseDeDonnees(), Cles(aLire)))
+    aLire.at(cle)->tickets_ = std::move(tickets);
+}
+
+void TEleves::LireSoldesTickets(const std::vector<TEleve*>& eleves) const {
+  const auto aLire =
+      SansTickets(eleves, [](const TEleve& e) { return e.tickets_ != nullptr || e.soldeTickets_; });
+  if (aLire.empty()) return;
+  const auto soldes = TTickets::LireSoldes(BaseDeDonnees(), Cles(aLire));
+  for (const auto& [cle, eleve] : aLire) eleve->soldeTickets_ = soldes.at(cle);
 }
 
 void TEleves::DeplacerTicket(int ancienEleveId, int nouvelEleveId, int ticketId) {
-  TQueryInternal(BaseDeDonnees(), u"UPDATE TICKET SET ELEVE_ID = " % QString::number(nouvelEleveId) %
-                                      u" where ELEVE_ID=" % QString::number(ancienEleveId) %
-                                      u" AND TICKET_ID=" % QString::number(ticketId))
-      .Executer();
+  const int deplaces =
+      TQueryInternal(BaseDeDonnees(), u"UPDATE TICKET SET ELEVE_ID = " % QString::number(nouvelEleveId) %
+                                          u" where ELEVE_ID=" % QString::number(ancienEleveId) %
+                                          u" AND TICKET_ID=" % QString::number(ticketId))
+          .Executer();
   for (const int id : {ancienEleveId, nouvelEleveId})
     if (const TEleve* eleve = TrouverParId(id)) eleve->ClearTickets();
+  if (deplaces == 0)
+    throw Exception(u"Ce ticket n'existe plus : un autre poste l'a supprimé ou transféré."_s);
 }

@@ -10,6 +10,7 @@
 #include "screens/commun/frm_liste.h"
 #include "screens/documents/frm_apercu.h"
 #include "screens/documents/frm_print_wizard.h"
+#include "screens/meals/frm_ajout_ticket.h"
 #include "screens/meals/frm_comptabilite.h"
 #include "screens/meals/frm_compte_eleve.h"
 #include "screens/meals/frm_cuisine.h"
@@ -29,6 +30,7 @@
 #include "ui/commun/vue_liste.h"
 #include "ui/documents/vue_apercu.h"
 #include "ui/documents/vue_print_wizard.h"
+#include "ui/meals/vue_ajout_ticket.h"
 #include "ui/meals/vue_comptabilite.h"
 #include "ui/meals/vue_compte_eleve.h"
 #include "ui/meals/vue_cuisine.h"
@@ -75,6 +77,7 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
       VueDe<TFrmCuisine2, VueCuisine>(),
       VueDe<TFrmCompteEleve, VueCompteEleve>(),
       VueDe<TFrmTicket, VueTicket>(),
+      VueDe<TFrmAjoutTicket, VueAjoutTicket>(),
       VueDe<TFrmTransfertTicket, VueTransfertTicket>(),
       VueDe<TFrmComptabilite, VueComptabilite>(),
       VueDe<TFrmPresenceRepas, VuePresenceRepas>(),

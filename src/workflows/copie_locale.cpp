@@ -22,10 +22,6 @@ std::optional<TDataSet> LirePhotos(const QString& chemin, IDialogues& dialogues)
   }
 }
 
-bool Contient(const std::vector<QByteArray>& lignes, const QByteArray& ligne) {
-  return std::ranges::find(lignes, ligne) != lignes.end();
-}
-
 }  // namespace
 
 TFichiersTablette::TFichiersTablette(const QString& dossier)
@@ -49,9 +45,15 @@ TServiceHorsLigne::TServiceHorsLigne(const TReglagesPoste& reglages, IDialogues&
       copieClasses_(TDataSet::LireDe(fichiers_.Classes)),
       photos_(LirePhotos(fichiers_.Photos, dialogues)),
       repas_(fichiers_.Repas),
-      transferes_(TFichierRepas(fichiers_.Transferes).Lignes()),
+      transferes_(fichiers_.Transferes),
       eleves_(std::make_unique<TEleves>(copieEleves_.Annee, copieClasses_, copieEleves_)) {
   if (photos_) eleves_->SourcePhotos = &*photos_;
+  ChercherDernierJour();
+}
+
+void TServiceHorsLigne::ChercherDernierJour() {
+  dernierJour_ = 0.0;
+  for (const QByteArray& ligne : repas_.Lignes()) dernierJour_ = std::max(dernierJour_, JourDeLigne(ligne));
 }
 
 bool TServiceHorsLigne::EstServi(const TEleve& eleve, TDateTime jour) const {
@@ -59,7 +61,7 @@ bool TServiceHorsLigne::EstServi(const TEleve& eleve, TDateTime jour) const {
 }
 
 bool TServiceHorsLigne::EstTransfere(const TEleve& eleve, TDateTime jour) const {
-  return Contient(transferes_, LigneRepas(eleve.Matricule, jour));
+  return transferes_.Contient(LigneRepas(eleve.Matricule, jour));
 }
 
 int TServiceHorsLigne::NombreServis(const TClasse& classe, TDateTime jour) const {
@@ -69,13 +71,12 @@ int TServiceHorsLigne::NombreServis(const TClasse& classe, TDateTime jour) const
 
 bool TServiceHorsLigne::Toucher(const TEleve& eleve, TDateTime jour) {
   repas_.Basculer(LigneRepas(eleve.Matricule, jour));
-  return EstServi(eleve, jour);
-}
-
-TDateTime TServiceHorsLigne::DernierJour() const {
-  TDateTime dernier = 0.0;
-  for (const QByteArray& ligne : repas_.Lignes()) dernier = std::max(dernier, JourDeLigne(ligne));
-  return dernier;
+  const bool servi = EstServi(eleve, jour);
+  if (servi)
+    dernierJour_ = std::max(dernierJour_, jour);
+  else
+    ChercherDernierJour();
+  return servi;
 }
 
 std::vector<QString> TServiceHorsLigne::Annees() const {

@@ -45,19 +45,22 @@ class TServiceHorsLigne {
   /// now. Raises Exception, and then nothing has changed.
   bool Toucher(const TEleve& eleve, TDateTime jour);
   /// The last day that was noted, 0 when none.
-  TDateTime DernierJour() const;
+  TDateTime DernierJour() const { return dernierJour_; }
   /// The classes of the pupils by the name of their year, in order.
   std::vector<QString> Annees() const;
   /// When the pupils were copied, 0 when unknown.
   TDateTime DateTransfert() const;
 
  private:
+  void ChercherDernierJour();
+
   TFichiersTablette fichiers_;
   TDataSet copieEleves_;
   TDataSet copieClasses_;
   std::optional<TDataSet> photos_;
   TFichierRepas repas_;
-  std::vector<QByteArray> transferes_;
+  TFichierRepas transferes_;
+  TDateTime dernierJour_ = 0.0;
   std::unique_ptr<TEleves> eleves_;  // last: it looks at the copies
 };
 

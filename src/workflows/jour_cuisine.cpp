@@ -9,6 +9,12 @@ namespace {
 constexpr bool TCommande::*kGarnitures[] = {&TCommande::FlgJambon, &TCommande::FlgFromage,
                                             &TCommande::FlgJambonFromage};
 
+constexpr const char16_t* kTextes[kVarietes] = {
+    u"jambon",         u"jambon beurre",         u"jambon mayonnaise",
+    u"fromage",        u"fromage beurre",        u"fromage mayonnaise",
+    u"jambon fromage", u"jambon fromage beurre", u"jambon fromage mayonnaise",
+};
+
 bool AAccompagnement(const TCommande& c, std::size_t accompagnement) {
   if (accompagnement == 1) return c.FlgBeurre;
   if (accompagnement == 2) return c.FlgMayonnaise;
@@ -35,6 +41,8 @@ void Compter(TJourCuisine& jour, TClasseDuJour& classe, TEleve& eleve, const TCo
 bool EstDeVariete(const TCommande& commande, std::size_t variete) {
   return commande.*kGarnitures[variete / 3] && AAccompagnement(commande, variete % 3);
 }
+
+QString TexteVariete(std::size_t variete) { return QString::fromUtf16(kTextes[variete]); }
 
 TJourCuisine JourDeCuisine(const TEleves& eleves, TDateTime date) {
   TJourCuisine jour;

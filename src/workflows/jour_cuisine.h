@@ -1,4 +1,5 @@
 #pragma once
+#include <QString>
 #include <array>
 #include <vector>
 
@@ -17,6 +18,9 @@ using TVarietes = std::array<int, kVarietes>;
 /// Whether an order is of that variety (0 to 8). One with both dressings is of two; one without filling of
 /// none.
 bool EstDeVariete(const TCommande& commande, std::size_t variete);
+
+/// "jambon beurre"
+QString TexteVariete(std::size_t variete);
 
 /// Pupils who eat a kind of sandwich, in the order of classes and pupils, and their varieties.
 struct TSandwichsDuJour {

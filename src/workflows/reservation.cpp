@@ -1,5 +1,6 @@
 #include "workflows/reservation.h"
 
+#include "core/accord.h"
 #include "core/dialogues.h"
 #include "core/formats.h"
 #include "meals/generation_repas.h"
@@ -28,16 +29,32 @@ bool TGrilleCommandes::PeutQuitter() {
   return false;
 }
 
+bool TGrilleCommandes::PeutPasser(const TEleve* eleve, TDateTime jour) const {
+  return (eleve == courant_ && jour == jour_) || !EstVerrouillee();
+}
+
 bool TGrilleCommandes::Selectionner(TEleve* eleve, TDateTime jour) {
-  if (eleve == courant_ && jour == jour_) return true;
-  if (!PeutQuitter()) return false;
+  if (!PeutPasser(eleve, jour)) return PeutQuitter();
   courant_ = eleve;
   jour_ = jour;
   return true;
 }
 
 TEffetClic TGrilleCommandes::Cliquer(TEleve& eleve, TDateTime jour, int colonne) {
-  if (!Selectionner(&eleve, jour)) return TEffetClic::Verrou;
+  const TEffetClic effet = CliquerSansDire(eleve, jour, colonne);
+  if (effet == TEffetClic::Verrou) PeutQuitter();
+  if (effet == TEffetClic::Insuffisant) dialogues_.Message(u"Solde insuffisant"_s);
+  if (effet == TEffetClic::AutrePoste)
+    dialogues_.Message(
+        u"Un autre poste vient de commander pour %1 ce jour-là : sa commande est affichée."_s.arg(
+            eleve.NomComplet()));
+  return effet;
+}
+
+TEffetClic TGrilleCommandes::CliquerSansDire(TEleve& eleve, TDateTime jour, int colonne) {
+  if (!PeutPasser(&eleve, jour)) return TEffetClic::Verrou;
+  courant_ = &eleve;
+  jour_ = jour;
   if (colonne < 1 || colonne > generation_.NombreColonnes) return TEffetClic::Ignore;
   return Appliquer(eleve, jour, colonne);
 }
@@ -48,22 +65,15 @@ TEffetClic TGrilleCommandes::Appliquer(TEleve& eleve, TDateTime jour, int colonn
   const TCommande* commande = eleve.GetCommande(jour);
   const bool marquee = commande != nullptr && commande->*flag;
   if (!marquee && generation_.AvecSolde && colonne <= kDerniereColonnePayante &&
-      eleve.SoldeRepas() - prix < Currency()) {
-    dialogues_.Message(u"Solde insuffisant"_s);
+      eleve.SoldeRepas() - prix < Currency())
     return TEffetClic::Insuffisant;
-  }
   const bool change = eleve.SetCommande(jour, prix, [&](TCommande& c) {
     if (marquee)
       c.*flag = false;
     else
       Marquer(c, colonne);
   });
-  if (!change) {
-    dialogues_.Message(
-        u"Un autre poste vient de commander pour %1 ce jour-là : sa commande est affichée."_s.arg(
-            eleve.NomComplet()));
-    return TEffetClic::AutrePoste;
-  }
+  if (!change) return TEffetClic::AutrePoste;
   return marquee ? TEffetClic::Efface : TEffetClic::Marque;
 }
 
@@ -84,29 +94,45 @@ QString TexteSoldeTickets(int solde) {
   }
 }
 
+QString TBilanReprise::Texte() const {
+  QStringList textes{Compter(Reprises, u"commande reprise"_s, u"commandes reprises"_s)};
+  if (Incompletes > 0) textes += Compter(Incompletes, u"incomplète"_s, u"incomplètes"_s);
+  if (!Insuffisants.isEmpty()) textes += u"solde insuffisant : " % Insuffisants.join(u", ");
+  if (!AutresPostes.isEmpty()) textes += u"commandés par un autre poste : " % AutresPostes.join(u", ");
+  return textes.join(u"  ·  ");
+}
+
 namespace {
 
-/// Clicks each column that the other order has. False when the first click was refused.
-bool Repeter(TGrilleCommandes& grille, TEleve& eleve, const TCommande& source, TDateTime jour) {
-  bool repete = false;
+/// Clicks each column that the other order has, up to the first that is refused.
+void Repeter(TGrilleCommandes& grille, TEleve& eleve, const TCommande& source, TDateTime jour,
+             TBilanReprise& bilan) {
+  bool reprise = false;
   for (int c = 1; c <= grille.Generation().NombreColonnes; ++c) {
     if (!(source.*ColonnesCommande()[static_cast<std::size_t>(c - 1)].Flag)) continue;
-    if (grille.Cliquer(eleve, jour, c) != TEffetClic::Marque) return repete;
-    repete = true;
+    const TEffetClic effet = grille.CliquerSansDire(eleve, jour, c);
+    if (effet == TEffetClic::Insuffisant) bilan.Insuffisants += eleve.NomComplet();
+    if (effet == TEffetClic::AutrePoste) bilan.AutresPostes += eleve.NomComplet();
+    if (effet != TEffetClic::Marque) break;
+    reprise = true;
   }
-  return repete;
+  bilan.Reprises += reprise;
 }
 
 }  // namespace
 
-int RepeterCommandes(TGrilleCommandes& grille, const TClasse& classe, TDateTime source, TDateTime jour) {
-  int nombre = 0;
+TBilanReprise RepeterCommandes(TGrilleCommandes& grille, const TClasse& classe, TDateTime source,
+                               TDateTime jour) {
+  TBilanReprise bilan;
   for (TEleve* eleve : classe.ListeEleves) {
     const TCommande* avant = eleve->GetCommande(source);
     const TCommande* deja = eleve->GetCommande(jour);
-    if (avant == nullptr || !avant->EstUnRepas() || (deja != nullptr && deja->EstUnRepas())) continue;
-    if (grille.Generation().AvecVerrou && !avant->EstComplete()) continue;
-    nombre += Repeter(grille, *eleve, *avant, jour);
+    const bool libre = deja == nullptr || (!deja->EstUnRepas() && deja->EstComplete());
+    if (eleve->FlgRadie || !libre || avant == nullptr || !avant->EstUnRepas()) continue;
+    if (grille.Generation().AvecVerrou && !avant->EstComplete())
+      ++bilan.Incompletes;
+    else
+      Repeter(grille, *eleve, *avant, jour, bilan);
   }
-  return nombre;
+  return bilan;
 }

@@ -1,5 +1,5 @@
 #pragma once
-#include <QString>
+#include <QStringList>
 
 #include "core/dates.h"
 #include "meals/commande.h"
@@ -25,9 +25,11 @@ class TGrilleCommandes {
  public:
   TGrilleCommandes(IDialogues& dialogues, const TGenerationRepas& generation);
 
-  /// A click on a column (1 on) of a pupil's row. Raises EConvertError for a price that is no amount, and
-  /// EDistributor.
+  /// A click on a column (1 on) of a pupil's row, and what is to be said of it. Raises EConvertError for a
+  /// price that is no amount, and EDistributor.
   TEffetClic Cliquer(TEleve& eleve, TDateTime jour, int colonne);
+  /// The same without a word: for many clicks, which are told of together.
+  TEffetClic CliquerSansDire(TEleve& eleve, TDateTime jour, int colonne);
   /// The row in hand may be left; else the user is told why not.
   bool PeutQuitter();
   /// The row in hand holds the grid.
@@ -40,6 +42,7 @@ class TGrilleCommandes {
   const TGenerationRepas& Generation() const { return generation_; }
 
  private:
+  bool PeutPasser(const TEleve* eleve, TDateTime jour) const;
   TEffetClic Appliquer(TEleve& eleve, TDateTime jour, int colonne);
 
   IDialogues& dialogues_;
@@ -56,6 +59,18 @@ TDateTime JourSuivant(TDateTime jour);
 /// What the panel says of a pupil's tickets: "2 tickets manquants".
 QString TexteSoldeTickets(int solde);
 
-/// Orders for the pupils of the class who eat nothing yet on that day what they ordered on another one, click by
-/// click. How many were served so; an incomplete order is not taken over.
-int RepeterCommandes(TGrilleCommandes& grille, const TClasse& classe, TDateTime source, TDateTime jour);
+/// What came of orders that were taken over from another day.
+struct TBilanReprise {
+  int Reprises = 0;
+  int Incompletes = 0;       ///< left out: what they want on their bread was not said
+  QStringList Insuffisants;  ///< pupils whose account does not cover it
+  QStringList AutresPostes;  ///< pupils for whom another workstation has ordered meanwhile
+
+  /// "12 commandes reprises · 1 incomplète"
+  QString Texte() const;
+};
+
+/// Orders for the pupils of the class who eat nothing yet on that day what they ordered on another one, click
+/// by click under the rules of a click.
+TBilanReprise RepeterCommandes(TGrilleCommandes& grille, const TClasse& classe, TDateTime source,
+                               TDateTime jour);

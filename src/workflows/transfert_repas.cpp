@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include "core/curseur.h"
 #include "core/exceptions.h"
 #include "core/fichiers.h"
 #include "core/formats.h"
@@ -75,6 +76,14 @@ QByteArray LignesTransferees(const TFichiersTablette& fichiers, TDateTime jour) 
   return TexteDesLignes(lignes);
 }
 
+bool ServeurRepond(TDataModule1& base) {
+  try {
+    return TCurseur(base, u"SELECT 1 FROM RDB$DATABASE"_s).Suivant();
+  } catch (const Exception&) {
+    return false;
+  }
+}
+
 }  // namespace
 
 void CopierEleves(const TFichiersTablette& fichiers, bool avecPhotos, IDialogues& dialogues) {
@@ -108,7 +117,10 @@ TBilanTransfert TTransfertRepas::Executer() {
     bilan.Connecte = controleur_.PasserEnLigne();
     if (bilan.Connecte) Transferer(bilan);
   } catch (...) {
-    controleur_.AbandonnerTransfert();
+    if (ServeurRepond(controleur_.Base()))
+      controleur_.AbandonnerTransfert();
+    else
+      controleur_.PasserHorsLigne();
     throw;
   }
   if (bilan.Connecte && bilan.AImporter && !bilan.Importe) {

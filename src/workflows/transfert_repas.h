@@ -21,7 +21,8 @@ class TTransfertRepas {
  public:
   explicit TTransfertRepas(TControleur& controleur) : controleur_(controleur), import_(controleur) {}
 
-  /// The whole run. An exception ends it with the tablet connected and the file of meals as it was.
+  /// The whole run. An exception ends it with the file of meals as it was and the tablet connected, or
+  /// off-line when the server is gone.
   TBilanTransfert Executer();
 
   /// The analysis is made, and the question about its anomalies comes next.

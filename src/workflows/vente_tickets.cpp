@@ -14,22 +14,31 @@ constexpr int kTicketsBas = 2;
 
 }  // namespace
 
+TNiveauTickets NiveauTickets(int solde) {
+  if (solde < 0) return TNiveauTickets::Negatif;
+  if (solde == 0) return TNiveauTickets::Sans;
+  return solde <= kTicketsBas ? TNiveauTickets::Bas : TNiveauTickets::Suffisant;
+}
+
 TCompteursTickets CompterTickets(const TClasse& classe) {
-  classe.Eleves.LireTickets(classe.ListeEleves);
+  classe.Eleves.LireSoldesTickets(classe.ListeEleves);
   TCompteursTickets compteurs;
   for (const TEleve* eleve : classe.ListeEleves) {
-    const int solde = eleve->GetTickets().Solde();
-    compteurs.Negatif += solde < 0;
-    compteurs.Sans += solde == 0;
-    compteurs.Bas += solde > 0 && solde <= kTicketsBas;
+    const TNiveauTickets niveau = NiveauTickets(eleve->SoldeTickets());
+    compteurs.Negatif += niveau == TNiveauTickets::Negatif;
+    compteurs.Sans += niveau == TNiveauTickets::Sans;
+    compteurs.Bas += niveau == TNiveauTickets::Bas;
   }
   return compteurs;
 }
 
+bool EstNombreTickets(int nombre) { return nombre >= 1 && nombre <= kTicketsMaximum; }
+
+QString RefusNombreTickets() { return u"Le nombre de tickets va de 1 à %1."_s.arg(kTicketsMaximum); }
+
 int LireNombreTickets(const QString& texte) {
   const int nombre = StrToInt(texte);
-  if (nombre < 1 || nombre > kTicketsMaximum)
-    throw EConvertError(u"Le nombre de tickets va de 1 à %1."_s.arg(kTicketsMaximum));
+  if (!EstNombreTickets(nombre)) throw EConvertError(RefusNombreTickets());
   return nombre;
 }
 

@@ -6,17 +6,26 @@ class TClasse;
 class TEleve;
 struct TTicket;
 
+/// How many tickets a pupil has left, as the canteen sees it.
+enum class TNiveauTickets { Suffisant, Negatif, Sans, Bas };
+/// `Bas` is one or two.
+TNiveauTickets NiveauTickets(int solde);
+
 /// Pupils of a class by their tickets.
 struct TCompteursTickets {
   int Negatif = 0;
   int Sans = 0;
-  int Bas = 0;  ///< one or two
+  int Bas = 0;
 };
 
-/// Reads the tickets of the class in one statement.
+/// Reads the balances of the class in one statement.
 TCompteursTickets CompterTickets(const TClasse& classe);
 
-/// How many tickets are sold at once: 1 to 999. Raises EConvertError for any other text.
+/// So many tickets may be sold at once: 1 to 999.
+bool EstNombreTickets(int nombre);
+/// What is said of any other number.
+QString RefusNombreTickets();
+/// The number as typed. Raises EConvertError for a text that is none.
 int LireNombreTickets(const QString& texte);
 /// What a sale comes to, before it is made: "2 tickets manquants seront réglés."; "" when it settles none.
 QString AnnonceVente(const TEleve& eleve, int nombre);

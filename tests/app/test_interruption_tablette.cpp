@@ -1,8 +1,8 @@
 // The tablet killed at any point of a transfer, or between its taps: no meal is lost, none is stored twice,
 // it starts off-line again, and its pictures are whole.
-#include <QDeadlineTimer>
 #include <QDir>
-#include <QFileInfo>
+#include <QElapsedTimer>
+#include <QSet>
 #include <random>
 
 #include "core/data_set.h"
@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int kEleves = 30;
+constexpr int kMorts = 100;
 constexpr int kLimiteMs = 60'000;
 
 class TTabletteInterrompue : public TProgrammeEssai {
@@ -31,50 +32,54 @@ class TTabletteInterrompue : public TProgrammeEssai {
     base_->Deconnecter();
   }
 
-  /// Runs to the end, or kills the program at the given change of its files (-1: never). How many were seen.
-  int Executer(const QStringList& commande, int fatal = -1) const {
+  /// Starts the program; it ends by itself, or is killed after so many milliseconds. How long it ran.
+  qint64 Executer(const QStringList& commande, int fatal = kLimiteMs) const {
     QProcess programme;
     programme.setStandardOutputFile(QProcess::nullDevice());
     programme.setStandardErrorFile(QProcess::nullDevice());
+    QElapsedTimer duree;
+    duree.start();
     programme.start(QStringLiteral(CALPENNE_LOT), Serveur() + commande);
-    QString vu = Empreinte();
-    int changements = 0;
-    const QDeadlineTimer limite(kLimiteMs);
-    while (!programme.waitForFinished(1) && !limite.hasExpired()) {
-      const QString maintenant = Empreinte();
-      if (maintenant == vu) continue;
-      vu = maintenant;
-      if (++changements != fatal) continue;
+    if (!programme.waitForFinished(fatal)) {
       programme.kill();
       programme.waitForFinished(kLimiteMs);
     }
-    return changements;
+    return duree.elapsed();
   }
-  QString Lire(const QStringList& commande) const {
+  /// Lines that a command prints.
+  qsizetype Lignes(const QStringList& commande) const {
     QProcess programme;
     Lancer(programme, Serveur() + commande);
-    return QString::fromUtf8(programme.readAllStandardOutput());
+    return programme.readAllStandardOutput().count('\n');
   }
-  /// Changes at each write to the database or to the tablet's folder.
-  QString Empreinte() const {
-    QString texte;
-    QFileInfoList fichiers = QDir(Chemin("presences")).entryInfoList(QDir::Files);
-    fichiers.prepend(QFileInfo(base_.FichierDeDonnees()));
-    for (const QFileInfo& f : fichiers)
-      texte += f.fileName() % QString::number(f.size()) % u' ' %
-               QString::number(f.lastModified().toMSecsSinceEpoch()) % u'|';
-    return texte;
+  QByteArray Taps() const {
+    QFile fichier(Chemin("presences/presences.txt"));
+    return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
   }
-  /// A tablet that waits off-line, with a picture set that is to be replaced, and a meal for each pupil.
+  /// A tablet that waits off-line, with a picture set that is to be replaced, and these meals.
   void Preparer(const QByteArray& repas) {
     QDir(Chemin("presences")).removeRecursively();
     QDir().mkpath(Chemin("presences"));
-    Lire({u"reglage"_s, u"DossierPresences"_s, Chemin("presences")});
-    for (const QString& reglage : Mots(u"Offline=1 Transfert=0 Photo=ancienne"_s))
-      Lire({u"reglage"_s, reglage.section(u'=', 0, 0), reglage.section(u'=', 1)});
+    for (const auto& [nom, valeur] :
+         {std::pair("DossierPresences", Chemin("presences")), std::pair("Offline", u"1"_s),
+          std::pair("Transfert", u"0"_s), std::pair("Photo", u"ancienne"_s)})
+      base_.Reglages.Ecrire(TRacine::Utilisateur, QString::fromLatin1(nom), valeur);
     QFile::remove(base_.FichierDeDonnees());
     ASSERT_TRUE(QFile::copy(Chemin("depart.fdb"), base_.FichierDeDonnees()));
     Fichier("presences/presences.txt", repas);
+  }
+  QString Presences() const {
+    return TBaseEssai(base_.FichierDeDonnees())
+        .Valeur(u"SELECT COUNT(*) || ' ' || COUNT(DISTINCT ELEVE_ID) FROM PRESENCES"_s);
+  }
+  /// Stored once, or still on the tablet: each of the meals.
+  void VerifierRepas() const {
+    TBaseEssai lue(base_.FichierDeDonnees());
+    QStringList gardes = lue.Rangees(u"SELECT ELEVE_ID FROM PRESENCES"_s);
+    EXPECT_EQ(QSet(gardes.begin(), gardes.end()).size(), gardes.size()) << "stored twice";
+    for (const QByteArray& ligne : Taps().split('\n'))
+      if (!ligne.isEmpty()) gardes += QString::fromLatin1(ligne.left(ligne.indexOf(';') - 1));
+    EXPECT_EQ(QSet(gardes.begin(), gardes.end()).size(), kEleves) << "lost";
   }
 };
 
@@ -86,47 +91,72 @@ TEST_F(TTabletteInterrompue, ATransfer) {
   ASSERT_TRUE(QFile::copy(base_.FichierDeDonnees(), Chemin("depart.fdb")));
   Preparer(repas);
   const QStringList transfert = Mots(u"tablette transferer"_s);
-  const int changements = Executer(transfert);
-  ASSERT_GT(changements, 3);
+  const auto duree = static_cast<int>(Executer(transfert));
   std::mt19937 hasard(2016);
-  for (int essai = 0; essai < 2; ++essai) {
-    const int fatal = std::uniform_int_distribution(1, changements)(hasard);
+  int entames = 0;
+  for (int essai = 0; essai < kMorts; ++essai) {
+    const int fatal = std::uniform_int_distribution(1, duree)(hasard);
     SCOPED_TRACE(fatal);
     Preparer(repas);
     Executer(transfert, fatal);
-    // The next start is off-line, and serves whom it has.
     const bool copie = QFile::exists(Chemin("presences/ELEVES"));
-    EXPECT_EQ(Lire(Mots(u"tablette eleves --jour 03/10/2016"_s)).count(u'\n'), copie ? kEleves + 1 : 1);
-    EXPECT_EQ(Lire(Mots(u"reglage Offline"_s)), u"1\n");
+    entames += copie && !Taps().isEmpty();
+    VerifierRepas();
+    // The next start is off-line, and serves whom it has.
+    EXPECT_EQ(Lignes(Mots(u"tablette eleves --jour 03/10/2016"_s)), copie ? kEleves + 1 : 1);
+    EXPECT_EQ(base_.Reglages.Lire(TRacine::Utilisateur, u"Offline"_s), u"1");
     const bool photos = QFile::exists(Chemin("presences/PHOTOS"));
     EXPECT_EQ(photos ? TDataSet::LireDe(Chemin("presences/PHOTOS")).NombreLignes() : kEleves, kEleves);
     // Another transfer brings all to the same end.
     Executer(transfert);
-    EXPECT_EQ(Lire(Mots(u"reglage Photo"_s)), u"\n");
+    EXPECT_EQ(base_.Reglages.Lire(TRacine::Utilisateur, u"Photo"_s), QString());
     EXPECT_FALSE(QFile::exists(Chemin("presences/presences.txt")));
-    TBaseEssai lue(base_.FichierDeDonnees());
-    EXPECT_EQ(lue.Valeur(u"SELECT COUNT(*) || ' ' || COUNT(DISTINCT ELEVE_ID) FROM PRESENCES"_s),
-              u"%1 %1"_s.arg(kEleves));
+    EXPECT_EQ(Presences(), u"%1 %1"_s.arg(kEleves));
   }
+  EXPECT_GE(entames, 5) << "too few were killed between the copy and the archive to say anything";
 }
 
 TEST_F(TTabletteInterrompue, Taps) {
   ASSERT_TRUE(QFile::copy(base_.FichierDeDonnees(), Chemin("depart.fdb")));
   Preparer({});
   Executer(Mots(u"tablette transferer"_s));
-  QStringList taps = Mots(u"tablette toucher"_s);
-  for (int n = 1; n <= kEleves; ++n) taps += QString::number(n);
-  for (const int fatal : {2, 9, 17, 30}) {
+  QStringList taps = Mots(u"tablette toucher --jour 03/10/2016"_s);
+  QByteArray tout;
+  for (int n = 1; n <= kEleves; ++n) {
+    taps += QString::number(n);
+    tout += QByteArray::number(n) + "1;2;20161003;120000000;1\n";
+  }
+  std::mt19937 hasard(2016);
+  for (int essai = 0; essai < kMorts; ++essai) {
+    const int fatal = std::uniform_int_distribution(1, kEleves)(hasard);
+    SCOPED_TRACE(fatal);
     QFile::remove(Chemin("presences/presences.txt"));
     QProcess programme;
     programme.start(QStringLiteral(CALPENNE_LOT), taps);
-    // What it has said is noted is on the disk.
-    QByteArray dit;
+    QByteArray dit;  // a heading, then a line a tap
     while (dit.count('\n') <= fatal && programme.waitForReadyRead(kLimiteMs))
       dit += programme.readAllStandardOutput();
     programme.kill();
     programme.waitForFinished(kLimiteMs);
-    const auto notes = Lire(Mots(u"tablette eleves"_s)).count(u";1\n"_s);
-    EXPECT_GE(notes, dit.count('\n') - 1);
+    const QByteArray notes = Taps();
+    EXPECT_TRUE(tout.startsWith(notes) && (notes.isEmpty() || notes.endsWith('\n'))) << notes.constData();
+    EXPECT_GE(notes.count('\n'), dit.count('\n') - 1) << "what it has said is noted is on the disk";
   }
+}
+
+// The disk refuses: the tap is told, and what was noted before stays.
+TEST_F(TTabletteInterrompue, AFullDisk) {
+  ASSERT_TRUE(QFile::copy(base_.FichierDeDonnees(), Chemin("depart.fdb")));
+  Preparer({});
+  Executer(Mots(u"tablette transferer"_s));
+  const QByteArray avant = "11;2;20161003;120000000;1\n";
+  Fichier("presences/presences.txt", avant);
+  QProcess programme;
+  programme.start(u"sh"_s,
+                  {u"-c"_s, u"trap '' XFSZ; ulimit -f 0; exec \"$0\" \"$@\""_s, QStringLiteral(CALPENNE_LOT),
+                   u"tablette"_s, u"toucher"_s, u"2"_s, u"--jour"_s, u"03/10/2016"_s});
+  ASSERT_TRUE(programme.waitForFinished(kLimiteMs));
+  EXPECT_EQ(programme.exitCode(), 1);
+  EXPECT_TRUE(QString::fromUtf8(programme.readAllStandardError()).contains(u"presences.txt"));
+  EXPECT_EQ(Taps(), avant);
 }

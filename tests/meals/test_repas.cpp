@@ -91,7 +91,7 @@ TEST_F(TRepasEssai, TicketsAreBoughtUsedAndFreed) {
 }
 
 TEST_F(TRepasEssai, TheListsOfManyAreThoseOfEach) {
-  Tickets({u"1 2"_s, u"9 -"_s, u"- 3"_s, u"9 4"_s});
+  Tickets({u"1 2"_s, u"9 -"_s, u"- 3"_s, u"9 4"_s, u"- 7"_s});
   base.Sql(u"UPDATE TICKET SET ELEVE_ID = 2, TYPE_PAIEMENT = 2 WHERE TICKET_ID = 4"_s);
   const auto ensemble = TTickets::LireEnsemble(*base, {1, 2, 3});
   for (const int eleve : {1, 2, 3}) {
@@ -102,10 +102,11 @@ TEST_F(TRepasEssai, TheListsOfManyAreThoseOfEach) {
       return liste.join(u' ');
     };
     EXPECT_EQ(cles(*ensemble.at(eleve)), cles(seul));
+    EXPECT_EQ(TTickets::LireSoldes(*base, {1, 2, 3}).at(eleve), seul.Solde());
   }
   const TTickets& un = *ensemble.at(1);
   EXPECT_EQ(un.DatesAchat(), (std::vector<TDateTime>{Sept(9), Sept(1), 0.0}));
-  EXPECT_EQ(un.NombreManquants(), 1);
+  EXPECT_EQ(un.NombreManquants(), 2);
   const auto ventes = ensemble.at(2)->Ventes({Sept(9), Sept(9)}, TPaiementTicket::Comptant);
   ASSERT_EQ(ventes.size(), 1u);
   EXPECT_EQ(Euros(ventes.at(Sept(9)).Montant), "2.0000");

@@ -112,6 +112,11 @@ TEST_F(FrmMain, ACommandOpensItsScreenWithItsTools) {
   Main.Executer(TGestionnaire::btnVirementClick);
   EXPECT_EQ(Main.Panneau.Courante(), fiche) << "a screen that is not there says so and opens nothing";
   EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Alerte);
+  for (const bool oui : {false, true}) {
+    Base.Dialogues.Repond(u"Souhaitez-vous quitter"_s, oui);
+    Main.Executer(TGestionnaire::AdvGlowButton4Click);
+    EXPECT_EQ(journal.last() == u"fin", oui);
+  }
 }
 
 TEST_F(FrmMain, TheTreeOfTwoSitesLeavesOutAClassWithoutSite) {

@@ -118,9 +118,12 @@ TEST_F(Principal, EveryWayShowsItsPages) {
     EXPECT_EQ(Programme.Tout().Base.EstConnecte(), c.Connexion) << c.Reglage;
     if (&c != std::end(cas) - 1) Programme.Fermer();
   }
-  QTest::mouseClick(Fenetre().Barre()->Bouton(TGestionnaire::AdvGlowButton4Click), Qt::LeftButton);
-  QCoreApplication::processEvents();
-  EXPECT_FALSE(Fenetre().isVisible()) << "Quitter closes the program";
+  for (const bool oui : {false, true}) {
+    Programme.Dialogues.Repond(u"Souhaitez-vous quitter"_s, oui);
+    QTest::mouseClick(Fenetre().Barre()->Bouton(TGestionnaire::AdvGlowButton4Click), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Fenetre().isVisible(), !oui) << "Quitter closes the program";
+  }
 }
 
 TEST_F(Principal, GivingUpAtFirstEndsTheProgramAndLaterDoesNot) {

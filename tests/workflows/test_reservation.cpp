@@ -138,6 +138,47 @@ TEST_F(TReservationEssai, TwoWorkstationsOrderTheSameMeal) {
   EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM TICKET"_s), u"1");
 }
 
+TEST_F(TReservationEssai, WhatCannotBeStoredWholeIsNotStored) {
+  essai.Charger();
+  // A missing ticket that another workstation has settled and deleted does not take a sale with it.
+  Eleve(2).AjouterCredit({}, EncodeDate(2016, 10, 3));
+  base.Sql(u"DELETE FROM TICKET"_s);
+  EXPECT_THROW(Eleve(2).AcheterTickets(3, TPaiementTicket::Comptant, {}, EncodeDate(2016, 10, 4)),
+               EDistributor);
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM TICKET"_s), u"0");
+  Eleve(2).AcheterTickets(3, TPaiementTicket::Comptant, {}, EncodeDate(2016, 10, 4));
+  EXPECT_EQ(Eleve(2).SoldeTickets(), 3);
+  // No order without its ticket.
+  base.Sql(u"ALTER TABLE TICKET ADD CONSTRAINT CHER CHECK (VALEUR < 100)"_s);
+  const auto commander = [](TCommande& commande) { commande.FlgRepas = true; };
+  EXPECT_THROW(Eleve(3).SetCommande(EncodeDate(2016, 10, 3), Currency::Euros(200), commander), EDistributor);
+  EXPECT_EQ(Eleve(3).GetCommande(EncodeDate(2016, 10, 3)), nullptr);
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM COMMANDE"_s), u"0");
+}
+
+TEST_F(TReservationEssai, OrdersAreTakenOverFromAnotherDay) {
+  ecole.Ajouter(u"REPAS_PAIEMENT"_s, u"REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT"_s,
+                {u"3"_s, u"2.60"_s, u"0"_s, u"'2016-09-05'"_s});
+  essai.Charger();
+  const TClasse& classe = *Eleve(2).Classe;
+  const auto reprendre = [&](bool nouvelle, int jour) {
+    TGrilleCommandes grille(base.Dialogues, GenerationRepas(nouvelle));
+    return RepeterCommandes(grille, classe, EncodeDate(2016, 10, 3), EncodeDate(2016, 10, jour)).Texte();
+  };
+  Cliquer(false, {u"2 2"_s, u"2 4"_s, u"2 8"_s, u"3 1"_s});
+  EXPECT_EQ(reprendre(false, 4), u"2 commandes reprises");
+  EXPECT_EQ(reprendre(false, 4), u"0 commande reprise") << "who eats already keeps the order";
+  EXPECT_EQ(reprendre(true, 5), u"1 commande reprise  ·  solde insuffisant : Eleve2 Prenom2");
+  base.Sql(u"UPDATE COMMANDE SET FLG_JAMBON = 0 WHERE ELEVE_ID = 2"_s);
+  Globals.Eleves->LibererCommandes();
+  EXPECT_EQ(reprendre(false, 6), u"1 commande reprise  ·  1 incomplète");
+  EXPECT_EQ(
+      base.Rangees(u"SELECT ELEVE_ID, EXTRACT(DAY FROM DATE_COMMANDE), FLG_REPAS || FLG_DAGO || FLG_JAMBON "
+                   "|| FLG_MAYONNAISE FROM COMMANDE ORDER BY 2, 1"_s),
+      (QStringList{u"2;3;0101"_s, u"3;3;1000"_s, u"2;4;0101"_s, u"3;4;1000"_s, u"3;5;1000"_s,
+                   u"3;6;1000"_s}));
+}
+
 TEST_F(TReservationEssai, CountersKitchenAndSteps) {
   essai.Charger();
   Cliquer(false, {u"1 2"_s, u"1 4"_s, u"1 7"_s, u"2 1"_s, u"4 3"_s, u"4 6"_s});

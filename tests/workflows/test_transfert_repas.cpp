@@ -6,6 +6,8 @@
 #include "core/fichiers.h"
 #include "pupils/photo.h"
 #include "support/controleur_essai.h"
+#include "support/serveur_firebird.h"
+#include "support/valeurs.h"
 #include "workflows/copie_locale.h"
 #include "workflows/transfert_repas.h"
 
@@ -185,6 +187,40 @@ TEST_F(TTabletteEssai, WithoutAServerTheTabletGoesOnOffLine) {
   essai.Controleur.FormShow();
   EXPECT_TRUE(Globals.ModeHorsLigne);
   EXPECT_EQ(Reglage("Offline") + Reglage("Transfert"), u"10");
+}
+
+TEST_F(TTabletteEssai, AFolderThatIsAFileIsTold) {
+  Regler(u"DossierPresences"_s, base.Fichier(u"presences"_s, "x"));
+  EXPECT_FALSE(PourquoiSansService(true, base.Reglages).isEmpty());
+  EXPECT_THROW(Transferer(), Exception);
+  EXPECT_EQ(Reglage("Transfert"), u"0");
+}
+
+TEST(Transfert, TheServerGoesAwayInTheMiddleOfIt) {
+  std::optional<TServeurFirebird> serveur(std::in_place);
+  TBaseEssai base;
+  TControleurEssai essai(base);
+  base->Deconnecter();
+  base->ServerName = serveur->Nom();
+  base->Connecter();
+  TEcoleEssai ecole(base);
+  ecole.tarif(Essai::FamilleRepas, Essai::TousLesJours, u"11:30"_s, u"13:30"_s, Essai::Forfait, u"2"_s,
+              Essai::ScanPresence);
+  ecole.parametre(27, u"2016"_s);
+  ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
+  for (const auto& [nom, valeur] : {std::pair(u"DossierPresences"_s, base.Chemin(u"presences"_s)),
+                                    std::pair(u"Serveur"_s, serveur->Nom())})
+    base.Reglages.Ecrire(TRacine::Utilisateur, nom, valeur);
+  base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, serveur->Nom());
+  const TFichiersTablette fichiers(base.Reglages);
+  const QByteArray taps = "11;2;20161003;120000000;1\n";
+  EcrireFichier(fichiers.Repas, taps);
+  TTransfertRepas transfert(essai.Controleur);
+  transfert.SurAnalyse = [&](const TBilanTransfert&) { serveur.reset(); };
+  EXPECT_THROW(transfert.Executer(), Exception);
+  EXPECT_EQ(LireFichier(fichiers.Repas), taps);
+  EXPECT_TRUE(Globals.ModeHorsLigne) << "the tablet serves on";
+  EXPECT_EQ(base.Reglages.Lire(TRacine::Utilisateur, u"Offline"_s), u"1");
 }
 
 TEST_F(TTabletteEssai, ADamagedCopyIsRefusedAndTheTapsStay) {

@@ -1,34 +1,36 @@
 #include "screens/meals/frm_ajout_ticket.h"
 
-#include "core/exceptions.h"
+#include "core/conversions.h"
 #include "pupils/eleve.h"
 #include "workflows/vente_tickets.h"
 
 namespace {
 
-constexpr int kNombreMaximum = 999;
+const QString kDateAchat = u"Date d'achat"_s;
+const QString kDateUtilisation = u"Date d'utilisation"_s;
 
 TTableChamps<TSaisieTicket> Table() {
   return {
       {{.Nom = u"cbTicketManquant"_s, .Libelle = u"Ticket manquant"_s, .Genre = TGenreChamp::Coche},
        Membre(&TSaisieTicket::Manquant)},
       {{.Nom = u"edNombre"_s,
-        .Libelle = u"Nombre de tickets :"_s,
+        .Libelle = u"Nombre de tickets"_s,
         .Genre = TGenreChamp::Entier,
         .Obligatoire = true,
-        .Refus = u"Le nombre de tickets va de 1 à 999."_s},
+        .Refus = RefusNombreTickets()},
        Membre(&TSaisieTicket::Nombre)},
-      {{.Nom = u"dtDate"_s, .Libelle = u"Date d'achat :"_s, .Genre = TGenreChamp::Date, .Obligatoire = true},
+      {{.Nom = u"dtDate"_s, .Libelle = kDateAchat, .Genre = TGenreChamp::Date, .Obligatoire = true},
        Membre(&TSaisieTicket::Date)},
       {{.Nom = u"edPrix"_s,
-        .Libelle = u"Prix :"_s,
+        .Libelle = u"Prix"_s,
         .Genre = TGenreChamp::Montant,
         .Obligatoire = true,
         .Unite = u"€"_s},
        Membre(&TSaisieTicket::Prix)},
       {{.Nom = u"rbPaiement"_s,
-        .Libelle = u"Paiement :"_s,
+        .Libelle = u"Paiement"_s,
         .Genre = TGenreChamp::Choix,
+        .Boutons = true,
         .Choix =
             [] {
               return QStringList{u"Virement"_s, u"Comptant"_s};
@@ -40,17 +42,34 @@ TTableChamps<TSaisieTicket> Table() {
 }  // namespace
 
 TFrmAjoutTicket::TFrmAjoutTicket(TContexteEcran& contexte, TEleve& eleve, Currency prix)
-    : TFrmDialogueDe(u"Ajouter des tickets à "_s + eleve.NomComplet(), Table()), eleve_(eleve) {
+    : TFrmDialogueDe(u"Ajouter des tickets à "_s + eleve.NomComplet(), Table()),
+      eleve_(eleve),
+      champs_(Champs()) {
   Saisi.Prix = prix;
   Saisi.Date = contexte.Controleur.Horloge().Aujourdhui();
   Montrer();
+  liens_ += Champs().SurChangement.Suivre([this](int champ) {
+    if (champ == champs_.Indice(u"cbTicketManquant"_s)) cbTicketManquantClick();
+    Annoncer();
+  });
+}
+
+bool TFrmAjoutTicket::Manquant() const { return champs_.Entier(champs_.Indice(u"cbTicketManquant"_s)) != 0; }
+
+QString TFrmAjoutTicket::LibelleDate() const { return Manquant() ? kDateUtilisation : kDateAchat; }
+
+QString TFrmAjoutTicket::Annonce() const {
+  if (Manquant()) return {};
+  return AnnonceVente(eleve_, StrToIntDef(champs_.Texte(champs_.Indice(u"edNombre"_s)), 0));
+}
+
+void TFrmAjoutTicket::cbTicketManquantClick() {
+  if (Manquant()) Champs().Proposer(champs_.Indice(u"edNombre"_s), 1);
 }
 
 bool TFrmAjoutTicket::Controler() {
-  const int nombre = Champs().Entier(Champs().Indice(u"edNombre"_s));
-  const bool manquant = Champs().Entier(Champs().Indice(u"cbTicketManquant"_s)) != 0;
-  if (!manquant && (nombre < 1 || nombre > kNombreMaximum))
-    return Champs().Refuser(u"edNombre"_s, u"Le nombre de tickets va de 1 à 999."_s);
+  if (!EstNombreTickets(Saisi.Nombre)) return Champs().Refuser(u"edNombre"_s, RefusNombreTickets());
+  if (Saisi.Prix < Currency()) return Champs().Refuser(u"edPrix"_s, u"Le prix est négatif."_s);
   return true;
 }
 

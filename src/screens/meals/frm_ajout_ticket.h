@@ -18,6 +18,12 @@ class TFrmAjoutTicket : public TFrmDialogueDe<TSaisieTicket> {
  public:
   TFrmAjoutTicket(TContexteEcran& contexte, TEleve& eleve, Currency prix);
 
+  /// "Ticket manquant" is ticked: the number is 1, and nothing is paid.
+  bool Manquant() const;
+  /// What the date is called: of the purchase, or of the meal.
+  QString LibelleDate() const;
+  /// What the sale settles: "2 tickets manquants seront réglés."; "" when it settles none.
+  QString Annonce() const;
   /// What was entered goes into the pupil's tickets. Raises EDistributor.
   void Enregistrer();
 
@@ -25,5 +31,9 @@ class TFrmAjoutTicket : public TFrmDialogueDe<TSaisieTicket> {
   bool Controler() override;
 
  private:
+  void cbTicketManquantClick();
+
   TEleve& eleve_;
+  const TChamps& champs_;
+  TLiens liens_;
 };

@@ -45,7 +45,8 @@ void TFrmComptabilite::Remplir(TGrille& grille, TPaiementTicket type) const {
 
 bool TFrmComptabilite::RecevoirMessage(const TMessage& message) {
   if (message.Code != TCodeMessage::Imprimer) return false;
-  TImprimeur(contexte_, {}).Faire(
-      [&](const TContexteDocument& contexte) { return TicketsVendus(contexte, {dtDebut, dtFin}); });
+  TImprimeur(contexte_, {}).Faire([&](const TContexteDocument& contexte) {
+    return TicketsVendus(contexte, {dtDebut, dtFin});
+  });
   return true;
 }

@@ -3,6 +3,7 @@
 #include "core/conversions.h"
 #include "core/formats.h"
 #include "documents/cuisine.h"
+#include "meals/generation_repas.h"
 #include "pupils/eleves.h"
 #include "screens/documents/imprimeur.h"
 
@@ -55,6 +56,14 @@ QString TFrmCompteEleve::Titre() const {
   return Classe() != nullptr ? u"Compte classe du " % FormatJour(Aujourdhui()) : QString();
 }
 
+std::vector<TCompteurRepas> TFrmCompteEleve::Compteurs() const {
+  return CompteursRepas(Classe(), jour_.Jour(), GenerationRepas(true));
+}
+
+QString TFrmCompteEleve::NoteMonnaie() const {
+  return u"Reçu aujourd'hui, " % FormatJour(Aujourdhui()) % u" :";
+}
+
 QString TFrmCompteEleve::TotalRecu() const {
   Currency total;
   if (const TClasse* classe = Classe())
@@ -67,7 +76,7 @@ QString TFrmCompteEleve::TexteSolde(const TEleve& eleve) const {
   const bool paye = Globals.Eleves->RepasPaiements().PaiementDu(eleve.Id, Aujourdhui(),
                                                                 TPaiementRepas::Liquide) != nullptr ||
                     eleve.RecuLe(Aujourdhui()) != Currency();
-  return paye ? solde % u"  (+" % Euros(eleve.RecuLe(Aujourdhui())) % u')' : solde;
+  return paye ? solde % u"  (+" % FormatDeuxDecimales(eleve.RecuLe(Aujourdhui())) % u')' : solde;
 }
 
 void TFrmCompteEleve::Remplir() {

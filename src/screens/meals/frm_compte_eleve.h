@@ -21,6 +21,8 @@ class TFrmCompteEleve : public TForm {
   void btnReculeDateClick() { ChangerJour(&TJourEcran::Reculer); }
   void btnAvanceDateClick() { ChangerJour(&TJourEcran::Avancer); }
 
+  /// Of the class and the day of the heading.
+  std::vector<TCompteurRepas> Compteurs() const;
   /// "Compte classe du lundi 3 octobre"; "" without a class.
   QString Titre() const;
   /// "Total reçu ce jour : 12,50 €"
@@ -32,6 +34,8 @@ class TFrmCompteEleve : public TForm {
   /// "Modifier le paiement" when there is one of today, else "Ajouter un paiement".
   QString TitreAjouteArgent() const;
   void btnAjouteArgentClick();
+  /// Over the cash panel: money is today's, whatever the heading says.
+  QString NoteMonnaie() const;
   /// The cash panel is open, and the list is shut.
   bool EnSaisie() const { return enSaisie_; }
 

@@ -5,16 +5,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// "+2 repas chauds"; "" for no difference.
-QString Ecart(int avant, int apres, const QString& mot) {
-  if (avant == apres) return {};
-  return (apres > avant ? u"+"_s : QString()) % QString::number(apres - avant) % u' ' % mot;
-}
-
-}  // namespace
-
 TFrmCuisine::TFrmCuisine(TContexteEcran& contexte, const TGenerationRepas& generation)
     : contexte_(contexte),
       generation_(generation),
@@ -22,6 +12,7 @@ TFrmCuisine::TFrmCuisine(TContexteEcran& contexte, const TGenerationRepas& gener
 
 void TFrmCuisine::FormShow() {
   date_.Definir(contexte_.Controleur.Horloge().Aujourdhui());
+  imprimee_ = TFicheImprimee::Lire(contexte_.Controleur.Reglages(), generation_);
   AdvGlowButton1Click();
 }
 
@@ -60,13 +51,11 @@ QString TFrmCuisine::NoteIncompletes() const {
 }
 
 QString TFrmCuisine::NoteChangements() const {
-  if (imprime_.Jour != jour_.Jour) return {};
-  QStringList ecarts{
-      Ecart(imprime_.Repas, jour_.Repas, u"repas chauds"_s),
-      Ecart(imprime_.Sandwichs, jour_.Sandwichs, QString::fromUtf16(generation_.LigneSandwich)),
-      Ecart(imprime_.Dagos, jour_.Dagos, QString::fromUtf16(generation_.LigneDago))};
-  ecarts.removeAll(QString());
-  return ecarts.isEmpty() ? QString() : u"Depuis l'impression : " % ecarts.join(u", ");
+  if (imprimee_.Jour != jour_.Jour) return {};
+  const QStringList changements = imprimee_.Changements(ComptesCuisine(jour_, generation_));
+  if (changements.isEmpty()) return {};
+  return u"Depuis l'impression du %1 à %2 : %3"_s.arg(
+      FormatDate(imprimee_.Moment), FormatHeure(imprimee_.Moment), changements.join(u"  ·  "));
 }
 
 bool TFrmCuisine::RecevoirMessage(const TMessage& message) {
@@ -82,6 +71,8 @@ bool TFrmCuisine::RecevoirMessage(const TMessage& message) {
 
 void TFrmCuisine::NoterImpression(bool imprime) {
   if (!imprime) return;
-  imprime_ = {jour_.Jour, jour_.Repas, jour_.Dagos, jour_.Sandwichs};
+  imprimee_ = {jour_.Jour, contexte_.Controleur.Horloge().Maintenant(), ComptesCuisine(jour_, generation_)};
+  TReglagesPoste reglages;
+  imprimee_.Memoriser(reglages, generation_);
   Annoncer();
 }

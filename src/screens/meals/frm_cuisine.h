@@ -3,7 +3,7 @@
 #include "meals/generation_repas.h"
 #include "screens/documents/imprimeur.h"
 #include "screens/meals/jour_ecran.h"
-#include "workflows/jour_cuisine.h"
+#include "workflows/fiche_imprimee.h"
 
 /// "Cuisine": what each class has ordered for a day, and the two sheets of the kitchen.
 class TFrmCuisine : public TForm {
@@ -20,7 +20,8 @@ class TFrmCuisine : public TForm {
   int lblDagobert() const { return jour_.Dagos; }
   /// "3 commandes incomplètes : ..."; "" when all can be made. The second generation has no fillings.
   QString NoteIncompletes() const;
-  /// What has changed since the sheet of that day was printed; "" when nothing has, or none was.
+  /// What has changed since the sheet of that day was printed on this workstation; "" when nothing has, or
+  /// none was.
   QString NoteChangements() const;
 
   void btnReculeDateClick() { ChangerJour(&TJourEcran::Reculer); }
@@ -36,12 +37,6 @@ class TFrmCuisine : public TForm {
   void FormShow() override;
 
  private:
-  /// What the last printed sheet said of a day.
-  struct TImprime {
-    TDateTime Jour = 0.0;
-    int Repas = 0, Dagos = 0, Sandwichs = 0;
-  };
-
   void ChangerJour(void (TJourEcran::*pas)());
   void Recapituler();
   void NoterImpression(bool imprime);
@@ -52,7 +47,7 @@ class TFrmCuisine : public TForm {
   TJourEcran date_;
   TJourCuisine jour_;
   QString titre_;
-  TImprime imprime_;
+  TFicheImprimee imprimee_;
 };
 
 /// The second generation: the same day under its own words.

@@ -1,6 +1,7 @@
 #include "screens/meals/frm_presence_repas.h"
 
 #include "core/calendrier_scolaire.h"
+#include "core/chaines.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
 
@@ -96,6 +97,7 @@ void TFrmPresenceRepas::btnClasseClick(TClasse& classe) {
 
 void TFrmPresenceRepas::btnRetourClick() {
   annee_.clear();
+  recherche_.clear();
   classe_ = nullptr;
   Annoncer();
 }
@@ -113,9 +115,10 @@ void TFrmPresenceRepas::edRechercheChange(const QString& texte) {
 std::vector<TEleve*> TFrmPresenceRepas::Montres() const {
   if (!service_) return {};
   if (recherche_.isEmpty()) return classe_ != nullptr ? classe_->ListeEleves : std::vector<TEleve*>();
+  const QString cherche = MajusculesSansAccents(recherche_);
   std::vector<TEleve*> trouves;
   for (TEleve& eleve : service_->Eleves())
-    if (eleve.NomComplet().contains(recherche_, Qt::CaseInsensitive)) trouves.push_back(&eleve);
+    if (MajusculesSansAccents(eleve.NomComplet()).contains(cherche)) trouves.push_back(&eleve);
   return trouves;
 }
 

@@ -24,13 +24,13 @@ std::vector<TColonneGrille> Colonnes(const TGenerationRepas& generation) {
   return colonnes;
 }
 
-/// One letter for a day of the month: the first flag that makes a meal of it.
-QString Lettre(const TCommande* commande, const TGenerationRepas& generation) {
+/// A day of the month: the first flag that makes a meal of it, and "!" when it cannot be made.
+QString Abrege(const TCommande* commande, const TGenerationRepas& generation) {
   if (commande == nullptr) return {};
-  const auto colonnes = ColonnesCommande().first(3);
-  for (std::size_t c = 0; c < colonnes.size(); ++c)
-    if (commande->*colonnes[c].Flag) return QString(QString::fromUtf16(generation.Colonnes[c])[0]);
-  return {};
+  const QString defaut = generation.AvecVerrou && !commande->EstComplete() ? u"!"_s : QString();
+  for (std::size_t c = 0; c < generation.Abreges.size(); ++c)
+    if (commande->*ColonnesCommande()[c].Flag) return QString::fromUtf16(generation.Abreges[c]) % defaut;
+  return defaut;
 }
 
 }  // namespace
@@ -44,7 +44,7 @@ TFrmReservation::TFrmReservation(TContexteEcran& contexte, const TGenerationRepa
 void TFrmReservation::FormShow() {
   jour_.Definir(contexte_.Controleur.Horloge().Aujourdhui());
   classe_ = 0;
-  Actualiser();
+  Relire();
 }
 
 bool TFrmReservation::DatesVisibles() const { return !Globals.ModeProfesseur; }
@@ -71,6 +71,10 @@ void TFrmReservation::ChangerJour(void (TJourEcran::*pas)()) {
 }
 
 void TFrmReservation::Actualiser() {
+  if (commandes_.PeutQuitter()) Relire();
+}
+
+void TFrmReservation::Relire() {
   commandes_.Oublier();
   Globals.Eleves->LibererCommandes();
   if (generation_.AvecSolde) Globals.Eleves->LibererRepasPaiements();
@@ -82,10 +86,8 @@ void TFrmReservation::Remplir() {
   {
     const TGrille::TLot lot(Grille);
     Grille.Vider();
-    if (const TClasse* classe = Classe()) {
-      Globals.Eleves->LireTickets(classe->ListeEleves);
-      for (TEleve* eleve : classe->ListeEleves) Grille.Ajouter(Cellules(*eleve), eleve);
-    }
+    if (const TClasse* classe = Classe())
+      for (TEleve* eleve : classe->ListeEleves) Grille.Ajouter(Cellules(*eleve), eleve, eleve->FlgRadie);
   }
   Annoncer();
 }
@@ -133,10 +135,16 @@ void TFrmReservation::grdEleveClickCell(int ligne, int colonne) {
 void TFrmReservation::Repeter(TDateTime source) {
   const TClasse* classe = Classe();
   if (classe == nullptr || !commandes_.PeutQuitter()) return;
-  const int nombre = RepeterCommandes(commandes_, *classe, source, jour_.Jour());
+  try {
+    const TBilanReprise bilan = RepeterCommandes(commandes_, *classe, source, jour_.Jour());
+    const bool toutes = bilan.Reprises > 0 && bilan.Insuffisants.isEmpty() && bilan.AutresPostes.isEmpty();
+    contexte_.Principal.Etat(toutes ? TNiveauEtat::Succes : TNiveauEtat::Alerte,
+                             u"Du " % FormatJour(source) % u" : " % bilan.Texte());
+  } catch (...) {
+    Remplir();
+    throw;
+  }
   Remplir();
-  contexte_.Principal.Etat(nombre > 0 ? TNiveauEtat::Succes : TNiveauEtat::Neutre,
-                           u"%1 commande(s) reprise(s) du %2"_s.arg(nombre).arg(FormatJour(source)));
 }
 
 void TFrmReservation::CommeLaVeille() { Repeter(JourPrecedent(jour_.Jour())); }
@@ -158,20 +166,22 @@ void TFrmReservation::RemplirMois(TGrille& mois) const {
   Globals.Eleves->Commandes().Lire({jours.front(), jours.back()});
   for (TEleve* eleve : classe->ListeEleves) {
     TCellules cellules{eleve->NomComplet()};
-    for (const TDateTime j : jours) cellules.push_back(Lettre(eleve->GetCommande(j), generation_));
+    for (const TDateTime j : jours) cellules.push_back(Abrege(eleve->GetCommande(j), generation_));
     mois.Ajouter(std::move(cellules), eleve);
   }
 }
 
-std::vector<TFrmReservation::TCompteur> TFrmReservation::Compteurs() const {
-  const TClasse* classe = Classe();
-  const TDateTime jour = jour_.Jour();
-  const auto compteur = [](const char16_t* libelle, int nombre) {
-    return TCompteur{QString::fromUtf16(libelle), nombre};
-  };
-  return {compteur(generation_.CompteurRepas, classe != nullptr ? classe->NombreRepas(jour) : 0),
-          compteur(generation_.CompteurSandwichs, classe != nullptr ? classe->NombreSandwichs(jour) : 0),
-          compteur(generation_.CompteurSansRepas, classe != nullptr ? classe->NombreSansCommande(jour) : 0)};
+QString TFrmReservation::LegendeMois() const {
+  QStringList textes;
+  for (std::size_t c = 0; c < generation_.Abreges.size(); ++c)
+    textes +=
+        QString::fromUtf16(generation_.Abreges[c]) % u" : " % QString::fromUtf16(generation_.Colonnes[c]);
+  if (generation_.AvecVerrou) textes += u"! : commande incomplète"_s;
+  return textes.join(u"  ·  ");
+}
+
+std::vector<TCompteurRepas> TFrmReservation::Compteurs() const {
+  return CompteursRepas(Classe(), jour_.Jour(), generation_);
 }
 
 QString TFrmReservation::NomEleve() const {
@@ -183,13 +193,13 @@ QString TFrmReservation::TexteSolde() const {
   const TEleve* eleve = Courant();
   if (eleve == nullptr) return {};
   if (generation_.AvecSolde) return u"Solde disponible : " % FormatDeuxDecimales(eleve->SoldeRepas()) % u" €";
-  return TexteSoldeTickets(eleve->GetTickets().Solde());
+  return TexteSoldeTickets(eleve->SoldeTickets());
 }
 
 bool TFrmReservation::SoldeSuffit() const {
   const TEleve* eleve = Courant();
   if (eleve == nullptr) return true;
-  return generation_.AvecSolde ? eleve->SoldeRepas() > Currency() : eleve->GetTickets().Solde() > 0;
+  return generation_.AvecSolde ? eleve->SoldeRepas() > Currency() : eleve->SoldeTickets() > 0;
 }
 
 bool TFrmReservation::RecevoirMessage(const TMessage& message) {

@@ -23,7 +23,8 @@ class TFrmReservation : public TForm {
   void btnReculeDateClick() { ChangerJour(&TJourEcran::Reculer); }
   void btnAvanceDateClick() { ChangerJour(&TJourEcran::Avancer); }
 
-  // The grid: names, then the columns of the generation. The object of a row is its pupil.
+  // The grid: names, then the columns of the generation. The object of a row is its
+  // pupil, state 1 for one who has left.
   TGrille Grille;
   void grdEleveClickCell(int ligne, int colonne);
   /// Another row is to come into hand. False, after a message, when the row in hand must first be completed.
@@ -38,13 +39,10 @@ class TFrmReservation : public TForm {
   void Actualiser();
   /// The orders of the class over the month of the day: a column a school day, a letter an order.
   void RemplirMois(TGrille& mois) const;
+  /// What the letters stand for.
+  QString LegendeMois() const;
 
-  /// Of the counters, in order: hot meals, sandwiches, without a meal.
-  struct TCompteur {
-    QString Libelle;
-    int Nombre = 0;
-  };
-  std::vector<TCompteur> Compteurs() const;
+  std::vector<TCompteurRepas> Compteurs() const;
 
   // The pupil in hand.
   QString NomEleve() const;
@@ -65,6 +63,7 @@ class TFrmReservation : public TForm {
   TClasse* Classe() const;
   TEleve* Courant() const;
   void ChangerJour(void (TJourEcran::*pas)());
+  void Relire();
   void Remplir();
   TCellules Cellules(const TEleve& eleve) const;
   void EcrireLigne(int ligne);

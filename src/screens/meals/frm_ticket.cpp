@@ -11,13 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPageDetail = 1;
-constexpr int kTicketsBas = 2;
-
-int EtatDe(int solde) {
-  if (solde < 0) return TFrmTicket::Negatif;
-  if (solde == 0) return TFrmTicket::Sans;
-  return solde <= kTicketsBas ? TFrmTicket::Bas : TFrmTicket::Suffisant;
-}
 
 }  // namespace
 
@@ -70,6 +63,8 @@ void TFrmTicket::ChoisirPage(int page) {
   Annoncer();
 }
 
+void TFrmTicket::LstEleveDblClick() { ChoisirPage(kPageDetail); }
+
 void TFrmTicket::MontrerSousTrois(bool oui) {
   sousTrois_ = oui;
   Remplir(Courant());
@@ -94,9 +89,10 @@ void TFrmTicket::Remplir(TEleve* choisi) {
     compteurs_ = classe_ != nullptr ? CompterTickets(*classe_) : TCompteursTickets();
     if (classe_ != nullptr)
       for (TEleve* eleve : classe_->ListeEleves) {
-        const int solde = eleve->GetTickets().Solde();
-        if (!sousTrois_ || solde <= kTicketsBas)
-          LstEleve.Ajouter({eleve->NomComplet(), solde, {}}, eleve, EtatDe(solde));
+        const int solde = eleve->SoldeTickets();
+        const TNiveauTickets niveau = NiveauTickets(solde);
+        if (!sousTrois_ || niveau != TNiveauTickets::Suffisant)
+          LstEleve.Ajouter({eleve->NomComplet(), solde, {}}, eleve, static_cast<int>(niveau));
       }
     LstEleve.ChoisirLigne(choisi != nullptr ? LstEleve.TrouverObjet(choisi) : -1);
   }
@@ -127,7 +123,6 @@ void TFrmTicket::LstEleveClick() {
   if (remplit_) return;
   RemplirDetail();
   if (TEleve* eleve = Courant(); eleve != nullptr && eleve != Globals.EleveCourant) {
-    page_ = kPageDetail;
     Globals.EleveCourant = eleve;
     Globals.ClasseCourante = eleve->Classe;
     contexte_.Principal.Envoyer({TCodeMessage::EleveChange, {}});
@@ -153,8 +148,20 @@ void TFrmTicket::btnEtape1Click() {
   TEleve& eleve = *Courant();
   TFrmAjoutTicket ajout(contexte_, eleve, PrixSection(eleve.Categorie()));
   if (contexte_.Modale.MontrerModal(ajout) != TResultatModal::Valide) return;
-  ajout.Enregistrer();
-  contexte_.Principal.Etat(TNiveauEtat::Succes, u"Enregistré pour " % eleve.NomComplet());
+  Changer(eleve, [&] {
+    ajout.Enregistrer();
+    contexte_.Principal.Etat(TNiveauEtat::Succes, u"Enregistré pour " % eleve.NomComplet());
+  });
+}
+
+// What fails has the tickets read again: those that are shown are gone.
+void TFrmTicket::Changer(TEleve& eleve, const std::function<void()>& changement) {
+  try {
+    changement();
+  } catch (...) {
+    Remplir(&eleve);
+    throw;
+  }
   Remplir(&eleve);
 }
 
@@ -166,21 +173,22 @@ void TFrmTicket::AdvGlowButton1Click() {
 
 void TFrmTicket::AdvGlowButton2Click() {
   if (!ExigeTicket()) return;
-  TEleve* eleve = Courant();
+  TEleve& eleve = *Courant();
   TTicket& ticket = *TicketCourant();
-  if (SupprimerTicket(contexte_.Dialogues(), *eleve, ticket)) Remplir(eleve);
+  Changer(eleve, [&] { SupprimerTicket(contexte_.Dialogues(), eleve, ticket); });
 }
 
 void TFrmTicket::AdvGlowButton3Click() {
   if (!ExigeTicket()) return;
-  TEleve* eleve = Courant();
+  TEleve& eleve = *Courant();
   const int ticket = TicketCourant()->Id;
   TFrmTransfertTicket transfert;
   if (contexte_.Modale.MontrerModal(transfert) != TResultatModal::Valide || transfert.Choisi() == nullptr)
     return;
-  Globals.Eleves->DeplacerTicket(eleve->Id, transfert.Choisi()->Id, ticket);
-  contexte_.Principal.Etat(TNiveauEtat::Succes, u"Ticket transféré à " % transfert.Choisi()->NomComplet());
-  Remplir(eleve);
+  Changer(eleve, [&] {
+    Globals.Eleves->DeplacerTicket(eleve.Id, transfert.Choisi()->Id, ticket);
+    contexte_.Principal.Etat(TNiveauEtat::Succes, u"Ticket transféré à " % transfert.Choisi()->NomComplet());
+  });
 }
 
 bool TFrmTicket::RecevoirMessage(const TMessage& message) {

@@ -13,8 +13,8 @@ class TFrmTicket : public TForm {
   QString NomClasse() const;
   /// "2 élève(s) en négatif" and so on, in the order of the states of the list.
   QStringList Compteurs() const;
-  enum TEtat { Suffisant, Negatif, Sans, Bas };
-  TGrille LstEleve;  ///< "Nom prénom", "Nb tickets"; the object of a row is its pupil
+  /// "Nom prénom", "Nb tickets"; the object of a row is its pupil, its state a TNiveauTickets.
+  TGrille LstEleve;
   QString NomEleve() const;
   /// "Date achat", "Date utilisation", "Total": a head a purchase, its tickets below. The object of a row is
   /// its TTicket.
@@ -27,6 +27,8 @@ class TFrmTicket : public TForm {
   void MontrerSousTrois(bool oui);
 
   void LstEleveClick();
+  /// To the detail of the pupil.
+  void LstEleveDblClick();
   /// "Ajouter des tickets"
   void btnEtape1Click();
   /// "Actualiser"
@@ -48,6 +50,7 @@ class TFrmTicket : public TForm {
   /// False, after a message, without a pupil, or without a ticket.
   bool ExigeEleve() const;
   bool ExigeTicket() const;
+  void Changer(TEleve& eleve, const std::function<void()>& changement);
   void PrendreClasse(TClasse* classe);
   void PrendreEleve(TEleve* eleve);
   void Remplir(TEleve* choisi);

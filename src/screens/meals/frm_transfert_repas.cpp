@@ -10,6 +10,11 @@ TFrmTransfertRepas::TFrmTransfertRepas(TContexteEcran& contexte)
 
 void TFrmTransfertRepas::FormShow() { btnRecommencerClick(); }
 
+std::vector<TCompteurRepas> TFrmTransfertRepas::Compteurs() const {
+  return {{u"Nombre de repas relevés :"_s, bilan_.Lignes},
+          {u"Nombre d'anomalies détectées:"_s, bilan_.Anomalies}};
+}
+
 void TFrmTransfertRepas::Dire(TNiveauEtat niveau, const QString& texte) {
   niveau_ = niveau;
   etat_ = texte;

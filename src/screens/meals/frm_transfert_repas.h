@@ -1,6 +1,7 @@
 #pragma once
 #include "forms/grille.h"
 #include "screens/contexte_ecran.h"
+#include "screens/meals/jour_ecran.h"
 #include "workflows/transfert_repas.h"
 
 /// "Transfert": the tablet's meals go into the presences, and its copy of the pupils is renewed. It runs as
@@ -14,9 +15,8 @@ class TFrmTransfertRepas : public TForm {
   TNiveauEtat Niveau() const { return niveau_; }
   /// A meal file was read: the two counts hold.
   bool Analyse() const { return analyse_; }
-  int NombreRepas() const { return bilan_.Lignes; }         ///< "Nombre de repas relevés :"
-  int NombreAnomalies() const { return bilan_.Anomalies; }  ///< "Nombre d'anomalies détectées:"
-  TGrille Anomalies;                                        ///< what was read, and why it is not stored
+  std::vector<TCompteurRepas> Compteurs() const;
+  TGrille Anomalies;  ///< what was read, and why it is not stored
   /// Runs the transfer (again).
   void btnRecommencerClick();
   bool PeutRecommencer() const { return !enCours_; }

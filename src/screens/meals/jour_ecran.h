@@ -1,9 +1,11 @@
 #pragma once
-#include <QString>
+#include <QStringList>
+#include <vector>
 
 #include "core/dates.h"
 
-class TForm;
+class TClasse;
+struct TGenerationRepas;
 
 /// The day that a meal screen shows, and its two steps over the weekends.
 class TJourEcran {
@@ -18,6 +20,15 @@ class TJourEcran {
  private:
   TDateTime jour_ = 0.0;
 };
+
+/// A counter of a class and a day.
+struct TCompteurRepas {
+  QString Libelle;
+  int Nombre = 0;
+};
+/// In order: hot meals, sandwiches, pupils without a meal. Zeros without a class.
+std::vector<TCompteurRepas> CompteursRepas(const TClasse* classe, TDateTime jour,
+                                           const TGenerationRepas& generation);
 
 /// "Choisissez votre classe", then every class of the year on display.
 QStringList ChoixDeClasses();

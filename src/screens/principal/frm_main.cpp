@@ -225,7 +225,7 @@ void TFrmMain::Executer(TGestionnaire gestionnaire) {
     return;
   }
   if (gestionnaire == TGestionnaire::AdvGlowButton4Click) {
-    Terminer();
+    if (Contexte.Dialogues().Confirmer(u"Souhaitez-vous quitter Calpenne ?"_s)) Terminer();
     return;
   }
   QuitterChamp();

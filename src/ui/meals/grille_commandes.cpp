@@ -25,6 +25,7 @@ GrilleCommandes::GrilleCommandes(TFrmReservation& form, QWidget* parent) : QTabl
   setSelectionMode(SingleSelection);
   setEditTriggers(NoEditTriggers);
   setAlternatingRowColors(true);
+  setTabKeyNavigation(false);
   verticalHeader()->hide();
   const TGrille& grille = form.Grille;
   setColumnCount(grille.NombreColonnes());
@@ -47,6 +48,13 @@ GrilleCommandes::GrilleCommandes(TFrmReservation& form, QWidget* parent) : QTabl
   Remplir();
 }
 
+QString GrilleCommandes::Aide() const {
+  QStringList touches{u"Espace ou une lettre coche la cellule"_s};
+  for (int c = 1; c < columnCount(); ++c)
+    touches += QString(lettres_[c - 1]) % u" : " % form_.Grille.Colonne(c).Titre;
+  return touches.join(u"  ·  ");
+}
+
 void GrilleCommandes::Remplir() {
   const QSignalBlocker silence(this);
   setRowCount(form_.Grille.NombreLignes());
@@ -60,7 +68,12 @@ void GrilleCommandes::Ecrire(int ligne) {
     if (cellule == nullptr) setItem(ligne, c, cellule = new QTableWidgetItem);
     const QString texte = form_.Grille.Texte(ligne, c);
     cellule->setText(texte);
-    if (c == 0) continue;
+    if (c == 0) {
+      QFont police = font();
+      police.setStrikeOut(form_.Grille.Ligne(ligne).Etat == 1);
+      cellule->setFont(police);
+      continue;
+    }
     cellule->setTextAlignment(Qt::AlignCenter);
     cellule->setBackground(texte.isEmpty() ? QBrush() : QBrush(Theme::Selection()));
     cellule->setData(Qt::AccessibleTextRole,

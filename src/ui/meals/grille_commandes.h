@@ -11,6 +11,9 @@ class GrilleCommandes : public QTableWidget {
  public:
   explicit GrilleCommandes(TFrmReservation& form, QWidget* parent = nullptr);
 
+  /// How to mark by keyboard.
+  QString Aide() const;
+
  protected:
   void keyPressEvent(QKeyEvent* evenement) override;
 

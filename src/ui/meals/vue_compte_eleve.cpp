@@ -12,6 +12,7 @@
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/meals/choix_classe_jour.h"
+#include "ui/meals/rangee_compteurs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,11 +20,13 @@ VueCompteEleve::VueCompteEleve(TFrmCompteEleve& form, QWidget* parent)
     : QWidget(parent),
       form_(form),
       choix_(new ChoixClasseJour(true)),
+      comptes_(new RangeeCompteurs),
       titre_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
       recu_(new Etiquette),
       grille_(new VueGrille(form.Grille, u"Comptes des élèves"_s, u"Comptes/Eleves"_s)),
       nom_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
       ajouter_(BoutonPrincipal(u"Ajouter un paiement"_s, u"list-add"_s)),
+      note_(new Etiquette({}, TRole::Secondaire)),
       total_(new Etiquette({}, TRole::Accent, &Theme::Compteur)),
       valider_(BoutonPrincipal(u"Valider"_s, u"dialog-ok-apply"_s)),
       annuler_(BoutonSimple(u"Annuler"_s)),
@@ -54,7 +57,6 @@ void VueCompteEleve::AjouterCoupure(QGridLayout& grille, int coupure) {
   const auto i = static_cast<std::size_t>(coupure);
   const QString nom = QString::fromUtf16(Coupures()[i].Libelle);
   boutons_[i] = BoutonSimple(nom);
-  boutons_[i]->setFocusPolicy(Qt::ClickFocus);
   champs_[i] = new QLineEdit;
   champs_[i]->setAccessibleName(u"Nombre : " % nom);
   champs_[i]->setAlignment(Qt::AlignRight);
@@ -73,6 +75,7 @@ QWidget* VueCompteEleve::CreerMonnaie() {
   auto* place = new QWidget;
   auto* colonne = new QVBoxLayout(place);
   colonne->setContentsMargins(0, 0, 0, 0);
+  colonne->addWidget(note_);
   auto* grille = new QGridLayout;
   grille->setSpacing(Theme::Px(8));
   for (int i = 0; i < static_cast<int>(kNombreCoupures); ++i) AjouterCoupure(*grille, i);
@@ -82,7 +85,16 @@ QWidget* VueCompteEleve::CreerMonnaie() {
   pied->addWidget(annuler_);
   pied->addWidget(valider_);
   colonne->addLayout(pied);
+  OrdonnerFoyer();
   return place;
+}
+
+// From field to field, then the end of it, and only then the buttons.
+void VueCompteEleve::OrdonnerFoyer() {
+  std::vector<QWidget*> ordre(champs_.begin(), champs_.end());
+  ordre.insert(ordre.end(), {valider_, annuler_});
+  ordre.insert(ordre.end(), boutons_.begin(), boutons_.end());
+  for (std::size_t i = 1; i < ordre.size(); ++i) QWidget::setTabOrder(ordre[i - 1], ordre[i]);
 }
 
 QWidget* VueCompteEleve::CreerPanneau() {
@@ -115,6 +127,7 @@ void VueCompteEleve::Disposer() {
   colonne->setSpacing(Theme::Px(12));
   colonne->addWidget(new TitreEcran(u"Comptes"_s));
   colonne->addWidget(choix_);
+  colonne->addWidget(comptes_);
   colonne->addLayout(tete);
   colonne->addLayout(corps, 1);
 }
@@ -122,7 +135,9 @@ void VueCompteEleve::Disposer() {
 void VueCompteEleve::Actualiser() {
   choix_->DefinirClasses(form_.Classes(), form_.IndiceClasse());
   choix_->DefinirJour(form_.TitreJour(), form_.DatesVisibles());
+  comptes_->Definir(form_.Compteurs());
   titre_->setText(form_.Titre());
+  note_->setText(form_.NoteMonnaie());
   recu_->setText(form_.IndiceClasse() > 0 ? form_.TotalRecu() : QString());
   nom_->setText(form_.NomEleve());
   ajouter_->setText(form_.TitreAjouteArgent());

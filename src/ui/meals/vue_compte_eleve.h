@@ -10,6 +10,7 @@ class EtatVide;
 class Etiquette;
 class QLineEdit;
 class QPushButton;
+class RangeeCompteurs;
 class TFrmCompteEleve;
 class VueGrille;
 
@@ -24,6 +25,7 @@ class VueCompteEleve : public QWidget {
   bool eventFilter(QObject* objet, QEvent* evenement) override;
 
  private:
+  void OrdonnerFoyer();
   QWidget* CreerPanneau();
   QWidget* CreerMonnaie();
   void AjouterCoupure(class QGridLayout& grille, int coupure);
@@ -32,6 +34,7 @@ class VueCompteEleve : public QWidget {
 
   TFrmCompteEleve& form_;
   ChoixClasseJour* choix_;
+  RangeeCompteurs* comptes_;
   Etiquette* titre_;
   Etiquette* recu_;
   VueGrille* grille_;
@@ -40,6 +43,7 @@ class VueCompteEleve : public QWidget {
   QWidget* monnaie_ = nullptr;
   std::array<QPushButton*, kNombreCoupures> boutons_{};
   std::array<QLineEdit*, kNombreCoupures> champs_{};
+  Etiquette* note_;
   Etiquette* total_;
   QPushButton* valider_;
   QPushButton* annuler_;

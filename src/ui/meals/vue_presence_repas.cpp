@@ -124,30 +124,33 @@ void VuePresenceRepas::Actualiser() {
     vide_->Montrer(u"Aucun élève à servir"_s, form_.Empechement());
 }
 
+// The buttons stay where they are while only their counts change.
 void VuePresenceRepas::RemplirBoutons() {
+  std::vector<TBouton> boutons;
+  if (!form_.AnneeChoisie())
+    for (const QString& annee : form_.Annees())
+      boutons.push_back({annee, annee, [this, annee] { form_.btnAnneeClick(annee); }});
+  else
+    for (const auto& [classe, libelle, compte] : form_.ClassesDeLAnnee())
+      boutons.push_back(
+          {libelle, libelle % u'\n' % compte, [this, classe = classe] { form_.btnClasseClick(*classe); }});
+  if (form_.AnneeChoisie()) boutons.push_back({u"RETOUR"_s, u"RETOUR"_s, [this] { form_.btnRetourClick(); }});
+  const bool memes = std::ranges::equal(boutons, boutonsMontres_, {}, &TBouton::Cle,
+                                        [](const auto& montre) { return montre.first; });
+  if (!memes) CreerBoutons(boutons);
+  for (std::size_t i = 0; i < boutons.size(); ++i) boutonsMontres_[i].second->setText(boutons[i].Texte);
+}
+
+void VuePresenceRepas::CreerBoutons(const std::vector<TBouton>& boutons) {
   Vider(*boutons_);
-  if (!form_.AnneeChoisie()) {
-    for (const QString& annee : form_.Annees()) {
-      QPushButton* bouton = GrandBouton(annee);
-      connect(
-          bouton, &QPushButton::clicked, this, [this, annee] { form_.btnAnneeClick(annee); },
-          Qt::QueuedConnection);
-      boutons_->addWidget(bouton);
-    }
-    return;
+  boutonsMontres_.clear();
+  for (const TBouton& bouton : boutons) {
+    QPushButton* montre = GrandBouton(bouton.Texte);
+    connect(montre, &QPushButton::clicked, this, bouton.Faire, Qt::QueuedConnection);
+    if (bouton.Cle == u"RETOUR") boutons_->addSpacing(Theme::Px(20));
+    boutons_->addWidget(montre);
+    boutonsMontres_.emplace_back(bouton.Cle, montre);
   }
-  for (const auto& [classe, libelle, compte] : form_.ClassesDeLAnnee()) {
-    QPushButton* bouton = GrandBouton(libelle % u"\n" % compte);
-    connect(
-        bouton, &QPushButton::clicked, this, [this, classe = classe] { form_.btnClasseClick(*classe); },
-        Qt::QueuedConnection);
-    boutons_->addWidget(bouton);
-  }
-  boutons_->addSpacing(Theme::Px(20));
-  QPushButton* retour = GrandBouton(u"RETOUR"_s);
-  connect(
-      retour, &QPushButton::clicked, this, [this] { form_.btnRetourClick(); }, Qt::QueuedConnection);
-  boutons_->addWidget(retour);
 }
 
 bool VuePresenceRepas::MettreAJourCadres() {

@@ -1,5 +1,7 @@
 #pragma once
 #include <QWidget>
+#include <functional>
+#include <vector>
 
 #include "forms/signal.h"
 
@@ -7,6 +9,7 @@ class CadreEleve;
 class EtatVide;
 class Etiquette;
 class QLineEdit;
+class QPushButton;
 class QScrollArea;
 class QTimer;
 class QVBoxLayout;
@@ -23,7 +26,13 @@ class VuePresenceRepas : public QWidget {
   QWidget* Gauche();
   QWidget* Droite();
   void Actualiser();
+  struct TBouton {
+    QString Cle;
+    QString Texte;
+    std::function<void()> Faire;
+  };
   void RemplirBoutons();
+  void CreerBoutons(const std::vector<TBouton>& boutons);
   void RemplirCadres();
   /// The same pupils as before: only what was noted changes, and the focus stays.
   bool MettreAJourCadres();
@@ -36,6 +45,7 @@ class VuePresenceRepas : public QWidget {
   QLineEdit* recherche_;
   Etiquette* classe_;
   QVBoxLayout* boutons_ = nullptr;
+  std::vector<std::pair<QString, QPushButton*>> boutonsMontres_;
   QScrollArea* cadres_;
   EtatVide* vide_;
   QTimer* minuterie_;

@@ -6,13 +6,13 @@
 
 #include "screens/meals/frm_reservation.h"
 #include "ui/commun/bouton.h"
-#include "ui/commun/compteur.h"
 #include "ui/commun/etat_vide.h"
 #include "ui/commun/rangee_pliante.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/meals/choix_classe_jour.h"
 #include "ui/meals/grille_commandes.h"
+#include "ui/meals/rangee_compteurs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,12 +20,14 @@ VueReservation::VueReservation(TFrmReservation& form, QWidget* parent)
     : QWidget(parent),
       form_(form),
       choix_(new ChoixClasseJour(true)),
+      comptes_(new RangeeCompteurs),
       grille_(new GrilleCommandes(form)),
       vueMois_(new VueGrille(mois_, u"Commandes du mois"_s, u"Reservation/Mois"_s)),
       pages_(new QStackedWidget),
       boutonMois_(BoutonSimple(u"Le mois"_s, u"view-calendar-month"_s)),
       nom_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
       solde_(new Etiquette({}, TRole::Texte, &Theme::Gras)),
+      aide_(new Etiquette({}, TRole::Secondaire)),
       vide_(new EtatVide(grille_)) {
   Disposer();
   connect(choix_, &ChoixClasseJour::ClasseChoisie, this, [this](int i) { form_.cmbClasseChange(i); });
@@ -42,20 +44,13 @@ QLayout* VueReservation::Boutons() {
   connect(reprises_[0], &QPushButton::clicked, this, [this] { form_.CommeLaVeille(); });
   connect(reprises_[1], &QPushButton::clicked, this, [this] { form_.CommeLaSemainePassee(); });
   QPushButton* actualiser = BoutonSimple(u"Actualiser"_s, u"view-refresh"_s);
-  actualiser->setShortcut(QKeySequence::Refresh);
+  actualiser->setShortcut(QKeySequence(u"Ctrl+R"_s));
+  actualiser->setToolTip(u"Relire ce que les autres postes ont commandé (Ctrl+R)"_s);
   connect(actualiser, &QPushButton::clicked, this, [this] { form_.Actualiser(); });
   boutonMois_->setCheckable(true);
   auto* rangee = new RangeePliante;
   for (QPushButton* bouton : {reprises_[0], reprises_[1], boutonMois_, actualiser}) rangee->addWidget(bouton);
   return rangee;
-}
-
-QLayout* VueReservation::Comptes() {
-  auto* ligne = new QHBoxLayout;
-  ligne->setSpacing(Theme::Px(32));
-  for (Compteur*& compteur : comptes_) ligne->addWidget(compteur = new Compteur({}));
-  ligne->addStretch(1);
-  return ligne;
 }
 
 QLayout* VueReservation::Eleve() {
@@ -68,6 +63,7 @@ QLayout* VueReservation::Eleve() {
 }
 
 void VueReservation::Disposer() {
+  aide_->setWordWrap(true);
   pages_->addWidget(grille_);
   pages_->addWidget(vueMois_);
   auto* colonne = new QVBoxLayout(this);
@@ -77,13 +73,14 @@ void VueReservation::Disposer() {
   colonne->addWidget(new TitreEcran(u"Réservation"_s));
   colonne->addWidget(choix_);
   colonne->addLayout(Boutons());
-  colonne->addLayout(Comptes());
+  colonne->addWidget(comptes_);
   colonne->addLayout(Eleve());
   colonne->addWidget(pages_, 1);
+  colonne->addWidget(aide_);
 }
 
 void VueReservation::MontrerMois(bool mois) {
-  if (mois) form_.RemplirMois(mois_);
+  Actualiser();
   pages_->setCurrentWidget(mois ? static_cast<QWidget*>(vueMois_) : static_cast<QWidget*>(grille_));
 }
 
@@ -91,17 +88,14 @@ void VueReservation::Actualiser() {
   choix_->DefinirClasses(form_.Classes(), form_.IndiceClasse());
   choix_->DefinirJour(form_.TitreJour(), form_.DatesVisibles());
   choix_->Verrouiller(form_.EstVerrouillee());
-  const auto compteurs = form_.Compteurs();
-  for (std::size_t i = 0; i < comptes_.size(); ++i) {
-    comptes_[i]->DefinirMot(compteurs[i].Libelle);
-    comptes_[i]->Definir(compteurs[i].Nombre);
-  }
+  comptes_->Definir(form_.Compteurs());
   nom_->setText(form_.NomEleve());
   solde_->setText(form_.TexteSolde());
   solde_->DefinirRole(form_.SoldeSuffit() ? TRole::Succes : TRole::Erreur);
   for (QPushButton* bouton : reprises_)
     bouton->setEnabled(form_.IndiceClasse() > 0 && !form_.EstVerrouillee());
   if (boutonMois_->isChecked()) form_.RemplirMois(mois_);
+  aide_->setText(boutonMois_->isChecked() ? form_.LegendeMois() : grille_->Aide());
   if (form_.Grille.NombreLignes() > 0)
     vide_->Cacher();
   else

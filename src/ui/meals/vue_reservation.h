@@ -5,12 +5,12 @@
 #include "forms/grille.h"
 
 class ChoixClasseJour;
-class Compteur;
 class EtatVide;
 class Etiquette;
 class GrilleCommandes;
 class QPushButton;
 class QStackedWidget;
+class RangeeCompteurs;
 class TFrmReservation;
 class VueGrille;
 
@@ -23,14 +23,13 @@ class VueReservation : public QWidget {
  private:
   void Disposer();
   QLayout* Boutons();
-  QLayout* Comptes();
   QLayout* Eleve();
   void Actualiser();
   void MontrerMois(bool mois);
 
   TFrmReservation& form_;
   ChoixClasseJour* choix_;
-  std::array<Compteur*, 3> comptes_{};
+  RangeeCompteurs* comptes_;
   GrilleCommandes* grille_;
   TGrille mois_;
   VueGrille* vueMois_;
@@ -39,6 +38,7 @@ class VueReservation : public QWidget {
   std::array<QPushButton*, 2> reprises_{};
   Etiquette* nom_;
   Etiquette* solde_;
+  Etiquette* aide_;
   EtatVide* vide_;
   TLiens liens_;
 };

@@ -22,10 +22,13 @@ VueTicket::VueTicket(TFrmTicket& form, QWidget* parent)
       eleve_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
       detail_(new VueGrille(form.Detail, u"Tickets de l'élève"_s, u"Tickets/Detail"_s)),
       pages_(new QTabWidget),
-      vide_(new EtatVide(eleves_)) {
+      vide_(new EtatVide(eleves_)),
+      sansTicket_(new EtatVide(detail_)) {
   pages_->addTab(Classe(), u"Aperçu classe"_s);
   pages_->addTab(PageDetail(), u"Détail de l'élève"_s);
   connect(pages_, &QTabWidget::currentChanged, this, [this](int page) { form_.ChoisirPage(page); });
+  connect(eleves_, &VueGrille::Activee, this, [this] { form_.LstEleveDblClick(); });
+  connect(sansTicket_, &EtatVide::BoutonPresse, this, [this] { form_.btnEtape1Click(); });
   connect(detail_, &VueGrille::Suppression, this, [this] { form_.AdvGlowButton2Click(); });
   auto* colonne = new QVBoxLayout(this);
   const int marge = Theme::Px(16);
@@ -56,6 +59,9 @@ QLayout* VueTicket::Boutons() {
                                       QString::fromUtf16(texte), QString::fromUtf16(icone));
     connect(bouton, &QPushButton::clicked, this, [this, faire = faire] { (form_.*faire)(); });
     rangee->addWidget(bouton);
+    if (faire != &TFrmTicket::AdvGlowButton1Click) continue;
+    bouton->setShortcut(QKeySequence(u"Ctrl+R"_s));
+    bouton->setToolTip(u"Relire ce que les autres postes ont changé (Ctrl+R)"_s);
   }
   return rangee;
 }
@@ -64,14 +70,13 @@ QWidget* VueTicket::Classe() {
   auto* page = new QWidget;
   auto* colonne = new QVBoxLayout(page);
   colonne->addWidget(classe_);
-  auto* comptes = new QHBoxLayout;
+  auto* comptes = new RangeePliante;
   comptes->setSpacing(Theme::Px(24));
   for (Etiquette*& compteur : compteurs_)
     comptes->addWidget(compteur = new Etiquette({}, TRole::Texte, &Theme::Gras));
   compteurs_[0]->DefinirRole(TRole::Erreur);
   compteurs_[1]->DefinirRole(TRole::Alerte);
   compteurs_[2]->DefinirRole(TRole::Succes);
-  comptes->addStretch(1);
   auto* sousTrois = new QCheckBox(u"Seulement les élèves avec moins de 3 tickets"_s);
   connect(sousTrois, &QCheckBox::toggled, this, [this](bool oui) { form_.MontrerSousTrois(oui); });
   comptes->addWidget(sousTrois);
@@ -95,10 +100,21 @@ void VueTicket::Actualiser() {
     compteurs_[i]->setText(textes[static_cast<qsizetype>(i)]);
   eleve_->setText(form_.NomEleve());
   pages_->setCurrentIndex(form_.Page());
+  MontrerVides();
+}
+
+void VueTicket::MontrerVides() {
   if (form_.LstEleve.NombreLignes() > 0)
     vide_->Cacher();
   else
     vide_->Montrer(u"Aucun élève à montrer"_s,
                    form_.SousTrois() ? u"Tous les élèves de la classe ont trois tickets et plus."_s
                                      : u"Choisissez une classe ou un élève dans l'arbre de gauche."_s);
+  if (form_.Detail.NombreLignes() > 0)
+    sansTicket_->Cacher();
+  else if (form_.NomEleve().isEmpty())
+    sansTicket_->Montrer(u"Aucun élève choisi"_s, u"Choisissez un élève dans la liste de la classe."_s);
+  else
+    sansTicket_->Montrer(u"Aucun ticket"_s, form_.NomEleve() % u" n'a jamais eu de ticket.",
+                         u"Ajouter des tickets"_s);
 }

@@ -21,6 +21,7 @@ class VueTicket : public QWidget {
   QWidget* PageDetail();
   QLayout* Boutons();
   void Actualiser();
+  void MontrerVides();
 
   TFrmTicket& form_;
   Etiquette* classe_;
@@ -30,5 +31,6 @@ class VueTicket : public QWidget {
   VueGrille* detail_;
   QTabWidget* pages_;
   EtatVide* vide_;
+  EtatVide* sansTicket_;
   TLiens liens_;
 };

@@ -5,10 +5,10 @@
 
 #include "screens/meals/frm_transfert_repas.h"
 #include "ui/commun/bouton.h"
-#include "ui/commun/compteur.h"
 #include "ui/commun/marque_etat.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
+#include "ui/meals/rangee_compteurs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,24 +16,18 @@ VueTransfertRepas::VueTransfertRepas(TFrmTransfertRepas& form, QWidget* parent)
     : QWidget(parent),
       form_(form),
       etat_(new MarqueEtat),
-      repas_(new Compteur(u"Nombre de repas relevés"_s)),
-      nombreAnomalies_(new Compteur(u"Nombre d'anomalies détectées"_s)),
+      comptes_(new RangeeCompteurs),
       anomalies_(new VueGrille(form.Anomalies, u"Anomalies"_s, u"TransfertRepas/Anomalies"_s)),
       recommencer_(BoutonSimple(u"Recommencer le transfert"_s, u"view-refresh"_s)) {
   recommencer_->setMinimumHeight(Theme::Px(48));
   connect(recommencer_, &QPushButton::clicked, this, [this] { form_.btnRecommencerClick(); });
-  auto* comptes = new QHBoxLayout;
-  comptes->setSpacing(Theme::Px(32));
-  comptes->addWidget(repas_);
-  comptes->addWidget(nombreAnomalies_);
-  comptes->addStretch(1);
   auto* colonne = new QVBoxLayout(this);
   const int marge = Theme::Px(16);
   colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
   colonne->setSpacing(Theme::Px(12));
   colonne->addWidget(new TitreEcran(u"Transfert"_s));
   colonne->addWidget(etat_);
-  colonne->addLayout(comptes);
+  colonne->addWidget(comptes_);
   colonne->addWidget(anomalies_, 1);
   colonne->addWidget(recommencer_, 0, Qt::AlignLeft);
   colonne->addStretch(0);
@@ -43,10 +37,8 @@ VueTransfertRepas::VueTransfertRepas(TFrmTransfertRepas& form, QWidget* parent)
 
 void VueTransfertRepas::Actualiser() {
   etat_->Definir(form_.Niveau(), form_.Etat());
-  for (Compteur* compteur : {repas_, nombreAnomalies_}) compteur->setVisible(form_.Analyse());
-  repas_->Definir(form_.NombreRepas());
-  nombreAnomalies_->Definir(form_.NombreAnomalies());
-  nombreAnomalies_->DefinirRole(form_.NombreAnomalies() > 0 ? TRole::Alerte : TRole::Texte);
+  comptes_->setVisible(form_.Analyse());
+  comptes_->Definir(form_.Compteurs());
   anomalies_->setVisible(form_.Anomalies.NombreLignes() > 0);
   recommencer_->setEnabled(form_.PeutRecommencer());
 }

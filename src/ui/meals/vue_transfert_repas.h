@@ -3,9 +3,9 @@
 
 #include "forms/signal.h"
 
-class Compteur;
 class MarqueEtat;
 class QPushButton;
+class RangeeCompteurs;
 class TFrmTransfertRepas;
 class VueGrille;
 
@@ -20,8 +20,7 @@ class VueTransfertRepas : public QWidget {
 
   TFrmTransfertRepas& form_;
   MarqueEtat* etat_;
-  Compteur* repas_;
-  Compteur* nombreAnomalies_;
+  RangeeCompteurs* comptes_;
   VueGrille* anomalies_;
   QPushButton* recommencer_;
   TLien lien_;

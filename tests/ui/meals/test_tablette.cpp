@@ -1,0 +1,147 @@
+// A tablet from its first load to the transfer and back: serving without a server.
+#include <QDir>
+#include <QFile>
+
+#include "core/fichiers.h"
+#include "screens/meals/frm_presence_repas.h"
+#include "ui/meals/cadre_eleve.h"
+#include "ui/meals/repas_essai.h"
+#include "ui/verifier_vue.h"
+
+namespace {
+
+class Tablette : public TRepasEssai {
+ protected:
+  void SetUp() override {
+    TRepasEssai::SetUp();
+    using namespace Essai;
+    Ecole.tarif(FamilleRepas, LundiMardiJeudiVendredi, "11:30", "13:30", Forfait, "2", ScanPresence);
+    Base.Reglages.Ecrire(TRacine::Utilisateur, "DossierPresences", Base.Chemin("presences"));
+    Base.Reglages.Ecrire(TRacine::Utilisateur, "Offline", "1");
+    Base->Deconnecter();
+  }
+  QString Repas() const { return Base.Chemin("presences/presences.txt"); }
+  /// The server is gone, and comes back.
+  void Eteindre() { ASSERT_TRUE(QFile::rename(Base.FichierDeDonnees(), Base.Chemin("eteint"))); }
+  void Allumer() { ASSERT_TRUE(QFile::rename(Base.Chemin("eteint"), Base.FichierDeDonnees())); }
+  void Toucher(const QString& bouton) {
+    for (QAbstractButton* b : Programme.Fenetre().findChildren<QAbstractButton*>())
+      if (b->isVisible() &&
+          (b->text().section('\n', 0, 0) == bouton || b->accessibleName().startsWith(bouton))) {
+        QTest::mouseClick(b, Qt::LeftButton);
+        for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+        return;
+      }
+    ADD_FAILURE() << bouton.toStdString();
+  }
+  QStringList Cadres() {
+    QStringList noms;
+    for (const CadreEleve* cadre : Programme.Fenetre().findChildren<CadreEleve*>())
+      if (cadre->isVisible()) noms += cadre->accessibleName();
+    return noms;
+  }
+  QStringList Presences() {
+    Base->ServerName = Base.FichierDeDonnees();
+    Base->Connecter();
+    const QStringList rangees =
+        Base.Rangees("SELECT ELEVE_ID, TYPE_PRESENCE, DATE_RELEVE FROM PRESENCES ORDER BY 1");
+    Base->Deconnecter();
+    return rangees;
+  }
+};
+
+}  // namespace
+
+TEST_F(Tablette, FromTheFirstLoadToTheTransferAndBack) {
+  Programme.Demarrer();
+  EXPECT_TRUE(Montre("Aucun élève à servir"));
+  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+  EXPECT_TRUE(Montre("Les élèves sont à jour."));
+  Programme.Fermer();
+
+  Eteindre();
+  Programme.Demarrer();
+  EXPECT_TRUE(Montre("lundi 3 octobre 2016"));
+  EXPECT_TRUE(Montre("Aucun repas à transférer"));
+  Toucher("P1");
+  Toucher("P1 A");
+  EXPECT_TRUE(Montre("P1 A  ·  0 sur 2"));
+  Toucher("ALVES Rui");
+  Toucher("BODART Léa");
+  EXPECT_EQ(Cadres(), (QStringList{"ALVES Rui, Repas complet", "BODART Léa, Repas complet"}));
+  EXPECT_EQ(LireFichier(Repas()), "11;2;20161003;120000000;1\n21;2;20161003;120000000;1\n");
+  EXPECT_TRUE(Montre("2 repas à transférer"));
+  Toucher("BODART Léa");
+  EXPECT_EQ(LireFichier(Repas()), "11;2;20161003;120000000;1\n") << "tapped again, it is taken back";
+  auto& recherche = Nomme<QLineEdit>("Rechercher un élève");
+  Aller(recherche);
+  QTest::keyClicks(&recherche, "mar");
+  EXPECT_EQ(Cadres(), QStringList("MARIN Zoé"));
+  Toucher("MARIN Zoé");
+  Toucher("RETOUR");
+  EXPECT_EQ(Cadres(), QStringList());
+
+  // Without a server the transfer leaves all as it is.
+  Programme.Dialogues.Clique("Un problème empêche", "Annuler");
+  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+  EXPECT_TRUE(Montre("Le serveur n'a pas été atteint : la tablette continue hors ligne."));
+  EXPECT_TRUE(Programme.EstOuvert());
+  Activer();
+  Allumer();
+  Cliquer("Recommencer le transfert");
+  EXPECT_TRUE(Montre("2 repas transférés, les élèves sont à jour."));
+  EXPECT_FALSE(QFile::exists(Repas()));
+  Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
+  Toucher("M1");
+  Toucher("M1 B");
+  EXPECT_EQ(Cadres(), QStringList("MARIN Zoé, transféré"));
+  Programme.Fermer();
+  EXPECT_EQ(Presences(), (QStringList{"1;2;2016-10-03", "3;2;2016-10-03"}));
+}
+
+TEST_F(Tablette, TheDateFollowsTheClockAndSaysWhatIsWrongWithIt) {
+  Programme.Demarrer();
+  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+  Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
+  Toucher("M1");
+  Toucher("M1 B");
+  Toucher("MARIN Zoé");
+  const struct {
+    TDateTime Jour;
+    const char* Date;
+    const char* Avertissement;
+  } cas[] = {
+      {EncodeDate(2016, 10, 8), "samedi 8 octobre 2016",
+       "C'est le week-end : vérifiez l'horloge de la tablette."},
+      {EncodeDate(2016, 9, 30), "vendredi 30 septembre 2016",
+       "Cette date vient avant le dernier repas noté (03/10/2016) : vérifiez l'horloge de la tablette."},
+      {EncodeDate(1999, 1, 4), "lundi 4 janvier 1999",
+       "Cette date est hors de l'année scolaire 2016 - 2017 : vérifiez l'horloge de la tablette."},
+      {EncodeDate(2017, 7, 3), "lundi 3 juillet 2017",
+       "Cette date est hors de l'année scolaire 2016 - 2017 : vérifiez l'horloge de la tablette."},
+      {EncodeDate(2098, 10, 6), "lundi 6 octobre 2098",
+       "Cette date est hors de l'année scolaire 2016 - 2017 : vérifiez l'horloge de la tablette."},
+  };
+  for (const auto& [jour, date, avertissement] : cas) {
+    Programme.Horloge.Moment = jour + 0.5;
+    Form<TFrmPresenceRepas>().Horloge();
+    EXPECT_TRUE(Montre(date)) << date;
+    EXPECT_TRUE(Montre(QString::fromUtf8(avertissement))) << avertissement;
+    Toucher("MARIN Zoé");
+    EXPECT_EQ(Cadres(), QStringList("MARIN Zoé, Repas complet")) << "it forbids nothing";
+    Toucher("MARIN Zoé");
+  }
+}
+
+TEST_F(Tablette, EveryTargetIsLargeEnoughForAFinger) {
+  Programme.Demarrer();
+  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+  Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
+  VerifierVue(*Programme.Fenetre().VueCourante());
+  Toucher("P1");
+  Toucher("P1 A");
+  VerifierVue(*Programme.Fenetre().VueCourante());
+  for (const QAbstractButton* bouton : Programme.Fenetre().VueCourante()->findChildren<QAbstractButton*>())
+    if (bouton->isVisible() && !bouton->inherits("QLineEditIconButton"))
+      EXPECT_TRUE(bouton->width() >= 48 && bouton->height() >= 48) << bouton->text().toStdString();
+}

@@ -1,0 +1,322 @@
+// The meal screens of the office and of a teacher, by mouse and keyboard, read back from the database.
+#include <QTreeWidget>
+
+#include "screens/meals/frm_ajout_ticket.h"
+#include "screens/meals/frm_comptabilite.h"
+#include "screens/meals/frm_compte_eleve.h"
+#include "screens/meals/frm_cuisine.h"
+#include "screens/meals/frm_presence_repas.h"
+#include "screens/meals/frm_reservation.h"
+#include "screens/meals/frm_ticket.h"
+#include "support/ecran_essai.h"
+#include "ui/commun/dialogue_base.h"
+#include "ui/documents/vue_apercu.h"
+#include "ui/meals/repas_essai.h"
+#include "ui/verifier_vue.h"
+#include "ui/vues.h"
+
+namespace {
+
+class VuesRepas : public TRepasEssai {
+ protected:
+  void ChercherEleve(const QString& nom) {
+    Touche(Qt::Key_F3);
+    QTest::keyClicks(QApplication::focusWidget(), nom);
+    QCoreApplication::processEvents();
+  }
+  /// A field of the dialog, by its control's name.
+  static QLineEdit& Champ(QWidget& fenetre, const QString& nom) {
+    return *fenetre.findChild<QLineEdit*>(nom);
+  }
+  static void Taper(QWidget& fenetre, const QString& nom, const QString& texte) {
+    QLineEdit& champ = Champ(fenetre, nom);
+    champ.setFocus();
+    champ.selectAll();
+    QTest::keyClicks(&champ, texte);
+  }
+  static bool Dit(const QWidget& fenetre, const QString& texte) { return TextesDe(fenetre).contains(texte); }
+  void Manquant(const QString& jour) {
+    Programme.Dialogues.Fait("Ajouter des tickets à ALVES Rui", [jour](QWidget& fenetre) {
+      auto* manquant = fenetre.findChild<QAbstractButton*>("cbTicketManquant");
+      Taper(fenetre, "edNombre", "7");
+      manquant->setFocus();
+      QTest::keyClick(manquant, Qt::Key_Space);
+      EXPECT_EQ(Champ(fenetre, "edNombre").text(), "1");
+      EXPECT_FALSE(Champ(fenetre, "edNombre").isEnabled());
+      EXPECT_FALSE(BoutonDe(fenetre, "Comptant")->isEnabled());
+      EXPECT_TRUE(Dit(fenetre, "Date d'utilisation"));
+      Taper(fenetre, "dtDate", jour);
+      ::Cliquer(fenetre, "Valider");
+    });
+    Cliquer("Ajouter des tickets");
+    Activer();
+  }
+};
+
+}  // namespace
+
+TEST_F(VuesRepas, TicketsAreSoldIntoTheRedAndSettled) {
+  Demarrer(TGestionnaire::btnTicketClick);
+  Programme.Dialogues.Attend("Veuillez sélectionner un élève dans la liste.");
+  Cliquer("Ajouter des tickets");
+  ChercherEleve("ALVES");
+  const auto eleves = [this] { return Lignes(Nomme<VueGrille>("Élèves de la classe")); };
+  EXPECT_EQ(eleves(), (QStringList{"ALVES Rui|0|sans ticket", "BODART Léa|0|sans ticket"}));
+  Manquant("03/10/2016");
+  Manquant("04/10/2016");
+  EXPECT_EQ(eleves()[0], "ALVES Rui|-2|en négatif");
+  EXPECT_TRUE(Montre("1 élève(s) en négatif"));
+
+  Programme.Dialogues.Fait("Ajouter des tickets à ALVES Rui", [](QWidget& fenetre) {
+    EXPECT_EQ(Champ(fenetre, "edPrix").text(), "2,60");
+    for (const char* nombre : {"0", "-1", "abc", "1000000000", ""}) {
+      Taper(fenetre, "edNombre", "x");  // what stood there leaves
+      Champ(fenetre, "edNombre").clear();
+      Taper(fenetre, "edNombre", nombre);
+      ::Cliquer(fenetre, "Valider");
+      EXPECT_TRUE(fenetre.isVisible() && Dit(fenetre, "de 1 à 999")) << nombre;
+    }
+    Taper(fenetre, "edNombre", "5");
+    EXPECT_TRUE(Dit(fenetre, "2 tickets manquants seront réglés."));
+    Taper(fenetre, "edPrix", "trois");
+    ::Cliquer(fenetre, "Valider");
+    EXPECT_TRUE(fenetre.isVisible());
+    Taper(fenetre, "edPrix", "2,5");
+    QTest::mouseClick(BoutonDe(fenetre, "Comptant"), Qt::LeftButton, {}, {8, 8});
+    ::Cliquer(fenetre, "Valider");
+  });
+  Cliquer("Ajouter des tickets");
+  Activer();
+  EXPECT_EQ(eleves()[0], "ALVES Rui|3|");
+  const QString libre = "1;2016-10-03;-;2.5000;2";
+  EXPECT_EQ(Tickets(), (QStringList{"1;2016-10-03;2016-10-03;2.5000;2", "1;2016-10-03;2016-10-04;2.5000;2",
+                                    libre, libre, libre}));
+
+  // One is handed on, one deleted; what stands above it counts down.
+  QTest::keyClick(&Nomme<VueGrille>("Élèves de la classe"), Qt::Key_Return);
+  auto& detail = Nomme<VueGrille>("Tickets de l'élève");
+  EXPECT_EQ(Lignes(detail).size(), 6);
+  EXPECT_EQ(Lignes(detail)[0], "03/10/2016||5");
+  Programme.Dialogues.Attend("Veuillez sélectionner un ticket dans la liste.");
+  Cliquer("Transférer un ticket");
+  detail.Grille().ChoisirLigne(5);
+  Programme.Dialogues.Fait("Transférer un ticket", [](QWidget& fenetre) {
+    auto* filtre = fenetre.findChild<QLineEdit*>();
+    QTest::keyClicks(filtre, "bod");
+    auto* liste = fenetre.findChild<VueGrille*>();
+    liste->setFocus();
+    QTest::keyClick(liste, Qt::Key_Down);
+    QTest::keyClick(liste, Qt::Key_Home);
+    EXPECT_TRUE(Dit(fenetre, "Classe de l'élève : P1 A"));
+    ::Cliquer(fenetre, "Valider");
+  });
+  Cliquer("Transférer un ticket");
+  Activer();
+  EXPECT_EQ(Tickets().count("2;2016-10-03;-;2.5000;2"), 1);
+  detail.Grille().ChoisirLigne(3);
+  Programme.Dialogues.Repond("Confirmez-vous la suppression définitive de ce ticket ?", true);
+  Cliquer("Supprimer un ticket");
+  EXPECT_EQ(Lignes(detail)[0], "03/10/2016||3");
+  EXPECT_EQ(Tickets().size(), 4);
+}
+
+TEST_F(VuesRepas, AClassIsOrderedByKeyboardIntoTheLockAndOut) {
+  Demarrer(TGestionnaire::btnReservationClick);
+  ChoisirClasse(2);
+  auto& grille = Nomme<QTableWidget>("Commandes de la classe");
+  Aller(grille);
+  grille.setCurrentCell(0, 1);
+  Frapper("D");
+  EXPECT_FALSE(Nomme<QComboBox>("Classe").isEnabled()) << "an incomplete order holds class and day";
+  Programme.Dialogues.Attend("Attention le choix du sandwich est incomplet !");
+  Touche(Qt::Key_Down);
+  EXPECT_EQ(grille.currentRow(), 0);
+  Aller(grille);
+  Frapper("JB");
+  EXPECT_TRUE(Nomme<QComboBox>("Classe").isEnabled());
+  Touche(Qt::Key_Down);
+  EXPECT_EQ(grille.currentRow(), 1);
+  Frapper(" ");  // the column in hand is that of the meal
+  EXPECT_EQ(grille.item(1, 1)->text(), "Repas");
+  EXPECT_TRUE(Montre("1 ticket manquant"));
+  EXPECT_EQ(Commandes(), (QStringList{"1;2016-10-03;01010010", "2;2016-10-03;10000000"}));
+  Frapper("R");
+  EXPECT_EQ(Commandes()[1], "2;2016-10-03;00000000");
+  EXPECT_EQ(Tickets(), QStringList("1;-;2016-10-03;2.6000;0"));
+  Frapper("R");
+
+  Touche(Qt::Key_Right, Qt::AltModifier);
+  EXPECT_TRUE(Montre("mardi 4 octobre"));
+  Cliquer("Comme la veille");
+  EXPECT_EQ(Commandes().mid(2), (QStringList{"1;2016-10-04;01010010", "2;2016-10-04;10000000"}));
+  Cliquer("Le mois");
+  EXPECT_TRUE(Lignes(Nomme<VueGrille>("Commandes du mois"))[1].startsWith("BODART Léa|R|R||"));
+}
+
+TEST_F(VuesRepas, BothKitchens) {
+  const char* const jours[] = {"1', '2016-10-03', 1, 0", "2', '2016-10-03', 0, 1"};
+  for (const char* jour : jours)
+    Base.Sql(QString("INSERT INTO COMMANDE (COMMANDE_ID, ELEVE_ID, DATE_COMMANDE, FLG_REPAS, FLG_DAGO, "
+                     "FLG_JAMBON) VALUES ('%1', '%2, 1)")
+                 .arg(jour[0])
+                 .arg(jour));
+  const auto arbre = [this] {
+    QStringList textes;
+    auto& vue = Nomme<QTreeWidget>("Commandes par classe");
+    for (QTreeWidgetItemIterator i(&vue); *i != nullptr; ++i) textes += (*i)->text(0);
+    return textes.join('|');
+  };
+  Demarrer(TGestionnaire::btnClick);
+  EXPECT_EQ(arbre(), "P1 A|Repas Complet;1|Sandwich");
+  Programme.Ouvrir(TGestionnaire::btnCuisineClick);
+  EXPECT_EQ(arbre(), "P1 A|Repas Complet;1|Dago;1");
+  EXPECT_TRUE(Montre("Récapitulatif du lundi 03/10"));
+  EXPECT_TRUE(Montre("1 commande incomplète : elle est dans les totaux et dans aucune variété."));
+
+  // The sheet is printed; what another workstation changes afterwards is told, also to a screen opened anew.
+  Programme.Dialogues
+      .Fait("Assistant d'impression",
+            [](QWidget& fenetre) {
+              QTest::mouseClick(dynamic_cast<DialogueBase&>(fenetre).Principal(), Qt::LeftButton);
+            })
+      .Fait("Aperçu : Fiche de préparation", [](QWidget& fenetre) {
+        EXPECT_NE(dynamic_cast<VueApercu*>(&fenetre), nullptr);
+        fenetre.close();
+      });
+  Touche(Qt::Key_F8);
+  Activer();
+  Base.Sql("UPDATE COMMANDE SET FLG_REPAS = 0, FLG_SANDWICH = 1 WHERE ELEVE_ID = 1");
+  Touche(Qt::Key_R, Qt::ControlModifier);
+  Programme.Ouvrir(TGestionnaire::btnReservationClick);
+  Programme.Ouvrir(TGestionnaire::btnCuisineClick);
+  EXPECT_EQ(arbre(), "P1 A|Sandwichs;1|Dago;1");
+  EXPECT_TRUE(
+      Montre("Depuis l'impression du 03/10/2016 à 07h05 : P1 A, Repas Complet : 1 → 0  ·  "
+             "P1 A, Sandwichs : 0 → 1  ·  Sandwichs jambon : 0 → 1"));
+  Touche(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(arbre(), "");
+  EXPECT_TRUE(Montre("Préparations du vendredi 30 septembre"));
+}
+
+TEST_F(VuesRepas, CashIsCountedCorrectedAndCancelled) {
+  Demarrer(TGestionnaire::btnCompteEleveClick);
+  ChoisirClasse(2);
+  auto& comptes = Nomme<VueGrille>("Comptes des élèves");
+  EXPECT_EQ(Lignes(comptes), (QStringList{"ALVES Rui|0,00 €", "BODART Léa|0,00 €"}));
+  EXPECT_TRUE(Montre("Total reçu ce jour : 0,00 €"));
+  const auto compter = [this](const QString& coupure, const QString& nombre) {
+    auto& champ = Nomme<QLineEdit>("Nombre : " + coupure);
+    Aller(champ);
+    champ.selectAll();
+    QTest::keyClicks(&champ, nombre);
+  };
+  Cliquer("Ajouter un paiement");
+  EXPECT_EQ(QApplication::focusWidget(), &Nomme<QLineEdit>("Nombre : 100 euros"));
+  EXPECT_EQ(BoutonDe(Programme.Fenetre(), "Valider"), nullptr) << "nothing is counted yet";
+  compter("100 euros", "beaucoup");
+  compter("2 euros", "1");
+  Cliquer("2 euros");  // one more
+  compter("50 cents", "1");
+  EXPECT_TRUE(Montre("4,50 €"));
+  Touche(Qt::Key_Return);
+  EXPECT_EQ(Lignes(comptes)[0], "ALVES Rui|4,50 €  (+4,50)");
+  const auto rangees = [this] {
+    return Base.Rangees(
+        "SELECT P.ELEVE_ID, P.MONTANT, P.TYPE_PAIEMENT, D.TOT_2_EUR, D.TOT_50_CNT FROM REPAS_PAIEMENT P JOIN "
+        "DETAIL_PAIEMENT_LIQUIDE D ON D.REPAS_PAIEMENT_ID = P.REPAS_PAIEMENT_ID");
+  };
+  EXPECT_EQ(rangees(), QStringList("1;4.5000;0;2;1"));
+
+  Cliquer("Modifier le paiement");
+  EXPECT_EQ(Nomme<QLineEdit>("Nombre : 2 euros").text(), "2");
+  compter("2 euros", "9");
+  Touche(Qt::Key_Escape);
+  EXPECT_EQ(rangees(), QStringList("1;4.5000;0;2;1")) << "given up";
+  EXPECT_TRUE(comptes.isEnabled());
+  Cliquer("Modifier le paiement");
+  compter("2 euros", "3");
+  Cliquer("Valider");
+  EXPECT_EQ(rangees(), QStringList("1;6.5000;0;3;1")) << "it takes the place of the first";
+
+  Programme.Horloge.Moment += 1.0;
+  ChoisirClasse(2);
+  EXPECT_EQ(Lignes(comptes)[0], "ALVES Rui|6,50 €");
+}
+
+TEST_F(VuesRepas, ATeacherOrdersForToday) {
+  Base.Reglages.Ecrire(TRacine::Utilisateur, "Mode", "1");
+  Programme.Demarrer();
+  ChoisirClasse(1);
+  for (QAbstractButton* pas : Programme.Fenetre().findChildren<QAbstractButton*>())
+    EXPECT_FALSE(pas->accessibleName().startsWith("Jour ") && pas->isVisible()) << "today only";
+  auto& grille = Nomme<QTableWidget>("Commandes de la classe");
+  Aller(grille);
+  grille.setCurrentCell(0, 0);
+  Frapper("R");
+  EXPECT_EQ(Commandes(), QStringList("3;2016-10-03;10000000"));
+  EXPECT_EQ(Tickets(), QStringList("3;-;2016-10-03;2.2000;0"));
+}
+
+TEST_F(VuesRepas, SalesAreCountedDayByDay) {
+  Ecole.Ajouter("TICKET", "TICKET_ID, ELEVE_ID, DATE_ACHAT, VALEUR, TYPE_PAIEMENT",
+                {"1", "'2016-10-03'", "2.60", "1"});
+  Ecole.Ajouter("TICKET", "TICKET_ID, ELEVE_ID, DATE_ACHAT, VALEUR, TYPE_PAIEMENT",
+                {"3", "'2016-09-30'", "2.20", "1"});
+  Demarrer(TGestionnaire::btnComptabiliteClick);
+  auto& ventes = Nomme<VueGrille>("Versement sur le compte");
+  EXPECT_EQ(Lignes(ventes), (QStringList{"03/10/2016|0|2,20 €|0,00 €|1|2,60 €|2,60 €|2,60 €",
+                                         "ALVES Rui||||1|2,60 €|2,60 €|"}));
+  auto& debut = Nomme<QLineEdit>("Début de la période");
+  Aller(debut);
+  debut.selectAll();
+  QTest::keyClicks(&debut, "01/09/2016");
+  Touche(Qt::Key_Return);
+  EXPECT_EQ(Lignes(ventes)[0], "30/09/2016|1|2,20 €|2,20 €|0|2,60 €|0,00 €|2,20 €");
+}
+
+namespace {
+
+/// A screen by itself, in its view.
+struct VuesSeules : testing::Test {
+  VuesSeules() {
+    for (int i = 0; i < 3; ++i) ecole.unEleve().enClasse("P1", "A");
+    ecran = std::make_unique<TEcranEssai>(base);
+    Globals.ClasseCourante = &Globals.Eleves->GetClasse(0);
+  }
+  template <class Form>
+  void Verifier(const std::function<void(Form&)>& preparer = {}) {
+    Partout([&] {
+      Form form(ecran->Contexte);
+      form.Montrer();
+      if (preparer) preparer(form);
+      const std::unique_ptr<QWidget> vue(CreerVue(form, nullptr));
+      VerifierVue(*vue);
+    });
+  }
+  TBaseEssai base;
+  TEcoleEssai ecole{base};
+  std::unique_ptr<TEcranEssai> ecran;
+};
+
+}  // namespace
+
+TEST_F(VuesSeules, NothingIsOutOfReachOfTheKeyboardNorCut) {
+  Verifier<TFrmTicket>();
+  Verifier<TFrmReservation>([](TFrmReservation& form) { form.cmbClasseChange(1); });
+  Verifier<TFrmReservation2>([](TFrmReservation2& form) { form.cmbClasseChange(1); });
+  Verifier<TFrmCuisine>();
+  Verifier<TFrmCuisine2>();
+  Verifier<TFrmComptabilite>();
+  Verifier<TFrmCompteEleve>([](TFrmCompteEleve& form) {
+    form.cmbClasseChange(1);
+    form.btnAjouteArgentClick();
+    form.btnCoupureClick(0);
+  });
+  Verifier<TFrmPresenceRepas>();
+  Partout([this] {
+    TFrmAjoutTicket form(ecran->Contexte, *Globals.Eleves->TrouverParId(1), {});
+    form.Montrer();
+    const std::unique_ptr<QWidget> vue(CreerVue(form, nullptr));
+    VerifierVue(*vue);
+  });
+}
