@@ -23,6 +23,7 @@
 #include "screens/meals/frm_presence_repas.h"
 #include "screens/meals/frm_reservation.h"
 #include "screens/meals/frm_ticket.h"
+#include "screens/payments/frm_virement.h"
 #include "screens/pupils/frm_import.h"
 #include "ui/commun/dialogue_base.h"
 #include "ui/commun/theme.h"
@@ -44,6 +45,7 @@ class THorlogeFixe : public THorloge {
 struct TSujet {
   QString Registre;   ///< register file, first layout
   QString Presences;  ///< scanner file
+  QString Releve;     ///< bank file, layout of the sample school
   QString Dossier;    ///< where the pictures go
 };
 
@@ -79,6 +81,7 @@ class Photographe : public QObject {
     programme_.Main.Executer(AdvGlowButton2Click);
     Assistant();
     Repas();
+    Virements();
     Importation();
     Presences();
   }
@@ -313,6 +316,63 @@ class Photographe : public QObject {
     Prendre(programme_.Fenetre, u"presences-scanner"_s);
   }
 
+  /// The three pages, the attribution of what is unknown, and the accounts that the record learns from it.
+  void Virements() {
+    programme_.Main.Executer(TGestionnaire::btnVirementClick);
+    auto* form = dynamic_cast<TFrmVirement*>(programme_.Main.Panneau.Courante());
+    auto* pages = programme_.Fenetre.VueCourante()->findChild<QTabWidget*>();
+    if (form == nullptr || pages == nullptr) throw Exception(u"Les virements ne s'ouvrent pas."_s);
+    Suivre({Fichier(QFileInfo(sujet_.Releve).absoluteFilePath())});
+    Bouton(programme_.Fenetre, u"Etape n°1 : Importer vos virements"_s)->click();
+    Attendre(50);
+    Prendre(programme_.Fenetre, u"virements-importation"_s);
+    bool pris = false;
+    const TLien lien = programme_.Dialogues.SurProgression.Suivre([&](int fait, int total, const QString&) {
+      if (pris || total == 0 || 2 * fait < total) return;
+      pris = true;
+      Prendre(programme_.Fenetre, u"virements-progression"_s);
+    });
+    form->btnEtape2Click();
+    Attendre(50);
+    Prendre(programme_.Fenetre, u"virements-memorises"_s);
+    pages->setCurrentIndex(1);
+    Attendre(50);
+    Prendre(programme_.Fenetre, u"virements-historique"_s);
+    form->btnComptabiliseClick();  // the unknown ones
+    form->Historique.ChoisirLigne(0);
+    Suivre({[this](QWidget& fenetre) {
+      auto* nom = fenetre.findChild<QLineEdit*>();
+      for (int fois = 0; fois < 2; ++fois) {  // two payers for one pupil
+        emit nom->textEdited(u"LAMBERT"_s);
+        Attendre(50);
+        if (fois == 0) Prendre(fenetre, u"attribution-virement"_s);
+        dynamic_cast<DialogueBase&>(fenetre).Principal()->click();
+      }
+      Bouton(fenetre, u"Précédent"_s)->click();
+      Attendre(50);
+      Prendre(fenetre, u"attribution-comptabilise"_s);
+      fenetre.close();
+      return true;
+    }});
+    form->grdHistoriqueDblClick();
+    pages->setCurrentIndex(2);
+    Attendre(50);
+    Prendre(programme_.Fenetre, u"virements-releve"_s);
+    Comptes();
+  }
+
+  /// The record of the pupil to whom the movements went.
+  void Comptes() {
+    Signaletique();
+    Suivre({[this](QWidget& fenetre) {
+      Prendre(fenetre, u"attribution-compte"_s);
+      fenetre.close();
+      return true;
+    }});
+    Bouton(programme_.Fenetre, u"…"_s)->click();
+    Attendre(300);
+  }
+
   Programme& programme_;
   TSujet sujet_;
   QString suffixe_;
@@ -414,12 +474,12 @@ int main(int argc, char** argv) {
   QCommandLineParser options;
   options.process(application);
   const QStringList arguments = options.positionalArguments();
-  if (arguments.size() != 4) {
-    QTextStream(stderr) << "Usage : calpenne-captures BASE REGISTRE PRESENCES DOSSIER\n";
+  if (arguments.size() != 5) {
+    QTextStream(stderr) << "Usage : calpenne-captures BASE REGISTRE PRESENCES RELEVE DOSSIER\n";
     return 2;
   }
   try {
-    Executer(application, arguments[0], {arguments[1], arguments[2], arguments[3]});
+    Executer(application, arguments[0], {arguments[1], arguments[2], arguments[3], arguments[4]});
     return 0;
   } catch (const Exception& e) {
     QTextStream(stderr) << e.Message << '\n';

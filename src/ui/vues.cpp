@@ -21,6 +21,9 @@
 #include "screens/meals/frm_transfert_ticket.h"
 #include "screens/parametres/frm_mon_ecole.h"
 #include "screens/parametres/frm_parametres.h"
+#include "screens/payments/frm_attribution_compte.h"
+#include "screens/payments/frm_attribution_virement.h"
+#include "screens/payments/frm_virement.h"
 #include "screens/pupils/frm_import.h"
 #include "screens/pupils/frm_signaletique.h"
 #include "screens/services/frm_liste_frais.h"
@@ -41,6 +44,9 @@
 #include "ui/meals/vue_transfert_ticket.h"
 #include "ui/parametres/vue_mon_ecole.h"
 #include "ui/parametres/vue_parametres.h"
+#include "ui/payments/vue_attribution_compte.h"
+#include "ui/payments/vue_attribution_virement.h"
+#include "ui/payments/vue_virement.h"
 #include "ui/pupils/vue_import.h"
 #include "ui/pupils/vue_signaletique.h"
 #include "ui/services/vue_liste_frais.h"
@@ -71,6 +77,9 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
       VueDe<TFrmSignaletique, VueSignaletique>(),
       VueDe<TfrmPresences, VuePresences>(),
       VueDe<TFrmReleveCalendrier, VueReleveCalendrier>(),
+      VueDe<TFrmVirement, VueVirement>(),
+      VueDe<TFrmAttributionVirement, VueAttributionVirement>(),
+      VueDe<TFrmAttributionCompte, VueAttributionCompte>(),
       VueDe<TFrmReservation, VueReservation>(),
       VueDe<TFrmReservation2, VueReservation>(),
       VueDe<TFrmCuisine, VueCuisine>(),

@@ -88,5 +88,8 @@ bool CrediterEleve(const TAttribution& attribution, const TExtrait& extrait, int
   nouveau->TypeFamilleFrais = attribution.Famille;
   nouveau->GroupeFraisId = groupeFraisId;
   Memoriser(*frais, std::move(nouveau));
+  // What a group has received is read once: a payment to it is another list.
+  if (groupeFraisId > 0)
+    Globals.GroupesFrais = std::make_unique<TGroupesFrais>(Globals.Eleves->BaseDeDonnees());
   return true;
 }

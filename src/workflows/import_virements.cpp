@@ -154,6 +154,10 @@ void TImportVirements::ReconnaitreProches() {
   }
 }
 
+int TImportVirements::NombreAMemoriser() const {
+  return static_cast<int>(std::ranges::count_if(rangees_, AMemoriser));
+}
+
 int TImportVirements::NombreDejaImportes() const {
   return static_cast<int>(std::ranges::count_if(rangees_, [](const TRangeeVirement& rangee) {
     return rangee.Etat == TEtatMouvement::DejaImporte && !rangee.Coche;
@@ -163,6 +167,10 @@ int TImportVirements::NombreDejaImportes() const {
 void TImportVirements::Cocher(int rangee, bool coche) {
   TRangeeVirement& choisie = rangees_.at(static_cast<std::size_t>(rangee));
   choisie.Coche = coche && choisie.Etat == TEtatMouvement::DejaImporte;
+}
+
+void TImportVirements::Oublier(const TExtrait& extrait) {
+  std::erase_if(rangees_, [&](const TRangeeVirement& rangee) { return rangee.Extrait == &extrait; });
 }
 
 void TImportVirements::Situer(TRangeeVirement& rangee) {
@@ -210,8 +218,10 @@ void TImportVirements::Memoriser(TProgression& progression) {
     fin = premier + 1;
     for (std::size_t i = premier; i < fin; ++i) fin = std::max(fin, derniers[i] + 1);
     MemoriserEnsemble(std::span(rangees_).subspan(premier, fin - premier));
-    for (std::size_t i = premier; i < fin; ++i)
+    for (std::size_t i = premier; i < fin; ++i) {
       progression.Avancer(static_cast<int>(i) + 1, rangees_[i].Lu.Donneur);
+      controleur_.Dialogues().TraiterEvenements();
+    }
   }
 }
 
@@ -242,6 +252,7 @@ void TImportVirements::Crediter(TProgression& progression) {
   for (const TRangeeVirement& rangee : rangees_) {
     CrediterRangee(rangee, compacte, bilan);
     progression.Avancer(++fait, rangee.Lu.Donneur);
+    controleur_.Dialogues().TraiterEvenements();
   }
   statut_ +=
       u"\n\n%1 mouvements ont été comptabilisés.\n%2 mouvements sont inconnus."_s.arg(bilan.Comptabilises)

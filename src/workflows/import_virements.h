@@ -48,10 +48,14 @@ class TImportVirements {
   /// read; what was stored and credited until then stays.
   void Etape2();
 
+  /// Rows that step 2 will store.
+  int NombreAMemoriser() const;
   /// Rows that are perhaps imported already, and not to be stored.
   int NombreDejaImportes() const;
   /// Ticks such a row, so that step 2 stores it, or takes the tick away.
   void Cocher(int rangee, bool coche);
+  /// Leaves out the rows of a stored movement that is about to leave the year.
+  void Oublier(const TExtrait& extrait);
 
   const std::vector<TRangeeVirement>& Rangees() const { return rangees_; }
   /// The row that ended the reading.

@@ -2,8 +2,12 @@
 
 #include <QTemporaryDir>
 
+#include "core/conversions.h"
 #include "demo/chargement.h"
+#include "demo/fichiers.h"
+#include "demo/releve_banque.h"
 #include "demo/terminal.h"
+#include "documents/factures.h"
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
 #include "workflows/import_virements.h"
@@ -96,4 +100,31 @@ TEST(Chargement, ThePaymentsOfTheYearInEveryLayout) {
     EXPECT_GE(import.Rangees().size(), static_cast<std::size_t>(extraits) - 1) << "layout 3 has no debit";
   }
   EXPECT_GT(extraits, 20);
+}
+
+TEST(Chargement, WhoPaysTheLastInvoiceOwesNothing) {
+  TEcoleChargee ecole;
+  const TPeriode juin = BornesMois(6, 2016);
+  TDemandeDocument demande{{}, {2016, juin.Premier, juin.Dernier}, EncodeDate(2017, 7, 5)};
+  for (TEleve& eleve : *Globals.Eleves) demande.Eleves.push_back(&eleve);
+  const TResultat factures = Factures(ContexteDesGlobals(ecole.Horloge), demande);
+  std::vector<TMouvementBanque> versements;
+  int famille = 0;
+  for (const TNoeudRapport& facture : factures.Rapports.at(0).Arbre()) {
+    const Currency total = StrToCurr(facture.Valeurs.Valeur(u"SoldeFacture"));
+    const QString communication = facture.Valeurs.Valeur(u"Communication").section(u" : "_s, 1);
+    if (total > Currency() && ++famille % 7 != 0)  // one in seven does not pay
+      versements.push_back({QDate(2017, 7, 3), u"Famille"_s, u"BE71 0961 2345 6769"_s, total, communication});
+  }
+  ASSERT_GT(versements.size(), 20U);
+  EcrireFichier(ecole.Dossier.filePath(u"juillet.csv"_s), TexteReleve(versements, u"BE68"_s));
+  TImportVirements import(ecole.Controleur);
+  ASSERT_TRUE(import.Etape1(ecole.Dossier.filePath(u"juillet.csv"_s)));
+  import.Etape2();
+  for (const TRangeeVirement& rangee : import.Rangees()) {
+    ASSERT_EQ(rangee.Etat, TEtatMouvement::Comptabilise) << rangee.Lu.Communication.toStdString();
+    const TEleve& eleve = *Globals.Eleves->TrouverParId(rangee.EleveId);
+    if (eleve.PaiementsAnnee() == Currency())  // a month settled at the office is billed again
+      EXPECT_EQ(eleve.Solde(true, true).TronqueAuCent(), Currency()) << eleve.NomComplet().toStdString();
+  }
 }

@@ -109,6 +109,9 @@ TEST_F(FrmMain, ACommandOpensItsScreenWithItsTools) {
   EXPECT_EQ(journal, (QStringList{"quitte", "6027", "quitte", "6026", "quitte", "6024", "quitte", "6025"}));
   Main.Executer(TGestionnaire::AdvGlowButton2Click);
   EXPECT_EQ(Main.Panneau.Courante(), fiche) << "it was only hidden";
+
+  for (TCommandePrincipale& commande : Main.Commandes)
+    if (commande.Gestionnaire == TGestionnaire::btnVirementClick) commande.Ecran.reset();
   Main.Executer(TGestionnaire::btnVirementClick);
   EXPECT_EQ(Main.Panneau.Courante(), fiche) << "a screen that is not there says so and opens nothing";
   EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Alerte);

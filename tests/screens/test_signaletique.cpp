@@ -5,6 +5,7 @@
 #include "core/exceptions.h"
 #include "documents/catalogue.h"
 #include "screens/attendance/frm_ajout_releve.h"
+#include "screens/payments/frm_attribution_compte.h"
 #include "screens/payments/frm_date_paiement.h"
 
 using TSignaletique = TSignaletiqueEssai;
@@ -257,4 +258,43 @@ TEST_F(TSignaletique, LaPhotoEstDroiteEtNiTropGrandeNiUnTexte) {
        {immense.fileName(), base.Fichier(u"texte.jpg"_s, "un texte"), base.Chemin({}), QString()})
     EXPECT_THROW(fiche.PrendrePhoto(mauvais), Exception) << mauvais.toStdString();
   EXPECT_FALSE(fiche.Photo().isNull());
+}
+
+TEST_F(TSignaletique, LeCompteDesVirements) {
+  Ouvrir(rose);
+  const auto compte = [this] {
+    return base.Rangees(u"SELECT NUM_COMPTE, NOM_TITULAIRE_COMPTE FROM ELEVES WHERE ELEVE_ID = "_s +
+                        QString::number(rose.Id))[0];
+  };
+  const auto paye = [this](const QString& numero, const QString& donneur, int annee = 2016) {
+    const int extrait = ecole.Ajouter(
+        u"EXTRAITS"_s,
+        u"EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, NUM_CPT_DONNEUR, ANNEE_SCOLAIRE"_s,
+        {u'\'' + donneur + u'\'', u"'2016-10-03'"_s, u"1"_s, u"''"_s, u'\'' + numero + u'\'', u"2016"_s});
+    ecole.Ajouter(u"FRAIS_ELEVE"_s, u"FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID"_s,
+                  {QString::number(rose.Id), QString::number(annee), QString::number(extrait)});
+  };
+  paye(u"BE00"_s, u"AVANT"_s, 2015);
+  base.Dialogues.Attend(u"Aucun numéro de compte n'a été trouvé pour cet élève"_s);
+  ecran->AdvGlowButton1Click();
+  paye(u"BE11"_s, u"PAPA"_s);
+  ecran->AdvGlowButton1Click();
+  EXPECT_EQ(compte(), u"BE11;PAPA") << "the only one";
+  EXPECT_EQ(ecran->Champs().Texte(ecran->Champs().Indice(u"edNumCompte"_s)), u"BE11");
+
+  paye(u"BE11"_s, u"MAMAN"_s);
+  bool choisit = false;
+  monde.SurModale = [&](TForm& form) {
+    auto& choix = dynamic_cast<TFrmAttributionCompte&>(form);
+    ASSERT_EQ(choix.Comptes.NombreLignes(), 2) << "two payers of one account";
+    base.Dialogues.Attend(u"Veuillez sélectionner un numéro de compte"_s);
+    EXPECT_FALSE(choix.btnSelectionnerClick());
+    choix.Comptes.ChoisirLigne(0);
+    if (choisit) EXPECT_TRUE(choix.btnSelectionnerClick());
+  };
+  ecran->AdvGlowButton1Click();
+  EXPECT_EQ(compte(), u"BE11;PAPA") << "given up";
+  choisit = true;
+  ecran->AdvGlowButton1Click();
+  EXPECT_EQ(compte(), u"BE11;MAMAN");
 }

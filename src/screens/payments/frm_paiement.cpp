@@ -15,8 +15,6 @@ QStringList Mois() {
   return noms;
 }
 
-QStringList Familles() { return {u"Général"_s, u"Frais"_s, u"Services"_s}; }
-
 QStringList Groupes() {
   QStringList noms{QString()};
   for (const TGroupeFrais& groupe : *Globals.GroupesFrais) noms += groupe.Libelle;
@@ -47,13 +45,15 @@ TTableChamps<T> Table() {
        Membre(&T::Montant)},
       {{.Nom = u"cmbMois"_s, .Libelle = u"Imputé au mois de:"_s, .Genre = Choix, .Choix = Mois},
        Membre(&T::IndexMois)},
-      {{.Nom = u"rbTP"_s, .Libelle = u"Pour:"_s, .Genre = Choix, .Boutons = true, .Choix = Familles},
+      {{.Nom = u"rbTP"_s, .Libelle = u"Pour:"_s, .Genre = Choix, .Boutons = true, .Choix = FamillesPaiement},
        Membre(&T::Famille)},
       {{.Nom = u"cmbGroupePaiement"_s, .Libelle = u"Groupe de paiement:"_s, .Genre = Choix, .Choix = Groupes},
        Membre(&T::IndexGroupe)}};
 }
 
 }  // namespace
+
+QStringList FamillesPaiement() { return {u"Général"_s, u"Frais"_s, u"Services"_s}; }
 
 TFrmPaiement::TFrmPaiement(int indexMois) : TFrmDialogueDe(u"Ajout d'un paiement"_s, Table()) {
   Saisi.IndexMois = indexMois;

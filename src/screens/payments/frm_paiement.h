@@ -3,6 +3,9 @@
 
 struct TFraisEleve;
 
+/// "Général", "Frais", "Services", as they are stored.
+QStringList FamillesPaiement();
+
 /// What the dialog holds.
 struct TPaiementSaisi {
   QString Libelle;

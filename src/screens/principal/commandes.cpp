@@ -10,6 +10,7 @@
 #include "screens/meals/frm_transfert_repas.h"
 #include "screens/parametres/frm_mon_ecole.h"
 #include "screens/parametres/frm_parametres.h"
+#include "screens/payments/frm_virement.h"
 #include "screens/pupils/frm_import.h"
 #include "screens/pupils/frm_signaletique.h"
 #include "screens/services/frm_activites.h"
@@ -32,7 +33,7 @@ std::vector<TCommandePrincipale> CommandesPrincipales() {
        Ecran<TFrmSignaletique>(TRemplacement::Cache)},
       {AdvGlowButton7Click, PgEleve, T(u"&Statistiques"), T(u"office-chart-bar"), 6, false, {}},
       {AdvGlowButton1Click, PgEleve, T(u"&Présences"), T(u"view-barcode"), {}, false, Ecran<TfrmPresences>()},
-      {btnVirementClick, PgEleve, T(u"&Virements"), T(u"view-bank"), {}, false, {}},
+      {btnVirementClick, PgEleve, T(u"&Virements"), T(u"view-bank"), {}, false, Ecran<TFrmVirement>()},
 
       {btnCompteEleveClick, pgRepasNew, T(u"C&omptes"), T(u"wallet-open"), 2, false,
        Ecran<TFrmCompteEleve>()},

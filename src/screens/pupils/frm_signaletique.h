@@ -63,6 +63,9 @@ class TFrmSignaletique : public TForm {
   const std::vector<TActiviteSuivie>& Activites() const { return activites_; }
   void cbJourActiviteClick(int activite, int jour, bool coche);
 
+  /// The account that pays for the pupil, as the bank's movements of the year show it.
+  void AdvGlowButton1Click();
+
   // Photo.
   /// "Cliquez ici pour ajouter une photo"
   void Image1Click();
@@ -120,6 +123,8 @@ class TFrmSignaletique : public TForm {
   /// False, with the message, without a pupil.
   bool ExigeEleve();
   void EnregistrerEleve(const TChamp& champ);
+  void SauverEleve(TEleve& eleve);
+  void DonnerCompte(TEleve& eleve, const QString& numero, const QString& titulaire);
   /// Stores a collection and says what was done. False after the message of the database, or when another
   /// workstation has deleted the row; memory is then what the table holds.
   template <class T>

@@ -6,6 +6,7 @@
 #include "core/formats.h"
 #include "documents/periode.h"
 #include "pupils/eleves.h"
+#include "screens/payments/frm_attribution_compte.h"
 #include "screens/pupils/frm_signaletique.h"
 
 using namespace Qt::StringLiterals;
@@ -53,16 +54,19 @@ bool TFrmSignaletique::ExigeEleve() {
 }
 
 void TFrmSignaletique::EnregistrerEleve(const TChamp& champ) {
-  TEleve& eleve = *champs_.Objet();
+  SauverEleve(*champs_.Objet());
+  QString quoi = champ.Libelle;
+  while (quoi.endsWith(u':') || quoi.endsWith(u' ')) quoi.chop(1);
+  contexte_.Principal.Etat(TNiveauEtat::Succes, QString(quoi % u" : enregistré pour " % nomComplet_));
+}
+
+void TFrmSignaletique::SauverEleve(TEleve& eleve) {
   annulation_ = {};
   Globals.Eleves->AddEleve(eleve);
   Globals.Eleves->Save();
   const std::vector<TEleve*> disparus = Globals.Eleves->RangeesDisparues();  // others may be waiting there
   if (std::ranges::find(disparus, &eleve) != disparus.end())
     throw Exception(u"Cet élève n'existe plus : un autre poste l'a supprimé."_s);
-  QString quoi = champ.Libelle;
-  while (quoi.endsWith(u':') || quoi.endsWith(u' ')) quoi.chop(1);
-  contexte_.Principal.Etat(TNiveauEtat::Succes, QString(quoi % u" : enregistré pour " % nomComplet_));
 }
 
 bool TFrmSignaletique::Enregistrer(TDistributor& collection, const std::function<bool()>& disparue,
@@ -86,6 +90,39 @@ void TFrmSignaletique::RelireListes() {
   Frais.Remplir(eleve);
   RemplirReleve(eleve);
   Annoncer();
+}
+
+// Account
+
+void TFrmSignaletique::AdvGlowButton1Click() {
+  if (!ExigeEleve()) return;
+  TEleve& eleve = *Globals.EleveCourant;
+  QStringList numeros, noms;
+  Globals.Eleves->ComptesDonneurs(eleve.Id, numeros, noms);
+  if (numeros.isEmpty())
+    return contexte_.Dialogues().Message(u"Aucun numéro de compte n'a été trouvé pour cet élève"_s);
+  TFrmAttributionCompte choix(contexte_.Dialogues(), numeros, noms);
+  if (numeros.size() > 1 && contexte_.Modale.MontrerModal(choix) != TResultatModal::Valide) return;
+  const int choisi = std::max(choix.Choisi(), 0);
+  DonnerCompte(eleve, numeros[choisi], noms[choisi]);
+}
+
+void TFrmSignaletique::DonnerCompte(TEleve& eleve, const QString& numero, const QString& titulaire) {
+  const auto longueur = [this](const QString& champ) {
+    return champs_.Champ(champs_.Indice(champ)).Longueur;
+  };
+  const std::pair avant(eleve.NumCompte, eleve.NomTitulaireCompte);
+  eleve.NumCompte = numero.left(longueur(u"edNumCompte"_s));
+  eleve.NomTitulaireCompte = titulaire.left(longueur(u"edNomTitulaireCompte"_s));
+  try {
+    SauverEleve(eleve);
+    contexte_.Principal.Etat(TNiveauEtat::Succes, QString(u"N° compte : enregistré pour " % nomComplet_));
+  } catch (const Exception& e) {
+    std::tie(eleve.NumCompte, eleve.NomTitulaireCompte) = avant;
+    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    contexte_.Dialogues().Message(e.Message);
+  }
+  champs_.Montrer(&eleve);
 }
 
 // Months

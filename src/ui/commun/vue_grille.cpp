@@ -263,7 +263,9 @@ void VueGrille::SuivreGrille(int ligne) {
 void VueGrille::SuivreChoix() {
   const Pendant pendant(enCours_);
   const QModelIndex voulu = IndexDe(grille_.LigneCourante());
-  if (voulu.isValid() && voulu.siblingAtColumn(0) != currentIndex().siblingAtColumn(0)) {
+  // A list that gets the focus makes its first row the current one without choosing it.
+  if (voulu.isValid() && (voulu.siblingAtColumn(0) != currentIndex().siblingAtColumn(0) ||
+                          !selectionModel()->isSelected(voulu))) {
     setCurrentIndex(voulu);
   } else if (!voulu.isValid() && currentIndex().isValid()) {
     setCurrentIndex({});

@@ -27,6 +27,8 @@ class VueGrille : public QTreeView {
   int ColonneSouple() const;
   /// Rows that the filter lets through, heads not counted.
   int NombreVisibles() const;
+  /// What is shown: the rows of the grid from top to bottom.
+  std::vector<int> LignesVues() const;
   /// The height for so many rows, its header included.
   int HauteurPour(int lignes) const;
   /// The scroll bar keeps its place even when there is nothing to scroll (see PiedDeGrille).
@@ -82,8 +84,7 @@ class VueGrille : public QTreeView {
   void Rappeler();
   QModelIndex IndexDe(int ligne) const;
   int LigneDe(const QModelIndex& index) const;
-  /// What is shown: the rows of the grid from top to bottom, the columns from left to right.
-  std::vector<int> LignesVues() const;
+  /// The columns that are shown, from left to right.
   std::vector<int> ColonnesVues() const;
   QString Copie(int ligne) const;
   void CreerFiltre();

@@ -5,6 +5,7 @@
 #include <QRadioButton>
 
 #include "screens/pupils/frm_signaletique.h"
+#include "ui/commun/bouton.h"
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/grille_mois.h"
 #include "ui/commun/liaison_champs.h"
@@ -146,16 +147,29 @@ QLayout* FicheIdentite::CreerResponsables() {
   grille->addWidget(attestations_[0], rang, 1);
   grille->addWidget(attestations_[1], rang, 2);
 
+  AjouterCompte(*grille, ++rang);
+  return grille;
+}
+
+void FicheIdentite::AjouterCompte(QGridLayout& grille, int rang) {
   QWidget* compte = liaison_->Widget(u"edNumCompte"_s);
   QWidget* titulaire = liaison_->Widget(u"edNomTitulaireCompte"_s);
-  grille->addWidget(CreerLibelleDeRang(u"N° compte :"_s, compte), ++rang, 0, Qt::AlignTop);
-  grille->addLayout(Rangee({u"edNumCompte"_s}), rang, 1);
+  comptes_ = BoutonSimple(u"…"_s);
+  comptes_->setAccessibleName(u"Comptes vus sur les virements"_s);
+  comptes_->setToolTip(u"Insérer une communication structurée"_s);
+  comptes_->setFixedWidth(Theme::Px(32));
+  connect(comptes_, &QPushButton::clicked, this, [this] { form_.AdvGlowButton1Click(); });
+  auto* premier = new QHBoxLayout;
+  premier->setSpacing(Theme::Px(4));
+  premier->addLayout(Rangee({u"edNumCompte"_s}), 1);
+  premier->addWidget(comptes_, 0, Qt::AlignTop);
   auto* second = new QHBoxLayout;
   second->setSpacing(Theme::Px(8));
   second->addWidget(CreerLibelleDeRang(u"Nom du titulaire :"_s, titulaire), 0, Qt::AlignTop);
   second->addLayout(Rangee({u"edNomTitulaireCompte"_s}), 1);
-  grille->addLayout(second, rang, 2);
-  return grille;
+  grille.addWidget(CreerLibelleDeRang(u"N° compte :"_s, compte), rang, 0, Qt::AlignTop);
+  grille.addLayout(premier, rang, 1);
+  grille.addLayout(second, rang, 2);
 }
 
 void FicheIdentite::AjouterSituation() {
@@ -205,6 +219,7 @@ void FicheIdentite::OrdonnerTab() {
       for (const QString& nom : noms) ordre.push_back(liaison_->Widget(nom % suffixe));
   ordre.insert(ordre.end(), attestations_.begin(), attestations_.end());
   ordre.push_back(liaison_->Widget(u"edNumCompte"_s));
+  ordre.push_back(comptes_);
   ordre.push_back(liaison_->Widget(u"edNomTitulaireCompte"_s));
   for (const QString& nom : kSituation) ordre.push_back(liaison_->Widget(nom));
   for (QCheckBox* boite : mois_->findChildren<QCheckBox*>()) ordre.push_back(boite);

@@ -11,6 +11,7 @@ class MarqueEtat;
 class PhotoEleve;
 class QCheckBox;
 class QGridLayout;
+class QPushButton;
 class QRadioButton;
 class QVBoxLayout;
 class TFrmSignaletique;
@@ -32,6 +33,7 @@ class FicheIdentite : public QWidget {
   QLayout* CreerEntete();
   QLayout* CreerSolde();
   QLayout* CreerResponsables();
+  void AjouterCompte(QGridLayout& grille, int rang);
   /// Fields side by side, by name; the narrow ones keep their width.
   QLayout* Rangee(const QStringList& noms);
   /// Room, and a section that can be hidden with it.
@@ -51,6 +53,7 @@ class FicheIdentite : public QWidget {
   Etiquette* solde_;
   MarqueEtat* etatSolde_;
   std::array<QRadioButton*, 2> attestations_;
+  QPushButton* comptes_;
   GrilleMois* mois_;
   TitreSection* titreExt_;
   GrilleJours* jours_;

@@ -1,0 +1,190 @@
+#include "screens/payments/frm_attribution_virement.h"
+
+#include <algorithm>
+
+#include "core/comparaisons.h"
+#include "core/formats.h"
+#include "screens/payments/frm_paiement.h"
+#include "screens/payments/frm_virement.h"
+#include "workflows/credit_extraits.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kLibelleMax = 200;
+
+/// Every word that is typed is somewhere in the name.
+bool Contient(const QString& nom, const QString& cherche) {
+  const QStringList mots = cherche.split(u' ', Qt::SkipEmptyParts);
+  return std::ranges::all_of(mots, [&](const QString& mot) { return nom.contains(mot); });
+}
+
+}  // namespace
+
+TFrmAttributionVirement::TFrmAttributionVirement(TContexteEcran& contexte, TFrmVirement& virements)
+    : LUCombo1({{u"Nom de l'élève"_s, 260}, {u"Classe"_s, 80}}),
+      contexte_(contexte),
+      virements_(virements),
+      groupes_{QString()},
+      idsGroupes_{0},
+      champs_(Table(), TChamps::TousALaFois) {
+  std::vector<TLibelleGroupe> libelles;
+  Globals.GroupesFrais->LibellesGroupes(libelles);
+  for (const TLibelleGroupe& groupe : libelles) {
+    groupes_ += groupe.Libelle;
+    idsGroupes_.push_back(groupe.Groupe->Id);
+  }
+  liens_ += LUCombo1.SurChoix.Suivre([this] { Annoncer(); });
+}
+
+TTableChamps<TSaisieAttribution> TFrmAttributionVirement::Table() {
+  using T = TSaisieAttribution;
+  using enum TGenreChamp;
+  return {
+      {{.Nom = u"edLibellePaiement"_s, .Libelle = u"Libellé du paiement:"_s, .Longueur = kLibelleMax},
+       Membre(&T::Libelle)},
+      {{.Nom = u"rbTP"_s, .Libelle = u"Pour:"_s, .Genre = Choix, .Boutons = true, .Choix = FamillesPaiement},
+       Membre(&T::Famille)},
+      {{.Nom = u"cmbGroupePaiement"_s,
+        .Libelle = u"Groupe de paiement:"_s,
+        .Genre = Choix,
+        .Choix = [this] { return groupes_; }},
+       Membre(&T::IndexGroupe)}};
+}
+
+void TFrmAttributionVirement::FormShow() {
+  LireOrdre();
+  LireEleves();
+  MontrerMouvement();
+}
+
+// A movement that is given away may leave its place on the screen: the order is that of the opening.
+void TFrmAttributionVirement::LireOrdre() {
+  ordre_ = virements_.Ordre();
+  const int ligne = virements_.Historique.LigneCourante();
+  const auto ici = std::ranges::find(ordre_, ligne);
+  place_ = static_cast<int>(ici - ordre_.begin());
+  if (ici == ordre_.end()) ordre_.push_back(ligne);
+}
+
+// The map was left as it stood while the dialog was open.
+void TFrmAttributionVirement::FormClose() { Globals.Eleves->ChargerExtraits = true; }
+
+void TFrmAttributionVirement::LireEleves() {
+  eleves_.clear();
+  for (TEleve& eleve : *Globals.Eleves) {
+    const QString nom = eleve.Nom % u' ' % eleve.Prenom;
+    eleves_.push_back({&eleve, nom, Simplifier(nom)});
+  }
+  std::ranges::stable_sort(
+      eleves_, [](const TCandidat& a, const TCandidat& b) { return ComparerTextes(a.Nom, b.Nom) < 0; });
+}
+
+// The movement
+
+const TExtrait& TFrmAttributionVirement::Extrait() const { return *virements_.Courant(); }
+
+QString TFrmAttributionVirement::Cellule(int colonne) const {
+  return virements_.Historique.Texte(virements_.Historique.LigneCourante(), colonne);
+}
+
+QString TFrmAttributionVirement::lblDonneurOrdre() const { return Extrait().DonneurOrdre; }
+QString TFrmAttributionVirement::lblMontant() const { return FormatMontant(Extrait().Montant); }
+QString TFrmAttributionVirement::lblDateVirement() const { return FormatDate(Extrait().DateVirement); }
+QString TFrmAttributionVirement::lblCommunication() const { return Extrait().Communication; }
+QString TFrmAttributionVirement::lblCompte() const { return Extrait().NumCptDonneur; }
+
+QString TFrmAttributionVirement::Place() const {
+  return u"Mouvement %1 sur %2"_s.arg(place_ + 1).arg(ordre_.size());
+}
+
+bool TFrmAttributionVirement::imgValide() const { return !Cellule(TFrmVirement::Eleve).isEmpty(); }
+
+bool TFrmAttributionVirement::Actif() const { return !imgValide() && !Extrait().FlgIgnore; }
+
+void TFrmAttributionVirement::MontrerMouvement() {
+  saisie_ = {LibelleVirement(Extrait()), saisie_.Famille, 0};
+  champs_.Montrer(nullptr);
+  champs_.Montrer(&saisie_);
+  champs_.DefinirLectureSeule(!Actif());
+  saisieEleve_ = Cellule(TFrmVirement::Eleve);
+  ProposerEleves();
+  Annoncer();
+  SurMouvement();
+}
+
+// What is chosen for one payment holds for the next; a group does not.
+bool TFrmAttributionVirement::Aller(int pas) {
+  const int voulue = place_ + pas;
+  if (voulue < 0 || voulue >= static_cast<int>(ordre_.size())) return false;
+  champs_.EcrireDans(saisie_);
+  place_ = voulue;
+  virements_.Historique.ChoisirLigne(ordre_[static_cast<std::size_t>(place_)]);
+  MontrerMouvement();
+  return true;
+}
+
+// The pupil
+
+void TFrmAttributionVirement::LUCombo1Change(const QString& texte) {
+  if (!Actif()) return;
+  saisieEleve_ = texte;
+  ProposerEleves();
+  Annoncer();
+}
+
+void TFrmAttributionVirement::ProposerEleves() {
+  const TGrille::TLot lot(LUCombo1);
+  LUCombo1.Vider();
+  if (!Actif()) return;
+  const QString cherche = Simplifier(saisieEleve_.trimmed());
+  int choisi = -1;
+  for (const TCandidat& candidat : eleves_) {
+    if (!Contient(candidat.Cle, cherche)) continue;
+    const int ligne = LUCombo1.Ajouter({candidat.Nom, candidat.Eleve->LibelleClasse()}, candidat.Eleve);
+    if (choisi < 0 && candidat.Cle.startsWith(cherche)) choisi = ligne;
+  }
+  LUCombo1.ChoisirLigne(cherche.isEmpty() ? -1 : std::max(choisi, 0));
+}
+
+TEleve* TFrmAttributionVirement::EleveChoisi() const {
+  const int ligne = LUCombo1.LigneCourante();
+  return ligne < 0 ? nullptr : LUCombo1.Ligne(ligne).Objet.En<TEleve>();
+}
+
+QString TFrmAttributionVirement::lblClasse() const {
+  if (imgValide()) return Cellule(TFrmVirement::Classe);
+  const TEleve* eleve = EleveChoisi();
+  return eleve == nullptr ? QString() : eleve->LibelleClasse();
+}
+
+// The payment
+
+void TFrmAttributionVirement::btnAjoutLibelleClick() {
+  const int libelle = champs_.Indice(u"edLibellePaiement"_s);
+  const int index = champs_.Entier(champs_.Indice(u"cmbGroupePaiement"_s));
+  const QString groupe = groupes_.value(index);
+  const QString texte = champs_.Texte(libelle);
+  if (!Actif() || index <= 0 || texte.contains(groupe)) return;
+  champs_.Taper(libelle, QString(texte % u" (" % groupe % u')').left(kLibelleMax));
+}
+
+void TFrmAttributionVirement::Button3Click() {
+  if (!champs_.Verifier()) return;
+  champs_.EcrireDans(saisie_);
+  if (TEleve* eleve = EleveChoisi(); eleve != nullptr && Actif()) Crediter(*eleve);
+  if (!Aller(1)) MontrerMouvement();
+}
+
+void TFrmAttributionVirement::Crediter(TEleve& eleve) {
+  const int groupe = idsGroupes_[static_cast<std::size_t>(std::max(saisie_.IndexGroupe, 0))];
+  const TExtrait& extrait = Extrait();
+  if (!CrediterEleve({eleve.Id, 0, saisie_.Famille}, extrait, groupe, saisie_.Libelle)) {
+    contexte_.Dialogues().Message(u"Ce mouvement est déjà attribué à un élève."_s);
+    return;
+  }
+  virements_.Attribue(eleve);
+  contexte_.Principal.Etat(TNiveauEtat::Succes,
+                           QString(FormatMontant(extrait.Montant) % u" attribués à " % eleve.NomComplet()));
+}

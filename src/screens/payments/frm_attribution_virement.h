@@ -1,0 +1,94 @@
+#pragma once
+#include "forms/champs.h"
+#include "forms/grille.h"
+#include "screens/contexte_ecran.h"
+#include "services/frais_eleve.h"
+
+class TFrmVirement;
+struct TExtrait;
+
+/// What is typed of the payment that a movement becomes.
+struct TSaisieAttribution {
+  QString Libelle;
+  TTypeFamilleFrais Famille = TTypeFamilleFrais::General;
+  int IndexGroupe = 0;  ///< into the payment groups, from 1; 0 for none
+};
+
+/// "Attribution manuelle des paiements": whom the movement chosen in the history went to, and on to the next
+/// one. Modal.
+class TFrmAttributionVirement : public TForm {
+ public:
+  TFrmAttributionVirement(TContexteEcran& contexte, TFrmVirement& virements);
+
+  // The movement.
+  QString lblDonneurOrdre() const;
+  /// "12,50 €"
+  QString lblMontant() const;
+  QString lblDateVirement() const;
+  QString lblCommunication() const;
+  QString lblCompte() const;
+  /// "Mouvement 3 sur 28", as they stood on the screen.
+  QString Place() const;
+  /// Some pupil has it.
+  bool imgValide() const;
+  /// It may be given to a pupil: nobody has it, and it is not hidden.
+  bool Actif() const;
+
+  // The pupil: what is typed, and the pupils of the year whose name holds it.
+  const QString& SaisieEleve() const { return saisieEleve_; }
+  /// The first name that begins so is chosen; else the first that holds it.
+  void LUCombo1Change(const QString& texte);
+  TGrille LUCombo1;  ///< by name; the object of a row is its TEleve
+  /// Of the pupil who is chosen, or who has the movement.
+  QString lblClasse() const;
+
+  /// edLibellePaiement, rbTP, cmbGroupePaiement.
+  TChamps& Champs() { return champs_; }
+  /// The name of the chosen group behind the label, once.
+  void btnAjoutLibelleClick();
+
+  /// "Attribuer": to the chosen pupil, if any; then on to the next movement.
+  void Button3Click();
+  /// "Suivant", "Précédent": nothing at either end.
+  void Button2Click() { Aller(1); }
+  void Button1Click() { Aller(-1); }
+  /// "Fermer"
+  void Button4Click() { Fermer(); }
+
+  /// Another movement is shown: the hand goes to the pupil.
+  TSignal<> SurMouvement;
+
+ protected:
+  void FormShow() override;
+  void FormClose() override;
+
+ private:
+  struct TCandidat {
+    TEleve* Eleve;
+    QString Nom;
+    QString Cle;  ///< the name as a search compares it
+  };
+
+  TTableChamps<TSaisieAttribution> Table();
+  void LireEleves();
+  void ProposerEleves();
+  void MontrerMouvement();
+  void LireOrdre();
+  bool Aller(int pas);
+  void Crediter(TEleve& eleve);
+  TEleve* EleveChoisi() const;
+  const TExtrait& Extrait() const;
+  QString Cellule(int colonne) const;
+
+  TContexteEcran& contexte_;
+  TFrmVirement& virements_;
+  std::vector<int> ordre_;  // rows of the history, as the screen showed them when the dialog opened
+  int place_ = 0;           // the one in hand
+  std::vector<TCandidat> eleves_;
+  QStringList groupes_;          // the first one is none
+  std::vector<int> idsGroupes_;  // in step
+  QString saisieEleve_;
+  TSaisieAttribution saisie_;
+  TChampsDe<TSaisieAttribution> champs_;
+  TLiens liens_;
+};

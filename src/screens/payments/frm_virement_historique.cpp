@@ -1,0 +1,178 @@
+// "Historique des virements"
+#include <algorithm>
+#include <numeric>
+
+#include "core/exceptions.h"
+#include "core/formats.h"
+#include "screens/payments/frm_attribution_virement.h"
+#include "screens/payments/frm_virement.h"
+#include "screens/payments/lignes_virement.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString AnneeEnTexte(int annee) { return u"%1-%2"_s.arg(annee).arg(annee + 1); }
+
+}  // namespace
+
+bool TFrmVirement::EstComptabilise(const TExtrait& extrait) const {
+  return Globals.Eleves->ExtraitVersEleve(extrait.Id) != 0;
+}
+
+void TFrmVirement::RemplirHistorique() {
+  TExtraits& extraits = contexte_.Controleur.Extraits();
+  TExtrait* const courant = Courant();
+  compta_ = inconnu_ = 0;
+  {
+    const TGrille::TLot lot(Historique);
+    Historique.Vider();
+    for (TExtrait& extrait : extraits)
+      if (!extrait.FlgIgnore || voitCaches_) AjouterMouvement(extrait);
+    Historique.ChoisirLigne(courant == nullptr ? -1 : Historique.TrouverObjet(courant));
+  }
+  total_ = compta_ + inconnu_;
+  const TPeriode bornes = extraits.BornesDates();
+  titre_ =
+      bornes.Premier > 0.0 && bornes.Dernier > 0.0
+          ? QString(u"Récapitulatif du " % FormatDate(bornes.Premier) % u" au " % FormatDate(bornes.Dernier))
+          : u"Récapitulatif"_s;
+  Annoncer();
+}
+
+/// Counted whatever the two filters show of it.
+void TFrmVirement::AjouterMouvement(TExtrait& extrait) {
+  const bool comptabilise = EstComptabilise(extrait);
+  ++(comptabilise ? compta_ : inconnu_);
+  if (!(comptabilise ? voitComptabilises_ : voitInconnus_)) return;
+  TCellules cellules = CellulesMouvement(extrait);
+  AjouterEleve(cellules, Globals.Eleves->ExtraitVersEleve(extrait.Id));
+  cellules.push_back(extrait.TypeResponsable > 0 ? TValeurVue(extrait.TypeResponsable) : TValeurVue());
+  Historique.Ajouter(std::move(cellules), &extrait, static_cast<int>(EtatExtrait(extrait)));
+}
+
+void TFrmVirement::Basculer(bool& drapeau) {
+  drapeau = !drapeau;
+  RemplirHistorique();
+}
+
+TExtrait* TFrmVirement::Courant() const {
+  const int ligne = Historique.LigneCourante();
+  return ligne < 0 ? nullptr : Historique.Ligne(ligne).Objet.En<TExtrait>();
+}
+
+bool TFrmVirement::ExigeMouvement() const {
+  if (enCours_) return false;
+  if (Courant() == nullptr) Signaler(TNiveauEtat::Alerte, u"Choisissez d'abord un mouvement"_s);
+  return Courant() != nullptr;
+}
+
+// Attribution
+
+std::vector<int> TFrmVirement::Ordre() const {
+  if (LignesVues) return LignesVues();
+  std::vector<int> lignes(static_cast<std::size_t>(Historique.NombreLignes()));
+  std::iota(lignes.begin(), lignes.end(), 0);
+  return lignes;
+}
+
+int TFrmVirement::Voisine(int pas) const {
+  const std::vector<int> ordre = Ordre();
+  const auto ici = std::ranges::find(ordre, Historique.LigneCourante());
+  if (ici == ordre.end()) return -1;
+  const auto voulue = ici - ordre.begin() + pas;
+  return voulue < 0 || voulue >= std::ssize(ordre) ? -1 : ordre[static_cast<std::size_t>(voulue)];
+}
+
+void TFrmVirement::grdHistoriqueDblClick() {
+  if (!ExigeMouvement()) return;
+  TFrmAttributionVirement attribution(contexte_, *this);
+  contexte_.Modale.MontrerModal(attribution);
+}
+
+void TFrmVirement::Attribue(const TEleve& eleve) {
+  ++compta_;
+  --inconnu_;
+  const int ligne = Historique.LigneCourante();
+  TCellules cellules = Historique.Ligne(ligne).Cellules;
+  cellules[Eleve] = eleve.NomComplet();
+  cellules[Classe] = eleve.LibelleClasse();
+  Historique.EcrireLigne(ligne, std::move(cellules));
+  Historique.ChangerEtat(ligne, static_cast<int>(TEtatMouvement::Comptabilise));
+  Annoncer();
+}
+
+// Other commands
+
+/// The row that follows it on the screen takes its place.
+void TFrmVirement::RetirerCourante() {
+  const int ligne = Historique.LigneCourante();
+  const int suivante = Voisine(1);
+  Historique.ChoisirLigne(suivante >= 0 ? suivante : Voisine(-1));
+  Historique.Retirer(ligne);
+  inconnu_ = std::max(inconnu_ - 1, 0);
+  Annoncer();
+}
+
+void TFrmVirement::AttribuerAnnee(int pas) {
+  if (!ExigeMouvement()) return;
+  TExtraits& extraits = contexte_.Controleur.Extraits();
+  TExtrait& extrait = *Courant();
+  const bool comptabilise = EstComptabilise(extrait);
+  const QString annee = AnneeEnTexte(extraits.AnneeScolaire + pas);
+  import_.Oublier(extrait);
+  extraits.Deplacer(extrait, extraits.AnneeScolaire + pas);
+  Globals.ExtraitsPrecedents.reset();
+  RetirerCourante();
+  RemplirApercu();
+  if (comptabilise)
+    Signaler(TNiveauEtat::Alerte, u"Mouvement attribué à %1 ; son paiement reste en %2"_s.arg(
+                                      annee, AnneeEnTexte(extraits.AnneeScolaire)));
+  else
+    Signaler(TNiveauEtat::Succes, QString(u"Mouvement attribué à " % annee));
+}
+
+void TFrmVirement::Supprimerlextrait1Click() {
+  if (!ExigeMouvement()) return;
+  TExtrait& extrait = *Courant();
+  if (EstComptabilise(extrait))
+    return contexte_.Dialogues().Message(u"Vous ne pouvez pas cacher un mouvement comptabilisé !"_s);
+  if (extrait.FlgIgnore) return;
+  extrait.FlgIgnore = true;
+  if (!Enregistrer(extrait, u"Mouvement caché"_s)) return;
+  if (voitCaches_)
+    Historique.ChangerEtat(Historique.LigneCourante(), static_cast<int>(TEtatMouvement::Cache));
+  else
+    RetirerCourante();
+}
+
+void TFrmVirement::Repondre(int responsable) {
+  if (!ExigeMouvement()) return;
+  TExtrait& extrait = *Courant();
+  extrait.TypeResponsable = responsable;
+  if (Enregistrer(extrait, u"Payé par le responsable %1"_s.arg(responsable)))
+    Historique.Ecrire(Historique.LigneCourante(), Resp, responsable);
+}
+
+/// False after a message, and memory is then what the table holds.
+bool TFrmVirement::Enregistrer(TExtrait& extrait, const QString& fait) {
+  TExtraits& extraits = contexte_.Controleur.Extraits();
+  try {
+    extraits.Add(extrait);
+    extraits.Save();
+    if (!extraits.RangeesDisparues().empty()) {
+      Historique.ChoisirLigne(-1);  // the movement ends with its row
+      import_.Oublier(extrait);
+      throw Exception(u"Ce mouvement n'existe plus : un autre poste l'a supprimé."_s);
+    }
+    Signaler(TNiveauEtat::Succes, fait);
+    return true;
+  } catch (const Exception& e) {
+    Signaler(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    contexte_.Dialogues().Message(e.Message);
+    extraits.Remettre();
+    RemplirApercu();
+    RemplirHistorique();
+    return false;
+  }
+}

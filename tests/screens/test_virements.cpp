@@ -1,0 +1,272 @@
+// The movements of the year, the file that brings them, and by hand whom they went to.
+#include <gtest/gtest.h>
+
+#include "screens/payments/frm_attribution_virement.h"
+#include "screens/payments/frm_virement.h"
+#include "services/groupes_frais.h"
+#include "support/ecran_essai.h"
+#include "support/valeurs.h"
+
+namespace {
+
+/// Two namesakes in different classes, a third pupil, and one of another year (4).
+class FrmVirement : public testing::Test {
+ protected:
+  struct TEcole : TBaseEssai {
+    TEcole() {
+      Ecole.unEleve().nomme(u"DUPONT"_s, u"Zoé"_s).enClasse(u"P2"_s, u"B"_s);
+      Ecole.unEleve().nomme(u"DUPONT"_s, u"Zoé"_s).enClasse(u"P1"_s, u"A"_s);
+      Ecole.unEleve().nomme(u"LAMBERT"_s, u"Élise"_s).enClasse(u"P3"_s, u"A"_s);
+      Ecole.unEleve().nomme(u"PARTI"_s, u"Luc"_s);
+      Ecole.Ajouter(u"GROUPE_FRAIS"_s, u"GROUPE_FRAIS_ID, LIBELLE"_s, {u"'Classes de mer'"_s});
+    }
+    /// A movement of that day of October; returns its key.
+    int Mouvement(const QString& donneur, int jour, const QString& cache = u"NULL"_s) {
+      return Ecole.Ajouter(
+          u"EXTRAITS"_s,
+          u"EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, NUM_CPT_DONNEUR, FLG_IGNORE, "
+          "ANNEE_SCOLAIRE"_s,
+          {u'\'' + donneur + u'\'', u"'2016-10-%1'"_s.arg(jour), u"12.5"_s, u"'merci'"_s, u"'BE68'"_s, cache,
+           u"2016"_s});
+    }
+    void Credit(int extrait, int eleve, int annee = 2016) {
+      Ecole.Ajouter(u"FRAIS_ELEVE"_s,
+                    u"FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID, MONTANT_VERSE"_s,
+                    {QString::number(eleve), QString::number(annee), QString::number(extrait), u"12.5"_s});
+    }
+    TEcoleEssai Ecole{*this};
+  };
+
+  TFrmVirement& Ouvrir() {
+    Ecran.Essai.Charger();
+    Form = std::make_unique<TFrmVirement>(Ecran.Contexte);
+    Form->Montrer();
+    return *Form;
+  }
+  /// Payer, pupil and state of each row of the history.
+  QStringList Historique() const {
+    QStringList lignes;
+    for (int i = 0; i < Form->Historique.NombreLignes(); ++i) {
+      const QStringList textes = Form->Historique.Textes(i);
+      lignes += textes[TFrmVirement::Donneur] % u'|' % textes[TFrmVirement::Eleve] % u'|' % textes.last();
+    }
+    return lignes;
+  }
+  QString Comptes() const {
+    return u"%1 %2 %3"_s.arg(Form->lblCompta()).arg(Form->lblInconnu()).arg(Form->lblTotal());
+  }
+  QString Extrait(const QString& colonne, int id) {
+    return Base.Valeur(u"SELECT %1 FROM EXTRAITS WHERE EXTRAIT_ID = %2"_s.arg(colonne).arg(id));
+  }
+  /// In the dialog over the current row.
+  void Attribuer(const std::function<void(TFrmAttributionVirement&)>& faire) {
+    Ecran.SurModale = [faire](TForm& form) {
+      faire(dynamic_cast<TFrmAttributionVirement&>(form));
+      form.Fermer();
+    };
+    Form->grdHistoriqueDblClick();
+  }
+
+  TEcole Base;
+  TEcranEssai Ecran{Base};
+  std::unique_ptr<TFrmVirement> Form;
+};
+
+}  // namespace
+
+TEST_F(FrmVirement, TheHistoryShowsCountsAndHides) {
+  const int inconnu = Base.Mouvement(u"A"_s, 3), comptabilise = Base.Mouvement(u"B"_s, 4);
+  const int cache = Base.Mouvement(u"C"_s, 28, u"1"_s), ailleurs = Base.Mouvement(u"D"_s, 5);
+  Base.Credit(comptabilise, 3);
+  Base.Credit(cache, 3);
+  Base.Credit(ailleurs, 4, 2015);
+  Ouvrir();
+  EXPECT_EQ(Form->TitreHistorique(), u"Récapitulatif du 03/10/2016 au 28/10/2016") << "the hidden one too";
+  const QStringList tous{u"A||Inconnu"_s, u"B|LAMBERT Élise|Comptabilisé"_s,
+                         u"D|élève d'une autre année|Comptabilisé"_s};
+  EXPECT_EQ(Historique(), tous);
+  EXPECT_EQ(Comptes(), u"2 1 3");
+  EXPECT_EQ(Form->Historique.Textes(0).mid(1, 4), (QStringList{"03/10/2016", "12,50 €", "merci", "BE68"}));
+
+  Form->btnComptabiliseClick();
+  EXPECT_EQ(Historique(), QStringList{tous[0]});
+  EXPECT_EQ(Comptes(), u"2 1 3") << "the filters change no count";
+  Form->btnInconnuClick();
+  EXPECT_EQ(Historique(), QStringList());
+  Form->btnComptabiliseClick();
+  EXPECT_EQ(Historique(), tous.mid(1));
+  Form->btnInconnuClick();
+
+  Form->mnuAfficheMouvementClick();
+  EXPECT_EQ(Historique()[2], u"C|LAMBERT Élise|Caché") << "hidden goes before accounted";
+  EXPECT_EQ(Comptes(), u"3 1 4");
+  Form->Historique.ChoisirLigne(0);
+  Form->Supprimerlextrait1Click();
+  EXPECT_EQ(Historique()[0], u"A||Caché") << "shown again, it stays";
+  EXPECT_EQ(Extrait(u"FLG_IGNORE"_s, inconnu), u"1");
+  EXPECT_EQ(Form->lblInconnu(), 1);
+  Base.Dialogues.Attend(u"Vous ne pouvez pas cacher un mouvement comptabilisé !"_s);
+  Form->Historique.ChoisirLigne(1);
+  Form->Supprimerlextrait1Click();
+  EXPECT_EQ(Extrait(u"FLG_IGNORE"_s, comptabilise), QString()) << "never 0";
+
+  Form->Compteresponsable21Click();
+  EXPECT_EQ(Form->Historique.Texte(1, TFrmVirement::Resp), u"2");
+  EXPECT_EQ(Extrait(u"TYPE_RESPONSABLE"_s, comptabilise), u"2");
+}
+
+TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
+  const int a = Base.Mouvement(u"A"_s, 3), b = Base.Mouvement(u"B"_s, 4), c = Base.Mouvement(u"C"_s, 5);
+  Base.Credit(c, 3);
+  Ouvrir();
+  Form->LignesVues = [this] {  // the other way round
+    std::vector<int> lignes;
+    for (int i = Form->Historique.NombreLignes() - 1; i >= 0; --i) lignes.push_back(i);
+    return lignes;
+  };
+  // The file in the preview holds a movement that leaves the year.
+  Base.Dialogues.Saisit(u"Importer vos virements"_s,
+                        Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) +
+                                                          "x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n"));
+  Form->btnEtape1Click();
+  ASSERT_EQ(Form->Apercu.NombreLignes(), 1);
+  Form->Historique.ChoisirLigne(1);
+  Form->AnneeSuivanteClick();
+  EXPECT_EQ(Extrait(u"ANNEE_SCOLAIRE"_s, b), u"2017");
+  EXPECT_EQ(Form->Apercu.NombreLignes(), 0);
+  EXPECT_EQ(Historique(), (QStringList{"A||Inconnu", "C|LAMBERT Élise|Comptabilisé"}));
+  EXPECT_EQ(Form->Courant()->Id, a);
+  EXPECT_EQ(Comptes(), u"1 1 3");
+  Form->Historique.ChoisirLigne(1);
+  Form->AnneePrecedenteClick();
+  EXPECT_EQ(Extrait(u"ANNEE_SCOLAIRE"_s, c), u"2015");
+  EXPECT_EQ(Ecran.Etats.last(), u"Mouvement attribué à 2015-2016 ; son paiement reste en 2016-2017");
+  EXPECT_EQ(Comptes(), u"1 0 3") << "whatever its state was";
+  Form->Historique.ChoisirLigne(0);
+  Form->Supprimerlextrait1Click();
+  EXPECT_EQ(Historique(), QStringList());
+  Form->Supprimerlextrait1Click();
+  EXPECT_EQ(Ecran.Niveau, TNiveauEtat::Alerte);
+}
+
+TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
+  const int c = Base.Mouvement(u"C"_s, 5), a = Base.Mouvement(u"A"_s, 3), b = Base.Mouvement(u"B"_s, 4);
+  Base.Mouvement(u"D"_s, 6, u"1"_s);
+  Ouvrir();
+  Form->mnuAfficheMouvementClick();
+  Form->LignesVues = [] { return std::vector<int>{1, 2, 0, 3}; };  // A, B, C, D
+  Form->Historique.ChoisirLigne(1);
+  Attribuer([](TFrmAttributionVirement& dialogue) {
+    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"A");
+    EXPECT_EQ(dialogue.lblMontant(), u"12,50 €");
+    EXPECT_EQ(dialogue.Champs().Texte(0), u"Votre virement du 03/10/2016");
+    EXPECT_EQ(dialogue.lblClasse(), QString());
+    dialogue.Button1Click();
+    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"A") << "nothing before it";
+    dialogue.Button3Click();
+    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"B") << "without a pupil it goes on";
+    dialogue.Button1Click();
+
+    dialogue.LUCombo1Change(u"zoe du"_s);
+    ASSERT_EQ(dialogue.LUCombo1.NombreLignes(), 2) << "namesakes are two";
+    dialogue.LUCombo1Change(u"dup"_s);
+    dialogue.LUCombo1.ChoisirLigne(dialogue.LUCombo1.Texte(0, 1) == u"P1 A" ? 0 : 1);
+    EXPECT_EQ(dialogue.lblClasse(), u"P1 A");
+    dialogue.Champs().Choisir(1, 2);  // services
+    dialogue.Champs().Choisir(2, 1);
+    dialogue.btnAjoutLibelleClick();
+    dialogue.btnAjoutLibelleClick();
+    EXPECT_EQ(dialogue.Champs().Texte(0), u"Votre virement du 03/10/2016 (Classes de mer)") << "once";
+    dialogue.Button3Click();
+    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"B");
+    EXPECT_EQ(dialogue.Champs().Entier(2), 0) << "the group is cleared";
+    EXPECT_FALSE(Globals.Eleves->ChargerExtraits) << "only when it closes";
+
+    dialogue.Button1Click();
+    EXPECT_TRUE(dialogue.imgValide());
+    EXPECT_FALSE(dialogue.Actif());
+    EXPECT_EQ(dialogue.SaisieEleve(), u"DUPONT Zoé");
+    EXPECT_EQ(dialogue.lblClasse(), u"P1 A");
+    dialogue.LUCombo1Change(u"LAMBERT"_s);
+    dialogue.Button3Click();
+    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"B") << "not given twice";
+    dialogue.LUCombo1Change(u"lamb"_s);
+    dialogue.Button3Click();
+    dialogue.Button2Click();
+    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"D");
+    EXPECT_FALSE(dialogue.Actif()) << "a hidden one is nobody's";
+    dialogue.Button2Click();
+    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"D") << "nothing behind it";
+  });
+  EXPECT_TRUE(Globals.Eleves->ChargerExtraits);
+  EXPECT_EQ(Comptes(), u"2 2 4");
+  EXPECT_EQ(Historique(), (QStringList{"C||Inconnu", "A|DUPONT Zoé|Comptabilisé",
+                                       "B|LAMBERT Élise|Comptabilisé", "D||Caché"}));
+  EXPECT_EQ(Base.Rangees(u"SELECT EXTRAIT_ID, ELEVE_ID, MOIS, TYPE_FAMILLE_FRAIS, GROUPE_FRAIS_ID, REMARQUE "
+                         "FROM FRAIS_ELEVE ORDER BY FRAIS_ELEVE_ID"_s),
+            (QStringList{u"%1;2;0;2;1;Votre virement du 03/10/2016 (Classes de mer)"_s.arg(a),
+                         u"%1;3;0;2;-;Votre virement du 04/10/2016"_s.arg(b)}));
+  TGroupeFrais::TDetails details;
+  EXPECT_EQ((*Globals.GroupesFrais)[0].DetailsPaiement(details, 2), 1) << "the group sees its payment";
+  EXPECT_EQ(Extrait(u"EXTRAIT_ID"_s, c), QString::number(c));
+}
+
+TEST_F(FrmVirement, TheTwoStepsOfAFile) {
+  Ouvrir();
+  Base.Dialogues.Saisit(u"Importer vos virements"_s, {});
+  Form->btnEtape1Click();
+  EXPECT_TRUE(Form->Etape2Active()) << "also when no file is chosen";
+  const auto choisir = [this](const QByteArray& lignes) {
+    Base.Dialogues.Saisit(u"Importer vos virements"_s,
+                          Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) + lignes));
+    Form->btnEtape1Click();
+  };
+  const QByteArray bonne = "x;05/10/2016;;;BE68;DUPONT;;;;;10,00;EUR;;;+++000/0310/16102+++\n";
+  Base.Dialogues.Attend(u"Ligne 15 : « dix » n'est pas un montant"_s);
+  choisir(bonne + "x;05/10/2016;;;BE68;SUITE;;;;;dix;EUR;;;\n");
+  EXPECT_FALSE(Form->Etape2Active());
+  EXPECT_EQ(Form->Apercu.Texte(1, TFrmVirement::Montant), u"dix");
+  EXPECT_EQ(Form->Apercu.Textes(1).last(), u"Illisible");
+  EXPECT_EQ(Form->EnSuspens(), QString());
+
+  choisir(bonne + bonne);
+  EXPECT_EQ(Form->Statut(), u"Le fichier compte 2 mouvements.");
+  EXPECT_EQ(Form->EnSuspens(), u"2 mouvements non mémorisés");
+  bool vu = false;
+  const TLien lien = Form->SurChangement.Suivre([&] {
+    vu = vu || Form->EnCours();
+    EXPECT_FALSE(Form->EnCours() && (Form->Etape1Active() || Form->Etape2Active()));
+  });
+  Form->btnEtape2Click();
+  EXPECT_TRUE(vu);
+  EXPECT_EQ(Form->Apercu.Textes(0).mid(TFrmVirement::Eleve, 3),
+            (QStringList{"LAMBERT Élise", "P3 A", "Comptabilisé"}));
+  EXPECT_EQ(Comptes(), u"2 0 2") << "the history follows";
+  EXPECT_FALSE(Form->Etape2Suivante());
+  choisir(bonne);
+  Form->btnEtape2Click();
+  EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
+}
+
+TEST_F(FrmVirement, WhatIsPerhapsImportedIsStoredWhenTicked) {
+  Base.Mouvement(u"A"_s, 15);
+  Ouvrir();
+  Base.Dialogues.Saisit(
+      u"Importer vos virements"_s,
+      Base.Fichier(
+          u"releve.xml"_s,
+          "<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.08'><BkToCstmrStmt><Stmt>"
+          "<Id>1</Id><Ntry><Amt Ccy='EUR'>12.5</Amt><CdtDbtInd>CRDT</CdtDbtInd><ValDt>"
+          "<Dt>2016-10-15</Dt></ValDt><NtryDtls><TxDtls><RltdPties><DbtrAcct><Id><IBAN>BE68</IBAN>"
+          "</Id></DbtrAcct></RltdPties></TxDtls></NtryDtls></Ntry></Stmt></BkToCstmrStmt></Document>"));
+  Form->btnEtape1Click();
+  EXPECT_EQ(Form->Apercu.Textes(0).last(), u"Peut-être déjà importé");
+  EXPECT_TRUE(Form->NoteApercu().startsWith(u"1 mouvement est peut-être déjà importé"));
+  EXPECT_EQ(Form->EnSuspens(), QString());
+  Form->btnEtape2Click();
+  EXPECT_EQ(Form->lblTotal(), 1);
+  Form->Cocher(0, true);
+  EXPECT_EQ(Form->EnSuspens(), u"1 mouvement non mémorisé");
+  Form->btnEtape2Click();
+  EXPECT_EQ(Form->lblTotal(), 2);
+}

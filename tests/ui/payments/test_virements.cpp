@@ -1,0 +1,181 @@
+// The bank through the real window, by the keyboard: a file, whom its movements went to, and back.
+#include <gtest/gtest.h>
+
+#include <QContextMenuEvent>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+
+#include "screens/payments/frm_attribution_compte.h"
+#include "screens/payments/frm_attribution_virement.h"
+#include "screens/payments/frm_virement.h"
+#include "support/ecran_essai.h"
+#include "ui/commun/vue_grille.h"
+#include "ui/payments/vue_attribution_compte.h"
+#include "ui/payments/vue_attribution_virement.h"
+#include "ui/payments/vue_virement.h"
+#include "ui/programme_essai.h"
+#include "ui/verifier_vue.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kAttribution = u"Attribution manuelle des paiements"_s;
+
+/// Two pupils; a file of five movements, of which the first names its pupil.
+class Virements : public testing::Test {
+ protected:
+  void SetUp() override {
+    TEcoleEssai ecole(Base);
+    ecole.unEleve().nomme(u"LAMBERT"_s, u"Élise"_s).enClasse(u"P3"_s, u"A"_s);
+    ecole.unEleve().nomme(u"DUPONT"_s, u"Zoé"_s).enClasse(u"P1"_s, u"A"_s);
+    QByteArray lignes = QByteArray(";\n").repeated(13);
+    for (const char* ligne : {"A;;;;;10,00;;;;+++000/0110/16104+++", "B;;;;;11,00;;;;b", "C;;;;;12,00;;;;c",
+                              "D;;;;;13,00;;;;d", "E;;;;;14,00;;;;e"})
+      lignes += QByteArray("x;05/10/2016;;;BE68;") + ligne + '\n';
+    Fichier = Base.Fichier(u"releve.csv"_s, lignes);
+    Programme.Demarrer();
+    Touche(Qt::Key_V, Qt::AltModifier);
+  }
+  void Touche(int touche, Qt::KeyboardModifiers avec = {}) {
+    QCoreApplication::processEvents();
+    QApplication::setActiveWindow(&Programme.Fenetre());
+    QWidget* la = QApplication::focusWidget();
+    QTest::keyClick(la != nullptr ? la : &Programme.Fenetre(), static_cast<Qt::Key>(touche), avec);
+    QCoreApplication::processEvents();
+    QApplication::setActiveWindow(&Programme.Fenetre());
+  }
+  /// The entry of the context menu of the list in hand.
+  void Menu(const QString& entree) {
+    QTimer::singleShot(0, [entree] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      ASSERT_NE(menu, nullptr);
+      for (QAction* action : menu->actions())
+        if (action->text() == entree) menu->setActiveAction(action);
+      QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QContextMenuEvent demande(QContextMenuEvent::Keyboard, {}, {});
+    QApplication::sendEvent(QApplication::focusWidget(), &demande);
+    QCoreApplication::processEvents();
+  }
+  VueGrille* Liste(const QString& nom) {
+    for (VueGrille* liste : Programme.Fenetre().VueCourante()->findChildren<VueGrille*>())
+      if (liste->accessibleName() == nom) return liste;
+    throw std::runtime_error(nom.toStdString());
+  }
+  TFrmVirement& Form() { return dynamic_cast<TFrmVirement&>(*Programme.Main().Panneau.Courante()); }
+  QStringList Credits() {
+    return Base.Rangees(
+        u"SELECT ELEVE_ID, DONNEUR_ORDRE FROM FRAIS_ELEVE JOIN EXTRAITS USING (EXTRAIT_ID) ORDER BY 2"_s);
+  }
+
+  TProgrammeEssai Programme;
+  TBaseEssai& Base = Programme.Base;
+  QString Fichier;
+};
+
+}  // namespace
+
+TEST_F(Virements, FromTheFileToTheRecordAndBack) {
+  for (int zone = 0; zone < 3 && !Programme.Vue<VueVirement>()->isAncestorOf(QApplication::focusWidget());
+       ++zone)
+    Touche(Qt::Key_F6);
+  EXPECT_EQ(QApplication::focusWidget(),
+            BoutonDe(Programme.Fenetre(), u"Etape n°1 : Importer vos virements"_s));
+  Programme.Dialogues.Fait(u"Importer vos virements"_s, [this](QWidget& dialogue) {
+    dialogue.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(Fichier);
+    QTest::keyClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open), Qt::Key_Space);
+  });
+  Touche(Qt::Key_Space);
+  Touche(Qt::Key_Space);  // the hand is on step 2
+  EXPECT_EQ(Credits(), QStringList{u"1;A"_s});
+  EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"4 mouvements sont inconnus."));
+
+  Touche(Qt::Key_Tab, Qt::ControlModifier);
+  Touche(Qt::Key_C, Qt::AltModifier);  // the unknown ones are left
+  EXPECT_EQ(Form().Historique.NombreLignes(), 4);
+  VueGrille* liste = Liste(u"Mouvements de l'année"_s);
+  liste->setFocus();
+  liste->sortByColumn(TFrmVirement::Donneur, Qt::DescendingOrder);
+  Touche(Qt::Key_Home);
+  Programme.Dialogues.Fait(kAttribution, [](QWidget& dialogue) {
+    const auto taper = [](const QString& nom) {
+      QTest::keyClicks(QApplication::focusWidget(), nom);
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    };
+    EXPECT_TRUE(TextesDe(dialogue).contains(u"\nE\n")) << "the first one on the screen";
+    taper(u"du"_s);
+    EXPECT_TRUE(TextesDe(dialogue).contains(u"\nD\n")) << "and the next one";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp);
+    EXPECT_TRUE(TextesDe(dialogue).contains(u"Comptabilisé"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown);
+    taper(u"lamb"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  });
+  Touche(Qt::Key_Return);
+  EXPECT_EQ(Credits(), (QStringList{u"1;A"_s, u"1;D"_s, u"2;E"_s}));
+  EXPECT_TRUE(liste->hasFocus());
+  EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"Total de mouvements inconnus : 2"));
+
+  Form().Historique.ChoisirLigne(0);
+  Menu(u"Compte responsable 2"_s);
+  Menu(u"Cacher le mouvement"_s);
+  Menu(u"Attribuer à l'année scolaire précédente"_s);
+  EXPECT_EQ(Base.Rangees(u"SELECT DONNEUR_ORDRE, FLG_IGNORE, TYPE_RESPONSABLE, ANNEE_SCOLAIRE FROM EXTRAITS "
+                         "WHERE DONNEUR_ORDRE IN ('B', 'C') ORDER BY 1"_s)
+                .join(u' ')
+                .remove(u'-'),
+            u"B;1;2;2016 C;;;2015");
+
+  // On the record: the account of one of two payers, and the payment of the other taken back.
+  Touche(Qt::Key_F3);
+  QTest::keyClicks(QApplication::focusWidget(), u"lamb"_s);
+  Touche(Qt::Key_L, Qt::AltModifier);
+  for (QAbstractButton* bouton : Programme.Fenetre().VueCourante()->findChildren<QAbstractButton*>())
+    if (bouton->accessibleName() == u"Comptes vus sur les virements") bouton->setFocus();
+  Programme.Dialogues.Fait(u"Attribution de compte bancaire sur base des virements"_s, [](QWidget&) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  });
+  Touche(Qt::Key_Space);
+  EXPECT_EQ(Base.Valeur(u"SELECT NOM_TITULAIRE_COMPTE FROM ELEVES WHERE ELEVE_ID = 1"_s), u"D");
+  VueGrille* frais = Liste(u"Frais et paiements"_s);
+  frais->Grille().ChoisirLigne(0);
+  frais->setFocus();
+  Programme.Dialogues.Repond(u"Confirmez-vous la suppression du paiement de 10,00 euros"_s, true);
+  Touche(Qt::Key_Delete);
+  Touche(Qt::Key_V, Qt::AltModifier);
+  EXPECT_EQ(Form().Historique.Textes(0).last(), u"Inconnu") << "nobody has it any more";
+}
+
+TEST(VuesDesVirements, AreWithinReach) {
+  TBaseEssai base;
+  TEcoleEssai ecole(base);
+  ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
+  TEcranEssai ecran(base);
+  TFrmVirement form(ecran.Contexte);
+  form.Montrer();
+  for (int page = 0; page < 3; ++page)
+    VerifierVuePartout([&] {
+      auto vue = std::make_unique<VueVirement>(form, nullptr);
+      vue->findChild<QTabWidget*>()->setCurrentIndex(page);
+      return vue;
+    });
+  base.Dialogues.Saisit(
+      u"Importer"_s,
+      base.Fichier(u"r.csv"_s, QByteArray(";\n").repeated(13) + "x;05/10/2016;;;BE68;A;;;;;10,00;EUR;;;a\n"));
+  form.btnEtape1Click();
+  form.btnEtape2Click();
+  VerifierVuePartout([&] { return std::make_unique<VueVirement>(form, nullptr); });
+  form.Historique.ChoisirLigne(0);
+  TFrmAttributionVirement attribution(ecran.Contexte, form);
+  attribution.Montrer();
+  VerifierVuePartout([&] { return std::make_unique<VueAttributionVirement>(attribution, nullptr); });
+  TFrmAttributionCompte compte(base.Dialogues, {u"BE11"_s, u"BE22"_s}, {u"A"_s, u"B"_s});
+  VerifierVuePartout([&] { return std::make_unique<VueAttributionCompte>(compte, nullptr); });
+}
