@@ -25,6 +25,7 @@
 #include "screens/meals/frm_ticket.h"
 #include "screens/payments/frm_virement.h"
 #include "screens/pupils/frm_import.h"
+#include "screens/pupils/frm_signaletique.h"
 #include "ui/commun/dialogue_base.h"
 #include "ui/commun/theme.h"
 #include "ui/documents/vue_apercu.h"
@@ -73,6 +74,7 @@ class Photographe : public QObject {
     using enum TGestionnaire;
     suffixe_ = suffixe;
     Signaletique();
+    Dialogues();
     Liste(AdvGlowButton5Click, 3, u"edCout"_s, u"services-tarifs"_s);
     Liste(AdvGlowButton16Click, 2, u"edMontant"_s, u"frais"_s);
     Liste(btnActivitesClick, 1, u"edDateFin"_s, u"activites"_s);
@@ -212,6 +214,40 @@ class Photographe : public QObject {
     Prendre(programme_.Fenetre, u"signaletique"_s);
   }
 
+  /// Takes the picture of the dialog that comes, and closes it.
+  TPas Photo(const QString& nom) {
+    return [this, nom](QWidget& fenetre) {
+      Prendre(fenetre, nom);
+      fenetre.close();
+      return true;
+    };
+  }
+  /// A command by its words, so that the focus goes where it goes for a user.
+  void Declencher(const QString& texte) {
+    for (QAction* action : programme_.Fenetre.findChildren<QAction*>())
+      if (action->text().startsWith(texte)) return action->trigger();
+    throw Exception(u"« " % texte % u" » manque.");
+  }
+
+  /// What the record opens, and the main window.
+  void Dialogues() {
+    auto* fiche = dynamic_cast<TFrmSignaletique*>(programme_.Main.Panneau.Courante());
+    if (fiche == nullptr) throw Exception(u"La fiche ne s'ouvre pas."_s);
+    Suivre({Photo(u"ajout-releve"_s)});
+    fiche->btnAjoutFaitClick();
+    Suivre({Photo(u"calendrier"_s)});
+    fiche->btnCalendrierClick();
+    Suivre({Photo(u"paiement"_s)});
+    fiche->SpeedButton1Click();
+    Suivre({Photo(u"suppression"_s)});
+    fiche->Frais.Grille.ChoisirLigne(0);
+    fiche->SpeedButton2Click();
+    Suivre({Photo(u"professeur"_s)});
+    programme_.Main.Ajouterunprofesseur1Click();
+    Suivre({Photo(u"touches"_s)});
+    Declencher(u"&Touches"_s);
+  }
+
   /// A list screen while a row is changed.
   void Liste(TGestionnaire ecran, int ligne, const QString& champ, const QString& nom) {
     programme_.Main.Executer(ecran);
@@ -263,7 +299,8 @@ class Photographe : public QObject {
           return true;
         },
         [=, this](QWidget& fenetre) {
-          if (dynamic_cast<VueApercu*>(&fenetre) == nullptr) {  // the date of the payment
+          if (dynamic_cast<VueApercu*>(&fenetre) == nullptr) {
+            Prendre(fenetre, u"date-paiement"_s);
             suivant(fenetre);
             return false;
           }
@@ -309,11 +346,19 @@ class Photographe : public QObject {
     if (dynamic_cast<TfrmPresences*>(programme_.Main.Panneau.Courante()) == nullptr)
       throw Exception(u"Les présences ne s'ouvrent pas."_s);
     Suivre({Fichier(QFileInfo(sujet_.Presences).absoluteFilePath())});
-    // By its menu, so that the focus goes where it goes for a user.
-    for (QAction* action : programme_.Fenetre.findChildren<QAction*>())
-      if (action->text() == u"Importer un fichier de présence") action->trigger();
+    Declencher(u"Importer un fichier de présence"_s);
     Attendre(50);
     Prendre(programme_.Fenetre, u"presences-scanner"_s);
+    Suivre({Photo(u"correction"_s)});
+    auto& form = dynamic_cast<TfrmPresences&>(*programme_.Main.Panneau.Courante());
+    form.Anomalies.ChoisirLigne(form.Anomalies.NombreLignes() - 1);
+    Declencher(u"Corriger le relevé"_s);
+    Suivre({[this](QWidget& fenetre) {
+      Prendre(fenetre, u"presences-abandon"_s);
+      Bouton(fenetre, u"Oui"_s)->click();
+      return true;
+    }});
+    programme_.Main.Executer(TGestionnaire::AdvGlowButton2Click);
   }
 
   /// The three pages, the attribution of what is unknown, and the accounts that the record learns from it.
@@ -390,7 +435,8 @@ void PreparerPoste(const QTemporaryDir& poste, const QString& base) {
   reglages.Ecrire(TRacine::Utilisateur, u"Serveur"_s, copie);
 }
 
-/// In both palettes, at the smallest size and at a usual one.
+/// In both palettes, at the smallest size and at a usual one; and on small screens. 960 x 540 are the points
+/// of 1920 x 1080 at 200 %.
 void ChaqueVue(Application& application, FenetrePrincipale& fenetre,
                const std::function<void(const QString&)>& prendre) {
   const struct {
@@ -400,6 +446,8 @@ void ChaqueVue(Application& application, FenetrePrincipale& fenetre,
   } vues[] = {
       {Theme::TMode::Clair, {1366, 768}, u"-1366x768"_s},
       {Theme::TMode::Sombre, {1366, 768}, u"-sombre-1366x768"_s},
+      {Theme::TMode::Clair, {1024, 768}, u"-1024x768"_s},
+      {Theme::TMode::Clair, {960, 540}, u"-960x540"_s},
       {Theme::TMode::Clair, {1920, 1080}, u"-1920x1080"_s},
       {Theme::TMode::Sombre, {1920, 1080}, u"-sombre-1920x1080"_s},
   };

@@ -67,8 +67,8 @@ QString TexteDuChamp(const TChamp& champ, const TValeurVue& valeur) {
 TValeurVue ValeurDuTexte(const TChamp& champ, const QString& texte) {
   const bool simple = EstTexte(champ.Genre);
   if (!simple && !champ.Obligatoire && EstVide(texte)) return {};
-  const bool absent =
-      simple ? texte.trimmed().isEmpty() : champ.Genre == TGenreChamp::Choix && texte == u"-1";
+  const bool absent = simple ? texte.trimmed().isEmpty()
+                             : EstVide(texte) || (champ.Genre == TGenreChamp::Choix && texte == u"-1");
   if (champ.Obligatoire && absent) throw EConvertError(u"Ce champ doit être rempli."_s);
   switch (champ.Genre) {
     case TGenreChamp::Entier:

@@ -7,7 +7,7 @@ set(icones
   document-new document-edit document-save edit-delete document-print mail-send document-export
   document-open view-refresh network-connect network-disconnect application-exit camera-photo
   # search, lists
-  edit-find go-down-search view-filter edit-copy list-add list-remove edit-clear go-down view-calendar
+  edit-find go-down-search view-filter edit-copy list-add list-remove edit-clear edit-undo go-down view-calendar view-calendar-month
   # states
   dialog-ok-apply data-warning data-error data-information
   # preview

@@ -65,7 +65,7 @@ TEST_F(Champs, UnTexteSeConvertitOuResteAvecSaFaute) {
       {Prix, "0,0125", "0,0125", ""},
       {Prix, "2.20", "2.20", "« 2.20 » n'est pas un montant (par exemple 2,20)."},
       {Prix, "1e3", "1e3", "« 1e3 » n'est pas un montant (par exemple 2,20)."},
-      {Prix, "", "", "«  » n'est pas un montant (par exemple 2,20)."},
+      {Prix, "", "", "Ce champ doit être rempli."},
       {Date, "1/9/16", "01/09/2016", ""},
       {Date, "31/02/2016", "31/02/2016", "Date incorrecte."},
       {Date, " ", "", ""},

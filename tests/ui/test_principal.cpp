@@ -359,6 +359,7 @@ TEST_F(Principal, LongWorkKeepsTheWindowShutAndAlive) {
     progression.Avancer(4, u"DUBOIS Léa"_s);
     dialogues.TraiterEvenements();
     EXPECT_TRUE(TextesDe(*Fenetre().findChild<FeuilleProgression*>()).contains(u"4 sur 10\n"));
+    EXPECT_TRUE(Etat().startsWith(u"Travail en cours")) << Etat().toStdString();
     EXPECT_FALSE(Arbre()->isEnabled() || Fenetre().Barre()->Annees()->isEnabled());
     Fenetre().close();
     EXPECT_TRUE(Fenetre().isVisible());

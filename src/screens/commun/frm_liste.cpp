@@ -82,7 +82,9 @@ bool TFrmListe::Enregistrer() {
   supprime_.clear();
   Passer(TModeEdition::Lecture);
   MontrerLigne();
-  Dire(TNiveauEtat::Succes, textes_.Enregistre);
+  const QString avis = Avis();
+  avis.isEmpty() ? Dire(TNiveauEtat::Succes, textes_.Enregistre)
+                 : Dire(TNiveauEtat::Alerte, QString(textes_.Enregistre % u" : " % avis));
   ApresChangement();
   return true;
 }
@@ -107,10 +109,19 @@ void TFrmListe::Retablir() {
   ApresChangement();
 }
 
-void TFrmListe::Imprimer() {
+void TFrmListe::Imprimer(const std::vector<int>& lignes, const std::vector<int>& colonnes) {
   TRapport rapport(textes_.Titre, u"RepDynamicFromListviewPortrait"_s);
   rapport.NomUsuel = textes_.Liste;
-  rapport.ChargerColonnesGrille(Grille);
+  std::vector<TColonneGrille> vues;
+  for (const int colonne : colonnes) vues.push_back(Grille.Colonne(colonne));
+  TGrille extrait(std::move(vues));
+  extrait.Etats = Grille.Etats;
+  for (const int ligne : lignes) {
+    TCellules cellules;
+    for (const int colonne : colonnes) cellules.push_back(Grille.Ligne(ligne).Valeur(colonne));
+    extrait.Ajouter(std::move(cellules), {}, Grille.Ligne(ligne).Etat);
+  }
+  rapport.ChargerColonnesGrille(extrait);
   contexte_.Apercu.Afficher(rapport);
 }
 

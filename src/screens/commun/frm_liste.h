@@ -47,8 +47,8 @@ class TFrmListe : public TForm {
   /// The record deleted last comes back as a new row; only until the next change.
   void Retablir();
   bool PeutRetablir() const { return !supprime_.empty(); }
-  /// The list as it stands in a preview, its columns on the page.
-  void Imprimer();
+  /// The rows and columns of the list, in the order in which they are shown, in a preview.
+  void Imprimer(const std::vector<int>& lignes, const std::vector<int>& colonnes);
 
   bool RecevoirMessage(const TMessage& message) override;
   bool Accepte(TCodeMessage code) const override;
@@ -77,6 +77,8 @@ class TFrmListe : public TForm {
   /// Removes the current row and stores that; returns what brings it back. Raises Exception as `Ranger`.
   virtual TCellules Oter() = 0;
   virtual void Remettre(const TCellules& valeurs) = 0;
+  /// What the user should know of the current row, which was just stored; "" for nothing.
+  virtual QString Avis() const { return {}; }
   /// A row was stored, removed or brought back.
   virtual void ApresChangement() {}
 

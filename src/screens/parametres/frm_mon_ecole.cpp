@@ -14,10 +14,13 @@ using TRang = TChampDe<TParametres>;
 
 constexpr int kNomImplantationMaximum = 50;
 
-TRang Texte(const char16_t* nom, TParam param, const char16_t* libelle) {
-  return {
-      {.Nom = QString::fromUtf16(nom), .Libelle = QString::fromUtf16(libelle), .Longueur = kParametreMaximum},
-      Reglage(param)};
+/// `largeur` 0 takes the width of the page.
+TRang Texte(const char16_t* nom, TParam param, const char16_t* libelle, int largeur = 0) {
+  return {{.Nom = QString::fromUtf16(nom),
+           .Libelle = QString::fromUtf16(libelle),
+           .Longueur = kParametreMaximum,
+           .Largeur = largeur},
+          Reglage(param)};
 }
 
 /// Four numbers on a row: from an hour and a minute to an hour and a minute.
@@ -55,9 +58,9 @@ TTableChamps<TParametres> ChampsEcole() {
   TTableChamps<TParametres> table{
       Texte(u"edNomEcole", NomEcole, u"Nom de l'école:"),
       Texte(u"edEcoleAdresse", RueEcole, u"Adresse:"),
-      Texte(u"edEcoleCodePostal", CodePostalEcole, u"Code postal:"),
+      Texte(u"edEcoleCodePostal", CodePostalEcole, u"Code postal:", 96),
       Texte(u"edEcoleLocalite", LocaliteEcole, u"Localité :"),
-      Texte(u"edEcoleTelephone", TelephoneEcole, u"N° de téléphone:"),
+      Texte(u"edEcoleTelephone", TelephoneEcole, u"N° de téléphone:", 200),
       Texte(u"edEmail", EmailEcole, u"Adresse de messagerie:"),
       Texte(u"edImplantation", NomImplantation, u"Nom de l'implantation:"),
       Texte(u"edCompteBancaire", CompteBanque, u"N° de compte bancaire :"),

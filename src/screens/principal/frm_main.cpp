@@ -346,14 +346,19 @@ QString TFrmMain::TexteServeur() const {
   return Globals.ModeHorsLigne ? u"Hors ligne"_s : u"Non connecté"_s;
 }
 
+QString TFrmMain::TexteTravail() const {
+  const TCommandePrincipale* ouverte = CommandeOuverte();
+  return ouverte == nullptr ? kTravailEnCours : QString(kTravailEnCours % u" : " % ouverte->Nom());
+}
+
 // The numbers stand on the sheet of the progress; the status bar, which is read aloud, says it once.
 void TFrmMain::Travail(int total) {
   const bool enTravail = total > 0;
   if (enTravail == enTravail_) return;
   enTravail_ = enTravail;
   if (enTravail)
-    Etat(TNiveauEtat::Neutre, kTravailEnCours);
-  else if (etat_.Texte == kTravailEnCours || etat_.Texte == kFermetureRefusee)
+    Etat(TNiveauEtat::Neutre, TexteTravail());
+  else if (etat_.Texte.startsWith(kTravailEnCours) || etat_.Texte == kFermetureRefusee)
     Etat(TNiveauEtat::Neutre, {});
   Annoncer();
 }

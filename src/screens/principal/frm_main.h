@@ -114,6 +114,8 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   /// A long work goes on; `total` 0 ends it. Commands, tree and closing are off meanwhile.
   void Travail(int total);
   bool EnTravail() const { return enTravail_; }
+  /// What the work is, by the screen that does it: "Travail en cours : Importation".
+  QString TexteTravail() const;
 
   // What screens send.
   bool RecevoirMessage(const TMessage& message) override;

@@ -138,7 +138,8 @@ void TFrmImport::DireSansSite() const {
                   u'\n' % effet_.SansSite.mid(0, kNomsListes).join(u'\n');
   if (nombre > kNomsListes) texte += u"\net %1 de plus"_s.arg(nombre - kNomsListes);
   if (Globals.Eleves->PlusieursImplantations())
-    texte += u"\nIls n'apparaissent pas dans la liste des élèves."_s;
+    texte += nombre == 1 ? u"\nIl n'apparaît pas dans la liste des élèves."_s
+                         : u"\nIls n'apparaissent pas dans la liste des élèves."_s;
   contexte_.Dialogues().Information(texte);
 }
 

@@ -80,3 +80,13 @@ TFrmParametresGarderies::TFrmParametresGarderies(TContexteEcran& contexte)
     : TFrmListeDe(contexte, TextesTarifs(), Colonnes(), ::Champs()) {}
 
 TCollection<T>& TFrmParametresGarderies::Collection() const { return *Globals.TarifsGarderies; }
+
+QString TFrmParametresGarderies::Avis() const {
+  if (Courant() == nullptr) return {};
+  const T& tarif = *Courant();
+  QStringList manques;
+  if (tarif.TypeFamille == TTypeFamille::Indefini) manques += u"de type de service"_s;
+  if (tarif.TypeJour == TTypeJour::Aucun) manques += u"de jours"_s;
+  if (tarif.TypeForfait == TTypeForfait::Aucun) manques += u"d'unité après le coût"_s;
+  return manques.isEmpty() ? QString() : QString(u"il ne coûtera rien, faute " % manques.join(u", "));
+}

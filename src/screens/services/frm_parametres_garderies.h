@@ -9,4 +9,6 @@ class TFrmParametresGarderies : public TFrmListeDe<TTarifGarderie> {
 
  protected:
   TCollection<TTarifGarderie>& Collection() const override;
+  /// What is missing for the row to cost anything.
+  QString Avis() const override;
 };

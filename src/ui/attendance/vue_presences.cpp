@@ -1,7 +1,6 @@
 #include "ui/attendance/vue_presences.h"
 
 #include <QContextMenuEvent>
-#include <QHeaderView>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -32,16 +31,6 @@ const struct {
              {u"anomalie"_s, u"anomalies"_s},
              {u"total"_s, u"total"_s}};
 constexpr int kAnomalies = 2;
-
-/// Both ways: drawing a column in one grid draws it in the other.
-void Accorder(const VueGrille& a, const VueGrille& b) {
-  for (const auto& [de, vers] : {std::pair{&a, &b}, std::pair{&b, &a}})
-    QObject::connect(de->header(), &QHeaderView::sectionResized, vers->header(),
-                     [de = de, tete = vers->header()](int colonne, int, int largeur) {
-                       if (colonne != de->ColonneSouple() && tete->sectionSize(colonne) != largeur)
-                         tete->resizeSection(colonne, largeur);
-                     });
-}
 
 }  // namespace
 
@@ -80,7 +69,7 @@ void VuePresences::CreerGrilles() {
   anomalies_->GarderBarre();
   recapitulatif_->GarderBarre();
   recapitulatif_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-  Accorder(*anomalies_, *recapitulatif_);
+  VueGrille::Accorder(*anomalies_, *recapitulatif_);
   auto* corriger = new QAction(corriger_->icon(), corriger_->text(), anomalies_);
   anomalies_->addAction(corriger);
   corriger_->setToolTip(u"Corriger le relevé choisi (F2, Entrée)"_s);

@@ -2,10 +2,12 @@
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QCheckBox>
+#include <QRadioButton>
 
 namespace {
 
-/// Qt tells of a button that can be checked that it is to be toggled, which opens no screen.
+/// Qt toggles a button that can be checked, and nobody hears of it: screens follow clicks.
 class AccesBouton : public QAccessibleWidget {
  public:
   AccesBouton(QAbstractButton* bouton, QAccessible::Role role) : QAccessibleWidget(bouton, role) {}
@@ -16,26 +18,40 @@ class AccesBouton : public QAccessibleWidget {
   }
   QAccessible::State state() const override {
     QAccessible::State etat = QAccessibleWidget::state();
-    etat.selectable = role() == QAccessible::PageTab;
-    etat.selected = role() == QAccessible::PageTab && Bouton()->isChecked();
-    etat.checked = role() != QAccessible::PageTab && Bouton()->isChecked();
+    const bool onglet = role() == QAccessible::PageTab;
+    etat.selectable = onglet;
+    etat.selected = onglet && Bouton()->isChecked();
+    etat.checkable = !onglet && Bouton()->isCheckable();
+    etat.checked = !onglet && Bouton()->isChecked();
+    etat.checkStateMixed = EnPartie();
+    etat.pressed = Bouton()->isDown();
     return etat;
   }
   QStringList actionNames() const override {
-    return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+    const QStringList siens = Bouton()->isEnabled() ? QStringList{Geste()} : QStringList();
+    return siens + QAccessibleWidget::actionNames();
   }
   void doAction(const QString& action) override {
-    if (action == pressAction())
+    if (action == Geste() || action == pressAction())
       Bouton()->click();
     else
       QAccessibleWidget::doAction(action);
   }
   QStringList keyBindingsForAction(const QString& action) const override {
-    if (action != pressAction()) return QAccessibleWidget::keyBindingsForAction(action);
+    if (action != Geste()) return QAccessibleWidget::keyBindingsForAction(action);
     return {Bouton()->shortcut().toString()};
   }
 
  private:
+  /// What it is called to an assistive program.
+  const QString& Geste() const {
+    const bool coche = role() == QAccessible::CheckBox || role() == QAccessible::RadioButton;
+    return coche ? toggleAction() : pressAction();
+  }
+  bool EnPartie() const {
+    const auto* boite = qobject_cast<const QCheckBox*>(object());
+    return boite != nullptr && boite->checkState() == Qt::PartiallyChecked;
+  }
   QAbstractButton* Bouton() const { return static_cast<QAbstractButton*>(object()); }
 };
 
@@ -45,7 +61,10 @@ QAccessibleInterface* Creer(const QString&, QObject* objet) {
   const QString genre = bouton->property("genre").toString();
   if (genre == u"onglet" && bouton->isCheckable()) return new AccesBouton(bouton, QAccessible::PageTab);
   if (genre == u"onglet" || genre == u"commande") return new AccesBouton(bouton, QAccessible::Button);
-  return nullptr;
+  if (qobject_cast<QCheckBox*>(bouton) != nullptr) return new AccesBouton(bouton, QAccessible::CheckBox);
+  if (qobject_cast<QRadioButton*>(bouton) != nullptr)
+    return new AccesBouton(bouton, QAccessible::RadioButton);
+  return bouton->isCheckable() ? new AccesBouton(bouton, QAccessible::Button) : nullptr;
 }
 
 }  // namespace

@@ -145,6 +145,13 @@ QToolButton[genre="onglet"]:hover, QToolButton#annees { color: @Texte; }
 QToolButton[genre="onglet"]:checked { color: @Texte; font-weight: 600; border-bottom-color: @Accent; }
 QToolButton[genre="onglet"]:focus { border: 2px solid @Accent; border-bottom: 3px solid @Accent;
   border-radius: @4; padding: @4 @10; }
+QTabWidget::pane { border: 0; border-top: 1px solid @Ligne; }
+QTabBar { qproperty-drawBase: 0; }
+QTabBar::tab { border: 0; border-bottom: 3px solid transparent; padding: @4 @12; background: transparent;
+  color: @Secondaire; }
+QTabBar::tab:hover { color: @Texte; }
+QTabBar::tab:selected { color: @Texte; border-bottom-color: @Accent; }
+QTabBar::tab:selected:focus { border: 2px solid @Accent; border-bottom: 3px solid @Accent; border-radius: @4; }
 QStatusBar::item { border: 0; }
 QMenu::separator { height: 1px; margin: @4 0; background: @Ligne; }
 QAbstractItemView { selection-color: @SurSelection; }

@@ -5,21 +5,17 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMetaMethod>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
-#include <QTimer>
 #include <QToolTip>
 #include <cmath>
 
 #include "core/fichiers.h"
-#include "core/reglages_poste.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/menu_grille.h"
 #include "ui/commun/modele_grille.h"
@@ -140,98 +136,6 @@ VueGrille::~VueGrille() {
   if (aRetenir_) Retenir();
 }
 
-// Columns
-
-int VueGrille::ColonneSouple() const {
-  if (souple_ >= 0) return souple_;
-  int plusLarge = 0;
-  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
-    if (!EstADroite(grille_.Colonne(colonne).Genre) &&
-        grille_.Colonne(colonne).Largeur > grille_.Colonne(plusLarge).Largeur)
-      plusLarge = colonne;
-  return plusLarge;
-}
-
-void VueGrille::DefinirColonneSouple(int colonne) {
-  souple_ = colonne;
-  PoserColonnes();
-}
-
-void VueGrille::PoserColonnes() {
-  const Pendant pendant(enCours_);
-  header()->setMinimumSectionSize(Theme::Px(32));
-  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
-    header()->setSectionResizeMode(
-        colonne, colonne == ColonneSouple() ? QHeaderView::Stretch : QHeaderView::Interactive);
-    header()->resizeSection(colonne, Theme::Px(grille_.Colonne(colonne).Largeur));
-  }
-  Rappeler();
-  ElargirPlusTard();
-}
-
-void VueGrille::ElargirPlusTard() {
-  if (std::exchange(elargir_, true)) return;
-  QMetaObject::invokeMethod(this, &VueGrille::ElargirMontants, Qt::QueuedConnection);
-}
-
-/// An amount that is cut is another amount.
-void VueGrille::ElargirMontants() {
-  const Pendant pendant(enCours_);
-  elargir_ = false;
-  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
-    if (EstMontant(grille_.Colonne(colonne).Genre) && colonne != ColonneSouple())
-      header()->resizeSection(colonne, std::max(header()->sectionSize(colonne), sizeHintForColumn(colonne)));
-}
-
-/// Once the hand has let go of the column, not at each pixel.
-void VueGrille::RetenirBientot() {
-  if (enCours_ || ecran_.isEmpty() || std::exchange(aRetenir_, true)) return;
-  QTimer::singleShot(500, this, &VueGrille::Retenir);
-}
-
-/// Under the user: columns in their order with their widths at 10 points, and what they are put in
-/// order by. By title, so that a list that has changed starts afresh.
-void VueGrille::Retenir() {
-  if (!std::exchange(aRetenir_, false)) return;
-  QJsonArray colonnes;
-  for (int rang = 0; rang < header()->count(); ++rang) {
-    const TColonneGrille& colonne = grille_.Colonne(header()->logicalIndex(rang));
-    colonnes.append(QJsonArray{colonne.Titre, colonne.Largeur});
-  }
-  QJsonObject retenu{{u"colonnes"_s, colonnes}};
-  if (const int tri = header()->sortIndicatorSection(); tri >= 0)
-    retenu[u"tri"_s] =
-        QJsonArray{grille_.Colonne(tri).Titre, header()->sortIndicatorOrder() == Qt::AscendingOrder};
-  TReglagesPoste().Ecrire(TRacine::Utilisateur, u"Grilles/" % ecran_,
-                          QString::fromUtf8(QJsonDocument(retenu).toJson(QJsonDocument::Compact)));
-}
-
-void VueGrille::Rappeler() {
-  if (ecran_.isEmpty()) return;
-  const QString texte = TReglagesPoste().Lire(TRacine::Utilisateur, u"Grilles/" % ecran_);
-  const QJsonObject retenu = QJsonDocument::fromJson(texte.toUtf8()).object();
-  const QJsonArray colonnes = retenu[u"colonnes"_s].toArray();
-  const auto colonneDe = [this](const QString& titre) {
-    for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
-      if (grille_.Colonne(colonne).Titre == titre) return colonne;
-    return -1;
-  };
-  if (colonnes.size() != grille_.NombreColonnes()) return;
-  for (const auto& valeur : colonnes)
-    if (colonneDe(valeur[0].toString()) < 0) return;
-  for (int rang = 0; rang < static_cast<int>(colonnes.size()); ++rang) {
-    const int colonne = colonneDe(colonnes[rang][0].toString());
-    const int largeur = std::max(colonnes[rang][1].toInt(), 24);
-    header()->moveSection(header()->visualIndex(colonne), rang);
-    if (colonne == ColonneSouple()) continue;
-    grille_.ChangerLargeur(colonne, largeur);
-    header()->resizeSection(colonne, Theme::Px(largeur));
-  }
-  const QJsonArray tri = retenu[u"tri"_s].toArray();
-  if (tri.size() == 2)
-    sortByColumn(colonneDe(tri[0].toString()), tri[1].toBool() ? Qt::AscendingOrder : Qt::DescendingOrder);
-}
-
 // Following the grid
 
 QModelIndex VueGrille::IndexDe(int ligne) const { return filtre_->mapFromSource(modele_->Index(ligne)); }
@@ -255,7 +159,7 @@ void VueGrille::SuivreGrille(int ligne) {
       executeDelayedItemsLayout();
       verticalScrollBar()->setValue(hauteur);
     }
-    ElargirPlusTard();
+    RepartirPlusTard();
   }
   emit Changee();
 }
@@ -463,6 +367,11 @@ int VueGrille::HauteurPour(int lignes) const {
   return header()->sizeHint().height() + lignes * Theme::Px(kHauteurLigne) + 2 * frameWidth();
 }
 
+void VueGrille::resizeEvent(QResizeEvent* evenement) {
+  QTreeView::resizeEvent(evenement);
+  if (evenement->size().width() != evenement->oldSize().width()) RepartirPlusTard();
+}
+
 QSize VueGrille::sizeHint() const { return {QTreeView::sizeHint().width(), HauteurPour(8)}; }
 
 void VueGrille::changeEvent(QEvent* evenement) {
@@ -472,6 +381,6 @@ void VueGrille::changeEvent(QEvent* evenement) {
     for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
       header()->resizeSection(colonne, Theme::Px(grille_.Colonne(colonne).Largeur));
     scheduleDelayedItemsLayout();
-    ElargirPlusTard();
+    RepartirPlusTard();
   }
 }

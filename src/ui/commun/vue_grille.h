@@ -1,4 +1,5 @@
 #pragma once
+#include <QPointer>
 #include <QTreeView>
 
 #include "forms/grille.h"
@@ -6,6 +7,7 @@
 class ChampFiltre;
 class ModeleGrille;
 class FiltreGrille;
+struct TBesoinColonne;
 
 /// The view of a TGrille, which outlives it. Rows are those of the grid, whatever order and filter
 /// show. Groups fold by arrow, click, Left and Right; Space ticks; Ctrl+C copies the row with tabs,
@@ -25,10 +27,13 @@ class VueGrille : public QTreeView {
   /// The column that takes the room that is left, or gives way; the widest on the left by default.
   void DefinirColonneSouple(int colonne);
   int ColonneSouple() const;
+  /// What is shown: the rows of the grid from top to bottom, the columns from left to right.
+  std::vector<int> LignesVues() const;
+  std::vector<int> ColonnesVues() const;
+  /// Both keep the same widths, whichever of them is drawn.
+  static void Accorder(VueGrille& a, VueGrille& b);
   /// Rows that the filter lets through, heads not counted.
   int NombreVisibles() const;
-  /// What is shown: the rows of the grid from top to bottom.
-  std::vector<int> LignesVues() const;
   /// The height for so many rows, its header included.
   int HauteurPour(int lignes) const;
   /// The scroll bar keeps its place even when there is nothing to scroll (see PiedDeGrille).
@@ -70,6 +75,7 @@ class VueGrille : public QTreeView {
   void contextMenuEvent(QContextMenuEvent* evenement) override;
   void mouseDoubleClickEvent(QMouseEvent* evenement) override;
   bool viewportEvent(QEvent* evenement) override;
+  void resizeEvent(QResizeEvent* evenement) override;
 
  private:
   friend class PiedDeGrille;
@@ -77,15 +83,16 @@ class VueGrille : public QTreeView {
   void SuivreChoix();
   void RemettreGroupes();
   void PoserColonnes();
-  void ElargirPlusTard();
-  void ElargirMontants();
+  void RepartirPlusTard();
+  void SuivreLargeurs(const VueGrille& autre);
+  int LargeurContenu(int colonne) const;
+  std::vector<TBesoinColonne> Besoins(int place) const;
+  void Repartir();
   void RetenirBientot();
   void Retenir();
   void Rappeler();
   QModelIndex IndexDe(int ligne) const;
   int LigneDe(const QModelIndex& index) const;
-  /// The columns that are shown, from left to right.
-  std::vector<int> ColonnesVues() const;
   QString Copie(int ligne) const;
   void CreerFiltre();
 
@@ -94,9 +101,10 @@ class VueGrille : public QTreeView {
   ModeleGrille* modele_;
   FiltreGrille* filtre_;
   ChampFiltre* champ_ = nullptr;
+  QPointer<VueGrille> jumelle_;  ///< has the same widths
   int souple_ = -1;
-  bool enCours_ = true;    ///< the view itself moves the current row, the folds or the widths
-  bool aRetenir_ = false;  ///< widths or order have changed since they were kept
-  bool elargir_ = false;   ///< the widening is asked for
+  bool enCours_ = true;     ///< the view itself moves the current row, the folds or the widths
+  bool aRetenir_ = false;   ///< widths or order have changed since they were kept
+  bool aRepartir_ = false;  ///< the widths are to be seen to
   TLiens liens_;
 };

@@ -34,9 +34,9 @@ VueListe::VueListe(TFrmListe& form, QWidget* parent)
   liste_->setMinimumHeight(liste_->HauteurPour(4));
   setWidget(page);
 
-  AjouterAction(u"Rétablir ce qui a été supprimé\tCtrl+Z"_s, u"edit-undo"_s, &TFrmListe::Retablir,
-                &TFrmListe::PeutRetablir, u"Ctrl+Z"_s);
-  AjouterAction(u"Imprimer la liste..."_s, u"document-print"_s, &TFrmListe::Imprimer, nullptr, {});
+  AjouterRetablir();
+  liste_->addAction(Theme::Icone(u"document-print"_s), u"Imprimer la liste..."_s, this,
+                    [this] { form_.Imprimer(liste_->LignesVues(), liste_->ColonnesVues()); });
   connect(liste_, &VueGrille::Activee, this, [this] { form_.RecevoirMessage({TCodeMessage::Modifier, {}}); });
   connect(liste_, &VueGrille::Suppression, this, [this] {
     form_.RecevoirMessage({TCodeMessage::Supprimer, {}});
@@ -76,16 +76,15 @@ QWidget* VueListe::CreerPanneau() {
   return panneau;
 }
 
-void VueListe::AjouterAction(const QString& texte, const QString& icone, void (TFrmListe::*faire)(),
-                             bool (TFrmListe::*permise)() const, const QString& touche) {
-  auto* action = new QAction(Theme::Icone(icone), texte, liste_);
-  connect(action, &QAction::triggered, this, [this, faire] { (form_.*faire)(); });
-  liste_->addAction(action);
-  if (permise == nullptr) return;
+void VueListe::AjouterRetablir() {
+  auto* action =
+      new QAction(Theme::Icone(u"edit-undo"_s), u"Rétablir ce qui a été supprimé\tCtrl+Z"_s, liste_);
   action->setEnabled(false);
-  liens_ += form_.SurCommandes.Suivre([this, action, permise] { action->setEnabled((form_.*permise)()); });
+  connect(action, &QAction::triggered, this, [this] { form_.Retablir(); });
+  liste_->addAction(action);
+  liens_ += form_.SurCommandes.Suivre([this, action] { action->setEnabled(form_.PeutRetablir()); });
   auto* partout = new QAction(this);  // wherever the hand is, but in a field, which undoes its own typing
-  partout->setShortcut(QKeySequence(touche));
+  partout->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
   partout->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   connect(partout, &QAction::triggered, action, &QAction::trigger);
   addAction(partout);
@@ -105,6 +104,8 @@ void VueListe::Actualiser() {
   const bool foyer = !lecture && liste_->hasFocus();
   liste_->setEnabled(lecture);
   if (foyer) liaison_->AllerA(0);
+  if (lecture && !lecture_) liste_->setFocus(Qt::OtherFocusReason);
+  lecture_ = lecture;
   form_.Grille.NombreLignes() > 0 || !lecture
       ? vide_->Cacher()
       : vide_->Montrer(form_.Textes().Vide, form_.Textes().VideSuite, u"Nouveau"_s);
@@ -114,5 +115,4 @@ void VueListe::keyPressEvent(QKeyEvent* evenement) {
   if (evenement->key() != Qt::Key_Escape || form_.Mode() == TModeEdition::Lecture)
     return QScrollArea::keyPressEvent(evenement);
   form_.Annuler();
-  liste_->setFocus(Qt::OtherFocusReason);
 }

@@ -28,8 +28,7 @@ class VueListe : public QScrollArea {
  private:
   QWidget* CreerTitre();
   QWidget* CreerPanneau();
-  void AjouterAction(const QString& texte, const QString& icone, void (TFrmListe::*faire)(),
-                     bool (TFrmListe::*permise)() const, const QString& touche);
+  void AjouterRetablir();
 
   TFrmListe& form_;
   VueGrille* liste_;
@@ -38,5 +37,6 @@ class VueListe : public QScrollArea {
   TitreSection* titre_;
   MarqueEtat* marque_;
   QBoxLayout* panneau_;
+  bool lecture_ = true;  ///< as it was shown last: once the panel is left the hand is at the list
   TLiens liens_;
 };

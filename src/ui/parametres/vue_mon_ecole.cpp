@@ -15,7 +15,7 @@ namespace {
 
 QVBoxLayout* Remplir(QWidget& page) {
   auto* colonne = new QVBoxLayout(&page);
-  colonne->setContentsMargins(Theme::Px(16), Theme::Px(16), Theme::Px(16), Theme::Px(16));
+  colonne->setContentsMargins(0, Theme::Px(16), 0, 0);
   colonne->setSpacing(Theme::Px(12));
   return colonne;
 }
@@ -36,13 +36,20 @@ VueMonEcole::VueMonEcole(TFrmMonEcole& form, QWidget* parent) : QScrollArea(pare
   pages_->setAccessibleName(u"Pages de mon école"_s);
   pages_->addTab(CreerDenomination(form), u"Dénomination de l'école"_s);
   pages_->addTab(CreerImplantations(form), u"Implantations"_s);
-  setFocusProxy(pages_);
+  setFocusProxy(pages_);  // a field that is left is written: none is entered by itself
 }
 
 QWidget* VueMonEcole::CreerDenomination(TFrmMonEcole& form) {
   auto* page = new QWidget;
   QVBoxLayout* colonne = Remplir(*page);
-  colonne->addLayout(CreerFormulaire(*new LiaisonChamps(form.Ecole, this)));
+  auto* liaison = new LiaisonChamps(form.Ecole, this);
+  auto* champs = new QWidget;
+  champs->setLayout(CreerFormulaire(*liaison));
+  champs->setMaximumWidth(Theme::Px(720));
+  auto* rang = new QHBoxLayout;
+  rang->addWidget(champs, 1);
+  rang->addStretch();
+  colonne->addLayout(rang);
   colonne->addStretch(1);
   return page;
 }

@@ -30,14 +30,20 @@ VueParametres::VueParametres(TFrmParametres& form, QWidget* parent)
   liens_ += form.SurChangement.Suivre(professeur);
   professeur();
   pages_->setAccessibleName(u"Pages des paramètres"_s);
-  setFocusProxy(pages_);
+  setFocusProxy(pages_);  // a field that is left is written: none is entered by itself
 }
 
 QBoxLayout* VueParametres::CreerPage(const QString& titre) {
-  auto* page = new QWidget;
-  auto* colonne = new QVBoxLayout(page);
-  colonne->setContentsMargins(Theme::Px(16), Theme::Px(16), Theme::Px(16), Theme::Px(16));
+  auto* contenu = new QWidget;
+  contenu->setMaximumWidth(Theme::Px(960));
+  auto* colonne = new QVBoxLayout(contenu);
+  colonne->setContentsMargins(0, Theme::Px(16), 0, 0);
   colonne->setSpacing(Theme::Px(12));
+  auto* page = new QWidget;
+  auto* rang = new QHBoxLayout(page);
+  rang->setContentsMargins(0, 0, 0, 0);
+  rang->addWidget(contenu, 1);
+  rang->addStretch();
   pages_->addTab(page, titre);
   return colonne;
 }

@@ -3,6 +3,8 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTimer>
@@ -31,6 +33,11 @@ class Trait : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), Theme::Ligne()); }
 };
+
+// At 10 points. The bar asks for this width, and a screen scrolls below the height that it was laid out for;
+// larger text does not ask for more than the usual smallest screen has.
+constexpr QSize kUsuelle(1366, 768);
+constexpr QSize kMoindre(960, 480);
 
 bool PeutPrendreFoyer(const QWidget* champ) {
   return champ->isVisible() && champ->isEnabled() && (champ->focusPolicy() & Qt::TabFocus) != 0;
@@ -100,8 +107,8 @@ void FenetrePrincipale::Disposer() {
   colonne->addLayout(milieu, 1);
   colonne->addWidget(etat_);
   setCentralWidget(centre);
-  setMinimumSize(1366, 690);
-  resize(1366, 768);
+  setMinimumSize(QSize(Theme::Px(kMoindre.width()), Theme::Px(kMoindre.height())).boundedTo(kUsuelle));
+  resize(kUsuelle.boundedTo(screen()->availableSize()));
 }
 
 void FenetrePrincipale::Suivre() {
@@ -150,7 +157,7 @@ void FenetrePrincipale::ActualiserContenu() {
     return;
   }
   QWidget* vue = VueCourante();
-  contenu_->setCurrentWidget(vue != nullptr ? vue : rien_);
+  contenu_->setCurrentWidget(vue != nullptr ? Page(vue) : rien_);
   if (vue != nullptr || !form_.EstRelie()) {
     vide_->Cacher();
     return;
@@ -176,7 +183,26 @@ void FenetrePrincipale::SuivreEtape(TForm& form, TEtapeForm etape) {
     foyerDuContenu_ = true;  // the screen that takes its place gets it
     QTimer::singleShot(0, this, [this] { foyerDuContenu_ = false; });
   }
-  if (etape == TEtapeForm::Liberee) delete vues_.take(&form);
+  if (etape == TEtapeForm::Liberee && vue != nullptr) delete Page(vues_.take(&form));
+}
+
+// The view itself, or what scrolls it where the window is smaller than what it was laid out for.
+QWidget* FenetrePrincipale::Page(QWidget* vue) const {
+  while (vue->parentWidget() != contenu_) vue = vue->parentWidget();
+  return vue;
+}
+
+void FenetrePrincipale::AjouterPage(QWidget* vue) {
+  if (qobject_cast<QScrollArea*>(vue) != nullptr) {
+    contenu_->addWidget(vue);
+    return;
+  }
+  auto* page = new QScrollArea;
+  page->setWidgetResizable(true);
+  page->setFrameShape(QFrame::NoFrame);
+  page->setFocusPolicy(Qt::NoFocus);
+  page->setWidget(vue);
+  contenu_->addWidget(page);
 }
 
 void FenetrePrincipale::Montrer(TForm& form) {
@@ -185,9 +211,9 @@ void FenetrePrincipale::Montrer(TForm& form) {
     vue = CreerVue(form, contenu_);
     if (vue == nullptr) return;
     vues_[&form] = vue;
-    contenu_->addWidget(vue);
+    AjouterPage(vue);
   }
-  contenu_->setCurrentWidget(vue);
+  contenu_->setCurrentWidget(Page(vue));
   if (foyerDuContenu_ || focusWidget() == nullptr) DonnerFoyer(*vue);
 }
 
@@ -200,7 +226,7 @@ void FenetrePrincipale::Progresser(int fait, int total, const QString& nom) {
     feuilleEnCours_ = sienne != nullptr ? sienne : feuille_;
     feuilleOuverte_ = feuilleEnCours_->isHidden();
     // One step says nothing of how long it takes.
-    if (feuilleOuverte_) feuilleEnCours_->Demarrer(u"Travail en cours"_s, total > 1 ? total : 0);
+    if (feuilleOuverte_) feuilleEnCours_->Demarrer(form_.TexteTravail(), total > 1 ? total : 0);
   }
   if (total > 0 && feuilleEnCours_) feuilleEnCours_->Avancer(fait, nom);
   if (total <= 0 && feuilleEnCours_ && feuilleOuverte_) feuilleEnCours_->Terminer();

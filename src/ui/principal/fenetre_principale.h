@@ -52,6 +52,8 @@ class FenetrePrincipale : public QMainWindow {
   void ActualiserContenu();
   void SuivreEtape(TForm& form, TEtapeForm etape);
   void Montrer(TForm& form);
+  QWidget* Page(QWidget* vue) const;
+  void AjouterPage(QWidget* vue);
   void Progresser(int fait, int total, const QString& nom);
   void MontrerGuide();
   void MontrerTouches();

@@ -1,6 +1,7 @@
 #include "ui/principal/guide.h"
 
 #include <QFile>
+#include <QImage>
 #include <QTextBrowser>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -12,7 +13,23 @@ using namespace Qt::StringLiterals;
 // The linker drops the resources of a static library that nothing names.
 static void AttacherGuide() { Q_INIT_RESOURCE(guide); }
 
-Guide::Guide(QWidget* parent) : QDialog(parent, Qt::Window), page_(new QTextBrowser) {
+namespace {
+
+/// The pictures are larger than the page.
+class PageGuide : public QTextBrowser {
+ public:
+  QVariant loadResource(int genre, const QUrl& nom) override {
+    if (genre != QTextDocument::ImageResource) return QTextBrowser::loadResource(genre, nom);
+    const QImage image(QString(u":/guide/" % nom.toString()));
+    const int largeur = Theme::Px(kLargeur - 80);
+    return image.width() <= largeur ? image : image.scaledToWidth(largeur, Qt::SmoothTransformation);
+  }
+  static constexpr int kLargeur = 760;
+};
+
+}  // namespace
+
+Guide::Guide(QWidget* parent) : QDialog(parent, Qt::Window), page_(new PageGuide) {
   AttacherGuide();
   setWindowTitle(u"Guide de Calpenne"_s);
   QFile fichier(u":/guide/guide.md"_s);
@@ -23,7 +40,7 @@ Guide::Guide(QWidget* parent) : QDialog(parent, Qt::Window), page_(new QTextBrow
   auto* colonne = new QVBoxLayout(this);
   colonne->setContentsMargins(0, 0, 0, 0);
   colonne->addWidget(page_);
-  resize(Theme::Px(760), Theme::Px(680));
+  resize(Theme::Px(PageGuide::kLargeur), Theme::Px(680));
 }
 
 QString Guide::Texte() const { return page_->toPlainText(); }
@@ -40,6 +57,10 @@ const std::vector<TToucheAide>& TouchesAide() {
       {u"F8, Ctrl+P"_s, u"Imprimer"_s},
       {u"F9"_s, u"Enregistrer"_s},
       {u"Ctrl+Suppr"_s, u"Supprimer"_s},
+      {u"Ctrl+Z"_s, u"Rétablir ce qui vient d'être supprimé"_s},
+      {u"Entrée, Suppr, Espace"_s, u"Dans une liste : modifier, supprimer, cocher"_s},
+      {u"Ctrl+F"_s, u"Dans une liste : filtrer"_s},
+      {u"Maj+F10"_s, u"Le menu de ce qui est choisi"_s},
       {u"Ctrl+0"_s, u"Année affichée"_s},
       {u"Ctrl+1 à Ctrl+4"_s, u"Pages de la barre"_s},
       {u"Alt+lettre"_s, u"Écran de la page affichée"_s},

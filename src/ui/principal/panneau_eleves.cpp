@@ -112,6 +112,7 @@ PanneauEleves::PanneauEleves(TFrmMain& form, QWidget* parent)
   }
   textes->addStretch();
   compte_ = new Etiquette({}, TRole::Secondaire, &Theme::Petite);
+  compte_->setWordWrap(true);
 
   auto* colonne = new QVBoxLayout(this);
   colonne->setContentsMargins(Theme::Px(12), Theme::Px(12), Theme::Px(12), Theme::Px(8));

@@ -19,6 +19,12 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int kNom = 2;  // the column that is never cut while there is room
+
+}  // namespace
+
 VueImport::VueImport(TFrmImport& form, QWidget* parent)
     : QWidget(parent),
       form_(form),
@@ -57,6 +63,7 @@ void VueImport::Disposer() {
   auto* filtre = new ChampFiltre(u"Filtrer"_s);
   filtre->setFixedWidth(Theme::Px(200));
   grille_->Filtrer(*filtre);
+  grille_->DefinirColonneSouple(kNom);
   QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
   copier->setToolTip(u"Copier toute la liste (Ctrl+Maj+C)"_s);
   connect(copier, &QPushButton::clicked, grille_, &VueGrille::CopierTout);

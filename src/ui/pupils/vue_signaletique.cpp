@@ -25,6 +25,8 @@ constexpr int kLargeurIdentite = 536;
 constexpr int kLargeurDeux = 1060;
 constexpr int kLargeurTrois = 1500;
 constexpr int kRangees = 5;
+/// With more than one column the last row of the grid takes the height that the lists leave.
+constexpr int kRangsLarges = 3;
 
 QWidget* CreerBloc(TitreSection* titre, VueGrille* grille, PiedDeGrille* pied) {
   titre->setMinimumHeight(Theme::Px(30));  // with and without a list of months
@@ -110,13 +112,13 @@ void VueSignaletique::Bouton(TitreSection& titre, const QString& texte, const QS
 }
 
 void VueSignaletique::CreerRetablir() {
-  auto* action = new QAction(u"Rétablir ce qui a été supprimé"_s, this);
-  action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
-  action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-  connect(action, &QAction::triggered, this, [this] { form_.Retablir(); });
-  addAction(action);
-  releve_->addAction(action);
-  frais_->addAction(action);
+  retablir_ = new QAction(Theme::Icone(u"edit-undo"_s), u"Rétablir ce qui a été supprimé"_s, this);
+  retablir_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+  retablir_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  connect(retablir_, &QAction::triggered, this, [this] { form_.Retablir(); });
+  for (QWidget* place :
+       {static_cast<QWidget*>(this), static_cast<QWidget*>(releve_), static_cast<QWidget*>(frais_)})
+    place->addAction(retablir_);
 }
 
 // Placing
@@ -136,13 +138,13 @@ void VueSignaletique::Disposer() {
   const bool seule = colonnes_ == 1, trois = colonnes_ == 3;
   for (QWidget* bloc : {static_cast<QWidget*>(identite_), blocReleve_, blocFrais_})
     grille_->removeWidget(bloc);
-  grille_->addWidget(identite_, 0, 0, colonnes_ == 2 ? 2 : 1, 1);
+  grille_->addWidget(identite_, 0, 0, seule ? 1 : kRangsLarges, 1);
   grille_->addWidget(blocReleve_, seule ? 1 : 0, seule ? 0 : 1);
   grille_->addWidget(blocFrais_, seule ? 2 : trois ? 0 : 1, seule ? 0 : trois ? 2 : 1);
   for (int i = 0; i < 3; ++i) {
     // Side by side the labels of the fees need more room than the categories of the month.
     grille_->setColumnStretch(i, i >= colonnes_ || (!seule && i == 0) ? 0 : trois ? 6 + i : 1);
-    grille_->setRowStretch(i, (seule && i > 0) || (!seule && i < (trois ? 1 : 2)) ? 1 : 0);
+    grille_->setRowStretch(i, (seule && i > 0) || i == kRangsLarges - 1 ? 1 : 0);
   }
   const int marge = Theme::Px(16);
   grille_->setContentsMargins(marge, Theme::Px(12), marge, Theme::Px(12));
@@ -153,11 +155,25 @@ void VueSignaletique::Disposer() {
   identite_->setMaximumWidth(seule ? QWIDGETSIZE_MAX : LargeurIdentite());
   for (VueGrille* liste : {releve_, frais_})
     liste->setMinimumHeight(liste->HauteurPour(seule ? 8 : kRangees - 2));
+  TenirDansLaVue();
+}
+
+// Beside a long column of the pupil the lists do not grow with it: their totals stay in view.
+void VueSignaletique::TenirDansLaVue() {
+  const int rangs = colonnes_ == 2 ? 2 : 1;
+  const int place =
+      viewport()->height() - 2 * Theme::Px(12) - (kRangsLarges - 1) * grille_->verticalSpacing();
+  for (QWidget* bloc : {blocReleve_, blocFrais_}) {
+    const int hauteur = std::max(place / rangs, bloc->minimumSizeHint().height());
+    bloc->setMaximumHeight(colonnes_ == 1 ? QWIDGETSIZE_MAX : hauteur);
+    bloc->setMinimumHeight(colonnes_ == 1 ? 0 : hauteur);
+  }
 }
 
 void VueSignaletique::resizeEvent(QResizeEvent* evenement) {
   if (ColonnesPour(width()) != colonnes_) Disposer();
   QScrollArea::resizeEvent(evenement);
+  TenirDansLaVue();
 }
 
 void VueSignaletique::changeEvent(QEvent* evenement) {
@@ -169,6 +185,7 @@ void VueSignaletique::changeEvent(QEvent* evenement) {
 
 void VueSignaletique::Actualiser() {
   identite_->Actualiser();
+  retablir_->setEnabled(form_.PeutRetablir());
   cmbMois_->setCurrentIndex(form_.IndiceMois());
   piedFrais_->Definir(form_.Frais.Pied);
   ActualiserListes();

@@ -7,6 +7,7 @@
 class EtatVide;
 class FicheIdentite;
 class PiedDeGrille;
+class QAction;
 class QComboBox;
 class QGridLayout;
 class TFrmSignaletique;
@@ -33,6 +34,7 @@ class VueSignaletique : public QScrollArea {
   int ColonnesPour(int largeur) const;
   int LargeurIdentite() const;
   void Disposer();
+  void TenirDansLaVue();
   void Actualiser();
   void ActualiserListes();
 
@@ -41,6 +43,7 @@ class VueSignaletique : public QScrollArea {
   QGridLayout* grille_;
   FicheIdentite* identite_;
   QWidget* blocReleve_;
+  QAction* retablir_;
   QComboBox* cmbMois_;
   VueGrille* releve_;
   PiedDeGrille* piedReleve_;

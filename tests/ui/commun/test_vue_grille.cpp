@@ -198,3 +198,24 @@ TEST(VueGrille, CocheALaBarreEtDitLaquelle) {
   QTest::keyClick(&vue, Qt::Key_Space);
   EXPECT_EQ(coches, (std::vector<std::pair<int, bool>>{{1, true}, {1, false}}));
 }
+
+TEST(VueGrille, LeNomGardeSaPlaceOuLaListeDefile) {
+  TGrille grille = Frais();
+  grille.Ajouter({u"Excursion à la mer, deux jours"_s, J("2019-03-01"), M("12")});
+  VueGrille vue(grille, u"Frais"_s, {});
+  Montrer(vue);
+  const int voulu = static_cast<QAbstractItemView&>(vue).sizeHintForColumn(0);
+  for (const int largeur : {600, 440, 200}) {
+    vue.resize(largeur, 300);
+    QApplication::processEvents();
+    QApplication::processEvents();
+    EXPECT_GE(vue.header()->sectionSize(0), std::min(voulu, Theme::Px(140))) << largeur;
+    EXPECT_GE(vue.header()->sectionSize(2), static_cast<QAbstractItemView&>(vue).sizeHintForColumn(2))
+        << "an amount is never cut, " << largeur;
+    const bool defile = vue.header()->length() > vue.viewport()->width();
+    EXPECT_EQ(defile, largeur == 200) << largeur;
+  }
+  vue.resize(600, 300);
+  QApplication::processEvents();
+  EXPECT_EQ(vue.header()->length(), vue.viewport()->width()) << "and the room is taken again";
+}

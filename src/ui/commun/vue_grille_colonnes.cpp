@@ -1,0 +1,167 @@
+// The columns of a list: their widths, and what the user made of them.
+#include <QHeaderView>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <algorithm>
+#include <numeric>
+
+#include "core/reglages_poste.h"
+#include "ui/commun/largeurs_colonnes.h"
+#include "ui/commun/theme.h"
+#include "ui/commun/vue_grille.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A name needs the one at least, and is given up to the other at the cost of the other columns.
+constexpr int kMoindreNom = 140;
+constexpr int kAssezPourUnNom = 220;
+
+}  // namespace
+
+int VueGrille::ColonneSouple() const {
+  if (souple_ >= 0) return souple_;
+  int plusLarge = 0;
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
+    if (!EstADroite(grille_.Colonne(colonne).Genre) &&
+        grille_.Colonne(colonne).Largeur > grille_.Colonne(plusLarge).Largeur)
+      plusLarge = colonne;
+  return plusLarge;
+}
+
+void VueGrille::DefinirColonneSouple(int colonne) {
+  souple_ = colonne;
+  PoserColonnes();
+}
+
+void VueGrille::PoserColonnes() {
+  const QScopedValueRollback pendant(enCours_, true);
+  header()->setMinimumSectionSize(Theme::Px(32));
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
+    header()->setSectionResizeMode(
+        colonne, colonne == ColonneSouple() ? QHeaderView::Stretch : QHeaderView::Interactive);
+    header()->resizeSection(colonne, Theme::Px(grille_.Colonne(colonne).Largeur));
+  }
+  Rappeler();
+  RepartirPlusTard();
+}
+
+void VueGrille::RepartirPlusTard() {
+  if (std::exchange(aRepartir_, true)) return;
+  QMetaObject::invokeMethod(this, &VueGrille::Repartir, Qt::QueuedConnection);
+}
+
+void VueGrille::Accorder(VueGrille& a, VueGrille& b) {
+  a.jumelle_ = &b;
+  b.jumelle_ = &a;
+  a.SuivreLargeurs(b);
+  b.SuivreLargeurs(a);
+}
+
+// What the other one was given for want of room is not kept as a width that the user drew.
+void VueGrille::SuivreLargeurs(const VueGrille& autre) {
+  connect(autre.header(), &QHeaderView::sectionResized, this, [this, &autre](int colonne, int, int largeur) {
+    if (colonne == autre.ColonneSouple() || header()->sectionSize(colonne) == largeur) return;
+    const QScopedValueRollback pendant(enCours_, enCours_ || autre.enCours_);
+    header()->resizeSection(colonne, largeur);
+  });
+}
+
+int VueGrille::LargeurContenu(int colonne) const {
+  const int ici = std::max(sizeHintForColumn(colonne), header()->sectionSizeHint(colonne));
+  return jumelle_ ? std::max(ici, jumelle_->sizeHintForColumn(colonne)) : ici;
+}
+
+/// What each column would take; the least of those that may give way is measured only when it matters.
+std::vector<TBesoinColonne> VueGrille::Besoins(int place) const {
+  const int souple = ColonneSouple();
+  std::vector<TBesoinColonne> besoins;
+  int reste = place;
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
+    int voulue = Theme::Px(grille_.Colonne(colonne).Largeur);
+    if (colonne == souple)
+      voulue = 0;
+    else if (EstMontant(grille_.Colonne(colonne).Genre))
+      voulue = std::max(voulue, sizeHintForColumn(colonne));
+    besoins.push_back({voulue, voulue});
+    reste -= voulue;
+  }
+  if (reste >= Theme::Px(kAssezPourUnNom)) return besoins;
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
+    TBesoinColonne& besoin = besoins[static_cast<std::size_t>(colonne)];
+    const int contenu = LargeurContenu(colonne);
+    if (colonne == souple)
+      besoin = {std::min(contenu, Theme::Px(kAssezPourUnNom)), std::min(contenu, Theme::Px(kMoindreNom))};
+    else
+      besoin.Moindre = std::min(besoin.Voulue, contenu);
+  }
+  return besoins;
+}
+
+/// An amount that is cut is another amount, and a name that is cut may be somebody else's: where the room is
+/// short the other columns give way, and then the list scrolls sideways.
+void VueGrille::Repartir() {
+  const QScopedValueRollback pendant(enCours_, true);
+  aRepartir_ = false;
+  const int souple = ColonneSouple(), place = viewport()->width();
+  if (souple >= grille_.NombreColonnes()) return;
+  const std::vector<int> largeurs = RepartirLargeurs(Besoins(place), souple, place);
+  const bool tient = std::accumulate(largeurs.begin(), largeurs.end(), 0) <= place;
+  header()->setSectionResizeMode(souple, tient ? QHeaderView::Stretch : QHeaderView::Interactive);
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
+    if (colonne != souple || !tient)
+      header()->resizeSection(colonne, largeurs[static_cast<std::size_t>(colonne)]);
+}
+
+/// Once the hand has let go of the column, not at each pixel.
+void VueGrille::RetenirBientot() {
+  if (enCours_ || ecran_.isEmpty() || std::exchange(aRetenir_, true)) return;
+  QTimer::singleShot(500, this, &VueGrille::Retenir);
+}
+
+/// Under the user: columns in their order with their widths at 10 points, and what they are put in
+/// order by. By title, so that a list that has changed starts afresh.
+void VueGrille::Retenir() {
+  if (!std::exchange(aRetenir_, false)) return;
+  QJsonArray colonnes;
+  for (int rang = 0; rang < header()->count(); ++rang) {
+    const TColonneGrille& colonne = grille_.Colonne(header()->logicalIndex(rang));
+    colonnes.append(QJsonArray{colonne.Titre, colonne.Largeur});
+  }
+  QJsonObject retenu{{u"colonnes"_s, colonnes}};
+  if (const int tri = header()->sortIndicatorSection(); tri >= 0)
+    retenu[u"tri"_s] =
+        QJsonArray{grille_.Colonne(tri).Titre, header()->sortIndicatorOrder() == Qt::AscendingOrder};
+  TReglagesPoste().Ecrire(TRacine::Utilisateur, u"Grilles/" % ecran_,
+                          QString::fromUtf8(QJsonDocument(retenu).toJson(QJsonDocument::Compact)));
+}
+
+void VueGrille::Rappeler() {
+  if (ecran_.isEmpty()) return;
+  const QString texte = TReglagesPoste().Lire(TRacine::Utilisateur, u"Grilles/" % ecran_);
+  const QJsonObject retenu = QJsonDocument::fromJson(texte.toUtf8()).object();
+  const QJsonArray colonnes = retenu[u"colonnes"_s].toArray();
+  const auto colonneDe = [this](const QString& titre) {
+    for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
+      if (grille_.Colonne(colonne).Titre == titre) return colonne;
+    return -1;
+  };
+  if (colonnes.size() != grille_.NombreColonnes()) return;
+  for (const auto& valeur : colonnes)
+    if (colonneDe(valeur[0].toString()) < 0) return;
+  for (int rang = 0; rang < static_cast<int>(colonnes.size()); ++rang) {
+    const int colonne = colonneDe(colonnes[rang][0].toString());
+    const int largeur = std::max(colonnes[rang][1].toInt(), 24);
+    header()->moveSection(header()->visualIndex(colonne), rang);
+    if (colonne == ColonneSouple()) continue;
+    grille_.ChangerLargeur(colonne, largeur);
+    header()->resizeSection(colonne, Theme::Px(largeur));
+  }
+  const QJsonArray tri = retenu[u"tri"_s].toArray();
+  if (tri.size() == 2)
+    sortByColumn(colonneDe(tri[0].toString()), tri[1].toBool() ? Qt::AscendingOrder : Qt::DescendingOrder);
+}

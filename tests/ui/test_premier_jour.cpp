@@ -1,0 +1,139 @@
+// A school sets itself up from an empty database, in the present year, without a mouse.
+#include <QTimer>
+
+#include "screens/documents/frm_apercu.h"
+#include "support/fichier_registre.h"
+#include "ui/documents/vue_apercu.h"
+#include "ui/reglages_essai.h"
+
+namespace {
+
+/// All by keys, sent to whatever has the focus.
+class PremierJour : public TReglagesEssai {
+ protected:
+  QWidget& Ici() {
+    QWidget* fenetre = QApplication::activeModalWidget();
+    if (fenetre == nullptr) Activer();
+    if (fenetre == nullptr) fenetre = &Programme.Fenetre();
+    return fenetre->focusWidget() != nullptr ? *fenetre->focusWidget() : *fenetre;
+  }
+  void Presser(std::initializer_list<QKeyCombination> touches) {
+    for (const QKeyCombination touche : touches) {
+      QTest::keyClick(&Ici(), touche.key(), touche.keyboardModifiers());
+      QCoreApplication::processEvents();
+    }
+  }
+  void Ecrire(const QString& texte) { QTest::keyClicks(&Ici(), texte); }
+  /// Over what the field holds.
+  void Remplacer(const QString& champ, const QString& texte) {
+    Jusqu(champ);
+    Presser({Qt::CTRL | Qt::Key_A});
+    Ecrire(texte);
+  }
+  bool EstIci(const QString& quoi) {
+    const QWidget& ici = Ici();
+    return ici.objectName() == quoi || ici.accessibleName() == quoi ||
+           ici.property("text").toString() == quoi;
+  }
+  /// Tab, until the control of that name or words has the focus.
+  void Jusqu(const QString& quoi) {
+    for (int i = 0; i < 80 && !EstIci(quoi); ++i) Presser({Qt::Key_Tab});
+    ASSERT_TRUE(EstIci(quoi)) << quoi.toStdString() << ", but " << Ici().accessibleName().toStdString();
+  }
+  void Activer(const QString& bouton) {
+    Jusqu(bouton);
+    Presser({Qt::Key_Space});
+  }
+  using TReglagesEssai::Activer;
+  void Choisir(const QString& liste, int indice) {
+    Jusqu(liste);
+    Presser({Qt::Key_Home});
+    for (int i = 0; i < indice; ++i) Presser({Qt::Key_Down});
+  }
+  void OuvreFichier(const QString& titre, const QString& chemin) {
+    Programme.Dialogues.Fait(titre, [this, chemin](QWidget&) {
+      Ecrire(chemin);
+      Presser({Qt::Key_Return});
+    });
+  }
+};
+
+}  // namespace
+
+TEST_F(PremierJour, FromNothingToTheFirstInvoiceByKeyboardAlone) {
+  Programme.Horloge.Moment = EncodeDate(2026, 11, 25) + EncodeTime(9, 0, 0);
+  Programme.Demarrer();
+  EXPECT_TRUE(EstIci("Année scolaire : Choisir l'année")) << Ici().accessibleName().toStdString();
+  Programme.Dialogues.Fait("Quelle année scolaire", [this](QWidget&) { Presser({Qt::Key_Return}); });
+  Presser({Qt::Key_Space});
+  EXPECT_EQ(Globals.AnneeScolaire, 2026);
+
+  Activer("Mon école : Ouvrir");
+  Remplacer("edNomEcole", "École des Tilleuls");
+  Remplacer("edCompteBancaire", "BE68 5390 0754 7034");
+  Presser({Qt::CTRL | Qt::Key_1});
+  EXPECT_EQ(Parametre(11), "BE68 5390 0754 7034") << "a key that leaves the screen stores the field";
+
+  TFichierRegistre registre(1);
+  for (int ligne = 1; ligne < 10; ++ligne) registre.Mettre(ligne, 16, "2026/09/01");
+  Activer("Importation : Importer les élèves");
+  OuvreFichier("Ouvrir le fichier de données", registre.Ecrire(Base));
+  Activer("Etape n°1 : Ouvrir le fichier de données");
+  Activer("Etape n°2 : Démarrer le transfert des données");
+  EXPECT_EQ(Etat(), "9 élèves transférés : 9 nouveaux, 0 mis à jour");
+
+  Presser({Qt::ALT | Qt::Key_E, Qt::Key_F7});
+  Choisir("cmbTypeFamille", 1);
+  Choisir("cmbTypeJour", 6);
+  Remplacer("edHeureDebut", "7:00");
+  Remplacer("edHeureFin", "8:30");
+  Choisir("cmbTypeScan", 1);
+  Remplacer("edCout", "1,5");
+  Choisir("cmbTypeForfait", 1);
+  Remplacer("edCout2eEnfant", "1");
+  Presser({Qt::Key_F9});
+  EXPECT_EQ(Base.Rangees("SELECT TYPE_FAMILLE, TYPE_JOUR, COUT, TYPE_FORFAIT FROM TARIF_GARDERIE"),
+            QStringList("1;6;1.5000;1"));
+
+  Presser({Qt::ALT | Qt::Key_F, Qt::Key_F7});
+  Ecrire("Piscine");
+  Remplacer("edMontant", "12,5");
+  Choisir("cmbConcerne", 0);
+  Choisir("cmbMois", 3);
+  Jusqu("Classes concernées");
+  Presser({Qt::Key_Home, Qt::Key_Space, Qt::Key_F9});
+  EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM FRAIS_ELEVE"), "9") << Etat().toStdString();
+
+  Presser({Qt::CTRL | Qt::Key_1, Qt::ALT | Qt::Key_P});
+  OuvreFichier("Importer un fichier de présence",
+               Base.Fichier("scans.txt", "12341;1;20261103;073000;1\n12341;1;20261104;074500;1\n"));
+  Jusqu("Source : scanner local");
+  QTimer::singleShot(0, &Programme.Fenetre(), [this] {
+    QWidget* menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    QTest::keyClick(menu, Qt::Key_End);
+    QTest::keyClick(menu, Qt::Key_Return);
+  });
+  Presser({Qt::Key_Space});
+  Programme.Dialogues.Attend("Les présences ont été mémorisées.");
+  Activer("Etape n°2 : Mémoriser les présences");
+  EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM PRESENCES"), "2");
+
+  Presser({Qt::ALT | Qt::Key_L, Qt::Key_F3});
+  Ecrire("nom");
+  EXPECT_EQ(Globals.EleveCourant->NomComplet(), "Nom 1234-1 Zoé");
+  QString facture;
+  Programme.Dialogues.Fait("Assistant d'impression", [this](QWidget&) {
+    for (int i = 0; i < 20 && !EstIci("Facture"); ++i) Presser({Qt::Key_Down});
+    Presser({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
+  });
+  Programme.Dialogues.Fait("Aperçu", [&](QWidget& fenetre) {
+    auto& apercu = dynamic_cast<VueApercu&>(fenetre);
+    QTRY_VERIFY(!apercu.Form().Document().Pages.empty());
+    facture = apercu.Form().Document().TexteDePage(0);
+    Presser({Qt::Key_Escape});
+  });
+  Presser({Qt::Key_F8});
+  for (const char* texte : {"Nom 1234-1", "3,00", "Piscine", "12,50"})
+    EXPECT_TRUE(facture.contains(texte)) << texte << " in " << facture.toStdString();
+}
