@@ -33,6 +33,25 @@ std::unique_ptr<TFraisEleve> Paiement(const QString& libelle, Currency montant, 
   return ligne;
 }
 
+/// A national number: six digits of the birth, three of a series, two that check them.
+QString NumeroNational(const QDate& naissance, int serie) {
+  const QString debut = naissance.toString(u"yyMMdd"_s) % u"%1"_s.arg(serie, 3, 10, QChar(u'0'));
+  const qint64 siecle = naissance.year() < 2000 ? 0 : 2'000'000'000;
+  return debut % u"%1"_s.arg(97 - (siecle + debut.toLongLong()) % 97, 2, 10, QChar(u'0'));
+}
+
+/// The office has asked most families for theirs: those of the child and of its adults.
+void NoterNumeros(TEleve& eleve, const TEleveExemple& exemple) {
+  const int famille = exemple.Famille;
+  if (famille % 12 == 5) return;
+  const QDate adulte(1972 + famille % 22, 1 + famille % 12, 1 + famille % 28);
+  const int serie = 1 + 2 * (famille * 4 + exemple.Rang) % 990;
+  eleve.NumNational = NumeroNational(exemple.DateNaissance, serie + (exemple.Fille ? 1 : 0));
+  eleve.NumNationalResponsable = NumeroNational(adulte, serie);
+  if (!eleve.NomResponsable2.isEmpty())
+    eleve.NumNationalResponsable2 = NumeroNational(adulte.addDays(-700), serie + 1);
+}
+
 }  // namespace
 
 TChargement::TChargement(TControleur& controleur, const TEcoleExemple& ecole, QString dossier)
@@ -140,6 +159,7 @@ void TChargement::Fiches() {
     eleve.FlgParentSepare = famille.ParentsSepares;
     eleve.FlgImpotRespons2 = exemple.ImpotResponsable2;
     eleve.FlgRadie = exemple.Radie;
+    NoterNumeros(eleve, exemple);
     if (exemple.CompteConnu) {
       eleve.NumCompte = famille.Compte;
       eleve.NomTitulaireCompte = famille.Titulaire;

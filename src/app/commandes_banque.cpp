@@ -56,7 +56,18 @@ int Releve(TSession& session) {
 
 QString NomEtat(TEtatMouvement etat) {
   if (etat == TEtatMouvement::Cache) return u"cache"_s;
-  return etat == TEtatMouvement::Comptabilise ? u"comptabilise"_s : u"inconnu"_s;
+  return etat == TEtatMouvement::Inconnu ? u"inconnu"_s : u"comptabilise"_s;
+}
+
+/// Pupil, month and family of a movement; of one that was shared out, in step.
+QStringList Pour(const std::vector<TAttribution>& attributions) {
+  QStringList eleves, mois, familles;
+  for (const TAttribution& attribution : attributions) {
+    eleves += QString::number(attribution.EleveId);
+    mois += QString::number(attribution.Mois);
+    familles += QString::number(static_cast<int>(attribution.Famille));
+  }
+  return {eleves.join(u','), mois.join(u','), familles.join(u',')};
 }
 
 int Extraits(TSession& session) {
@@ -65,10 +76,7 @@ int Extraits(TSession& session) {
   TCsv csv(u"extrait_id;donneur;date;montant;communication;compte;etat;eleve_id;mois;famille"_s.split(u';'));
   for (const TExtrait& extrait : session.Controleur.Extraits()) {
     const auto credit = attributions.find(extrait.Id);
-    QStringList pour(3);
-    if (credit != attributions.end())
-      pour = {QString::number(credit->second.EleveId), QString::number(credit->second.Mois),
-              QString::number(static_cast<int>(credit->second.Famille))};
+    const QStringList pour = credit != attributions.end() ? Pour(credit->second) : QStringList(3);
     csv.Ligne(QStringList{QString::number(extrait.Id), extrait.DonneurOrdre,
                           DateVersQt(extrait.DateVirement).toString(Qt::ISODate),
                           FormatQuatreDecimales(extrait.Montant), extrait.Communication,

@@ -72,6 +72,7 @@ void VerifierFichiers(const TSession& session) {
 int SortirDocument(TSession& session, const QString& titre, const TResultat& resultat, bool parClasses,
                    const TDocumentPrepare& prets) {
   for (const QString& message : resultat.Messages) session.Dialogues.Message(message);
+  for (const TManque& manque : resultat.Manques) session.Dialogues.Message(manque.Phrase());
   if (session.A(u"json"_s)) EcrireFichier(session.Option(u"json"_s), resultat.EnJson(titre));
   const bool imprime = !session.A(u"pdf"_s) || MettreEnPdf(session, titre, resultat, parClasses, prets);
   return resultat.Echec || !imprime ? 1 : 0;

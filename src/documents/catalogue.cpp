@@ -9,6 +9,7 @@
 #include "documents/demande_provision.h"
 #include "documents/etiquettes.h"
 #include "documents/factures.h"
+#include "documents/fiche_fiscale.h"
 #include "documents/listes_codes_barres.h"
 #include "documents/releve_detaille.h"
 #include "documents/releve_frais.h"
@@ -53,6 +54,7 @@ constexpr TTitreDocument kTitres[] = {
      .Construire = ComptabilisationRepas,
      .AvecPeriode = true},
     {.Titre = u"Document de provision de compte", .Construire = DemandeProvision},
+    {.Titre = u"Fiche fiscale 281.86", .Construire = FicheFiscale},
 
     {.Titre = u"Récapitulatif des tickets pour les parents",
      .Construire = TicketsParents,

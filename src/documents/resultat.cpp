@@ -1,18 +1,23 @@
 #include "documents/resultat.h"
 
+#include "pupils/eleve.h"
 #include "report/json.h"
 
 using namespace Qt::StringLiterals;
 
+QString TManque::Phrase() const { return Eleve->NomComplet() % u" : " % Texte; }
+
 void TResultat::Ajouter(TResultat suite) {
   Messages += suite.Messages;
   std::ranges::move(suite.Rapports, std::back_inserter(Rapports));
+  std::ranges::move(suite.Manques, std::back_inserter(Manques));
   Echec = Echec || suite.Echec;
 }
 
 QByteArray TResultat::EnJson(const QString& titre) const {
   QByteArrayList messages, rapports;
   for (const QString& message : Messages) messages += TexteJson(message);
+  for (const TManque& manque : Manques) messages += TexteJson(manque.Phrase());
   for (const TRapport& rapport : Rapports) rapports += rapport.EnJson();
   return "{\"titre\":" + TexteJson(titre) + ",\"messages\":[" + messages.join(',') + "],\"rapports\":[" +
          rapports.join(',') + "]}";

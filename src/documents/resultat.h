@@ -3,15 +3,30 @@
 
 #include "report/rapport.h"
 
+class TEleve;
+
+/// What a document needs of a pupil and does not find.
+struct TManque {
+  TEleve* Eleve = nullptr;
+  QString Champ;             ///< of the pupil's record, where it is mended; "" for none
+  QString Texte;             ///< French
+  bool SansDocument = true;  ///< the document goes without the pupil; else it leaves something out
+
+  /// "ADAM Anne : le numéro national de l'enfant manque"
+  QString Phrase() const;
+};
+
 /// What a document gives: what the user is told, and the previews in the order in which they open. A
 /// document that the user gave up gives neither.
 struct TResultat {
   QStringList Messages;
   std::vector<TRapport> Rapports;
-  bool Echec = false;  ///< the document could not be made; a message says why
+  std::vector<TManque> Manques;  ///< told before the previews
+  bool Echec = false;            ///< the document could not be made; a message says why
 
   /// Adds what the next document gave.
   void Ajouter(TResultat suite);
+  /// What is missing stands after the messages.
   /// {"titre", "messages": [...], "rapports": [...]}, UTF-8.
   QByteArray EnJson(const QString& titre) const;
 };

@@ -157,6 +157,11 @@ class TEleve : public TBaseObject {
   int NumAttestation = 0;         ///< 0 when none was given; see GetNumAttestation
   bool FlgImpotRespons2 = false;  ///< the tax attestation is in the name of the second adult
   bool FlgRadie = false;
+  // Of the tax sheet; national numbers are eleven digits, "" when not known.
+  QString NumNational;
+  QString NumNationalResponsable;
+  QString NumNationalResponsable2;
+  bool FlgHandicap = false;  ///< a severe one: care counts until a later birthday
 
  private:
   TDataModule1& Base() const;

@@ -49,6 +49,10 @@ constexpr TColonne<TEleve> kColonnes[] = {
     Drapeau<&TEleve::FlgParentSepare>("FLG_PARENT_SEPARE"),
     Drapeau<&TEleve::FlgImpotRespons2>("FLG_IMPOT_RESPONS2"),
     Drapeau<&TEleve::FlgRadie>("FLG_RADIE"),
+    Texte<&TEleve::NumNational>("NUM_NATIONAL"),
+    Texte<&TEleve::NumNationalResponsable>("NUM_NATIONAL_RESPONSABLE"),
+    Texte<&TEleve::NumNationalResponsable2>("NUM_NATIONAL_RESPONSABLE2"),
+    Drapeau<&TEleve::FlgHandicap>("FLG_HANDICAP"),
     Entier<&TEleve::NumAttestation>("NUM_ATTEST_2015").SansEcrire(),
 };
 
@@ -167,18 +171,35 @@ QString TEleves::LibelleImplantation(const QString& code) const {
   return site != nullptr && !site->LibelleCourt.trimmed().isEmpty() ? site->LibelleCourt : code;
 }
 
-int TEleves::ExtraitVersEleve(int extraitId) {
+const std::vector<TPartExtrait>& TEleves::PartsExtrait(int extraitId) {
   if (ChargerExtraits) {
-    eleveParExtrait_.clear();
-    TCurseur ligne(BaseDeDonnees(), u"SELECT ELEVE_ID, EXTRAIT_ID FROM FRAIS_ELEVE WHERE EXTRAIT_ID>0"_s);
+    partsParExtrait_.clear();
+    TCurseur ligne(
+        BaseDeDonnees(),
+        u"SELECT ELEVE_ID, EXTRAIT_ID, MONTANT_VERSE, FLG_PART FROM FRAIS_ELEVE WHERE EXTRAIT_ID>0"_s);
     while (ligne.Suivant()) {
-      const int eleveId = ligne.Entier("ELEVE_ID");
-      eleveParExtrait_.emplace(ligne.Entier("EXTRAIT_ID"), eleveId);  // the first row wins
+      const TPartExtrait part{ligne.Entier("ELEVE_ID"), ligne.Montant("MONTANT_VERSE"),
+                              ligne.EstVrai("FLG_PART")};
+      partsParExtrait_[ligne.Entier("EXTRAIT_ID")].push_back(part);
     }
     ChargerExtraits = false;
   }
-  const auto i = eleveParExtrait_.find(extraitId);
-  return i == eleveParExtrait_.end() ? 0 : i->second;
+  static const std::vector<TPartExtrait> sans;
+  const auto i = partsParExtrait_.find(extraitId);
+  return i == partsParExtrait_.end() ? sans : i->second;
+}
+
+int TEleves::ExtraitVersEleve(int extraitId) {
+  const std::vector<TPartExtrait>& parts = PartsExtrait(extraitId);
+  return parts.empty() ? 0 : parts.front().EleveId;
+}
+
+Currency TEleves::ResteExtrait(int extraitId, Currency montant) {
+  for (const TPartExtrait& part : PartsExtrait(extraitId)) {
+    if (!part.FlgPart) return {};
+    montant -= part.Montant;
+  }
+  return montant;
 }
 
 void TEleves::LireFrais(const std::vector<TEleve*>& eleves) const {

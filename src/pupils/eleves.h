@@ -16,6 +16,13 @@ class TPaiements;
 class TPresences;
 class TRepasPaiements;
 
+/// What a pupil has of a bank movement.
+struct TPartExtrait {
+  int EleveId = 0;
+  Currency Montant;
+  bool FlgPart = false;  ///< it was shared out; else the whole movement was given to the pupil
+};
+
 /// The pupils of a school year under their classes, or all pupils of all years: the way to everything
 /// that is known of one of them.
 class TEleves : public TCollection<TEleve> {
@@ -61,9 +68,13 @@ class TEleves : public TCollection<TEleve> {
   /// through a whole school begins with it.
   void LireFrais(const std::vector<TEleve*>& eleves) const;
 
-  /// Key of the pupil credited with a bank movement, 0 for none, as it was when first asked for; set
-  /// ChargerExtraits to read again.
+  /// What each pupil, of any year, has of a bank movement, a part for each payment; none when nobody has
+  /// anything. As it was when first asked for; set ChargerExtraits to read again.
+  const std::vector<TPartExtrait>& PartsExtrait(int extraitId);
+  /// Key of the first of these pupils, 0 for none.
   int ExtraitVersEleve(int extraitId);
+  /// What nobody has of a movement of that amount; 0 when it was given whole.
+  Currency ResteExtrait(int extraitId, Currency montant);
   /// Account numbers and names of those who paid for a pupil in this year, in step.
   void ComptesDonneurs(int eleveId, QStringList& numeros, QStringList& noms) const;
 
@@ -115,7 +126,7 @@ class TEleves : public TCollection<TEleve> {
   std::vector<TClasse*> classesParNom_;
   TIndex<QString, TEleve> parMatricule_;
   TIndex<QString, TEleve> parCode_;
-  std::unordered_map<int, int> eleveParExtrait_;
+  std::unordered_map<int, std::vector<TPartExtrait>> partsParExtrait_;
   mutable std::unique_ptr<TCommandes> commandes_;
   mutable std::unique_ptr<TRepasPaiements> repasPaiements_;
 };

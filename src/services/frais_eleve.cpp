@@ -18,6 +18,7 @@ constexpr TColonne<TFraisEleve> kColonnes[] = {
     Reference<&TFraisEleve::ExtraitId>("EXTRAIT_ID"),
     Entier<&TFraisEleve::TypeFamilleFrais>("TYPE_FAMILLE_FRAIS"),
     Reference<&TFraisEleve::GroupeFraisId>("GROUPE_FRAIS_ID"),
+    Drapeau<&TFraisEleve::FlgPart>("FLG_PART"),
 };
 
 }  // namespace

@@ -21,6 +21,7 @@ struct TFraisEleve : TBaseObject {
   int ExtraitId = 0;              ///< the bank movement that paid it, 0 when none
   TTypeFamilleFrais TypeFamilleFrais = TTypeFamilleFrais::General;
   int GroupeFraisId = 0;  ///< payment group, 0 when none
+  bool FlgPart = false;   ///< of the bank movement it has its own amount only, the rest may be others'
 
   bool EstLibre() const { return ListeFraisId < 1; }
   /// Any amount other than 0 counts as paid.

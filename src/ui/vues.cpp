@@ -9,6 +9,7 @@
 #include "screens/commun/frm_dialogue.h"
 #include "screens/commun/frm_liste.h"
 #include "screens/documents/frm_apercu.h"
+#include "screens/documents/frm_manques.h"
 #include "screens/documents/frm_print_wizard.h"
 #include "screens/meals/frm_ajout_ticket.h"
 #include "screens/meals/frm_comptabilite.h"
@@ -24,6 +25,7 @@
 #include "screens/payments/frm_attribution_compte.h"
 #include "screens/payments/frm_attribution_virement.h"
 #include "screens/payments/frm_virement.h"
+#include "screens/payments/frm_repartition.h"
 #include "screens/pupils/frm_import.h"
 #include "screens/pupils/frm_signaletique.h"
 #include "screens/services/frm_liste_frais.h"
@@ -32,6 +34,7 @@
 #include "ui/commun/vue_dialogue.h"
 #include "ui/commun/vue_liste.h"
 #include "ui/documents/vue_apercu.h"
+#include "ui/documents/vue_manques.h"
 #include "ui/documents/vue_print_wizard.h"
 #include "ui/meals/vue_ajout_ticket.h"
 #include "ui/meals/vue_comptabilite.h"
@@ -47,6 +50,7 @@
 #include "ui/payments/vue_attribution_compte.h"
 #include "ui/payments/vue_attribution_virement.h"
 #include "ui/payments/vue_virement.h"
+#include "ui/payments/vue_repartition.h"
 #include "ui/pupils/vue_import.h"
 #include "ui/pupils/vue_signaletique.h"
 #include "ui/services/vue_liste_frais.h"
@@ -92,6 +96,8 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
       VueDe<TFrmPresenceRepas, VuePresenceRepas>(),
       VueDe<TFrmTransfertRepas, VueTransfertRepas>(),
       VueDe<TFrmApercu, VueApercu>(),
+      VueDe<TFrmManques, VueManques>(),
+      VueDe<TFrmRepartition, VueRepartition>(),
       VueDe<TFrmPrintWizard, VuePrintWizard>(),
   };
   for (const TFabriqueVue& vue : kVues)

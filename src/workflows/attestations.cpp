@@ -102,7 +102,8 @@ Currency TAttestations::Mouvements(const TEleve& eleve, int responsable) {
     for (const TFraisEleve& ligne : *lignes) {
       const TExtrait* extrait =
           ligne.MontantVerse > Currency() ? extraits_->TrouverParId(ligne.ExtraitId) : nullptr;
-      if (extrait != nullptr && extrait->TypeResponsable == responsable) total += extrait->Montant;
+      if (extrait != nullptr && extrait->TypeResponsable == responsable)
+        total += ligne.FlgPart ? ligne.MontantVerse : extrait->Montant;
     }
   return total;
 }

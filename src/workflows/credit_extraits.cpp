@@ -61,16 +61,15 @@ QString LibelleVirement(const TExtrait& extrait) {
   return u"Votre virement du " % FormatDate(extrait.DateVirement);
 }
 
-std::unordered_map<int, TAttribution> LireAttributions(TDataModule1& base) {
-  std::unordered_map<int, TAttribution> attributions;
+std::unordered_map<int, std::vector<TAttribution>> LireAttributions(TDataModule1& base) {
+  std::unordered_map<int, std::vector<TAttribution>> attributions;
   TCurseur ligne(base,
                  u"SELECT ELEVE_ID, EXTRAIT_ID, MOIS, TYPE_FAMILLE_FRAIS FROM FRAIS_ELEVE "
                  "WHERE EXTRAIT_ID>0"_s);
   while (ligne.Suivant())
-    attributions.try_emplace(
-        ligne.Entier("EXTRAIT_ID"),
-        TAttribution{ligne.Entier("ELEVE_ID"), ligne.Entier("MOIS"),
-                     static_cast<TTypeFamilleFrais>(ligne.Entier("TYPE_FAMILLE_FRAIS"))});
+    attributions[ligne.Entier("EXTRAIT_ID")].push_back(
+        {ligne.Entier("ELEVE_ID"), ligne.Entier("MOIS"),
+         static_cast<TTypeFamilleFrais>(ligne.Entier("TYPE_FAMILLE_FRAIS"))});
   return attributions;
 }
 

@@ -20,8 +20,9 @@ std::optional<TAttribution> LireCommunicationCompacte(const QString& communicati
 /// "Votre virement du 05/10/2016"
 QString LibelleVirement(const TExtrait& extrait);
 
-/// Whom each credited movement went to, of any year, by the key of the movement. Raises Exception.
-std::unordered_map<int, TAttribution> LireAttributions(TDataModule1& base);
+/// Whom each credited movement went to, of any year, by the key of the movement: several when it was shared
+/// out. Raises Exception.
+std::unordered_map<int, std::vector<TAttribution>> LireAttributions(TDataModule1& base);
 
 /// Gives a stored movement to a pupil of the year on display: one payment of its whole amount, saved at
 /// once. False, and nothing done, without such a pupil and for a movement that some pupil has already.

@@ -6,6 +6,7 @@
 
 #include "core/exceptions.h"
 #include "core/fichiers.h"
+#include "core/formats.h"
 #include "core/schema.h"
 #include "core/transaction_commune.h"
 #include "payments/communication_structuree.h"
@@ -44,15 +45,29 @@ bool AMemoriser(const TRangeeVirement& rangee) {
 
 QString Texte(TEtatMouvement etat) {
   static const QString textes[] = {
-      u"Nouveau"_s, u"Inconnu"_s,   u"Comptabilisé"_s,          u"Année précédente"_s,
-      u"Caché"_s,   u"Illisible"_s, u"Peut-être déjà importé"_s};
+      u"Nouveau"_s, u"Inconnu"_s,   u"Comptabilisé"_s,           u"Année précédente"_s,
+      u"Caché"_s,   u"Illisible"_s, u"Peut-être déjà importé"_s, u"Attribué en partie"_s};
   return textes[static_cast<int>(etat)];
 }
 
 TEtatMouvement EtatExtrait(const TExtrait& extrait) {
   if (extrait.FlgIgnore) return TEtatMouvement::Cache;
-  return Globals.Eleves->ExtraitVersEleve(extrait.Id) != 0 ? TEtatMouvement::Comptabilise
-                                                           : TEtatMouvement::Inconnu;
+  if (Globals.Eleves->ExtraitVersEleve(extrait.Id) == 0) return TEtatMouvement::Inconnu;
+  const bool reste = Globals.Eleves->ResteExtrait(extrait.Id, extrait.Montant) > Currency();
+  return reste ? TEtatMouvement::Partiel : TEtatMouvement::Comptabilise;
+}
+
+QString TexteParts(const TExtrait& extrait) {
+  QStringList textes;
+  for (const TPartExtrait& part : Globals.Eleves->PartsExtrait(extrait.Id)) {
+    if (!part.FlgPart) return {};
+    const TEleve* eleve = Globals.Eleves->TrouverParId(part.EleveId);
+    textes += (eleve != nullptr ? eleve->NomComplet() : u"élève d'une autre année"_s) % u' ' %
+              FormatMontant(part.Montant);
+  }
+  const Currency reste = Globals.Eleves->ResteExtrait(extrait.Id, extrait.Montant);
+  if (!textes.isEmpty() && reste > Currency()) textes += u"reste " % FormatMontant(reste);
+  return textes.join(u", "_s);
 }
 
 QString MessageOuverture(const QString& cause) {

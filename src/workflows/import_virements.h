@@ -12,13 +12,17 @@ enum class TEtatMouvement {
   AnneePrecedente,
   Cache,
   Illisible,
-  DejaImporte  ///< perhaps: a stored one differs by its name or text only
+  DejaImporte,  ///< perhaps: a stored one differs by its name or text only
+  Partiel       ///< shared out, with a part that nobody has
 };
 
 /// "Nouveau", "Inconnu" and so on.
 QString Texte(TEtatMouvement etat);
 /// Of a stored movement: hidden goes before accounted.
 TEtatMouvement EtatExtrait(const TExtrait& extrait);
+/// What is said of a movement that several have, or of which a part is left: "ADAM Anne 12,00 €, BABEL Zoé
+/// 8,00 €, reste 4,00 €"; "" for one that was given whole.
+QString TexteParts(const TExtrait& extrait);
 
 /// A row of the preview.
 struct TRangeeVirement {

@@ -8,6 +8,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString kTransfert = u"Transfert"_s;  // of a positive balance
+const QString kReport = u"Report"_s;
+const QString kArrivee = u" de l'année scolaire "_s;
+const QString kDepart = u" vers l'année scolaire "_s;
 constexpr int kMoisArrivee = 9;
 constexpr int kMoisDepart = 6;
 
@@ -30,9 +34,9 @@ class TVirement {
       : depart_(*depart.GetAllFrais()),
         arrivee_(*arrivee.GetAllFrais()),
         entree_(AjouterLigne(arrivee_, solde, kMoisArrivee,
-                             mot % u" de l'année scolaire " % Annees(depart.Eleves->AnneeScolaire))),
+                             mot % kArrivee % Annees(depart.Eleves->AnneeScolaire))),
         sortie_(AjouterLigne(depart_, -solde, kMoisDepart,
-                             mot % u" vers l'année scolaire " % Annees(arrivee.Eleves->AnneeScolaire))) {}
+                             mot % kDepart % Annees(arrivee.Eleves->AnneeScolaire))) {}
 
   void Ranger(TDataModule1& base) {
     try {
@@ -56,6 +60,15 @@ class TVirement {
 
 }  // namespace
 
+TReport ReportDe(const TFraisEleve& ligne) {
+  for (const QString& mot : {kTransfert, kReport}) {
+    if (ligne.Remarque.startsWith(mot % kArrivee)) return TReport::Arrive;
+    if (ligne.Remarque.startsWith(mot % kDepart))
+      return mot == kReport ? TReport::DetteParti : TReport::Parti;
+  }
+  return TReport::Aucun;
+}
+
 QString RefusTransfert(const TEleves& eleves, int anneeTravail) {
   if (eleves.AnneeScolaire != anneeTravail) return {};
   return u"L'année affichée est l'année de travail %1 : affichez d'abord l'année dont les soldes sont à "
@@ -73,8 +86,7 @@ std::vector<TMontantEleve> TransfererSoldes(const TEleves& eleves, int anneeTrav
     const bool concerne = positifs ? solde > Currency() : solde < Currency();
     const TEleve* arrivee = concerne ? travail.TrouverParId(eleve->Id) : nullptr;
     if (arrivee == nullptr) continue;
-    TVirement(*eleve, *arrivee, solde, positifs ? u"Transfert"_s : u"Report"_s)
-        .Ranger(eleves.BaseDeDonnees());
+    TVirement(*eleve, *arrivee, solde, positifs ? kTransfert : kReport).Ranger(eleves.BaseDeDonnees());
     reportes.push_back({eleve, solde});
   }
   return reportes;

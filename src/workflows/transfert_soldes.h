@@ -1,8 +1,18 @@
 #pragma once
+#include "services/frais_eleve.h"
 #include "workflows/statistiques.h"
 
 /// Which balances are carried from the year on display to the working year.
 enum class TSensTransfert { Positifs, Negatifs };
+
+/// What a line of a ledger has to do with a balance that was carried.
+enum class TReport {
+  Aucun,
+  Arrive,     ///< it came from the year before
+  Parti,      ///< more was paid than owed, and it left
+  DetteParti  ///< what was owed left: nobody has paid it
+};
+TReport ReportDe(const TFraisEleve& ligne);
 
 /// Why balances cannot be carried, in French; "" when they can: from a year to itself an amount and its
 /// opposite would meet.

@@ -2,6 +2,7 @@
 
 #include "core/conversions.h"
 #include "core/exceptions.h"
+#include "core/numero_national.h"
 #include "core/texte_separe.h"
 
 using namespace Qt::StringLiterals;
@@ -71,4 +72,14 @@ TEST(Conversions, SeparatedText) {
   EXPECT_THROW(lire(QByteArray("a;b\0c", 5)), Exception);
   EXPECT_THROW(TTexteSepare::Lire(u"/"_s), Exception);
   EXPECT_THROW(TTexteSepare::Lire(u"absent.txt"_s), Exception);
+}
+
+TEST(Conversions, NumerosNationaux) {
+  for (const char16_t* bon : {u"85073003328", u"85.07.30-033.28", u"12051000115", u" 12 05 10 001/15 "})
+    EXPECT_TRUE(NumeroNationalValide(QString::fromUtf16(bon))) << QString::fromUtf16(bon).toStdString();
+  for (const char16_t* faux :
+       {u"", u"85073003329", u"8507300332", u"850730033280", u"1205100011S", u"12051000116"})
+    EXPECT_FALSE(NumeroNationalValide(QString::fromUtf16(faux))) << QString::fromUtf16(faux).toStdString();
+  EXPECT_EQ(NumeroNationalPresente(u"12051000115"_s), u"12.05.10-001.15");
+  EXPECT_EQ(NumeroNationalPresente(u"12"_s), u"12");
 }

@@ -117,6 +117,9 @@ TEST_F(TAttestationEssai, ParentsSepares) {
       MettreEnPage(deux.Rapports[0], *ModeleDocument(deux.Rapports[0].Modele()));
   EXPECT_EQ(document.Pages.size(), 4U);
   EXPECT_EQ(document.Defauts.size(), 1U) << "the warning";
+  base.Sql(u"UPDATE FRAIS_ELEVE SET FLG_PART = 1 WHERE EXTRAIT_ID = 7"_s);
+  EXPECT_EQ(Feuilles(Attester(u"3"_s)), u"3,50 01/01/2017 31/12/2017|5,00 01/01/2017 31/12/2017"_s)
+      << "of a movement that was shared out, its own part";
   // Without the spring the first parent has paid nothing: no sheet for either, and the office is told.
   base.Sql(u"DELETE FROM ELEVES_CLASSES WHERE ANNEE_SCOLAIRE = 2016"_s);
   EXPECT_EQ(Attester(u"3"_s).Messages, QStringList{u"Aucune information à imprimer"_s});

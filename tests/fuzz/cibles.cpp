@@ -115,6 +115,14 @@ void TCibles::Releve(const QByteArray& octets) {
   Globals.ExtraitsPrecedents.reset();
 }
 
+bool TCibles::ReleveBancaire(const QByteArray& octets) {
+  try {
+    return LireReleveBancaire(octets).has_value();
+  } catch (const Exception&) {
+    return false;
+  }
+}
+
 bool TCibles::CopieLocale(const QByteArray& octets) {
   bool lue = false;
   for (const QByteArray& copie :

@@ -12,6 +12,8 @@ class TCibles {
   void Presences(const QByteArray& octets);
   /// The bytes as a bank's file of every layout, through both steps.
   void Releve(const QByteArray& octets);
+  /// The bytes as a file that tells its own form, of accounts and movements. Whether it was read.
+  bool ReleveBancaire(const QByteArray& octets);
   /// The bytes as a local data set, and as what one holds behind a right checksum. Whether one was read.
   bool CopieLocale(const QByteArray& octets);
   /// The bytes as the tablet's file of meals, in which a meal is noted and taken back.

@@ -13,6 +13,56 @@ QByteArray RegistreValide() {
   return texte;
 }
 
+/// A record of 128 characters with pieces at their places.
+QByteArray Enregistrement(const std::vector<std::pair<int, QByteArray>>& morceaux) {
+  QByteArray ligne(128, ' ');
+  for (const auto& [place, texte] : morceaux) ligne.replace(place, texte.size(), texte);
+  return ligne + "\r\n";
+}
+
+/// A group of two payments, with a whole name and a text of three records.
+QByteArray CodaValide() {
+  const auto mouvement = [](const QByteArray& article, const QByteArray& montant, const QByteArray& texte) {
+    return Enregistrement({{0, "21" + article},
+                           {31, "0" + montant + "051016"},
+                           {53, "105010001"},
+                           {62, texte},
+                           {115, "051016"}});
+  };
+  const QByteArray un = "000000000010000", deux = "000000000020000", trois = "000000000030000";
+  return Enregistrement({{0, "0000005101672505"}, {127, "2"}}) +
+         Enregistrement({{0, "12001BE33123456789012"}, {39, "EUR0" + un + "041016"}, {125, "007"}}) +
+         mouvement("00010000", trois, "101001231016185") + mouvement("00010001", un, "105") +
+         Enregistrement({{0, "2200010001"}, {10, "suite"}}) +
+         Enregistrement({{0, "2300010001"}, {10, "BE68539007547034EUR"}, {47, "VAN DEN"}, {82, "fin"}}) +
+         Enregistrement({{0, "3100019999"}, {39, "1001VAN DEN BERGHE"}}) +
+         Enregistrement({{0, "3100019999"}, {39, "0libre"}}) +
+         Enregistrement({{0, "3200019999"}, {10, "et"}}) + Enregistrement({{0, "3300019999"}, {10, "fin"}}) +
+         mouvement("00010002", deux, "113autre") +
+         Enregistrement({{0, "8001BE33123456789012"}, {41, "0000000000040000051016"}}) +
+         Enregistrement({{0, "9"}, {16, "000011000000000000000" + trois}, {127, "2"}});
+}
+
+QByteArray CamtValide() {
+  const QByteArray solde =
+      "<Bal><Tp><CdOrPrtry><Cd>%</Cd></CdOrPrtry></Tp><Amt Ccy='EUR'>#</Amt><CdtDbtInd>CRDT</CdtDbtInd>"
+      "<Dt><Dt>2016-10-05</Dt></Dt></Bal>";
+  const QByteArray detail =
+      "<TxDtls><AmtDtls><TxAmt><Amt "
+      "Ccy='EUR'>1.50</Amt></TxAmt></AmtDtls><RltdPties><Dbtr><Nm>Zo\xC3\xA9</Nm>"
+      "</Dbtr><DbtrAcct><Id><IBAN>BE68539007547034</IBAN></Id></DbtrAcct></"
+      "RltdPties><RmtInf><Strd><CdtrRefInf>"
+      "<Tp><Issr>BBA</Issr></Tp><Ref>001231016185</Ref></CdtrRefInf></Strd><Ustrd>libre</Ustrd></RmtInf></"
+      "TxDtls>";
+  return "<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.02'><BkToCstmrStmt><Stmt><Id>S</Id>"
+         "<Acct><Id><IBAN>BE33</IBAN></Id></Acct>" +
+         QByteArray(solde).replace('%', "OPBD").replace('#', "5") +
+         QByteArray(solde).replace('%', "CLBD").replace('#', "8") +
+         "<Ntry><Amt Ccy='EUR'>3</Amt><CdtDbtInd>CRDT</CdtDbtInd><Sts>BOOK</Sts><BookgDt><Dt>2016-10-06</Dt>"
+         "</BookgDt><ValDt><DtTm>2016-10-05T23:59:00</DtTm></ValDt><NtryDtls>" +
+         detail + detail + "</NtryDtls></Ntry></Stmt></BkToCstmrStmt></Document>";
+}
+
 }  // namespace
 
 TEST(Fuzz, RegisterReader) {
@@ -43,6 +93,23 @@ TEST(Fuzz, StatementReaders) {
   for (const QByteArray& valide : lignes) {
     cibles.Releve(valide);
     for (int i = 0; i < 300; ++i) cibles.Releve(Alterer(valide, tirage));
+  }
+}
+
+// Whole characters must be left for a file to be read at all, so that most mutations move or change values.
+TEST(Fuzz, StatementsThatTellTheirForm) {
+  TCibles cibles;
+  std::mt19937 tirage(53);
+  for (const QByteArray& valide : {CodaValide(), CamtValide()}) {
+    EXPECT_TRUE(cibles.ReleveBancaire(valide));
+    cibles.Releve(valide);
+    int lus = 0;
+    for (int i = 0; i < 3000; ++i) {
+      lus += cibles.ReleveBancaire(AltererLignes(valide, tirage));
+      lus += cibles.ReleveBancaire(Alterer(valide, tirage));
+    }
+    EXPECT_GT(lus, 0);
+    for (int i = 0; i < 30; ++i) cibles.Releve(Alterer(valide, tirage));
   }
 }
 

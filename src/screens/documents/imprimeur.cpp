@@ -1,6 +1,7 @@
 #include "screens/documents/imprimeur.h"
 
 #include "screens/documents/assistant.h"
+#include "screens/documents/frm_manques.h"
 #include "screens/payments/frm_date_paiement.h"
 
 bool TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
@@ -44,5 +45,15 @@ void TImprimeur::Faire(const std::function<TResultat(const TContexteDocument&)>&
 void TImprimeur::Montrer(TResultat resultat) {
   for (const QString& message : resultat.Messages)
     resultat.Echec ? contexte_.Dialogues().Message(message) : contexte_.Dialogues().Information(message);
+  if (!PasseManques(resultat)) return;
   for (TRapport& rapport : resultat.Rapports) contexte_.Apercu.Afficher(rapport);
+}
+
+bool TImprimeur::PasseManques(const TResultat& resultat) {
+  if (resultat.Manques.empty()) return true;
+  TFrmManques manques(resultat.Manques, !resultat.Rapports.empty(), SurAllerAuChamp != nullptr);
+  const bool imprimer = contexte_.Modale.MontrerModal(manques) == TResultatModal::Valide;
+  const TManque* manque = manques.Choisi();
+  if (manque != nullptr && SurAllerAuChamp) SurAllerAuChamp(*manque->Eleve, manque->Champ);
+  return imprimer && manque == nullptr;
 }

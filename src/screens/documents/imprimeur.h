@@ -19,17 +19,23 @@ class TImprimeur {
     jourRepas_ = jour;
     nouveauxRepas_ = nouveauxRepas;
   }
+  /// How to go to a field of a pupil's record; without it nothing leads there.
+  std::function<void(TEleve& eleve, const QString& champ)> SurAllerAuChamp;
+
   /// The user chooses one of these titles in the wizard, and gets its document. `moisEcran`: the month that
   /// the screen shows, 1 to 12; 0 for none. False when the user gave up.
   bool Proposer(std::vector<TTitreOffert> titres, int moisEcran = 0);
-  /// The wizard's answer about the titles that were proposed last. An index of none is passed over, with false.
+  /// The wizard's answer about the titles that were proposed last. An index of none is passed over, with
+  /// false.
   bool Imprimer(TChoixDocument choix);
   /// A document that is in no list: it is made under the wait cursor, then shown.
   void Faire(const std::function<TResultat(const TContexteDocument&)>& construire);
 
  private:
-  /// What a document says, then its previews one after the other.
+  /// What a document says and misses, then its previews one after the other.
   void Montrer(TResultat resultat);
+  /// False when the user has it seen to first.
+  bool PasseManques(const TResultat& resultat);
 
   const TContexteEcran& contexte_;
   std::vector<TTitreOffert> titres_;

@@ -56,6 +56,7 @@ TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte)
     contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré"_s);
     contexte_.Dialogues().Message(faute);
   };
+  imprimeur_.SurAllerAuChamp = [this](TEleve& eleve, const QString& champ) { AllerAuChamp(eleve, champ); };
   const int mois = DecodeDate(contexte.Controleur.Horloge().Aujourdhui()).Mois;
   indiceMois_ = std::max(IndiceMoisScolaire(mois), 0);
 }
@@ -107,6 +108,15 @@ void TFrmSignaletique::PrendreEleve() {
     Vider();
     throw;
   }
+}
+
+/// The record of that pupil, with the hand in that field.
+void TFrmSignaletique::AllerAuChamp(TEleve& eleve, const QString& champ) {
+  Globals.EleveCourant = &eleve;
+  Globals.ClasseCourante = eleve.Classe;
+  contexte_.Principal.Envoyer({TCodeMessage::EleveChange, {}});
+  if (champs_.Objet() != &eleve) PrendreEleve();  // one who does not stand in the tree
+  if (const int indice = champs_.Indice(champ); indice >= 0) champs_.SurFoyer(indice);
 }
 
 // A text that was refused stands nowhere but in its field.

@@ -28,6 +28,7 @@ std::unique_ptr<TFraisEleve> Copie(const TFraisEleve& ligne) {
   copie->ExtraitId = ligne.ExtraitId;
   copie->TypeFamilleFrais = ligne.TypeFamilleFrais;
   copie->GroupeFraisId = ligne.GroupeFraisId;
+  copie->FlgPart = ligne.FlgPart;
   return copie;
 }
 

@@ -54,7 +54,9 @@ bool TFrmSignaletique::ExigeEleve() {
 }
 
 void TFrmSignaletique::EnregistrerEleve(const TChamp& champ) {
-  SauverEleve(*champs_.Objet());
+  TEleve& eleve = *champs_.Objet();
+  if (const QString faute = FauteChampEleve(eleve, champ); !faute.isEmpty()) throw EConvertError(faute);
+  SauverEleve(eleve);
   QString quoi = champ.Libelle;
   while (quoi.endsWith(u':') || quoi.endsWith(u' ')) quoi.chop(1);
   contexte_.Principal.Etat(TNiveauEtat::Succes, QString(quoi % u" : enregistré pour " % nomComplet_));

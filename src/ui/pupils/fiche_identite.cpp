@@ -30,10 +30,16 @@ Etiquette* CreerTitre(const QString& texte) {
 const std::pair<QString, QStringList> kRangees[] = {
     {u"Nom, prénom"_s, {u"edNomResponsable"_s, u"edPrenomResponsable"_s}},
     {u"Adresse, n°"_s, {u"edAdresse"_s, u"edNumero"_s}},
-    {u"Code, localité"_s, {u"edCodePostal"_s, u"edLocalite"_s}}};
+    {u"Code, localité"_s, {u"edCodePostal"_s, u"edLocalite"_s}},
+    {u"N° national"_s, {u"edNumNationalResponsable"_s}}};
 
-const QString kSituation[] = {u"cb2eEnfant"_s, u"cb3eEnfant"_s, u"cbFactureDetail"_s, u"cbParentSepare"_s,
-                              u"cbEleveRadie"_s};
+QStringList DuSecond(QStringList noms) {
+  for (QString& nom : noms) nom += u'2';
+  return noms;
+}
+
+const QString kSituation[] = {u"cb2eEnfant"_s,     u"cb3eEnfant"_s, u"cbFactureDetail"_s,
+                              u"cbParentSepare"_s, u"cbHandicap"_s, u"cbEleveRadie"_s};
 
 }  // namespace
 
@@ -79,10 +85,16 @@ QLayout* FicheIdentite::CreerEntete() {
   auto* naissance = static_cast<SaisieDate*>(liaison_->Widget(u"lblDateNaissance"_s));
   naissance->MontrerFleche(false);
   naissance->setFixedWidth(Theme::Px(96));
-  auto* date = new QHBoxLayout;
-  date->setSpacing(Theme::Px(8));
-  date->addWidget(CreerLibelleDeRang(u"Date de naissance:"_s, naissance), 0, Qt::AlignTop);
-  date->addLayout(liaison_->Rangee({{form_.Champs().Indice(u"lblDateNaissance"_s), 0}}), 1);
+  auto* numero = liaison_->Widget(u"edNumNational"_s);
+  numero->setFixedWidth(Theme::Px(128));
+  auto* date = new QGridLayout;
+  date->setHorizontalSpacing(Theme::Px(8));
+  date->setVerticalSpacing(Theme::Px(4));
+  date->setColumnStretch(1, 1);
+  date->addWidget(CreerLibelleDeRang(u"Date de naissance:"_s, naissance), 0, 0, Qt::AlignTop);
+  date->addLayout(liaison_->Rangee({{form_.Champs().Indice(u"lblDateNaissance"_s), 0}}), 0, 1);
+  date->addWidget(CreerLibelleDeRang(u"Numéro national:"_s, numero), 1, 0, Qt::AlignTop);
+  date->addLayout(liaison_->Rangee({{form_.Champs().Indice(u"edNumNational"_s), 0}}), 1, 1);
 
   auto* textes = new QVBoxLayout;
   textes->setSpacing(Theme::Px(4));
@@ -135,7 +147,7 @@ QLayout* FicheIdentite::CreerResponsables() {
   for (const auto& [libelle, noms] : kRangees) {
     ++rang;
     grille->addLayout(Rangee(noms), rang, 1);
-    grille->addLayout(Rangee({noms[0] % u'2', noms[1] % u'2'}), rang, 2);
+    grille->addLayout(Rangee(DuSecond(noms)), rang, 2);
     grille->addWidget(CreerLibelleDeRang(libelle, liaison_->Widget(noms[0])), rang, 0, Qt::AlignTop);
   }
   const QString nom = u"rbAttestationResponsable"_s;
@@ -213,7 +225,7 @@ void FicheIdentite::AjouterActivites() {
 
 // The photo comes last: whoever enters the record wants its fields.
 void FicheIdentite::OrdonnerTab() {
-  std::vector<QWidget*> ordre{liaison_->Widget(u"lblDateNaissance"_s)};
+  std::vector<QWidget*> ordre{liaison_->Widget(u"lblDateNaissance"_s), liaison_->Widget(u"edNumNational"_s)};
   for (const QString& suffixe : {QString(), u"2"_s})
     for (const auto& [libelle, noms] : kRangees)
       for (const QString& nom : noms) ordre.push_back(liaison_->Widget(nom % suffixe));

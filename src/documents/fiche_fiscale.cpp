@@ -1,0 +1,86 @@
+#include "documents/fiche_fiscale.h"
+
+#include <numeric>
+
+#include "core/formats.h"
+#include "core/numero_national.h"
+#include "documents/fiscalite.h"
+#include "documents/sections.h"
+#include "pupils/eleves.h"
+#include "pupils/fiches_fiscales.h"
+#include "workflows/fiches_fiscales.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TNoeudRapport NoeudPeriode(const TPeriodeGarde& periode) {
+  TNoeudRapport noeud;
+  noeud.Texte = FormatDate(periode.Debut);
+  noeud.Valeurs.Ecrire(u"PeriodeDu", FormatDate(periode.Debut));
+  noeud.Valeurs.Ecrire(u"PeriodeAu", FormatDate(periode.Fin));
+  noeud.Valeurs.Ecrire(u"Jours", QString::number(periode.Jours));
+  noeud.Valeurs.Ecrire(u"Tarif", FormatDeuxDecimales(periode.Tarif()));
+  noeud.Valeurs.Ecrire(u"MontantPeriode", FormatDeuxDecimales(periode.Montant));
+  return noeud;
+}
+
+int TotalJours(const TFicheFiscale& fiche) {
+  return std::accumulate(fiche.Periodes.begin(), fiche.Periodes.end(), 0,
+                         [](int jours, const TPeriodeGarde& periode) { return jours + periode.Jours; });
+}
+
+TNoeudRapport NoeudFiche(const TFicheFiscale& fiche, int numero, const TReglesFiscales& regles) {
+  const TEleve& eleve = *fiche.Eleve;
+  const bool second = fiche.Responsable == 2;
+  TNoeudRapport noeud = NoeudEleve(eleve);
+  TValeurs& valeurs = noeud.Valeurs;
+  valeurs.Ecrire(u"NumFiche", QString::number(numero));
+  valeurs.Ecrire(u"DateNaissanceEleve", FormatDate(eleve.DateNaissance));
+  valeurs.Ecrire(u"NumNationalEleve", NumeroNationalPresente(eleve.NumNational));
+  EcrireResponsable(eleve, second, valeurs);
+  valeurs.Ecrire(u"NumNationalResponsable", NumeroNationalPresente(second ? eleve.NumNationalResponsable2
+                                                                          : eleve.NumNationalResponsable));
+  valeurs.Ecrire(u"AgeLimite", QString::number(eleve.FlgHandicap ? regles.AgeHandicap : regles.Age));
+  valeurs.Ecrire(u"TotalJours", QString::number(TotalJours(fiche)));
+  valeurs.Ecrire(u"Montant", FormatDeuxDecimales(fiche.Montant));
+  for (const TPeriodeGarde& periode : fiche.Periodes) noeud.Enfants.push_back(NoeudPeriode(periode));
+  return noeud;
+}
+
+void AjouterAnnee(TRapport& rapport, const TFichesFiscales& fiches) {
+  const Currency maximum = fiches.Regles.MaximumParJour;
+  rapport.AjouterVariable(u"AnneeRevenus", QString::number(fiches.Annee));
+  rapport.AjouterVariable(u"MaximumParJour",
+                          maximum == Currency() ? QString() : FormatDeuxDecimales(maximum));
+}
+
+}  // namespace
+
+// As in every document, who was struck off is printed alone only; here he must not be forgotten.
+TResultat FicheFiscale(const TContexteDocument& contexte, const TDemandeDocument& demande) {
+  TRapport rapport(u"Fiche fiscale 281.86"_s, u"FicheFiscale"_s);
+  TFichesFiscales fiches(contexte.Eleves, contexte.Parametres,
+                         AnneeRevenus(contexte.Eleves.AnneeScolaire, contexte.Aujourdhui));
+  TFichesNumerotees numeros(contexte.Eleves.BaseDeDonnees(), fiches.Annee);
+  TResultat resultat;
+  TArbreRapport arbre;
+  for (const TFicheFiscale& fiche : fiches.Fiches(demande.Eleves)) {
+    if (fiche.Eleve->FlgRadie && demande.Eleves.size() > 1) {
+      resultat.Manques.push_back({fiche.Eleve, u"cbEleveRadie"_s,
+                                  u"élève radié : choisissez-le seul pour imprimer sa fiche"_s, true});
+      continue;
+    }
+    arbre.push_back(NoeudFiche(fiche, numeros.Numero(fiche.Eleve->Id, fiche.Responsable), fiches.Regles));
+  }
+  for (const TManqueFiche& manque : fiches.Manques())
+    resultat.Manques.push_back({manque.Eleve, manque.Champ, manque.Texte, manque.SansFiche});
+  AjouterSignataire(rapport, contexte);
+  AjouterAnnee(rapport, fiches);
+  if (fiches.Annee >= DecodeDate(contexte.Aujourdhui).Annee && !arbre.empty())
+    resultat.Messages +=
+        u"L'année %1 n'est pas finie : ces fiches ne sont pas complètes."_s.arg(fiches.Annee);
+  const QString siVide = resultat.Manques.empty() ? TexteRienAImprimer() : QString();
+  resultat.Ajouter(Presenter(std::move(rapport), std::move(arbre), siVide));
+  return resultat;
+}

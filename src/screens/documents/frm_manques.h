@@ -1,0 +1,36 @@
+#pragma once
+#include "documents/resultat.h"
+#include "forms/form.h"
+#include "forms/grille.h"
+
+/// "Ce qui manque": by pupil, what a document lacks, before it is shown. The others are printed, or the user
+/// goes to the record to see to it. Modal.
+class TFrmManques : public TForm {
+ public:
+  /// `imprimable`: there is a document for the others. `avecChamps`: something leads to the record.
+  /// `manques` must outlive it.
+  TFrmManques(const std::vector<TManque>& manques, bool imprimable, bool avecChamps);
+
+  /// "Il manque de quoi établir 3 documents" and what that means.
+  const QString& Texte() const { return texte_; }
+  bool Imprimable() const { return imprimable_; }
+  bool AvecChamps() const { return avecChamps_; }
+  TGrille Grille;  ///< a row each, with its place among them
+
+  /// "Imprimer les autres"
+  void btnImprimerClick() { Finir(TResultatModal::Valide); }
+  void btnAnnulerClick() { Finir(TResultatModal::Annule); }
+  /// "Aller à la fiche", of the current row.
+  void btnAllerClick();
+  /// What the user wants to see to; null for none.
+  const TManque* Choisi() const { return choisi_; }
+
+ private:
+  void Finir(TResultatModal resultat);
+
+  const std::vector<TManque>& manques_;
+  const bool imprimable_;
+  const bool avecChamps_;
+  QString texte_;
+  const TManque* choisi_ = nullptr;
+};

@@ -1,0 +1,34 @@
+#include "ui/documents/vue_manques.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "screens/documents/frm_manques.h"
+#include "ui/commun/vue_grille.h"
+
+using namespace Qt::StringLiterals;
+
+VueManques::VueManques(TFrmManques& form, QWidget* parent)
+    : DialogueBase(u"Ce qui manque"_s, parent), form_(form) {
+  DefinirEntete(form_.Texte());
+  auto* grille = new VueGrille(form_.Grille, u"Ce qui manque"_s, u"Manques/Liste"_s);
+  grille->DefinirColonneSouple(2);
+  grille->setMinimumSize(Theme::Px(860), Theme::Px(320));
+  Contenu()->addWidget(grille, 1);
+  connect(grille, &VueGrille::Activee, this, &VueManques::Aller);
+  DefinirPrincipal(form_.Imprimable() ? u"Imprimer les autres"_s : u"Aller à la fiche"_s);
+  if (form_.Imprimable() && form_.AvecChamps())
+    connect(AjouterBouton(u"Aller à la fiche"_s), &QPushButton::clicked, this, &VueManques::Aller);
+  if (!form_.Imprimable() && !form_.AvecChamps()) DefinirPrincipal(u"Fermer"_s);
+  grille->setFocus(Qt::OtherFocusReason);
+}
+
+void VueManques::Aller() {
+  form_.btnAllerClick();
+  if (form_.Choisi() != nullptr) accept();
+}
+
+bool VueManques::Valider() {
+  form_.Imprimable() || !form_.AvecChamps() ? form_.btnImprimerClick() : form_.btnAllerClick();
+  return !form_.EstMontree();
+}

@@ -1,0 +1,164 @@
+#include "workflows/garde_payee.h"
+
+#include <algorithm>
+#include <map>
+#include <numeric>
+#include <utility>
+
+#include "pupils/eleves.h"
+#include "services/frais_eleve.h"
+#include "workflows/regles_fiscales.h"
+#include "workflows/transfert_soldes.h"
+
+namespace {
+
+Currency Somme(const TParPayeur& caisse) { return std::accumulate(caisse.begin(), caisse.end(), Currency()); }
+
+/// What one payer has below 0 is taken from the others, as far as it goes.
+void Compenser(TParPayeur& caisse) {
+  for (Currency& trou : caisse)
+    for (Currency& autre : caisse)
+      if (trou < Currency() && autre > Currency()) {
+        const Currency pris = std::min(-trou, autre);
+        trou += pris;
+        autre -= pris;
+      }
+}
+
+void Verser(TParPayeur& de, TParPayeur& vers) {
+  for (std::size_t i = 0; i < de.size(); ++i) vers[i] += std::exchange(de[i], Currency());
+}
+
+bool EstMois(int mois) { return mois >= 1 && mois <= 12; }
+
+}  // namespace
+
+TCompteGarde::TCompteGarde(const TEleve& eleve, const TReglesFiscales& regles, const TPayeurs& payeurs)
+    : eleve_(eleve), regles_(regles), payeurs_(payeurs), payeur_(eleve.FlgImpotRespons2 ? 2 : 1) {
+  LireServices();
+  LireSupplements();
+  LireMois();
+  LireLignes();
+}
+
+// A day that comes out below 0, by what an activity takes off, is money for its month.
+void TCompteGarde::LireServices() {
+  std::map<TDateTime, TDu> jours;
+  TLignesService lignes;
+  for (const TService service : kServices) {
+    if (EstAccueil(service) && eleve_.Flg3eEnfant) continue;
+    eleve_.CoutService(service, BornesAnnee(eleve_.Eleves->AnneeScolaire), lignes);
+    for (const TLigneService& ligne : lignes) {
+      TDu& du = jours[ligne.Presence->DateReleve];
+      du.Total += ligne.Montant;
+      if (regles_.EstGarde(service)) du.Jour.Cout += ligne.Montant;
+    }
+  }
+  for (auto& [date, du] : jours) {
+    du.Date = du.Jour.Date = date;
+    du.Mois = DecodeDate(date).Mois;
+    if (du.Total > Currency())
+      dus_.push_back(du);
+    else
+      recettes_[static_cast<std::size_t>(du.Mois)][static_cast<std::size_t>(payeur_)] -= du.Total;
+  }
+}
+
+/// Fees that count with the services of their month come after its days.
+void TCompteGarde::LireSupplements() {
+  const TAllFraisEleve* lignes = eleve_.GetAllFrais();
+  if (lignes == nullptr) return;
+  for (const TFraisEleve& ligne : *lignes) {
+    const Currency du = ligne.MontantFrais() - ligne.MontantVerse;
+    if (!ligne.FraisService() || ligne.Previsionnel() || !EstMois(ligne.MoisFrais()) || du <= Currency())
+      continue;
+    const TDateTime fin = BornesMois(ligne.MoisFrais(), eleve_.Eleves->AnneeScolaire).Dernier;
+    dus_.push_back({fin, ligne.MoisFrais(), du});
+  }
+  std::ranges::stable_sort(dus_, {}, &TDu::Date);
+}
+
+// In provision mode a month that is marked moves no balance.
+void TCompteGarde::LireMois() {
+  if (eleve_.Eleves->Regles != nullptr && eleve_.Eleves->Regles->ModeProvision) return;
+  for (int mois = 1; mois <= 12; ++mois)
+    recettes_[static_cast<std::size_t>(mois)][static_cast<std::size_t>(payeur_)] +=
+        eleve_.PaiementsMois(mois);
+}
+
+void TCompteGarde::LireLignes() {
+  const TAllFraisEleve* lignes = eleve_.GetAllFrais();
+  if (lignes == nullptr) return;
+  const bool provision = eleve_.Eleves->Regles != nullptr && eleve_.Eleves->Regles->ModeProvision;
+  for (const TFraisEleve& ligne : *lignes) {
+    if (ligne.EstLibre())
+      LirePaiement(ligne);
+    else if (!provision && !ligne.FraisService() && !ligne.Previsionnel())
+      fraisPayes_ += ligne.MontantVerse;
+  }
+  Currency manque = std::max(Currency(), lignes->TotalFrais() - fraisPayes_);
+  for (Currency& general : general_) {
+    const Currency pris = std::min(manque, std::max(Currency(), general));
+    general -= pris;
+    manque -= pris;
+  }
+  Verser(general_, recettes_[0]);
+}
+
+void TCompteGarde::LirePaiement(const TFraisEleve& ligne) {
+  const TReport report = ReportDe(ligne);
+  const auto payeur = static_cast<std::size_t>(Payeur(ligne));
+  if (report == TReport::DetteParti)
+    detteCedee_ += ligne.MontantVerse;
+  else if (report != TReport::Aucun || ligne.TypeFamilleFrais == TTypeFamilleFrais::General)
+    general_[payeur] += ligne.MontantVerse;
+  else if (ligne.TypeFamilleFrais == TTypeFamilleFrais::Services)
+    recettes_[EstMois(ligne.Mois) ? static_cast<std::size_t>(ligne.Mois) : 0][payeur] += ligne.MontantVerse;
+  else
+    fraisPayes_ += ligne.MontantVerse;
+}
+
+int TCompteGarde::Payeur(const TFraisEleve& ligne) const {
+  if (!eleve_.FlgParentSepare || ligne.ExtraitId < 1) return payeur_;
+  const auto connu = payeurs_.find(ligne.ExtraitId);
+  return connu == payeurs_.end() ? 0 : connu->second;
+}
+
+Currency TCompteGarde::PaieDette(Currency dette) const {
+  if (dette <= Currency()) return {};
+  return std::clamp(Somme(recettes_[0]) + dette, Currency(), dette);
+}
+
+void TCompteGarde::Recevoir(Currency montant) { recettes_[0][static_cast<std::size_t>(payeur_)] += montant; }
+
+/// The care of the day is paid before its meals.
+bool TCompteGarde::Payer(TDu& du, TParPayeur& caisse) {
+  if (Somme(caisse) < du.Total) return false;
+  Currency reste = du.Total, garde = du.Jour.Cout;
+  for (const std::size_t payeur : {1U, 2U, 0U}) {
+    const Currency part = std::min(reste, caisse[payeur]);
+    caisse[payeur] -= part;
+    reste -= part;
+    du.Jour.Recu[payeur] = std::min(part, garde);
+    garde -= du.Jour.Recu[payeur];
+  }
+  du.Jour.Paye = true;
+  return true;
+}
+
+std::vector<TJourGarde> TCompteGarde::Solder() {
+  TParPayeur& libre = recettes_[0];
+  for (std::size_t mois = 1; mois < recettes_.size(); ++mois) {
+    Compenser(recettes_[mois]);
+    for (TDu& du : dus_)
+      if (du.Mois == static_cast<int>(mois) && !Payer(du, recettes_[mois])) break;
+    Verser(recettes_[mois], libre);
+  }
+  Compenser(libre);
+  for (TDu& du : dus_)
+    if (!du.Jour.Paye && !Payer(du, libre)) break;
+  std::vector<TJourGarde> jours;
+  for (const TDu& du : dus_)
+    if (du.Jour.Cout > Currency()) jours.push_back(du.Jour);
+  return jours;
+}

@@ -1,0 +1,123 @@
+#include "workflows/repartition.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "application/globals.h"
+#include "core/exceptions.h"
+#include "core/formats.h"
+#include "core/transaction_commune.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::int64_t kCent = 100;
+/// A product of two amounts.
+using TGrand = __int128;
+
+Currency Somme(const std::vector<Currency>& montants) {
+  return std::accumulate(montants.begin(), montants.end(), Currency());
+}
+
+/// Cuts each share to the cent, and hands the cents that are left to the first ones.
+std::vector<Currency> EnProportion(Currency montant, const std::vector<Currency>& poids) {
+  const std::int64_t total = Somme(poids).EnBrut();
+  std::vector<Currency> parts;
+  for (const Currency un : poids) {
+    const TGrand part = TGrand(montant.EnBrut()) * un.EnBrut() / total;
+    parts.push_back(Currency::Brut(static_cast<std::int64_t>(part)).TronqueAuCent());
+  }
+  Currency reste = montant - Somme(parts);
+  for (std::size_t i = 0; reste >= Currency::Brut(kCent); i = (i + 1) % parts.size()) {
+    parts[i] += Currency::Brut(kCent);
+    reste -= Currency::Brut(kCent);
+  }
+  parts.front() += reste;
+  return parts;
+}
+
+std::unique_ptr<TFraisEleve> LignePart(const TExtrait& extrait, const TPartVirement& part,
+                                       const QString& libelle) {
+  auto ligne = std::make_unique<TFraisEleve>();
+  ligne->Remarque = libelle;
+  ligne->MontantVerse = part.Montant;
+  ligne->ExtraitId = extrait.Id;
+  ligne->FlgPart = true;
+  ligne->TypeFamilleFrais = part.Famille;
+  ligne->GroupeFraisId = part.GroupeFraisId;
+  return ligne;
+}
+
+/// The lines in their ledgers, and out again unless they have been stored.
+class TLignesParts {
+ public:
+  ~TLignesParts() {
+    for (const auto& [lignes, ligne] : posees_) lignes->Forget(*ligne);
+  }
+  void Poser(TAllFraisEleve& lignes, std::unique_ptr<TFraisEleve> ligne) {
+    posees_.push_back({&lignes, &lignes.Add(std::move(ligne))});
+  }
+  void Ranger(TDataModule1& base) {
+    TTransactionCommune ensemble(base);
+    for (const auto& [lignes, ligne] : posees_) lignes->Save();
+    ensemble.Valider();
+    posees_.clear();
+  }
+
+ private:
+  std::vector<std::pair<TAllFraisEleve*, TFraisEleve*>> posees_;
+};
+
+}  // namespace
+
+Currency SoldeDu(const TEleve& eleve) {
+  const Currency du = -eleve.Solde(true, true);
+  return std::max(Currency(), Currency::Brut((du.EnBrut() + kCent / 2) / kCent * kCent));
+}
+
+std::vector<Currency> RepartirMontant(Currency montant, const std::vector<Currency>& dus) {
+  if (dus.empty()) return {};
+  const Currency total = Somme(dus);
+  if (total == Currency())
+    return EnProportion(montant, std::vector<Currency>(dus.size(), Currency::Euros(1)));
+  if (montant < total) return EnProportion(montant, dus);
+  std::vector<Currency> parts = dus;
+  parts.front() += montant - total;
+  return parts;
+}
+
+std::vector<TPartVirement> ProposerParts(const TExtrait& extrait, const std::vector<TEleve*>& eleves) {
+  std::vector<Currency> dus;
+  for (const TEleve* eleve : eleves) dus.push_back(SoldeDu(*eleve));
+  const auto montants = RepartirMontant(Globals.Eleves->ResteExtrait(extrait.Id, extrait.Montant), dus);
+  std::vector<TPartVirement> parts;
+  for (std::size_t i = 0; i < eleves.size(); ++i) parts.push_back({eleves[i], montants[i]});
+  return parts;
+}
+
+QString FauteParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts) {
+  if (parts.empty()) return u"Aucun élève n'a été sélectionné !"_s;
+  const Currency reste = Globals.Eleves->ResteExtrait(extrait.Id, extrait.Montant);
+  if (reste <= Currency()) return u"Ce mouvement est déjà attribué en entier."_s;
+  Currency total;
+  for (const TPartVirement& part : parts) {
+    if (part.Montant <= Currency())
+      return u"La part de %1 doit être plus grande que zéro."_s.arg(part.Eleve->NomComplet());
+    total += part.Montant;
+  }
+  if (total <= reste) return {};
+  return u"Les parts font %1, plus que les %2 qui restent de ce mouvement."_s.arg(FormatMontant(total),
+                                                                                  FormatMontant(reste));
+}
+
+// Another workstation may have given it to somebody since it was shown.
+void CrediterParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts, const QString& libelle) {
+  Globals.Eleves->ChargerExtraits = true;
+  if (const QString faute = FauteParts(extrait, parts); !faute.isEmpty()) throw Exception(faute);
+  TLignesParts lignes;
+  for (const TPartVirement& part : parts)
+    lignes.Poser(*part.Eleve->GetAllFrais(), LignePart(extrait, part, libelle));
+  lignes.Ranger(Globals.Eleves->BaseDeDonnees());
+  Globals.Eleves->ChargerExtraits = true;
+}

@@ -1,0 +1,168 @@
+#include "documents/modeles.h"
+#include "ecole_documents.h"
+#include "report/layout/mise_en_page.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A pupil with care in both school years of 2017, of which only May is not paid.
+struct TFicheFiscaleEssai : TDocumentsEssai {
+  TFicheFiscaleEssai() {
+    anne.nomme(u"ADAM"_s, u"Anne"_s).enClasse(u"P5"_s, u"A"_s);
+    automne.enClasse(u"P6"_s, u"A"_s);
+    Ne(u"2012-05-10"_s);
+    Poser(
+        u"NUM_NATIONAL = '12051000115', NUM_NATIONAL_RESPONSABLE = '85073003328', NOM_RESPONSABLE = 'UN', "
+        "NUM_NATIONAL_RESPONSABLE2 = '90010200487', NOM_RESPONSABLE2 = 'DEUX'"_s);
+    controleur.Horloge.Moment = EncodeDate(2018, 2, 5);
+  }
+  // The prices of the school are there once the fixture is set up.
+  void SetUp() override {
+    TDocumentsEssai::SetUp();
+    Scans(anne, {u"matin 2016-12-05"_s, u"matin 2017-02-06"_s, u"midi 2017-02-06"_s, u"repas 2017-02-06"_s,
+                 u"matin 2017-03-06"_s, u"matin 2017-05-08"_s});
+    anne.mois(12, u"1.2345"_s).mois(2, u"5.2395"_s).paie(u"1.2345"_s, 3, 2, u"Votre virement"_s);
+    Scans(automne, {u"matin 2017-10-02"_s, u"matin 2017-10-03"_s});
+    automne.paie(u"2.4690"_s, 0, 2, u"Votre virement"_s);
+  }
+  void Poser(const QString& colonnes) { base.Sql(u"UPDATE ELEVES SET "_s + colonnes); }
+  void Ne(const QString& date) { Poser(u"DATE_NAISSANCE = '"_s + date + u'\''); }
+  /// The last payment of the autumn comes by that movement.
+  void ParVirement(const QString& responsable, const QString& montant = u"2.4690"_s) {
+    base.Sql(
+        u"INSERT INTO EXTRAITS (EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, "
+        u"NUM_CPT_DONNEUR, ANNEE_SCOLAIRE, TYPE_RESPONSABLE) VALUES (7, '', '10/05/2017', 99, '', '', 2017, "_s +
+        responsable + u')');
+    base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 7, FLG_PART = 1 WHERE MONTANT_VERSE = "_s + montant);
+  }
+  TResultat Etablir(int annee = 2017, const std::vector<int>& autres = {}) {
+    Globals = {};
+    controleur.Charger(annee);
+    TChoixDocument choix;
+    choix.Eleves = {Globals.Eleves->TrouverParId(anne.Id)};
+    for (const int autre : autres) choix.Eleves.push_back(Globals.Eleves->TrouverParId(autre));
+    return FaireDocument(ContexteDesGlobals(controleur.Horloge), *TrouverTitre(u"Fiche fiscale 281.86"),
+                         choix);
+  }
+  /// "1 UN 3 j 5,43: 2 x 1,49 = 2,97 06/02/2017-06/03/2017|..." of each sheet.
+  static QString Fiches(const TResultat& resultat) {
+    QStringList fiches;
+    for (const TRapport& rapport : resultat.Rapports)
+      for (const TNoeudRapport& noeud : rapport.Arbre()) {
+        const TValeurs& v = noeud.Valeurs;
+        QStringList periodes;
+        for (const TNoeudRapport& p : noeud.Enfants)
+          periodes += p.Valeurs.Valeur(u"Jours") % u" x " % p.Valeurs.Valeur(u"Tarif") % u" = " %
+                      p.Valeurs.Valeur(u"MontantPeriode") % u' ' % p.Valeurs.Valeur(u"PeriodeDu") % u'-' %
+                      p.Valeurs.Valeur(u"PeriodeAu");
+        fiches += v.Valeur(u"NumFiche") % u' ' % v.Valeur(u"NomResponsable") % u' ' %
+                  v.Valeur(u"TotalJours") % u" j " % v.Valeur(u"Montant") % u": " % periodes.join(u'|');
+      }
+    return fiches.join(u'\n');
+  }
+  static QString Manques(const TResultat& resultat) {
+    QStringList manques;
+    for (const TManque& manque : resultat.Manques)
+      manques += (manque.SansDocument ? u"! "_s : QString()) % manque.Champ % u' ' % manque.Texte;
+    return manques.join(u'\n');
+  }
+
+  TEcoleEssai suivante{base, 2017};
+  TEleveEssai anne = ecole.unEleve();
+  TEleveEssai automne{suivante, anne.Id};
+};
+
+const QString kPrintemps = u"2 x 1,49 = 2,97 06/02/2017-06/03/2017"_s;
+const QString kAutomne = u"2 x 1,23 = 2,46 02/10/2017-03/10/2017"_s;
+const QString kMai = u" 1 jour de garde impayé, le 08/05/2017 : pas sur la fiche"_s;
+
+}  // namespace
+
+TEST_F(TFicheFiscaleEssai, CeQuiEstPayeParTrimestre) {
+  const TResultat resultat = Etablir();
+  const QString entiere = u"1 UN 4 j 5,43: "_s + kPrintemps + u'|' + kAutomne;
+  EXPECT_EQ(Fiches(resultat), entiere);
+  EXPECT_EQ(Manques(resultat), kMai);
+  EXPECT_EQ(Variable(resultat, u"AnneeRevenus"), u"2017");
+  const TValeurs& valeurs = resultat.Rapports[0].Arbre()[0].Valeurs;
+  EXPECT_EQ(valeurs.Valeur(u"NumNationalEleve"), u"12.05.10-001.15");
+  EXPECT_EQ(valeurs.Valeur(u"NumNationalResponsable"), u"85.07.30-033.28");
+  const TDocumentPrepare document = MettreEnPage(resultat.Rapports[0], *ModeleDocument(u"FicheFiscale"_s));
+  EXPECT_EQ(document.Pages.size(), 1U);
+  EXPECT_TRUE(document.Defauts.empty());
+  // The school year before has the same sheet, with the same number, for who has left since.
+  EXPECT_EQ(Fiches(Etablir(2016)), entiere);
+  Poser(u"FLG_IMPOT_RESPONS2 = 1"_s);
+  EXPECT_TRUE(Fiches(Etablir()).startsWith(u"2 DEUX")) << "another debtor's is another sheet";
+  Poser(u"FLG_IMPOT_RESPONS2 = NULL"_s);
+  EXPECT_EQ(Fiches(Etablir()), entiere);
+}
+
+TEST_F(TFicheFiscaleEssai, JusqueLaVeilleDeLAnniversaire) {
+  Ne(u"2003-03-06"_s);
+  EXPECT_EQ(Fiches(Etablir()), u"1 UN 1 j 1,73: 1 x 1,73 = 1,73 06/02/2017-06/02/2017");
+  Poser(u"FLG_HANDICAP = 1"_s);
+  EXPECT_EQ(Fiches(Etablir()), u"1 UN 4 j 5,43: "_s + kPrintemps + u'|' + kAutomne);
+  Ne(u"1995-01-01"_s);
+  EXPECT_EQ(Etablir().Messages, QStringList{u"Aucune information à imprimer"_s});
+}
+
+// A day is paid whole or not at all, and no money is lost: what does not pay February pays in its order.
+TEST_F(TFicheFiscaleEssai, LArgentPaieLesJoursEntiers) {
+  base.Sql(u"UPDATE PAIEMENTS SET MONTANT = 5.2394 WHERE MOIS = 2"_s);
+  EXPECT_EQ(Fiches(Etablir()), u"1 UN 3 j 3,69: 1 x 1,23 = 1,23 06/03/2017-06/03/2017|"_s + kAutomne);
+  anne.paie(u"0.0001"_s, 0, 2, {});
+  EXPECT_EQ(Manques(Etablir()), kMai);
+  // General payments pay the fees first, catalogue fees in both ways.
+  anne.doit(ecole.frais(u"Piscine"_s, u"3"_s, 10)).paie(u"4.2344"_s, 0, 0, {});
+  EXPECT_EQ(Manques(Etablir()), kMai);
+  anne.paie(u"0.0001"_s, 0, 0, {});
+  EXPECT_EQ(Fiches(Etablir()),
+            u"1 UN 5 j 6,66: "_s + kPrintemps + u"|1 x 1,23 = 1,23 08/05/2017-08/05/2017|"_s + kAutomne);
+}
+
+// What was owed in June and carried over is nobody's payment until the next year's money has paid it.
+TEST_F(TFicheFiscaleEssai, LaDetteReporteeNEstPasPayee) {
+  anne.paie(u"1.2345"_s, 6, 1, u"Report vers l'année scolaire 2017-2018"_s);
+  automne.paie(u"-1.2345"_s, 9, 1, u"Report de l'année scolaire 2016-2017"_s);
+  const TResultat courte = Etablir();
+  EXPECT_EQ(Fiches(courte),
+            u"1 UN 4 j 5,43: "_s + kPrintemps +
+                u"|1 x 1,23 = 1,23 08/05/2017-08/05/2017|1 x 1,23 = 1,23 02/10/2017-02/10/2017"_s);
+  EXPECT_EQ(Manques(courte), u" 1 jour de garde impayé, le 03/10/2017 : pas sur la fiche");
+  automne.paie(u"1.2345"_s, 0, 2, {});
+  EXPECT_EQ(Manques(Etablir()), QString());
+}
+
+TEST_F(TFicheFiscaleEssai, ChaqueParentASaFiche) {
+  ParVirement(u"2"_s);
+  EXPECT_TRUE(Fiches(Etablir()).startsWith(u"1 UN 4 j")) << "they live together";
+  Poser(u"FLG_PARENT_SEPARE = 1"_s);
+  EXPECT_EQ(Fiches(Etablir()), u"1 UN 2 j 2,97: "_s + kPrintemps + u"\n2 DEUX 2 j 2,46: "_s + kAutomne);
+  base.Sql(u"UPDATE EXTRAITS SET TYPE_RESPONSABLE = NULL"_s);
+  const TResultat inconnu = Etablir();
+  EXPECT_EQ(Fiches(inconnu), QString());
+  EXPECT_TRUE(Manques(inconnu).startsWith(u"!  débiteur inconnu : ")) << Manques(inconnu).toStdString();
+  EXPECT_TRUE(inconnu.Messages.isEmpty());
+}
+
+TEST_F(TFicheFiscaleEssai, CeQuiManqueEstDitLesAutresSontImprimees) {
+  TEleveEssai autre = ecole.unEleve().nomme(u"BABEL"_s, {}).enClasse(u"P1"_s, {});
+  TEleveEssai sienne(suivante, autre.Id);
+  Scans(sienne.enClasse(u"P2"_s, {}), {u"matin 2017-10-02"_s});
+  sienne.mois(10, u"1.2345"_s);
+  const TResultat resultat = Etablir(2017, {autre.Id});
+  EXPECT_TRUE(Fiches(resultat).startsWith(u"1 UN 4 j"));
+  EXPECT_EQ(Manques(resultat), kMai +
+                                   u"\n! lblDateNaissance la date de naissance de l'enfant manque\n"
+                                   "! edNumNational le numéro national de l'enfant manque\n"
+                                   "! edNomResponsable débiteur : le nom du responsable manque\n"
+                                   "! edNumNationalResponsable le numéro national du responsable manque"_s);
+  Poser(u"NUM_NATIONAL = '12051000116'"_s);
+  EXPECT_TRUE(Manques(Etablir()).startsWith(u"! edNumNational le numéro national de l'enfant est incorrect"));
+  Poser(u"NUM_NATIONAL = '12051000115'"_s);
+  anne.avec(u"FLG_RADIE"_s);
+  EXPECT_EQ(Etablir(2017, {autre.Id}).Rapports.size(), 0U);
+  EXPECT_TRUE(Fiches(Etablir()).startsWith(u"1 UN 4 j"));
+}

@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include "screens/documents/frm_manques.h"
+#include "screens/documents/imprimeur.h"
+#include "screens/payments/frm_repartition.h"
+#include "support/ecran_essai.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Two pupils, who owe 20 and 10 euros, and a movement of 24.
+struct TManquesParts : testing::Test {
+  TManquesParts() {
+    for (const QString& cout : {u"20"_s, u"10"_s})
+      ecole.unEleve().enClasse(u"P1"_s, u"A"_s).doit(ecole.frais(u"Sortie"_s, cout, 10));
+    base.Sql(
+        u"INSERT INTO EXTRAITS (EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, "
+        "NUM_CPT_DONNEUR, ANNEE_SCOLAIRE) VALUES (7, 'DUPONT', '2016-10-05', 24, '', '', 2016)"_s);
+  }
+  static TEleve& Eleve(int cle) { return *Globals.Eleves->TrouverParId(cle); }
+
+  TBaseEssai base;
+  TEcoleEssai ecole{base};
+};
+
+}  // namespace
+
+TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
+  TEcranEssai monde(base);
+  TImprimeur imprimeur(monde.Contexte, {});
+  QStringList vus;
+  imprimeur.SurAllerAuChamp = [&](TEleve& eleve, const QString& champ) {
+    vus += QString::number(eleve.Id) % u' ' % champ;
+  };
+  void (TFrmManques::*faire)() = nullptr;
+  monde.SurModale = [&](TForm& form) {
+    auto& manques = dynamic_cast<TFrmManques&>(form);
+    EXPECT_EQ(manques.Texte(), u"1 élève n'est pas imprimé tant qu'il manque ceci :");
+    EXPECT_EQ(manques.Grille.Texte(1, 3), u"Imprimé sans");
+    (manques.*faire)();
+  };
+  const auto imprimer = [&] {
+    imprimeur.Faire([](const TContexteDocument&) {
+      TResultat resultat;
+      resultat.Manques = {{&Eleve(1), u"edNumNational"_s, u"manque"_s, true},
+                          {&Eleve(2), {}, u"impayé"_s, false}};
+      resultat.Rapports.emplace_back(u"Titre"_s, u"Modele"_s);
+      return resultat;
+    });
+    return monde.Apercus.size();
+  };
+  faire = &TFrmManques::btnAllerClick;
+  EXPECT_EQ(imprimer(), 0);
+  faire = &TFrmManques::btnAnnulerClick;
+  EXPECT_EQ(imprimer(), 0);
+  faire = &TFrmManques::btnImprimerClick;
+  EXPECT_EQ(imprimer(), 1);
+  EXPECT_EQ(vus, QStringList{u"1 edNumNational"_s});
+}
+
+TEST_F(TManquesParts, LesPartsSontChangeesPuisStockees) {
+  TEcranEssai monde(base);
+  const TExtrait& extrait = *monde.Essai.Controleur.Extraits().TrouverParId(7);
+  const std::vector<TProposition> aucune;
+  TFrmRepartition form(monde.Contexte, extrait, {u"Virement"_s, TTypeFamilleFrais::Frais, 0}, aucune);
+  EXPECT_EQ(form.Titre(), u"24,00 € à répartir, de DUPONT, le 05/10/2016");
+  form.Ajouter(Eleve(1));
+  form.Ajouter(Eleve(2));
+  EXPECT_EQ(form.Parts.Textes(0).mid(2), (QStringList{u"20,00 €"_s, u"16,00 €"_s}));
+  EXPECT_EQ(form.TexteReste(), u"Tout est réparti");
+  EXPECT_EQ(form.Eleves.NombreLignes(), 0);
+  form.Champs().Taper(0, u"9,01"_s);  // of the second, who was added last
+  EXPECT_TRUE(form.Champs().Quitter(0));
+  EXPECT_EQ(form.TexteReste(), u"1,01 € de trop");
+  base.Dialogues.Attend(u"plus que les 24,00 €"_s);
+  EXPECT_FALSE(form.btnValiderClick());
+  form.Champs().Taper(0, u"5"_s);
+  EXPECT_TRUE(form.btnValiderClick());
+  EXPECT_EQ(
+      base.Rangees(u"SELECT ELEVE_ID, MONTANT_VERSE, TYPE_FAMILLE_FRAIS, REMARQUE FROM FRAIS_ELEVE WHERE "
+                   "EXTRAIT_ID = 7 ORDER BY 1"_s),
+      (QStringList{u"1;16.0000;1;Virement"_s, u"2;5.0000;1;Virement"_s}));
+}

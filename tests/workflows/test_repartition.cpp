@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include "core/exceptions.h"
+#include "support/controleur_essai.h"
+#include "support/valeurs.h"
+#include "workflows/import_virements.h"
+#include "workflows/propositions.h"
+#include "workflows/repartition.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Currency C(std::int64_t centimes) { return Currency::Brut(centimes * 100); }
+
+/// Three children of one family who owe 20, 10 and nothing; a movement of 24 euros.
+class TRepartitionEssai : public testing::Test {
+ protected:
+  TRepartitionEssai() {
+    const int frais[] = {ecole_.frais(u"Piscine"_s, u"20"_s, 10), ecole_.frais(u"Sortie"_s, u"10"_s, 10)};
+    for (int i = 0; i < 3; ++i) {
+      TEleveEssai eleve = ecole_.unEleve().enClasse(u"P1"_s, u"A"_s);
+      if (i < 2) eleve.doit(frais[i]);
+    }
+    Mouvement(7, u"24"_s, u"BE68539007547034"_s, u"DUPONT-LEROY Marie"_s);
+  }
+  void Mouvement(int id, const QString& montant, const QString& compte, const QString& donneur) {
+    base_.Sql(
+        u"INSERT INTO EXTRAITS (EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, "
+        "NUM_CPT_DONNEUR, ANNEE_SCOLAIRE) VALUES (%1, '%4', '2016-10-05', %2, '', '%3', 2016)"_s.arg(id)
+            .arg(montant, compte, donneur));
+  }
+  TExtrait& Charger(int id = 7) {
+    Globals = {};
+    essai_.Charger();
+    return *essai_.Controleur.Extraits().TrouverParId(id);
+  }
+  static std::vector<TEleve*> Eleves(const std::vector<int>& cles) {
+    std::vector<TEleve*> eleves;
+    for (const int cle : cles) eleves.push_back(Globals.Eleves->TrouverParId(cle));
+    return eleves;
+  }
+  QStringList Lignes() {
+    return base_.Rangees(
+        u"SELECT ELEVE_ID, EXTRAIT_ID, MONTANT_VERSE, FLG_PART, TYPE_FAMILLE_FRAIS FROM FRAIS_ELEVE WHERE "
+        "EXTRAIT_ID > 0 ORDER BY FRAIS_ELEVE_ID"_s);
+  }
+  /// "1 8 compte de l'élève|..."
+  QString Propositions(const TExtrait& extrait) {
+    QStringList textes;
+    TPropositions propositions(*Globals.Eleves);
+    const auto trouvees = propositions.Pour(extrait);
+    for (const TProposition& p : trouvees) textes += QString::number(p.Eleve->Id) % u' ' % p.Raison;
+    const TProposition* evidente = TPropositions::Evidente(trouvees);
+    return textes.join(u'|') % (evidente != nullptr ? u" => %1"_s.arg(evidente->Eleve->Id) : QString());
+  }
+
+  TBaseEssai base_;
+  TEcoleEssai ecole_{base_};
+  TControleurEssai essai_{base_};
+};
+
+}  // namespace
+
+TEST(Repartition, AuCentPres) {
+  using V = std::vector<Currency>;
+  const struct {
+    Currency Montant;
+    V Dus, Parts;
+  } cas[] = {
+      {C(3000), {C(2000), C(1000)}, {C(2000), C(1000)}},
+      {C(3500), {C(2000), C(1000)}, {C(2500), C(1000)}},
+      {C(1000), {C(2000), C(1000)}, {C(667), C(333)}},
+      {C(100), {C(1), C(1), C(1000)}, {C(1), C(0), C(99)}},
+      {C(1000), {C(0), C(0), C(0)}, {C(334), C(333), C(333)}},
+      {Currency::Brut(100'050), {C(1000), C(1000)}, {Currency::Brut(50'050), C(500)}},
+      {C(900'000'000'000),
+       {C(999'999'999'999), C(999'999'999'999)},
+       {C(450'000'000'000), C(450'000'000'000)}},
+      {C(5), {}, {}},
+  };
+  for (const auto& [montant, dus, parts] : cas)
+    EXPECT_EQ(RepartirMontant(montant, dus), parts) << montant.EnBrut();
+}
+
+TEST_F(TRepartitionEssai, PlusieursLignesDUnMouvement) {
+  TExtrait& extrait = Charger();
+  std::vector<TPartVirement> parts = ProposerParts(extrait, Eleves({1, 2}));
+  EXPECT_EQ(parts[0].Montant, C(1600));
+  EXPECT_EQ(parts[1].Montant, C(800));
+  parts[1].Montant = C(801);
+  EXPECT_EQ(FauteParts(extrait, parts),
+            u"Les parts font 24,01 €, plus que les 24,00 € qui restent de ce mouvement.");
+  EXPECT_THROW(CrediterParts(extrait, parts, u"x"_s), Exception);
+  EXPECT_EQ(Lignes(), QStringList());
+  parts[0].Famille = TTypeFamilleFrais::Frais;
+  parts[1].Montant = C(500);
+  CrediterParts(extrait, parts, LibelleVirement(extrait));
+  QStringList lignes{u"1;7;16.0000;1;1"_s, u"2;7;5.0000;1;0"_s};
+  EXPECT_EQ(Lignes(), lignes);
+  EXPECT_EQ(EtatExtrait(extrait), TEtatMouvement::Partiel);
+  EXPECT_EQ(TexteParts(extrait), u"Eleve1 Prenom1 16,00 €, Eleve2 Prenom2 5,00 €, reste 3,00 €");
+  EXPECT_EQ(Eleves({1})[0]->Solde(true, true), C(-400));
+  EXPECT_EQ(Eleves({2})[0]->Solde(true, true), C(-500));
+  // The rest goes to the third, and nobody can have more.
+  CrediterParts(extrait, ProposerParts(extrait, Eleves({3})), {});
+  EXPECT_EQ(Lignes(), lignes += u"3;7;3.0000;1;0"_s);
+  EXPECT_EQ(EtatExtrait(extrait), TEtatMouvement::Comptabilise);
+  EXPECT_EQ(FauteParts(extrait, parts), u"Ce mouvement est déjà attribué en entier.");
+  EXPECT_EQ(LireAttributions(*base_)[7].size(), 3U);
+  // One of them deleted leaves the others, and its part is free again.
+  TAllFraisEleve& deux = *Eleves({2})[0]->GetAllFrais();
+  deux.Remove(deux[deux.Count() - 1]);
+  deux.Save();
+  Globals.Eleves->ChargerExtraits = true;
+  lignes.removeAt(1);
+  EXPECT_EQ(Lignes(), lignes);
+  EXPECT_EQ(Globals.Eleves->ResteExtrait(7, extrait.Montant), C(500));
+}
+
+// What another workstation has taken meanwhile is seen; what cannot be stored leaves nothing behind.
+TEST_F(TRepartitionEssai, ToutesLesPartsOuAucune) {
+  TExtrait& extrait = Charger();
+  const auto parts = ProposerParts(extrait, Eleves({1, 2}));
+  TEleveEssai(ecole_, 3).paie(u"24"_s, 0, 0, {});
+  base_.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 7 WHERE ELEVE_ID = 3"_s);
+  EXPECT_THROW(CrediterParts(extrait, parts, {}), Exception) << "given whole";
+  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE ELEVE_ID = 3"_s);
+  base_.Sql(u"ALTER TABLE FRAIS_ELEVE ADD CONSTRAINT PAS_DEUX CHECK (ELEVE_ID <> 2)"_s);
+  EXPECT_THROW(CrediterParts(extrait, parts, {}), Exception);
+  EXPECT_EQ(Lignes(), QStringList());
+  EXPECT_EQ(Eleves({1})[0]->GetAllFrais()->Count(), 1);
+}
+
+TEST_F(TRepartitionEssai, QuiAPuPayerEtPourquoi) {
+  EXPECT_EQ(Propositions(Charger()), QString());
+  base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'be68 5390 0754 7034' WHERE ELEVE_ID = 2"_s);
+  base_.Sql(
+      u"UPDATE ELEVES SET NOM_RESPONSABLE = 'Dupont', PRENOM_RESPONSABLE = 'Marie' WHERE ELEVE_ID = 1"_s);
+  base_.Sql(
+      u"UPDATE ELEVES SET NOM_RESPONSABLE = 'Dupont', PRENOM_RESPONSABLE = 'Paul' WHERE ELEVE_ID = 3"_s);
+  EXPECT_EQ(Propositions(Charger()), u"2 compte de l'élève|1 nom d'un adulte => 2");
+  Mouvement(8, u"20"_s, u"BE68539007547034"_s, u"X"_s);
+  TEleveEssai(ecole_, 3).paie(u"1"_s, 0, 0, {});
+  base_.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 8 WHERE ELEVE_ID = 3"_s);
+  EXPECT_EQ(Propositions(Charger()),
+            u"2 compte de l'élève|3 a déjà payé par ce compte|1 nom d'un adulte => 2");
+  EXPECT_EQ(Propositions(Charger(8)), u"2 compte de l'élève|3 a déjà payé par ce compte|1 doit 20,00 € => 2");
+  base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = NULL"_s);
+  Mouvement(9, u"-20"_s, u"BE68539007547034"_s, u"X"_s);
+  EXPECT_EQ(Propositions(Charger(9)), QString()) << "the school pays";
+  Mouvement(10, u"3"_s, {}, u"MARIE DUPONT ET P. DUPONT"_s);
+  EXPECT_EQ(Propositions(Charger(10)), u"1 nom d'un adulte|3 nom d'un adulte") << "nobody stands out";
+  for (int i = 0; i < 3; ++i)
+    base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'BE68539007547034' WHERE ELEVE_ID = "_s +
+              QString::number(ecole_.unEleve().enClasse(u"P1"_s, {}).Id));
+  EXPECT_NE(Propositions(Charger()), QString()) << "four pupils";
+  base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'BE68539007547034' WHERE ELEVE_ID = 1"_s);
+  EXPECT_EQ(Propositions(Charger()), QString()) << "a public service";
+}
