@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
     };
     if (voulu(u"chargement"_s)) MesurerChargement(ecole);
     if (voulu(u"factures"_s)) MesurerFactures(ecole, dossier);  // before the larger school takes memory
+    if (voulu(u"statistiques"_s)) MesurerStatistiques(ecole);
     if (voulu(u"ecran"_s)) MesurerEcran(ecole, dossier);
     if (voulu(u"repas"_s)) MesurerRepas(ecole, dossier);
     if (voulu(u"banque"_s)) MesurerBanque(ecole, dossier);

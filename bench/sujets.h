@@ -7,6 +7,7 @@
 // knowing to the error stream. `ecole` has 500 pupils and 250,000 presences.
 
 void MesurerChargement(TEcole& ecole);
+void MesurerStatistiques(TEcole& ecole);
 void MesurerTarification(TEcole& ecole, const QTemporaryDir& dossier);
 /// The peak of memory is that of the process so far.
 void MesurerFactures(TEcole& ecole, const QTemporaryDir& dossier);

@@ -7,11 +7,13 @@
 #include "demo/chargement_repas.h"
 #include "demo/fichiers.h"
 #include "demo/releve_banque.h"
+#include "demo/tirage.h"
 #include "demo/virements.h"
 #include "payments/communication_structuree.h"
 #include "services/frais_eleve.h"
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
+#include "workflows/import_virements.h"
 
 using namespace Qt::StringLiterals;
 
@@ -64,7 +66,7 @@ TBilanChargement TChargement::Tout() {
   if (TEleves(controleur_.Base(), 0).Count() > 0)
     throw Exception(u"La base contient déjà des élèves : l'école d'exemple veut une base vide."_s);
   Parametres();
-  controleur_.ChargerAnnee(kAnneeExemple);
+  controleur_.ChargerAnnee(ecole_.Annee);
   Registre();
   Sites();
   Fiches();
@@ -83,11 +85,31 @@ TBilanChargement TChargement::Tout() {
   return bilan_;
 }
 
+TBilanChargement TChargement::Automne() {
+  Etape(u"Clôture de l'année, et automne %1"_s.arg(ecole_.Annee));
+  TClotureAnnee(controleur_).Cloturer();
+  const QString registre = dossier_ % u"/registre-%1.csv"_s.arg(ecole_.Annee);
+  EcrireFichier(registre, TexteRegistre(ecole_, TDisposition::Premiere));
+  Inscrire(registre);
+  Reengager();
+  Recharger();
+  Frais();
+  Marques();
+  Presences();
+  Recharger();
+  ReleveAutomne();
+  Recharger();
+  DirePayeurs();
+  bilan_.Eleves = static_cast<int>(ecole_.Eleves.size());
+  bilan_.Presences = Globals.Presences->Count();
+  return bilan_;
+}
+
 void TChargement::Etape(const QString& titre) { controleur_.Dialogues().Information(titre); }
 
 /// The year afresh, and the pupils by their index in the sample.
 void TChargement::Recharger() {
-  controleur_.ChargerAnnee(kAnneeExemple);
+  controleur_.ChargerAnnee(ecole_.Annee);
   eleves_.clear();
   for (const TEleveExemple& eleve : ecole_.Eleves) {
     TEleve* trouve = Globals.Eleves->TrouverParMatricule(eleve.Matricule);
@@ -120,10 +142,23 @@ void TChargement::Registre() {
   const QString chemin = dossier_ % u"/registre-disposition-1.csv";
   EcrireFichier(chemin, TexteRegistre(ecole_, TDisposition::Premiere));
   EcrireFichier(dossier_ % u"/registre-disposition-2.csv", TexteRegistre(ecole_, TDisposition::Seconde));
+  Inscrire(chemin);
+}
+
+void TChargement::Inscrire(const QString& registre) {
   Etape(u"Importation du registre : %1 élèves"_s.arg(ecole_.Eleves.size()));
   TImportRegistre import(controleur_);
-  if (!import.Etape1(chemin)) throw Exception(u"Le registre écrit n'est pas accepté."_s);
+  if (!import.Etape1(registre)) throw Exception(u"Le registre écrit n'est pas accepté."_s);
   import.Etape2();
+}
+
+/// The staff goes on in the new year.
+void TChargement::Reengager() {
+  const TEleves tous(controleur_.Base(), 0);
+  for (const TProfesseurExemple& exemple : ecole_.Professeurs)
+    if (const TEleve* professeur = tous.TrouverParMatricule(exemple.Matricule))
+      Globals.Eleves->AddClasseEleve(professeur->Id, u"PROFESSEURS"_s, ecole_.Annee,
+                                     ecole_.Sites[static_cast<std::size_t>(exemple.Site)].Code, {});
 }
 
 /// The import has made the sites from their codes; the office gives them their names.
@@ -178,7 +213,7 @@ void TChargement::Personnel() {
     professeur->Matricule = exemple.Matricule;
     const TEleve& ajoute = Globals.Eleves->AddEleve(std::move(professeur));
     Globals.Eleves->Save();
-    Globals.Eleves->AddClasseEleve(ajoute.Id, u"PROFESSEURS"_s, kAnneeExemple,
+    Globals.Eleves->AddClasseEleve(ajoute.Id, u"PROFESSEURS"_s, ecole_.Annee,
                                    ecole_.Sites[static_cast<std::size_t>(exemple.Site)].Code, {});
   }
 }
@@ -277,12 +312,12 @@ void TChargement::Presences() {
 void TChargement::MoisPayes() {
   for (const TMoisExemple& exemple : ecole_.MoisPayes) {
     const TEleve& eleve = Eleve(exemple.Eleve);
-    const Currency montant = eleve.CoutMois(exemple.Mois, kAnneeExemple);
+    const Currency montant = eleve.CoutMois(exemple.Mois, ecole_.Annee);
     if (montant <= Currency()) continue;
     auto paiement = std::make_unique<TPaiement>();
     paiement->EleveId = eleve.Id;
     paiement->Mois = exemple.Mois;
-    paiement->Annee = kAnneeExemple;
+    paiement->Annee = ecole_.Annee;
     paiement->Montant = montant;
     Globals.Paiements->MarquePaye(std::move(paiement));
   }
@@ -316,6 +351,46 @@ void TChargement::Virements() {
   }
   for (TEleve* eleve : eleves_) eleve->GetAllFrais()->Save();
   Releve(mouvements);
+}
+
+/// What September and October came to, paid in the month that follows by most who have an account.
+void TChargement::ReleveAutomne() {
+  Etape(u"Virements de l'automne"_s);
+  TTirage tirage(ecole_.Graine, 7);
+  std::vector<TMouvementBanque> mouvements;
+  for (std::size_t e = 0; e < ecole_.Eleves.size(); ++e)
+    for (const int mois : {9, 10}) {
+      const TEleve& eleve = Eleve(static_cast<int>(e));
+      const TFamilleExemple& famille = Famille(ecole_, static_cast<int>(e));
+      const Currency montant = eleve.TotalServices(BornesMois(mois, ecole_.Annee));
+      const QDate date(ecole_.Annee, mois + 1, tirage.Entier(3, 24));
+      if (montant > Currency() && !famille.Compte.isEmpty() && tirage.Chance(850))
+        mouvements.push_back({date, famille.Titulaire, famille.Compte, montant,
+                              CommunicationServices(controleur_.Dialogues(), eleve.Id, mois, ecole_.Annee)});
+    }
+  const QString chemin = dossier_ % u"/releve-%1-11.csv"_s.arg(ecole_.Annee);
+  EcrireFichier(chemin, TexteReleve(mouvements, u"BE68 5390 0754 7034"_s));
+  TImportVirements import(controleur_);
+  if (!import.Etape1(chemin)) throw Exception(u"Le relevé écrit n'est pas accepté."_s);
+  import.Etape2();
+  bilan_.Virements = static_cast<int>(mouvements.size());
+}
+
+/// Which of two parents who live apart paid, as the office notes it: by turns.
+void TChargement::DirePayeurs() {
+  TExtraits& extraits = controleur_.Extraits();
+  for (const TEleve* eleve : eleves_) {
+    if (!eleve->FlgParentSepare) continue;
+    int responsable = 1;
+    for (const TFraisEleve& ligne : *eleve->GetAllFrais()) {
+      TExtrait* extrait = extraits.TrouverParId(ligne.ExtraitId);
+      if (extrait == nullptr) continue;
+      extrait->TypeResponsable = responsable;
+      responsable = 3 - responsable;
+      extraits.Add(*extrait);
+    }
+  }
+  extraits.Save();
 }
 
 /// The last statement of the year, in a file of each layout: among the payments that the invoices ask for,

@@ -20,10 +20,15 @@ class TChargement {
 
   /// Raises Exception, at once when the database already has pupils.
   TBilanChargement Tout();
+  /// The autumn of the year that follows the one on display: its closing, the register, the scans, and what
+  /// the families pay by transfer, parents who live apart by turns. Raises Exception.
+  TBilanChargement Automne();
 
  private:
   void Parametres();
   void Registre();
+  void Inscrire(const QString& registre);
+  void Reengager();
   void Sites();
   void Fiches();
   void Personnel();
@@ -33,6 +38,8 @@ class TChargement {
   void Presences();
   void MoisPayes();
   void Virements();
+  void ReleveAutomne();
+  void DirePayeurs();
   void Recharger();
   void Etape(const QString& titre);
   void Releve(const std::vector<struct TMouvementBanque>& mouvements);

@@ -141,6 +141,8 @@ struct TParametreExemple {
 
 struct TEcoleExemple {
   std::uint64_t Graine = 0;
+  int Annee = 2016;                 ///< its school year
+  QDate DateRegistre{2016, 10, 3};  ///< of the register's export
   std::vector<TSiteExemple> Sites;
   std::vector<TFamilleExemple> Familles;
   std::vector<TEleveExemple> Eleves;  ///< by site, level, sub-class and name

@@ -15,7 +15,6 @@ namespace {
 
 const QString kFinLigne = u"\r\n"_s;
 const QString kEtablissement = u"2208"_s;
-const QDate kDateFichier(2016, 10, 3);
 
 QString Compacte(const QDate& date) { return date.toString(u"yyyyMMdd"_s); }
 
@@ -69,7 +68,7 @@ QStringList LignePremiere(const TEcoleExemple& ecole, const TEleveExemple& eleve
   champs[13] = Protege(r1.Numero);
   champs[14] = CodePostal(r1);
   champs[15] = r1.Localite;
-  champs[16] = kDateFichier.toString(u"yyyy/MM/dd"_s);
+  champs[16] = ecole.DateRegistre.toString(u"yyyy/MM/dd"_s);
   champs[17] = eleve.Classe;
   champs[18] = eleve.SousClasse;
   champs[19] = Compacte(eleve.Arrivee);
@@ -98,7 +97,7 @@ QStringList LigneSeconde(const TEcoleExemple& ecole, const TEleveExemple& eleve)
   const TFamilleExemple& famille = ecole.Familles[static_cast<std::size_t>(eleve.Famille)];
   const TAdulteExemple &r1 = famille.Responsable, &r2 = famille.Responsable2;
   QStringList champs(EnteteSeconde().size());
-  champs[0] = u"%1-%2"_s.arg(kAnneeExemple).arg(kAnneeExemple + 1);
+  champs[0] = u"%1-%2"_s.arg(ecole.Annee).arg(ecole.Annee + 1);
   champs[1] = kEtablissement;
   champs[2] = ecole.Sites[static_cast<std::size_t>(eleve.Site)].Code;
   champs[3] = eleve.Matricule;
@@ -114,7 +113,7 @@ QStringList LigneSeconde(const TEcoleExemple& ecole, const TEleveExemple& eleve)
   champs[17] = r1.Localite;
   champs[21] = Compacte(eleve.Arrivee);
   champs[22] = u"Inscrit M"_s;
-  champs[23] = kDateFichier.toString(u"dd/MM/yyyy"_s);
+  champs[23] = ecole.DateRegistre.toString(u"dd/MM/yyyy"_s);
   champs[24] = eleve.Niveau < 3 ? u"MAT"_s : u"PRI"_s;
   champs[26] = Protege(eleve.Classe);
   champs[27] = eleve.SousClasse;
@@ -125,6 +124,15 @@ QStringList LigneSeconde(const TEcoleExemple& ecole, const TEleveExemple& eleve)
   champs[36] = r2.Prenom;
   champs[38] = Courriel(r2);
   return champs;
+}
+
+/// The same weekday in the school's own year: 52 weeks on, one year later. Of such a year there is the autumn
+/// only; invalid for the other days.
+QDate JourDe(const TEcoleExemple& ecole, const QDate& jour) {
+  if (ecole.Annee == kAnneeExemple) return jour;
+  const QDate decale = jour.addDays(52 * 7 * (ecole.Annee - kAnneeExemple));
+  const bool automne = decale >= QDate(ecole.Annee, 9, 1) && decale <= QDate(ecole.Annee, 12, 22);
+  return automne && decale != QDate(ecole.Annee, 9, 27) ? decale : QDate();
 }
 
 /// Pupils of sixth year who left in June are still in the export, with another status.
@@ -156,9 +164,11 @@ std::vector<TFichierPresences> FichiersPresences(const TEcoleExemple& ecole) {
   std::map<std::pair<QDate, std::size_t>, TFichierPresences> semaines;
   for (std::size_t site = 0; site < ecole.Sites.size(); ++site)
     for (const TPassage& p : PassagesAnnee(ecole, static_cast<int>(site))) {
-      const QDate lundi = p.Jour.addDays(1 - p.Jour.dayOfWeek());
+      const QDate jour = JourDe(ecole, p.Jour);
+      if (!jour.isValid()) continue;
+      const QDate lundi = jour.addDays(1 - jour.dayOfWeek());
       TFichierPresences& fichier = semaines[{lundi, site}];
-      const QString instant = Compacte(p.Jour) % u';' %
+      const QString instant = Compacte(jour) % u';' %
                               QTime::fromMSecsSinceStartOfDay(1000 * p.Seconde).toString(u"hhmmss'000'"_s);
       const QString ligne = p.Matricule % u';' % QString::number(p.Type) % u';' % instant % u';' %
                             QString::number(p.Sens) % kFinLigne;

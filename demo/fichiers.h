@@ -19,7 +19,8 @@ struct TFichierPresences {
 /// The register as one ";" text in UTF-8: a header line, then a line a pupil. In the second layout
 /// some pupils who left before September follow, whom the import has to leave out.
 QByteArray TexteRegistre(const TEcoleExemple& ecole, TDisposition disposition);
-/// The scanner files of the year, by week, the sites of a week one behind the other.
+/// The scanner files of the year, by week, the sites of a week one behind the other; of the autumn only when
+/// it is a later one.
 std::vector<TFichierPresences> FichiersPresences(const TEcoleExemple& ecole);
 /// Writes beside the target and renames; makes the folder. Raises Exception.
 void EcrireFichier(const QString& chemin, const QByteArray& texte);

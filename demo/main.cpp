@@ -7,6 +7,7 @@
 
 #include "core/conversions.h"
 #include "core/exceptions.h"
+#include "demo/annee_suivante.h"
 #include "demo/chargement.h"
 #include "demo/terminal.h"
 
@@ -52,7 +53,7 @@ void DeclarerOptions(QCommandLineParser& options) {
                        valeur == nullptr ? QString() : QString::fromLatin1(valeur), defaut});
   };
   options.setApplicationDescription(
-      u"Crée l'école d'exemple : 500 élèves, l'année 2016-2017 et ses fichiers."_s);
+      u"Crée l'école d'exemple : 500 élèves, l'année 2016-2017, l'automne 2017, et leurs fichiers."_s);
   ajouter("serveur", "la base à créer : un chemin en .fdb, « local » ou un serveur à la base vide", "S");
   ajouter("dossier", "où écrire les fichiers du registre, des scanners et de la banque", "D");
   ajouter("graine", "le nombre dont toute l'école découle (2016)", "N", u"2016"_s);
@@ -60,10 +61,12 @@ void DeclarerOptions(QCommandLineParser& options) {
   options.addOption({u"aide"_s, u"ce texte"_s});
 }
 
-void Annoncer(const TBilanChargement& bilan, IDialogues& dialogues) {
+void Annoncer(const TBilanChargement& bilan, const TEcoleExemple& ecole, IDialogues& dialogues) {
   dialogues.Information(
-      u"L'école d'exemple est prête : %1 élèves, %2 passages lus, %3 présences "
-      "mémorisées, %4 anomalies laissées de côté, %5 virements."_s.arg(bilan.Eleves)
+      u"L'école d'exemple est prête pour %1-%2 : %3 élèves, %4 passages lus, %5 présences "
+      "mémorisées, %6 anomalies laissées de côté, %7 virements."_s.arg(ecole.Annee)
+          .arg(ecole.Annee + 1)
+          .arg(bilan.Eleves)
           .arg(bilan.LignesPresences)
           .arg(bilan.Presences)
           .arg(bilan.Anomalies)
@@ -89,7 +92,9 @@ void Executer(const QCommandLineParser& options, IDialogues& dialogues) {
   const TEcoleExemple ecole = CreerEcoleExemple(
       static_cast<std::uint64_t>(StrToInt(options.value(u"graine"_s))), options.isSet(u"petite"_s));
   const QString dossier = QDir(options.value(u"dossier"_s)).absolutePath();
-  Annoncer(TChargement(controleur, ecole, dossier).Tout(), dialogues);
+  Annoncer(TChargement(controleur, ecole, dossier).Tout(), ecole, dialogues);
+  const TEcoleExemple suite = AnneeSuivante(ecole);
+  Annoncer(TChargement(controleur, suite, dossier).Automne(), suite, dialogues);
 }
 
 }  // namespace

@@ -15,7 +15,9 @@
 #include <QTimer>
 #include <deque>
 
+#include "core/data_module.h"
 #include "core/exceptions.h"
+#include "core/parametres.h"
 #include "screens/attendance/frm_presences.h"
 #include "screens/commun/frm_liste.h"
 #include "screens/meals/frm_comptabilite.h"
@@ -80,6 +82,7 @@ class Photographe : public QObject {
     Liste(btnActivitesClick, 1, u"edDateFin"_s, u"activites"_s);
     Pages(AdvGlowButton6Click, u"parametres"_s);
     Pages(AdvGlowButton3Click, u"mon-ecole"_s);
+    Pages(AdvGlowButton7Click, u"statistiques"_s);
     programme_.Main.Executer(AdvGlowButton2Click);
     Assistant();
     Repas();
@@ -425,6 +428,18 @@ class Photographe : public QObject {
   QTimer minuterie_;
 };
 
+/// The school as it was on the day of the pictures: the year that follows is not open yet.
+void OuvrirAnnee(const QString& base) {
+  DialoguesQt dialogues;
+  TReglagesPoste reglages;
+  TDataModule1 module(dialogues, reglages);
+  module.ServerName = base;
+  module.Connecter();
+  TParametres parametres(module);
+  parametres.SetParametre(TParam::AnneeScolaire, u"2016"_s);
+  parametres.Save();
+}
+
 /// A copy of the school that the pictures may change, known as this workstation's data.
 void PreparerPoste(const QTemporaryDir& poste, const QString& base) {
   const QString copie = poste.filePath(u"ecole.fdb"_s);
@@ -433,6 +448,7 @@ void PreparerPoste(const QTemporaryDir& poste, const QString& base) {
     QSettings::setPath(QSettings::NativeFormat, portee, poste.path());
   TReglagesPoste reglages;
   reglages.Ecrire(TRacine::Utilisateur, u"Serveur"_s, copie);
+  OuvrirAnnee(copie);
 }
 
 /// In both palettes, at the smallest size and at a usual one; and on small screens. 960 x 540 are the points

@@ -215,11 +215,7 @@ int Transferer(TSession& session, TSensTransfert sens) {
   const QString refus = RefusTransfert(*Globals.Eleves, travail);
   if (!refus.isEmpty()) throw Exception(refus);
   TCsv csv(u"eleve_id;montant"_s.split(u';'));
-  const QString quoi = sens == TSensTransfert::Positifs ? u"positifs"_s : u"négatifs"_s;
-  if (!session.Dialogues.Confirmer(
-          u"Voulez-vous transférer les soldes %1 vers l'année scolaire %2-%3 ?"_s.arg(quoi).arg(travail).arg(
-              travail + 1)))
-    return 0;
+  if (!session.Dialogues.Confirmer(QuestionTransfert(sens, travail))) return 0;
   std::vector<TEleve*> tous;
   for (TEleve& eleve : *Globals.Eleves) tous.push_back(&eleve);
   for (const auto& [eleve, solde] : TransfererSoldes(*Globals.Eleves, travail, tous, sens))

@@ -52,6 +52,9 @@ TResultat AttestationFiscale(const TContexteDocument& contexte, const TDemandeDo
        attestations.Feuilles(SansRadies(demande.Eleves), resultat.Messages)) {
     for (const QString& remarque : feuille.Remarques)
       rapport.Avertissements += feuille.Eleve->NomComplet() % u" : " % remarque % u'.';
+    if (feuille.Eleve->DateNaissance == 0.0)
+      rapport.Avertissements +=
+          feuille.Eleve->NomComplet() % u" : pas d'attestation sans date de naissance.";
     if (feuille.Montant == Currency()) continue;
     arbre.push_back(NoeudFeuille(feuille));
     dateFin = feuille.DateFin;

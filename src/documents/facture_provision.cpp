@@ -71,8 +71,13 @@ TCompte CompteActivites(const TEleve& eleve, const TPeriodeDocument& periode) {
   for (const TFraisEleve* frais : FraisOuverts(eleve, periode))
     compte.Mois.Ajouter(frais->LibelleFrais(), frais->MontantFrais());
   if (const TAllFraisEleve* lignes = eleve.GetAllFrais())
-    for (const TFraisEleve& ligne : *lignes)
-      if (!ligne.Previsionnel()) compte.Paiements.Ajouter(ligne.Remarque, ligne.MontantVerse);
+    for (const TFraisEleve& ligne : *lignes) {
+      if (ligne.Previsionnel()) continue;
+      compte.Paiements.Ajouter(ligne.Remarque, ligne.MontantVerse);
+      // What was paid on a fee bears no word: the paper says which.
+      if (ligne.Remarque.isEmpty())
+        compte.Paiements.Noeud.Enfants.back().Annexes.Ecrire(u"FraisPaye", ligne.LibelleFrais());
+    }
   compte.Objet = u"Activités"_s;
   compte.Avant = eleve.FraisPeriode(periode.Avant());
   compte.Negatif = u"-1"_s;

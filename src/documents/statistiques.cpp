@@ -66,8 +66,10 @@ TResultat Message(const QString& texte) {
 }  // namespace
 
 TGrille GrilleImpayes() {
-  return TGrille(
+  TGrille grille(
       {ColonneTexte(u"Nom et prénom"_s, 280), ColonneTexte(u"Classe"_s, 100), ColonneMontant(u"Montant"_s)});
+  grille.CasesACocher = true;
+  return grille;
 }
 
 TGrille GrilleBalancesPositives() {
@@ -81,6 +83,11 @@ TGrille GrilleBalancesPositives() {
 TGrille GrilleFiscale() {
   return TGrille({ColonneTexte(u"Nom et prénom"_s, 280), ColonneTexte(u"Classe"_s, 100),
                   ColonneMontant(u"Montant Dû"_s), ColonneMontant(u"Montant Payé"_s)});
+}
+
+TGrille GrillePaiements() {
+  return TGrille(
+      {ColonneTexte(u"Nom et prénom"_s, 380), ColonneTexte(u"Classe"_s, 100), ColonneMontant(u"Montant"_s)});
 }
 
 TGrille GrilleFrais() {
@@ -123,6 +130,16 @@ void Remplir(TGrille& grille, const std::vector<TLigneFrais>& lignes) {
   grille.Vider();
   for (const auto& [frais, eleves, total] : lignes)
     grille.Ajouter({frais->Libelle, eleves, frais->Mois, frais->Cout, total}, frais);
+}
+
+void Remplir(TGrille& grille, const std::vector<TPaiementsEleve>& lignes) {
+  const TGrille::TLot lot(grille);
+  grille.Vider();
+  for (const auto& [eleve, total, details] : lignes) {
+    grille.AjouterTete({eleve->NomComplet(), eleve->LibelleClasse(), total}, eleve);
+    for (const TGroupeFraisDetailPaiement* detail : details)
+      grille.Ajouter({detail->Remarque, {}, detail->MontantVerse}, eleve);
+  }
 }
 
 void Remplir(TGrille& grille, const TReleveAnnuel& releve) {

@@ -9,6 +9,8 @@
 TGrille GrilleImpayes();
 TGrille GrilleBalancesPositives();
 TGrille GrilleFiscale();
+/// A head a pupil, a row a payment.
+TGrille GrillePaiements();
 TGrille GrilleFrais();
 TGrille GrilleAnnuelle();
 
@@ -17,6 +19,7 @@ void Remplir(TGrille& grille, const std::vector<TMontantEleve>& lignes);
 void RemplirAvecCompte(TGrille& grille, const std::vector<TMontantEleve>& lignes);
 void Remplir(TGrille& grille, const std::vector<TLigneFiscale>& lignes);
 void Remplir(TGrille& grille, const std::vector<TLigneFrais>& lignes);
+void Remplir(TGrille& grille, const std::vector<TPaiementsEleve>& lignes);
 void Remplir(TGrille& grille, const TReleveAnnuel& releve);
 
 /// "Liste des services et frais", by what counts.

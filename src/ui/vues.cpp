@@ -12,6 +12,7 @@
 #include "screens/documents/frm_manques.h"
 #include "screens/documents/frm_print_wizard.h"
 #include "screens/meals/frm_ajout_ticket.h"
+#include "screens/documents/frm_recapitulatif.h"
 #include "screens/meals/frm_comptabilite.h"
 #include "screens/meals/frm_compte_eleve.h"
 #include "screens/meals/frm_cuisine.h"
@@ -37,6 +38,7 @@
 #include "ui/documents/vue_manques.h"
 #include "ui/documents/vue_print_wizard.h"
 #include "ui/meals/vue_ajout_ticket.h"
+#include "ui/documents/vue_recapitulatif.h"
 #include "ui/meals/vue_comptabilite.h"
 #include "ui/meals/vue_compte_eleve.h"
 #include "ui/meals/vue_cuisine.h"
@@ -95,6 +97,7 @@ QWidget* CreerVue(TForm& form, QWidget* parent) {
       VueDe<TFrmComptabilite, VueComptabilite>(),
       VueDe<TFrmPresenceRepas, VuePresenceRepas>(),
       VueDe<TFrmTransfertRepas, VueTransfertRepas>(),
+      VueDe<TFrmRecapitulatif, VueRecapitulatif>(),
       VueDe<TFrmApercu, VueApercu>(),
       VueDe<TFrmManques, VueManques>(),
       VueDe<TFrmRepartition, VueRepartition>(),

@@ -75,13 +75,19 @@ QString RefusTransfert(const TEleves& eleves, int anneeTravail) {
          u"reporter."_s.arg(Annees(anneeTravail));
 }
 
+QString QuestionTransfert(TSensTransfert sens, int anneeTravail) {
+  const QString quoi = sens == TSensTransfert::Positifs ? u"positifs"_s : u"négatifs"_s;
+  return u"Voulez-vous transférer les soldes %1 vers l'année scolaire %2 ?"_s.arg(quoi, Annees(anneeTravail));
+}
+
 std::vector<TMontantEleve> TransfererSoldes(const TEleves& eleves, int anneeTravail,
                                             const std::vector<TEleve*>& lesquels, TSensTransfert sens) {
   const TEleves travail(eleves.BaseDeDonnees(), anneeTravail);
   const bool positifs = sens == TSensTransfert::Positifs;
   eleves.LireFrais(lesquels);
   std::vector<TMontantEleve> reportes;
-  for (TEleve* eleve : lesquels) {
+  for (const TEleve* ligne : lesquels) {
+    TEleve* eleve = eleves.TrouverParId(ligne->Id);  // who is enrolled twice has one account
     const Currency solde = eleve->Solde(true, true);
     const bool concerne = positifs ? solde > Currency() : solde < Currency();
     const TEleve* arrivee = concerne ? travail.TrouverParId(eleve->Id) : nullptr;

@@ -18,6 +18,9 @@ TReport ReportDe(const TFraisEleve& ligne);
 /// opposite would meet.
 QString RefusTransfert(const TEleves& eleves, int anneeTravail);
 
+/// Before anything is carried: "Voulez-vous transférer les soldes positifs vers l'année scolaire 2017-2018 ?"
+QString QuestionTransfert(TSensTransfert sens, int anneeTravail);
+
 /// Carries the balances of that sign of those pupils of the year on display, each by a free line in both
 /// years that are stored together or not at all; a pupil who is not in the working year keeps his. Gives
 /// those who were carried, with the balance and its sign. Raises Exception; who was carried before stays so.

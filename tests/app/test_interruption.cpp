@@ -203,3 +203,20 @@ TEST_F(TInterruptionEssai, ABankStatement) {
        "ON E.EXTRAIT_ID = F.EXTRAIT_ID ORDER BY F.FRAIS_ELEVE_ID"_s},
       lignes, [](const TRun&, const QList<QStringList>&) {});
 }
+
+TEST_F(TInterruptionEssai, BalancesThatAreCarried) {
+  constexpr int eleves = 60;
+  ecole_.parametre(27, u"2017"_s);
+  TEcoleEssai suivante(base_, 2017);
+  for (int n = 1; n <= eleves; ++n) {
+    ecole_.unEleve().enClasse(u"P1"_s, u"A"_s).paie(u"12.5"_s, 9, 1, {});
+    TEleveEssai(suivante, n).enClasse(u"P2"_s, u"A"_s);
+  }
+  base_->Deconnecter();
+  Interrompre(Mots(u"--annee 2016 --oui transferer positifs"_s),
+              {u"SELECT ELEVE_ID, ANNEE_SCOLAIRE, MOIS, MONTANT_VERSE, REMARQUE FROM FRAIS_ELEVE "
+               "ORDER BY FRAIS_ELEVE_ID"_s},
+              3 * eleves, [](const TRun&, const QList<QStringList>& lues) {
+                EXPECT_EQ(lues[0].size() % 2, eleves % 2) << "a row in one year without the other's";
+              });
+}

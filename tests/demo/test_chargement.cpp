@@ -3,11 +3,13 @@
 #include <QTemporaryDir>
 
 #include "core/conversions.h"
+#include "demo/annee_suivante.h"
 #include "demo/chargement.h"
 #include "demo/fichiers.h"
 #include "demo/releve_banque.h"
 #include "demo/terminal.h"
 #include "documents/factures.h"
+#include "workflows/attestations.h"
 #include "workflows/import_presences.h"
 #include "workflows/import_registre.h"
 #include "workflows/import_virements.h"
@@ -127,4 +129,31 @@ TEST(Chargement, WhoPaysTheLastInvoiceOwesNothing) {
     if (eleve.PaiementsAnnee() == Currency())  // a month settled at the office is billed again
       EXPECT_EQ(eleve.Solde(true, true).TronqueAuCent(), Currency()) << eleve.NomComplet().toStdString();
   }
+}
+
+TEST(Chargement, TheAutumnThatFollowsGivesAttestationsOfTwoYears) {
+  TEcoleChargee ecole;
+  const TEcoleExemple suite = AnneeSuivante(ecole.Ecole);
+  const TBilanChargement bilan = TChargement(ecole.Controleur, suite, ecole.Dossier.path()).Automne();
+  EXPECT_EQ(Globals.AnneeScolaire, 2017);
+  EXPECT_EQ(Globals.Eleves->NombreEleves(), bilan.Eleves + 4) << "and the staff";
+  EXPECT_LT(bilan.Anomalies, bilan.LignesPresences / 40);
+  EXPECT_GT(bilan.Virements, bilan.Eleves / 2);
+  Globals.Parametres->SetParametre(TParam::CalculAttestation, u"3"_s);
+  std::vector<TEleve*> tous;
+  for (TEleve& eleve : *Globals.Eleves) tous.push_back(&eleve);
+  QStringList messages;
+  int deuxMoities = 0, seconds = 0, coupees = 0;
+  for (const auto& feuille :
+       TAttestations(*Globals.Eleves, *Globals.Parametres, 2017).Feuilles(tous, messages)) {
+    const auto& parties = feuille.Detail.Parties;
+    const auto paye = [](const TPartieAttestation& partie) { return partie.Montant > Currency(); };
+    deuxMoities += parties.size() == 2 && std::ranges::all_of(parties, paye);
+    seconds += feuille.Responsable == 2 && paye(parties[0]);
+    coupees += feuille.DateFinReel == u"9/11/2017";
+  }
+  EXPECT_TRUE(messages.isEmpty());
+  EXPECT_GT(deuxMoities, 10);
+  EXPECT_GT(seconds, 0) << "a parent who lives apart has paid";
+  EXPECT_EQ(coupees, 1) << "one turns twelve";
 }

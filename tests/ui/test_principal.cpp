@@ -86,9 +86,6 @@ TEST_F(Principal, AnOfficeStartsOnItsPupils) {
   EXPECT_EQ(Fenetre().Barre()->Annees()->text(), u"Année scolaire 2016 - 2017  ▾");
   EXPECT_TRUE(TextesDe(Fenetre()).contains(u"4 élèves, dont 1 radié"));
   EXPECT_EQ(QApplication::focusWidget(), Recherche());
-  const QToolButton* statistiques = Fenetre().Barre()->Bouton(TGestionnaire::AdvGlowButton7Click);
-  EXPECT_FALSE(statistiques->isEnabled());
-  EXPECT_TRUE(statistiques->toolTip().contains(u"Pas encore disponible")) << "off, not hidden";
 }
 
 TEST_F(Principal, EveryWayShowsItsPages) {

@@ -1,6 +1,7 @@
 #include "screens/principal/commandes.h"
 
 #include "screens/attendance/frm_presences.h"
+#include "screens/documents/frm_recapitulatif.h"
 #include "screens/meals/frm_comptabilite.h"
 #include "screens/meals/frm_compte_eleve.h"
 #include "screens/meals/frm_cuisine.h"
@@ -31,7 +32,8 @@ std::vector<TCommandePrincipale> CommandesPrincipales() {
   return {
       {AdvGlowButton2Click, PgEleve, T(u"É&lèves"), T(u"system-users"), 6, true,
        Ecran<TFrmSignaletique>(TRemplacement::Cache)},
-      {AdvGlowButton7Click, PgEleve, T(u"&Statistiques"), T(u"office-chart-bar"), 6, false, {}},
+      {AdvGlowButton7Click, PgEleve, T(u"&Statistiques"), T(u"office-chart-bar"), 6, false,
+       Ecran<TFrmRecapitulatif>()},
       {AdvGlowButton1Click, PgEleve, T(u"&Présences"), T(u"view-barcode"), {}, false, Ecran<TfrmPresences>()},
       {btnVirementClick, PgEleve, T(u"&Virements"), T(u"view-bank"), {}, false, Ecran<TFrmVirement>()},
 

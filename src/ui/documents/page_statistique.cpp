@@ -1,0 +1,68 @@
+#include "ui/documents/page_statistique.h"
+
+#include <QVBoxLayout>
+
+#include "screens/documents/frm_recapitulatif.h"
+#include "ui/commun/bouton.h"
+#include "ui/commun/champ_filtre.h"
+#include "ui/commun/etat_vide.h"
+#include "ui/commun/texte.h"
+#include "ui/commun/titres.h"
+#include "ui/commun/vue_grille.h"
+
+PageStatistique::PageStatistique(const QString& titre, QWidget* liste)
+    : titre_(new TitreSection(titre)),
+      criteres_(new RangeePliante),
+      milieu_(new QHBoxLayout),
+      totaux_(new RangeePliante),
+      commandes_(new RangeePliante),
+      vide_(new EtatVide(liste)) {
+  milieu_->setSpacing(Theme::Px(24));
+  milieu_->addWidget(liste, 1);
+  auto* colonne = new QVBoxLayout(this);
+  const int marge = Theme::Px(12);
+  colonne->setContentsMargins(marge, marge, marge, marge);
+  colonne->setSpacing(Theme::Px(8));
+  colonne->addWidget(titre_);
+  colonne->addLayout(criteres_);
+  colonne->addLayout(milieu_, 1);
+  colonne->addLayout(totaux_);
+  colonne->addLayout(commandes_);
+}
+
+void PageStatistique::AjouterOutils(VueGrille& grille) {
+  const auto bouton = [&](const QString& texte, const QString& icone, const QString& aide, auto faire) {
+    QPushButton* nouveau = BoutonDiscret(texte, icone);
+    nouveau->setToolTip(aide);
+    connect(nouveau, &QPushButton::clicked, &grille, faire);
+    titre_->AjouterAction(nouveau);
+  };
+  if (grille.Grille().CasesACocher) {
+    const auto cocher = [&grille](bool oui) {
+      return [&grille, oui] {
+        grille.Grille().CocherTout(oui);
+        emit grille.Cochee(-1, oui);
+      };
+    };
+    bouton(u"Tout sélectionner"_s, {}, u"Cocher toutes les lignes"_s, cocher(true));
+    bouton(u"Ne rien sélectionner"_s, {}, u"Décocher toutes les lignes"_s, cocher(false));
+  }
+  auto* filtre = new ChampFiltre;
+  filtre->setFixedWidth(Theme::Px(200));
+  grille.Filtrer(*filtre);
+  titre_->AjouterAction(filtre);
+  bouton(u"Copier"_s, u"edit-copy"_s, u"Copier toute la liste (Ctrl+Maj+C)"_s,
+         [&grille] { grille.CopierTout(); });
+}
+
+void PageStatistique::AjouterACote(QWidget* widget) { milieu_->addWidget(widget, 1); }
+
+void PageStatistique::Montrer(const std::vector<TTotalListe>& totaux, const QString& vide) {
+  if (valeurs_.empty())
+    for (const TTotalListe& total : totaux) {
+      totaux_->addWidget(new Etiquette(total.Mot, TRole::Secondaire));
+      totaux_->addWidget(valeurs_.emplace_back(new Etiquette({}, TRole::Texte, &Theme::Gras)));
+    }
+  for (std::size_t i = 0; i < totaux.size(); ++i) valeurs_[i]->setText(TypographieMontant(totaux[i].Valeur));
+  vide.isEmpty() ? vide_->Cacher() : vide_->Montrer(vide);
+}
