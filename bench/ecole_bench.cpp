@@ -132,6 +132,9 @@ void RemplirFrais(TDataModule1& base) {
              "WHERE MOD(ELEVE_ID, %2) = 0"_s.arg(cle)
                  .arg(f.pas));
   }
+  Executer(base,
+           u"UPDATE COUNTERS SET VALEUR = (SELECT MAX(FRAIS_ELEVE_ID) FROM FRAIS_ELEVE) "
+           "WHERE TABLE_NAME = 'FRAIS_ELEVE'"_s);
 }
 
 void Remplir(TDataModule1& base, int eleves, int presences) {

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <deque>
@@ -30,7 +31,9 @@
 #include "screens/pupils/frm_signaletique.h"
 #include "ui/commun/dialogue_base.h"
 #include "ui/commun/theme.h"
+#include "ui/commun/vue_grille.h"
 #include "ui/documents/vue_apercu.h"
+#include "ui/documents/vue_manques.h"
 #include "ui/principal/application.h"
 #include "ui/principal/programme.h"
 
@@ -85,6 +88,7 @@ class Photographe : public QObject {
     Pages(AdvGlowButton7Click, u"statistiques"_s);
     programme_.Main.Executer(AdvGlowButton2Click);
     Assistant();
+    Manques();
     Repas();
     Virements();
     Importation();
@@ -152,13 +156,16 @@ class Photographe : public QObject {
       return true;
     }});
     tickets.btnEtape1Click();
-    const int classe = std::max(1, static_cast<int>(ChoixDeClasses().indexOf(tickets.NomClasse())));
+    int classe = 0;  // several sites name theirs behind the class
+    while (!ChoixDeClasses()[classe].startsWith(tickets.NomClasse())) ++classe;
     for (const auto& [ecran, nom] : {std::pair(btnReservationClick, u"reservation"_s),
                                      std::pair(btnReservation2Click, u"reservation-2"_s)}) {
       main.Executer(ecran);
       auto& form = Ecran<TFrmReservation>();
       form.cmbClasseChange(classe);
-      form.grdEleveRowChanging(2);
+      auto* grille = programme_.Fenetre.VueCourante()->findChild<QTableWidget*>();
+      grille->setFocus();
+      grille->setCurrentCell(2, 1);
       Prendre(nom);
     }
     main.Executer(btnReservationClick);
@@ -364,6 +371,51 @@ class Photographe : public QObject {
     programme_.Main.Executer(TGestionnaire::AdvGlowButton2Click);
   }
 
+  /// What the tax sheets of a level lack.
+  void Manques() {
+    const auto suivant = [](QWidget& fenetre) { dynamic_cast<DialogueBase&>(fenetre).Principal()->click(); };
+    Suivre({[=](QWidget& fenetre) {
+              Bouton(fenetre, u"Fiche fiscale 281.86"_s)->click();
+              suivant(fenetre);
+              return true;
+            },
+            [=](QWidget& fenetre) {
+              suivant(fenetre);  // the classes of the document before
+              return true;
+            },
+            [this](QWidget& fenetre) {
+              if (dynamic_cast<VueManques*>(&fenetre) != nullptr) Prendre(fenetre, u"fiches-manques"_s);
+              fenetre.close();  // else it says that the year is not over
+              return dynamic_cast<VueManques*>(&fenetre) != nullptr;
+            }});
+    programme_.Main.OutilClick(TOutil::btnPrint);
+  }
+
+  /// The last unknown payment, between two pupils of the year.
+  void Repartition(TFrmVirement& form) {
+    const TGrille& liste = form.Historique;
+    for (int ligne = 0; ligne < liste.NombreLignes(); ++ligne)
+      if (liste.Texte(ligne, TFrmVirement::Eleve).isEmpty() &&
+          liste.Ligne(ligne).Objet.En<TExtrait>()->Montant > Currency())
+        form.Historique.ChoisirLigne(ligne);
+    Suivre({[](QWidget& fenetre) {
+              Bouton(fenetre, u"Répartir..."_s)->click();
+              fenetre.close();
+              return true;
+            },
+            [this](QWidget& fenetre) {
+              VueGrille* eleves = fenetre.findChildren<VueGrille*>().last();
+              for (int fois = 0; fois < 2; ++fois) {
+                eleves->Grille().ChoisirLigne(0);
+                Bouton(fenetre, u"Ajouter"_s)->click();
+              }
+              Prendre(fenetre, u"repartition"_s);
+              fenetre.close();
+              return true;
+            }});
+    form.grdHistoriqueDblClick();
+  }
+
   /// The three pages, the attribution of what is unknown, and the accounts that the record learns from it.
   void Virements() {
     programme_.Main.Executer(TGestionnaire::btnVirementClick);
@@ -403,15 +455,18 @@ class Photographe : public QObject {
       return true;
     }});
     form->grdHistoriqueDblClick();
+    const QString eleve = form->Historique.Texte(form->Historique.LigneCourante(), TFrmVirement::Eleve);
+    Repartition(*form);
     pages->setCurrentIndex(2);
     Attendre(50);
     Prendre(programme_.Fenetre, u"virements-releve"_s);
-    Comptes();
+    Comptes(eleve);
   }
 
   /// The record of the pupil to whom the movements went.
-  void Comptes() {
-    Signaletique();
+  void Comptes(const QString& eleve) {
+    programme_.Main.edSearchChange(eleve);
+    programme_.Main.Executer(TGestionnaire::AdvGlowButton2Click);
     Suivre({[this](QWidget& fenetre) {
       Prendre(fenetre, u"attribution-compte"_s);
       fenetre.close();

@@ -75,7 +75,7 @@ TGrille GrilleImpayes() {
 TGrille GrilleBalancesPositives() {
   TGrille grille({ColonneTexte(u"Nom et prénom"_s, 240), ColonneTexte(u"Classe"_s, 80),
                   ColonneMontant(u"Á rembouser"_s), ColonneTexte(u"Numéro de Compte"_s, 170),
-                  ColonneTexte(u"Nom du titulaire de compte"_s, 200)});
+                  ColonneTexte(u"Nom du titulaire de compte"_s, 230)});
   grille.CasesACocher = true;
   return grille;
 }
@@ -92,7 +92,7 @@ TGrille GrillePaiements() {
 
 TGrille GrilleFrais() {
   TGrille grille({ColonneTexte(u"Libellé"_s, 280),
-                  {u"Nombre d'élèves"_s, 120, TGenre::Entier},
+                  {u"Nombre d'élèves"_s, 150, TGenre::Entier},
                   {u"Mois"_s, 100, TGenre::Mois},
                   ColonneMontant(u"Coût unitaire"_s),
                   ColonneMontant(u"Coût total"_s)});

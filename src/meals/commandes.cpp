@@ -28,9 +28,10 @@ constexpr TColonne<TCommande> kColonnes[] = {
 
 TCommandes::TCommandes(TDataModule1& base) : TCollection(base) { DefineQuery(); }
 
+// Sorted, not walked along the primary key: that would go through the orders of all years.
 void TCommandes::DefineQuery() {
   SelectSql = u"SELECT * FROM COMMANDE WHERE DATE_COMMANDE >= " % FormatDateSql(periode_.Premier) %
-              u" AND DATE_COMMANDE <= " % FormatDateSql(periode_.Dernier) % u" ORDER BY COMMANDE_ID";
+              u" AND DATE_COMMANDE <= " % FormatDateSql(periode_.Dernier) % u" ORDER BY COMMANDE_ID + 0";
   TableName = u"COMMANDE"_s;
   KeyField = "COMMANDE_ID";
   CounterName = u"COMMANDE"_s;

@@ -65,7 +65,7 @@ TRepasPaiements::TRepasPaiements(TDataModule1& base, const TPeriode& periode)
 void TRepasPaiements::DefineQuery() {
   SelectSql = u"SELECT * FROM REPAS_PAIEMENT WHERE DATE_PAIEMENT >=" %
               FormatDateSql(periode_.Premier - kJoursAutour) % u" AND DATE_PAIEMENT <=" %
-              FormatDateSql(periode_.Dernier + kJoursAutour) % u" ORDER BY REPAS_PAIEMENT_ID";
+              FormatDateSql(periode_.Dernier + kJoursAutour) % u" ORDER BY REPAS_PAIEMENT_ID + 0";
   TableName = u"REPAS_PAIEMENT"_s;
   KeyField = "REPAS_PAIEMENT_ID";
   CounterName = u"REPAS_PAIEMENT"_s;

@@ -74,16 +74,17 @@ std::unordered_map<int, std::unique_ptr<TTickets>> TTickets::LireEnsemble(TDataM
   return ensemble;
 }
 
-// The first day of the calendar is no date in memory.
+// The first day of the calendar is no date in memory. Grouped by a sum, so that the index of the pupils finds
+// them and is not walked from end to end.
 std::unordered_map<int, int> TTickets::LireSoldes(TDataModule1& base, const std::vector<int>& eleves) {
   std::unordered_map<int, int> soldes;
   for (const int eleve : eleves) soldes.emplace(eleve, 0);
   LireParCles(base, eleves,
-              u"SELECT ELEVE_ID, SUM(IIF(DATE_ACHAT > DATE '1899-12-30', 1, 0) - "
+              u"SELECT ELEVE_ID + 0 ELEVE, SUM(IIF(DATE_ACHAT > DATE '1899-12-30', 1, 0) - "
               "IIF(DATE_UTILISATION > DATE '1899-12-30', 1, 0)) SOLDE FROM TICKET WHERE ELEVE_ID IN (%1) AND "
               "(DATE_ACHAT IS NULL OR DATE_UTILISATION IS NULL OR DATE_ACHAT <= DATE '1899-12-30' OR "
-              "DATE_UTILISATION <= DATE '1899-12-30') GROUP BY ELEVE_ID",
-              [&](TCurseur& ligne) { soldes[ligne.Entier("ELEVE_ID")] = ligne.Entier("SOLDE"); });
+              "DATE_UTILISATION <= DATE '1899-12-30') GROUP BY 1",
+              [&](TCurseur& ligne) { soldes[ligne.Entier("ELEVE")] = ligne.Entier("SOLDE"); });
   return soldes;
 }
 

@@ -193,7 +193,7 @@ std::unordered_map<int, TEleve*> SansTickets(const std::vector<TEleve*>& eleves,
   return aLire;
 }
 
-std::vector<int> Cles(const std::unordered_map<int, TEleve*>& eleves) {
+std::vector<int> ClesDe(const std::unordered_map<int, TEleve*>& eleves) {
   std::vector<int> cles;
   for (const auto& [cle, _] : eleves) cles.push_back(cle);
   return cles;
@@ -204,7 +204,7 @@ std::vector<int> Cles(const std::unordered_map<int, TEleve*>& eleves) {
 void TEleves::LireTickets(const std::vector<TEleve*>& eleves) const {
   const auto aLire = SansTickets(eleves, [](const TEleve& e) { return e.tickets_ != nullptr; });
   if (aLire.empty()) return;
-  for (auto& [cle, tickets] : TTickets::LireEnsemble(BaseDeDonnees(), Cles(aLire)))
+  for (auto& [cle, tickets] : TTickets::LireEnsemble(BaseDeDonnees(), ClesDe(aLire)))
     aLire.at(cle)->tickets_ = std::move(tickets);
 }
 
@@ -212,7 +212,7 @@ void TEleves::LireSoldesTickets(const std::vector<TEleve*>& eleves) const {
   const auto aLire =
       SansTickets(eleves, [](const TEleve& e) { return e.tickets_ != nullptr || e.soldeTickets_; });
   if (aLire.empty()) return;
-  const auto soldes = TTickets::LireSoldes(BaseDeDonnees(), Cles(aLire));
+  const auto soldes = TTickets::LireSoldes(BaseDeDonnees(), ClesDe(aLire));
   for (const auto& [cle, eleve] : aLire) eleve->soldeTickets_ = soldes.at(cle);
 }
 

@@ -64,6 +64,12 @@ void TPropositions::LireComptes() {
   comptes_.erase(QString());
 }
 
+void TPropositions::Apprendre(const TExtrait& extrait, const TEleve& eleve) {
+  if (const QString compte = Compte(extrait.NumCptDonneur); !compte.isEmpty()) ++comptes_[compte][eleve.Id];
+  for (TConnu& connu : connus_)
+    if (connu.Eleve == &eleve) connu.Du = SoldeDu(eleve);
+}
+
 bool TPropositions::Public(const QString& compte) const {
   QSet<int> eleves;
   if (const auto payes = comptes_.find(compte); payes != comptes_.end())

@@ -22,6 +22,8 @@ class TPropositions {
   /// The strongest first. None for what the school pays, and for an account of more than four pupils: that
   /// is a public service, which pays for anybody.
   std::vector<TProposition> Pour(const TExtrait& extrait);
+  /// The pupil has just been given something of that movement.
+  void Apprendre(const TExtrait& extrait, const TEleve& eleve);
   /// The one that may be taken without choosing; null when there is none, or two of one force.
   static const TProposition* Evidente(const std::vector<TProposition>& propositions);
   /// Those of whom the account itself tells: the children of one family, mostly.

@@ -99,6 +99,33 @@ TEST_F(TGarderiesEssai, RecherchesDUnEleve) {
       << "a new record stands behind those loaded";
 }
 
+TEST_F(TGarderiesEssai, LesMontantsSuiventChaqueChangement) {
+  tarifsUsuels();
+  ecole.unEleve().scan(Garderie, "2016-10-03", "07:30").scan(Soupe, "2016-10-03", "12:00");
+  ecole.unEleve();
+  charger();
+  const auto montants = [&](int eleve) {
+    std::string texte;
+    for (const int mois : {10, 11})
+      texte += Euros(presences->CoutGarderieMatin(eleve, BornesMois(mois, 2016), false, lignes)) + ' ' +
+               Euros(presences->CoutSoupe(eleve, BornesMois(mois, 2016), lignes)) + ' ';
+    return texte;
+  };
+  EXPECT_EQ(montants(1), "1.0000 0.7000 0.0000 0.0000 ");
+  TPresence& matin = *presences->PresencesEleve(1, BornesMois(10, 2016)).at(0);
+  matin.DateReleve = J("2016-11-07");
+  presences->Add(matin);
+  EXPECT_EQ(montants(1), "0.0000 0.7000 1.0000 0.0000 ") << "another month";
+  matin.EleveId = 2;
+  matin.TypePresence = TTypePresence::Soupe;
+  matin.HeureEntree = H("12:00");
+  presences->Add(matin);
+  EXPECT_EQ(montants(1), "0.0000 0.7000 0.0000 0.0000 ");
+  EXPECT_EQ(montants(2), "0.0000 0.0000 0.0000 0.7000 ") << "another pupil, kind and time";
+  presences->Remove(matin);
+  EXPECT_EQ(montants(2), "0.0000 0.0000 0.0000 0.0000 ");
+}
+
 TEST(PresencesParticulieres, Marques) {
   TBaseEssai base;
   TEcoleEssai ecole(base);

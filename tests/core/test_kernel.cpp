@@ -209,18 +209,6 @@ TEST(Kernel, TwoSavesInOneTransactionHoldTogetherOrNotAtAll) {
   EXPECT_EQ(base.Rangees(kRangees), QStringList{"3;b"});
 }
 
-TEST(Kernel, IndexKeepsTheOrderOfTheCollection) {
-  TBaseEssai base;
-  TGroupes groupes(*base);
-  TGroupe& a = groupes.Add(Groupe(u"a"_s));
-  TGroupe& b = groupes.Add(Groupe(u"x"_s));
-  a.Libelle = u"x"_s;
-  groupes.Add(a);
-  EXPECT_EQ(groupes.Par(u"x"_s), &a) << "the first of the collection, not the first entered";
-  groupes.Remove(a);
-  EXPECT_EQ(groupes.Par(u"x"_s), &b);
-}
-
 TEST(Kernel, Parameters) {
   TBaseEssai base;
   TParametres parametres(*base);

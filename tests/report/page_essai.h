@@ -4,6 +4,8 @@
 #include "report/layout/codes_barres.h"
 #include "support/outil.h"
 
+using namespace Qt::StringLiterals;
+
 /// A text at a place, in 11 points unless said.
 inline TElementTexte Texte(const QString& texte, float x, float y, const TStyle& style = {}) {
   return {Former(texte, style), x, y};
@@ -11,7 +13,6 @@ inline TElementTexte Texte(const QString& texte, float x, float y, const TStyle&
 
 /// One page with an element of each kind.
 inline TPagePreparee PageDeTout() {
-  using namespace Qt::StringLiterals;
   TPagePreparee page;
   TElementTexte souligne = Texte(u"souligné"_s, 300, 60, {TFamille::Carlito, 18, true, true});
   souligne.Couleur = 0xFF004488;

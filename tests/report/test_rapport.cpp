@@ -88,7 +88,7 @@ TEST(Rapport, ColonnesDUneListeEtDUneGrille) {
   EXPECT_EQ(Valeurs(rapport, noms, {0, 0}), u"|P1|60|Classe|120|Nom||Titre"_s);
   rapport.ChargerColonnesGrille(grille, 1);
   EXPECT_EQ(rapport.NombreColonnes(), 2);
-  EXPECT_EQ(Valeurs(rapport, noms, {0, 0}), u" | |0||120|Nom||Titre"_s);
+  EXPECT_EQ(Valeurs(rapport, noms, {0, 0}), u" |P1|0||120|Nom||Titre"_s);
   EXPECT_EQ(Valeurs(rapport, noms, {0, 1}), u" | |70|Montant|120|Nom||Titre"_s);
   rapport.ChargerColonnesListe(TGrille(std::vector<TColonneGrille>(50, {u"C"_s, 7})));
   EXPECT_EQ(Valeurs(rapport, u"COLWIDTH"_s, {0, 48}), u"7"_s);

@@ -183,29 +183,6 @@ TEST_F(Apercu, AnotherPaperAndBack) {
   EXPECT_EQ(form.TextePapier(), u"85 × 54 mm, paysage"_s);
 }
 
-TEST_F(Apercu, AListTakesTheWholeWidthOfThePaper) {
-  TGrille grille({{u"Nom"_s, 120}, {u"Montant"_s, 60}});
-  grille.Ajouter({u"Anne"_s, u"3,00"_s});
-  TRapport rapport(u"Liste"_s, u"RepDynamicFromListviewPortrait"_s);
-  rapport.ChargerColonnesListe(grille);
-  TFrmApercu form(contexte, rapport);
-  const auto bord = [&form] {
-    form.Terminer();
-    float bord = 0;
-    for (const TElement& element : form.Document().Pages.at(0).Elements) {
-      if (const auto* trait = std::get_if<TElementTrait>(&element)) bord = std::max(bord, trait->X2);
-      if (const auto* texte = std::get_if<TElementTexte>(&element))
-        bord = std::max(bord, texte->X + texte->Forme->Largeur);
-    }
-    return bord;
-  };
-  EXPECT_NEAR(bord(), 794 - 38, 1);
-  for (const auto& [largeur, pixels] : {std::pair(297.0, 1123), std::pair(148.0, 559)}) {
-    form.ChangerPapier({{largeur, 210}, 10});
-    EXPECT_NEAR(bord(), pixels - 38, 1) << largeur;
-  }
-}
-
 TEST_F(Apercu, WithoutTemplateNothingOpens) {
   TRapport rapport(u"Attestation"_s, u"Inconnu"_s);
   EXPECT_THROW(TFrmApercu(contexte, rapport), Exception);

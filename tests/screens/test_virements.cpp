@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "screens/payments/frm_attribution_virement.h"
+#include "screens/payments/frm_repartition.h"
 #include "screens/payments/frm_virement.h"
 #include "services/groupes_frais.h"
 #include "support/ecran_essai.h"
@@ -211,19 +212,59 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
   EXPECT_EQ(Extrait(u"EXTRAIT_ID"_s, c), QString::number(c));
 }
 
+// Who stands out is chosen and given nothing until the button; a movement of several goes on as a part is
+// left.
+TEST_F(FrmVirement, ProposedWithTheReasonAndSharedOut) {
+  Base.Credit(Base.Mouvement(u"A"_s, 3), 3);
+  const int b = Base.Mouvement(u"B"_s, 4), c = Base.Mouvement(u"C"_s, 5);
+  Ouvrir();
+  Form->Historique.ChoisirLigne(1);
+  QString reste;
+  Ecran.SurModale = [&](TForm& form) {
+    if (auto* parts = dynamic_cast<TFrmRepartition*>(&form)) {
+      if (reste.isEmpty()) parts->Ajouter(*Globals.Eleves->TrouverParId(1));
+      parts->Champs().Taper(0, u"4"_s);
+      EXPECT_TRUE(parts->Champs().Quitter(0));
+      reste += parts->Parts.Texte(0, 0) % u' ' % parts->TexteReste() % u'|';
+      parts->btnValiderClick();
+      return;
+    }
+    auto& dialogue = dynamic_cast<TFrmAttributionVirement&>(form);
+    EXPECT_EQ(dialogue.LUCombo1.Textes(0),
+              (QStringList{u"LAMBERT Élise"_s, u"P3 A"_s, u"a déjà payé par ce compte"_s}));
+    EXPECT_EQ(dialogue.LUCombo1.LigneCourante(), 0);
+    EXPECT_EQ(dialogue.LUCombo1.NombreLignes(), 3);
+    dialogue.Button3Click();
+    dialogue.btnRepartirClick();  // of the last one, which stays
+    EXPECT_TRUE(dialogue.Partiel());
+    EXPECT_FALSE(dialogue.Actif());
+    EXPECT_TRUE(dialogue.PeutRepartir());
+    form.Fermer();
+  };
+  Form->grdHistoriqueDblClick();
+  EXPECT_EQ(reste, u"LAMBERT Élise Reste 2,25 €|");
+  EXPECT_EQ(
+      Base.Rangees(u"SELECT EXTRAIT_ID, ELEVE_ID, MONTANT_VERSE FROM FRAIS_ELEVE WHERE EXTRAIT_ID >= %1 "
+                   "ORDER BY FRAIS_ELEVE_ID"_s.arg(b)),
+      (QStringList{u"%1;3;12.5000"_s.arg(b), u"%1;3;6.2500"_s.arg(c), u"%1;1;4.0000"_s.arg(c)}));
+  EXPECT_EQ(Comptes(), u"3 0 3");
+  EXPECT_EQ(Historique().last(),
+            u"C|LAMBERT Élise 6,25 €, DUPONT Zoé 4,00 €, reste 2,25 €|Attribué en partie");
+}
+
 TEST_F(FrmVirement, TheTwoStepsOfAFile) {
   Ouvrir();
   Base.Dialogues.Saisit(u"Importer vos virements"_s, {});
   Form->btnEtape1Click();
   EXPECT_TRUE(Form->Etape2Active()) << "also when no file is chosen";
-  const auto choisir = [this](const QByteArray& lignes) {
+  const auto choisir = [this](const QByteArray& lignes, const QString& message = {}) {
     Base.Dialogues.Saisit(u"Importer vos virements"_s,
                           Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) + lignes));
+    if (!message.isEmpty()) Base.Dialogues.Attend(message);
     Form->btnEtape1Click();
   };
   const QByteArray bonne = "x;05/10/2016;;;BE68;DUPONT;;;;;10,00;EUR;;;+++000/0310/16102+++\n";
-  Base.Dialogues.Attend(u"Ligne 15 : « dix » n'est pas un montant"_s);
-  choisir(bonne + "x;05/10/2016;;;BE68;SUITE;;;;;dix;EUR;;;\n");
+  choisir(bonne + "x;05/10/2016;;;BE68;SUITE;;;;;dix;EUR;;;\n", u"Ligne 15 : « dix » n'est pas un montant"_s);
   EXPECT_FALSE(Form->Etape2Active());
   EXPECT_EQ(Form->Apercu.Texte(1, TFrmVirement::Montant), u"dix");
   EXPECT_EQ(Form->Apercu.Textes(1).last(), u"Illisible");

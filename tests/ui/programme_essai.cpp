@@ -16,6 +16,9 @@ namespace {
 
 constexpr int kRegardMs = 5;
 
+/// The dialog that is being answered: it may wait for something.
+QWidget* enMain = nullptr;
+
 QString Nu(QString texte) { return texte.remove(u'&'); }
 
 }  // namespace
@@ -72,7 +75,7 @@ void TRepondeur::Revenir() { QTimer::singleShot(kRegardMs, this, &TRepondeur::Re
 void TRepondeur::Regarder() {
   Revenir();
   QWidget* fenetre = QApplication::activeModalWidget();
-  if (fenetre == nullptr || !fenetre->isVisible()) return;
+  if (fenetre == nullptr || !fenetre->isVisible() || fenetre == enMain) return;
   const QString textes = TextesDe(*fenetre);
   Vus += textes;
   if (attendus_.empty() || !textes.contains(attendus_.front().extrait)) {
@@ -82,7 +85,9 @@ void TRepondeur::Regarder() {
   }
   const TAttendu attendu = attendus_.front();
   attendus_.pop_front();
+  QWidget* avant = std::exchange(enMain, fenetre);
   attendu.action(*fenetre);
+  enMain = avant;
 }
 
 TProgrammeEssai::TProgrammeEssai() {

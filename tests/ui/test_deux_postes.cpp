@@ -93,6 +93,7 @@ TEST_F(DeuxPostes, AFeeSavedOnBothGivesNobodyTwoLines) {
   EXPECT_EQ(Lignes(), "") << "no line without its fee";
   EXPECT_EQ(Form<TFrmListeFrais>().Mode(), TModeEdition::Modification);
   EXPECT_TRUE(Controle<QLineEdit>("edMontant").text().startsWith("12"));
+  Form<TFrmListeFrais>().Annuler();
 }
 
 TEST_F(DeuxPostes, ARecordFollowsAfterF5AndSaysWhatIsGone) {

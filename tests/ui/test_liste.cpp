@@ -174,7 +174,7 @@ TEST_F(Tarifs, LeMenuDeLaListe) {
   const auto choisir = [&](const QString& texte) {
     QMenu menu;
     RemplirMenu(menu, Liste());
-    for (QAction* action : menu.findChildren<QAction*>())
+    for (QAction* action : menu.actions() + menu.findChildren<QAction*>())
       if (action->text().startsWith(texte)) return action->trigger();
     FAIL() << texte.toStdString();
   };

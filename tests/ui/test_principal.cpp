@@ -261,7 +261,9 @@ TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
   EXPECT_EQ(Programme.Base.Valeur(u"SELECT COUNT(*) FROM ELEVES_CLASSES WHERE CLASSE='PROFESSEURS'"_s), u"1")
       << "its rows in other tables stay";
   EXPECT_EQ(Globals.EleveCourant, nullptr);
+  Recherche()->clear();
   QTest::keyClicks(Recherche(), u"pirard"_s);
+  EXPECT_EQ(Choisi(), u"Pirard X");
   EXPECT_FALSE(Programme.Main().PeutSupprimerProfesseur()) << "a pupil";
 }
 

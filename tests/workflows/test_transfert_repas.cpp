@@ -217,6 +217,7 @@ TEST(Transfert, TheServerGoesAwayInTheMiddleOfIt) {
   EcrireFichier(fichiers.Repas, taps);
   TTransfertRepas transfert(essai.Controleur);
   transfert.SurAnalyse = [&](const TBilanTransfert&) { serveur.reset(); };
+  base.Dialogues.Attend(u"La liaison avec le serveur de données est coupée"_s);
   EXPECT_THROW(transfert.Executer(), Exception);
   EXPECT_EQ(LireFichier(fichiers.Repas), taps);
   EXPECT_TRUE(Globals.ModeHorsLigne) << "the tablet serves on";

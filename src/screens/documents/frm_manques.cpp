@@ -26,7 +26,7 @@ QString Resume(const std::vector<TManque>& manques) {
 
 TFrmManques::TFrmManques(const std::vector<TManque>& manques, bool imprimable, bool avecChamps)
     : Grille(
-          {{u"Élève"_s, 190}, {u"Classe"_s, 70}, {u"Ce qui manque"_s, 420}, {u"Suite"_s, 120, TGenre::Etat}}),
+          {{u"Élève"_s, 190}, {u"Classe"_s, 70}, {u"Ce qui manque"_s, 420}, {u"Suite"_s, 136, TGenre::Etat}}),
       manques_(manques),
       imprimable_(imprimable),
       avecChamps_(avecChamps),

@@ -9,8 +9,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 std::vector<TColonneGrille> Colonnes() {
+  constexpr int largeurs[] = {180, 148, 108, 160, 132, 108, 140, 112};
   std::vector<TColonneGrille> colonnes;
-  for (const QString& titre : ColonnesVentes()) colonnes.push_back({titre, colonnes.empty() ? 220 : 110});
+  for (const QString& titre : ColonnesVentes()) colonnes.push_back({titre, largeurs[colonnes.size()]});
   return colonnes;
 }
 

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kLargeurNom = 240;
 constexpr int kLargeurColonne = 84;
+constexpr int kLargeurJour = 36;
 constexpr int kJoursSemaine = 7;
 
 std::vector<TColonneGrille> Colonnes(const TGenerationRepas& generation) {
@@ -158,7 +159,7 @@ void TFrmReservation::RemplirMois(TGrille& mois) const {
   for (TDateTime j = premier; DecodeDate(j).Mois == jour.Mois; ++j)
     if (JourLundi1(j) <= 5) jours.push_back(j);
   std::vector<TColonneGrille> colonnes{{u"Nom de l'élève"_s, kLargeurNom}};
-  for (const TDateTime j : jours) colonnes.push_back({QString::number(DecodeDate(j).Jour), 28});
+  for (const TDateTime j : jours) colonnes.push_back({QString::number(DecodeDate(j).Jour), kLargeurJour});
   const TGrille::TLot lot(mois);
   mois.DefinirColonnes(std::move(colonnes));
   const TClasse* classe = Classe();

@@ -16,7 +16,7 @@ constexpr int kPageDetail = 1;
 
 TFrmTicket::TFrmTicket(TContexteEcran& contexte)
     : LstEleve(
-          {{u"Nom prénom"_s, 240}, {u"Nb tickets"_s, 90, TGenre::Entier}, {u"État"_s, 110, TGenre::Etat}}),
+          {{u"Nom prénom"_s, 240}, {u"Nb tickets"_s, 112, TGenre::Entier}, {u"État"_s, 120, TGenre::Etat}}),
       Detail({{u"Date achat"_s, 200},
               {u"Date utilisation"_s, 150, TGenre::Date},
               {u"Total"_s, 70, TGenre::Entier}}),

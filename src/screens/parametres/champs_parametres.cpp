@@ -6,27 +6,50 @@
 
 using namespace Qt::StringLiterals;
 
-TAcces<TParametres> Reglage(TParam param) {
-  return {[param](const TParametres& p) { return p.GetParametre(param); },
-          [param](TParametres& p, const TValeurVue& valeur) {
-            p.SetParametre(param, ValeurEn<QString>(valeur).trimmed());
-          }};
+namespace {
+
+TGenreChamp GenreDuChamp(TGenreParam genre) {
+  switch (genre) {
+    case TGenreParam::Lignes:
+      return TGenreChamp::Lignes;
+    case TGenreParam::Montant:
+      return TGenreChamp::TexteMontant;
+    case TGenreParam::OuiNon:
+      return TGenreChamp::Coche;
+    case TGenreParam::Secret:
+      return TGenreChamp::Secret;
+    default:
+      return TGenreChamp::Texte;
+  }
 }
 
-TAcces<TParametres> ReglageCoche(TParam param) {
-  return {[param](const TParametres& p) { return static_cast<int>(p.EstVrai(param)); },
-          [param](TParametres& p, const TValeurVue& valeur) {
-            p.SetParametre(param, ValeurEn<int>(valeur) == 1 ? u"1"_s : u"0"_s);
-          }};
+}  // namespace
+
+TChampDe<TParametres> Reglage(TParam param, TChamp champ) {
+  champ.Genre = GenreDuChamp(Regles(param).Genre);
+  if (champ.Genre == TGenreChamp::Coche)
+    return {std::move(champ),
+            {[param](const TParametres& p) { return static_cast<int>(p.EstVrai(param)); },
+             [param](TParametres& p, const TValeurVue& valeur) {
+               p.SetParametre(param, ValeurEn<int>(valeur) == 1 ? u"1"_s : u"0"_s);
+             }}};
+  champ.Longueur = kParametreMaximum;
+  return {std::move(champ),
+          {[param](const TParametres& p) { return p.GetParametre(param); },
+           [param](TParametres& p, const TValeurVue& valeur) {
+             p.SetParametre(param, ValeurEn<QString>(valeur).trimmed());
+           }}};
 }
 
-TAcces<TParametres> ReglageChoix(TParam param, const QStringList& valeurs) {
-  return {[param, valeurs](const TParametres& p) {
-            return std::max(0, static_cast<int>(valeurs.indexOf(p.GetParametre(param))));
-          },
-          [param, valeurs](TParametres& p, const TValeurVue& valeur) {
-            p.SetParametre(param, valeurs.value(ValeurEn<int>(valeur)));
-          }};
+TChampDe<TParametres> ReglageChoix(TParam param, const QStringList& valeurs, TChamp champ) {
+  champ.Genre = TGenreChamp::Choix;
+  return {std::move(champ),
+          {[param, valeurs](const TParametres& p) {
+             return std::max(0, static_cast<int>(valeurs.indexOf(p.GetParametre(param))));
+           },
+           [param, valeurs](TParametres& p, const TValeurVue& valeur) {
+             p.SetParametre(param, valeurs.value(ValeurEn<int>(valeur)));
+           }}};
 }
 
 TChampsParametres::TChampsParametres(TContexteEcran& contexte, TTableChamps<TParametres> table)

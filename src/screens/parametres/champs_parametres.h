@@ -3,11 +3,14 @@
 #include "forms/champs.h"
 #include "screens/contexte_ecran.h"
 
-/// What a field does with its setting: the text, trimmed; "1" or "0" of a box; one text for each choice of a
-/// list, whose first one stands for any other text.
-TAcces<TParametres> Reglage(TParam param);
-TAcces<TParametres> ReglageCoche(TParam param);
-TAcces<TParametres> ReglageChoix(TParam param, const QStringList& valeurs);
+/// Characters that a setting keeps.
+inline constexpr int kParametreMaximum = 1000;
+
+/// The field of a setting, edited and stored as the kind of the setting says: a text, trimmed; "1" or "0" of
+/// a box. A number is typed as a text, which its screen judges.
+TChampDe<TParametres> Reglage(TParam param, TChamp champ);
+/// One text for each choice of a list; the first one stands for any other text.
+TChampDe<TParametres> ReglageChoix(TParam param, const QStringList& valeurs, TChamp champ);
 
 /// Fields that are settings of the school. Each writes its own, and saves, as soon as it is left or clicked,
 /// also when it holds what it held.

@@ -16,11 +16,8 @@ constexpr int kNomImplantationMaximum = 50;
 
 /// `largeur` 0 takes the width of the page.
 TRang Texte(const char16_t* nom, TParam param, const char16_t* libelle, int largeur = 0) {
-  return {{.Nom = QString::fromUtf16(nom),
-           .Libelle = QString::fromUtf16(libelle),
-           .Longueur = kParametreMaximum,
-           .Largeur = largeur},
-          Reglage(param)};
+  return Reglage(
+      param, {.Nom = QString::fromUtf16(nom), .Libelle = QString::fromUtf16(libelle), .Largeur = largeur});
 }
 
 /// Four numbers on a row: from an hour and a minute to an hour and a minute.
@@ -43,14 +40,13 @@ void AjouterHoraire(TTableChamps<TParametres>& table, const THoraire& horaire) {
   for (int i = 0; i < 4; ++i) {
     const auto& [debut, quoi, libelle, unite] = kNombres[i];
     const QString derriere = i == 3 ? jours : QString::fromUtf16(unite);
-    table.push_back({{.Nom = QString::fromUtf16(debut) % QString::fromUtf16(horaire.Suffixe),
-                      .Libelle = QString::fromUtf16(libelle),
-                      .Longueur = kParametreMaximum,
-                      .Nomme = QString::fromUtf16(quoi) % u", " % jours,
-                      .Largeur = 44,
-                      .Unite = derriere,
-                      .Suite = i > 0},
-                     Reglage(static_cast<TParam>(static_cast<int>(horaire.Premier) + i))});
+    table.push_back(Reglage(static_cast<TParam>(static_cast<int>(horaire.Premier) + i),
+                            {.Nom = QString::fromUtf16(debut) % QString::fromUtf16(horaire.Suffixe),
+                             .Libelle = QString::fromUtf16(libelle),
+                             .Nomme = QString::fromUtf16(quoi) % u", " % jours,
+                             .Largeur = 44,
+                             .Unite = derriere,
+                             .Suite = i > 0}));
   }
 }
 

@@ -1,9 +1,6 @@
 #pragma once
 #include "screens/parametres/champs_parametres.h"
 
-/// Characters that a setting keeps.
-inline constexpr int kParametreMaximum = 1000;
-
 struct TPageDecrite {
   QString Titre;
   TTableChamps<TParametres> Champs;

@@ -5,6 +5,7 @@
 #include "core/comparaisons.h"
 #include "core/formats.h"
 #include "screens/payments/frm_paiement.h"
+#include "screens/payments/frm_repartition.h"
 #include "screens/payments/frm_virement.h"
 #include "workflows/credit_extraits.h"
 
@@ -23,7 +24,7 @@ bool Contient(const QString& nom, const QString& cherche) {
 }  // namespace
 
 TFrmAttributionVirement::TFrmAttributionVirement(TContexteEcran& contexte, TFrmVirement& virements)
-    : LUCombo1({{u"Nom de l'élève"_s, 260}, {u"Classe"_s, 80}}),
+    : LUCombo1({{u"Nom de l'élève"_s, 260}, {u"Classe"_s, 80}, {u"Pourquoi"_s, 260}}),
       contexte_(contexte),
       virements_(virements),
       groupes_{QString()},
@@ -56,6 +57,7 @@ TTableChamps<TSaisieAttribution> TFrmAttributionVirement::Table() {
 void TFrmAttributionVirement::FormShow() {
   LireOrdre();
   LireEleves();
+  payeurs_ = std::make_unique<TPropositions>(*Globals.Eleves);
   MontrerMouvement();
 }
 
@@ -103,12 +105,19 @@ bool TFrmAttributionVirement::imgValide() const { return !Cellule(TFrmVirement::
 
 bool TFrmAttributionVirement::Actif() const { return !imgValide() && !Extrait().FlgIgnore; }
 
+bool TFrmAttributionVirement::Partiel() const { return EtatExtrait(Extrait()) == TEtatMouvement::Partiel; }
+
+bool TFrmAttributionVirement::PeutRepartir() const {
+  return Extrait().Montant > Currency() && (Actif() || Partiel());
+}
+
 void TFrmAttributionVirement::MontrerMouvement() {
   saisie_ = {LibelleVirement(Extrait()), saisie_.Famille, 0};
   champs_.Montrer(nullptr);
   champs_.Montrer(&saisie_);
   champs_.DefinirLectureSeule(!Actif());
   saisieEleve_ = Cellule(TFrmVirement::Eleve);
+  LirePropositions();
   ProposerEleves();
   Annoncer();
   SurMouvement();
@@ -134,18 +143,37 @@ void TFrmAttributionVirement::LUCombo1Change(const QString& texte) {
   Annoncer();
 }
 
+void TFrmAttributionVirement::LirePropositions() {
+  propositions_.clear();
+  if (PeutRepartir()) propositions_ = payeurs_->Pour(Extrait());
+}
+
+QString TFrmAttributionVirement::Raison(const TEleve& eleve) const {
+  const auto la = std::ranges::find(propositions_, &eleve, &TProposition::Eleve);
+  return la == propositions_.end() ? QString() : la->Raison;
+}
+
+// Before anything is typed, those who may have paid come first, the strongest reason above.
 void TFrmAttributionVirement::ProposerEleves() {
   const TGrille::TLot lot(LUCombo1);
   LUCombo1.Vider();
   if (!Actif()) return;
   const QString cherche = Simplifier(saisieEleve_.trimmed());
+  const auto ajouter = [this](TEleve& eleve) {
+    return LUCombo1.Ajouter({QString(eleve.Nom % u' ' % eleve.Prenom), eleve.LibelleClasse(), Raison(eleve)},
+                            &eleve);
+  };
+  if (cherche.isEmpty())
+    for (const TProposition& proposition : propositions_) ajouter(*proposition.Eleve);
   int choisi = -1;
   for (const TCandidat& candidat : eleves_) {
-    if (!Contient(candidat.Cle, cherche)) continue;
-    const int ligne = LUCombo1.Ajouter({candidat.Nom, candidat.Eleve->LibelleClasse()}, candidat.Eleve);
+    if (!Contient(candidat.Cle, cherche) || (cherche.isEmpty() && !Raison(*candidat.Eleve).isEmpty()))
+      continue;
+    const int ligne = ajouter(*candidat.Eleve);
     if (choisi < 0 && candidat.Cle.startsWith(cherche)) choisi = ligne;
   }
-  LUCombo1.ChoisirLigne(cherche.isEmpty() ? -1 : std::max(choisi, 0));
+  const int evident = TPropositions::Evidente(propositions_) != nullptr ? 0 : -1;
+  LUCombo1.ChoisirLigne(cherche.isEmpty() ? evident : std::max(choisi, 0));
 }
 
 TEleve* TFrmAttributionVirement::EleveChoisi() const {
@@ -177,14 +205,37 @@ void TFrmAttributionVirement::Button3Click() {
   if (!Aller(1)) MontrerMouvement();
 }
 
+int TFrmAttributionVirement::Groupe() const {
+  return idsGroupes_[static_cast<std::size_t>(std::max(saisie_.IndexGroupe, 0))];
+}
+
+// Those whom the account itself tells have a part each to begin with, and the one who is chosen.
+void TFrmAttributionVirement::btnRepartirClick() {
+  if (!PeutRepartir() || !champs_.Verifier()) return;
+  champs_.EcrireDans(saisie_);
+  TFrmRepartition repartition(contexte_, Extrait(), {saisie_.Libelle, saisie_.Famille, Groupe()},
+                              propositions_);
+  std::vector<TEleve*> avecPart = TPropositions::DuCompte(propositions_);
+  TEleve* choisi = EleveChoisi();
+  if (choisi != nullptr && std::ranges::find(avecPart, choisi) == avecPart.end()) avecPart.push_back(choisi);
+  for (TEleve* eleve : avecPart) repartition.Ajouter(*eleve);
+  if (contexte_.Modale.MontrerModal(repartition) != TResultatModal::Valide) return;
+  virements_.Reparti();
+  for (const TPartExtrait& part : Globals.Eleves->PartsExtrait(Extrait().Id))
+    if (const TEleve* eleve = Globals.Eleves->TrouverParId(part.EleveId))
+      payeurs_->Apprendre(Extrait(), *eleve);
+  contexte_.Principal.Etat(TNiveauEtat::Succes, TexteParts(Extrait()));
+  if (!Aller(1)) MontrerMouvement();
+}
+
 void TFrmAttributionVirement::Crediter(TEleve& eleve) {
-  const int groupe = idsGroupes_[static_cast<std::size_t>(std::max(saisie_.IndexGroupe, 0))];
   const TExtrait& extrait = Extrait();
-  if (!CrediterEleve({eleve.Id, 0, saisie_.Famille}, extrait, groupe, saisie_.Libelle)) {
+  if (!CrediterEleve({eleve.Id, 0, saisie_.Famille}, extrait, Groupe(), saisie_.Libelle)) {
     contexte_.Dialogues().Message(u"Ce mouvement est déjà attribué à un élève."_s);
     return;
   }
   virements_.Attribue(eleve);
+  payeurs_->Apprendre(extrait, eleve);
   contexte_.Principal.Etat(TNiveauEtat::Succes,
                            QString(FormatMontant(extrait.Montant) % u" attribués à " % eleve.NomComplet()));
 }

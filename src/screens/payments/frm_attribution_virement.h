@@ -3,6 +3,7 @@
 #include "forms/grille.h"
 #include "screens/contexte_ecran.h"
 #include "services/frais_eleve.h"
+#include "workflows/propositions.h"
 
 class TFrmVirement;
 struct TExtrait;
@@ -33,12 +34,16 @@ class TFrmAttributionVirement : public TForm {
   bool imgValide() const;
   /// It may be given to a pupil: nobody has it, and it is not hidden.
   bool Actif() const;
+  /// Several have it, and a part of it is left.
+  bool Partiel() const;
 
   // The pupil: what is typed, and the pupils of the year whose name holds it.
   const QString& SaisieEleve() const { return saisieEleve_; }
   /// The first name that begins so is chosen; else the first that holds it.
   void LUCombo1Change(const QString& texte);
-  TGrille LUCombo1;  ///< by name; the object of a row is its TEleve
+  /// By name, after those who may have paid, with the reason; the object of a row is its TEleve. The one who
+  /// stands out is chosen, and is given nothing by itself.
+  TGrille LUCombo1;
   /// Of the pupil who is chosen, or who has the movement.
   QString lblClasse() const;
 
@@ -49,6 +54,10 @@ class TFrmAttributionVirement : public TForm {
 
   /// "Attribuer": to the chosen pupil, if any; then on to the next movement.
   void Button3Click();
+  /// "Répartir": between several pupils; then on to the next movement.
+  void btnRepartirClick();
+  /// Something of it is to be shared out.
+  bool PeutRepartir() const;
   /// "Suivant", "Précédent": nothing at either end.
   void Button2Click() { Aller(1); }
   void Button1Click() { Aller(-1); }
@@ -72,6 +81,9 @@ class TFrmAttributionVirement : public TForm {
   TTableChamps<TSaisieAttribution> Table();
   void LireEleves();
   void ProposerEleves();
+  void LirePropositions();
+  QString Raison(const TEleve& eleve) const;
+  int Groupe() const;
   void MontrerMouvement();
   void LireOrdre();
   bool Aller(int pas);
@@ -87,6 +99,8 @@ class TFrmAttributionVirement : public TForm {
   std::vector<TCandidat> eleves_;
   QStringList groupes_;          // the first one is none
   std::vector<int> idsGroupes_;  // in step
+  std::unique_ptr<TPropositions> payeurs_;
+  std::vector<TProposition> propositions_;  // of the movement in hand
   QString saisieEleve_;
   TSaisieAttribution saisie_;
   TChampsDe<TSaisieAttribution> champs_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/comparaisons.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
 

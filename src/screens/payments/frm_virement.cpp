@@ -29,7 +29,7 @@ TCellules Cellules(const TFauteReleve& f) {
 
 TFrmVirement::TFrmVirement(TContexteEcran& contexte)
     : Apercu(Avec(ColonnesMouvement(), {kEtat})),
-      Historique(Avec(ColonnesMouvement(), {{u"Resp."_s, 56, TGenre::Entier}, kEtat})),
+      Historique(Avec(ColonnesMouvement(), {{u"Resp."_s, 60, TGenre::Entier}, kEtat})),
       contexte_(contexte),
       import_(contexte.Controleur) {
   Apercu.Etats = Historique.Etats = EtatsMouvement();

@@ -68,6 +68,8 @@ class TFrmVirement : public TForm {
   int Voisine(int pas) const;
   /// The current movement went to that pupil: its row and the counts follow.
   void Attribue(const TEleve& eleve);
+  /// The same when it was shared out, or more of it.
+  void Reparti();
 
   QString EnSuspens() const override;
 

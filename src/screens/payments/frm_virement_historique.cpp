@@ -47,6 +47,7 @@ void TFrmVirement::AjouterMouvement(TExtrait& extrait) {
   if (!(comptabilise ? voitComptabilises_ : voitInconnus_)) return;
   TCellules cellules = CellulesMouvement(extrait);
   AjouterEleve(cellules, Globals.Eleves->ExtraitVersEleve(extrait.Id));
+  if (const QString parts = TexteParts(extrait); !parts.isEmpty()) cellules[Eleve] = parts;
   cellules.push_back(extrait.TypeResponsable > 0 ? TValeurVue(extrait.TypeResponsable) : TValeurVue());
   Historique.Ajouter(std::move(cellules), &extrait, static_cast<int>(EtatExtrait(extrait)));
 }
@@ -99,6 +100,17 @@ void TFrmVirement::Attribue(const TEleve& eleve) {
   cellules[Classe] = eleve.LibelleClasse();
   Historique.EcrireLigne(ligne, std::move(cellules));
   Historique.ChangerEtat(ligne, static_cast<int>(TEtatMouvement::Comptabilise));
+  Annoncer();
+}
+
+void TFrmVirement::Reparti() {
+  const int ligne = Historique.LigneCourante();
+  if (Historique.Texte(ligne, Eleve).isEmpty()) {
+    ++compta_;
+    --inconnu_;
+  }
+  Historique.Ecrire(ligne, Eleve, TexteParts(*Courant()));
+  Historique.ChangerEtat(ligne, static_cast<int>(EtatExtrait(*Courant())));
   Annoncer();
 }
 

@@ -12,20 +12,21 @@ std::vector<TEtatGrille> EtatsMouvement() {
       {TEtatMouvement::AnneePrecedente, u"data-information"_s},
       {TEtatMouvement::Cache, u"list-remove"_s},
       {TEtatMouvement::Illisible, u"data-error"_s},
-      {TEtatMouvement::DejaImporte, u"data-warning"_s}};
+      {TEtatMouvement::DejaImporte, u"data-warning"_s},
+      {TEtatMouvement::Partiel, u"data-information"_s}};
   std::vector<TEtatGrille> etats;
   for (const auto& [etat, icone] : icones) etats.push_back({Texte(etat), icone});
   return etats;
 }
 
 std::vector<TColonneGrille> ColonnesMouvement() {
-  return {{u"Nom du donneur d'ordre"_s, 200},
-          {u"Date du virement"_s, 116, TGenre::Date},
-          {u"Montant"_s, 96, TGenre::Montant},
-          {u"Communication"_s, 176},
-          {u"N° de compte"_s, 152},
+  return {{u"Nom du donneur d'ordre"_s, 164},
+          {u"Date du virement"_s, 96, TGenre::Date},
+          {u"Montant"_s, 88, TGenre::Montant},
+          {u"Communication"_s, 188},
+          {u"N° de compte"_s, 124},
           {u"Nom de l'élève"_s, 168},
-          {u"Classe"_s, 56}};
+          {u"Classe"_s, 64}};
 }
 
 TCellules CellulesMouvement(const TMouvement& m) {

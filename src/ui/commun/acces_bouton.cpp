@@ -3,15 +3,25 @@
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QCheckBox>
+#include <QPushButton>
 #include <QRadioButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Qt toggles a button that can be checked, and nobody hears of it: screens follow clicks.
+/// Qt toggles a button that can be checked, and nobody hears of it: screens follow clicks. An assistive program
+/// may ask for a button while it is being made: what it is, is seen at each question.
 class AccesBouton : public QAccessibleWidget {
  public:
-  AccesBouton(QAbstractButton* bouton, QAccessible::Role role) : QAccessibleWidget(bouton, role) {}
+  explicit AccesBouton(QAbstractButton* bouton) : QAccessibleWidget(bouton, QAccessible::Button) {}
 
+  QAccessible::Role role() const override {
+    if (qobject_cast<QCheckBox*>(object()) != nullptr) return QAccessible::CheckBox;
+    if (qobject_cast<QRadioButton*>(object()) != nullptr) return QAccessible::RadioButton;
+    const bool onglet = object()->property("genre") == u"onglet"_s && Bouton()->isCheckable();
+    return onglet ? QAccessible::PageTab : QAccessible::Button;
+  }
   QString text(QAccessible::Text quoi) const override {
     const QString texte = QAccessibleWidget::text(quoi);
     return quoi == QAccessible::Name && texte.isEmpty() ? Bouton()->text().remove(u'&') : texte;
@@ -25,6 +35,10 @@ class AccesBouton : public QAccessibleWidget {
     etat.checked = !onglet && Bouton()->isChecked();
     etat.checkStateMixed = EnPartie();
     etat.pressed = Bouton()->isDown();
+    if (const auto* bouton = qobject_cast<const QPushButton*>(object())) {
+      etat.defaultButton = bouton->isDefault();
+      etat.hasPopup = bouton->menu() != nullptr;
+    }
     return etat;
   }
   QStringList actionNames() const override {
@@ -57,14 +71,7 @@ class AccesBouton : public QAccessibleWidget {
 
 QAccessibleInterface* Creer(const QString&, QObject* objet) {
   auto* bouton = qobject_cast<QAbstractButton*>(objet);
-  if (bouton == nullptr) return nullptr;
-  const QString genre = bouton->property("genre").toString();
-  if (genre == u"onglet" && bouton->isCheckable()) return new AccesBouton(bouton, QAccessible::PageTab);
-  if (genre == u"onglet" || genre == u"commande") return new AccesBouton(bouton, QAccessible::Button);
-  if (qobject_cast<QCheckBox*>(bouton) != nullptr) return new AccesBouton(bouton, QAccessible::CheckBox);
-  if (qobject_cast<QRadioButton*>(bouton) != nullptr)
-    return new AccesBouton(bouton, QAccessible::RadioButton);
-  return bouton->isCheckable() ? new AccesBouton(bouton, QAccessible::Button) : nullptr;
+  return bouton != nullptr ? new AccesBouton(bouton) : nullptr;
 }
 
 }  // namespace

@@ -17,6 +17,9 @@ constexpr int kMarge = 8;
 
 double Valeur(const TBarreMois& barre) { return static_cast<double>(barre.Montant.EnBrut()); }
 
+QString Mois(const TBarreMois& barre) { return barre.Nom; }
+QString Montant(const TBarreMois& barre) { return TexteMontant(barre.Montant); }
+
 QString Phrase(const TBarreMois& barre) { return barre.Nom % u" : " % TexteMontant(barre.Montant); }
 
 }  // namespace
@@ -44,33 +47,33 @@ QRect DiagrammeMois::Colonne(int barre) const {
   return {gauche, 0, droite - gauche, height()};
 }
 
-bool DiagrammeMois::Debout() const {
+int DiagrammeMois::Largeur(TTextes textes) const {
   const QFontMetrics mesures(Theme::Petite());
-  return std::ranges::any_of(barres_, [&](const TBarreMois& barre) {
-    const int largeur = std::max(mesures.horizontalAdvance(barre.Nom),
-                                 mesures.horizontalAdvance(TexteMontant(barre.Montant)));
-    return largeur + Theme::Px(kMarge) > Colonne(0).width();
-  });
-}
-
-int DiagrammeMois::HauteurTextes(bool montants) const {
-  const QFontMetrics mesures(Theme::Petite());
-  int longueur = mesures.height();
+  int largeur = 0;
   for (const TBarreMois& barre : barres_)
-    if (Debout())
-      longueur =
-          std::max(longueur, mesures.horizontalAdvance(montants ? TexteMontant(barre.Montant) : barre.Nom));
-  return longueur + Theme::Px(kMarge);
+    largeur = std::max(largeur, mesures.horizontalAdvance(textes(barre)));
+  return largeur;
 }
 
-void DiagrammeMois::Ecrire(QPainter& peintre, const QRect& place, const QString& texte, bool dessous) const {
-  if (!Debout())
-    return peintre.drawText(place, Qt::AlignHCenter | (dessous ? Qt::AlignTop : Qt::AlignBottom), texte);
+bool DiagrammeMois::Debout(TTextes textes) const {
+  return Largeur(textes) + Theme::Px(kMarge) > Colonne(0).width();
+}
+
+int DiagrammeMois::Hauteur(TTextes textes) const {
+  return (Debout(textes) ? Largeur(textes) : QFontMetrics(Theme::Petite()).height()) + Theme::Px(kMarge);
+}
+
+void DiagrammeMois::Ecrire(QPainter& peintre, const QRect& place, const TBarreMois& barre,
+                           TTextes textes) const {
+  const bool dessous = textes == Mois;
+  if (!Debout(textes))
+    return peintre.drawText(place, Qt::AlignHCenter | (dessous ? Qt::AlignTop : Qt::AlignBottom),
+                            textes(barre));
   peintre.save();
   peintre.translate(place.center().x(), place.bottom());
   peintre.rotate(-90);
   const QRect couche(0, -place.width() / 2, place.height(), place.width());
-  peintre.drawText(couche, Qt::AlignVCenter | (dessous ? Qt::AlignRight : Qt::AlignLeft), texte);
+  peintre.drawText(couche, Qt::AlignVCenter | (dessous ? Qt::AlignRight : Qt::AlignLeft), textes(barre));
   peintre.restore();
 }
 
@@ -84,7 +87,7 @@ void DiagrammeMois::paintEvent(QPaintEvent*) {
   }
   QPainter peintre(this);
   peintre.setFont(Theme::Petite());
-  const int dessus = HauteurTextes(true), dessous = HauteurTextes(false);
+  const int dessus = Hauteur(Montant), dessous = Hauteur(Mois);
   const int place = std::max(0, height() - dessus - dessous);
   const double echelle = haut > bas ? place / (haut - bas) : 0;
   const int zero = dessus + static_cast<int>(haut * echelle);
@@ -97,11 +100,10 @@ void DiagrammeMois::paintEvent(QPaintEvent*) {
     peintre.fillRect(colonne.center().x() - largeur / 2, sommet, largeur, std::abs(hauteur),
                      Theme::Couleur(TRole::Accent));
     peintre.setPen(Theme::Couleur(TRole::Texte));
-    Ecrire(peintre, {colonne.x(), sommet - dessus, colonne.width(), dessus - Theme::Px(4)},
-           TexteMontant(barre.Montant), false);
+    Ecrire(peintre, {colonne.x(), sommet - dessus, colonne.width(), dessus - Theme::Px(4)}, barre, Montant);
     peintre.setPen(Theme::Secondaire());
     Ecrire(peintre, {colonne.x(), height() - dessous + Theme::Px(4), colonne.width(), dessous - Theme::Px(4)},
-           barre.Nom, true);
+           barre, Mois);
   }
   peintre.setPen(Theme::Bord());
   peintre.drawLine(0, zero, width(), zero);

@@ -29,10 +29,12 @@ class DiagrammeMois : public QWidget {
  private:
   /// The column of a bar, from top to bottom of the widget.
   QRect Colonne(int barre) const;
-  /// Months and amounts stand on their side where they would run into each other.
-  bool Debout() const;
-  int HauteurTextes(bool montants) const;
-  void Ecrire(QPainter& peintre, const QRect& place, const QString& texte, bool dessous) const;
+  using TTextes = QString (*)(const TBarreMois&);
+  /// The widest of these texts; they stand on their side where they would run into each other.
+  int Largeur(TTextes textes) const;
+  bool Debout(TTextes textes) const;
+  int Hauteur(TTextes textes) const;
+  void Ecrire(QPainter& peintre, const QRect& place, const TBarreMois& barre, TTextes textes) const;
 
   std::vector<TBarreMois> barres_;
 };

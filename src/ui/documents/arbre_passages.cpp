@@ -36,7 +36,7 @@ void ArbrePassages::Remplir() {
 }
 
 void ArbrePassages::Ouvrir(QTreeWidgetItem& ligne) {
-  if (ligne.childCount() > 0) return;
+  if (ligne.parent() != nullptr || ligne.childCount() > 0) return;
   const auto rang = static_cast<std::size_t>(indexOfTopLevelItem(&ligne));
   QList<QTreeWidgetItem*> passages;
   for (const QStringList& textes : form_.Passages(*form_.Presents()[rang]))
@@ -47,7 +47,7 @@ void ArbrePassages::Ouvrir(QTreeWidgetItem& ligne) {
 void ArbrePassages::Etendre(bool oui) {
   if (!oui) return collapseAll();
   for (int rang = 0; rang < topLevelItemCount(); ++rang) Ouvrir(*topLevelItem(rang));
-  expandAll();
+  expandToDepth(0);
 }
 
 void ArbrePassages::Filtrer(const QString& texte) {

@@ -55,13 +55,17 @@ void PageStatistique::AjouterOutils(VueGrille& grille) {
          [&grille] { grille.CopierTout(); });
 }
 
-void PageStatistique::AjouterACote(QWidget* widget) { milieu_->addWidget(widget, 1); }
+void PageStatistique::AjouterACote(QWidget* widget) { milieu_->addWidget(widget, 2); }
 
 void PageStatistique::Montrer(const std::vector<TTotalListe>& totaux, const QString& vide) {
   if (valeurs_.empty())
     for (const TTotalListe& total : totaux) {
-      totaux_->addWidget(new Etiquette(total.Mot, TRole::Secondaire));
-      totaux_->addWidget(valeurs_.emplace_back(new Etiquette({}, TRole::Texte, &Theme::Gras)));
+      auto* ensemble = new QWidget;
+      auto* rang = new QHBoxLayout(ensemble);
+      rang->setContentsMargins(0, 0, Theme::Px(24), 0);
+      rang->addWidget(new Etiquette(total.Mot, TRole::Secondaire));
+      rang->addWidget(valeurs_.emplace_back(new Etiquette({}, TRole::Texte, &Theme::Gras)));
+      totaux_->addWidget(ensemble);
     }
   for (std::size_t i = 0; i < totaux.size(); ++i) valeurs_[i]->setText(TypographieMontant(totaux[i].Valeur));
   vide.isEmpty() ? vide_->Cacher() : vide_->Montrer(vide);

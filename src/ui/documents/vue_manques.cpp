@@ -13,7 +13,7 @@ VueManques::VueManques(TFrmManques& form, QWidget* parent)
   DefinirEntete(form_.Texte());
   auto* grille = new VueGrille(form_.Grille, u"Ce qui manque"_s, u"Manques/Liste"_s);
   grille->DefinirColonneSouple(2);
-  grille->setMinimumSize(Theme::Px(860), Theme::Px(320));
+  grille->setMinimumSize(Theme::Px(980), Theme::Px(320));
   Contenu()->addWidget(grille, 1);
   connect(grille, &VueGrille::Activee, this, &VueManques::Aller);
   DefinirPrincipal(form_.Imprimable() ? u"Imprimer les autres"_s : u"Aller à la fiche"_s);

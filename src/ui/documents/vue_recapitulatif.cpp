@@ -119,7 +119,9 @@ void VueRecapitulatif::CreerPaiements() {
   PageStatistique* page = AjouterListe(u"Paiements"_s, form_.Paiements, u"Paiements"_s);
   page->Titre().DefinirNote(u"De toutes les années scolaires."_s);
   page->Criteres().addWidget(new Etiquette(u"Groupe paiement : "_s, TRole::Secondaire));
-  page->Criteres().addWidget(liaison_->Widget(u"cmbGroupePaiement"_s));
+  QWidget* groupe = liaison_->Widget(u"cmbGroupePaiement"_s);
+  groupe->setMinimumWidth(Theme::Px(248));
+  page->Criteres().addWidget(groupe);
 }
 
 void VueRecapitulatif::CreerFiscales() {
@@ -130,7 +132,7 @@ void VueRecapitulatif::CreerFiscales() {
 
 void VueRecapitulatif::CreerFrais() {
   PageStatistique* page = AjouterListe(u"Frais de l'année"_s, form_.Frais, u"Frais"_s);
-  page->Titre().DefinirNote(u"Tous les élèves à qui le frais est attribué sont comptés."_s);
+  page->Titre().DefinirNote(u"Tous les élèves, de toute année."_s);
 }
 
 void VueRecapitulatif::AjouterPeriode(PageStatistique& page, const QString& debut, const QString& fin) {

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
 
@@ -15,9 +16,10 @@ QToolButton* Pas(const QString& icone, const QString& nom, const QKeySequence& t
   auto* bouton = new QToolButton;
   bouton->setIcon(Theme::Icone(icone));
   bouton->setAccessibleName(nom);
-  bouton->setShortcut(touche);
   bouton->setToolTip(nom % u" (" % touche.toString(QKeySequence::NativeText) % u')');
   bouton->setFocusPolicy(Qt::StrongFocus);
+  // At once: the shortcut of a button presses it a moment later.
+  QObject::connect(new QShortcut(touche, bouton), &QShortcut::activated, bouton, &QToolButton::click);
   return bouton;
 }
 
@@ -26,9 +28,9 @@ QToolButton* Pas(const QString& icone, const QString& nom, const QKeySequence& t
 ChoixClasseJour::ChoixClasseJour(bool avecClasse, QWidget* parent)
     : QWidget(parent),
       classes_(new QComboBox),
-      recule_(Pas(u"go-previous"_s, u"Jour précédent"_s, QKeySequence(u"Alt+Left"_s))),
+      recule_(Pas(u"go-previous"_s, u"Jour précédent"_s, QKeySequence(Qt::ALT | Qt::Key_Left))),
       jour_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
-      avance_(Pas(u"go-next"_s, u"Jour suivant"_s, QKeySequence(u"Alt+Right"_s))) {
+      avance_(Pas(u"go-next"_s, u"Jour suivant"_s, QKeySequence(Qt::ALT | Qt::Key_Right))) {
   classes_->setAccessibleName(u"Classe"_s);
   classes_->setMinimumWidth(Theme::Px(220));
   auto* ligne = new QHBoxLayout(this);

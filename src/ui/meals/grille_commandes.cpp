@@ -35,6 +35,7 @@ GrilleCommandes::GrilleCommandes(TFrmReservation& form, QWidget* parent) : QTabl
     if (c > 0) lettres_ += Lettre(grille.Colonne(c).Titre, lettres_);
   }
   setHorizontalHeaderLabels(titres);
+  horizontalHeaderItem(0)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   for (int c = 1; c < columnCount(); ++c)
     horizontalHeaderItem(c)->setToolTip(u"Touche %1"_s.arg(lettres_[c - 1]));
   horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);

@@ -44,7 +44,7 @@ VueCuisine::VueCuisine(TFrmCuisine& form, QWidget* parent)
 
 void VueCuisine::Disposer() {
   QPushButton* actualiser = BoutonSimple(u"Actualiser"_s, u"view-refresh"_s);
-  actualiser->setShortcut(QKeySequence(u"Ctrl+R"_s));
+  actualiser->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
   actualiser->setToolTip(u"Relire ce que les autres postes ont commandé (Ctrl+R)"_s);
   connect(actualiser, &QPushButton::clicked, this, [this] { form_.AdvGlowButton1Click(); });
   choix_->AjouterAction(actualiser);

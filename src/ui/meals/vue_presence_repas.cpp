@@ -19,12 +19,16 @@ namespace {
 
 constexpr int kLargeurBouton = 180;
 constexpr int kHauteurBouton = 48;
+constexpr int kLargeurRecherche = 280;
 constexpr int kMarge = 18;
 constexpr int kMinuteMs = 30'000;
 
+/// A finger is not smaller with a small font.
+int HauteurDoigt() { return qMax(kHauteurBouton, Theme::Px(kHauteurBouton)); }
+
 QPushButton* GrandBouton(const QString& texte) {
   QPushButton* bouton = BoutonSimple(texte);
-  bouton->setMinimumSize(Theme::Px(kLargeurBouton), Theme::Px(kHauteurBouton));
+  bouton->setMinimumSize(Theme::Px(kLargeurBouton), HauteurDoigt());
   return bouton;
 }
 
@@ -84,6 +88,7 @@ QWidget* VuePresenceRepas::Gauche() {
   auto* defile = new QScrollArea;
   defile->setWidgetResizable(true);
   defile->setFrameShape(QFrame::NoFrame);
+  defile->setFocusPolicy(Qt::NoFocus);
   defile->setFixedWidth(Theme::Px(kLargeurBouton + 30));
   defile->setWidget(place);
   return defile;
@@ -93,10 +98,11 @@ QWidget* VuePresenceRepas::Droite() {
   recherche_->setPlaceholderText(u"Rechercher un élève"_s);
   recherche_->setAccessibleName(u"Rechercher un élève"_s);
   recherche_->setClearButtonEnabled(true);
-  recherche_->setMinimumHeight(Theme::Px(kHauteurBouton));
+  recherche_->setMinimumSize(Theme::Px(kLargeurRecherche), HauteurDoigt());
   connect(recherche_, &QLineEdit::textEdited, this, [this](const QString& t) { form_.edRechercheChange(t); });
   cadres_->setWidgetResizable(true);
   cadres_->setFrameShape(QFrame::NoFrame);
+  cadres_->setFocusPolicy(Qt::NoFocus);
   auto* place = new QWidget;
   auto* colonne = new QVBoxLayout(place);
   colonne->setContentsMargins(0, 0, 0, 0);

@@ -44,7 +44,7 @@ QLayout* VueReservation::Boutons() {
   connect(reprises_[0], &QPushButton::clicked, this, [this] { form_.CommeLaVeille(); });
   connect(reprises_[1], &QPushButton::clicked, this, [this] { form_.CommeLaSemainePassee(); });
   QPushButton* actualiser = BoutonSimple(u"Actualiser"_s, u"view-refresh"_s);
-  actualiser->setShortcut(QKeySequence(u"Ctrl+R"_s));
+  actualiser->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
   actualiser->setToolTip(u"Relire ce que les autres postes ont commandé (Ctrl+R)"_s);
   connect(actualiser, &QPushButton::clicked, this, [this] { form_.Actualiser(); });
   boutonMois_->setCheckable(true);

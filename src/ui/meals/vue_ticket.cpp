@@ -60,7 +60,7 @@ QLayout* VueTicket::Boutons() {
     connect(bouton, &QPushButton::clicked, this, [this, faire = faire] { (form_.*faire)(); });
     rangee->addWidget(bouton);
     if (faire != &TFrmTicket::AdvGlowButton1Click) continue;
-    bouton->setShortcut(QKeySequence(u"Ctrl+R"_s));
+    bouton->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
     bouton->setToolTip(u"Relire ce que les autres postes ont changé (Ctrl+R)"_s);
   }
   return rangee;
@@ -69,6 +69,7 @@ QLayout* VueTicket::Boutons() {
 QWidget* VueTicket::Classe() {
   auto* page = new QWidget;
   auto* colonne = new QVBoxLayout(page);
+  colonne->setContentsMargins(0, Theme::Px(12), 0, 0);
   colonne->addWidget(classe_);
   auto* comptes = new RangeePliante;
   comptes->setSpacing(Theme::Px(24));
@@ -88,6 +89,7 @@ QWidget* VueTicket::Classe() {
 QWidget* VueTicket::PageDetail() {
   auto* page = new QWidget;
   auto* colonne = new QVBoxLayout(page);
+  colonne->setContentsMargins(0, Theme::Px(12), 0, 0);
   colonne->addWidget(eleve_);
   colonne->addWidget(detail_, 1);
   return page;

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -81,7 +82,8 @@ QLayout* VueAttributionVirement::CreerMouvement() {
 }
 
 QLayout* VueAttributionVirement::CreerEleve() {
-  eleves_->setMinimumSize(Theme::Px(520), eleves_->HauteurPour(6));
+  eleves_->setMinimumSize(Theme::Px(620), eleves_->HauteurPour(6));
+  classe_->setMinimumWidth(Theme::Px(72));  // it comes while one types
   auto* rang = new QHBoxLayout;
   rang->setSpacing(Theme::Px(8));
   rang->addWidget(nom_, 1);
@@ -105,10 +107,15 @@ QLayout* VueAttributionVirement::CreerPaiement() {
 void VueAttributionVirement::CreerBoutons() {
   Annuler()->setText(u"Fermer"_s);
   DefinirPrincipal(u"Attribuer"_s, u"dialog-ok-apply"_s);
+  repartir_ = AjouterBouton(u"&Répartir..."_s);
+  repartir_->setToolTip(u"Répartir le virement entre plusieurs élèves"_s);
+  connect(repartir_, &QPushButton::clicked, this, [this] { form_.btnRepartirClick(); });
   QPushButton* precedent = AjouterBouton(u"&Précédent"_s, u"go-previous"_s);
   suivant_ = AjouterBouton(u"&Suivant"_s, u"go-next"_s);
-  precedent->setShortcut(Qt::Key_PageUp);
-  suivant_->setShortcut(Qt::Key_PageDown);
+  // Not as the keys of the buttons, which are pressed a moment later.
+  connect(new QShortcut(Qt::Key_PageUp, this), &QShortcut::activated, this, [this] { form_.Button1Click(); });
+  connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this,
+          [this] { form_.Button2Click(); });
   precedent->setToolTip(u"Mouvement précédent (Page préc.)"_s);
   suivant_->setToolTip(u"Mouvement suivant (Page suiv.)"_s);
   connect(precedent, &QPushButton::clicked, this, [this] { form_.Button1Click(); });
@@ -128,7 +135,10 @@ void VueAttributionVirement::Actualiser() {
        {static_cast<QWidget*>(nom_), static_cast<QWidget*>(eleves_), static_cast<QWidget*>(ajouter_)})
     champ->setEnabled(form_.Actif());
   classe_->setText(form_.lblClasse());
-  if (form_.imgValide())
+  repartir_->setEnabled(form_.PeutRepartir());
+  if (form_.Partiel())
+    valide_->Definir(TNiveauEtat::Alerte, u"Attribué en partie"_s);
+  else if (form_.imgValide())
     valide_->Definir(TNiveauEtat::Succes, u"Comptabilisé"_s);
   else if (!form_.Actif())
     valide_->Definir(TNiveauEtat::Alerte, u"Mouvement caché : il ne peut pas être attribué"_s);

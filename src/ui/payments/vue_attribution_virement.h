@@ -40,5 +40,6 @@ class VueAttributionVirement : public DialogueBase {
   MarqueEtat* valide_;
   QPushButton* ajouter_;
   QPushButton* suivant_ = nullptr;
+  QPushButton* repartir_ = nullptr;
   TLiens liens_;
 };

@@ -57,17 +57,3 @@ TEST(Theme, LesLongueursSuiventLaPolice) {
   EXPECT_NEAR(Theme::Px(28), 42, 1);
   QApplication::setFont(PoliceEssai(10));
 }
-
-TEST(Theme, LesIconesSontLaEtPrennentLaCouleurDuRole) {
-  for (const char* nom : {"system-users", "view-barcode", "food", "go-home", "configure", "data-warning"})
-    for (const int cote : {16, 22, 32}) {
-      const QImage image = Theme::Icone(QLatin1String(nom), TRole::Erreur).pixmap(cote, cote).toImage();
-      bool peint = false;
-      for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-          const QColor point = image.pixelColor(x, y);
-          peint |= point.alpha() > 100 && std::abs(point.hue() - Theme::Erreur().hue()) < 4;
-        }
-      EXPECT_TRUE(peint) << nom << ' ' << cote;
-    }
-}

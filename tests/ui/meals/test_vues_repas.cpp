@@ -1,4 +1,5 @@
 // The meal screens of the office and of a teacher, by mouse and keyboard, read back from the database.
+#include <QPushButton>
 #include <QTreeWidget>
 
 #include "screens/meals/frm_ajout_ticket.h"
@@ -302,8 +303,12 @@ struct VuesSeules : testing::Test {
 
 TEST_F(VuesSeules, NothingIsOutOfReachOfTheKeyboardNorCut) {
   Verifier<TFrmTicket>();
-  Verifier<TFrmReservation>([](TFrmReservation& form) { form.cmbClasseChange(1); });
-  Verifier<TFrmReservation2>([](TFrmReservation2& form) { form.cmbClasseChange(1); });
+  const auto choisir = [](TFrmReservation& form) {
+    form.cmbClasseChange(1);
+    form.grdEleveRowChanging(0);
+  };
+  Verifier<TFrmReservation>(choisir);
+  Verifier<TFrmReservation2>(choisir);
   Verifier<TFrmCuisine>();
   Verifier<TFrmCuisine2>();
   Verifier<TFrmComptabilite>();
