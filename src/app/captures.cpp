@@ -368,6 +368,7 @@ class Photographe : public QObject {
       Bouton(fenetre, u"Oui"_s)->click();
       return true;
     }});
+    programme_.Main.Executer(TGestionnaire::AdvGlowButton5Click);  // the record only hides this screen
     programme_.Main.Executer(TGestionnaire::AdvGlowButton2Click);
   }
 
