@@ -127,9 +127,10 @@ TEST_F(Recapitulatif, TheOtherPages) {
   EXPECT_TRUE(Dit("La première date est après la seconde."));
 
   Aller(pgReleveAnnuel);
-  EXPECT_EQ(Ecran().Annuel.Textes(1), (QStringList{"Octobre :", "1,25 €"}));
+  EXPECT_EQ(Ecran().Annuel.Textes(1), (QStringList{"Octobre :", "46,25 €"}))
+      << "and three flat rates of midday";
   const auto* diagramme = Programme.Vue<VueRecapitulatif>()->findChild<DiagrammeMois*>();
-  EXPECT_TRUE(diagramme->accessibleDescription().contains("Octobre : 1,25"));
+  EXPECT_TRUE(diagramme->accessibleDescription().contains("Octobre : 46,25"));
   EXPECT_TRUE(Imprime().contains("Relevé annuel"));
 
   Aller(TabListePaiement);
