@@ -48,11 +48,12 @@ class MoteurIcone : public QIconEngine {
 
  private:
   QPixmap Image(int cote, double echelle, QIcon::Mode mode) const {
-    const QColor couleur = Theme::Couleur(role_);
+    const bool pale = mode == QIcon::Disabled;  // what it then stands on is pale too
+    const QColor couleur = Theme::Couleur(pale && role_ == TRole::SurAccent ? TRole::Texte : role_);
     const QString cle = u"icone/%1/%2/%3/%4/%5"_s.arg(nom_, couleur.name(), Theme::EstSombre() ? u"s" : u"c")
                             .arg(cote)
                             .arg(echelle) %
-                        (mode == QIcon::Disabled ? u"/pale" : u"");
+                        (pale ? u"/pale" : u"");
     QPixmap image;
     if (QPixmapCache::find(cle, &image)) return image;
     image = QPixmap(QSize(cote, cote) * echelle);
@@ -63,7 +64,7 @@ class MoteurIcone : public QIconEngine {
       dessin.replace("currentColor", couleur.name().toLatin1());
       dessin.replace("#fff\"", QByteArray(surAccent + '"'));
       QPainter peintre(&image);
-      if (mode == QIcon::Disabled) peintre.setOpacity(0.35);
+      if (pale) peintre.setOpacity(0.35);
       QSvgRenderer(dessin).render(&peintre);
     }
     image.setDevicePixelRatio(echelle);
