@@ -18,7 +18,7 @@ PageStatistique::PageStatistique(const QString& titre, QWidget* liste)
       commandes_(new RangeePliante),
       vide_(new EtatVide(liste)) {
   milieu_->setSpacing(Theme::Px(24));
-  milieu_->addWidget(liste, 1);
+  milieu_->addWidget(liste, 2);
   auto* colonne = new QVBoxLayout(this);
   const int marge = Theme::Px(12);
   colonne->setContentsMargins(marge, marge, marge, marge);
@@ -55,7 +55,7 @@ void PageStatistique::AjouterOutils(VueGrille& grille) {
          [&grille] { grille.CopierTout(); });
 }
 
-void PageStatistique::AjouterACote(QWidget* widget) { milieu_->addWidget(widget, 2); }
+void PageStatistique::AjouterACote(QWidget* widget) { milieu_->addWidget(widget, 3); }
 
 void PageStatistique::Montrer(const std::vector<TTotalListe>& totaux, const QString& vide) {
   if (valeurs_.empty())
