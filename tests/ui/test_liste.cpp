@@ -5,14 +5,12 @@
 #include <QMenu>
 #include <QPushButton>
 
-#include "screens/documents/frm_apercu.h"
 #include "screens/services/frm_parametres_garderies.h"
 #include "support/ecran_essai.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/menu_grille.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/commun/vue_liste.h"
-#include "ui/documents/vue_apercu.h"
 #include "ui/principal/barre_commandes.h"
 #include "ui/reglages_essai.h"
 #include "verifier_vue.h"
@@ -193,16 +191,6 @@ TEST_F(Tarifs, LeMenuDeLaListe) {
   ASSERT_TRUE(csv.open(QIODevice::ReadOnly));
   const QStringList lignes = QString::fromUtf8(csv.readAll()).split(u"\r\n"_s);
   EXPECT_EQ(lignes[1], u"garderie du soir;lundi, mardi, jeudi, vendredi;16:30;18:00;0,0125;à la demi-heure");
-  QString imprime;
-  Programme.Dialogues.Fait(u"Aperçu"_s, [&](QWidget& fenetre) {
-    auto& apercu = dynamic_cast<VueApercu&>(fenetre);
-    QTRY_VERIFY(!apercu.Form().Document().Pages.empty());
-    imprime = apercu.Form().Document().TexteDePage(0);
-    fenetre.close();
-  });
-  choisir(u"Imprimer la liste"_s);
-  EXPECT_LT(imprime.indexOf(u"garderie du soir"_s), imprime.indexOf(u"garderie du midi"_s))
-      << "printed in the order in which it is shown";
   choisir(u"Filtrer"_s);
   QTest::keyClicks(Vue().findChild<ChampFiltre*>(), u"matin"_s);
   EXPECT_EQ(Colonne(0), QStringList{u"garderie du matin"_s});
