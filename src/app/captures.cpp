@@ -569,6 +569,8 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
   const QTemporaryDir poste;
   PreparerPoste(poste, base);
   if (!QDir().mkpath(sujet.Dossier)) throw Exception(u"« " % sujet.Dossier % u" » ne peut pas être créé.");
+  Tablette(application, poste, QFileInfo(base).dir().filePath(u"tablette"_s), sujet);
+  Globals = {};
   const THorlogeFixe horloge;
   Programme programme(horloge);
   application.Dialogues = &programme.Dialogues;
@@ -578,8 +580,6 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
   ChaqueVue(application, programme.Fenetre, [&](const QString& suffixe) { photographe.Tout(suffixe); });
   programme.Fenetre.close();
   application.Dialogues = nullptr;
-  Globals = {};
-  Tablette(application, poste, QFileInfo(base).dir().filePath(u"tablette"_s), sujet);
   Globals = {};
   Commencer(application, poste, sujet);
 }
