@@ -554,6 +554,7 @@ void Tablette(Application& application, const QTemporaryDir& poste, const QStrin
   const THorlogeFixe horloge;
   Programme programme(horloge);
   programme.Fenetre.Demarrer();
+  Attendre(50);
   Photographe photographe(programme, sujet);
   for (const auto& [mode, suffixe] : {std::pair(Theme::TMode::Clair, u"-1280x800"_s),
                                       std::pair(Theme::TMode::Sombre, u"-sombre-1280x800"_s)}) {
