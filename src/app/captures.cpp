@@ -566,12 +566,7 @@ void Tablette(Application& application, const QTemporaryDir& poste, const QStrin
   reglages.Ecrire(TRacine::Utilisateur, u"Offline"_s, u"0"_s);
 }
 
-void Executer(Application& application, const QString& base, const TSujet& sujet) {
-  const QTemporaryDir poste;
-  PreparerPoste(poste, base);
-  if (!QDir().mkpath(sujet.Dossier)) throw Exception(u"« " % sujet.Dossier % u" » ne peut pas être créé.");
-  Tablette(application, poste, QFileInfo(base).dir().filePath(u"tablette"_s), sujet);
-  Globals = {};
+void Ecrans(Application& application, const TSujet& sujet) {
   const THorlogeFixe horloge;
   Programme programme(horloge);
   application.Dialogues = &programme.Dialogues;
@@ -581,6 +576,15 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
   ChaqueVue(application, programme.Fenetre, [&](const QString& suffixe) { photographe.Tout(suffixe); });
   programme.Fenetre.close();
   application.Dialogues = nullptr;
+}
+
+void Executer(Application& application, const QString& base, const TSujet& sujet) {
+  const QTemporaryDir poste;
+  PreparerPoste(poste, base);
+  if (!QDir().mkpath(sujet.Dossier)) throw Exception(u"« " % sujet.Dossier % u" » ne peut pas être créé.");
+  Tablette(application, poste, QFileInfo(base).dir().filePath(u"tablette"_s), sujet);
+  Globals = {};
+  Ecrans(application, sujet);
   Globals = {};
   Commencer(application, poste, sujet);
 }
