@@ -8,11 +8,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Names first, then numbers and amounts, as they are printed.
 std::vector<TColonneGrille> Colonnes() {
-  constexpr int largeurs[] = {180, 148, 108, 160, 132, 108, 140, 112};
-  std::vector<TColonneGrille> colonnes;
-  for (const QString& titre : ColonnesVentes()) colonnes.push_back({titre, largeurs[colonnes.size()]});
-  return colonnes;
+  using enum TGenre;
+  constexpr std::pair<int, TGenre> colonnes[] = {{200, Texte},   {140, Entier}, {100, Montant},
+                                                 {160, Montant}, {128, Entier}, {100, Montant},
+                                                 {148, Montant}, {112, Montant}};
+  std::vector<TColonneGrille> rendues;
+  for (const QString& titre : ColonnesVentes()) {
+    const auto& [largeur, genre] = colonnes[rendues.size()];
+    rendues.push_back({titre, largeur, genre});
+  }
+  return rendues;
 }
 
 TCellules Cellules(const QStringList& textes) { return {textes.begin(), textes.end()}; }

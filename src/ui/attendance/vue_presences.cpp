@@ -85,12 +85,11 @@ QLayout* VuePresences::Etapes() {
   auto* boutons = new RangeePliante;
   for (QPushButton* bouton : {etape1_, etape2_, source_}) boutons->addWidget(bouton);
   fichier_->DefinirElision(true);
-  fichier_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  auto* ligne = new QHBoxLayout;
-  ligne->setSpacing(Theme::Px(16));
-  ligne->addLayout(boutons);
-  ligne->addWidget(fichier_, 1);
-  return ligne;
+  auto* colonne = new QVBoxLayout;
+  colonne->setSpacing(Theme::Px(8));
+  colonne->addLayout(boutons);
+  colonne->addWidget(fichier_);
+  return colonne;
 }
 
 QWidget* VuePresences::Comptes() {
@@ -137,6 +136,7 @@ void VuePresences::Actualiser() {
   source_->setText(form_.TitreSource());
   changerSource_->setText(form_.TitreMenuImportation());
   fichier_->setText(form_.Fichier());
+  fichier_->setVisible(!form_.Fichier().isEmpty());
   ActualiserComptes();
 
   const bool anomalies = form_.Anomalies.NombreLignes() > 0;
