@@ -1,0 +1,67 @@
+// Meals and the tablet.
+#include <QTableWidget>
+
+#include "app/captures/photographe.h"
+#include "screens/meals/frm_comptabilite.h"
+#include "screens/meals/frm_compte_eleve.h"
+#include "screens/meals/frm_presence_repas.h"
+#include "screens/meals/frm_reservation.h"
+#include "screens/meals/frm_ticket.h"
+
+using namespace Qt::StringLiterals;
+
+void Photographe::Tablette(const QString& suffixe) {
+  suffixe_ = suffixe;
+  programme_.Main.Executer(TGestionnaire::btnReservationTabletteClick);
+  auto& form = Ecran<TFrmPresenceRepas>();
+  form.btnAnneeClick(u"P3"_s);
+  form.btnClasseClick(*form.ClassesDeLAnnee().front().Classe);
+  Prendre(u"tablette"_s);
+  form.edRechercheChange(u"la"_s);
+  Prendre(u"tablette-recherche"_s);
+}
+
+void Photographe::Repas() {
+  using enum TGestionnaire;
+  TFrmMain& main = programme_.Main;
+  main.edSearchChange(u"LAMB"_s);
+  main.Executer(btnTicketClick);
+  auto& tickets = Ecran<TFrmTicket>();
+  tickets.ChoisirPage(0);
+  Prendre(u"tickets"_s);
+  tickets.ChoisirPage(1);
+  Prendre(u"tickets-detail"_s);
+  Suivre({Photo(u"tickets-vente"_s)});
+  tickets.btnEtape1Click();
+  int classe = 0;  // several sites name theirs behind the class
+  while (!ChoixDeClasses()[classe].startsWith(tickets.NomClasse())) ++classe;
+  for (const auto& [ecran, nom] : {std::pair(btnReservationClick, u"reservation"_s),
+                                   std::pair(btnReservation2Click, u"reservation-2"_s)}) {
+    main.Executer(ecran);
+    auto& form = Ecran<TFrmReservation>();
+    form.cmbClasseChange(classe);
+    auto* grille = programme_.Fenetre.VueCourante()->findChild<QTableWidget*>();
+    grille->setFocus();
+    grille->setCurrentCell(2, 1);
+    Prendre(nom);
+  }
+  main.Executer(btnReservationClick);
+  Ecran<TFrmReservation>().cmbClasseChange(classe);
+  Bouton(programme_.Fenetre, u"Le mois"_s)->click();
+  Prendre(u"reservation-mois"_s);
+  main.Executer(btnCuisineClick);
+  Prendre(u"cuisine"_s);
+  main.Executer(btnClick);
+  Prendre(u"cuisine-2"_s);
+  main.Executer(btnCompteEleveClick);
+  auto& comptes = Ecran<TFrmCompteEleve>();
+  comptes.cmbClasseChange(classe);
+  comptes.btnAjouteArgentClick();
+  comptes.btnCoupureClick(3);
+  comptes.edChange(5, u"2"_s);
+  Prendre(u"comptes"_s);
+  comptes.btnAnnulerClick();
+  main.Executer(btnComptabiliteClick);
+  Ecran<TFrmComptabilite>().dtChange(EncodeDate(2016, 10, 24), EncodeDate(2016, 10, 31));
+  Prendre(u"compta"_s);
+}
