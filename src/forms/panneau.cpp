@@ -1,6 +1,9 @@
 #include "forms/panneau.h"
 
+#include <QStringList>
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 TForm* TPanneau::Ouvrir(std::type_index classe, const TFabrique& creer, std::optional<int> cle,
                         TRemplacement remplacement) {
@@ -32,6 +35,24 @@ TForm* TPanneau::Trouver(std::type_index classe) const {
   for (const TPlace& place : places_)
     if (place.Form->Classe() == classe) return place.Form.get();
   return nullptr;
+}
+
+// A form behind the front one keeps what was typed or read in it.
+bool TPanneau::AccepteDeFermer() {
+  for (auto place = places_.rbegin(); place != places_.rend(); ++place) {
+    TForm& form = *place->Form;
+    if (form.AccepteDeFermer()) continue;
+    if (&form != Courante()) Avancer(form);
+    return false;
+  }
+  return true;
+}
+
+QString TPanneau::EnSuspens() const {
+  QStringList restes;
+  for (const TPlace& place : places_)
+    if (const QString reste = place.Form->EnSuspens(); !reste.isEmpty()) restes += reste;
+  return restes.join(u" · "_s);
 }
 
 void TPanneau::Vider() {

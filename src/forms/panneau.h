@@ -36,6 +36,11 @@ class TPanneau {
   /// The form of this class, shown or hidden; null when there is none.
   TForm* Trouver(std::type_index classe) const;
 
+  /// Asks every form, from the front on, whether it may go. The one that refuses comes to the front; false.
+  bool AccepteDeFermer();
+  /// What the forms still have to store, in words; "" for nothing. See TForm::EnSuspens.
+  QString EnSuspens() const;
+
   /// Frees every form, the hidden ones too, without closing them: their data are about to go.
   void Vider();
 

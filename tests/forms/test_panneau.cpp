@@ -78,6 +78,9 @@ TEST_F(Panneau, UnRefusGardeToutEtUnEcranEnPanneNeSOuvrePas) {
   EXPECT_EQ(Ouvre<'l'>(), "");
   EXPECT_EQ(ouvert, nullptr);
   EXPECT_EQ(panneau.Courante(), import);
+  Ouvre<'f'>();
+  EXPECT_FALSE(panneau.AccepteDeFermer()) << "what is unsaved stands behind the record";
+  EXPECT_EQ(panneau.Courante(), import);
 }
 
 TEST(Diffuser, LaFormePuisChaqueComposantQuIlAEncore) {

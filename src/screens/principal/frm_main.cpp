@@ -153,11 +153,8 @@ bool TFrmMain::FormCloseQuery() {
   return false;
 }
 
-// A screen with something unsaved asks, once.
-bool TFrmMain::EcranAccepte() {
-  TForm* ecran = Panneau.Courante();
-  return ecran == nullptr || ecran->AccepteDeFermer();
-}
+// A screen with something unsaved asks, once; also one that stands behind another.
+bool TFrmMain::EcranAccepte() { return Panneau.AccepteDeFermer(); }
 
 // Bar.
 
@@ -405,8 +402,7 @@ void TFrmMain::OuvrirReservationTablette() { Executer(TGestionnaire::btnReservat
 void TFrmMain::OuvrirReservation() { Executer(TGestionnaire::btnReservationClick); }
 
 void TFrmMain::FermerEcran() {
-  const TForm* ecran = Panneau.Courante();
-  enSuspens_ = ecran != nullptr ? ecran->EnSuspens() : QString();
+  enSuspens_ = Panneau.EnSuspens();
   Panneau.Vider();
   accueilDevant_ = false;
   outils_ = 0;
