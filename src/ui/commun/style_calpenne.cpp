@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOption>
+#include <QTabBar>
 #include <QTextEdit>
 #include <algorithm>
 
@@ -61,7 +62,8 @@ void StyleCalpenne::drawPrimitive(PrimitiveElement element, const QStyleOption* 
       return Bouton(*peintre, *option,
                     option->state & State_AutoRaise ? TGenreBouton::Discret : TGenreBouton::Simple);
     case PE_FrameFocusRect:
-      return Foyer(*peintre, *option, widget);
+      // A tab's ring stands around the tab, by the style sheet; here it would strike its text through.
+      return qobject_cast<const QTabBar*>(widget) ? void() : Foyer(*peintre, *option, widget);
     case PE_IndicatorCheckBox:
     case PE_IndicatorItemViewItemCheck:
       return Case(*peintre, *option);
