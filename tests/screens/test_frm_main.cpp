@@ -304,7 +304,7 @@ TEST_F(FrmMain, FirstUseUntilThereArePupils) {
   for (const TEtapeAccueil& e : Main.Etapes())
     etapes += e.Titre + (e.Faite ? u" faite" : u"") + (e.Prochaine ? u" prochaine" : u"");
   EXPECT_EQ(etapes, (QStringList{"Année scolaire faite", "Mon école faite", "Importation", "Services",
-                                 "Frais prochaine"}))
+                                 "Paramètres", "Frais prochaine"}))
       << "the next step is the first one whose screen there is";
   Main.Executer(TGestionnaire::AdvGlowButton16Click);
   EXPECT_FALSE(Main.PremiereUtilisation());
@@ -340,7 +340,9 @@ TEST_F(FrmMain, WhatIsLeftOfAYearStaysWithinReach) {
   Ecole();
   TEcoleEssai ecole(Base);
   ecole.parametre(1, u"École"_s);
-  ecole.tarif(Essai::Matin, Essai::TousLesJours, u"07:00"_s, u"08:00"_s, Essai::Forfait, u"1"_s,
+  ecole.parametre(10, u"Merci."_s);
+  for (const int prix : {101, 102}) ecole.parametre(prix, {});
+  ecole.tarif(Essai::FamilleRepas, Essai::TousLesJours, u"12:00"_s, u"13:00"_s, Essai::Forfait, u"1"_s,
               Essai::ScanPresence);
   Main.Montrer();
   EXPECT_TRUE(Main.PremiereUtilisation()) << "a new year without fees";
@@ -348,6 +350,9 @@ TEST_F(FrmMain, WhatIsLeftOfAYearStaysWithinReach) {
   EXPECT_TRUE(Main.PremiereUtilisation()) << "no pupil there";
   ecole.frais(u"Piscine"_s, u"10"_s, 10);
   Main.mnuAnneeClick(2016);
+  const TEtapeAccueil reglages = Main.Etapes()[4];
+  ASSERT_FALSE(reglages.Faite) << "its meals would cost nothing";
+  Main.EcarterClick(reglages);
   EXPECT_FALSE(Main.ResteAFaire());
 }
 

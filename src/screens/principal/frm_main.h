@@ -16,10 +16,11 @@ struct TEtapeAccueil {
   QString Explication;
   QString Bouton;
   bool Faite;
-  bool Possible;           ///< its screen can be opened
-  QString RaisonInactive;  ///< why not, or ""
-  bool Prochaine;          ///< the first one that is left and possible
-  QString Ecarter = {};    ///< caption of what does without the step in this year; "" for nothing
+  bool Possible;               ///< its screen can be opened
+  QString RaisonInactive;      ///< why not, or ""
+  bool Prochaine;              ///< the first one that is left and possible
+  QString Ecarter = {};        ///< caption of what does without the step in this year; "" for nothing
+  QString ReglageEcarte = {};  ///< the workstation's setting that keeps that year
 };
 
 /// The main window: pages and commands, the pupil tree and its search, the menu of years, and the
@@ -99,7 +100,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   std::vector<TEtapeAccueil> Etapes() const;
   void EtapeClick(const TEtapeAccueil& etape);
   /// The working year does without fees: this workstation asks for them no more.
-  void SansFraisClick();
+  void EcarterClick(const TEtapeAccueil& etape);
 
   // State.
   /// A year is on display.
@@ -174,7 +175,9 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   TEtapeAccueil EtapeDe(TGestionnaire gestionnaire, const QString& explication, const QString& bouton,
                         bool faite) const;
   void ChoisirPremiereAnnee();
+  TEtapeAccueil EtapeReglages() const;
   TEtapeAccueil EtapeFrais() const;
+  bool EstEcartee(const QString& reglage) const;
   bool EstBureau() const;
   void OuvrirNoeud(TNoeud& noeud);
   void LaisserEleve();

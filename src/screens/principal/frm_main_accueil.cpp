@@ -3,13 +3,26 @@
 #include <algorithm>
 
 #include "screens/principal/frm_main.h"
+#include "services/tarifs_garderies.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int kPremiereAnnee = 2000;
+// The year in which the school does without the step, among the workstation's settings.
 const QString kAnneeSansFrais = u"AnneeSansFrais"_s;
+const QString kAnneeSansReglages = u"AnneeSansReglages"_s;
+
+/// A meal costs what the settings say, whatever its tariff: it must not be free by an oversight.
+bool RepasSansPrix() {
+  if (std::ranges::any_of(Globals.Presences->Regles.PrixRepas,
+                          [](Currency prix) { return prix != Currency(); }))
+    return false;
+  for (const TTarifGarderie& tarif : *Globals.TarifsGarderies)
+    if (tarif.TypeFamille == TTypeFamille::Repas) return true;
+  return false;
+}
 
 /// "2026" or "2026 - 2027"; 0 for a text that is no school year, or one too far away to be meant.
 int AnneeDuTexte(const QString& texte, int proposee) {
@@ -72,6 +85,7 @@ std::vector<TEtapeAccueil> TFrmMain::Etapes() const {
               u"Importer les élèves"_s, Globals.Eleves->Count() > 0),
       EtapeDe(AdvGlowButton5Click, u"Horaires et tarifs des garderies, de l'étude et des repas."_s,
               u"Encoder les tarifs"_s, Globals.TarifsGarderies->Count() > 0),
+      EtapeReglages(),
       EtapeFrais(),
   };
   const auto prochaine =
@@ -80,23 +94,45 @@ std::vector<TEtapeAccueil> TFrmMain::Etapes() const {
   return etapes;
 }
 
+bool TFrmMain::EstEcartee(const QString& reglage) const {
+  return reglages_.Lire(TRacine::Utilisateur, reglage).toInt() == Globals.AnneeScolaire;
+}
+
+// Without a communication on the invoices no transfer finds its pupil.
+TEtapeAccueil TFrmMain::EtapeReglages() const {
+  const bool donnes =
+      !Globals.Parametres->GetParametre(TParam::CommunicationFacture).trimmed().isEmpty() && !RepasSansPrix();
+  const bool sans = !donnes && EstEcartee(kAnneeSansReglages);
+  TEtapeAccueil etape =
+      EtapeDe(TGestionnaire::AdvGlowButton6Click,
+              u"Communication des factures, à laquelle la banque reconnaît l'élève, et prix des repas."_s,
+              u"Ouvrir"_s, donnes || sans);
+  if (!etape.Faite) {
+    etape.Ecarter = u"S'en passer cette année"_s;
+    etape.ReglageEcarte = kAnneeSansReglages;
+  }
+  return etape;
+}
+
 // Not every school has fees every year.
 TEtapeAccueil TFrmMain::EtapeFrais() const {
   const bool encodes = Globals.ListeFrais->Count() > 0;
-  const bool sans =
-      !encodes && reglages_.Lire(TRacine::Utilisateur, kAnneeSansFrais).toInt() == Globals.AnneeScolaire;
+  const bool sans = !encodes && EstEcartee(kAnneeSansFrais);
   TEtapeAccueil etape =
       EtapeDe(TGestionnaire::AdvGlowButton16Click,
               sans ? u"Cette année se passe sans frais scolaires. Vous pouvez en encoder à tout moment."_s
                    : u"Frais scolaires de l'année : photocopies, natation, excursions."_s,
               u"Encoder les frais"_s, encodes || sans);
-  if (!etape.Faite) etape.Ecarter = u"Pas de frais cette année"_s;
+  if (!etape.Faite) {
+    etape.Ecarter = u"Pas de frais cette année"_s;
+    etape.ReglageEcarte = kAnneeSansFrais;
+  }
   return etape;
 }
 
-void TFrmMain::SansFraisClick() {
-  reglages_.Ecrire(TRacine::Utilisateur, kAnneeSansFrais, QString::number(Globals.AnneeScolaire));
-  Etat(TNiveauEtat::Succes, u"Année " % AnneeEnTexte(Globals.AnneeScolaire) % u" sans frais scolaires");
+void TFrmMain::EcarterClick(const TEtapeAccueil& etape) {
+  reglages_.Ecrire(TRacine::Utilisateur, etape.ReglageEcarte, QString::number(Globals.AnneeScolaire));
+  Etat(TNiveauEtat::Succes, u"Année " % AnneeEnTexte(Globals.AnneeScolaire) % u" : " % etape.Ecarter);
   Annoncer();
 }
 

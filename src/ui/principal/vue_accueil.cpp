@@ -25,11 +25,11 @@ QFont Chapeau() {
 class VueAccueil::Ligne : public QWidget {
  public:
   Ligne(TFrmMain& form, const TEtapeAccueil& etape, int numero)
-      : premiere_(numero == 1),
-        icone_(etape.Icone),
+      : etape_(etape),
+        premiere_(numero == 1),
         etat_(new MarqueEtat),
         bouton_(BoutonSimple(etape.Bouton)),
-        ecarter_(BoutonDiscret({})) {
+        ecarter_(BoutonSimple({})) {
     auto* titre =
         new Etiquette(QString::number(numero) % u".  " % etape.Titre, TRole::Texte, &Theme::TitreSection);
     explication_ = new Etiquette(etape.Explication, TRole::Secondaire);
@@ -48,13 +48,13 @@ class VueAccueil::Ligne : public QWidget {
     etat_->setFixedWidth(Theme::Px(108));
     bouton_->setMinimumWidth(Theme::Px(176));
     bouton_->setAccessibleName(etape.Titre % u" : " % etape.Bouton);
-    connect(bouton_, &QPushButton::clicked, this, [&form, etape] { form.EtapeClick(etape); });
-    connect(ecarter_, &QPushButton::clicked, this, [&form] { form.SansFraisClick(); });
+    connect(bouton_, &QPushButton::clicked, this, [&form, this] { form.EtapeClick(etape_); });
+    connect(ecarter_, &QPushButton::clicked, this, [&form, this] { form.EcarterClick(etape_); });
   }
 
   void Actualiser(const TEtapeAccueil& etape) {
+    etape_ = etape;
     explication_->setText(etape.Explication);
-    faite_ = etape.Faite;
     etat_->Definir(etape.Faite ? u"dialog-ok-apply"_s : u"data-information"_s,
                    etape.Faite ? u"Fait"_s : u"À faire"_s);
     DefinirGenre(*bouton_, etape.Prochaine ? TGenreBouton::Principal : TGenreBouton::Simple);
@@ -62,32 +62,29 @@ class VueAccueil::Ligne : public QWidget {
     bouton_->setToolTip(etape.RaisonInactive);
     ecarter_->setText(etape.Ecarter);
     ecarter_->setVisible(!etape.Ecarter.isEmpty());
-    prochaine_ = etape.Prochaine;
     update();
   }
 
-  bool EstProchaine() const { return prochaine_; }
+  bool EstProchaine() const { return etape_.Prochaine; }
   QPushButton* Bouton() const { return bouton_; }
 
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter peintre(this);
     const int cote = Theme::Px(kIcone);
-    Theme::Icone(icone_, faite_ ? TRole::Secondaire : TRole::Accent)
+    Theme::Icone(etape_.Icone, etape_.Faite ? TRole::Secondaire : TRole::Accent)
         .paint(&peintre, 0, (height() - cote) / 2, cote, cote);
     peintre.setPen(Theme::Ligne());
     if (!premiere_) peintre.drawLine(0, 0, width(), 0);
   }
 
  private:
+  TEtapeAccueil etape_;
   bool premiere_;
-  QString icone_;
   Etiquette* explication_ = nullptr;
   MarqueEtat* etat_;
   QPushButton* bouton_;
   QPushButton* ecarter_;
-  bool faite_ = false;
-  bool prochaine_ = false;
 };
 
 VueAccueil::VueAccueil(TFrmMain& form, QWidget* parent)
