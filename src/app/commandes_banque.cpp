@@ -1,7 +1,6 @@
 // The bank's file, and the movements of the year.
 #include "app/commandes.h"
 #include "app/csv.h"
-#include "core/accord.h"
 #include "core/fichiers.h"
 #include "core/formats.h"
 #include "payments/communication_structuree.h"
@@ -30,8 +29,7 @@ int ReleveSec(const TSession& session) {
 void ProposerDejaImportes(TImportVirements& import, IDialogues& dialogues) {
   const int nombre = import.NombreDejaImportes();
   if (nombre == 0 || !dialogues.ConfirmerGrave(
-                         Compter(nombre, u"mouvement est peut-être déjà importé"_s,
-                                 u"mouvements sont peut-être déjà importés"_s) %
+                         TexteDejaImportes(nombre) %
                          u" : même jour, même montant et même compte qu'un autre.\nMémoriser quand même ?"))
     return;
   for (int i = 0; i < static_cast<int>(import.Rangees().size()); ++i) import.Cocher(i, true);

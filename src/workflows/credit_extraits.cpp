@@ -73,6 +73,12 @@ std::unordered_map<int, std::vector<TAttribution>> LireAttributions(TDataModule1
   return attributions;
 }
 
+// What a group has received is read once: a payment to it is another list.
+void RelireGroupes(int groupeFraisId) {
+  if (groupeFraisId > 0)
+    Globals.GroupesFrais = std::make_unique<TGroupesFrais>(Globals.Eleves->BaseDeDonnees());
+}
+
 bool CrediterEleve(const TAttribution& attribution, const TExtrait& extrait, int groupeFraisId,
                    const QString& libelle) {
   TEleve* eleve = Globals.Eleves->TrouverParId(attribution.EleveId);
@@ -87,8 +93,6 @@ bool CrediterEleve(const TAttribution& attribution, const TExtrait& extrait, int
   nouveau->TypeFamilleFrais = attribution.Famille;
   nouveau->GroupeFraisId = groupeFraisId;
   Memoriser(*frais, std::move(nouveau));
-  // What a group has received is read once: a payment to it is another list.
-  if (groupeFraisId > 0)
-    Globals.GroupesFrais = std::make_unique<TGroupesFrais>(Globals.Eleves->BaseDeDonnees());
+  RelireGroupes(groupeFraisId);
   return true;
 }

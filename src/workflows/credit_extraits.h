@@ -24,6 +24,10 @@ QString LibelleVirement(const TExtrait& extrait);
 /// out. Raises Exception.
 std::unordered_map<int, std::vector<TAttribution>> LireAttributions(TDataModule1& base);
 
+/// What the payment groups have received is read again, as a payment to that one has come or gone; 0 for
+/// none.
+void RelireGroupes(int groupeFraisId);
+
 /// Gives a stored movement to a pupil of the year on display: one payment of its whole amount, saved at
 /// once. False, and nothing done, without such a pupil and for a movement that some pupil has already.
 /// Raises Exception when it cannot be saved.

@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "core/accord.h"
 #include "core/exceptions.h"
 #include "core/fichiers.h"
 #include "core/formats.h"
@@ -68,6 +69,11 @@ QString TexteParts(const TExtrait& extrait) {
   const Currency reste = Globals.Eleves->ResteExtrait(extrait.Id, extrait.Montant);
   if (!textes.isEmpty() && reste > Currency()) textes += u"reste " % FormatMontant(reste);
   return textes.join(u", "_s);
+}
+
+QString TexteDejaImportes(int nombre) {
+  return Compter(nombre, u"mouvement est peut-être déjà importé"_s,
+                 u"mouvements sont peut-être déjà importés"_s);
 }
 
 QString MessageOuverture(const QString& cause) {
@@ -184,8 +190,8 @@ void TImportVirements::Cocher(int rangee, bool coche) {
   choisie.Coche = coche && choisie.Etat == TEtatMouvement::DejaImporte;
 }
 
-void TImportVirements::Oublier(const TExtrait& extrait) {
-  std::erase_if(rangees_, [&](const TRangeeVirement& rangee) { return rangee.Extrait == &extrait; });
+void TImportVirements::Oublier(const TExtrait* extrait) {
+  std::erase_if(rangees_, [&](const TRangeeVirement& rangee) { return rangee.Extrait == extrait; });
 }
 
 void TImportVirements::Situer(TRangeeVirement& rangee) {
@@ -274,7 +280,7 @@ void TImportVirements::Crediter(TProgression& progression) {
           .arg(bilan.Inconnus);
   if (!compacte) statut_ += u"\n%1 mouvements sont des régularisations."_s.arg(bilan.Regularisations);
   if (const int dejaImportes = NombreDejaImportes(); dejaImportes > 0)
-    statut_ += u"\n%1 mouvements sont peut-être déjà importés."_s.arg(dejaImportes);
+    statut_ += u'\n' % TexteDejaImportes(dejaImportes) % u'.';
 }
 
 void TImportVirements::CrediterRangee(const TRangeeVirement& rangee, bool compacte, TBilan& bilan) const {

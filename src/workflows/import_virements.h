@@ -24,6 +24,9 @@ TEtatMouvement EtatExtrait(const TExtrait& extrait);
 /// 8,00 €, reste 4,00 €"; "" for one that was given whole.
 QString TexteParts(const TExtrait& extrait);
 
+/// "3 mouvements sont peut-être déjà importés"
+QString TexteDejaImportes(int nombre);
+
 /// A row of the preview.
 struct TRangeeVirement {
   TMouvement Lu;
@@ -58,8 +61,8 @@ class TImportVirements {
   int NombreDejaImportes() const;
   /// Ticks such a row, so that step 2 stores it, or takes the tick away.
   void Cocher(int rangee, bool coche);
-  /// Leaves out the rows of a stored movement that is about to leave the year.
-  void Oublier(const TExtrait& extrait);
+  /// Leaves out the rows of a stored movement that leaves the year, or has left it: only its place counts.
+  void Oublier(const TExtrait* extrait);
 
   const std::vector<TRangeeVirement>& Rangees() const { return rangees_; }
   /// The row that ended the reading.

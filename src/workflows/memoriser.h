@@ -2,6 +2,12 @@
 #include "core/distributor.h"
 #include "core/exceptions.h"
 
+/// Raises EDistributor when a save has left the object without a row, as its key could not be had.
+inline void ExigerCle(const TBaseObject& objet) {
+  if (objet.Status == TStatus::Nouveau)
+    throw EDistributor(QStringLiteral("Aucun numéro n'a pu être donné à ce qui devait être mémorisé."));
+}
+
 /// Adds an object and saves at once. One that cannot be stored leaves again, so that no later save meets it;
 /// raises EDistributor then.
 template <class T>
@@ -9,8 +15,7 @@ T& Memoriser(TCollection<T>& collection, std::unique_ptr<T> objet) {
   T& place = collection.Add(std::move(objet));
   try {
     collection.Save();
-    if (place.Status == TStatus::Nouveau)
-      throw EDistributor(QStringLiteral("Aucun numéro n'a pu être donné à ce qui devait être mémorisé."));
+    ExigerCle(place);
   } catch (const EDistributor&) {
     collection.Remettre();
     throw;

@@ -47,7 +47,7 @@ std::vector<QSet<QString>> Adultes(const TEleve& eleve) {
 
 }  // namespace
 
-TPropositions::TPropositions(const TEleves& eleves) : eleves_(eleves) {
+TPropositions::TPropositions(TEleves& eleves) : eleves_(eleves) {
   std::vector<TEleve*> tous;
   for (TEleve& eleve : eleves_) tous.push_back(&eleve);
   eleves_.LireFrais(tous);
@@ -80,18 +80,20 @@ bool TPropositions::Public(const QString& compte) const {
 }
 
 std::vector<TProposition> TPropositions::Pour(const TExtrait& extrait) {
-  if (extrait.Montant <= Currency() || Public(Compte(extrait.NumCptDonneur))) return {};
+  const Currency reste = eleves_.ResteExtrait(extrait.Id, extrait.Montant);
+  if (reste <= Currency() || Public(Compte(extrait.NumCptDonneur))) return {};
   std::vector<TProposition> propositions;
   for (const TConnu& connu : connus_) {
     QStringList raisons;
-    const int force = Force(connu, extrait, raisons);
+    const int force = Force(connu, extrait, reste, raisons);
     if (force > 0) propositions.push_back({connu.Eleve, raisons.join(u", "_s), force});
   }
   std::ranges::stable_sort(propositions, std::greater(), &TProposition::Force);
   return propositions;
 }
 
-int TPropositions::Force(const TConnu& connu, const TExtrait& extrait, QStringList& raisons) const {
+int TPropositions::Force(const TConnu& connu, const TExtrait& extrait, Currency reste,
+                         QStringList& raisons) const {
   int force = 0;
   const auto ajouter = [&](int poids, const QString& raison) {
     force += poids;
@@ -101,7 +103,7 @@ int TPropositions::Force(const TConnu& connu, const TExtrait& extrait, QStringLi
   if (!compte.isEmpty() && connu.Compte == compte) ajouter(kCompte, u"compte de l'élève"_s);
   if (const auto payes = comptes_.find(compte); payes != comptes_.end())
     if (payes->second.contains(connu.Eleve->Id)) ajouter(kMouvements, u"a déjà payé par ce compte"_s);
-  if (connu.Du == extrait.Montant) ajouter(kSolde, u"doit %1"_s.arg(FormatMontant(connu.Du)));
+  if (connu.Du == reste) ajouter(kSolde, u"doit %1"_s.arg(FormatMontant(connu.Du)));
   const QSet<QString> donneur = Mots(extrait.DonneurOrdre);
   if (std::ranges::any_of(connu.Adultes, [&](const auto& nom) { return donneur.contains(nom); }))
     ajouter(kNom, u"nom d'un adulte"_s);

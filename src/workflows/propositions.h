@@ -13,14 +13,16 @@ struct TProposition {
 };
 
 /// Whose payment an unknown movement may be: by the account of the pupil, by earlier movements of that
-/// account, by what is owed, by the name of an adult. It reads the school once and is meant for a short time.
+/// account, by what is owed, which is
+/// compared with what is left of the movement, by the name of an adult. It reads the school once and is meant
+/// for a short time.
 class TPropositions {
  public:
   /// The pupils of the year on display; they outlive it. Raises Exception.
-  explicit TPropositions(const TEleves& eleves);
+  explicit TPropositions(TEleves& eleves);
 
-  /// The strongest first. None for what the school pays, and for an account of more than four pupils: that
-  /// is a public service, which pays for anybody.
+  /// The strongest first. None for what the school pays, for what was given whole, and for an account of more
+  /// than four pupils: that is a public service, which pays for anybody.
   std::vector<TProposition> Pour(const TExtrait& extrait);
   /// The pupil has just been given something of that movement.
   void Apprendre(const TExtrait& extrait, const TEleve& eleve);
@@ -40,9 +42,9 @@ class TPropositions {
 
   void LireComptes();
   bool Public(const QString& compte) const;
-  int Force(const TConnu& connu, const TExtrait& extrait, QStringList& raisons) const;
+  int Force(const TConnu& connu, const TExtrait& extrait, Currency reste, QStringList& raisons) const;
 
-  const TEleves& eleves_;
+  TEleves& eleves_;
   std::vector<TConnu> connus_;
   std::unordered_map<QString, TPayes> comptes_;
 };

@@ -4,9 +4,12 @@
 #include <numeric>
 
 #include "application/globals.h"
+#include "core/curseur.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "core/transaction_commune.h"
+#include "workflows/credit_extraits.h"
+#include "workflows/memoriser.h"
 
 using namespace Qt::StringLiterals;
 
@@ -60,7 +63,10 @@ class TLignesParts {
   }
   void Ranger(TDataModule1& base) {
     TTransactionCommune ensemble(base);
-    for (const auto& [lignes, ligne] : posees_) lignes->Save();
+    for (const auto& [lignes, ligne] : posees_) {
+      lignes->Save();
+      ExigerCle(*ligne);
+    }
     ensemble.Valider();
     posees_.clear();
   }
@@ -111,6 +117,24 @@ QString FauteParts(const TExtrait& extrait, const std::vector<TPartVirement>& pa
                                                                                   FormatMontant(reste));
 }
 
+QString RefusMouvement(const TFraisEleve& paiement, Currency enPlus) {
+  const bool range = paiement.Id > 0;
+  if (paiement.ExtraitId < 1 || (range && enPlus <= Currency())) return {};
+  Globals.Eleves->ChargerExtraits = true;
+  const std::vector<TPartExtrait>& parts = Globals.Eleves->PartsExtrait(paiement.ExtraitId);
+  const std::ptrdiff_t autres = std::ssize(parts) - (range ? 1 : 0);
+  const bool donne = autres > 0 && (!paiement.FlgPart || !std::ranges::all_of(parts, &TPartExtrait::FlgPart));
+  if (donne) return u"Le mouvement de la banque a été attribué autrement entre-temps."_s;
+  if (!paiement.FlgPart) return {};
+  TCurseur ligne(Globals.Eleves->BaseDeDonnees(), u"SELECT MONTANT FROM EXTRAITS WHERE EXTRAIT_ID = ?"_s,
+                 {paiement.ExtraitId});
+  if (!ligne.Suivant()) return u"Le mouvement de la banque n'existe plus."_s;
+  const Currency reste = Globals.Eleves->ResteExtrait(paiement.ExtraitId, ligne.Montant("MONTANT"));
+  if (enPlus <= reste) return {};
+  return u"Il ne reste que %1 de ce mouvement de la banque : il manque %2."_s.arg(
+      FormatMontant(reste), FormatMontant(enPlus - reste));
+}
+
 // Another workstation may have given it to somebody since it was shown.
 void CrediterParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts, const QString& libelle) {
   Globals.Eleves->ChargerExtraits = true;
@@ -120,4 +144,5 @@ void CrediterParts(const TExtrait& extrait, const std::vector<TPartVirement>& pa
     lignes.Poser(*part.Eleve->GetAllFrais(), LignePart(extrait, part, libelle));
   lignes.Ranger(Globals.Eleves->BaseDeDonnees());
   Globals.Eleves->ChargerExtraits = true;
+  for (const TPartVirement& part : parts) RelireGroupes(part.GroupeFraisId);
 }

@@ -27,5 +27,9 @@ std::vector<TPartVirement> ProposerParts(const TExtrait& extrait, const std::vec
 /// Why these parts cannot be stored, in French; "" when they can. They may leave something over.
 QString FauteParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts);
 
+/// Why the payment of a movement cannot take that much more of it, in French; "" when it can. Read again, as
+/// another workstation may have given it meanwhile; a payment that has no row yet takes all that it has.
+QString RefusMouvement(const TFraisEleve& paiement, Currency enPlus);
+
 /// Stores a payment for each part, all or none. Raises Exception, with the reason, when they cannot be.
 void CrediterParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts, const QString& libelle);

@@ -7,6 +7,7 @@
 #include "screens/attendance/frm_ajout_releve.h"
 #include "screens/payments/frm_attribution_compte.h"
 #include "screens/payments/frm_date_paiement.h"
+#include "screens/payments/frm_paiement.h"
 
 using TSignaletique = TSignaletiqueEssai;
 
@@ -214,7 +215,8 @@ TEST_F(TSignaletique, CeQuiEstRefuseNeSePerdPasEnSilence) {
   EXPECT_TRUE(fiche.AccepteDeFermer());
 }
 
-// A payment of the bank frees its movement when it goes, and takes it again when it comes back.
+// A payment of the bank frees its movement when it goes, and takes it again when it comes back, or is made
+// more, unless another has it by then.
 TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
   base.Sql(
       u"INSERT INTO EXTRAITS (EXTRAIT_ID, DATE_VIREMENT, MONTANT, DONNEUR_ORDRE, NUM_CPT_DONNEUR, "
@@ -230,8 +232,49 @@ TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
   fiche.Frais.Grille.ChoisirLigne(fiche.Frais.Grille.NombreLignes() - 1);
   base.Dialogues.Repond(u"Confirmez-vous la suppression du paiement de 30,00 euros (Acompte)"_s, true);
   EXPECT_TRUE(faire([&] { fiche.SpeedButton2Click(); }));
-  EXPECT_TRUE(faire([&] { fiche.Retablir(); }));
-  EXPECT_EQ(base.Valeur(u"SELECT EXTRAIT_ID FROM FRAIS_ELEVE WHERE REMARQUE = 'Acompte'"_s), u"5");
+  const QString payes = u"SELECT ELEVE_ID, MONTANT_VERSE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 5 ORDER BY 1"_s;
+  vide.paie(u"20"_s, 0, 0, u"Ailleurs"_s);
+  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 5, FLG_PART = 1 WHERE REMARQUE = 'Ailleurs'"_s);
+  base.Dialogues.Attend(u"Le mouvement de la banque a été attribué autrement entre-temps."_s);
+  fiche.Retablir();
+  EXPECT_EQ(base.Rangees(payes), QStringList{u"2;20.0000"_s});
+  base.Sql(u"DELETE FROM FRAIS_ELEVE WHERE REMARQUE = 'Ailleurs'"_s);
+  EXPECT_TRUE(faire([&] { fiche.Retablir(); })) << "refused, it can be asked again";
+  EXPECT_EQ(base.Rangees(payes), QStringList{u"1;30.0000"_s});
+
+  base.Sql(u"UPDATE FRAIS_ELEVE SET FLG_PART = 1, MONTANT_VERSE = 12 WHERE EXTRAIT_ID = 5"_s);
+  vide.paie(u"15"_s, 0, 0, u"Ailleurs"_s);
+  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 5, FLG_PART = 1 WHERE REMARQUE = 'Ailleurs'"_s);
+  TFrmSignaletique& relue = Ouvrir(rose);
+  for (const QString& montant : {u"15,01"_s, u"15"_s}) {
+    relue.Frais.Grille.ChoisirLigne(relue.Frais.Grille.NombreLignes() - 1);
+    monde.SurModale = [&](TForm& form) {
+      auto& saisie = dynamic_cast<TFrmPaiement&>(form);
+      saisie.Champs().Taper(saisie.Champs().Indice(u"edMontant"_s), montant);
+      saisie.Valider();
+    };
+    if (montant != u"15")
+      base.Dialogues.Attend(u"Il ne reste que 3,00 € de ce mouvement de la banque : il manque 0,01 €."_s);
+    relue.grdListeFraisDblClick();
+  }
+  EXPECT_EQ(base.Rangees(payes), (QStringList{u"1;15.0000"_s, u"2;15.0000"_s}));
+  EXPECT_TRUE(Globals.Eleves->ChargerExtraits);
+}
+
+TEST_F(TSignaletique, SansCleRienNestDitEnregistre) {
+  TFrmSignaletique& fiche = Ouvrir(rose);
+  const int lignes = fiche.Frais.Grille.NombreLignes();
+  base.Sql(u"DELETE FROM COUNTERS WHERE TABLE_NAME = 'FRAIS_ELEVE'"_s);
+  monde.SurModale = [](TForm& form) {
+    auto& saisie = dynamic_cast<TFrmPaiement&>(form);
+    saisie.Champs().Taper(saisie.Champs().Indice(u"edMontant"_s), u"5"_s);
+    saisie.Valider();
+  };
+  base.Dialogues.Attend(u"Le compteur de table FRAIS_ELEVE n'existe pas !"_s)
+      .Attend(u"Aucun numéro n'a pu être donné à ce qui devait être mémorisé."_s);
+  fiche.SpeedButton1Click();
+  EXPECT_EQ(monde.Etats.last(), u"Non enregistré");
+  EXPECT_EQ(fiche.Frais.Grille.NombreLignes(), lignes);
 }
 
 TEST_F(TSignaletique, LaPhotoEstDroiteEtNiTropGrandeNiUnTexte) {

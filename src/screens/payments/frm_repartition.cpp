@@ -19,7 +19,6 @@ TFrmRepartition::TFrmRepartition(TContexteEcran& contexte, const TExtrait& extra
       extrait_(extrait),
       commun_(commun),
       propositions_(propositions),
-      aRepartir_(Globals.Eleves->ResteExtrait(extrait.Id, extrait.Montant)),
       champs_(Table(), TChamps::Aussitot) {
   champs_.SurEnregistrer = [this](const TChamp&) { tape_ = true; };
   liens_ += Parts.SurChoix.Suivre([this] { MontrerPart(); });
@@ -40,11 +39,15 @@ TTableChamps<TPartVirement> TFrmRepartition::Table() {
 
 QString TFrmRepartition::Titre() const {
   const QString de = extrait_.DonneurOrdre.isEmpty() ? QString() : u", de " % extrait_.DonneurOrdre;
-  return FormatMontant(aRepartir_) % u" à répartir" % de % u", le " % FormatDate(extrait_.DateVirement);
+  return FormatMontant(ARepartir()) % u" à répartir" % de % u", le " % FormatDate(extrait_.DateVirement);
+}
+
+Currency TFrmRepartition::ARepartir() const {
+  return Globals.Eleves->ResteExtrait(extrait_.Id, extrait_.Montant);
 }
 
 Currency TFrmRepartition::Reste() const {
-  Currency reste = aRepartir_;
+  Currency reste = ARepartir();
   for (const TPartVirement& part : parts_) reste -= part.Montant;
   return reste;
 }
@@ -117,10 +120,10 @@ void TFrmRepartition::btnRepartirClick() {
 // The amounts
 
 void TFrmRepartition::Repartir() {
-  std::vector<Currency> dus;
-  for (const TPartVirement& part : parts_) dus.push_back(SoldeDu(*part.Eleve));
-  const std::vector<Currency> montants = RepartirMontant(aRepartir_, dus);
-  for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i].Montant = montants[i];
+  std::vector<TEleve*> eleves;
+  for (const TPartVirement& part : parts_) eleves.push_back(part.Eleve);
+  const std::vector<TPartVirement> proposees = ProposerParts(extrait_, eleves);
+  for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i].Montant = proposees[i].Montant;
 }
 
 void TFrmRepartition::Remplir(const TEleve* courant) {
@@ -148,10 +151,13 @@ void TFrmRepartition::MontrerPart() {
 
 bool TFrmRepartition::btnValiderClick() {
   if (!champs_.QuitterTout()) return false;
+  std::vector<TPartVirement> parts = parts_;
+  std::erase_if(parts, [](const TPartVirement& part) { return part.Montant == Currency(); });
   try {
-    CrediterParts(extrait_, parts_, commun_.Libelle);
+    CrediterParts(extrait_, parts, commun_.Libelle);
   } catch (const Exception& e) {
     contexte_.Dialogues().Message(e.Message);
+    Annoncer();  // less may be left of the movement than before
     return false;
   }
   ResultatModal = TResultatModal::Valide;

@@ -39,11 +39,13 @@ class TFrmRepartition : public TForm {
   void btnRetirerClick();
   /// "Selon les soldes dus"
   void btnRepartirClick();
-  /// Stores the parts; false, after a message, when they cannot be.
+  /// Stores the parts that are more than nothing; false, after a message, when they cannot be.
   bool btnValiderClick();
 
  private:
   TTableChamps<TPartVirement> Table();
+  /// What nobody has of the movement.
+  Currency ARepartir() const;
   Currency Reste() const;
   QString Raison(const TEleve& eleve) const;
   void Repartir();
@@ -55,7 +57,6 @@ class TFrmRepartition : public TForm {
   const TExtrait& extrait_;
   const TCommunParts commun_;
   const std::vector<TProposition>& propositions_;
-  const Currency aRepartir_;
   std::vector<TPartVirement> parts_;
   bool tape_ = false;  // an amount was typed
   TChampsDe<TPartVirement> champs_;

@@ -59,10 +59,9 @@ QString TFrmVirement::EnSuspens() const {
 
 QString TFrmVirement::NoteApercu() const {
   const int nombre = import_.NombreDejaImportes();
-  return nombre == 0 ? QString()
-                     : QString(Compter(nombre, u"mouvement est peut-être déjà importé"_s,
-                                       u"mouvements sont peut-être déjà importés"_s) %
-                               u" : Espace coche ce qui doit être mémorisé quand même");
+  return nombre == 0
+             ? QString()
+             : QString(TexteDejaImportes(nombre) % u" : Espace coche ce qui doit être mémorisé quand même");
 }
 
 void TFrmVirement::Cocher(int ligne, bool coche) {

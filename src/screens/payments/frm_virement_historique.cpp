@@ -129,11 +129,11 @@ void TFrmVirement::RetirerCourante() {
 void TFrmVirement::AttribuerAnnee(int pas) {
   if (!ExigeMouvement()) return;
   TExtraits& extraits = contexte_.Controleur.Extraits();
-  TExtrait& extrait = *Courant();
-  const bool comptabilise = EstComptabilise(extrait);
+  TExtrait* const extrait = Courant();
+  const bool comptabilise = EstComptabilise(*extrait);
   const QString annee = AnneeEnTexte(extraits.AnneeScolaire + pas);
+  extraits.Deplacer(*extrait, extraits.AnneeScolaire + pas);  // refused, it stays where it is shown
   import_.Oublier(extrait);
-  extraits.Deplacer(extrait, extraits.AnneeScolaire + pas);
   Globals.ExtraitsPrecedents.reset();
   RetirerCourante();
   RemplirApercu();
@@ -174,7 +174,7 @@ bool TFrmVirement::Enregistrer(TExtrait& extrait, const QString& fait) {
     extraits.Save();
     if (!extraits.RangeesDisparues().empty()) {
       Historique.ChoisirLigne(-1);  // the movement ends with its row
-      import_.Oublier(extrait);
+      import_.Oublier(&extrait);
       throw Exception(u"Ce mouvement n'existe plus : un autre poste l'a supprimé."_s);
     }
     Signaler(TNiveauEtat::Succes, fait);

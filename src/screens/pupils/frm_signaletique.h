@@ -9,6 +9,7 @@
 #include "screens/pupils/frais_paiements.h"
 #include "screens/pupils/groupes_mois.h"
 #include "screens/pupils/releve_mensuel.h"
+#include "workflows/memoriser.h"
 
 struct TActiviteEleve;
 struct TFraisEleve;
@@ -126,12 +127,15 @@ class TFrmSignaletique : public TForm {
   void EnregistrerEleve(const TChamp& champ);
   void SauverEleve(TEleve& eleve);
   void DonnerCompte(TEleve& eleve, const QString& numero, const QString& titulaire);
-  /// Stores a collection and says what was done. False after the message of the database, or when another
-  /// workstation has deleted the row; memory is then what the table holds.
+  /// Stores a collection and says what was done. False after the message of the database, when a new row can
+  /// be given no key, or when another workstation has deleted the row; memory is then what the table holds.
   template <class T>
   bool Enregistrer(TCollection<T>& collection, const QString& fait) {
-    return Enregistrer(
-        collection, [&] { return !collection.RangeesDisparues().empty(); }, fait);
+    const auto disparue = [&] {
+      for (const T& objet : collection) ExigerCle(objet);
+      return !collection.RangeesDisparues().empty();
+    };
+    return Enregistrer(collection, disparue, fait);
   }
   bool Enregistrer(TDistributor& collection, const std::function<bool()>& disparue, const QString& fait);
   void MarquerMois(int groupe, const std::vector<int>& mois, bool coche);
@@ -144,7 +148,6 @@ class TFrmSignaletique : public TForm {
   void DireReleve(const TPresence& demande, bool garde, bool prolonge) const;
   void AjouterLigne(std::unique_ptr<TFraisEleve> ligne, const QString& fait);
   void Offrir(const QString& supprime, std::function<void()> retour);
-  void RelireGroupes(int groupe);
   void BasculerMois(TPaiement& mois);
   void BasculerFrais(TFraisEleve& frais);
   void Signaler(const QString& texte) const;

@@ -11,7 +11,9 @@
 #include "screens/payments/frm_paiement.h"
 #include "screens/pupils/frm_signaletique.h"
 #include "services/frais_eleve.h"
+#include "workflows/credit_extraits.h"
 #include "workflows/import_presences.h"
+#include "workflows/repartition.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,7 +53,7 @@ QString Jour(const TPresence& releve) { return FormatJour(releve.DateReleve); }
 
 void TFrmSignaletique::Retablir() {
   if (!PeutRetablir()) return;
-  const std::function<void()> faire = std::exchange(annulation_, {}).Faire;
+  const std::function<void()> faire = annulation_.Faire;  // what is stored ends it, what is refused does not
   faire();
 }
 
@@ -164,17 +166,14 @@ void TFrmSignaletique::SpeedButton1Click() {
 void TFrmSignaletique::AjouterLigne(std::unique_ptr<TFraisEleve> ligne, const QString& fait) {
   TAllFraisEleve* lignes = Globals.EleveCourant->GetAllFrais();
   if (lignes == nullptr) return;
+  if (const QString refus = RefusMouvement(*ligne, ligne->MontantVerse); !refus.isEmpty())
+    return contexte_.Dialogues().Message(refus);
   const int groupe = ligne->GroupeFraisId;
   if (ligne->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is taken
   lignes->Add(std::move(ligne));
   Enregistrer(*lignes, fait);
   RelireGroupes(groupe);
   RelireListes();
-}
-
-// What a group has received is read once: a payment to it is another list.
-void TFrmSignaletique::RelireGroupes(int groupe) {
-  if (groupe > 0) Globals.GroupesFrais = std::make_unique<TGroupesFrais>(contexte_.Controleur.Base());
 }
 
 void TFrmSignaletique::grdListeFraisDblClick() {
@@ -185,9 +184,12 @@ void TFrmSignaletique::grdListeFraisDblClick() {
         u"Seul un paiement introduit à la main se modifie ; Espace marque un frais ou un mois payé"_s);
   TFrmPaiement saisie(*paiement);
   if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
+  const QString refus = RefusMouvement(*paiement, saisie.Saisi.Montant - paiement->MontantVerse);
+  if (!refus.isEmpty()) return contexte_.Dialogues().Message(refus);
   const int groupe = paiement->GroupeFraisId;
   saisie.EcrireDans(*paiement);
   const int nouveau = paiement->GroupeFraisId;
+  if (paiement->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // it may have more of its movement
   TAllFraisEleve& lignes = *Globals.EleveCourant->GetAllFrais();
   lignes.Add(*paiement);
   Enregistrer(lignes, u"Paiement de " % FormatMontant(paiement->MontantVerse));

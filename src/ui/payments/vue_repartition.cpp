@@ -20,7 +20,6 @@ VueRepartition::VueRepartition(TFrmRepartition& form, QWidget* parent)
       parts_(new VueGrille(form.Parts, u"Parts"_s, u"Repartition/Parts"_s)),
       eleves_(new VueGrille(form.Eleves, u"Élèves de l'année"_s, u"Repartition/Eleves"_s)),
       reste_(new MarqueEtat) {
-  DefinirEntete(form_.Titre());
   Contenu()->addLayout(CreerParts());
   Contenu()->addLayout(CreerEleves(), 1);
   DefinirPrincipal(u"Répartir"_s, u"dialog-ok-apply"_s);
@@ -70,6 +69,7 @@ QLayout* VueRepartition::CreerEleves() {
 }
 
 void VueRepartition::Actualiser() {
+  DefinirEntete(form_.Titre());
   const bool sansPart = form_.Parts.NombreLignes() == 0;
   reste_->Definir(form_.DeTrop() ? TNiveauEtat::Erreur : TNiveauEtat::Neutre, form_.TexteReste());
   retirer_->setEnabled(!sansPart);
