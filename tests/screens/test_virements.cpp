@@ -1,6 +1,7 @@
 // The movements of the year, the file that brings them, and by hand whom they went to.
 #include <gtest/gtest.h>
 
+#include "core/exceptions.h"
 #include "screens/payments/frm_attribution_virement.h"
 #include "screens/payments/frm_repartition.h"
 #include "screens/payments/frm_virement.h"
@@ -58,6 +59,11 @@ class FrmVirement : public testing::Test {
   }
   QString Extrait(const QString& colonne, int id) {
     return Base.Valeur(u"SELECT %1 FROM EXTRAITS WHERE EXTRAIT_ID = %2"_s.arg(colonne).arg(id));
+  }
+  /// Payments of that pupil to the group.
+  static int Details(int eleve) {
+    TGroupeFrais::TDetails details;
+    return (*Globals.GroupesFrais)[0].DetailsPaiement(details, eleve);
   }
   /// In the dialog over the current row.
   void Attribuer(const std::function<void(TFrmAttributionVirement&)>& faire) {
@@ -132,6 +138,11 @@ TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
   Form->btnEtape1Click();
   ASSERT_EQ(Form->Apercu.NombreLignes(), 1);
   Form->Historique.ChoisirLigne(1);
+  Base.Sql(u"ALTER TABLE EXTRAITS ADD CONSTRAINT PAS_2017 CHECK (ANNEE_SCOLAIRE <> 2017)"_s);
+  EXPECT_THROW(Form->AnneeSuivanteClick(), Exception);
+  Form->Cocher(0, false);
+  EXPECT_EQ(Form->Apercu.NombreLignes() + Form->TotalEtape2(), 1 + 2) << "refused, it stays";
+  Base.Sql(u"ALTER TABLE EXTRAITS DROP CONSTRAINT PAS_2017"_s);
   Form->AnneeSuivanteClick();
   EXPECT_EQ(Extrait(u"ANNEE_SCOLAIRE"_s, b), u"2017");
   EXPECT_EQ(Form->Apercu.NombreLignes(), 0);
@@ -207,13 +218,12 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
                          "FROM FRAIS_ELEVE ORDER BY FRAIS_ELEVE_ID"_s),
             (QStringList{u"%1;2;0;2;1;Votre virement du 03/10/2016 (Classes de mer)"_s.arg(a),
                          u"%1;3;0;2;-;Votre virement du 04/10/2016"_s.arg(b)}));
-  TGroupeFrais::TDetails details;
-  EXPECT_EQ((*Globals.GroupesFrais)[0].DetailsPaiement(details, 2), 1) << "the group sees its payment";
+  EXPECT_EQ(Details(2), 1) << "the group sees its payment";
   EXPECT_EQ(Extrait(u"EXTRAIT_ID"_s, c), QString::number(c));
 }
 
-// Who stands out is chosen and given nothing until the button; a movement of several goes on as a part is
-// left.
+// Who stands out is proposed, not chosen, and given nothing until that is accepted; a movement of several
+// goes on as a part is left.
 TEST_F(FrmVirement, ProposedWithTheReasonAndSharedOut) {
   Base.Credit(Base.Mouvement(u"A"_s, 3), 3);
   const int b = Base.Mouvement(u"B"_s, 4), c = Base.Mouvement(u"C"_s, 5);
@@ -222,7 +232,10 @@ TEST_F(FrmVirement, ProposedWithTheReasonAndSharedOut) {
   QString reste;
   Ecran.SurModale = [&](TForm& form) {
     if (auto* parts = dynamic_cast<TFrmRepartition*>(&form)) {
-      if (reste.isEmpty()) parts->Ajouter(*Globals.Eleves->TrouverParId(1));
+      parts->Ajouter(*Globals.Eleves->TrouverParId(2));  // typed to nothing, it is left out
+      parts->Champs().Taper(0, u"0"_s);
+      EXPECT_TRUE(parts->Champs().Quitter(0));
+      parts->Ajouter(*Globals.Eleves->TrouverParId(1));
       parts->Champs().Taper(0, u"4"_s);
       EXPECT_TRUE(parts->Champs().Quitter(0));
       reste += parts->Parts.Texte(0, 0) % u' ' % parts->TexteReste() % u'|';
@@ -232,10 +245,18 @@ TEST_F(FrmVirement, ProposedWithTheReasonAndSharedOut) {
     auto& dialogue = dynamic_cast<TFrmAttributionVirement&>(form);
     EXPECT_EQ(dialogue.LUCombo1.Textes(0),
               (QStringList{u"LAMBERT Élise"_s, u"P3 A"_s, u"a déjà payé par ce compte"_s}));
-    EXPECT_EQ(dialogue.LUCombo1.LigneCourante(), 0);
+    EXPECT_EQ(dialogue.LUCombo1.LigneCourante(), -1);
+    EXPECT_EQ(dialogue.lblClasse(), QString());
     EXPECT_EQ(dialogue.LUCombo1.NombreLignes(), 3);
     dialogue.Button3Click();
+    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"C") << "without a choice it goes on";
+    dialogue.Button1Click();
+    EXPECT_EQ(dialogue.lblProposition(), u"Proposition : LAMBERT Élise (P3 A), a déjà payé par ce compte");
+    dialogue.btnAccepterClick();
+    EXPECT_EQ(Details(1), 0);
+    dialogue.Champs().Choisir(2, 1);
     dialogue.btnRepartirClick();  // of the last one, which stays
+    EXPECT_EQ(Details(1), 1) << "the group sees the part";
     EXPECT_TRUE(dialogue.Partiel());
     EXPECT_FALSE(dialogue.Actif());
     EXPECT_TRUE(dialogue.PeutRepartir());
@@ -306,6 +327,7 @@ TEST_F(FrmVirement, WhatIsPerhapsImportedIsStoredWhenTicked) {
   EXPECT_EQ(Form->EnSuspens(), QString());
   Form->btnEtape2Click();
   EXPECT_EQ(Form->lblTotal(), 1);
+  EXPECT_TRUE(Form->Statut().endsWith(u"\n1 mouvement est peut-être déjà importé."));
   Form->Cocher(0, true);
   EXPECT_EQ(Form->EnSuspens(), u"1 mouvement non mémorisé");
   Form->btnEtape2Click();

@@ -172,8 +172,25 @@ void TFrmAttributionVirement::ProposerEleves() {
     const int ligne = ajouter(*candidat.Eleve);
     if (choisi < 0 && candidat.Cle.startsWith(cherche)) choisi = ligne;
   }
-  const int evident = TPropositions::Evidente(propositions_) != nullptr ? 0 : -1;
-  LUCombo1.ChoisirLigne(cherche.isEmpty() ? evident : std::max(choisi, 0));
+  LUCombo1.ChoisirLigne(cherche.isEmpty() ? -1 : std::max(choisi, 0));
+}
+
+const TProposition* TFrmAttributionVirement::Proposition() const {
+  const bool libre = Actif() && EleveChoisi() == nullptr && saisieEleve_.trimmed().isEmpty();
+  return libre ? TPropositions::Evidente(propositions_) : nullptr;
+}
+
+QString TFrmAttributionVirement::lblProposition() const {
+  const TProposition* p = Proposition();
+  if (p == nullptr) return {};
+  return u"Proposition : %1 (%2), %3"_s.arg(p->Eleve->NomComplet(), p->Eleve->LibelleClasse(), p->Raison);
+}
+
+void TFrmAttributionVirement::btnAccepterClick() {
+  const TProposition* proposition = Proposition();
+  if (proposition == nullptr) return;
+  LUCombo1.ChoisirLigne(LUCombo1.TrouverObjet(proposition->Eleve));
+  Button3Click();
 }
 
 TEleve* TFrmAttributionVirement::EleveChoisi() const {
@@ -209,14 +226,15 @@ int TFrmAttributionVirement::Groupe() const {
   return idsGroupes_[static_cast<std::size_t>(std::max(saisie_.IndexGroupe, 0))];
 }
 
-// Those whom the account itself tells have a part each to begin with, and the one who is chosen.
+// Those whom the account itself tells have a part each to begin with, and the one who is chosen or proposed.
 void TFrmAttributionVirement::btnRepartirClick() {
   if (!PeutRepartir() || !champs_.Verifier()) return;
   champs_.EcrireDans(saisie_);
   TFrmRepartition repartition(contexte_, Extrait(), {saisie_.Libelle, saisie_.Famille, Groupe()},
                               propositions_);
   std::vector<TEleve*> avecPart = TPropositions::DuCompte(propositions_);
-  TEleve* choisi = EleveChoisi();
+  const TProposition* proposition = Proposition();
+  TEleve* choisi = proposition != nullptr ? proposition->Eleve : EleveChoisi();
   if (choisi != nullptr && std::ranges::find(avecPart, choisi) == avecPart.end()) avecPart.push_back(choisi);
   for (TEleve* eleve : avecPart) repartition.Ajouter(*eleve);
   if (contexte_.Modale.MontrerModal(repartition) != TResultatModal::Valide) return;

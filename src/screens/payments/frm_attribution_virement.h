@@ -41,9 +41,14 @@ class TFrmAttributionVirement : public TForm {
   const QString& SaisieEleve() const { return saisieEleve_; }
   /// The first name that begins so is chosen; else the first that holds it.
   void LUCombo1Change(const QString& texte);
-  /// By name, after those who may have paid, with the reason; the object of a row is its TEleve. The one who
-  /// stands out is chosen, and is given nothing by itself.
+  /// By name, after those who may have paid, with the reason; the object of a row is its TEleve. Nobody is
+  /// chosen before something is typed.
   TGrille LUCombo1;
+  /// "Proposition : LAMBERT Élise (P3 A), a déjà payé par ce compte": who stands out, while nobody is chosen
+  /// and nothing is typed; else "".
+  QString lblProposition() const;
+  /// Gives the movement to the one who is proposed; then on to the next movement.
+  void btnAccepterClick();
   /// Of the pupil who is chosen, or who has the movement.
   QString lblClasse() const;
 
@@ -82,6 +87,7 @@ class TFrmAttributionVirement : public TForm {
   void LireEleves();
   void ProposerEleves();
   void LirePropositions();
+  const TProposition* Proposition() const;
   QString Raison(const TEleve& eleve) const;
   int Groupe() const;
   void MontrerMouvement();

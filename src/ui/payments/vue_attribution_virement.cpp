@@ -43,6 +43,8 @@ VueAttributionVirement::VueAttributionVirement(TFrmAttributionVirement& form, QW
       eleves_(new VueGrille(form.LUCombo1, u"Élèves de l'année"_s, u"Attribution/Eleves"_s)),
       classe_(new Etiquette),
       valide_(new MarqueEtat),
+      proposition_(new Etiquette({}, TRole::Texte, &Theme::Gras)),
+      accepter_(BoutonSimple(u"A&ccepter"_s)),
       ajouter_(BoutonSimple(u"Ajouter le groupe au libellé"_s)) {
   DefinirEntete(u"Attribution manuelle des paiements aux élèves"_s);
   Contenu()->addLayout(CreerMouvement());
@@ -55,6 +57,7 @@ VueAttributionVirement::VueAttributionVirement(TFrmAttributionVirement& form, QW
       form_.LUCombo1Change(texte);  // emptied by its button
   });
   connect(eleves_, &VueGrille::Activee, this, [this] { Principal()->click(); });
+  connect(accepter_, &QPushButton::clicked, this, [this] { form_.btnAccepterClick(); });
   connect(ajouter_, &QPushButton::clicked, this, [this] { form_.btnAjoutLibelleClick(); });
   nom_->installEventFilter(this);
   liens_ += form_.SurChangement.Suivre([this] { Actualiser(); });
@@ -92,8 +95,23 @@ QLayout* VueAttributionVirement::CreerEleve() {
   auto* colonne = new QVBoxLayout;
   colonne->setSpacing(Theme::Px(8));
   colonne->addLayout(rang);
+  colonne->addLayout(CreerProposition());
   colonne->addWidget(eleves_, 1);
   return colonne;
+}
+
+// Its place stays while there is none, so that nothing moves from a movement to the next.
+QLayout* VueAttributionVirement::CreerProposition() {
+  accepter_->setToolTip(u"Attribuer à l'élève proposé (Entrée dans « Nom de l'élève »)"_s);
+  QSizePolicy place = accepter_->sizePolicy();
+  place.setRetainSizeWhenHidden(true);
+  accepter_->setSizePolicy(place);
+  proposition_->setWordWrap(true);
+  auto* rang = new QHBoxLayout;
+  rang->setSpacing(Theme::Px(8));
+  rang->addWidget(proposition_, 1);
+  rang->addWidget(accepter_);
+  return rang;
 }
 
 QLayout* VueAttributionVirement::CreerPaiement() {
@@ -128,6 +146,11 @@ bool VueAttributionVirement::Valider() {
   return false;
 }
 
+void VueAttributionVirement::reject() {
+  form_.Button4Click();
+  if (!form_.EstMontree()) DialogueBase::reject();
+}
+
 void VueAttributionVirement::Actualiser() {
   for (std::size_t i = 0; i < mouvement_.size(); ++i) mouvement_[i]->setText((form_.*kMouvement[i].Lire)());
   if (nom_->text() != form_.SaisieEleve()) nom_->setText(form_.SaisieEleve());
@@ -135,6 +158,8 @@ void VueAttributionVirement::Actualiser() {
        {static_cast<QWidget*>(nom_), static_cast<QWidget*>(eleves_), static_cast<QWidget*>(ajouter_)})
     champ->setEnabled(form_.Actif());
   classe_->setText(form_.lblClasse());
+  proposition_->setText(form_.lblProposition());
+  accepter_->setVisible(!proposition_->text().isEmpty());
   repartir_->setEnabled(form_.PeutRepartir());
   if (form_.Partiel())
     valide_->Definir(TNiveauEtat::Alerte, u"Attribué en partie"_s);
@@ -157,11 +182,16 @@ void VueAttributionVirement::Deplacer(int pas) {
   eleves_->MontrerLigne(form_.LUCombo1.LigneCourante());
 }
 
-// The arrows choose in the list while the hand goes on typing.
+// The arrows choose in the list while the hand goes on typing; Enter accepts who is proposed, and is the
+// primary button when nobody is.
 bool VueAttributionVirement::eventFilter(QObject* objet, QEvent* evenement) {
   if (objet != nom_ || evenement->type() != QEvent::KeyPress)
     return DialogueBase::eventFilter(objet, evenement);
   const int touche = static_cast<QKeyEvent*>(evenement)->key();
+  if ((touche == Qt::Key_Return || touche == Qt::Key_Enter) && !form_.lblProposition().isEmpty()) {
+    form_.btnAccepterClick();
+    return true;
+  }
   if (touche != Qt::Key_Down && touche != Qt::Key_Up) return false;
   Deplacer(touche == Qt::Key_Down ? 1 : -1);
   return true;

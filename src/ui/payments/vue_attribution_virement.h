@@ -20,11 +20,13 @@ class VueAttributionVirement : public DialogueBase {
 
  protected:
   bool Valider() override;
+  void reject() override;
   bool eventFilter(QObject* objet, QEvent* evenement) override;
 
  private:
   QLayout* CreerMouvement();
   QLayout* CreerEleve();
+  QLayout* CreerProposition();
   QLayout* CreerPaiement();
   void CreerBoutons();
   void Actualiser();
@@ -38,6 +40,8 @@ class VueAttributionVirement : public DialogueBase {
   VueGrille* eleves_;
   Etiquette* classe_;
   MarqueEtat* valide_;
+  Etiquette* proposition_;
+  QPushButton* accepter_;
   QPushButton* ajouter_;
   QPushButton* suivant_ = nullptr;
   QPushButton* repartir_ = nullptr;
