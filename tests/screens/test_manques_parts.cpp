@@ -38,7 +38,7 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
     auto& manques = dynamic_cast<TFrmManques&>(form);
     EXPECT_EQ(manques.Texte(), u"1 élève n'est pas imprimé tant qu'il manque ceci :");
     EXPECT_EQ(manques.Grille.Texte(1, 3), u"Imprimé sans");
-    (manques.*faire)();
+    if (faire != nullptr) (manques.*faire)();
   };
   const auto imprimer = [&] {
     imprimeur.Faire([](const TContexteDocument&) {
@@ -50,9 +50,8 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
     });
     return monde.Apercus.size();
   };
+  EXPECT_EQ(imprimer(), 0) << "given up";
   faire = &TFrmManques::btnAllerClick;
-  EXPECT_EQ(imprimer(), 0);
-  faire = &TFrmManques::btnAnnulerClick;
   EXPECT_EQ(imprimer(), 0);
   faire = &TFrmManques::btnImprimerClick;
   EXPECT_EQ(imprimer(), 1);

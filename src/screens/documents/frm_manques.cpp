@@ -42,10 +42,10 @@ void TFrmManques::btnAllerClick() {
   const int ligne = Grille.LigneCourante();
   if (ligne < 0 || !avecChamps_) return;
   choisi_ = &manques_[static_cast<std::size_t>(ligne)];
-  Finir(TResultatModal::Valide);
+  Valider();
 }
 
-void TFrmManques::Finir(TResultatModal resultat) {
-  ResultatModal = resultat;
+void TFrmManques::Valider() {
+  ResultatModal = TResultatModal::Valide;
   Fermer();
 }

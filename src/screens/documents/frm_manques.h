@@ -18,15 +18,14 @@ class TFrmManques : public TForm {
   TGrille Grille;  ///< a row each, with its place among them
 
   /// "Imprimer les autres"
-  void btnImprimerClick() { Finir(TResultatModal::Valide); }
-  void btnAnnulerClick() { Finir(TResultatModal::Annule); }
+  void btnImprimerClick() { Valider(); }
   /// "Aller à la fiche", of the current row.
   void btnAllerClick();
   /// What the user wants to see to; null for none.
   const TManque* Choisi() const { return choisi_; }
 
  private:
-  void Finir(TResultatModal resultat);
+  void Valider();
 
   const std::vector<TManque>& manques_;
   const bool imprimable_;

@@ -21,8 +21,3 @@ void TFrmTransfertTicket::btnValiderClick() {
   ResultatModal = choisi_ != nullptr ? TResultatModal::Valide : TResultatModal::Annule;
   Fermer();
 }
-
-void TFrmTransfertTicket::btnAnnulerClick() {
-  ResultatModal = TResultatModal::Annule;
-  Fermer();
-}

@@ -15,7 +15,6 @@ class TFrmTransfertTicket : public TForm {
   /// The pupil that was validated; null for none.
   TEleve* Choisi() const { return choisi_; }
   void btnValiderClick();
-  void btnAnnulerClick();
 
  private:
   TEleve* choisi_ = nullptr;
