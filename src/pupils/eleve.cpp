@@ -36,7 +36,10 @@ TDataModule1& TEleve::Base() const {
   return Eleves->BaseDeDonnees();
 }
 
+// A pupil who is enrolled twice in the year has one ledger, that of the first of the two.
 TAllFraisEleve* TEleve::GetAllFrais() const {
+  const TEleve* premier = Eleves != nullptr && Id != -1 ? Eleves->TrouverParId(Id) : nullptr;
+  if (premier != nullptr && premier != this) return premier->GetAllFrais();
   if (!allFrais_ && Eleves != nullptr && Id != -1 && !Eleves->HorsLigne)
     allFrais_ = std::make_unique<TAllFraisEleve>(Base(), Id, Eleves->AnneeScolaire, Eleves->ListeFrais);
   return allFrais_.get();
