@@ -56,7 +56,7 @@ class TControleur {
 
   TDataModule1& Base() const { return base_; }
   IDialogues& Dialogues() const { return base_.Dialogues(); }
-  const TReglagesPoste& Reglages() const { return reglages_; }
+  TReglagesPoste& Reglages() const { return reglages_; }
   const THorloge& Horloge() const { return horloge_; }
 
  private:

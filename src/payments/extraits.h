@@ -42,6 +42,10 @@ class TExtraits : public TCollection<TExtrait> {
   TExtrait* TrouverParId(int id) const { return parId_.Premier(id); }
   /// The first movement that has the same five fields, or null.
   TExtrait* Identique(const TExtrait& extrait) const { return parCle_.Premier(TCleExtrait(extrait)); }
+  /// All of them, in the order of the collection.
+  const std::vector<TExtrait*>& Identiques(const TExtrait& extrait) const {
+    return parCle_.Tous(TCleExtrait(extrait));
+  }
   /// The same in the year before, which is loaded at the first call; the one found is marked so.
   TExtrait* IdentiqueAnneePrecedente(const TExtrait& extrait);
   /// First and last value date; 0 and 0 without movements.

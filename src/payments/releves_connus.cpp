@@ -4,6 +4,7 @@
 
 #include "core/chaines.h"
 #include "core/formats.h"
+#include "payments/communication_structuree.h"
 #include "payments/iban.h"
 
 using namespace Qt::StringLiterals;
@@ -141,8 +142,16 @@ std::vector<TEmpreinteReleve> TRelevesConnus::Empreintes() const {
   return empreintes;
 }
 
-void TProches::Ajouter(const TExtraits& extraits) {
-  for (const TExtrait& extrait : extraits) cles_.insert(CleProche(extrait));
+void TProches::Ajouter(const TExtraits& extraits, const std::unordered_set<const TExtrait*>& sauf) {
+  for (const TExtrait& extrait : extraits)
+    if (!sauf.contains(&extrait)) communications_[CleProche(extrait)] += extrait.Communication;
 }
 
-bool TProches::Contient(const TExtrait& extrait) const { return cles_.contains(CleProche(extrait)); }
+bool TProches::Contient(const TExtrait& extrait) const {
+  const auto proches = communications_.find(CleProche(extrait));
+  if (proches == communications_.end()) return false;
+  const bool valide = CommunicationValide(extrait.Communication);
+  return std::ranges::any_of(proches->second, [&](const QString& autre) {
+    return !valide || !CommunicationValide(autre) || autre == extrait.Communication;
+  });
+}

@@ -1,4 +1,5 @@
 #pragma once
+#include <unordered_map>
 #include <unordered_set>
 
 #include "payments/extraits.h"
@@ -38,12 +39,13 @@ class TRelevesConnus : public TCollection<TReleveConnu> {
 };
 
 /// Movements that may be the same as another one: of its day, amount and account, whatever name and text
-/// stand there.
+/// stand there; but two right communications that differ are two payments.
 class TProches {
  public:
-  void Ajouter(const TExtraits& extraits);
+  /// The movements that stay outside, where they are.
+  void Ajouter(const TExtraits& extraits, const std::unordered_set<const TExtrait*>& sauf);
   bool Contient(const TExtrait& extrait) const;
 
  private:
-  std::unordered_set<TCleExtrait> cles_;
+  std::unordered_map<TCleExtrait, QStringList> communications_;  // of the movements of a day, amount, account
 };

@@ -1,5 +1,6 @@
 #include "workflows/import_virements.h"
 
+#include <QCryptographicHash>
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -20,6 +21,9 @@ namespace {
 
 /// What a shared file answers on the system of the office.
 const QString kViolationDePartage = u"32"_s;
+
+/// The workstation's setting that holds the print of a file from the beginning of its step 2 to the end.
+const QString kVirementsEnCours = u"VirementsEnCours"_s;
 
 std::unique_ptr<TExtrait> EnExtrait(const TMouvement& lu) {
   auto extrait = std::make_unique<TExtrait>();
@@ -107,6 +111,7 @@ bool TImportVirements::Etape1(const QString& chemin) {
   const TAttente attente(controleur_.Dialogues());
   const auto octets = Ouvrir(chemin);
   if (!octets || !Lire(*octets)) return false;
+  empreinte_ = QString::fromLatin1(QCryptographicHash::hash(*octets, QCryptographicHash::Sha256).toHex());
   for (TRangeeVirement& rangee : rangees_) Reconnaitre(rangee);
   ReconnaitreProches();
   statut_ = u"Le fichier compte %1 mouvements."_s.arg(rangees_.size());
@@ -158,9 +163,12 @@ void TImportVirements::Reconnaitre(TRangeeVirement& rangee) {
 }
 
 // The same days may come as a statement and as a table, with other names and texts: what differs from a
-// stored movement only by these is not stored by itself. Two tables are compared by all five fields alone.
+// stored movement only by these is not stored by itself. Two tables are compared by all five fields alone. A
+// stored movement that a row is throughout is that row and no other one.
 void TImportVirements::ReconnaitreProches() {
   const auto connus = LireConnus(controleur_.Base());
+  std::unordered_set<const TExtrait*> reconnus;
+  for (const TRangeeVirement& rangee : rangees_) reconnus.insert(rangee.Extrait);
   std::optional<TProches> proches;
   for (TRangeeVirement& rangee : rangees_) {
     if (rangee.Etat != TEtatMouvement::Nouveau ||
@@ -168,8 +176,8 @@ void TImportVirements::ReconnaitreProches() {
       continue;
     if (!proches) {
       proches.emplace();
-      proches->Ajouter(controleur_.Extraits());
-      proches->Ajouter(controleur_.ExtraitsPrecedents());
+      proches->Ajouter(controleur_.Extraits(), reconnus);
+      proches->Ajouter(controleur_.ExtraitsPrecedents(), reconnus);
     }
     if (proches->Contient(*EnExtrait(rangee.Lu))) rangee.Etat = TEtatMouvement::DejaImporte;
   }
@@ -202,11 +210,15 @@ void TImportVirements::Situer(TRangeeVirement& rangee) {
 // All movements are stored before the first is credited, so that whatever ends the crediting loses none; the
 // statement counts as taken after that, so that it can be read again for the rest without a question.
 void TImportVirements::Etape2() {
+  TReglagesPoste& reglages = controleur_.Reglages();
+  reprise_ = reglages.Lire(TRacine::Utilisateur, kVirementsEnCours) == empreinte_;
+  reglages.Ecrire(TRacine::Utilisateur, kVirementsEnCours, empreinte_);
   try {
     TProgression progression(controleur_.Dialogues(), static_cast<int>(2 * rangees_.size()));
     Memoriser(progression);
     Crediter(progression);
     if (!entetes_.empty()) TRelevesConnus(controleur_.Base()).Retenir(entetes_);
+    reglages.Ecrire(TRacine::Utilisateur, kVirementsEnCours, {});
   } catch (...) {
     Resituer();
     throw;
@@ -269,6 +281,7 @@ void TImportVirements::MemoriserEnsemble(std::span<TRangeeVirement> rangees) {
 void TImportVirements::Crediter(TProgression& progression) {
   const bool compacte = Globals.Parametres->EstVrai(TParam::CompteCourant);
   TBilan bilan;
+  passes_.clear();
   int fait = static_cast<int>(rangees_.size());
   for (const TRangeeVirement& rangee : rangees_) {
     CrediterRangee(rangee, compacte, bilan);
@@ -283,12 +296,23 @@ void TImportVirements::Crediter(TProgression& progression) {
     statut_ += u'\n' % TexteDejaImportes(dejaImportes) % u'.';
 }
 
-void TImportVirements::CrediterRangee(const TRangeeVirement& rangee, bool compacte, TBilan& bilan) const {
-  if (rangee.Extrait == nullptr) {
+// Twins are all found in the first of them. Where the step was cut off before, the first may have its pupil
+// and the others not yet: then each row of them takes its own.
+const TExtrait* TImportVirements::ACrediter(const TRangeeVirement& rangee) const {
+  if (!reprise_ || rangee.Extrait == nullptr) return rangee.Extrait;
+  for (const TExtrait* jumeau : controleur_.Extraits().Identiques(*rangee.Extrait))
+    if (!passes_.contains(jumeau->Id)) return jumeau;
+  return rangee.Extrait;
+}
+
+void TImportVirements::CrediterRangee(const TRangeeVirement& rangee, bool compacte, TBilan& bilan) {
+  const TExtrait* aCrediter = ACrediter(rangee);
+  if (aCrediter == nullptr) {
     bilan.Regularisations += rangee.Etat == TEtatMouvement::AnneePrecedente ? 1 : 0;
     return;
   }
-  const TExtrait& extrait = *rangee.Extrait;
+  const TExtrait& extrait = *aCrediter;
+  passes_.insert(extrait.Id);
   const int annee = Globals.Eleves->AnneeScolaire;
   // The map stands as it was before the step: a second row of one movement counts like the first.
   if (!compacte && Globals.Eleves->ExtraitVersEleve(extrait.Id) != 0) return;

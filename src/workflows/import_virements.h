@@ -1,5 +1,6 @@
 #pragma once
 #include <span>
+#include <unordered_set>
 
 #include "payments/releve_bancaire.h"
 #include "workflows/credit_extraits.h"
@@ -89,12 +90,17 @@ class TImportVirements {
   void Memoriser(TProgression& progression);
   void MemoriserEnsemble(std::span<TRangeeVirement> rangees);
   void Crediter(TProgression& progression);
-  void CrediterRangee(const TRangeeVirement& rangee, bool compacte, TBilan& bilan) const;
+  /// The stored movement that the row credits; null for none.
+  const TExtrait* ACrediter(const TRangeeVirement& rangee) const;
+  void CrediterRangee(const TRangeeVirement& rangee, bool compacte, TBilan& bilan);
 
   TControleur& controleur_;
   std::vector<TRangeeVirement> rangees_;
   std::optional<TFauteReleve> faute_;
   QString statut_;
+  QString empreinte_;                   // of the file's octets
+  bool reprise_ = false;                // step 2 of this file was cut off before
+  std::unordered_set<int> passes_;      // the movements that step 2 has been through
   std::vector<TEnteteReleve> entetes_;  // of the statements in the file
   bool parSonCompte_ = false;           // the file tells whose account it is, and so the debits of the school
 };
