@@ -6,6 +6,7 @@
 #include <QStyleOption>
 #include <QTreeView>
 
+#include "ui/commun/tete_de_liste.h"
 #include "ui/commun/theme.h"
 
 namespace DessinStyle {
@@ -185,10 +186,12 @@ void TexteDeTete(QPainter& peintre, const QStyleOptionHeader& option) {
   const Crayon crayon(peintre);
   peintre.setFont(Theme::Gras());
   peintre.setPen(A(option, QStyle::State_Enabled) ? Theme::Secondaire() : CouleurTexte(option));
-  const QString texte =
-      QFontMetrics(Theme::Gras()).elidedText(option.text, Qt::ElideRight, option.rect.width());
-  peintre.drawText(option.rect,
-                   static_cast<int>(option.textAlignment | Qt::AlignVCenter) | Qt::TextSingleLine, texte);
+  const QFontMetrics mesures(Theme::Gras());
+  const bool deux = option.rect.height() >= 2 * mesures.height();
+  QStringList lignes = (deux ? TitreEnLignes(option.text, option.rect.width()) : option.text).split(u'\n');
+  for (QString& ligne : lignes) ligne = mesures.elidedText(ligne, Qt::ElideRight, option.rect.width());
+  peintre.drawText(option.rect, static_cast<int>(option.textAlignment | Qt::AlignVCenter),
+                   lignes.join(u'\n'));
 }
 
 }  // namespace DessinStyle

@@ -19,6 +19,7 @@
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/menu_grille.h"
 #include "ui/commun/modele_grille.h"
+#include "ui/commun/tete_de_liste.h"
 #include "ui/commun/theme.h"
 #include "ui/principal/dialogues_qt.h"
 
@@ -128,6 +129,7 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
     grille_.ChangerLargeur(colonne, static_cast<int>(std::lround(largeur * 96.0 / Theme::Px(96))));
     RetenirBientot();
   });
+  SuivreTitres(*header());
   connect(header(), &QHeaderView::sectionMoved, this, &VueGrille::RetenirBientot);
   connect(header(), &QHeaderView::sortIndicatorChanged, this, &VueGrille::RetenirBientot);
 }
@@ -364,7 +366,8 @@ void VueGrille::MontrerLigne(int ligne) {
 }
 
 int VueGrille::HauteurPour(int lignes) const {
-  return header()->sizeHint().height() + lignes * Theme::Px(kHauteurLigne) + 2 * frameWidth();
+  const int tete = std::max(header()->minimumHeight(), header()->sizeHint().height());
+  return tete + lignes * Theme::Px(kHauteurLigne) + 2 * frameWidth();
 }
 
 void VueGrille::resizeEvent(QResizeEvent* evenement) {
