@@ -9,6 +9,7 @@ TEST(Inscriptions, UnEleveInscritDeuxFoisLaMemeAnnee) {
   TEleves eleves(*base, 2016);
   ASSERT_EQ(eleves.Count(), 2);
   EXPECT_EQ(eleves[1].CodeClasse, u"P1") << "both are in the class of the first row";
+  EXPECT_EQ(eleves[1].GetAllFrais(), eleves[0].GetAllFrais()) << "what is paid on one shows on the other";
   eleves.AddClasseEleve(eleve.Id, u"P3"_s, 2016, {}, u"C"_s);
   EXPECT_EQ(base.Rangees(u"SELECT CLASSE FROM ELEVES_CLASSES ORDER BY ELEVE_CLASSE_ID"_s),
             (QStringList{"P1", "P3"}))
