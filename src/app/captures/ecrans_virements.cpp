@@ -35,6 +35,7 @@ void Photographe::Virements() {
   form->btnComptabiliseClick();  // the unknown ones
   form->Historique.ChoisirLigne(0);
   Suivre({[this](QWidget& fenetre) {
+    Prendre(fenetre, u"attribution-proposee"_s);
     auto* nom = fenetre.findChild<QLineEdit*>();
     for (int fois = 0; fois < 2; ++fois) {  // two payers for one pupil
       emit nom->textEdited(u"LAMBERT"_s);
