@@ -142,13 +142,16 @@ TBaseObject& TDistributor::Add(std::unique_ptr<TBaseObject> objet) {
   TBaseObject& place = Inserer(std::move(objet));
   place.Status = TStatus::Nouveau;
   Position = Count() - 1;
+  Attendre(Items.size() - 1);
   Suivre(place);
   return place;
 }
 
 void TDistributor::Add(TBaseObject& objet) {
-  if (!Contains(objet)) return;
+  const std::size_t i = Indice(objet);
+  if (i >= Items.size()) return;
   if (objet.Status == TStatus::Inchange) objet.Status = TStatus::Modifie;
+  Attendre(i);
   Suivre(objet);
 }
 
@@ -160,6 +163,7 @@ std::unique_ptr<TBaseObject> TDistributor::Detacher(TBaseObject& objet) {
   std::erase(Disparus, &objet);
   auto sorti = std::move(Items[i]);
   Items.erase(Items.begin() + static_cast<std::ptrdiff_t>(i));
+  if (i < premierEnAttente_) --premierEnAttente_;
   return sorti;
 }
 
@@ -191,7 +195,7 @@ bool TDistributor::Save() {
   return true;
 }
 
-// True when a row was written.
+// True when a row was written. A row a Save, as an import writes them, must not look at all the rows before.
 bool TDistributor::Enregistrer() {
   TEnregistrement enregistrement(*this);
   bool ecrit = false;
@@ -200,18 +204,25 @@ bool TDistributor::Enregistrer() {
       Deleted.erase(Deleted.begin() + static_cast<std::ptrdiff_t>(i));
   const std::size_t nombre = Items.size();
   bool sansCle = false;  // the counter has failed and the user knows: it is not asked again for each object
-  for (std::size_t i = 0; i < nombre; ++i) {
+  std::size_t enAttente = nombre;
+  for (std::size_t i = premierEnAttente_; i < nombre; ++i) {
     TBaseObject& objet = *Items[i];
+    const auto attendre = [&] { enAttente = std::min(enAttente, i); };
     if (objet.Status == TStatus::Modifie) {
       if (!enregistrement.Modifier(objet)) {
         Disparus.push_back(&objet);
+        attendre();
         continue;
       }
     } else if (objet.Status == TStatus::Nouveau) {
-      if (sansCle) continue;
-      if (CounterName != u"*") objet.Id = base_->GetNextId(CounterName);
-      sansCle = objet.Id == -1 && CounterName != u"*";
-      if (objet.Id == -1) continue;
+      if (!sansCle && CounterName != u"*") {
+        objet.Id = base_->GetNextId(CounterName);
+        sansCle = objet.Id == -1;
+      }
+      if (sansCle || objet.Id == -1) {
+        attendre();
+        continue;
+      }
       enregistrement.Inserer(objet);
       Suivre(objet);  // its key is known now
     } else {
@@ -220,6 +231,7 @@ bool TDistributor::Enregistrer() {
     objet.Status = TStatus::Inchange;
     ecrit = true;
   }
+  premierEnAttente_ = enAttente;
   return ecrit;
 }
 
@@ -271,6 +283,7 @@ void TDistributor::Ranger() {
     const auto i = places.find(objet->Id);
     return i == places.end() ? INT_MAX : i->second;
   };
+  premierEnAttente_ = 0;
   for (const auto& objet : Items) Desindexer(*objet);
   std::ranges::stable_sort(Items, {}, place);
   parCle_ = {};

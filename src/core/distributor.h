@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+#include <algorithm>
 #include <memory>
 #include <span>
 #include <vector>
@@ -95,9 +96,11 @@ class TDistributor : public TBaseObject {
   bool Relire(TBaseObject& objet);
   void Reprendre(std::unique_ptr<TBaseObject> objet);
   void Ranger();
+  void Attendre(std::size_t place) { premierEnAttente_ = std::min(premierEnAttente_, place); }
 
   TDataModule1* base_ = nullptr;
   int prochainRang_ = 0;
+  std::size_t premierEnAttente_ = 0;  // the objects before it have nothing for the next Save
   mutable bool clesIndexees_ = false;
   mutable TIndex<int, TBaseObject> parCle_;
 };
