@@ -34,7 +34,7 @@ TDocumentPrepare Facturer(TEcole& ecole, const TDonneesAnnee& annee, const QStri
   TChoixDocument choix;
   choix.DateDebut = octobre.Premier;
   choix.DateFin = octobre.Dernier;
-  for (TEleve& eleve : *annee.Eleves) choix.Eleves.push_back(&eleve);
+  choix.Eleves = annee.Eleves->Tous();
   TResultat resultat;
   etapes.Contenu.push_back(Duree([&] {
     resultat = FaireDocument({*annee.Eleves, ecole.Parametres()}, *TrouverTitre(u"Facture"), choix);

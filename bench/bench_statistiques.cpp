@@ -28,15 +28,14 @@ void Trimestre(TEcole& ecole, const TDonneesAnnee& annee) {
   TChoixDocument choix;
   choix.DateDebut = EncodeDate(TEcole::kAnnee, 10, 1);
   choix.DateFin = EncodeDate(TEcole::kAnnee, 12, 31);
-  for (TEleve& eleve : *annee.Eleves) choix.Eleves.push_back(&eleve);
+  choix.Eleves = annee.Eleves->Tous();
   FaireDocument({*annee.Eleves, ecole.Parametres()},
                 *TrouverTitre(u"Detail O.N.E. des accueils extrascolaires"), choix);
 }
 
 /// The sheets of all pupils; they open the year once more. The memory of the process with them.
 double Attester(TEcole& ecole, const TDonneesAnnee& annee) {
-  std::vector<TEleve*> tous;
-  for (TEleve& eleve : *annee.Eleves) tous.push_back(&eleve);
+  const std::vector<TEleve*> tous = annee.Eleves->Tous();
   QStringList messages;
   TAttestations attestations(*annee.Eleves, ecole.Parametres(), kAnneeFiscale);
   if (attestations.Feuilles(tous, messages).size() != tous.size() || !messages.isEmpty())

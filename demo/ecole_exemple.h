@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/currency.h"
+#include "core/mois.h"
 #include "core/param.h"
 
 // A whole school of the province of Namur in the year 2016-2017, invented from a seed. Everything is
@@ -161,6 +162,3 @@ struct TEcoleExemple {
 
 /// The same seed always gives the same school. `petite`: a tenth of the pupils.
 TEcoleExemple CreerEcoleExemple(std::uint64_t graine, bool petite = false);
-
-/// The ten months of the school year, September first.
-inline constexpr std::array<int, 10> kMoisScolaires{9, 10, 11, 12, 1, 2, 3, 4, 5, 6};

@@ -1,6 +1,7 @@
 #include "application/controleur.h"
 
 #include "core/exceptions.h"
+#include "core/mois.h"
 
 using namespace Qt::StringLiterals;
 
@@ -136,7 +137,7 @@ void TControleur::ChargerAnnee(int annee) {
   Globals.Parametres->RelireRegles();
   Globals.Montrer(std::move(donnees));
   Globals.GroupesFrais = std::move(groupes);
-  fenetre_.IntitulerAnnee(u"Année scolaire %1 - %2"_s.arg(annee).arg(annee + 1));
+  fenetre_.IntitulerAnnee(u"Année scolaire " % AnneeEnTexte(annee));
   fenetre_.ConstruireArbre();
   fenetre_.CocherAnnee(annee);
 }

@@ -32,3 +32,7 @@ QStringList NomsMoisScolaires() {
   for (const int mois : kMoisScolaires) noms += NomMois(mois);
   return noms;
 }
+
+QString AnneeEnTexte(int annee) { return u"%1 - %2"_s.arg(annee).arg(annee + 1); }
+
+QString AnneeCompacte(int annee) { return u"%1-%2"_s.arg(annee).arg(annee + 1); }

@@ -18,3 +18,8 @@ QString NomMoisCourt(int mois);
 QString TexteDuMois(int mois);
 /// "Septembre" to "Juin".
 QStringList NomsMoisScolaires();
+
+/// "2016 - 2017": a school year as the windows show it.
+QString AnneeEnTexte(int annee);
+/// "2016-2017": the same on lists and in the ledgers.
+QString AnneeCompacte(int annee);

@@ -9,6 +9,12 @@ void AjouterParametres(TRapport& rapport, const TParametres& parametres,
     rapport.AjouterVariable(variable, parametres.GetParametre(parametre));
 }
 
+QString NomEcoleEtSite(const TParametres& parametres) {
+  const QString ecole = parametres.GetParametre(TParam::NomEcole);
+  const QString site = parametres.GetParametre(TParam::NomImplantation);
+  return site.isEmpty() ? ecole : QString(ecole % u" (" % site % u')');
+}
+
 void AjouterEnteteEcole(TRapport& rapport, const TParametres& parametres) {
   using enum TParam;
   static constexpr TVariableParametre kVariables[] = {

@@ -1,4 +1,5 @@
 #pragma once
+#include <QString>
 #include <span>
 
 #include "core/param.h"
@@ -15,6 +16,9 @@ struct TVariableParametre {
 /// Each variable takes the text of its parameter.
 void AjouterParametres(TRapport& rapport, const TParametres& parametres,
                        std::span<const TVariableParametre> variables);
+
+/// The name of the school, with its site between brackets when one is set: "École (Haut)".
+QString NomEcoleEtSite(const TParametres& parametres);
 
 /// The variables that the header of a parents' document reads: `EcoleNom`, `ImplantationNom`,
 /// `EcoleAdresse`, `EcoleCodePostal`, `EcoleLocalite`, `EcoleTelephone` and `CompteBanque`.

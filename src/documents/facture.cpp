@@ -1,6 +1,7 @@
 #include "documents/facture.h"
 
 #include "core/formats.h"
+#include "core/mois.h"
 #include "core/parametres.h"
 #include "documents/lettres.h"
 #include "documents/noeud_facture.h"
@@ -95,7 +96,7 @@ void TFactureEleve::AjouterArrieres() {
   if (avant.Dernier <= avant.Premier) return;
   const Currency factures = eleve_.FraisPeriode(avant) + eleve_.CoutServicesPeriode(avant);
   Currency paiements;
-  for (const int mois : kMoisFacturation) {
+  for (const int mois : kMoisScolaires) {
     const TPeriode bornes = BornesMois(mois, periode_.Annee);
     if (bornes.Premier > avant.Dernier) break;
     paiements += eleve_.VersementsPeriode(bornes);
@@ -116,7 +117,7 @@ void TFactureEleve::AjouterArrieres() {
 
 // What is left unpaid of each month before the period.
 void TFactureEleve::AjouterRappels() {
-  for (const int mois : kMoisFacturation) {
+  for (const int mois : kMoisScolaires) {
     const TPeriode bornes = BornesMois(mois, periode_.Annee);
     if (bornes.Premier > periode_.DateDebut || bornes.Dernier > periode_.DateFin) break;
     if (periode_.Contient(mois)) continue;

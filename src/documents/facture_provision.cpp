@@ -1,5 +1,6 @@
 #include "documents/facture_provision.h"
 
+#include "core/mois.h"
 #include "core/parametres.h"
 #include "documents/lettres.h"
 #include "documents/noeud_facture.h"
@@ -111,7 +112,7 @@ TResultat FactureActivites(const TContexteDocument& contexte, const TDemandeDocu
   const TPeriodeDocument& periode = demande.Periode;
   TRapport lettre = LettreEcole(u"Facture"_s, ModeleActivites(contexte.Parametres), contexte.Parametres,
                                 periode.PeriodeTexte());
-  lettre.AjouterVariable(u"AnneeScolaire", u"%1 - %2"_s.arg(periode.Annee).arg(periode.Annee + 1));
+  lettre.AjouterVariable(u"AnneeScolaire", AnneeEnTexte(periode.Annee));
   const TQrPaiement qr(contexte.Parametres);
   qr.Avertir(lettre);
   const auto ecrire = [&](const TEleve& eleve, IDialogues& dialogues) -> std::optional<TNoeudRapport> {

@@ -1,6 +1,7 @@
 #include "documents/periode.h"
 
 #include "core/formats.h"
+#include "core/mois.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,6 +10,10 @@ namespace {
 bool EstUnMois(int mois) { return mois >= 1 && mois <= 12; }
 
 }  // namespace
+
+QString FautePeriode(const TPeriode& periode) {
+  return periode.Premier > periode.Dernier ? u"La première date est après la seconde."_s : QString();
+}
 
 bool TPeriodeDocument::Commence(int mois) const {
   return EstUnMois(mois) && MoisDebuteDansPeriode(mois, Annee, DateDebut, DateFin);
@@ -25,7 +30,6 @@ QString TPeriodeDocument::PeriodeTexte() const {
     const int annee = mois >= 7 ? Annee : Annee + 1;
     return TexteDuMois(mois) % u' ' % QString::number(annee);
   }
-  if (EstAnneeComplete(Annee, DateDebut, DateFin))
-    return u"de l'année scolaire %1 - %2"_s.arg(Annee).arg(Annee + 1);
+  if (EstAnneeComplete(Annee, DateDebut, DateFin)) return u"de l'année scolaire " % AnneeEnTexte(Annee);
   return u"du " % FormatDateLongue(DateDebut) % u" au " % FormatDateLongue(DateFin);
 }

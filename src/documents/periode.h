@@ -1,16 +1,10 @@
 #pragma once
 #include <QString>
-#include <array>
 
 #include "core/calendrier_scolaire.h"
 
-/// The ten months that are billed, in order.
-inline constexpr std::array kMoisFacturation{9, 10, 11, 12, 1, 2, 3, 4, 5, 6};
-
-/// "Septembre"; `mois` is 1 to 12.
-QString NomMois(int mois);
-/// "du mois de septembre", "du mois d'octobre"; `mois` is 1 to 12.
-QString TexteDuMois(int mois);
+/// "La première date est après la seconde."; "" for a period whose days are in order.
+QString FautePeriode(const TPeriode& periode);
 
 /// The days that a document is about, both included, and the school year they are taken in.
 struct TPeriodeDocument {

@@ -1,5 +1,6 @@
 #include "documents/postes_ouverts.h"
 
+#include "core/mois.h"
 #include "documents/sections_frais.h"
 #include "pupils/eleve.h"
 #include "services/frais_eleve.h"
@@ -27,7 +28,7 @@ std::vector<const TFraisEleve*> FraisOuverts(const TEleve& eleve, const TPeriode
 
 TServicesOuverts::TServicesOuverts(const TEleve& eleve, const TPeriodeDocument& periode)
     : eleve_(eleve), periode_{periode.DateDebut, periode.DateFin} {
-  for (const int mois : kMoisFacturation)
+  for (const int mois : kMoisScolaires)
     if (periode.Commence(mois) && eleve.SoldeMois(mois, periode.Annee) == Currency())
       moisRegles_.push_back({BornesMois(mois, periode.Annee), eleve.PaiementsMois(mois)});
 }

@@ -1,6 +1,7 @@
 #include "documents/statistiques.h"
 
 #include "core/formats.h"
+#include "core/mois.h"
 #include "core/parametres.h"
 #include "documents/entete_ecole.h"
 #include "pupils/eleves.h"
@@ -14,25 +15,19 @@ TColonneGrille ColonneTexte(const QString& titre, int largeur) { return {titre, 
 
 TColonneGrille ColonneMontant(const QString& titre) { return {titre, 120, TGenre::Montant}; }
 
-QString MoisOuVide(int mois) { return mois >= 1 && mois <= 12 ? NomMois(mois) : QString(); }
-
 /// What every report of the statistics tells of the school.
 void AjouterEcole(TRapport& rapport, const TContexteDocument& contexte, const QString& sousTitre) {
   using enum TParam;
-  const TParametres& parametres = contexte.Parametres;
   static constexpr TVariableParametre kVariables[] = {
       {u"AdresseEcole", RueEcole},
       {u"CPEcole", CodePostalEcole},
       {u"LocaliteEcole", LocaliteEcole},
       {u"TelEcole", TelephoneEcole},
   };
-  const QString site = parametres.GetParametre(NomImplantation);
-  const int annee = contexte.Eleves.AnneeScolaire;
   rapport.AjouterVariable(u"NomRapportSSTitre", sousTitre);
-  rapport.AjouterVariable(
-      u"NomEcole", parametres.GetParametre(NomEcole) % (site.isEmpty() ? QString() : u" (" % site % u')'));
-  rapport.AjouterVariable(u"AnneeScolaire", QString::number(annee) % u'-' % QString::number(annee + 1));
-  AjouterParametres(rapport, parametres, kVariables);
+  rapport.AjouterVariable(u"NomEcole", NomEcoleEtSite(contexte.Parametres));
+  rapport.AjouterVariable(u"AnneeScolaire", AnneeCompacte(contexte.Eleves.AnneeScolaire));
+  AjouterParametres(rapport, contexte.Parametres, kVariables);
 }
 
 TNoeudRapport NoeudPaiements(const TPaiementsEleve& ligne) {
@@ -51,7 +46,7 @@ TNoeudRapport NoeudFrais(const TLigneFrais& ligne) {
   TNoeudRapport noeud(ligne.Frais->Libelle);
   noeud.Valeurs.Ecrire(u"LibelleFrais", ligne.Frais->Libelle);
   noeud.Valeurs.Ecrire(u"NombreEleves", QString::number(ligne.Eleves));
-  noeud.Valeurs.Ecrire(u"MoisFrais", MoisOuVide(ligne.Frais->Mois));
+  noeud.Valeurs.Ecrire(u"MoisFrais", NomMois(ligne.Frais->Mois));
   noeud.Valeurs.Ecrire(u"CoutUnitaire", FormatDeuxDecimales(ligne.Frais->Cout));
   noeud.Valeurs.Ecrire(u"TotalFrais", FormatDeuxDecimales(ligne.Total));
   return noeud;

@@ -1,6 +1,7 @@
 #include "documents/tickets.h"
 
 #include "core/formats.h"
+#include "core/mois.h"
 #include "core/parametres.h"
 #include "documents/entete_ecole.h"
 #include "documents/sections.h"
@@ -102,11 +103,8 @@ TRapport RapportVentes(const TContexteDocument& contexte, const QString& titre, 
   QString sousTitre = u"Relevé du " % FormatDateLongue(periode.Premier);
   if (periode.Dernier > periode.Premier) sousTitre += u" au " % FormatDateLongue(periode.Dernier);
   rapport.AjouterVariable(u"NomRapportSSTitre", sousTitre);
-  const QString site = contexte.Parametres.GetParametre(TParam::NomImplantation);
-  const QString ecole = contexte.Parametres.GetParametre(TParam::NomEcole);
-  rapport.AjouterVariable(u"NomEcole", site.isEmpty() ? ecole : QString(ecole % u" (" % site % u')'));
-  const int annee = contexte.Eleves.AnneeScolaire;
-  rapport.AjouterVariable(u"AnneeScolaire", QString::number(annee) % u'-' % QString::number(annee + 1));
+  rapport.AjouterVariable(u"NomEcole", NomEcoleEtSite(contexte.Parametres));
+  rapport.AjouterVariable(u"AnneeScolaire", AnneeCompacte(contexte.Eleves.AnneeScolaire));
   rapport.ChargerColonnesListe(GrilleVentes(jours));
   return rapport;
 }

@@ -138,6 +138,12 @@ void TEleves::TrierClasses() {
       classes_, [](const auto& a, const auto& b) { return ComparerTextes(a->Libelle(), b->Libelle()) < 0; });
 }
 
+std::vector<TEleve*> TEleves::Tous() const {
+  std::vector<TEleve*> tous;
+  for (TEleve& eleve : *this) tous.push_back(&eleve);
+  return tous;
+}
+
 int TEleves::NombreEleves() const {
   int nombre = 0;
   for (const auto& classe : classes_) nombre += classe->NombreEleves();

@@ -38,6 +38,8 @@ class TEleves : public TCollection<TEleve> {
   /// Takes the pupil out of its class too.
   std::unique_ptr<TEleve> RemoveEleve(TEleve& eleve) { return Remove(eleve); }
 
+  /// Every pupil, in the order of the collection.
+  std::vector<TEleve*> Tous() const;
   /// First pupil with that key, or null.
   TEleve* TrouverParId(int id) const { return ParCle(id); }
   /// First pupil with exactly that register number, or null.

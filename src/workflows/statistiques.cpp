@@ -9,12 +9,6 @@
 
 namespace {
 
-void LireFraisDeTous(const TEleves& eleves) {
-  std::vector<TEleve*> tous;
-  for (TEleve& eleve : eleves) tous.push_back(&eleve);
-  eleves.LireFrais(tous);
-}
-
 Currency SoldeDuMois(const TEleve& eleve, const TCriteresImpayes& criteres, int mois) {
   return eleve.SoldeCourant(mois, eleve.Eleves->AnneeScolaire, criteres.Services, criteres.Frais);
 }
@@ -64,7 +58,7 @@ int RepasFactures(const TEleves& eleves, TCategorie categorie) {
 }  // namespace
 
 std::vector<TMontantEleve> Impayes(const TEleves& eleves, const TCriteresImpayes& criteres) {
-  LireFraisDeTous(eleves);
+  eleves.LireFrais(eleves.Tous());
   std::vector<TMontantEleve> lignes;
   for (TEleve& eleve : eleves) {
     const Currency solde = SoldeEtendue(eleve, criteres);
@@ -74,7 +68,7 @@ std::vector<TMontantEleve> Impayes(const TEleves& eleves, const TCriteresImpayes
 }
 
 std::vector<TMontantEleve> BalancesPositives(const TEleves& eleves, bool frais, bool services) {
-  LireFraisDeTous(eleves);
+  eleves.LireFrais(eleves.Tous());
   std::vector<TMontantEleve> lignes;
   for (TEleve& eleve : eleves) {
     const Currency solde = eleve.Solde(frais, services);
@@ -112,7 +106,7 @@ std::vector<TPaiementsEleve> PaiementsDuGroupe(const TEleves& eleves, TGroupeFra
 }
 
 std::vector<TLigneFiscale> StatistiquesFiscales(const TEleves& eleves, const TPeriode& periode) {
-  LireFraisDeTous(eleves);
+  eleves.LireFrais(eleves.Tous());
   std::vector<TLigneFiscale> lignes;
   for (TEleve& eleve : eleves) {
     const Currency du = eleve.TotalGarderies(periode);

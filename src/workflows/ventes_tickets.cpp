@@ -10,12 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::vector<TEleve*> Tous(const TEleves& eleves) {
-  std::vector<TEleve*> tous;
-  for (TEleve& eleve : eleves) tous.push_back(&eleve);
-  return tous;
-}
-
 void Cumuler(TVentes& total, const TVentes& ventes) {
   total.Nombre += ventes.Nombre;
   total.Montant += ventes.Montant;
@@ -42,7 +36,7 @@ const QStringList kSansChiffres(3, QString());
 
 std::vector<TVentesJour> VentesDeTickets(const TEleves& eleves, const TPeriode& periode,
                                          TPaiementTicket type) {
-  eleves.LireTickets(Tous(eleves));
+  eleves.LireTickets(eleves.Tous());
   std::map<TDateTime, TVentesJour> jours;
   for (const TEleve& eleve : eleves)
     for (const auto& [date, ventes] : eleve.GetTickets().Ventes(periode, type)) {

@@ -112,8 +112,7 @@ TEST_F(TDocumentsRepasEssai, DetailOfOrders) {
 }
 
 TEST_F(TDocumentsRepasEssai, TicketsOfParentsAndClasses) {
-  TElevesChoisis tous;
-  for (TEleve& eleve : *Globals.Eleves) tous.push_back(&eleve);
+  const TElevesChoisis tous = Globals.Eleves->Tous();
   const TDateTime jour = J("2016-11-24");
   const TResultat parents = TicketsParents(Contexte(), tous, jour);
   const QString dessin = Dessin(parents.Rapports.at(0));

@@ -158,8 +158,7 @@ TEST_F(TSoldesEssai, FraisLusEnsembleOuUnParUn) {
     if (i % 3 != 0) autre.doit(excursion, QString::number(i)).paie(u"1"_s, 10, 2, u"Services"_s);
   }
   TAnneeEssai annee(*base), temoin(*base);
-  std::vector<TEleve*> tous;
-  for (TEleve& e : annee.eleves) tous.push_back(&e);
+  std::vector<TEleve*> tous = annee.eleves.Tous();
   tous.push_back(tous.front());  // chosen twice
   std::vector<Currency> totaux;  // read one by one
   for (const TEleve& e : temoin.eleves)

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/mois.h"
 #include "pupils/eleves.h"
 #include "screens/documents/frm_print_wizard.h"
 #include "screens/pupils/frm_signaletique.h"
@@ -44,7 +45,7 @@ struct TSignaletiqueEssai : testing::Test {
     rose.doit(ecole.frais(u"Voyage"_s, u"400"_s, 5, u"previsionnel"_s));
     rose.mois(11, u"1"_s).mois(1, u"0.40"_s);
     rose.marque(1, 9).marque(3, 1);
-    for (const int mois : kMoisFacturation) rose.marque(2, mois);
+    for (const int mois : kMoisScolaires) rose.marque(2, mois);
     monde.Contexte.Assistant = &assistant;
   }
   /// The school on display, the screen open on that pupil, as the main window opens it.

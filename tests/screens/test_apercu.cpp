@@ -28,7 +28,7 @@ struct Apercu : testing::Test {
     TChoixDocument choix;
     choix.DateDebut = J("2016-10-01");
     choix.DateFin = J("2016-10-31");
-    for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
+    choix.Eleves = Globals.Eleves->Tous();
     if (melanges) std::swap(choix.Eleves.front(), choix.Eleves.back());
     resultat = FaireDocument(ContexteDesGlobals(controleur.Horloge), *TrouverTitre(u"Facture"), choix);
     return resultat.Rapports.at(0);

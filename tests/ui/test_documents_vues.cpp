@@ -75,7 +75,7 @@ class DocumentsVues : public testing::Test {
     TChoixDocument choix;
     choix.DateDebut = J("2016-10-01");
     choix.DateFin = J("2016-10-31");
-    for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
+    choix.Eleves = Globals.Eleves->Tous();
     TResultat resultat =
         FaireDocument(ContexteDesGlobals(programme.Horloge), *TrouverTitre(u"Facture"), choix);
     return std::move(resultat.Rapports.at(0));

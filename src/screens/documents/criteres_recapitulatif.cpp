@@ -2,6 +2,7 @@
 
 #include "application/globals.h"
 #include "core/calendrier_scolaire.h"
+#include "core/mois.h"
 #include "screens/documents/frm_recapitulatif.h"
 
 using namespace Qt::StringLiterals;
@@ -9,14 +10,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using T = TCriteresRecapitulatif;
-
-constexpr int kMois[] = {9, 10, 11, 12, 1, 2, 3, 4, 5, 6};
-
-QStringList TextesMois() {
-  QStringList textes;
-  for (const int mois : kMois) textes += TexteDe(TGenre::Mois, mois);
-  return textes;
-}
 
 QStringList TextesGroupes() {
   std::vector<TLibelleGroupe> libelles;
@@ -29,7 +22,8 @@ QStringList TextesGroupes() {
 void EcrireMois(T& criteres, const TValeurVue& valeur) {
   criteres.IndiceMois = ValeurEn<int>(valeur);
   const int indice = criteres.IndiceMois;
-  criteres.Impayes.Mois = indice >= 0 && indice < std::ssize(kMois) ? kMois[indice] : 0;
+  const bool choisi = indice >= 0 && indice < std::ssize(kMoisScolaires);
+  criteres.Impayes.Mois = choisi ? kMoisScolaires[static_cast<std::size_t>(indice)] : 0;
 }
 
 /// A value that lies a level below.
@@ -56,7 +50,7 @@ TTableChamps<T> ChampsRecapitulatif() {
       {ChampCoche(u"cbServices"_s, u"Services"_s), DansLa(&T::Impayes, &TCriteresImpayes::Services)},
       {{.Nom = u"rbPeriode"_s, .Libelle = u"Période"_s, .Genre = Choix},
        DansLa(&T::Impayes, &TCriteresImpayes::Etendue)},
-      {{.Nom = u"cmbMois"_s, .Libelle = u"Mois"_s, .Genre = Choix, .Choix = TextesMois},
+      {{.Nom = u"cmbMois"_s, .Libelle = u"Mois"_s, .Genre = Choix, .Choix = NomsMoisScolaires},
        {[](const T& criteres) { return criteres.IndiceMois; }, EcrireMois}},
       {ChampCoche(u"cbFraisPositifs"_s, u"Frais"_s), Membre(&T::FraisPositifs)},
       {ChampCoche(u"cbServicesPositifs"_s, u"Services"_s), Membre(&T::ServicesPositifs)},

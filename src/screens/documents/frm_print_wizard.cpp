@@ -299,7 +299,7 @@ void TFrmPrintWizard::AjouterChoisis(TChoixDocument& choix) const {
 TPeriode TFrmPrintWizard::Periode() const {
   if (choixPeriode_ == TChoixPeriode::Periode) return {dtDate1_, dtDate2_};
   if (choixPeriode_ == TChoixPeriode::Mois && indiceMois_ >= 0)
-    return BornesMois(kMoisFacturation[static_cast<std::size_t>(indiceMois_)], AnneeAffichee());
+    return BornesMois(kMoisScolaires[static_cast<std::size_t>(indiceMois_)], AnneeAffichee());
   return BornesAnnee(AnneeAffichee());
 }
 
@@ -330,7 +330,7 @@ QString TFrmPrintWizard::TextePeriode() const {
   if (choixPeriode_ == TChoixPeriode::Periode)
     return u"du " % FormatDate(dtDate1_) % u" au " % FormatDate(dtDate2_);
   if (indiceMois_ < 0) return u"aucun mois choisi"_s;
-  const int mois = kMoisFacturation[static_cast<std::size_t>(indiceMois_)];
+  const int mois = kMoisScolaires[static_cast<std::size_t>(indiceMois_)];
   return NomMoisCourant(mois) % u' ' % QString::number(Globals.Eleves->AnneeDuMois(mois));
 }
 

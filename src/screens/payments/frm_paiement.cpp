@@ -1,29 +1,16 @@
 #include "screens/payments/frm_paiement.h"
 
-#include <algorithm>
-
-#include "documents/periode.h"
+#include "core/mois.h"
 #include "services/frais_eleve.h"
 
 namespace {
 
 using T = TPaiementSaisi;
 
-QStringList Mois() {
-  QStringList noms;
-  for (const int mois : kMoisFacturation) noms += NomMois(mois);
-  return noms;
-}
-
 QStringList Groupes() {
   QStringList noms{QString()};
   for (const TGroupeFrais& groupe : *Globals.GroupesFrais) noms += groupe.Libelle;
   return noms;
-}
-
-int IndexDuMois(int mois) {
-  const auto trouve = std::ranges::find(kMoisFacturation, mois);
-  return trouve == kMoisFacturation.end() ? -1 : static_cast<int>(trouve - kMoisFacturation.begin());
 }
 
 int IndexDuGroupe(int id) {
@@ -43,7 +30,7 @@ TTableChamps<T> Table() {
         .Refus = u"Le montant introduit est incorrect !"_s,
         .Unite = u"euros"_s},
        Membre(&T::Montant)},
-      {{.Nom = u"cmbMois"_s, .Libelle = u"Imputé au mois de:"_s, .Genre = Choix, .Choix = Mois},
+      {{.Nom = u"cmbMois"_s, .Libelle = u"Imputé au mois de:"_s, .Genre = Choix, .Choix = NomsMoisScolaires},
        Membre(&T::IndexMois)},
       {{.Nom = u"rbTP"_s, .Libelle = u"Pour:"_s, .Genre = Choix, .Boutons = true, .Choix = FamillesPaiement},
        Membre(&T::Famille)},
@@ -63,7 +50,7 @@ TFrmPaiement::TFrmPaiement(int indexMois) : TFrmDialogueDe(u"Ajout d'un paiement
 
 TFrmPaiement::TFrmPaiement(const TFraisEleve& paiement)
     : TFrmDialogueDe(u"Modification d'un paiement"_s, Table()) {
-  Saisi = {paiement.Remarque, paiement.MontantVerse, IndexDuMois(paiement.Mois),
+  Saisi = {paiement.Remarque, paiement.MontantVerse, IndiceMoisScolaire(paiement.Mois),
            static_cast<int>(paiement.TypeFamilleFrais), IndexDuGroupe(paiement.GroupeFraisId)};
   Montrer();
 }
@@ -71,7 +58,7 @@ TFrmPaiement::TFrmPaiement(const TFraisEleve& paiement)
 void TFrmPaiement::EcrireDans(TFraisEleve& paiement) const {
   paiement.Remarque = Saisi.Libelle;
   paiement.MontantVerse = Saisi.Montant;
-  if (Saisi.IndexMois >= 0) paiement.Mois = kMoisFacturation[static_cast<std::size_t>(Saisi.IndexMois)];
+  if (Saisi.IndexMois >= 0) paiement.Mois = kMoisScolaires[static_cast<std::size_t>(Saisi.IndexMois)];
   paiement.TypeFamilleFrais = static_cast<TTypeFamilleFrais>(Saisi.Famille);
   const bool perdu = paiement.GroupeFraisId > 0 && IndexDuGroupe(paiement.GroupeFraisId) == 0;
   if (Saisi.IndexGroupe > 0)

@@ -4,17 +4,12 @@
 
 #include "core/exceptions.h"
 #include "core/formats.h"
+#include "core/mois.h"
 #include "screens/payments/frm_attribution_virement.h"
 #include "screens/payments/frm_virement.h"
 #include "screens/payments/lignes_virement.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString AnneeEnTexte(int annee) { return u"%1-%2"_s.arg(annee).arg(annee + 1); }
-
-}  // namespace
 
 bool TFrmVirement::EstComptabilise(const TExtrait& extrait) const {
   return Globals.Eleves->ExtraitVersEleve(extrait.Id) != 0;
@@ -131,7 +126,7 @@ void TFrmVirement::AttribuerAnnee(int pas) {
   TExtraits& extraits = contexte_.Controleur.Extraits();
   TExtrait* const extrait = Courant();
   const bool comptabilise = EstComptabilise(*extrait);
-  const QString annee = AnneeEnTexte(extraits.AnneeScolaire + pas);
+  const QString annee = AnneeCompacte(extraits.AnneeScolaire + pas);
   extraits.Deplacer(*extrait, extraits.AnneeScolaire + pas);  // refused, it stays where it is shown
   import_.Oublier(extrait);
   Globals.ExtraitsPrecedents.reset();
@@ -139,7 +134,7 @@ void TFrmVirement::AttribuerAnnee(int pas) {
   RemplirApercu();
   if (comptabilise)
     Signaler(TNiveauEtat::Alerte, u"Mouvement attribué à %1 ; son paiement reste en %2"_s.arg(
-                                      annee, AnneeEnTexte(extraits.AnneeScolaire)));
+                                      annee, AnneeCompacte(extraits.AnneeScolaire)));
   else
     Signaler(TNiveauEtat::Succes, QString(u"Mouvement attribué à " % annee));
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/accord.h"
+#include "core/mois.h"
 #include "screens/principal/arbre_eleves.h"
 #include "screens/pupils/frm_signaletique.h"
 
@@ -59,8 +60,6 @@ QString CombienEleves(int annee, int nombre) {
 }
 
 }  // namespace
-
-QString AnneeEnTexte(int annee) { return u"%1 - %2"_s.arg(annee).arg(annee + 1); }
 
 TFrmMain::TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge& horloge,
                    IFenetreModale& modale, IApercu& apercu)

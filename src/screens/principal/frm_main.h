@@ -207,6 +207,3 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   TLiens liens_;
   TLien ecran_;  ///< the screen in front
 };
-
-/// "2018 - 2019"
-QString AnneeEnTexte(int annee);

@@ -2,6 +2,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "core/mois.h"
 #include "screens/principal/frm_main.h"
 #include "services/tarifs_garderies.h"
 

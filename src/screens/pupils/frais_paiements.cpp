@@ -2,7 +2,6 @@
 
 #include "core/formats.h"
 #include "core/mois.h"
-#include "documents/periode.h"
 #include "payments/paiements.h"
 #include "pupils/eleves.h"
 #include "services/frais_eleve.h"
@@ -74,7 +73,7 @@ void TFraisPaiements::AjouterFrais(const TEleve& eleve) {
 // was paid stays in sight when its services have come to nothing, so that the payment can be taken back.
 void TFraisPaiements::AjouterServices(const TEleve& eleve) {
   const TPaiements* paiements = eleve.Eleves->Paiements;
-  for (const int mois : kMoisFacturation) {
+  for (const int mois : kMoisScolaires) {
     const Currency du =
         std::max(Currency(), eleve.CoutServicesPeriode(BornesMois(mois, eleve.Eleves->AnneeScolaire)));
     TPaiement* paye = paiements != nullptr ? paiements->PaiementMois(eleve.Id, mois) : nullptr;

@@ -175,7 +175,7 @@ TEtatGrille TFrmSignaletique::EtatSolde() const {
 }
 
 void TFrmSignaletique::cmbMoisChange(int indice) {
-  if (indice < 0 || indice >= std::ssize(kMoisFacturation) || indice == indiceMois_) return;
+  if (indice < 0 || indice >= std::ssize(kMoisScolaires) || indice == indiceMois_) return;
   indiceMois_ = indice;
   if (avecEleve_ && Globals.EleveCourant != nullptr) RemplirReleve(*Globals.EleveCourant);
   Annoncer();

@@ -2,7 +2,7 @@
 #include <QImage>
 
 #include "core/distributor.h"
-#include "documents/periode.h"
+#include "core/mois.h"
 #include "screens/attendance/frm_releve_calendrier.h"
 #include "screens/documents/imprimeur.h"
 #include "screens/pupils/champs_eleve.h"
@@ -78,7 +78,7 @@ class TFrmSignaletique : public TForm {
   // The month of the list, 0 for September to 9 for June.
   int IndiceMois() const { return indiceMois_; }
   /// The same, 1 to 12.
-  int MoisVu() const { return kMoisFacturation[static_cast<std::size_t>(indiceMois_)]; }
+  int MoisVu() const { return kMoisScolaires[static_cast<std::size_t>(indiceMois_)]; }
   void cmbMoisChange(int indice);
   /// Instead of a list without a row: "Aucun relevé en novembre"; else "".
   QString TexteSansReleve() const;

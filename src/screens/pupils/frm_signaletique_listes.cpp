@@ -3,7 +3,6 @@
 #include "core/formats.h"
 #include "core/mois.h"
 #include "documents/accueil_extrascolaire.h"
-#include "documents/periode.h"
 #include "payments/paiements.h"
 #include "pupils/eleves.h"
 #include "screens/attendance/frm_ajout_releve.h"

@@ -4,7 +4,7 @@
 
 #include "core/exceptions.h"
 #include "core/formats.h"
-#include "documents/periode.h"
+#include "core/mois.h"
 #include "pupils/eleves.h"
 #include "screens/payments/frm_attribution_compte.h"
 #include "screens/pupils/frm_signaletique.h"
@@ -131,7 +131,7 @@ void TFrmSignaletique::DonnerCompte(TEleve& eleve, const QString& numero, const 
 
 void TFrmSignaletique::cbMaitreClick(int groupe, bool coche) {
   std::vector<int> mois;
-  for (int indice = 0; indice < std::ssize(kMoisFacturation); ++indice) mois.push_back(indice);
+  for (int indice = 0; indice < std::ssize(kMoisScolaires); ++indice) mois.push_back(indice);
   MarquerMois(groupe, mois, coche);
 }
 
@@ -142,7 +142,7 @@ void TFrmSignaletique::MarquerMois(int groupe, const std::vector<int>& mois, boo
   TPresencesParticulieres& marques = *Globals.PresencesParticulieres;
   const int eleve = Globals.EleveCourant->Id;
   for (const int indice : mois) {
-    const int numero = kMoisFacturation[static_cast<std::size_t>(indice)];
+    const int numero = kMoisScolaires[static_cast<std::size_t>(indice)];
     if (!coche) {
       marques.RetireMarque(quoi.Type, eleve, numero);
       continue;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "documents/periode.h"
+#include "core/mois.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +18,6 @@ std::array<TGroupeMois, 3> GroupesMois() {
 
 void LireMarques(std::array<TGroupeMois, 3>& groupes, const TPresencesParticulieres& marques, int eleve) {
   for (TGroupeMois& groupe : groupes)
-    for (std::size_t i = 0; i < kMoisFacturation.size(); ++i)
-      groupe.Mois[i] = marques.Marque(groupe.Type, eleve, kMoisFacturation[i]) != nullptr;
+    for (std::size_t i = 0; i < kMoisScolaires.size(); ++i)
+      groupe.Mois[i] = marques.Marque(groupe.Type, eleve, kMoisScolaires[i]) != nullptr;
 }

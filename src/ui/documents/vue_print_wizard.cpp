@@ -12,7 +12,6 @@
 #include <QStackedWidget>
 
 #include "core/mois.h"
-#include "documents/periode.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/saisie.h"

@@ -3,6 +3,7 @@
 #include <QActionGroup>
 #include <QMenu>
 
+#include "core/mois.h"
 #include "screens/principal/frm_main.h"
 #include "ui/commun/acces_bouton.h"
 #include "ui/commun/theme.h"

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 
+#include "core/mois.h"
 #include "screens/principal/frm_main.h"
 #include "ui/commun/marque_etat.h"
 

@@ -10,6 +10,7 @@
 #include <QToolTip>
 #include <QTreeView>
 
+#include "core/mois.h"
 #include "screens/principal/frm_main.h"
 #include "ui/commun/etiquette.h"
 #include "ui/principal/modele_arbre.h"

@@ -1,5 +1,6 @@
 #include "ui/principal/vue_accueil.h"
 
+#include "core/mois.h"
 #include "screens/principal/frm_main.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/etiquette.h"
