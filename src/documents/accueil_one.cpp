@@ -192,9 +192,10 @@ TArbreRapport PlusieursLieux(const TContexteDocument& contexte, const TPeriode& 
   for (const TImplantation& site : *contexte.Eleves.Implantations) {
     const QString code = CodeSite(site.Code);
     if (code == kSiteExclu) continue;
-    TValeurs& valeurs = arbre.emplace_back(site.LibelleCourt).Valeurs;
-    valeurs.Ecrire(u"TitreLieu", contexte.Parametres.GetParametre(TParam::NomEcole) % u" - Implantation " %
-                                     site.LibelleCourt);
+    const QString nom = contexte.Eleves.LibelleImplantation(site.Code);
+    TValeurs& valeurs = arbre.emplace_back(nom).Valeurs;
+    valeurs.Ecrire(u"TitreLieu",
+                   contexte.Parametres.GetParametre(TParam::NomEcole) % u" - Implantation " % nom);
     valeurs.Ecrire(u"AdresseLieu", site.AdresseComplete());
     const TTotauxOne totaux = RemplirLieu(
         trimestre, jours.value(code), maximumParJour,

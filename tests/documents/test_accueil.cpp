@@ -76,7 +76,9 @@ TEST_F(TAccueilEssai, UnePageParImplantation) {
     const TResultat resultat = One();
     const TRapport& rapport = resultat.Rapports.at(0);
     ASSERT_EQ(rapport.Arbre().size(), 2U) << "one site is on no form";
-    EXPECT_EQ(Valeurs(rapport.Arbre()[0].Valeurs, kTotaux), u"0 0 0 0 0"_s);
+    EXPECT_EQ(Valeurs(rapport.Arbre()[0].Valeurs, kTotaux + QStringList{u"TitreLieu"_s}),
+              u"0 0 0 0 0 École - Implantation 100"_s)
+        << "a site has its code until it is named";
     EXPECT_EQ(Valeurs(rapport.Arbre()[1].Valeurs, kTotaux + QStringList{u"TOTM1J3"_s, u"TitreLieu"_s}),
               QString(totaux % u" 1 École - Implantation Haut"));
     QStringList suffixes, sommes;
