@@ -6,6 +6,7 @@
 
 #include "core/conversions.h"
 #include "core/exceptions.h"
+#include "documents/periode.h"
 #include "pupils/eleves.h"
 
 using namespace Qt::StringLiterals;
@@ -69,6 +70,12 @@ QString TSession::UneSeule(const QStringList& noms) const {
 
 TDateTime TSession::Date(const QString& option) const { return StrToDate(Option(option)); }
 
+TPeriode TSession::LirePeriode() const {
+  const TPeriode periode{Date(u"du"_s), Date(u"au"_s)};
+  if (const QString faute = FautePeriode(periode); !faute.isEmpty()) throw Exception(faute);
+  return periode;
+}
+
 int TSession::Mois() const {
   const int mois = StrToInt(Option(u"mois"_s));
   if (mois < 1 || mois > 12) throw Exception(u"Le mois est un nombre de 1 à 12."_s);
@@ -79,7 +86,7 @@ TPeriode TSession::Periode() const {
   const int annee = Globals.Eleves->AnneeScolaire;
   const QString choix = UneSeule({u"mois"_s, u"du"_s, u"annee-scolaire"_s});
   if (A(u"au"_s) && choix != u"du") throw Exception(u"L'option --au demande --du."_s);
-  if (choix == u"du") return {Date(u"du"_s), Date(u"au"_s)};
+  if (choix == u"du") return LirePeriode();
   if (choix == u"annee-scolaire") return BornesAnnee(annee);
   return BornesMois(Mois(), annee);
 }

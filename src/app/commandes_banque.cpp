@@ -20,8 +20,8 @@ int ReleveSec(const TSession& session) {
   if (!preuves.isEmpty()) session.Dialogues.Information(preuves);
   TCsv csv(u"date;montant;compte;donneur;communication"_s.split(u';'));
   for (const TMouvement& m : releve->Mouvements)
-    csv.Ligne({DateVersQt(m.Date).toString(Qt::ISODate), FormatQuatreDecimales(m.Montant), m.Compte,
-               m.Donneur, CommunicationNormalisee(m.Communication)});
+    csv.Ligne({DateIso(m.Date), FormatQuatreDecimales(m.Montant), m.Compte, m.Donneur,
+               CommunicationNormalisee(m.Communication)});
   return 0;
 }
 
@@ -61,9 +61,9 @@ QString NomEtat(TEtatMouvement etat) {
 QStringList Pour(const std::vector<TAttribution>& attributions) {
   QStringList eleves, mois, familles;
   for (const TAttribution& attribution : attributions) {
-    eleves += QString::number(attribution.EleveId);
-    mois += QString::number(attribution.Mois);
-    familles += QString::number(static_cast<int>(attribution.Famille));
+    eleves += Nombre(attribution.EleveId);
+    mois += Nombre(attribution.Mois);
+    familles += Nombre(static_cast<int>(attribution.Famille));
   }
   return {eleves.join(u','), mois.join(u','), familles.join(u',')};
 }
@@ -75,8 +75,7 @@ int Extraits(TSession& session) {
   for (const TExtrait& extrait : session.Controleur.Extraits()) {
     const auto credit = attributions.find(extrait.Id);
     const QStringList pour = credit != attributions.end() ? Pour(credit->second) : QStringList(3);
-    csv.Ligne(QStringList{QString::number(extrait.Id), extrait.DonneurOrdre,
-                          DateVersQt(extrait.DateVirement).toString(Qt::ISODate),
+    csv.Ligne(QStringList{Nombre(extrait.Id), extrait.DonneurOrdre, DateIso(extrait.DateVirement),
                           FormatQuatreDecimales(extrait.Montant), extrait.Communication,
                           extrait.NumCptDonneur, NomEtat(EtatExtrait(extrait))} +
               pour);

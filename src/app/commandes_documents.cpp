@@ -29,7 +29,7 @@ void Choisir(const TSession& session, TChoixDocument& choix) {
   else if (qui == u"classes")
     ChoisirClasses(session.Option(qui).split(u',', Qt::SkipEmptyParts), choix);
   else
-    for (TEleve& eleve : *Globals.Eleves) choix.Eleves.push_back(&eleve);
+    choix.Eleves = Globals.Eleves->Tous();
   if (choix.Eleves.empty() && choix.Classes.empty()) throw Exception(u"Aucun élève n'a été sélectionné !"_s);
 }
 

@@ -25,7 +25,7 @@ int Registre(TSession& session) {
   }
   const TBilanRegistre bilan = import.Etape2();
   TCsv csv({u"lignes"_s, u"crees"_s, u"modifies"_s});
-  csv.Ligne({QString::number(bilan.Lignes), QString::number(bilan.Crees), QString::number(bilan.Modifies)});
+  csv.Ligne({Nombre(bilan.Lignes), Nombre(bilan.Crees), Nombre(bilan.Modifies)});
   return 0;
 }
 
@@ -33,7 +33,7 @@ QStringList LignePresence(const QString& etat, const QString& matricule, const T
   return {etat,
           matricule,
           DateIso(presence.DateReleve),
-          QString::number(static_cast<int>(presence.TypePresence)),
+          Nombre(static_cast<int>(presence.TypePresence)),
           FormatHeureCourte(presence.HeureEntree),
           FormatHeureCourte(presence.HeureSortie)};
 }
@@ -50,7 +50,7 @@ int Presences(TSession& session) {
       if (a.Presence)
         csv.Ligne(LignePresence(u"sans_tarif"_s, a.Matricule, *a.Presence));
       else
-        csv.Ligne({u"inconnu"_s, a.Matricule, DateIso(a.Date), QString::number(a.TypePresence),
+        csv.Ligne({u"inconnu"_s, a.Matricule, DateIso(a.Date), Nombre(a.TypePresence),
                    FormatHeureCourte(a.Entree), FormatHeureCourte(a.Sortie)});
     }
   }
@@ -75,7 +75,7 @@ int Couts(TSession& session) {
   TCsv csv(u"eleve_id;service;montant"_s.split(u';'));
   for (const TEleve& eleve : *Globals.Eleves) {
     const auto ligne = [&](const QString& service, Currency montant) {
-      csv.Ligne({QString::number(eleve.Id), service, FormatQuatreDecimales(montant)});
+      csv.Ligne({Nombre(eleve.Id), service, FormatQuatreDecimales(montant)});
     };
     TLignesService lignes;
     for (const TServiceCsv& service : kServices)
@@ -89,7 +89,7 @@ int Solde(TSession& session) {
   session.Ouvrir();
   TCsv csv(u"eleve_id;frais;services;total"_s.split(u';'));
   for (TEleve& eleve : *Globals.Eleves)
-    csv.Ligne({QString::number(eleve.Id), FormatQuatreDecimales(eleve.Solde(true, false)),
+    csv.Ligne({Nombre(eleve.Id), FormatQuatreDecimales(eleve.Solde(true, false)),
                FormatQuatreDecimales(eleve.Solde(false, true)),
                FormatQuatreDecimales(eleve.Solde(true, true))});
   return 0;

@@ -17,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Nombre(int nombre) { return QString::number(nombre); }
-
 /// The day at work: of --jour, else today.
 TDateTime Jour(const TSession& session) { return session.Controleur.Horloge().Aujourdhui(); }
 
@@ -28,8 +26,7 @@ const TGenerationRepas& GenerationDe(const TSession& session) {
 
 /// Every pupil of the year; their tickets are read in one statement.
 std::vector<TEleve*> ElevesAvecTickets() {
-  std::vector<TEleve*> eleves;
-  for (TEleve& eleve : *Globals.Eleves) eleves.push_back(&eleve);
+  std::vector<TEleve*> eleves = Globals.Eleves->Tous();
   Globals.Eleves->LireTickets(eleves);
   return eleves;
 }
@@ -83,7 +80,7 @@ void EcrireVentes(TCsv& csv, const TVentesJour& jour, const QString& type) {
 }
 
 int TicketsVentes(TSession& session) {
-  const TPeriode periode{session.Date(u"du"_s), session.Date(u"au"_s)};
+  const TPeriode periode = session.LirePeriode();
   session.Ouvrir();
   TCsv csv(
       u"type;date;eleve_id;nombre_maternelle;prix_maternelle;montant_maternelle;nombre_primaire;"
@@ -214,7 +211,7 @@ std::vector<TCommande*> CommandesTriees(const TPeriode& periode) {
 }
 
 int ListeCommandes(TSession& session) {
-  const TPeriode periode{session.Date(u"du"_s), session.Date(u"au"_s)};
+  const TPeriode periode = session.LirePeriode();
   session.Ouvrir();
   TCsv csv(
       u"commande_id;eleve_id;date;repas;dago;sandwich;jambon;fromage;jambon_fromage;beurre;mayonnaise;"

@@ -6,6 +6,7 @@
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
+#include "core/mois.h"
 #include "documents/accueil_extrascolaire.h"
 #include "documents/statistiques.h"
 #include "pupils/eleves.h"
@@ -20,8 +21,6 @@ namespace {
 TContexteDocument Contexte(const TSession& session) {
   return ContexteDesGlobals(session.Controleur.Horloge());
 }
-
-QString DateIso(TDateTime date) { return DateVersQt(date).toString(Qt::ISODate); }
 
 /// The report is made only when a file of it is asked for.
 template <class TFaire>
@@ -45,13 +44,13 @@ TCriteresImpayes Criteres(const TSession& session) {
   if (choix == u"annee-scolaire") return criteres;
   criteres.Etendue = choix == u"mois" ? TEtendue::Mois : TEtendue::Jusque;
   criteres.Mois = StrToInt(session.Option(choix));
-  if (criteres.Mois < 1 || criteres.Mois > 12 || criteres.Mois == 7 || criteres.Mois == 8)
+  if (IndiceMoisScolaire(criteres.Mois) < 0)
     throw Exception(u"Le mois est un mois de l'année scolaire : de 9 à 12, ou de 1 à 6."_s);
   return criteres;
 }
 
 QStringList DebutLigne(const TEleve& eleve) {
-  return {QString::number(eleve.Id), eleve.Nom, eleve.Prenom, eleve.LibelleClasse()};
+  return {Nombre(eleve.Id), eleve.Nom, eleve.Prenom, eleve.LibelleClasse()};
 }
 
 void Exporter(TSession& session, const std::vector<TMontantEleve>& lignes,
@@ -97,14 +96,13 @@ int ListePositives(TSession& session) {
 }
 
 int Passages(TSession& session) {
-  const TPeriode periode{session.Date(u"du"_s), session.Date(u"au"_s)};
+  const TPeriode periode = session.LirePeriode();
   session.Ouvrir();
   TCsv csv(u"eleve_id;date;type;entree;sortie"_s.split(u';'));
   for (const TEleve* eleve : ElevesPresents(*Globals.Eleves, periode))
     for (const TPresence* p : Globals.Presences->PresencesEleve(eleve->Id, periode))
-      csv.Ligne({QString::number(eleve->Id), DateIso(p->DateReleve),
-                 QString::number(static_cast<int>(p->TypePresence)), FormatHeureCourte(p->HeureEntree),
-                 FormatHeureCourte(p->HeureSortie)});
+      csv.Ligne({Nombre(eleve->Id), DateIso(p->DateReleve), Nombre(static_cast<int>(p->TypePresence)),
+                 FormatHeureCourte(p->HeureEntree), FormatHeureCourte(p->HeureSortie)});
   return 0;
 }
 
@@ -113,11 +111,10 @@ int Annuel(TSession& session) {
   session.Ouvrir();
   const TReleveAnnuel releve = ReleveAnnuel();
   TCsv csv(u"rubrique;valeur"_s.split(u';'));
-  for (const auto& [mois, montant] : releve.Mois)
-    csv.Ligne({QString::number(mois), FormatQuatreDecimales(montant)});
+  for (const auto& [mois, montant] : releve.Mois) csv.Ligne({Nombre(mois), FormatQuatreDecimales(montant)});
   csv.Ligne({u"total"_s, FormatQuatreDecimales(releve.Total)});
-  csv.Ligne({u"repas_maternelle"_s, QString::number(releve.RepasMaternelle)});
-  csv.Ligne({u"repas_primaire"_s, QString::number(releve.RepasPrimaire)});
+  csv.Ligne({u"repas_maternelle"_s, Nombre(releve.RepasMaternelle)});
+  csv.Ligne({u"repas_primaire"_s, Nombre(releve.RepasPrimaire)});
   return Sortir(session, u"Relevé annuel"_s, [&] {
     TGrille grille = GrilleAnnuelle();
     Remplir(grille, releve);
@@ -137,15 +134,14 @@ int Paiements(TSession& session) {
   TCsv csv(u"eleve_id;classe;total;remarque;montant"_s.split(u';'));
   for (const TPaiementsEleve& ligne : lignes)
     for (const TGroupeFraisDetailPaiement* detail : ligne.Details)
-      csv.Ligne({QString::number(ligne.Eleve->Id), ligne.Eleve->LibelleClasse(),
-                 FormatQuatreDecimales(ligne.Total), detail->Remarque,
-                 FormatQuatreDecimales(detail->MontantVerse)});
+      csv.Ligne({Nombre(ligne.Eleve->Id), ligne.Eleve->LibelleClasse(), FormatQuatreDecimales(ligne.Total),
+                 detail->Remarque, FormatQuatreDecimales(detail->MontantVerse)});
   return Sortir(session, u"Relevé des paiements"_s,
                 [&] { return ImprimerPaiements(Contexte(session), libelle, lignes); });
 }
 
 int Fiscales(TSession& session) {
-  const TPeriode periode{session.Date(u"du"_s), session.Date(u"au"_s)};
+  const TPeriode periode = session.LirePeriode();
   VerifierFichiers(session);
   session.Ouvrir();
   const std::vector<TLigneFiscale> lignes = StatistiquesFiscales(*Globals.Eleves, periode);
@@ -179,9 +175,8 @@ int Frais(TSession& session) {
   const std::vector<TLigneFrais> coches = Coches(session, lignes);
   TCsv csv(u"listefrais_id;libelle;eleves;mois;cout;total"_s.split(u';'));
   for (const auto& [frais, eleves, total] : lignes)
-    csv.Ligne({QString::number(frais->Id), frais->Libelle, QString::number(eleves),
-               QString::number(frais->Mois), FormatQuatreDecimales(frais->Cout),
-               FormatQuatreDecimales(total)});
+    csv.Ligne({Nombre(frais->Id), frais->Libelle, Nombre(eleves), Nombre(frais->Mois),
+               FormatQuatreDecimales(frais->Cout), FormatQuatreDecimales(total)});
   return Sortir(session, u"Statistique des frais"_s,
                 [&] { return ImprimerFrais(Contexte(session), coches); });
 }
@@ -194,17 +189,15 @@ QString JourIso(const QString& jour) {
 
 int Attestations(TSession& session) {
   session.Ouvrir();
-  std::vector<TEleve*> tous;
-  for (TEleve& eleve : *Globals.Eleves) tous.push_back(&eleve);
   TAttestations attestations(*Globals.Eleves, *Globals.Parametres, Globals.AnneeScolaire);
   QStringList messages;
-  const std::vector<TFeuilleAttestation> feuilles = attestations.Feuilles(tous, messages);
+  const std::vector<TFeuilleAttestation> feuilles = attestations.Feuilles(Globals.Eleves->Tous(), messages);
   for (const QString& message : messages) session.Dialogues.Message(message);
   TCsv csv(u"eleve_id;responsable;numero;montant;debut;fin;remarque"_s.split(u';'));
   for (const TFeuilleAttestation& f : feuilles)
-    csv.Ligne({QString::number(f.Eleve->Id), QString::number(f.Responsable),
-               QString::number(f.Eleve->NumAttestation), FormatQuatreDecimales(f.Montant),
-               JourIso(f.DateDebut), JourIso(f.DateFinReel), f.Remarques.join(u" ; "_s)});
+    csv.Ligne({Nombre(f.Eleve->Id), Nombre(f.Responsable), Nombre(f.Eleve->NumAttestation),
+               FormatQuatreDecimales(f.Montant), JourIso(f.DateDebut), JourIso(f.DateFinReel),
+               f.Remarques.join(u" ; "_s)});
   return 0;
 }
 
@@ -214,12 +207,14 @@ int Transferer(TSession& session, TSensTransfert sens) {
   const int travail = Globals.AnneeScolaire;
   const QString refus = RefusTransfert(*Globals.Eleves, travail);
   if (!refus.isEmpty()) throw Exception(refus);
+  if (!session.Dialogues.Confirmer(QuestionTransfert(sens, u"tous les élèves"_s, travail))) {
+    session.Dialogues.Message(u"Rien n'a été transféré."_s);
+    return 1;
+  }
   TCsv csv(u"eleve_id;montant"_s.split(u';'));
-  if (!session.Dialogues.Confirmer(QuestionTransfert(sens, travail))) return 0;
-  std::vector<TEleve*> tous;
-  for (TEleve& eleve : *Globals.Eleves) tous.push_back(&eleve);
-  for (const auto& [eleve, solde] : TransfererSoldes(*Globals.Eleves, travail, tous, sens))
-    csv.Ligne({QString::number(eleve->Id), FormatQuatreDecimales(solde)});
+  TransfererSoldes(*Globals.Eleves, travail, Globals.Eleves->Tous(), sens, [&](const TMontantEleve& reporte) {
+    csv.Ligne({Nombre(reporte.Eleve->Id), FormatQuatreDecimales(reporte.Montant)});
+  });
   return 0;
 }
 

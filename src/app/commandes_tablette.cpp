@@ -10,7 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Nombre(int nombre) { return QString::number(nombre); }
 QString OuiNon(bool oui) { return oui ? u"1"_s : u"0"_s; }
 
 int Reglage(TSession& session) {

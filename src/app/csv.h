@@ -14,5 +14,8 @@ class TCsv {
   static void EcrireLigne(const QString& texte);
 };
 
+// What stands in the fields.
+
 /// "2016-09-01"; "" for 0.
 QString DateIso(TDateTime date);
+inline QString Nombre(int nombre) { return QString::number(nombre); }

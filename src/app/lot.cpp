@@ -39,10 +39,15 @@ class THorlogeDuJour : public THorloge {
   TDateTime ecart_ = 0.0;  // whole days
 };
 
-QString Usage() {
-  QString texte = u"Usage : calpenne-lot [--serveur S] [--annee A] [--oui] COMMANDE\n"_s;
-  for (const TCommandeLot& commande : Commandes()) texte += u"  " + commande.Ligne() + u'\n';
-  return texte.trimmed();
+/// How the commands are called: those that begin with that word; all when none does.
+QString Usage(const QString& mot = {}) {
+  QStringList toutes, famille;
+  for (const TCommandeLot& commande : Commandes()) {
+    toutes += u"  " + commande.Ligne();
+    if (QString(commande.Ligne() + u' ').startsWith(mot + u' ')) famille += toutes.last();
+  }
+  return u"Usage : calpenne-lot [--serveur S] [--annee A] [--oui] COMMANDE\n" +
+         (famille.isEmpty() ? toutes : famille).join(u'\n');
 }
 
 int Lancer(const TCommandeLot& commande, const QCommandLineParser& options, const QStringList& arguments,
@@ -76,7 +81,7 @@ int Executer(const QCommandLineParser& options, TDialoguesTerminal& dialogues) {
   if (commande == nullptr || options.isSet(u"aide"_s)) {
     if (!mots.isEmpty() && commande == nullptr)
       dialogues.Message(u"Il n'y a pas de commande « %1 »."_s.arg(mots.join(u' ')));
-    dialogues.Message(Usage());
+    dialogues.Message(Usage(mots.value(0)));
     return options.isSet(u"aide"_s) ? kReussi : kMauvaisAppel;
   }
   const QStringList arguments = mots.mid(QByteArray(commande->Nom).count(' ') + 1);

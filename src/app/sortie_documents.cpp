@@ -1,6 +1,7 @@
 #include "app/sortie_documents.h"
 
 #include <QFileInfo>
+#include <QMap>
 
 #include "core/exceptions.h"
 #include "core/fichiers.h"
@@ -58,15 +59,18 @@ bool MettreEnPdf(TSession& session, const QString& titre, const TResultat& resul
 }  // namespace
 
 void VerifierFichiers(const TSession& session) {
-  if (!session.A(u"pdf"_s) || !session.A(u"json"_s)) return;
-  const QFileInfo pdf(session.Option(u"pdf"_s)), json(session.Option(u"json"_s));
-  const auto chemin = [](const QFileInfo& fichier) {
+  QMap<QString, QString> options;  // by the path of their file
+  for (const QString& option : {u"serveur"_s, u"pdf"_s, u"json"_s, u"export"_s}) {
+    const QFileInfo fichier(session.Options.value(option));
+    if (!session.A(option) || (fichier.exists() && !fichier.isFile())) continue;
     const QString dossier = QFileInfo(fichier.absolutePath()).canonicalFilePath();
-    return fichier.exists() ? fichier.canonicalFilePath() : dossier % u'/' % fichier.fileName();
-  };
-  const bool appareil = pdf.exists() && !pdf.isFile();
-  if (!appareil && chemin(pdf) == chemin(json))
-    throw Exception(u"Donnez deux fichiers différents à --pdf et à --json."_s);
+    const QString chemin =
+        fichier.exists() ? fichier.canonicalFilePath() : QString(dossier % u'/' % fichier.fileName());
+    if (options.contains(chemin))
+      throw Exception(
+          u"Donnez deux fichiers différents à --%1 et à --%2."_s.arg(options.value(chemin), option));
+    options.insert(chemin, option);
+  }
 }
 
 int SortirDocument(TSession& session, const QString& titre, const TResultat& resultat, bool parClasses,

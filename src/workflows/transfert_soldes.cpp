@@ -1,8 +1,13 @@
 #include "workflows/transfert_soldes.h"
 
+#include <algorithm>
+
+#include "core/mois.h"
+#include "core/query_internal.h"
 #include "core/transaction_commune.h"
+#include "payments/paiements.h"
 #include "pupils/eleves.h"
-#include "services/frais_eleve.h"
+#include "workflows/memoriser.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,38 +30,78 @@ TFraisEleve& AjouterLigne(TAllFraisEleve& lignes, Currency montant, int mois, co
   return lignes.Add(std::move(ligne));
 }
 
-QString Annees(int annee) { return QString::number(annee) % u'-' % QString::number(annee + 1); }
+QString TexteChange(const TEleve& eleve) {
+  return u"Les paiements de %1 ont été changés par un autre poste : relisez les données (F5)."_s.arg(
+      eleve.NomComplet());
+}
 
-/// The two lines of a pupil: the balance arrives in one year and leaves the other.
-class TVirement {
+/// Whoever carries the same pupil at the same time waits here until this one is stored, and is then refused.
+void Reserver(TDataModule1& base, const TEleve& eleve) {
+  TQueryInternal(base, u"UPDATE ELEVES SET ELEVE_ID = ELEVE_ID WHERE ELEVE_ID = :eleve"_s)
+      .Parametre(u"eleve"_s, eleve.Id)
+      .Executer();
+}
+
+bool MemeLigne(const TFraisEleve& a, const TFraisEleve& b) {
+  return a.MontantVerse == b.MontantVerse && a.TypeFamilleFrais == b.TypeFamilleFrais &&
+         std::max(a.ListeFraisId, 0) == std::max(b.ListeFraisId, 0);
+}
+
+/// The ledger is what the table holds now.
+bool EstAJour(const TEleve& eleve) {
+  const TAllFraisEleve& lignes = *eleve.GetAllFrais();
+  const TAllFraisEleve table(eleve.Eleves->BaseDeDonnees(), eleve.Id, eleve.Eleves->AnneeScolaire, nullptr);
+  for (const TFraisEleve& ligne : table) {
+    const TFraisEleve* lue = lignes.ParCle(ligne.Id);
+    if (lue == nullptr || !MemeLigne(*lue, ligne)) return false;
+  }
+  return lignes.Count() == table.Count();
+}
+
+/// The two lines of a pupil: the balance arrives in one year and leaves the other. They go again unless they
+/// are stored.
+class TDeuxLignes {
  public:
-  TVirement(const TEleve& depart, const TEleve& arrivee, Currency solde, const QString& mot)
+  TDeuxLignes(const TEleve& depart, const TEleve& arrivee, Currency solde, const QString& mot)
       : depart_(*depart.GetAllFrais()),
         arrivee_(*arrivee.GetAllFrais()),
-        entree_(AjouterLigne(arrivee_, solde, kMoisArrivee,
-                             mot % kArrivee % Annees(depart.Eleves->AnneeScolaire))),
-        sortie_(AjouterLigne(depart_, -solde, kMoisDepart,
-                             mot % kDepart % Annees(arrivee.Eleves->AnneeScolaire))) {}
+        entree_(&AjouterLigne(arrivee_, solde, kMoisArrivee,
+                              mot % kArrivee % AnneeCompacte(depart.Eleves->AnneeScolaire))),
+        sortie_(&AjouterLigne(depart_, -solde, kMoisDepart,
+                              mot % kDepart % AnneeCompacte(arrivee.Eleves->AnneeScolaire))) {}
+  ~TDeuxLignes() {
+    if (rangees_) return;
+    arrivee_.Forget(*entree_);
+    depart_.Forget(*sortie_);
+  }
+  TDeuxLignes(const TDeuxLignes&) = delete;
+  TDeuxLignes& operator=(const TDeuxLignes&) = delete;
 
-  void Ranger(TDataModule1& base) {
-    try {
-      TTransactionCommune ensemble(base);
-      arrivee_.Save();
-      depart_.Save();
-      ensemble.Valider();
-    } catch (...) {
-      arrivee_.Forget(entree_);
-      depart_.Forget(sortie_);
-      throw;
+  void Ranger(TTransactionCommune& ensemble) {
+    for (auto [lignes, ligne] : {std::pair(&arrivee_, entree_), std::pair(&depart_, sortie_)}) {
+      lignes->Save();
+      ExigerCle(*ligne);
     }
+    ensemble.Valider();
+    rangees_ = true;
   }
 
  private:
   TAllFraisEleve& depart_;
   TAllFraisEleve& arrivee_;
-  TFraisEleve& entree_;
-  TFraisEleve& sortie_;
+  TFraisEleve* entree_;
+  TFraisEleve* sortie_;
+  bool rangees_ = false;
 };
+
+/// What a pupil paid is looked at again when nobody else can carry it any more.
+void Reporter(const TEleve& depart, const TEleve& arrivee, Currency solde, const QString& mot) {
+  TDataModule1& base = depart.Eleves->BaseDeDonnees();
+  TTransactionCommune ensemble(base);
+  Reserver(base, depart);
+  if (!EstAJour(depart)) throw Exception(TexteChange(depart));
+  TDeuxLignes(depart, arrivee, solde, mot).Ranger(ensemble);
+}
 
 }  // namespace
 
@@ -72,28 +117,29 @@ TReport ReportDe(const TFraisEleve& ligne) {
 QString RefusTransfert(const TEleves& eleves, int anneeTravail) {
   if (eleves.AnneeScolaire != anneeTravail) return {};
   return u"L'année affichée est l'année de travail %1 : affichez d'abord l'année dont les soldes sont à "
-         u"reporter."_s.arg(Annees(anneeTravail));
+         u"reporter."_s.arg(AnneeCompacte(anneeTravail));
 }
 
-QString QuestionTransfert(TSensTransfert sens, int anneeTravail) {
+QString QuestionTransfert(TSensTransfert sens, const QString& deQui, int anneeTravail) {
   const QString quoi = sens == TSensTransfert::Positifs ? u"positifs"_s : u"négatifs"_s;
-  return u"Voulez-vous transférer les soldes %1 vers l'année scolaire %2 ?"_s.arg(quoi, Annees(anneeTravail));
+  return u"Voulez-vous transférer les soldes %1 de %2 vers l'année scolaire %3 ?"_s.arg(
+      quoi, deQui, AnneeCompacte(anneeTravail));
 }
 
-std::vector<TMontantEleve> TransfererSoldes(const TEleves& eleves, int anneeTravail,
-                                            const std::vector<TEleve*>& lesquels, TSensTransfert sens) {
+void TransfererSoldes(const TEleves& eleves, int anneeTravail, const std::vector<TEleve*>& lesquels,
+                      TSensTransfert sens, const std::function<void(const TMontantEleve&)>& reporte) {
   const TEleves travail(eleves.BaseDeDonnees(), anneeTravail);
+  const TPaiements paiements(eleves.BaseDeDonnees(), eleves.AnneeScolaire);
   const bool positifs = sens == TSensTransfert::Positifs;
   eleves.LireFrais(lesquels);
-  std::vector<TMontantEleve> reportes;
   for (const TEleve* ligne : lesquels) {
     TEleve* eleve = eleves.TrouverParId(ligne->Id);  // who is enrolled twice has one account
     const Currency solde = eleve->Solde(true, true);
     const bool concerne = positifs ? solde > Currency() : solde < Currency();
     const TEleve* arrivee = concerne ? travail.TrouverParId(eleve->Id) : nullptr;
     if (arrivee == nullptr) continue;
-    TVirement(*eleve, *arrivee, solde, positifs ? kTransfert : kReport).Ranger(eleves.BaseDeDonnees());
-    reportes.push_back({eleve, solde});
+    if (eleve->PaiementsAnnee() != paiements.TotalPaiements(eleve->Id)) throw Exception(TexteChange(*eleve));
+    Reporter(*eleve, *arrivee, solde, positifs ? kTransfert : kReport);
+    reporte({eleve, solde});
   }
-  return reportes;
 }

@@ -1,4 +1,6 @@
 #pragma once
+#include <functional>
+
 #include "services/frais_eleve.h"
 #include "workflows/statistiques.h"
 
@@ -18,11 +20,13 @@ TReport ReportDe(const TFraisEleve& ligne);
 /// opposite would meet.
 QString RefusTransfert(const TEleves& eleves, int anneeTravail);
 
-/// Before anything is carried: "Voulez-vous transférer les soldes positifs vers l'année scolaire 2017-2018 ?"
-QString QuestionTransfert(TSensTransfert sens, int anneeTravail);
+/// Before anything is carried: "Voulez-vous transférer les soldes positifs de 12 élèves vers l'année scolaire
+/// 2017-2018 ?"
+QString QuestionTransfert(TSensTransfert sens, const QString& deQui, int anneeTravail);
 
 /// Carries the balances of that sign of those pupils of the year on display, each by a free line in both
-/// years that are stored together or not at all; a pupil who is not in the working year keeps his. Gives
-/// those who were carried, with the balance and its sign. Raises Exception; who was carried before stays so.
-std::vector<TMontantEleve> TransfererSoldes(const TEleves& eleves, int anneeTravail,
-                                            const std::vector<TEleve*>& lesquels, TSensTransfert sens);
+/// years that are stored together or not at all; a pupil who is not in the working year keeps his. `reporte`
+/// is told of each who was carried, with the balance and its sign. Raises Exception, also when somebody
+/// else has changed what a pupil paid since it was read; who was carried before stays so.
+void TransfererSoldes(const TEleves& eleves, int anneeTravail, const std::vector<TEleve*>& lesquels,
+                      TSensTransfert sens, const std::function<void(const TMontantEleve&)>& reporte);

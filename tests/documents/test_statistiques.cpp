@@ -89,13 +89,24 @@ TEST_F(TStatistiquesEssai, LesSoldesPassentUneFois) {
   for (const int id : {anne.Id, leo.Id}) TEleveEssai(suivante, id).enClasse(u"P4"_s, u"A"_s);
   ecole.parametre(27, u"2017"_s);
   controleur.Charger(2016);
-  std::vector<TEleve*> tous;
-  for (TEleve& eleve : *Globals.Eleves) tous.push_back(&eleve);
+  const std::vector<TEleve*> tous = Globals.Eleves->Tous();
   const auto transferer = [&](TSensTransfert sens) {
-    return Montants(TransfererSoldes(*Globals.Eleves, 2017, tous, sens));
+    std::vector<TMontantEleve> reportes;
+    TransfererSoldes(*Globals.Eleves, 2017, tous, sens, [&](const auto& un) { reportes.push_back(un); });
+    return Montants(reportes);
   };
   EXPECT_EQ(RefusTransfert(*Globals.Eleves, 2017), QString());
   EXPECT_FALSE(RefusTransfert(*Globals.Eleves, 2016).isEmpty());
+  for (const QString& sql :
+       {u"INSERT INTO PAIEMENTS (PAIEMENT_ID, ELEVE_ID, TYPE_PAIEMENT, MOIS, MONTANT, ANNEE_SCOLAIRE) "
+        "VALUES (99, 1, 7, 9, 1, 2016)"_s,
+        u"UPDATE FRAIS_ELEVE SET MONTANT_VERSE = 10 WHERE ELEVE_ID = 1"_s}) {
+    base.Sql(sql);
+    EXPECT_THROW(transferer(TSensTransfert::Positifs), Exception) << "paid elsewhere: " << sql.toStdString();
+    EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM FRAIS_ELEVE WHERE ELEVE_ID = 1"_s), u"1");
+    base.Sql(u"DELETE FROM PAIEMENTS"_s);
+  }
+  base.Sql(u"UPDATE FRAIS_ELEVE SET MONTANT_VERSE = 12.3456 WHERE ELEVE_ID = 1"_s);
   EXPECT_EQ(transferer(TSensTransfert::Positifs), u"ADAM 12,3456"_s) << "who left keeps his";
   EXPECT_EQ(transferer(TSensTransfert::Positifs), QString()) << "carried once";
   EXPECT_EQ(transferer(TSensTransfert::Negatifs), u"LEO -14"_s);

@@ -4,6 +4,7 @@
 #include "core/accord.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
+#include "core/mois.h"
 #include "pupils/eleves.h"
 #include "screens/documents/criteres_recapitulatif.h"
 #include "services/liste_frais.h"
@@ -44,9 +45,9 @@ namespace {
 
 /// The month of that day, when it is one of the year; else the whole year.
 TPeriode MoisOuAnnee(TDateTime jour, int annee) {
-  for (int mois = 1; mois <= 12; ++mois) {
+  for (const int mois : kMoisScolaires) {
     const TPeriode bornes = BornesMois(mois, annee);
-    if (mois != 7 && mois != 8 && jour >= bornes.Premier && jour <= bornes.Dernier) return bornes;
+    if (jour >= bornes.Premier && jour <= bornes.Dernier) return bornes;
   }
   return BornesAnnee(annee);
 }
@@ -62,10 +63,9 @@ std::vector<TTotalListe> NombreEtSomme(const std::vector<TMontantEleve>& lignes,
   return {{nombre, QString::number(lignes.size())}, {somme, FormatMontant(Somme(lignes))}};
 }
 
-QString Annees(int annee) { return QString::number(annee) % u'-' % QString::number(annee + 1); }
-
 QString TexteVide(const TPeriode& periode, const QString& texte) {
-  return periode.Premier > periode.Dernier ? u"La première date est après la seconde."_s : texte;
+  const QString faute = FautePeriode(periode);
+  return faute.isEmpty() ? texte : faute;
 }
 
 }  // namespace
@@ -321,19 +321,20 @@ void TFrmRecapitulatif::Transferer(TSensTransfert sens, const TGrille& grille) {
     if (grille.Ligne(ligne).Coche) coches.push_back(grille.Ligne(ligne).Objet.En<TEleve>());
   if (coches.empty())
     return dialogues.Information(u"Veuillez cocher un ou plusieurs élèves dans la liste."_s);
-  if (!dialogues.ConfirmerGrave(QuestionTransfert(sens, travail))) return;
+  if (!dialogues.ConfirmerGrave(QuestionTransfert(sens, CompterEleves(std::ssize(coches)), travail))) return;
+  qint64 passes = 0;
   try {
     const TAttente attente(dialogues);
-    const auto passes = std::ssize(TransfererSoldes(*Globals.Eleves, travail, coches, sens));
-    const auto restes = std::ssize(coches) - passes;
+    TransfererSoldes(*Globals.Eleves, travail, coches, sens, [&](const TMontantEleve&) { ++passes; });
+    const qint64 restes = std::ssize(coches) - passes;
     QString texte =
         Compter(passes, u"solde transféré"_s, u"soldes transférés"_s, u"Aucun solde transféré"_s) %
-        u" vers l'année scolaire " % Annees(travail);
+        u" vers l'année scolaire " % AnneeCompacte(travail);
     if (restes > 0)
       texte += u" ; non repris (absents de cette année-là ou sans solde) : " % QString::number(restes);
     Dire(texte);
   } catch (const Exception& e) {
-    dialogues.Message(e.Message);
+    dialogues.Message(e.Message % u"\n\nDéjà transférés : " % QString::number(passes) % u'.');
   }
   Remplir(TabImpaye);
   Remplir(TabBalancePositive);
