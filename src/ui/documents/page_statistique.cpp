@@ -38,14 +38,17 @@ void PageStatistique::AjouterOutils(VueGrille& grille) {
     titre_->AjouterAction(nouveau);
   };
   if (grille.Grille().CasesACocher) {
-    const auto cocher = [&grille](bool oui) {
-      return [&grille, oui] {
-        grille.Grille().CocherTout(oui);
-        emit grille.Cochee(-1, oui);
-      };
-    };
-    bouton(u"Tout sélectionner"_s, {}, u"Cocher toutes les lignes"_s, cocher(true));
-    bouton(u"Ne rien sélectionner"_s, {}, u"Décocher toutes les lignes"_s, cocher(false));
+    bouton(u"Tout sélectionner"_s, {}, u"Cocher les lignes que le filtre montre"_s, [&grille] {
+      {
+        const TGrille::TLot lot(grille.Grille());
+        for (const int ligne : grille.LignesVues()) grille.Grille().Cocher(ligne, true);
+      }
+      emit grille.Cochee(-1, true);
+    });
+    bouton(u"Ne rien sélectionner"_s, {}, u"Décocher toutes les lignes, les cachées aussi"_s, [&grille] {
+      grille.Grille().CocherTout(false);
+      emit grille.Cochee(-1, false);
+    });
   }
   auto* filtre = new ChampFiltre;
   filtre->setFixedWidth(Theme::Px(200));

@@ -6,6 +6,7 @@
 
 #include "screens/documents/frm_apercu.h"
 #include "screens/documents/frm_recapitulatif.h"
+#include "ui/commun/champ_filtre.h"
 #include "ui/commun/diagramme_mois.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/documents/arbre_passages.h"
@@ -165,17 +166,31 @@ TEST_F(Recapitulatif, BalancesAreCarriedOnce) {
   Programme.Main().mnuAnneeClick(2016);
   Programme.Ouvrir(TGestionnaire::AdvGlowButton7Click);
   const QString lignes = "SELECT COUNT(*) FROM FRAIS_ELEVE WHERE REMARQUE LIKE '%année scolaire%'";
-  const QString positifs = "Transfert des soldes positifs", question = "transférer les soldes positifs";
+  const QString positifs = "Transfert des soldes positifs", question = "soldes positifs de 2 élèves ";
   Aller(TabBalancePositive);
   Programme.Dialogues.Repond(question, false);
   Cliquer(positifs);
   EXPECT_EQ(Base.Valeur(lignes), "0");
+  for (auto* filtre : Programme.Fenetre().findChildren<ChampFiltre*>())
+    if (filtre->isVisible()) QTest::keyClicks(filtre, "bodart");
+  Cliquer("Ne rien sélectionner");
+  Cliquer("Tout sélectionner");
+  Programme.Dialogues.Repond("positifs de 1 élève ", false);
+  Cliquer(positifs);
+  for (auto* filtre : Programme.Fenetre().findChildren<ChampFiltre*>()) filtre->clear();
+  Cliquer("Tout sélectionner");
+  Base.Sql("UPDATE FRAIS_ELEVE SET MONTANT_VERSE = 6 WHERE ELEVE_ID = 2");  // by another workstation
+  Programme.Dialogues.Repond(question, true);
+  Programme.Dialogues.Attend("relisez les données (F5).\n\nDéjà transférés : 0.");
+  Cliquer(positifs);
+  EXPECT_EQ(Base.Valeur(lignes), "0");
+  Base.Sql("UPDATE FRAIS_ELEVE SET MONTANT_VERSE = 5 WHERE ELEVE_ID = 2");
   Programme.Dialogues.Repond(question, true);
   Cliquer(positifs);
   EXPECT_EQ(Base.Valeur(lignes), "2") << "who is not in the working year keeps his balance";
   EXPECT_EQ(Lignes(Ecran().Positives), QStringList{"CLAES Zoé|M1 A|7,00 €||"});
   EXPECT_TRUE(Etat().startsWith("1 solde transféré vers l'année scolaire 2017-2018")) << Etat().toStdString();
-  Programme.Dialogues.Repond(question, true);
+  Programme.Dialogues.Repond("positifs de 1 élève ", true);
   Cliquer(positifs);
   EXPECT_EQ(Base.Valeur(lignes), "2");
 
