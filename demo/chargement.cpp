@@ -1,8 +1,12 @@
 #include "demo/chargement.h"
 
+#include <QDir>
+
 #include "core/calendrier_scolaire.h"
 #include "core/conversions.h"
 #include "core/exceptions.h"
+#include "core/fichiers.h"
+#include "core/numero_national.h"
 #include "demo/calendrier.h"
 #include "demo/chargement_repas.h"
 #include "demo/fichiers.h"
@@ -35,11 +39,9 @@ std::unique_ptr<TFraisEleve> Paiement(const QString& libelle, Currency montant, 
   return ligne;
 }
 
-/// A national number: six digits of the birth, three of a series, two that check them.
 QString NumeroNational(const QDate& naissance, int serie) {
   const QString debut = naissance.toString(u"yyMMdd"_s) % u"%1"_s.arg(serie, 3, 10, QChar(u'0'));
-  const qint64 siecle = naissance.year() < 2000 ? 0 : 2'000'000'000;
-  return debut % u"%1"_s.arg(97 - (siecle + debut.toLongLong()) % 97, 2, 10, QChar(u'0'));
+  return debut % ControleNumeroNational(debut, naissance.year() >= 2000);
 }
 
 /// The office has asked most families for theirs: those of the child and of its adults.
@@ -63,6 +65,8 @@ TBilanChargement TChargement::Tout() {
   controleur_.ChargerParametres();
   // Nothing that waits in the machine's temporary folder is to be archived by the imports.
   Globals.DossierTemporaire = dossier_;
+  if (!QDir().mkpath(dossier_ % u"/presences"))
+    throw Exception(u"Impossible de créer le dossier " % dossier_);
   if (TEleves(controleur_.Base(), 0).Count() > 0)
     throw Exception(u"La base contient déjà des élèves : l'école d'exemple veut une base vide."_s);
   Parametres();

@@ -1,11 +1,7 @@
 #include "demo/fichiers.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QSaveFile>
 #include <map>
 
-#include "core/exceptions.h"
 #include "demo/calendrier.h"
 #include "demo/passages.h"
 
@@ -180,12 +176,4 @@ std::vector<TFichierPresences> FichiersPresences(const TEcoleExemple& ecole) {
   std::vector<TFichierPresences> fichiers;
   for (auto& [semaine, fichier] : semaines) fichiers.push_back(std::move(fichier));
   return fichiers;
-}
-
-void EcrireFichier(const QString& chemin, const QByteArray& texte) {
-  const QString dossier = QFileInfo(chemin).absolutePath();
-  if (!QDir().mkpath(dossier)) throw Exception(u"Impossible de créer le dossier " % dossier);
-  QSaveFile fichier(chemin);
-  if (!fichier.open(QIODevice::WriteOnly) || fichier.write(texte) != texte.size() || !fichier.commit())
-    throw Exception(u"Impossible d'écrire le fichier " % chemin % u" : " % fichier.errorString());
 }

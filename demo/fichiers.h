@@ -22,5 +22,3 @@ QByteArray TexteRegistre(const TEcoleExemple& ecole, TDisposition disposition);
 /// The scanner files of the year, by week, the sites of a week one behind the other; of the autumn only when
 /// it is a later one.
 std::vector<TFichierPresences> FichiersPresences(const TEcoleExemple& ecole);
-/// Writes beside the target and renames; makes the folder. Raises Exception.
-void EcrireFichier(const QString& chemin, const QByteArray& texte);

@@ -21,9 +21,13 @@ QString ChiffresNumeroNational(const QString& texte) {
 bool NumeroNationalValide(const QString& texte) {
   const QString chiffres = ChiffresNumeroNational(texte);
   if (chiffres.size() != kLongueur || !std::ranges::all_of(chiffres, EstChiffre)) return false;
-  const qint64 numero = chiffres.first(kLongueur - 2).toLongLong();
-  const qint64 controle = chiffres.last(2).toLongLong();
-  return controle == 97 - numero % 97 || controle == 97 - (kDepuis2000 + numero) % 97;
+  const QString neuf = chiffres.first(kLongueur - 2), controle = chiffres.last(2);
+  return controle == ControleNumeroNational(neuf, false) || controle == ControleNumeroNational(neuf, true);
+}
+
+QString ControleNumeroNational(const QString& neufChiffres, bool depuis2000) {
+  const qint64 numero = neufChiffres.toLongLong() + (depuis2000 ? kDepuis2000 : 0);
+  return u"%1"_s.arg(97 - numero % 97, 2, 10, QChar(u'0'));
 }
 
 QString NumeroNationalPresente(const QString& texte) {

@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include "core/modulo97.h"
+
 using namespace Qt::StringLiterals;
 
 QString IbanSansBlancs(const QString& compte) { return compte.simplified().remove(u' '); }
@@ -9,10 +11,8 @@ QString IbanSansBlancs(const QString& compte) { return compte.simplified().remov
 bool IbanValide(const QString& compte) {
   static const QRegularExpression forme(u"\\A[A-Z]{2}[0-9]{2}[A-Z0-9]{11,30}\\z"_s);
   if (!forme.match(compte).hasMatch()) return false;
-  int reste = 0;
-  for (const QChar c : QString(compte.sliced(4) % compte.first(4))) {
-    const int valeur = c.isDigit() ? c.digitValue() : c.unicode() - u'A' + 10;
-    reste = (reste * (valeur < 10 ? 10 : 100) + valeur) % 97;
-  }
-  return reste == 1;
+  QString chiffres;
+  for (const QChar c : QString(compte.sliced(4) % compte.first(4)))
+    chiffres += c.isDigit() ? QString(c) : QString::number(c.unicode() - u'A' + 10);
+  return Modulo97(chiffres) == 1;
 }

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 
 #include "core/conversions.h"
+#include "core/fichiers.h"
 #include "demo/annee_suivante.h"
 #include "demo/chargement.h"
 #include "demo/fichiers.h"
@@ -108,7 +109,7 @@ TEST(Chargement, WhoPaysTheLastInvoiceOwesNothing) {
   TEcoleChargee ecole;
   const TPeriode juin = BornesMois(6, 2016);
   TDemandeDocument demande{{}, {2016, juin.Premier, juin.Dernier}, EncodeDate(2017, 7, 5)};
-  for (TEleve& eleve : *Globals.Eleves) demande.Eleves.push_back(&eleve);
+  demande.Eleves = Globals.Eleves->Tous();
   const TResultat factures = Factures(ContexteDesGlobals(ecole.Horloge), demande);
   std::vector<TMouvementBanque> versements;
   int famille = 0;
@@ -141,8 +142,7 @@ TEST(Chargement, TheAutumnThatFollowsGivesAttestationsOfTwoYears) {
   EXPECT_LT(bilan.Anomalies, bilan.LignesPresences / 40);
   EXPECT_GT(bilan.Virements, bilan.Eleves / 2);
   Globals.Parametres->SetParametre(TParam::CalculAttestation, u"3"_s);
-  std::vector<TEleve*> tous;
-  for (TEleve& eleve : *Globals.Eleves) tous.push_back(&eleve);
+  const std::vector<TEleve*> tous = Globals.Eleves->Tous();
   QStringList messages;
   int deuxMoities = 0, seconds = 0, coupees = 0;
   for (const auto& feuille :
