@@ -16,6 +16,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QtMessageHandler messages = nullptr;
+
+/// A window that no window manager sees has no limits of size to tell it, and Qt says so each time.
+void DireAutres(QtMsgType genre, const QMessageLogContext& contexte, const QString& texte) {
+  if (!texte.contains("propagateSizeHints"_L1)) messages(genre, contexte, texte);
+}
+
 /// The day of the pictures, so that two runs give the same.
 class THorlogeFixe : public THorloge {
  public:
@@ -131,6 +138,7 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  messages = qInstallMessageHandler(DireAutres);
   Application application(argc, argv);
   QApplication::setFont(QFont(QStringList{u"Noto Sans"_s, u"DejaVu Sans"_s}, 10));
   application.Preparer();
