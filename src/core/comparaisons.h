@@ -9,6 +9,10 @@ int ComparerTextes(const QString& a, const QString& b);
 /// The text as a search compares it: without case and accents.
 QString Simplifier(const QString& texte);
 
+/// Whether each word that is searched for is somewhere in the text, without regard to case and accents. A
+/// search without a word finds every text.
+bool ContientMots(const QString& texte, const QString& cherche);
+
 /// What has a name to be put in order by: a pupil.
 template <class T>
 concept TNomme = requires(const T& t) {

@@ -8,8 +8,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {}  // namespace
-
 TGrille::TLot::~TLot() {
   if (--grille_.lots_ > 0 || !grille_.change_) return;
   grille_.change_ = false;
@@ -172,9 +170,7 @@ QStringList TGrille::Textes(int ligne) const {
 }
 
 bool TGrille::Contient(int ligne, const QString& cherche) const {
-  const QString textes = Simplifier(Textes(ligne).join(u'\n'));
-  const QStringList mots = Simplifier(cherche).split(u' ', Qt::SkipEmptyParts);
-  return std::ranges::all_of(mots, [&](const QString& mot) { return textes.contains(mot); });
+  return ContientMots(Textes(ligne).join(u'\n'), cherche);
 }
 
 int TGrille::TrouverObjet(TObjetVu objet) const {

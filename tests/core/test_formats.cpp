@@ -73,6 +73,14 @@ TEST(LectureDates, TroisChampsOuZero) {
   EXPECT_EQ(LireDateTiret(u"01/09/2016"_s), 0.0);
 }
 
+TEST(Comparaisons, ChaqueMotCherche) {
+  const QString nom = u"D'Hondt Élise Anne-Marie"_s;
+  for (const char* trouve : {"", "  ", "elise", "MARIE d'h", " lis  hond ", "é"})
+    EXPECT_TRUE(ContientMots(nom, QString::fromUtf8(trouve))) << trouve;
+  for (const char* faux : {"elisa", "elise luc", "élisemarie"})
+    EXPECT_FALSE(ContientMots(nom, QString::fromUtf8(faux))) << faux;
+}
+
 TEST(Comparaisons, OrdreDeLaLangue) {
   const char16_t* const noms[] = {u"de Smet", u"Dubois", u"Élan", u"Elsen", u"Étienne", u"Zoé"};
   for (size_t i = 1; i < std::size(noms); ++i)

@@ -1,7 +1,7 @@
 #include "screens/meals/frm_presence_repas.h"
 
 #include "core/calendrier_scolaire.h"
-#include "core/chaines.h"
+#include "core/comparaisons.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
 
@@ -115,10 +115,9 @@ void TFrmPresenceRepas::edRechercheChange(const QString& texte) {
 std::vector<TEleve*> TFrmPresenceRepas::Montres() const {
   if (!service_) return {};
   if (recherche_.isEmpty()) return classe_ != nullptr ? classe_->ListeEleves : std::vector<TEleve*>();
-  const QString cherche = MajusculesSansAccents(recherche_);
   std::vector<TEleve*> trouves;
   for (TEleve& eleve : service_->Eleves())
-    if (MajusculesSansAccents(eleve.NomComplet()).contains(cherche)) trouves.push_back(&eleve);
+    if (ContientMots(eleve.NomComplet(), recherche_)) trouves.push_back(&eleve);
   return trouves;
 }
 

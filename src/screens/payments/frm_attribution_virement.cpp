@@ -15,12 +15,6 @@ namespace {
 
 constexpr int kLibelleMax = 200;
 
-/// Every word that is typed is somewhere in the name.
-bool Contient(const QString& nom, const QString& cherche) {
-  const QStringList mots = cherche.split(u' ', Qt::SkipEmptyParts);
-  return std::ranges::all_of(mots, [&](const QString& mot) { return nom.contains(mot); });
-}
-
 }  // namespace
 
 TFrmAttributionVirement::TFrmAttributionVirement(TContexteEcran& contexte, TFrmVirement& virements)
@@ -167,7 +161,7 @@ void TFrmAttributionVirement::ProposerEleves() {
     for (const TProposition& proposition : propositions_) ajouter(*proposition.Eleve);
   int choisi = -1;
   for (const TCandidat& candidat : eleves_) {
-    if (!Contient(candidat.Cle, cherche) || (cherche.isEmpty() && !Raison(*candidat.Eleve).isEmpty()))
+    if (!ContientMots(candidat.Cle, cherche) || (cherche.isEmpty() && !Raison(*candidat.Eleve).isEmpty()))
       continue;
     const int ligne = ajouter(*candidat.Eleve);
     if (choisi < 0 && candidat.Cle.startsWith(cherche)) choisi = ligne;

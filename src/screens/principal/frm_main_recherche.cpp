@@ -1,7 +1,5 @@
 // The search of the main window: first the names of the tree by their beginning, then any part of what is
 // known of a pupil, and the register number as a hand scanner types it.
-#include <QRegularExpression>
-#include <algorithm>
 #include <utility>
 
 #include "core/accord.h"
@@ -13,9 +11,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString Connu(const TEleve& eleve) {
-  return Simplifier(QStringList{eleve.NomComplet(), eleve.NomResponsable, eleve.PrenomResponsable,
-                                eleve.NomResponsable2, eleve.PrenomResponsable2}
-                        .join(u'\n'));
+  return QStringList{eleve.NomComplet(), eleve.NomResponsable, eleve.PrenomResponsable, eleve.NomResponsable2,
+                     eleve.PrenomResponsable2}
+      .join(u'\n');
 }
 
 }  // namespace
@@ -90,14 +88,10 @@ void TFrmMain::ChoisirTrouve(int rang) {
 }
 
 bool TFrmMain::ChercherPartout() {
-  const QStringList mots = Simplifier(recherche_).split(u' ', Qt::SkipEmptyParts);
   std::vector<TNoeud*> trouves;
   for (TNoeud* noeud = Arbre.Premier(); noeud != nullptr; noeud = Arbre.Suivant(*noeud)) {
     const TEleve* eleve = noeud->Objet.En<TEleve>();
-    if (eleve == nullptr) continue;
-    const QString connu = Connu(*eleve);
-    if (std::ranges::all_of(mots, [&](const QString& mot) { return connu.contains(mot); }))
-      trouves.push_back(noeud);
+    if (eleve != nullptr && ContientMots(Connu(*eleve), recherche_)) trouves.push_back(noeud);
   }
   const QString cherche = recherche_.trimmed();
   if (trouves.size() == 1) {

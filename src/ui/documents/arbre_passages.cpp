@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 
+#include "core/comparaisons.h"
 #include "pupils/eleve.h"
 #include "screens/documents/frm_recapitulatif.h"
 #include "ui/commun/theme.h"
@@ -53,7 +54,6 @@ void ArbrePassages::Etendre(bool oui) {
 void ArbrePassages::Filtrer(const QString& texte) {
   for (int rang = 0; rang < topLevelItemCount(); ++rang) {
     QTreeWidgetItem& ligne = *topLevelItem(rang);
-    const QString nom = ligne.text(0) % u' ' % ligne.text(1);
-    ligne.setHidden(!nom.contains(texte, Qt::CaseInsensitive));
+    ligne.setHidden(!ContientMots(ligne.text(0) % u' ' % ligne.text(1), texte));
   }
 }

@@ -81,7 +81,7 @@ TEST_F(Tablette, FromTheFirstLoadToTheTransferAndBack) {
   EXPECT_EQ(LireFichier(Repas()), "11;2;20161003;120000000;1\n") << "tapped again, it is taken back";
   auto& recherche = Nomme<QLineEdit>("Rechercher un élève");
   Aller(recherche);
-  QTest::keyClicks(&recherche, "mar");
+  QTest::keyClicks(&recherche, "zoe mar");
   EXPECT_EQ(Cadres(), QStringList("MARIN Zoé"));
   Toucher("MARIN Zoé");
   Toucher("RETOUR");
