@@ -4,6 +4,7 @@
 #include "documents/attestation.h"
 #include "documents/badges.h"
 #include "documents/balances.h"
+#include "documents/caisse_repas.h"
 #include "documents/comptabilisation_repas.h"
 #include "documents/cuisine.h"
 #include "documents/demande_provision.h"
@@ -71,6 +72,10 @@ constexpr TTitreDocument kTitres[] = {
      .AvecEleves = false,
      .Liste = TListeTitres::Cuisine},
     {.Titre = u"Choix de repas", .Construire = ChoixDeRepas, .Liste = TListeTitres::Aucune},
+    {.Titre = u"Caisse des repas",
+     .Construire = CaisseDesRepas,
+     .AvecEleves = false,
+     .Liste = TListeTitres::Aucune},
     {.Titre = u"Tickets vendus",
      .Construire = TicketsVendus,
      .AvecPeriode = true,

@@ -86,13 +86,21 @@ void LireCommandes(const TContexteDocument& contexte, const TElevesChoisis& elev
   if (periode.Premier > 0.0) contexte.Eleves.Commandes().Lire(periode);
 }
 
+/// As the paper shows a figure of the sales: without the spaces of the screen.
+QString TexteVente(const TValeurVue& valeur) {
+  const auto* montant = std::get_if<Currency>(&valeur);
+  return montant != nullptr ? QString(FormatDeuxDecimales(*montant) % u" €")
+                            : TexteDe(TGenre::Entier, valeur);
+}
+
 TGrille GrilleVentes(const std::vector<TVentesJour>& jours) {
   std::vector<TColonneGrille> colonnes;
   for (const QString& titre : ColonnesVentes()) colonnes.push_back({titre, colonnes.empty() ? 110 : 90});
   TGrille grille(colonnes);
   for (const TVentesJour& jour : jours) {
-    const QStringList textes = LigneVentesJour(jour);
-    grille.Ajouter(TCellules(textes.begin(), textes.end()));
+    TCellules textes;
+    for (const TValeurVue& valeur : LigneVentesJour(jour)) textes.emplace_back(TexteVente(valeur));
+    grille.Ajouter(std::move(textes));
   }
   return grille;
 }

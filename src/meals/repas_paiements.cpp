@@ -1,5 +1,8 @@
 #include "meals/repas_paiements.h"
 
+#include <algorithm>
+
+#include "core/curseur.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
 
@@ -94,6 +97,23 @@ Currency TRepasPaiements::Recu(int eleve, const TPeriode& periode) const {
     if (paiement->DatePaiement >= periode.Premier && paiement->DatePaiement <= periode.Dernier)
       recu += paiement->Montant;
   return recu;
+}
+
+bool TRepasPaiements::EstDepasse(int eleve, TDateTime jour) const {
+  TCurseur ligne(
+      Base(),
+      u"SELECT P.REPAS_PAIEMENT_ID PAIEMENT, P.MONTANT, D.* FROM REPAS_PAIEMENT P LEFT JOIN "
+      "DETAIL_PAIEMENT_LIQUIDE D ON D.REPAS_PAIEMENT_ID = P.REPAS_PAIEMENT_ID WHERE P.DATE_PAIEMENT = " %
+          FormatDateSql(jour) % u" AND P.ELEVE_ID = " % QString::number(eleve) %
+          u" AND P.TYPE_PAIEMENT = 0 ORDER BY P.REPAS_PAIEMENT_ID + 0");
+  const TRepasPaiement* connu = PaiementDu(eleve, jour, TPaiementRepas::Liquide);
+  if (!ligne.Suivant()) return connu != nullptr;
+  if (connu == nullptr || connu->Id != ligne.Entier("PAIEMENT") || connu->Montant != ligne.Montant("MONTANT"))
+    return true;
+  const TDetailPaiementLiquide* detail = Detail(*connu);
+  const TComptage comptage = detail != nullptr ? detail->Comptage : TComptage{};
+  return !std::ranges::equal(kCoupures, comptage, {},
+                             [&](const TCoupure& c) { return ligne.Entier(c.Colonne); });
 }
 
 void TRepasPaiements::Encaisser(int eleve, TDateTime jour, const TComptage& comptage) {

@@ -57,6 +57,9 @@ class TRepasPaiements : public TCollection<TRepasPaiement> {
   TDetailPaiementLiquide* Detail(const TRepasPaiement& paiement) const {
     return details_.DuPaiement(paiement.Id);
   }
+  /// Another workstation has counted cash for the pupil on that day since the payments were read. Raises
+  /// Exception.
+  bool EstDepasse(int eleve, TDateTime jour) const;
   /// Cash counted for a pupil on a day: it takes the place of what was counted before on that day.
   /// Saves; raises EDistributor.
   void Encaisser(int eleve, TDateTime jour, const TComptage& comptage);

@@ -52,7 +52,16 @@ bool Avant(const TTicket* a, const TTicket* b) {
   return a->Id < b->Id;
 }
 
+bool Memes(const TTicket* a, const TTicket* b) {
+  return a->Id == b->Id && a->DateAchat == b->DateAchat && a->DateUtilisation == b->DateUtilisation &&
+         a->Valeur == b->Valeur && a->TypePaiement == b->TypePaiement;
+}
+
 }  // namespace
+
+bool MemesTickets(const TTickets& a, const TTickets& b) {
+  return std::ranges::equal(a.Liste(), b.Liste(), Memes);
+}
 
 TTickets::TTickets(TDataModule1& base, int eleve) : TCollection(base), eleve_(eleve) {
   Charger();

@@ -82,3 +82,6 @@ class TTickets : public TCollection<TTicket> {
   std::vector<TTicket*> liste_;
   int dernierRang_ = -1;  // of those in the list
 };
+
+/// Whether two readings of a pupil's tickets found the same.
+bool MemesTickets(const TTickets& a, const TTickets& b);

@@ -53,7 +53,8 @@ class TEleve : public TBaseObject {
   int GetNumAttestation();
 
   // Meals, of a pupil in a collection. They raise Exception off-line. What stores raises EDistributor, and
-  // the data concerned are then read again when next asked for.
+  // the data concerned are then read again when next asked for. So it does, with nothing stored, when another
+  // workstation has changed the pupil's tickets, or the cash of the day, since they were read.
 
   /// The tickets, read on first use.
   TTickets& GetTickets() const;
@@ -165,6 +166,7 @@ class TEleve : public TBaseObject {
 
  private:
   TDataModule1& Base() const;
+  void RefuserTicketsChanges() const;
   void ModifierTickets(const std::function<void(TTickets&)>& changement);
   void EcrireTickets(const std::function<void(TTickets&)>& changement);
   bool EcrireCommande(TCommande& commande, Currency valeurTicket);

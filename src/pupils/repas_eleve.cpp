@@ -29,6 +29,11 @@ bool Ensemble(TDataModule1& base, const std::function<bool()>& ecrire) {
   }
 }
 
+QString TicketsChanges(const TEleve& eleve) {
+  return u"Un autre poste a changé les tickets de %1 : ils sont relus, et rien n'a été enregistré. Recommencez."_s
+      .arg(eleve.NomComplet());
+}
+
 template <class Condition>
 int Compter(const TClasse& classe, TDateTime jour, Condition condition) {
   TCommandes& commandes = classe.Eleves.Commandes();
@@ -54,6 +59,13 @@ void TEleve::ClearTickets() const {
   soldeTickets_.reset();
 }
 
+// What is sold, deleted or handed on was decided on the tickets that were shown.
+void TEleve::RefuserTicketsChanges() const {
+  if (!tickets_ || MemesTickets(*tickets_, TTickets(Base(), Id))) return;
+  ClearTickets();
+  throw EDistributor(TicketsChanges(*this));
+}
+
 // A ticket that another workstation has deleted meanwhile would take a sale with it.
 void TEleve::EcrireTickets(const std::function<void(TTickets&)>& changement) {
   TTickets& tickets = GetTickets();
@@ -62,13 +74,11 @@ void TEleve::EcrireTickets(const std::function<void(TTickets&)>& changement) {
   for (const TTicket* ticket : tickets.Liste())
     if (ticket->Status == TStatus::Nouveau)
       throw EDistributor(u"Les tickets n'ont pas pu être enregistrés."_s);
-  if (!tickets.RangeesDisparues().empty())
-    throw EDistributor(
-        u"Un autre poste a changé les tickets de %1 : ils sont relus, et rien n'a été enregistré. "
-        "Recommencez."_s.arg(NomComplet()));
+  if (!tickets.RangeesDisparues().empty()) throw EDistributor(TicketsChanges(*this));
 }
 
 void TEleve::ModifierTickets(const std::function<void(TTickets&)>& changement) {
+  RefuserTicketsChanges();
   try {
     Ensemble(Base(), [&] { return EcrireTickets(changement), true; });
   } catch (const EDistributor&) {
@@ -116,11 +126,12 @@ bool TEleve::SetCommande(TDateTime date, Currency valeurTicket,
   }
 }
 
-// The order, then the ticket that pays it.
+// The order, then the ticket that pays it, of those that the pupil has by now.
 bool TEleve::EcrireCommande(TCommande& commande, Currency valeurTicket) {
   const TDateTime date = commande.DateCommande;
   if (Eleves->Commandes().Enregistrer(commande) != nullptr) return false;
   if (commande.Status == TStatus::Nouveau) throw EDistributor(u"La commande n'a pas pu être enregistrée."_s);
+  ClearTickets();
   EcrireTickets([&](TTickets& tickets) {
     commande.EstUnRepas() ? tickets.Consommer(date, valeurTicket) : tickets.Liberer(date);
   });
@@ -141,7 +152,15 @@ void TEleve::EncaisserRepas(TDateTime jour, const TComptage& comptage) {
   TDataModule1& base = Base();
   TRepasPaiements& paiements = Eleves->RepasPaiements();
   try {
-    Ensemble(base, [&] { return paiements.Encaisser(Id, jour, comptage), true; });
+    Ensemble(base, [&] {
+      if (paiements.EstDepasse(Id, jour))
+        throw EDistributor(
+            u"Un autre poste a changé le paiement du jour pour %1 : il est relu, et rien n'a été "
+            u"enregistré. "
+            "Relisez ce que vous avez compté : le valider prendrait sa place."_s.arg(NomComplet()));
+      paiements.Encaisser(Id, jour, comptage);
+      return true;
+    });
   } catch (const EDistributor&) {
     Eleves->LibererRepasPaiements();
     throw;
@@ -217,6 +236,7 @@ void TEleves::LireSoldesTickets(const std::vector<TEleve*>& eleves) const {
 }
 
 void TEleves::DeplacerTicket(int ancienEleveId, int nouvelEleveId, int ticketId) {
+  if (const TEleve* eleve = TrouverParId(ancienEleveId)) eleve->RefuserTicketsChanges();
   const int deplaces =
       TQueryInternal(BaseDeDonnees(), u"UPDATE TICKET SET ELEVE_ID = " % QString::number(nouvelEleveId) %
                                           u" where ELEVE_ID=" % QString::number(ancienEleveId) %

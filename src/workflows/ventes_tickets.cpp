@@ -22,15 +22,14 @@ void Ajouter(TVentesJour& jour, const TEleve& eleve, const TVentes& ventes) {
   if (section == TCategorie::Primaire) Cumuler(jour.Primaire, ventes);
 }
 
-QString Euros(const QString& montant) { return montant % u" €"; }
-
-/// Number, price and amount of a section.
-QStringList Chiffres(TCategorie section, const TVentes& ventes) {
-  return {QString::number(ventes.Nombre), Euros(TextePrixSection(section)),
-          Euros(FormatDeuxDecimales(ventes.Montant))};
+/// Number, price and amount of a section; three empty cells when it is not shown.
+void AjouterChiffres(TCellules& cellules, bool montres, TCategorie section, const TVentes& ventes) {
+  if (montres)
+    cellules.insert(cellules.end(),
+                    {ventes.Nombre, QString(TextePrixSection(section) % u" €"), ventes.Montant});
+  else
+    cellules.resize(cellules.size() + 3);
 }
-
-const QStringList kSansChiffres(3, QString());
 
 }  // namespace
 
@@ -55,18 +54,18 @@ QStringList ColonnesVentes() {
           u"Tickets primaire"_s, u"Prix unitaire"_s,      u"Montant primaire"_s, u"Total général"_s};
 }
 
-QStringList LigneVentesJour(const TVentesJour& jour) {
-  const QString date = FormatDate(jour.Jour);
-  if (!jour.AvecChiffres()) return QStringList(date) + kSansChiffres + kSansChiffres + QStringList(QString());
-  return QStringList(date) + Chiffres(TCategorie::Maternelle, jour.Maternelle) +
-         Chiffres(TCategorie::Primaire, jour.Primaire) +
-         QStringList(Euros(FormatDeuxDecimales(jour.Total())));
+TCellules LigneVentesJour(const TVentesJour& jour) {
+  TCellules cellules{FormatDate(jour.Jour)};
+  AjouterChiffres(cellules, jour.AvecChiffres(), TCategorie::Maternelle, jour.Maternelle);
+  AjouterChiffres(cellules, jour.AvecChiffres(), TCategorie::Primaire, jour.Primaire);
+  cellules.push_back(jour.AvecChiffres() ? TValeurVue(jour.Total()) : TValeurVue());
+  return cellules;
 }
 
-QStringList LigneVenteEleve(const TVenteEleve& vente) {
-  const auto si = [&](TCategorie section) {
-    return vente.Section == section ? Chiffres(section, vente.Ventes) : kSansChiffres;
-  };
-  return QStringList(vente.Eleve->NomComplet()) + si(TCategorie::Maternelle) + si(TCategorie::Primaire) +
-         QStringList(QString());
+TCellules LigneVenteEleve(const TVenteEleve& vente) {
+  TCellules cellules{vente.Eleve->NomComplet()};
+  for (const TCategorie section : {TCategorie::Maternelle, TCategorie::Primaire})
+    AjouterChiffres(cellules, vente.Section == section, section, vente.Ventes);
+  cellules.emplace_back();
+  return cellules;
 }

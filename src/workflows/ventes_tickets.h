@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "core/calendrier_scolaire.h"
+#include "forms/valeur.h"
 #include "meals/tickets.h"
 #include "pupils/classe.h"
 
@@ -31,8 +32,9 @@ struct TVentesJour {
 std::vector<TVentesJour> VentesDeTickets(const TEleves& eleves, const TPeriode& periode,
                                          TPaiementTicket type);
 
-/// A line of the list of sales: its columns from "Date de vente" on. "" where no figure is shown.
-QStringList LigneVentesJour(const TVentesJour& jour);
-QStringList LigneVenteEleve(const TVenteEleve& vente);
+/// A line of the list of sales: its columns from "Date de vente" on. Nothing where no figure is shown; a
+/// price is the text of its parameter.
+TCellules LigneVentesJour(const TVentesJour& jour);
+TCellules LigneVenteEleve(const TVenteEleve& vente);
 /// The titles of those columns.
 QStringList ColonnesVentes();

@@ -1,3 +1,4 @@
+#include "documents/caisse_repas.h"
 #include "documents/cuisine.h"
 #include "documents/modeles.h"
 #include "documents/tickets.h"
@@ -157,4 +158,18 @@ TEST_F(TDocumentsRepasEssai, TicketsSold) {
   EXPECT_TRUE(Page(rapport).contains(u"4,40 €"));
   EXPECT_EQ(TicketsVendus(Contexte(), {J("2016-11-03"), J("2016-11-02")}).Messages,
             QStringList(u"Il n'y a aucune information à imprimer"_s));
+}
+
+TEST_F(TDocumentsRepasEssai, TheTillHoldsWhatWasReceived) {
+  for (const char* montant : {"4", "1.5"})
+    ecole.Ajouter(u"REPAS_PAIEMENT"_s,
+                  u"REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT"_s,
+                  {u"1"_s, QString::fromLatin1(montant), u"0"_s, u"'2016-11-24'"_s});
+  ecole.Ajouter(u"DETAIL_PAIEMENT_LIQUIDE"_s, u"DETAIL_PAIEMENT_LIQUIDE_ID, REPAS_PAIEMENT_ID, TOT_2_EUR"_s,
+                {u"1"_s, u"2"_s});
+  const QString page = Page(CaisseDesRepas(Contexte(), J("2016-11-24")).Rapports[0]).simplified();
+  EXPECT_TRUE(page.contains(u"2 euros 2 4,00 €") && page.contains(u"Sans détail 1,50 €") &&
+              page.contains(u"Total 5,50 €"))
+      << page.toStdString();
+  EXPECT_FALSE(Page(CaisseDesRepas(Contexte(), J("2016-11-25")).Rapports[0]).contains(u"Sans détail"));
 }

@@ -1,4 +1,5 @@
 #include "core/exceptions.h"
+#include "meals/caisse.h"
 #include "meals/commandes.h"
 #include "meals/generation_repas.h"
 #include "support/controleur_essai.h"
@@ -156,6 +157,56 @@ TEST_F(TReservationEssai, WhatCannotBeStoredWholeIsNotStored) {
   EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM COMMANDE"_s), u"0");
 }
 
+// What another workstation has changed since the tickets were shown.
+TEST_F(TReservationEssai, TicketsAreSoldAndDeletedAsTheyWereShown) {
+  ecole.Ajouter(u"TICKET"_s, u"TICKET_ID, ELEVE_ID, DATE_UTILISATION, VALEUR"_s,
+                {u"2"_s, u"'2016-10-03'"_s, u"2.6"_s});
+  essai.Charger();
+  const TDateTime jour = EncodeDate(2016, 10, 4);
+  const std::function<void()> gestes[] = {
+      [&] { Eleve(2).AcheterTickets(1, TPaiementTicket::Comptant, Currency::Euros(3), jour); },
+      [&] { Eleve(2).SupprimerTicket(*Eleve(2).GetTickets().Liste()[0]); },
+      [&] { Globals.Eleves->DeplacerTicket(2, 3, 1); }};
+  for (const auto& geste : gestes) {
+    Globals.Eleves->LibererCommandes();
+    Eleve(2).GetTickets();  // shown
+    base.Sql(u"UPDATE TICKET SET VALEUR = VALEUR + 1"_s);
+    const QStringList avant = base.Rangees(u"SELECT * FROM TICKET"_s);
+    EXPECT_THROW(geste(), EDistributor);
+    EXPECT_EQ(base.Rangees(u"SELECT * FROM TICKET"_s), avant);
+    EXPECT_EQ(Eleve(2).SoldeTickets(), -1) << "read again";
+  }
+  EXPECT_NO_THROW(gestes[0]());
+  // An order takes a ticket that was sold meanwhile, and never the one that was used meanwhile.
+  Eleve(3).GetTickets();
+  ecole.Ajouter(u"TICKET"_s, u"TICKET_ID, ELEVE_ID, DATE_ACHAT, VALEUR"_s,
+                {u"3"_s, u"'2016-10-01'"_s, u"2"_s});
+  EXPECT_EQ(Cliquer(false, {u"3 1"_s}), u"M");
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM TICKET WHERE ELEVE_ID = 3"_s), u"1");
+}
+
+TEST_F(TReservationEssai, CashIsNotCountedOverTheCountOfAnother) {
+  essai.Charger();
+  const TDateTime jour = EncodeDate(2016, 10, 3);
+  const auto caisse = [&] {
+    const TCaisse c = LireCaisse(*base, jour);
+    return Euros(c.Montant()) + " " + Euros(c.SansDetail) + " " + std::to_string(c.Comptage[5]);
+  };
+  Eleve(2).EncaisserRepas(jour, TComptage{0, 0, 0, 0, 0, 2});
+  EXPECT_EQ(caisse(), "4.0000 0.0000 2");
+  for (const char* sql : {"UPDATE DETAIL_PAIEMENT_LIQUIDE SET TOT_2_EUR = 1, TOT_1_EUR = 2",
+                          "UPDATE REPAS_PAIEMENT SET MONTANT = 9", "DELETE FROM REPAS_PAIEMENT",
+                          "INSERT INTO REPAS_PAIEMENT (REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, "
+                          "DATE_PAIEMENT) VALUES (77, 2, 5, 0, '2016-10-03')"}) {
+    Eleve(2).RecuLe(jour);  // shown
+    base.Sql(QString::fromLatin1(sql));
+    EXPECT_THROW(Eleve(2).EncaisserRepas(jour, TComptage{1}), EDistributor) << sql;
+  }
+  EXPECT_EQ(caisse(), "5.0000 5.0000 0");
+  Eleve(2).EncaisserRepas(jour, TComptage{1});
+  EXPECT_EQ(caisse(), "100.0000 0.0000 0");
+}
+
 TEST_F(TReservationEssai, OrdersAreTakenOverFromAnotherDay) {
   ecole.Ajouter(u"REPAS_PAIEMENT"_s, u"REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT"_s,
                 {u"3"_s, u"2.60"_s, u"0"_s, u"'2016-09-05'"_s});
@@ -225,11 +276,17 @@ TEST_F(TReservationEssai, Sales) {
   Eleve(4).AcheterTickets(3, TPaiementTicket::Comptant, Currency::Euros(1), jour);
   Eleve(4).AcheterTickets(1, TPaiementTicket::Comptant, Currency::Euros(1), jour + 1);
   Eleve(3).AcheterTickets(1, TPaiementTicket::Virement, Currency::Euros(3), jour + 2);
+  const auto texte = [](const TCellules& cellules) {  // the values, so that the kind of each is seen
+    QStringList textes;
+    for (const TValeurVue& v : cellules)
+      textes += TexteDe(std::holds_alternative<Currency>(v) ? TGenre::Montant : TGenre::Entier, v);
+    return textes.join(u';');
+  };
   const auto lignes = [&](const TPeriode& periode) {
     QStringList textes;
     for (const TVentesJour& j : VentesDeTickets(*Globals.Eleves, periode, TPaiementTicket::Comptant)) {
-      textes += LigneVentesJour(j).join(u';');
-      for (const TVenteEleve& v : j.Eleves) textes += LigneVenteEleve(v).join(u';');
+      textes += texte(LigneVentesJour(j));
+      for (const TVenteEleve& v : j.Eleves) textes += texte(LigneVenteEleve(v));
     }
     return textes;
   };

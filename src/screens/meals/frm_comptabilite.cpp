@@ -22,8 +22,6 @@ std::vector<TColonneGrille> Colonnes() {
   return rendues;
 }
 
-TCellules Cellules(const QStringList& textes) { return {textes.begin(), textes.end()}; }
-
 }  // namespace
 
 TFrmComptabilite::TFrmComptabilite(TContexteEcran& contexte)
@@ -46,8 +44,8 @@ void TFrmComptabilite::Remplir(TGrille& grille, TPaiementTicket type) const {
   const TGrille::TLot lot(grille);
   grille.Vider();
   for (const TVentesJour& jour : VentesDeTickets(*Globals.Eleves, {dtDebut, dtFin}, type)) {
-    grille.AjouterTete(Cellules(LigneVentesJour(jour)));
-    for (const TVenteEleve& vente : jour.Eleves) grille.Ajouter(Cellules(LigneVenteEleve(vente)));
+    grille.AjouterTete(LigneVentesJour(jour));
+    for (const TVenteEleve& vente : jour.Eleves) grille.Ajouter(LigneVenteEleve(vente));
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/conversions.h"
 #include "core/formats.h"
+#include "documents/caisse_repas.h"
 #include "documents/cuisine.h"
 #include "meals/generation_repas.h"
 #include "pupils/eleves.h"
@@ -53,7 +54,7 @@ void TFrmCompteEleve::ChangerJour(void (TJourEcran::*pas)()) {
 }
 
 QString TFrmCompteEleve::Titre() const {
-  return Classe() != nullptr ? u"Compte classe du " % FormatJour(Aujourdhui()) : QString();
+  return Classe() != nullptr ? u"Compte classe du " % FormatJourLong(Aujourdhui()) : QString();
 }
 
 std::vector<TCompteurRepas> TFrmCompteEleve::Compteurs() const {
@@ -146,7 +147,12 @@ QString TFrmCompteEleve::lblTotal() const {
 void TFrmCompteEleve::btnValiderClick() {
   TEleve* eleve = Courant();
   if (!enSaisie_ || eleve == nullptr) return;
-  eleve->EncaisserRepas(Aujourdhui(), Comptage());
+  try {
+    eleve->EncaisserRepas(Aujourdhui(), Comptage());
+  } catch (...) {  // what was counted stays, beside what is stored
+    Remplir();
+    throw;
+  }
   contexte_.Principal.Etat(TNiveauEtat::Succes,
                            u"Enregistré pour " % eleve->NomComplet() % u" : " % lblTotal());
   Vider();
@@ -164,30 +170,10 @@ void TFrmCompteEleve::Vider() {
   compte_ = false;
 }
 
-TGrille TFrmCompteEleve::Caisse() const {
-  TComptage total{};
-  TRepasPaiements& paiements = Globals.Eleves->RepasPaiements();
-  for (const TRepasPaiement& paiement : paiements)
-    if (paiement.DatePaiement == Aujourdhui() && paiement.TypePaiement == TPaiementRepas::Liquide)
-      if (const TDetailPaiementLiquide* detail = paiements.Detail(paiement))
-        for (std::size_t i = 0; i < kNombreCoupures; ++i) total[i] += detail->Comptage[i];
-  TGrille caisse(
-      {{u"Coupure"_s, 200}, {u"Nombre"_s, 90, TGenre::Entier}, {u"Montant"_s, 110, TGenre::Montant}});
-  for (std::size_t i = 0; i < kNombreCoupures; ++i)
-    caisse.Ajouter({QString::fromUtf16(Coupures()[i].Libelle), total[i],
-                    Currency::Brut(Coupures()[i].Centimes * 100LL) * total[i]});
-  caisse.Ajouter({u"Total"_s, {}, Total(total)});
-  return caisse;
-}
-
 void TFrmCompteEleve::ImprimerCaisse() {
-  TRapport rapport(u"Caisse des repas"_s, u"RepDynamicFromListviewPortrait"_s);
-  rapport.AjouterVariable(u"NomRapportSSTitre", FormatJourLong(Aujourdhui()));
-  rapport.AjouterVariable(u"NomEcole", Globals.Parametres->GetParametre(TParam::NomEcole));
-  rapport.ChargerColonnesListe(Caisse());
-  TResultat resultat;
-  resultat.Rapports.push_back(std::move(rapport));
-  TImprimeur(contexte_, {}).Faire([&](const TContexteDocument&) { return std::move(resultat); });
+  TImprimeur(contexte_, {}).Faire([&](const TContexteDocument& contexte) {
+    return CaisseDesRepas(contexte, Aujourdhui());
+  });
 }
 
 bool TFrmCompteEleve::RecevoirMessage(const TMessage& message) {

@@ -23,7 +23,7 @@ class TFrmCompteEleve : public TForm {
 
   /// Of the class and the day of the heading.
   std::vector<TCompteurRepas> Compteurs() const;
-  /// "Compte classe du lundi 3 octobre"; "" without a class.
+  /// "Compte classe du lundi 3 octobre 2016"; "" without a class.
   QString Titre() const;
   /// "Total reçu ce jour : 12,50 €"
   QString TotalRecu() const;
@@ -50,8 +50,7 @@ class TFrmCompteEleve : public TForm {
   void btnValiderClick();
   void btnAnnulerClick();
 
-  /// The till of today: each note over all pupils, on paper too.
-  TGrille Caisse() const;
+  /// The till of today on paper: each note over all pupils.
   void ImprimerCaisse();
 
   bool RecevoirMessage(const TMessage& message) override;

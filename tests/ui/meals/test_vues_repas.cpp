@@ -239,9 +239,18 @@ TEST_F(VuesRepas, CashIsCountedCorrectedAndCancelled) {
   Cliquer("Valider");
   EXPECT_EQ(rangees(), QStringList("1;6.5000;0;3;1")) << "it takes the place of the first";
 
+  Cliquer("Modifier le paiement");
+  compter("1 euro", "1");
+  Base.Sql("UPDATE REPAS_PAIEMENT SET MONTANT = 7");
+  Programme.Dialogues.Attend("Un autre poste a changé le paiement du jour pour ALVES Rui");
+  Cliquer("Valider");
+  EXPECT_EQ(Lignes(comptes)[0], "ALVES Rui|7,00 €  (+7,00)");
+  EXPECT_EQ(Nomme<QLineEdit>("Nombre : 1 euro").text(), "1") << "what was counted stays";
+  Touche(Qt::Key_Escape);
+
   Programme.Horloge.Moment += 1.0;
   ChoisirClasse(2);
-  EXPECT_EQ(Lignes(comptes)[0], "ALVES Rui|6,50 €");
+  EXPECT_EQ(Lignes(comptes)[0], "ALVES Rui|7,00 €");
 }
 
 TEST_F(VuesRepas, ATeacherOrdersForToday) {
@@ -273,6 +282,13 @@ TEST_F(VuesRepas, SalesAreCountedDayByDay) {
   QTest::keyClicks(&debut, "01/09/2016");
   Touche(Qt::Key_Return);
   EXPECT_EQ(Lignes(ventes)[0], "30/09/2016|1|2,20 €|2,20 €|0|2,60 €|0,00 €|2,20 €");
+  Ecole.Ajouter("TICKET", "TICKET_ID, ELEVE_ID, DATE_ACHAT, VALEUR, TYPE_PAIEMENT",
+                {"2", "'2016-10-03'", "12", "1"});
+  Globals.Eleves->LibererCommandes();
+  Form<TFrmComptabilite>().dtChange(EncodeDate(2016, 9, 1), EncodeDate(2016, 10, 3));
+  Form<TFrmComptabilite>().Versements.Trier(6);
+  EXPECT_TRUE(Lignes(ventes)[3].startsWith("ALVES") && Lignes(ventes)[4].startsWith("BODART"))
+      << "12 comes after 2,60";
 }
 
 namespace {
