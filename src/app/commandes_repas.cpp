@@ -93,8 +93,10 @@ int TicketsVentes(TSession& session) {
 
 /// --prix, with a comma or a dot, else the price of the pupil's section.
 Currency Prix(const TSession& session, const TEleve& eleve) {
-  if (!session.A(u"prix"_s)) return PrixSection(eleve.Categorie());
-  return StrToCurr(session.Option(u"prix"_s).replace(u'.', u','));
+  const Currency prix = session.A(u"prix"_s) ? StrToCurr(session.Option(u"prix"_s).replace(u'.', u','))
+                                             : PrixSection(eleve.Categorie());
+  if (const QString refus = RefusPrixTicket(prix); !refus.isEmpty()) throw Exception(refus);
+  return prix;
 }
 
 int TicketAcheter(TSession& session) {

@@ -42,6 +42,10 @@ int LireNombreTickets(const QString& texte) {
   return nombre;
 }
 
+QString RefusPrixTicket(Currency prix) {
+  return prix < Currency() ? u"Le prix d'un ticket ne peut pas être négatif."_s : QString();
+}
+
 QString AnnonceVente(const TEleve& eleve, int nombre) {
   const int regles = qMin(nombre, eleve.GetTickets().NombreManquants());
   if (regles <= 0) return {};

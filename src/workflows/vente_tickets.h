@@ -1,6 +1,8 @@
 #pragma once
 #include <QString>
 
+#include "core/currency.h"
+
 class IDialogues;
 class TClasse;
 class TEleve;
@@ -27,6 +29,8 @@ bool EstNombreTickets(int nombre);
 QString RefusNombreTickets();
 /// The number as typed. Raises EConvertError for a text that is none.
 int LireNombreTickets(const QString& texte);
+/// Why a ticket is not sold at that price; "" when it may be.
+QString RefusPrixTicket(Currency prix);
 /// What a sale comes to, before it is made: "2 tickets manquants seront réglés."; "" when it settles none.
 QString AnnonceVente(const TEleve& eleve, int nombre);
 /// Asks, then deletes the ticket for good. False when the user said no.

@@ -33,6 +33,8 @@ TEST_F(TLotRepasEssai, Tickets) {
       {Mots(u"ticket acheter 1 0 --paiement 1"_s), 1, {}, u"de 1 à 999"_s},
       {Mots(u"ticket acheter 1 abc --paiement 1"_s), 1, {}, u"« abc »"_s},
       {Mots(u"ticket acheter 1 1 --paiement 1 --prix deux"_s), 1, {}, u"« deux »"_s},
+      {Mots(u"ticket acheter 1 1 --paiement 1 --prix=-5"_s), 1, {}, u"négatif"_s},
+      {Mots(u"ticket manquant 1 --prix=-0,01"_s), 1, {}, u"négatif"_s},
       {Mots(u"ticket acheter 9 1 --paiement 1"_s), 1, {}, u"d'élève n° 9"_s},
       {Mots(u"ticket supprimer 2"_s), 1, {}, u"Confirmez-vous la suppression définitive de ce ticket ?"_s},
       {Mots(u"tickets"_s),

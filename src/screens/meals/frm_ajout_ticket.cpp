@@ -69,7 +69,8 @@ void TFrmAjoutTicket::cbTicketManquantClick() {
 
 bool TFrmAjoutTicket::Controler() {
   if (!EstNombreTickets(Saisi.Nombre)) return Champs().Refuser(u"edNombre"_s, RefusNombreTickets());
-  if (Saisi.Prix < Currency()) return Champs().Refuser(u"edPrix"_s, u"Le prix est négatif."_s);
+  if (const QString refus = RefusPrixTicket(Saisi.Prix); !refus.isEmpty())
+    return Champs().Refuser(u"edPrix"_s, refus);
   return true;
 }
 
