@@ -1,7 +1,6 @@
 #include "meals/fichier_repas.h"
 
 #include <QFile>
-#include <algorithm>
 
 #include "core/exceptions.h"
 #include "core/fichiers.h"
@@ -11,6 +10,14 @@
 namespace {
 
 constexpr int kChampDate = 2;
+
+/// Where the first such line begins; it is there.
+qsizetype Place(const QByteArray& texte, const QByteArray& ligne) {
+  const QByteArray cherche = ligne + '\n';
+  qsizetype place = texte.indexOf(cherche);
+  while (place > 0 && texte[place - 1] != '\n') place = texte.indexOf(cherche, place + 1);
+  return place;
+}
 
 }  // namespace
 
@@ -46,18 +53,27 @@ QByteArray TexteDesLignes(const std::vector<QByteArray>& lignes) {
 }
 
 TFichierRepas::TFichierRepas(QString chemin) : chemin_(std::move(chemin)) {
-  if (QFile::exists(chemin_)) lignes_ = LignesDuTexte(LireFichier(chemin_));
-  for (const QByteArray& ligne : lignes_) ++nombres_[ligne];
+  if (!QFile::exists(chemin_)) return;
+  const auto lignes = LignesDuTexte(LireFichier(chemin_));
+  texte_ = TexteDesLignes(lignes);
+  for (const QByteArray& ligne : lignes) Compter(ligne, 1);
+}
+
+void TFichierRepas::Compter(const QByteArray& ligne, int fois) {
+  nombre_ += fois;
+  if ((nombres_[ligne] += fois) == 0) nombres_.remove(ligne);
+  const TDateTime jour = JourDeLigne(ligne);
+  if ((jours_[jour] += fois) == 0) jours_.erase(jour);
 }
 
 void TFichierRepas::Basculer(const QByteArray& ligne) {
-  auto apres = lignes_;
   const bool present = Contient(ligne);
+  QByteArray apres = texte_;
   if (present)
-    apres.erase(std::ranges::find(apres, ligne));
+    apres.remove(Place(apres, ligne), ligne.size() + 1);
   else
-    apres.push_back(ligne);
-  EcrireFichier(chemin_, TexteDesLignes(apres));
-  lignes_ = std::move(apres);
-  if ((nombres_[ligne] += present ? -1 : 1) == 0) nombres_.remove(ligne);
+    apres += ligne + '\n';
+  EcrireFichier(chemin_, apres);
+  texte_ = std::move(apres);
+  Compter(ligne, present ? -1 : 1);
 }

@@ -22,6 +22,15 @@ std::optional<TDataSet> LirePhotos(const QString& chemin, IDialogues& dialogues)
   }
 }
 
+/// None when there is no such file, or when it is damaged.
+std::optional<TDataSet> LireCopie(const QString& chemin) {
+  try {
+    if (QFile::exists(chemin)) return TDataSet::LireDe(chemin);
+  } catch (const Exception&) {  // a transfer replaces it
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 TFichiersTablette::TFichiersTablette(const QString& dossier)
@@ -32,12 +41,11 @@ TFichiersTablette::TFichiersTablette(const QString& dossier)
       Transferes(dossier % u"/transferes.txt") {}
 
 int NombreLignesLocales(const QString& chemin) {
-  try {
-    return QFile::exists(chemin) ? TDataSet::LireDe(chemin).NombreLignes() : 0;
-  } catch (const Exception&) {
-    return 0;
-  }
+  const auto copie = LireCopie(chemin);
+  return copie ? copie->NombreLignes() : 0;
 }
+
+bool CopieLisible(const QString& chemin) { return LireCopie(chemin).has_value(); }
 
 TServiceHorsLigne::TServiceHorsLigne(const TReglagesPoste& reglages, IDialogues& dialogues)
     : fichiers_(reglages),
@@ -48,12 +56,6 @@ TServiceHorsLigne::TServiceHorsLigne(const TReglagesPoste& reglages, IDialogues&
       transferes_(fichiers_.Transferes),
       eleves_(std::make_unique<TEleves>(copieEleves_.Annee, copieClasses_, copieEleves_)) {
   if (photos_) eleves_->SourcePhotos = &*photos_;
-  ChercherDernierJour();
-}
-
-void TServiceHorsLigne::ChercherDernierJour() {
-  dernierJour_ = 0.0;
-  for (const QByteArray& ligne : repas_.Lignes()) dernierJour_ = std::max(dernierJour_, JourDeLigne(ligne));
 }
 
 bool TServiceHorsLigne::EstServi(const TEleve& eleve, TDateTime jour) const {
@@ -71,12 +73,7 @@ int TServiceHorsLigne::NombreServis(const TClasse& classe, TDateTime jour) const
 
 bool TServiceHorsLigne::Toucher(const TEleve& eleve, TDateTime jour) {
   repas_.Basculer(LigneRepas(eleve.Matricule, jour));
-  const bool servi = EstServi(eleve, jour);
-  if (servi)
-    dernierJour_ = std::max(dernierJour_, jour);
-  else
-    ChercherDernierJour();
-  return servi;
+  return EstServi(eleve, jour);
 }
 
 std::vector<QString> TServiceHorsLigne::Annees() const {

@@ -1,4 +1,5 @@
 #pragma once
+#include <algorithm>
 #include <memory>
 #include <optional>
 
@@ -24,6 +25,8 @@ struct TFichiersTablette {
 
 /// The rows of a local data set; 0 when there is no such file, or when it is damaged.
 int NombreLignesLocales(const QString& chemin);
+/// Whether the file is there, and whole.
+bool CopieLisible(const QString& chemin);
 
 /// Serving at the canteen without a database: the pupils of the last transfer, and the meals noted since.
 class TServiceHorsLigne {
@@ -40,27 +43,24 @@ class TServiceHorsLigne {
   bool EstTransfere(const TEleve& eleve, TDateTime jour) const;
   int NombreServis(const TClasse& classe, TDateTime jour) const;
   /// Meals that wait for a transfer.
-  int NombreEnAttente() const { return static_cast<int>(repas_.Lignes().size()); }
+  int NombreEnAttente() const { return repas_.NombreLignes(); }
   /// Notes the meal of the day, or takes it back: it is on the disk on return. Whether the pupil is served
   /// now. Raises Exception, and then nothing has changed.
   bool Toucher(const TEleve& eleve, TDateTime jour);
-  /// The last day that was noted, 0 when none.
-  TDateTime DernierJour() const { return dernierJour_; }
+  /// The last day that was noted, transferred or not, 0 when none.
+  TDateTime DernierJour() const { return std::max(repas_.DernierJour(), transferes_.DernierJour()); }
   /// The classes of the pupils by the name of their year, in order.
   std::vector<QString> Annees() const;
   /// When the pupils were copied, 0 when unknown.
   TDateTime DateTransfert() const;
 
  private:
-  void ChercherDernierJour();
-
   TFichiersTablette fichiers_;
   TDataSet copieEleves_;
   TDataSet copieClasses_;
   std::optional<TDataSet> photos_;
   TFichierRepas repas_;
   TFichierRepas transferes_;
-  TDateTime dernierJour_ = 0.0;
   std::unique_ptr<TEleves> eleves_;  // last: it looks at the copies
 };
 

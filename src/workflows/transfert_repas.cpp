@@ -12,6 +12,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// So many pixels each way are enough for a frame on the tablet.
+constexpr int kPhotoMaximum = 400;
+
+/// The picture, reduced when it is larger: the set of a whole school has to fit the tablet. Raises Exception
+/// when it is damaged.
+QByteArray PhotoReduite(const QByteArray& octets) {
+  const QImage image = DecoderJpeg(octets);
+  if (qMax(image.width(), image.height()) <= kPhotoMaximum) return octets;
+  return EncoderJpeg(
+      image.scaled(kPhotoMaximum, kPhotoMaximum, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
 /// The local copy in the making.
 class TCopie {
  public:
@@ -31,8 +43,7 @@ class TCopie {
     const auto octets = eleve.OctetsPhoto();
     if (!octets || octets->isEmpty()) return;
     try {
-      DecoderJpeg(*octets);
-      photos_.Ajouter({eleve.Id, *octets});
+      photos_.Ajouter({eleve.Id, PhotoReduite(*octets)});
     } catch (const Exception&) {
       abimees_ += eleve.NomComplet();
     }
@@ -65,14 +76,17 @@ void Remplir(TCopie& copie, bool avecPhotos, TProgression& progression) {
     }
 }
 
-/// The lines of today that will have been transferred; those of other days are of no more use.
-QByteArray LignesTransferees(const TFichiersTablette& fichiers, TDateTime jour) {
-  std::vector<QByteArray> lignes;
-  for (const QString& chemin : {fichiers.Transferes, fichiers.Repas}) {
-    const TFichierRepas fichier(chemin);
-    for (const QByteArray& ligne : fichier.Lignes())
-      if (JourDeLigne(ligne) == jour) lignes.push_back(ligne);
-  }
+/// The lines of the last day up to today, of which the tablet says that they are transferred: those of
+/// before, and the meals about to be stored.
+QByteArray LignesTransferees(const QString& chemin, const TImportPresences& import, TDateTime aujourdhui) {
+  std::vector<QByteArray> lignes = TFichierRepas(chemin).Lignes();
+  for (const auto& bon : import.Bons())
+    if (bon->TypePresence == TTypePresence::Repas)
+      lignes.push_back(LigneRepas(Globals.Eleves->TrouverParId(bon->EleveId)->Matricule, bon->DateReleve));
+  TDateTime dernier = 0.0;
+  for (const QByteArray& ligne : lignes)
+    if (const TDateTime jour = JourDeLigne(ligne); jour <= aujourdhui) dernier = qMax(dernier, jour);
+  std::erase_if(lignes, [&](const QByteArray& ligne) { return JourDeLigne(ligne) != dernier; });
   return TexteDesLignes(lignes);
 }
 
@@ -139,11 +153,11 @@ void TTransfertRepas::Transferer(TBilanTransfert& bilan) {
   ImporterRepas(bilan);
 }
 
-// A tablet without pictures takes them, also from a school that has never changed one.
+// A tablet without pictures, or with damaged ones, takes them, also from a school that has never changed one.
 bool TTransfertRepas::Synchroniser() {
   const TFichiersTablette fichiers(controleur_.Reglages());
   const bool avecPhotos = Globals.Parametres->GetParametre(TParam::DatePhoto) != Globals.DatePhoto ||
-                          !QFile::exists(fichiers.Photos);
+                          !CopieLisible(fichiers.Photos);
   CopierEleves(fichiers, avecPhotos, controleur_.Dialogues());
   return avecPhotos;
 }
@@ -156,9 +170,11 @@ void TTransfertRepas::ImporterRepas(TBilanTransfert& bilan) {
   bilan.Lignes = import_.NombreEntrees();
   bilan.Bons = import_.NombreBons();
   bilan.Anomalies = import_.NombreAnomalies();
+  bilan.Repas = bilan.Lignes - static_cast<int>(import_.Anomalies().size());
   if (SurAnalyse) SurAnalyse(bilan);
   if (!AccepterAnomalies() || !AccepterHorsAnnee()) return;
-  const QByteArray transferees = LignesTransferees(fichiers, controleur_.Horloge().Aujourdhui());
+  const QByteArray transferees =
+      LignesTransferees(fichiers.Transferes, import_, controleur_.Horloge().Aujourdhui());
   import_.EnregistrerTablette();
   bilan.Importe = true;
   bilan.Archive = import_.ArchiverTablette(fichiers.Repas);
@@ -180,11 +196,11 @@ bool TTransfertRepas::AccepterAnomalies() const {
 
 // They are stored and seen in no year, nor would a second import of them be recognised.
 bool TTransfertRepas::AccepterHorsAnnee() const {
-  const TPeriode annee = BornesAnnee(Globals.Eleves->AnneeScolaire);
   int nombre = 0;
   TDateTime premier = 0.0;
   for (const auto& bon : import_.Bons()) {
-    if (bon->DateReleve >= annee.Premier && bon->DateReleve <= annee.Dernier) continue;
+    const bool derive = import_.Origine(*bon) == TOrigine::Derive;  // no meal
+    if (derive || !TImportPresences::EstHorsAnnee(bon->DateReleve)) continue;
     if (nombre++ == 0) premier = bon->DateReleve;
   }
   if (nombre == 0) return true;

@@ -11,8 +11,9 @@ struct TBilanTransfert {
   bool Archive = false;    ///< the file of the imported meals has been put away
   bool HorsLigne = false;  ///< the tablet works off-line again; else it has stayed connected
   int Lignes = 0;          ///< of the file
-  int Bons = 0;
+  int Bons = 0;            ///< records, also those that a meal brings with it
   int Anomalies = 0;
+  int Repas = 0;  ///< lines without an anomaly
 };
 
 /// The transfer of the tablet, without a window: the meals noted go into the presences, and the copy of the

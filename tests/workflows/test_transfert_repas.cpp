@@ -66,8 +66,8 @@ struct TTabletteEssai : testing::Test {
   TControleurEssai essai{base};
 };
 
-QByteArray Jpeg(Qt::GlobalColor couleur) {
-  QImage image(60, 70, QImage::Format_RGB32);
+QByteArray Jpeg(Qt::GlobalColor couleur, int cote = 60) {
+  QImage image(cote, cote, QImage::Format_RGB32);
   image.fill(couleur);
   return EncoderJpeg(image);
 }
@@ -115,18 +115,20 @@ TEST_F(TTabletteEssai, FromTheFirstLoadToTheTransferAndBack) {
 TEST_F(TTabletteEssai, PicturesAreCopiedWhenTheyChanged) {
   Photo(1, Jpeg(Qt::red));
   Photo(2, Jpeg(Qt::blue).left(300));
+  Photo(3, Jpeg(Qt::blue, 2000));
   base.Dialogues.Attend(u"abîmées"_s);
   Transferer();
-  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 1);
+  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 2);
+  EXPECT_LT(QFile(Fichiers().Photos).size(), 8000) << "a large one is reduced";
   Ecole([&] {
     base.Sql(u"UPDATE ELEVE_PHOTO SET PHOTO = x'%1' WHERE ELEVE_ID = 2"_s.arg(
         QString::fromLatin1(Jpeg(Qt::green).toHex())));
   });
   Transferer();
-  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 1) << "the stamp is as it was";
+  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 2) << "the stamp is as it was";
   Ecole([&] { ecole.parametre(115, u"4 octobre"_s); });
   Transferer();
-  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 2);
+  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 3);
   EXPECT_EQ(Reglage("Photo"), u"4 octobre");
 }
 
@@ -156,8 +158,24 @@ TEST_F(TTabletteEssai, RefusalsLeaveTheFileAndStayConnected) {
   EXPECT_FALSE(Transferer().Importe);
   EXPECT_EQ(LireFichier(Fichiers().Repas), taps);
   base.Dialogues.Repond(u"continuer la procédure"_s, true).Repond(u"03/07/2017"_s, true);
+  essai.Horloge.Moment = J("2016-10-05");
   EXPECT_TRUE(Transferer().Importe);
   EXPECT_EQ(Presences(), QStringList(u"1;2;2017-07-03"_s));
+  const TServiceHorsLigne service(base.Reglages, base.Dialogues);
+  EXPECT_FALSE(service.EstTransfere(*service.Eleves().TrouverParId(1), J("2016-10-05"))) << "given up";
+}
+
+// With the flat rate of the day each meal brings a second record, which is no meal.
+TEST_F(TTabletteEssai, MealsAreCountedOnceAndTheLastOneIsRemembered) {
+  Ecole([&] { ecole.parametre(30, u"1"_s); });
+  Transferer();
+  Taps("11;2;20160930;120000000;1\n99;2;20161003;120000000;1\n21;2;20160701;120000000;1\n");
+  base.Dialogues.Repond(u"1 repas ne sera pas enregistré."_s, true)
+      .Repond(u"1 repas hors de l'année scolaire"_s, true);
+  const TBilanTransfert bilan = Transferer();
+  EXPECT_EQ(bilan.Repas * 100 + bilan.Bons * 10 + bilan.Anomalies, 241);
+  const TServiceHorsLigne service(base.Reglages, base.Dialogues);
+  EXPECT_EQ(service.DernierJour(), J("2016-09-30"));
 }
 
 TEST_F(TTabletteEssai, ABrokenLineIsNamedAndNothingIsStored) {
@@ -189,11 +207,18 @@ TEST_F(TTabletteEssai, WithoutAServerTheTabletGoesOnOffLine) {
   EXPECT_EQ(Reglage("Offline") + Reglage("Transfert"), u"10");
 }
 
-TEST_F(TTabletteEssai, AFolderThatIsAFileIsTold) {
-  Regler(u"DossierPresences"_s, base.Fichier(u"presences"_s, "x"));
-  EXPECT_FALSE(PourquoiSansService(true, base.Reglages).isEmpty());
-  EXPECT_THROW(Transferer(), Exception);
-  EXPECT_EQ(Reglage("Transfert"), u"0");
+TEST_F(TTabletteEssai, AFolderThatTakesNoFileIsTold) {
+  for (const QString& dossier : {base.Fichier(u"fichier"_s, "x"), u"/proc"_s}) {
+    Regler(u"DossierPresences"_s, dossier);
+    EXPECT_FALSE(PourquoiSansService(true, base.Reglages).isEmpty());
+    try {
+      Transferer();
+      ADD_FAILURE();
+    } catch (const Exception& e) {
+      EXPECT_TRUE(e.Message.contains(dossier + u"/ELEVES")) << e.what();
+    }
+    EXPECT_EQ(Reglage("Transfert"), u"0");
+  }
 }
 
 TEST(Transfert, TheServerGoesAwayInTheMiddleOfIt) {
@@ -240,10 +265,14 @@ TEST_F(TTabletteEssai, ADamagedCopyIsRefusedAndTheTapsStay) {
   }
   EcrireFichier(Fichiers().Photos, "abc");
   base.Dialogues.Attend(u"PHOTOS"_s);
+  {
+    TServiceHorsLigne service(base.Reglages, base.Dialogues);
+    EXPECT_EQ(service.NombreEnAttente(), 1);
+  }
+  Transferer();
+  EXPECT_EQ(NombreLignesLocales(Fichiers().Photos), 1) << "replaced";
   TServiceHorsLigne service(base.Reglages, base.Dialogues);
-  EXPECT_EQ(service.NombreEnAttente(), 1);
   // A tap that cannot be written is not shown as one.
-  QFile::remove(Fichiers().Repas);
   QDir().mkpath(Fichiers().Repas + u"/dossier"_s);
   EXPECT_THROW(service.Toucher(*service.Eleves().TrouverParId(2), 42646), Exception);
   EXPECT_FALSE(service.EstServi(*service.Eleves().TrouverParId(2), 42646));

@@ -65,6 +65,6 @@ void TFrmTransfertRepas::Conclure(const TBilanTransfert& bilan) {
   if (!bilan.HorsLigne)
     return Dire(TNiveauEtat::Alerte,
                 u"Le transfert est arrêté : la tablette reste connectée, et les repas sont gardés."_s);
-  Dire(TNiveauEtat::Succes, bilan.Importe ? u"%1 repas transférés, les élèves sont à jour."_s.arg(bilan.Bons)
+  Dire(TNiveauEtat::Succes, bilan.Importe ? u"%1 repas transférés, les élèves sont à jour."_s.arg(bilan.Repas)
                                           : u"Les élèves sont à jour."_s);
 }

@@ -31,19 +31,25 @@ QSize RangeePliante::sizeHint() const {
     voulue.rwidth() += taille.width() + (voulue.width() > 0 ? spacing() : 0);
     voulue.setHeight(std::max(voulue.height(), taille.height()));
   }
-  return voulue;
+  return voulue.grownBy(contentsMargins());
 }
 
 QSize RangeePliante::minimumSize() const {
   QSize moindre(0, 0);
   for (const auto& element : elements_)
     if (!element->isEmpty()) moindre = moindre.expandedTo(element->minimumSize());
-  return moindre;
+  return moindre.grownBy(contentsMargins());
 }
 
 void RangeePliante::setGeometry(const QRect& place) {
   QLayout::setGeometry(place);
-  Placer(place, true);
+  Placer(place.marginsRemoved(contentsMargins()), true);
+}
+
+int RangeePliante::heightForWidth(int largeur) const {
+  const QMargins marges = contentsMargins();
+  const int hauteur = Placer({0, 0, largeur - marges.left() - marges.right(), 0}, false);
+  return hauteur + marges.top() + marges.bottom();
 }
 
 // Line by line, each control in the middle of the height of its line.
@@ -68,7 +74,8 @@ int RangeePliante::Placer(const QRect& place, bool poser) const {
       if (poser) element.setGeometry({{x, y + (hauteur - taille.height()) / 2}, taille});
       x += taille.width() + spacing();
     }
-    y += hauteur + (fin < elements_.size() ? spacing() : 0);
+    if (fin < elements_.size()) hauteur += entreLignes_ >= 0 ? entreLignes_ : spacing();
+    y += hauteur;
   }
   return y - place.y();
 }

@@ -17,14 +17,18 @@ class RangeePliante : public QLayout {
   QLayoutItem* takeAt(int rang) override;
   Qt::Orientations expandingDirections() const override { return {}; }
   bool hasHeightForWidth() const override { return true; }
-  int heightForWidth(int largeur) const override { return Placer({0, 0, largeur, 0}, false); }
+  int heightForWidth(int largeur) const override;
   QSize sizeHint() const override;
   QSize minimumSize() const override;
   void setGeometry(const QRect& place) override;
+
+  /// Between its lines, where that is another space than between the controls of a line.
+  void DefinirEntreLignes(int espace) { entreLignes_ = espace; }
 
  private:
   /// Answers the height; moves the controls when `poser` is set.
   int Placer(const QRect& place, bool poser) const;
 
   std::vector<std::unique_ptr<QLayoutItem>> elements_;
+  int entreLignes_ = -1;
 };

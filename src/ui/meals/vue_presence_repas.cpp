@@ -21,6 +21,7 @@ constexpr int kLargeurBouton = 180;
 constexpr int kHauteurBouton = 48;
 constexpr int kLargeurRecherche = 280;
 constexpr int kMarge = 18;
+constexpr int kEntreLignes = 20;
 constexpr int kMinuteMs = 30'000;
 
 /// A finger is not smaller with a small font.
@@ -176,6 +177,7 @@ void VuePresenceRepas::RemplirCadres() {
   auto* rangees = new RangeePliante;
   rangees->setContentsMargins(Theme::Px(kMarge), 0, Theme::Px(kMarge), 0);
   rangees->setSpacing(Theme::Px(kMarge));
+  rangees->DefinirEntreLignes(Theme::Px(kEntreLignes));
   auto* colonne = new QVBoxLayout(place);
   colonne->addLayout(rangees);
   colonne->addStretch(1);
