@@ -72,7 +72,6 @@ bool TFrmCuisine::RecevoirMessage(const TMessage& message) {
 void TFrmCuisine::NoterImpression(bool imprime) {
   if (!imprime) return;
   imprimee_ = {jour_.Jour, contexte_.Controleur.Horloge().Maintenant(), ComptesCuisine(jour_, generation_)};
-  TReglagesPoste reglages;
-  imprimee_.Memoriser(reglages, generation_);
+  imprimee_.Memoriser(contexte_.Controleur.Reglages(), generation_);
   Annoncer();
 }
