@@ -10,6 +10,7 @@
 #include "demo/calendrier.h"
 #include "demo/chargement_repas.h"
 #include "demo/fichiers.h"
+#include "demo/portraits.h"
 #include "demo/releve_banque.h"
 #include "demo/tirage.h"
 #include "demo/virements.h"
@@ -25,6 +26,9 @@ namespace {
 
 /// The movements from this day on are left in a statement file, for the reader to import.
 const QDate kDebutReleve(2017, 6, 1);
+const QString kDatePhotos = u"14/09/2016 10:30:00"_s;
+/// The flow of random numbers of the portraits.
+constexpr std::uint64_t kFluxPhotos = 67;
 
 const TFamilleExemple& Famille(const TEcoleExemple& ecole, int eleve) {
   return ecole.Familles[static_cast<std::size_t>(ecole.Eleves[static_cast<std::size_t>(eleve)].Famille)];
@@ -76,6 +80,7 @@ TBilanChargement TChargement::Tout() {
   Fiches();
   Personnel();
   Recharger();
+  Photos();
   Activites();
   Frais();
   Marques();
@@ -206,6 +211,19 @@ void TChargement::Fiches() {
     Globals.Eleves->AddEleve(eleve);
   }
   Globals.Eleves->Save();
+}
+
+// The photographer has missed a few.
+void TChargement::Photos() {
+  Etape(u"Photos des élèves"_s);
+  TTirage tirage(ecole_.Graine, kFluxPhotos);
+  for (std::size_t e = 0; e < ecole_.Eleves.size(); ++e) {
+    const TEleveExemple& exemple = ecole_.Eleves[e];
+    const QImage portrait = DessinerPortrait(tirage, exemple.Fille, exemple.Niveau);
+    if (tirage.Chance(930)) Eleve(static_cast<int>(e)).SetPhoto(portrait);
+  }
+  Globals.Parametres->SetParametre(TParam::DatePhoto, kDatePhotos);
+  Globals.Parametres->Save();
 }
 
 void TChargement::Personnel() {

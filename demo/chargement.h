@@ -32,6 +32,7 @@ class TChargement {
   void Sites();
   void Fiches();
   void Personnel();
+  void Photos();
   void Activites();
   void Frais();
   void Marques();
