@@ -2,15 +2,16 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <array>
 
 namespace {
 
 constexpr int kLargeur = 190, kHauteur = 220;  // twice what the screens show
 
-constexpr QRgb kFonds[] = {0xffb9cfe0, 0xffc9d6c0, 0xffdccfc0, 0xffcfc7dc};
-constexpr QRgb kPeaux[] = {0xfff3d3b8, 0xffecc3a0, 0xffd9a883, 0xffb07c56, 0xff7d5238};
-constexpr QRgb kCheveux[] = {0xff2a201c, 0xff4b3222, 0xff7a4e2b, 0xffb98746, 0xffd9b673, 0xff9c4a25};
-constexpr QRgb kHabits[] = {0xff34618f, 0xff8f3b3b, 0xff3f7a55, 0xffc28a2e, 0xff5d4a86, 0xff4d5560};
+constexpr std::array kFonds{0xffb9cfe0, 0xffc9d6c0, 0xffdccfc0, 0xffcfc7dc};
+constexpr std::array kPeaux{0xfff3d3b8, 0xffecc3a0, 0xffd9a883, 0xffb07c56, 0xff7d5238};
+constexpr std::array kCheveux{0xff2a201c, 0xff4b3222, 0xff7a4e2b, 0xffb98746, 0xffd9b673, 0xff9c4a25};
+constexpr std::array kHabits{0xff34618f, 0xff8f3b3b, 0xff3f7a55, 0xffc28a2e, 0xff5d4a86, 0xff4d5560};
 
 struct TTraits {
   QColor Fond, Peau, Cheveux, Habit;
