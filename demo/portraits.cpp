@@ -10,6 +10,7 @@ constexpr int kLargeur = 190, kHauteur = 220;  // twice what the screens show
 
 constexpr std::array kFonds{0xffb9cfe0, 0xffc9d6c0, 0xffdccfc0, 0xffcfc7dc};
 constexpr std::array kPeaux{0xfff3d3b8, 0xffecc3a0, 0xffd9a883, 0xffb07c56, 0xff7d5238};
+constexpr std::size_t kPeauSombre = 3;  ///< from here on with the first two colours of hair
 constexpr std::array kCheveux{0xff2a201c, 0xff4b3222, 0xff7a4e2b, 0xffb98746, 0xffd9b673, 0xff9c4a25};
 constexpr std::array kHabits{0xff34618f, 0xff8f3b3b, 0xff3f7a55, 0xffc28a2e, 0xff5d4a86, 0xff4d5560};
 
@@ -24,8 +25,10 @@ struct TTraits {
 TTraits Tirer(TTirage& tirage, bool fille, int niveau) {
   TTraits traits;
   traits.Fond = QColor(tirage.Choix(kFonds));
-  traits.Peau = QColor(tirage.Choix(kPeaux));
-  traits.Cheveux = QColor(tirage.Choix(kCheveux));
+  const auto peau = static_cast<std::size_t>(tirage.Entier(0, static_cast<int>(kPeaux.size()) - 1));
+  const int dernier = peau < kPeauSombre ? static_cast<int>(kCheveux.size()) - 1 : 1;
+  traits.Peau = QColor(kPeaux[peau]);
+  traits.Cheveux = QColor(kCheveux[static_cast<std::size_t>(tirage.Entier(0, dernier))]);
   traits.Habit = QColor(tirage.Choix(kHabits));
   traits.Longs = tirage.Chance(fille ? 780 : 60);
   traits.Lunettes = tirage.Chance(140);
