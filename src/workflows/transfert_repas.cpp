@@ -49,11 +49,12 @@ class TCopie {
     }
   }
 
-  /// Pictures that have not been copied stay in their file as they are.
+  /// Pictures that have not been copied stay in their file as they are. The pupils come last: where they are,
+  /// the rest is there too, wherever the tablet is killed.
   void Enregistrer(const TFichiersTablette& fichiers, bool avecPhotos) const {
-    std::vector<std::pair<QString, QByteArray>> tous{{fichiers.Eleves, eleves_.EnOctets()},
-                                                     {fichiers.Classes, classes_.EnOctets()}};
+    std::vector<std::pair<QString, QByteArray>> tous{{fichiers.Classes, classes_.EnOctets()}};
     if (avecPhotos) tous.emplace_back(fichiers.Photos, photos_.EnOctets());
+    tous.emplace_back(fichiers.Eleves, eleves_.EnOctets());
     EcrireFichiers(tous);
   }
 
