@@ -175,10 +175,11 @@ void VuePresenceRepas::RemplirCadres() {
   montres_.clear();
   auto* place = new QWidget;
   auto* rangees = new RangeePliante;
-  rangees->setContentsMargins(Theme::Px(kMarge), 0, Theme::Px(kMarge), 0);
+  rangees->setContentsMargins(Theme::Px(kMarge), 0, 0, 0);
   rangees->setSpacing(Theme::Px(kMarge));
   rangees->DefinirEntreLignes(Theme::Px(kEntreLignes));
   auto* colonne = new QVBoxLayout(place);
+  colonne->setContentsMargins(0, 0, 0, 0);
   colonne->addLayout(rangees);
   colonne->addStretch(1);
   for (const TFrmPresenceRepas::TCadre& cadre : form_.Cadres()) {
