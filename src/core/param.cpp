@@ -71,6 +71,7 @@ constexpr TReglesParam kRegles[] = {
     {AnneeDeSelection, OuiNon},
     {DatePhoto},
     {QrReference, OuiNon},
+    {NumeroEntreprise},
 };
 
 }  // namespace

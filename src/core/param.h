@@ -65,6 +65,7 @@ enum class TParam : int {
   AnneeDeSelection = 114,  ///< the year of a communication is that of the screen
   DatePhoto = 115,         ///< stamp of the latest change of a photo
   QrReference = 116,       ///< a payment code holds the twelve digits as a reference, not as a text
+  NumeroEntreprise = 117,  ///< of the school, on the tax sheets
 };
 
 /// What the text of a setting holds, and so how it is read and edited.

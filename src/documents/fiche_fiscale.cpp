@@ -3,7 +3,9 @@
 #include <numeric>
 
 #include "core/formats.h"
+#include "core/numero_entreprise.h"
 #include "core/numero_national.h"
+#include "core/parametres.h"
 #include "documents/fiscalite.h"
 #include "documents/sections.h"
 #include "pupils/eleves.h"
@@ -55,6 +57,20 @@ void AjouterAnnee(TRapport& rapport, const TFichesFiscales& fiches) {
                           maximum == Currency() ? QString() : FormatDeuxDecimales(maximum));
 }
 
+/// What the sheets lack of the school and of the year, whoever they are for.
+void DireEcole(const TRapport& rapport, const TFichesFiscales& fiches, TResultat& resultat) {
+  const auto dire = [&](const QString& texte) {
+    resultat.Manques.insert(resultat.Manques.begin(), {nullptr, {}, texte, false});
+  };
+  const QString numero = rapport.Variables().Valeur(u"NumEntreprise");
+  if (numero.isEmpty())
+    dire(u"le numéro d'entreprise de l'école manque (Mon école, « N° d'entreprise »)"_s);
+  else if (!NumeroEntrepriseValide(numero))
+    dire(u"le numéro d'entreprise de l'école, « %1 », est incorrect (Mon école)"_s.arg(numero));
+  if (fiches.Regles.MaximumParJour == Currency())
+    dire(u"le maximum par jour de %1 n'est pas connu du programme : vérifiez-le"_s.arg(fiches.Annee));
+}
+
 }  // namespace
 
 // As in every document, who was struck off is printed alone only; here he must not be forgotten.
@@ -77,6 +93,9 @@ TResultat FicheFiscale(const TContexteDocument& contexte, const TDemandeDocument
     resultat.Manques.push_back({manque.Eleve, manque.Champ, manque.Texte, manque.SansFiche});
   AjouterSignataire(rapport, contexte);
   AjouterAnnee(rapport, fiches);
+  rapport.AjouterVariable(
+      u"NumEntreprise", NumeroEntreprisePresente(contexte.Parametres.GetParametre(TParam::NumeroEntreprise)));
+  if (!resultat.Manques.empty() || !arbre.empty()) DireEcole(rapport, fiches, resultat);
   if (fiches.Annee >= DecodeDate(contexte.Aujourdhui).Annee && !arbre.empty())
     resultat.Messages +=
         u"L'année %1 n'est pas finie : ces fiches ne sont pas complètes."_s.arg(fiches.Annee);

@@ -5,10 +5,16 @@
 
 using namespace Qt::StringLiterals;
 
-QString TManque::Phrase() const { return Eleve->NomComplet() % u" : " % Texte; }
+QString TManque::Phrase() const {
+  return Eleve != nullptr ? QString(Eleve->NomComplet() % u" : " % Texte) : Texte;
+}
 
 void TResultat::Ajouter(TResultat suite) {
   Messages += suite.Messages;
+  for (TRapport& suivant : suite.Rapports)
+    suivant.Avertissements.removeIf([this](const QString& dit) {
+      return std::ranges::any_of(Rapports, [&](const TRapport& r) { return r.Avertissements.contains(dit); });
+    });
   std::ranges::move(suite.Rapports, std::back_inserter(Rapports));
   std::ranges::move(suite.Manques, std::back_inserter(Manques));
   Echec = Echec || suite.Echec;

@@ -5,9 +5,9 @@
 
 class TEleve;
 
-/// What a document needs of a pupil and does not find.
+/// What a document needs of a pupil, or of the school, and does not find.
 struct TManque {
-  TEleve* Eleve = nullptr;
+  TEleve* Eleve = nullptr;   ///< null: it is the school's
   QString Champ;             ///< of the pupil's record, where it is mended; "" for none
   QString Texte;             ///< French
   bool SansDocument = true;  ///< the document goes without the pupil; else it leaves something out
@@ -24,7 +24,7 @@ struct TResultat {
   std::vector<TManque> Manques;  ///< told before the previews
   bool Echec = false;            ///< the document could not be made; a message says why
 
-  /// Adds what the next document gave.
+  /// Adds what the next document gave. A warning that stands on an earlier report is not repeated.
   void Ajouter(TResultat suite);
   /// What is missing stands after the messages.
   /// {"titre", "messages": [...], "rapports": [...]}, UTF-8.

@@ -65,8 +65,7 @@ Currency TPeriodeGarde::Tarif() const {
 }
 
 int AnneeRevenus(int ecole, TDateTime aujourdhui) {
-  const int finie = DecodeDate(aujourdhui).Annee - 1;
-  return ecole == finie - 1 ? finie : ecole;
+  return ecole + 1 < DecodeDate(aujourdhui).Annee ? ecole + 1 : ecole;
 }
 
 TFichesFiscales::TFichesFiscales(const TEleves& eleves, const TParametres& parametres, int anneeRevenus)
@@ -113,7 +112,7 @@ std::vector<TJourGarde> TFichesFiscales::Jours(const TEleve& eleve) const {
   std::optional<TCompteGarde> printemps, automne;
   if (const TEleve* e = Eleves(Annee - 1).TrouverParId(eleve.Id)) printemps.emplace(*e, Regles, payeurs_);
   if (const TEleve* e = Eleves(Annee).TrouverParId(eleve.Id)) automne.emplace(*e, Regles, payeurs_);
-  if (printemps && automne) printemps->Recevoir(automne->PaieDette(printemps->DetteCedee()));
+  if (printemps && automne) printemps->Recevoir(automne->DettePayee());
   std::vector<TJourGarde> jours;
   for (auto* compte : {&printemps, &automne})
     if (*compte) std::ranges::move((*compte)->Solder(), std::back_inserter(jours));

@@ -30,8 +30,8 @@ struct TManqueFiche {
   bool SansFiche = true;  ///< there is no sheet until then; else it leaves something out
 };
 
-/// The year of income whose sheets are made when `ecole` is on display: the last one that is over when the
-/// school year holds a part of it, else the one in which the school year begins.
+/// The year of income whose sheets are made when `ecole` is on display: the last one that is over of the two
+/// that the school year holds a part of, else the first of them.
 int AnneeRevenus(int ecole, TDateTime aujourdhui);
 
 /// The tax sheets of a year of income, whose spring belongs to one school year and its autumn to the next.

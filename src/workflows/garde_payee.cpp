@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 #include <numeric>
-#include <utility>
 
 #include "pupils/eleves.h"
 #include "services/frais_eleve.h"
@@ -25,8 +24,20 @@ void Compenser(TParPayeur& caisse) {
       }
 }
 
-void Verser(TParPayeur& de, TParPayeur& vers) {
-  for (std::size_t i = 0; i < de.size(); ++i) vers[i] += std::exchange(de[i], Currency());
+void Verser(const TParPayeur& de, TParPayeur& vers) {
+  for (std::size_t i = 0; i < de.size(); ++i) vers[i] += de[i];
+}
+
+/// Takes that much, or what there is; gives whose money it was.
+TParPayeur Prendre(TParPayeur& caisse, Currency montant) {
+  Compenser(caisse);
+  TParPayeur pris{};
+  for (const std::size_t payeur : {1U, 2U, 0U}) {
+    pris[payeur] = std::min(montant, std::max(Currency(), caisse[payeur]));
+    caisse[payeur] -= pris[payeur];
+    montant -= pris[payeur];
+  }
+  return pris;
 }
 
 bool EstMois(int mois) { return mois >= 1 && mois <= 12; }
@@ -39,6 +50,8 @@ TCompteGarde::TCompteGarde(const TEleve& eleve, const TReglesFiscales& regles, c
   LireSupplements();
   LireMois();
   LireLignes();
+  PayerMois();
+  PayerDettes();
 }
 
 // A day that comes out below 0, by what an activity takes off, is money for its month.
@@ -93,29 +106,28 @@ void TCompteGarde::LireLignes() {
   for (const TFraisEleve& ligne : *lignes) {
     if (ligne.EstLibre())
       LirePaiement(ligne);
-    else if (!provision && !ligne.FraisService() && !ligne.Previsionnel())
-      fraisPayes_ += ligne.MontantVerse;
+    else if (!provision && !ligne.Previsionnel())
+      frais_[static_cast<std::size_t>(Payeur(ligne))] +=
+          ligne.FraisService() ? std::max(Currency(), ligne.MontantVerse - ligne.MontantFrais())
+                               : ligne.MontantVerse;
   }
-  Currency manque = std::max(Currency(), lignes->TotalFrais() - fraisPayes_);
-  for (Currency& general : general_) {
-    const Currency pris = std::min(manque, std::max(Currency(), general));
-    general -= pris;
-    manque -= pris;
-  }
-  Verser(general_, recettes_[0]);
+  fraisImpayes_ = lignes->TotalFrais();
 }
 
 void TCompteGarde::LirePaiement(const TFraisEleve& ligne) {
   const TReport report = ReportDe(ligne);
   const auto payeur = static_cast<std::size_t>(Payeur(ligne));
+  reporte_ = reporte_ || report == TReport::Parti || report == TReport::DetteParti;
   if (report == TReport::DetteParti)
     detteCedee_ += ligne.MontantVerse;
+  else if (report == TReport::Arrive && ligne.MontantVerse < Currency())
+    detteRecue_ -= ligne.MontantVerse;
   else if (report != TReport::Aucun || ligne.TypeFamilleFrais == TTypeFamilleFrais::General)
     general_[payeur] += ligne.MontantVerse;
   else if (ligne.TypeFamilleFrais == TTypeFamilleFrais::Services)
     recettes_[EstMois(ligne.Mois) ? static_cast<std::size_t>(ligne.Mois) : 0][payeur] += ligne.MontantVerse;
   else
-    fraisPayes_ += ligne.MontantVerse;
+    frais_[payeur] += ligne.MontantVerse;
 }
 
 int TCompteGarde::Payeur(const TFraisEleve& ligne) const {
@@ -124,22 +136,49 @@ int TCompteGarde::Payeur(const TFraisEleve& ligne) const {
   return connu == payeurs_.end() ? 0 : connu->second;
 }
 
-Currency TCompteGarde::PaieDette(Currency dette) const {
-  if (dette <= Currency()) return {};
-  return std::clamp(Somme(recettes_[0]) + dette, Currency(), dette);
+void TCompteGarde::PayerMois() {
+  for (std::size_t mois = 1; mois < recettes_.size(); ++mois) {
+    Compenser(recettes_[mois]);
+    for (TDu& du : dus_)
+      if (du.Mois == static_cast<int>(mois) && !Payer(du, recettes_[mois])) break;
+    Verser(recettes_[mois], recettes_[0]);
+  }
 }
 
-void TCompteGarde::Recevoir(Currency montant) { recettes_[0][static_cast<std::size_t>(payeur_)] += montant; }
+// A balance that was carried joined fees and services: what was paid too much on fees went with it. One that
+// was not leaves it on the fees; what was given back of them is owed again.
+void TCompteGarde::PayerDettes() {
+  PayerFrais(frais_);
+  const Currency surplus = Somme(frais_);
+  if (surplus < Currency()) fraisImpayes_ -= surplus;
+  if (surplus > Currency() && reporte_) Verser(frais_, general_);
+  PayerDette(general_);
+  PayerFrais(general_);
+  Verser(general_, recettes_[0]);
+  PayerDette(recettes_[0]);
+}
+
+void TCompteGarde::PayerFrais(TParPayeur& caisse) { fraisImpayes_ -= Somme(Prendre(caisse, fraisImpayes_)); }
+
+void TCompteGarde::PayerDette(TParPayeur& caisse) {
+  const TParPayeur paye = Prendre(caisse, detteRecue_);
+  detteRecue_ -= Somme(paye);
+  Verser(paye, dettePayee_);
+}
+
+void TCompteGarde::Recevoir(TParPayeur dettePayee) {
+  TParPayeur recu = Prendre(dettePayee, detteCedee_);
+  PayerFrais(recu);
+  Verser(recu, recettes_[0]);
+}
 
 /// The care of the day is paid before its meals.
 bool TCompteGarde::Payer(TDu& du, TParPayeur& caisse) {
   if (Somme(caisse) < du.Total) return false;
-  Currency reste = du.Total, garde = du.Jour.Cout;
+  const TParPayeur parts = Prendre(caisse, du.Total);
+  Currency garde = du.Jour.Cout;
   for (const std::size_t payeur : {1U, 2U, 0U}) {
-    const Currency part = std::min(reste, caisse[payeur]);
-    caisse[payeur] -= part;
-    reste -= part;
-    du.Jour.Recu[payeur] = std::min(part, garde);
+    du.Jour.Recu[payeur] = std::min(parts[payeur], garde);
     garde -= du.Jour.Recu[payeur];
   }
   du.Jour.Paye = true;
@@ -147,16 +186,8 @@ bool TCompteGarde::Payer(TDu& du, TParPayeur& caisse) {
 }
 
 std::vector<TJourGarde> TCompteGarde::Solder() {
-  TParPayeur& libre = recettes_[0];
-  for (std::size_t mois = 1; mois < recettes_.size(); ++mois) {
-    Compenser(recettes_[mois]);
-    for (TDu& du : dus_)
-      if (du.Mois == static_cast<int>(mois) && !Payer(du, recettes_[mois])) break;
-    Verser(recettes_[mois], libre);
-  }
-  Compenser(libre);
   for (TDu& du : dus_)
-    if (!du.Jour.Paye && !Payer(du, libre)) break;
+    if (!du.Jour.Paye && !Payer(du, recettes_[0])) break;
   std::vector<TJourGarde> jours;
   for (const TDu& du : dus_)
     if (du.Jour.Cout > Currency()) jours.push_back(du.Jour);

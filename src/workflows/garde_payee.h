@@ -25,19 +25,18 @@ struct TJourGarde {
 };
 
 /// The services of a pupil's school year day by day, and the money that pays them. Money of a month, marked
-/// on the record or told by its payment, pays the days of that month in their order; what is left of it and
-/// all other money pays what is left, the oldest day first. A day is paid whole or not at all. General
-/// payments and carried balances pay the fees first.
+/// on the record or told by its payment, pays the days of that month in their order. What is left of it and
+/// all other money pays what is left, the oldest day first. A day is paid whole or not at all. A debt of the
+/// year before is paid before anything that no month tells; general payments and balances that were carried
+/// then pay the fees, before any care.
 class TCompteGarde {
  public:
   TCompteGarde(const TEleve& eleve, const TReglesFiscales& regles, const TPayeurs& payeurs);
 
-  /// What was owed at the end of the year and carried to the next one: money that this account never had.
-  Currency DetteCedee() const { return detteCedee_; }
-  /// What this account can pay of such a debt of the year before, which is the first thing it pays.
-  Currency PaieDette(Currency dette) const;
-  /// Money of no month, of the payer that the attestation is for.
-  void Recevoir(Currency montant);
+  /// What was paid in this account of the debt of the year before.
+  const TParPayeur& DettePayee() const { return dettePayee_; }
+  /// What the year after paid of the debt that this account handed over: its fees first.
+  void Recevoir(TParPayeur dettePayee);
   /// The days of care in their order.
   std::vector<TJourGarde> Solder();
 
@@ -55,6 +54,10 @@ class TCompteGarde {
   void LireMois();
   void LireLignes();
   void LirePaiement(const TFraisEleve& ligne);
+  void PayerMois();
+  void PayerDettes();
+  void PayerFrais(TParPayeur& caisse);
+  void PayerDette(TParPayeur& caisse);
   int Payeur(const TFraisEleve& ligne) const;
   static bool Payer(TDu& du, TParPayeur& caisse);
 
@@ -65,6 +68,10 @@ class TCompteGarde {
   std::vector<TDu> dus_;
   std::array<TParPayeur, 13> recettes_{};  // by month, at 0 of none
   TParPayeur general_{};                   // may pay fees
-  Currency fraisPayes_;
-  Currency detteCedee_;
+  TParPayeur frais_{};                     // was paid on fees
+  Currency fraisImpayes_;
+  bool reporte_ = false;  // the balance of the year left for another
+  Currency detteCedee_;   // the part of it that was owed: money that this account never had
+  Currency detteRecue_;   // of the year before, not yet paid
+  TParPayeur dettePayee_{};
 };

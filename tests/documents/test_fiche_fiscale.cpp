@@ -61,10 +61,12 @@ struct TFicheFiscaleEssai : TDocumentsEssai {
       }
     return fiches.join(u'\n');
   }
-  static QString Manques(const TResultat& resultat) {
+  /// Of the pupils, or of the school.
+  static QString Manques(const TResultat& resultat, bool ecole = false) {
     QStringList manques;
     for (const TManque& manque : resultat.Manques)
-      manques += (manque.SansDocument ? u"! "_s : QString()) % manque.Champ % u' ' % manque.Texte;
+      if ((manque.Eleve == nullptr) == ecole)
+        manques += (manque.SansDocument ? u"! "_s : QString()) % manque.Champ % u' ' % manque.Texte;
     return manques.join(u'\n');
   }
 
@@ -97,6 +99,21 @@ TEST_F(TFicheFiscaleEssai, CeQuiEstPayeParTrimestre) {
   EXPECT_TRUE(Fiches(Etablir()).startsWith(u"2 DEUX")) << "another debtor's is another sheet";
   Poser(u"FLG_IMPOT_RESPONS2 = NULL"_s);
   EXPECT_EQ(Fiches(Etablir()), entiere);
+  controleur.Horloge.Moment = EncodeDate(2019, 2, 5);
+  EXPECT_EQ(Fiches(Etablir(2016)), entiere) << "the year before the last one";
+}
+
+TEST_F(TFicheFiscaleEssai, CeQuiManqueALEcoleEstDitDAbord) {
+  const QString maximum = u" le maximum par jour de 2017 n'est pas connu du programme : vérifiez-le"_s;
+  EXPECT_EQ(Manques(Etablir(), true),
+            maximum % u"\n le numéro d'entreprise de l'école manque (Mon école, « N° d'entreprise »)");
+  ecole.parametre(117, u"BE 0201.310.928"_s);
+  EXPECT_TRUE(Manques(Etablir(), true).contains(u"« BE 0201.310.928 », est incorrect"_s));
+  ecole.parametre(117, u"0201310929"_s);
+  const TResultat resultat = Etablir();
+  EXPECT_EQ(Manques(resultat, true), maximum);
+  EXPECT_EQ(resultat.Manques.front().Eleve, nullptr);
+  EXPECT_EQ(Variable(resultat, u"NumEntreprise"), u"0201.310.929");
 }
 
 TEST_F(TFicheFiscaleEssai, JusqueLaVeilleDeLAnniversaire) {
@@ -131,7 +148,26 @@ TEST_F(TFicheFiscaleEssai, LaDetteReporteeNEstPasPayee) {
             u"1 UN 4 j 5,43: "_s + kPrintemps +
                 u"|1 x 1,23 = 1,23 08/05/2017-08/05/2017|1 x 1,23 = 1,23 02/10/2017-02/10/2017"_s);
   EXPECT_EQ(Manques(courte), u" 1 jour de garde impayé, le 03/10/2017 : pas sur la fiche");
+  ParVirement(u"2"_s);
+  Poser(u"FLG_PARENT_SEPARE = 1"_s);
+  EXPECT_EQ(Fiches(Etablir()),
+            u"1 UN 2 j 2,97: "_s + kPrintemps +
+                u"\n2 DEUX 2 j 2,46: 1 x 1,23 = 1,23 08/05/2017-08/05/2017|1 x 1,23 = 1,23 "
+                "02/10/2017-02/10/2017"_s);
+  Poser(u"FLG_PARENT_SEPARE = NULL"_s);
   automne.paie(u"1.2345"_s, 0, 2, {});
+  EXPECT_EQ(Manques(Etablir()), QString());
+  // The fees that were owed with it come first.
+  anne.doit(ecole.frais(u"Piscine"_s, u"2.4691"_s, 5));
+  base.Sql(
+      u"UPDATE FRAIS_ELEVE SET MONTANT_VERSE = SIGN(MONTANT_VERSE) * 3.7036 WHERE REMARQUE LIKE 'Report%'"_s);
+  EXPECT_EQ(Manques(Etablir()), u" 3 jours de garde impayés, du 08/05/2017 au 03/10/2017 : pas sur la fiche");
+}
+
+// What was paid too much on fees is in the balance that was carried, and takes nothing from the care.
+TEST_F(TFicheFiscaleEssai, LeSurplusReporteEtaitSurLesFrais) {
+  anne.paie(u"1.2345"_s, 0, 2, {}).paie(u"10"_s, 0, 1, {});
+  anne.paie(u"-10"_s, 6, 1, u"Transfert vers l'année scolaire 2017-2018"_s);
   EXPECT_EQ(Manques(Etablir()), QString());
 }
 

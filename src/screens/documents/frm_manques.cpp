@@ -15,7 +15,7 @@ enum TEtat { SansDocument, Incomplet };
 QString Resume(const std::vector<TManque>& manques) {
   std::set<const TEleve*> sans;
   for (const TManque& manque : manques)
-    if (manque.SansDocument) sans.insert(manque.Eleve);
+    if (manque.SansDocument && manque.Eleve != nullptr) sans.insert(manque.Eleve);
   if (sans.empty()) return u"Tout s'imprime, mais il manque ceci :"_s;
   return Compter(static_cast<qint64>(sans.size()), u"élève n'est pas imprimé"_s,
                  u"élèves ne sont pas imprimés"_s) %
@@ -33,15 +33,20 @@ TFrmManques::TFrmManques(const std::vector<TManque>& manques, bool imprimable, b
       texte_(Resume(manques)) {
   Grille.Etats = {{u"Pas imprimé"_s, u"data-error"_s}, {u"Imprimé sans"_s, u"data-warning"_s}};
   for (const TManque& manque : manques_)
-    Grille.Ajouter({manque.Eleve->NomComplet(), manque.Eleve->LibelleClasse(), manque.Texte, {}}, {},
-                   manque.SansDocument ? SansDocument : Incomplet);
+    Grille.Ajouter({manque.Eleve != nullptr ? manque.Eleve->NomComplet() : u"L'école"_s,
+                    manque.Eleve != nullptr ? manque.Eleve->LibelleClasse() : QString(),
+                    manque.Texte,
+                    {}},
+                   {}, manque.SansDocument ? SansDocument : Incomplet);
   Grille.ChoisirLigne(0);
 }
 
 void TFrmManques::btnAllerClick() {
   const int ligne = Grille.LigneCourante();
   if (ligne < 0 || !avecChamps_) return;
-  choisi_ = &manques_[static_cast<std::size_t>(ligne)];
+  const TManque& manque = manques_[static_cast<std::size_t>(ligne)];
+  if (manque.Eleve == nullptr) return;  // no record leads there
+  choisi_ = &manque;
   Valider();
 }
 

@@ -11,7 +11,7 @@ class TFrmManques : public TForm {
   /// `manques` must outlive it.
   TFrmManques(const std::vector<TManque>& manques, bool imprimable, bool avecChamps);
 
-  /// "Il manque de quoi établir 3 documents" and what that means.
+  /// "3 élèves ne sont pas imprimés tant qu'il manque ceci :"
   const QString& Texte() const { return texte_; }
   bool Imprimable() const { return imprimable_; }
   bool AvecChamps() const { return avecChamps_; }
@@ -19,7 +19,7 @@ class TFrmManques : public TForm {
 
   /// "Imprimer les autres"
   void btnImprimerClick() { Valider(); }
-  /// "Aller à la fiche", of the current row.
+  /// "Aller à la fiche", of the current row; nothing for one of the school.
   void btnAllerClick();
   /// What the user wants to see to; null for none.
   const TManque* Choisi() const { return choisi_; }

@@ -60,6 +60,7 @@ TTableChamps<TParametres> ChampsEcole() {
       Texte(u"edEmail", EmailEcole, u"Adresse de messagerie:"),
       Texte(u"edImplantation", NomImplantation, u"Nom de l'implantation:"),
       Texte(u"edCompteBancaire", CompteBanque, u"N° de compte bancaire :"),
+      Texte(u"edNumeroEntreprise", NumeroEntreprise, u"N° d'entreprise (BCE) :", 200),
       Texte(u"edNomDirection", NomDirection, u"Nom de la direction:"),
       Texte(u"edPrenomDirection", PrenomDirection, u"Prénom de la direction:"),
       Texte(u"edTitreDirection", TitreDirection, u"Titre de la direction:"),
