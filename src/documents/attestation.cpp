@@ -18,10 +18,10 @@ QString ModeleAttestation(const TParametres& parametres) {
   return u"AttestationContribution"_s;
 }
 
-TNoeudRapport NoeudFeuille(const TFeuilleAttestation& feuille) {
-  TEleve& eleve = *feuille.Eleve;
+TNoeudRapport NoeudFeuille(const TFeuilleAttestation& feuille, int numero) {
+  const TEleve& eleve = *feuille.Eleve;
   TNoeudRapport noeud = NoeudEleve(eleve);
-  noeud.Valeurs.Ecrire(u"NumAttestation", QString::number(eleve.GetNumAttestation()));
+  noeud.Valeurs.Ecrire(u"NumAttestation", QString::number(numero));
   noeud.Valeurs.Ecrire(u"DateNaissanceEleve", FormatDate(eleve.DateNaissance));
   noeud.Valeurs.Ecrire(u"Montant", FormatDeuxDecimales(feuille.Montant));
   noeud.Valeurs.Ecrire(u"LeLaDirection", u"Le"_s);
@@ -52,11 +52,18 @@ TResultat AttestationFiscale(const TContexteDocument& contexte, const TDemandeDo
        attestations.Feuilles(SansRadies(demande.Eleves), resultat.Messages)) {
     for (const QString& remarque : feuille.Remarques)
       rapport.Avertissements += feuille.Eleve->NomComplet() % u" : " % remarque % u'.';
-    if (feuille.Eleve->DateNaissance == 0.0)
-      rapport.Avertissements +=
-          feuille.Eleve->NomComplet() % u" : pas d'attestation sans date de naissance.";
+    const bool deja = !resultat.Manques.empty() && resultat.Manques.back().Eleve == feuille.Eleve;
+    if (feuille.Eleve->DateNaissance == 0.0 && !deja)
+      resultat.Manques.push_back(
+          {feuille.Eleve, u"lblDateNaissance"_s, u"pas d'attestation sans date de naissance"_s});
     if (feuille.Montant == Currency()) continue;
-    arbre.push_back(NoeudFeuille(feuille));
+    const int numero = feuille.Eleve->GetNumAttestation();
+    if (numero == 0) {
+      resultat.Manques.push_back(
+          {feuille.Eleve, {}, u"pas d'attestation : aucun numéro n'a pu lui être donné"_s});
+      continue;
+    }
+    arbre.push_back(NoeudFeuille(feuille, numero));
     dateFin = feuille.DateFin;
   }
   AjouterSignataire(rapport, contexte);

@@ -77,6 +77,15 @@ TEST_F(TAttestationEssai, QuatreFaconsDeCompter) {
               (QStringList{u"Le paramètre de calcul d'attestation d'impôt n'a pas été défini."_s,
                            u"Aucune information à imprimer"_s}));
   EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM ELEVES WHERE NUM_ATTEST_2015 IS NOT NULL"_s), u"1"_s);
+  // Without a number, or without a date of birth, there is none, and that is told.
+  base.Sql(u"UPDATE ELEVES SET NUM_ATTEST_2015 = NULL"_s);
+  base.Sql(u"DELETE FROM COUNTERS WHERE TABLE_NAME = 'VIRTUAL_ATTESTATION_2015'"_s);
+  base.Dialogues.Attend(u"Le compteur de table VIRTUAL_ATTESTATION_2015 n'existe pas !"_s);
+  const TResultat sans = Attester(u"1"_s);
+  EXPECT_TRUE(sans.Rapports.empty());
+  EXPECT_EQ(sans.Manques.size(), 1U);
+  base.Sql(u"UPDATE ELEVES SET DATE_NAISSANCE = NULL"_s);
+  EXPECT_EQ(Attester(u"1"_s).Manques.at(0).Champ, u"lblDateNaissance");
 }
 
 TEST_F(TAttestationEssai, LesSupplementsDuMidi) {
