@@ -24,6 +24,7 @@ struct TProvisionEssai : TDocumentsEssai {
 }  // namespace
 
 TEST_F(TProvisionEssai, GarderiesPuisActivites) {
+  ecole.parametre(51, u"BE71096123456768"_s);
   const TResultat resultat = Facturer({1}, "2016-10-01", "2016-10-31", J("2016-11-14"));
   ASSERT_EQ(resultat.Rapports.size(), 2U);
   EXPECT_EQ(resultat.Rapports[0].Modele(), u"Facture2"_s);
@@ -43,6 +44,8 @@ TEST_F(TProvisionEssai, GarderiesPuisActivites) {
     Garderies du mois en cours: NomService=Garderies du mois d'octobre 2016 | Total=-8,98)"_s);
   const TRapport& activites = resultat.Rapports[1];
   EXPECT_EQ(activites.Modele(), u"Facture3"_s);
+  EXPECT_EQ(resultat.Rapports[0].Avertissements.size(), 1) << "a wrong account";
+  EXPECT_TRUE(activites.Avertissements.isEmpty()) << "it is told once";
   EXPECT_EQ(activites.Variables().Valeur(u"AnneeScolaire"), u"2016 - 2017"_s);
   EXPECT_EQ(activites.Variables().Trouver(u"DatePaiement"), nullptr);
   EXPECT_EQ(

@@ -31,10 +31,12 @@ TNoeudRapport Eleve(const QString& nom, std::vector<TNoeudRapport> sections) {
   return eleve;
 }
 
-TDocumentPrepare Facture(std::vector<TNoeudRapport> eleves, const QImage& logo = {}) {
+TDocumentPrepare Facture(std::vector<TNoeudRapport> eleves, const QImage& logo = {},
+                         const QString& compte = {}) {
   TRapport rapport(u"Facture"_s, u"Facture"_s);
   rapport.AjouterVariable(u"EcoleNom", u"École de Brumeval"_s);
   rapport.AjouterVariable(u"EcoleAdresse", u"rue du Vieux Moulin 27"_s);
+  rapport.AjouterVariable(u"CompteBanque", compte);
   rapport.Logo = logo;
   rapport.CopierArbre(std::move(eleves));
   return MettreEnPage(rapport, *ModeleDocument(u"Facture"_s));
@@ -93,12 +95,14 @@ TEST(Modeles, LePaiementRecuNeSeVoitQueChezLeSien) {
   TNoeudRapport avec = Eleve(u"AVEC"_s, {Section(u"Frais"_s, 1)});
   avec.Valeurs.Ecrire(u"Paiement"_s, u"20,00"_s);
   const auto sans = [](const QString& nom) { return Eleve(nom, {Section(u"Frais"_s, 1)}); };
-  const TDocumentPrepare document = Facture({sans(u"AVANT"_s), avec, sans(u"APRES"_s)});
+  const TDocumentPrepare document =
+      Facture({sans(u"AVANT"_s), avec, sans(u"APRES"_s)}, {}, u"BE68 5390 0754 7034"_s);
   ASSERT_EQ(document.Pages.size(), 3U);
   const QString paiement = u"Paiements reçus : -20,00 €"_s;
   EXPECT_EQ(Hauteur(document.Pages[0], paiement), -1);
   EXPECT_GT(Hauteur(document.Pages[1], paiement), 0);
   EXPECT_EQ(Hauteur(document.Pages[2], paiement), -1);
+  EXPECT_EQ(Hauteur(Facture({avec}).Pages[0], paiement), -1) << "a school without an account";
 }
 
 TEST(Modeles, LogoDuDocument) {
