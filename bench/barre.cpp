@@ -1,5 +1,7 @@
 #include "bench/barre.h"
 
+#include <malloc.h>
+
 #include <QFile>
 #include <cstdio>
 
@@ -24,5 +26,16 @@ void Barre(const char* nom, double mesure, double barre, bool auPlus) {
   std::fflush(stdout);
 }
 
-double Memoire() { return Etat("VmRSS:"); }
+// Resident memory would count what an earlier subject left free, and show nothing of what is put there.
+double Memoire() {
+  const struct mallinfo2 tas = mallinfo2();
+  return static_cast<double>(tas.uordblks + tas.hblkhd) / 1e6;
+}
+
+void OublierMaximum() {
+  malloc_trim(0);
+  QFile maximum(u"/proc/self/clear_refs"_s);
+  if (maximum.open(QIODevice::WriteOnly)) maximum.write("5");
+}
+
 double MemoireMaximale() { return Etat("VmHWM:"); }

@@ -4,7 +4,8 @@
 /// be measured is NaN, and short.
 void Barre(const char* nom, double mesure, double barre, bool auPlus);
 
-/// Resident memory of this process, in MB.
+/// Memory that this process holds, in MB.
 double Memoire();
-/// The most that it ever was.
+/// The most that was ever resident since what went before was forgotten.
+void OublierMaximum();
 double MemoireMaximale();

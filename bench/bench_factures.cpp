@@ -95,6 +95,7 @@ void MesurerGeneration(TEcole& ecole, const QTemporaryDir& dossier, const std::s
   const QString vidage = dossier.filePath(u"factures.json"_s);
 
   TEtapes etapes;
+  OublierMaximum();
   auto annee = ecole.Charger();
   const TDocumentPrepare document = Facturer(ecole, *annee, notre, etapes);
   const double memoire = MemoireMaximale();

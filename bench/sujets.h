@@ -9,7 +9,6 @@
 void MesurerChargement(TEcole& ecole);
 void MesurerStatistiques(TEcole& ecole);
 void MesurerTarification(TEcole& ecole, const QTemporaryDir& dossier);
-/// The peak of memory is that of the process so far.
 void MesurerFactures(TEcole& ecole, const QTemporaryDir& dossier);
 /// The school is disconnected and connected again meanwhile.
 void MesurerEcran(TEcole& ecole, const QTemporaryDir& dossier);
