@@ -85,6 +85,7 @@ std::vector<TFormeur::TObjetPret> TFormeur::Preparer(const TBandeModele& bande) 
   // All procedures go first: one may set what another object shows.
   for (const TObjetModele& objet : bande.Objets) contexte_.Appeler(objet.AvantImpression, objet.Nom, bande);
   std::vector<TObjetPret> objets;
+  objets.reserve(bande.Objets.size());
   for (const TObjetModele& objet : bande.Objets) {
     const TEtatObjet& etat = contexte_.Etats.De(objet);
     if (!etat.Visible) continue;
@@ -126,8 +127,18 @@ float TFormeur::EtirerCadres(std::vector<TObjetPret>& objets, float bas) const {
   return bas;
 }
 
+/// By how much a text is higher than its place.
+float TFormeur::Croissance(const TObjetPret& objet) {
+  return objet.Modele->Etirable ? std::max(0.0F, objet.Paragraphe.Hauteur() - objet.Etat.Hauteur) : 0.0F;
+}
+
 /// Moves what stands below a text that grew; gives by how much the band grows.
 float TFormeur::Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objets) const {
+  // In most bands nothing does, and a transfer form has four hundred objects.
+  const bool immobile = std::ranges::none_of(objets, [](const TObjetPret& objet) {
+    return (objet.Modele->Etirable && objet.Modele->Sorte == TSorteObjet::Cadre) || Croissance(objet) > 0;
+  });
+  if (immobile) return 0;
   std::vector<TObjetPret*> ordre;
   for (TObjetPret& objet : objets) ordre.push_back(&objet);
   std::ranges::stable_sort(ordre, {}, [](const TObjetPret* o) { return o->Modele->Y; });
@@ -137,19 +148,17 @@ float TFormeur::Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objet
   for (const TObjetPret& objet : objets)
     if (objet.Modele->SousLaBande) limite = std::min(limite, objet.Modele->Y);
   float bas = limite;
-  std::unordered_map<const TObjetPret*, float> pousse;  // how much lower its foot came
-  for (const TObjetPret* objet : ordre) pousse[objet] = 0;
+  std::vector<float> pousse(ordre.size());  // how much lower its foot came
   for (std::size_t i = 0; i < ordre.size(); ++i) {
     TObjetPret& objet = *ordre[i];
     if (objet.Modele->SousLaBande) continue;
     float plus = 0;
     for (std::size_t j = 0; j < i; ++j)
-      if (SousLui(*ordre[j]->Modele, *objet.Modele)) plus = std::max(plus, pousse[ordre[j]]);
-    const float grandi =
-        objet.Modele->Etirable ? std::max(0.0F, objet.Paragraphe.Hauteur() - objet.Etat.Hauteur) : 0.0F;
+      if (SousLui(*ordre[j]->Modele, *objet.Modele)) plus = std::max(plus, pousse[j]);
+    const float grandi = Croissance(objet);
     objet.Etat.Y += plus;
     objet.Etat.Hauteur += grandi;
-    pousse[&objet] = plus + grandi;
+    pousse[i] = plus + grandi;
     if (plus + grandi > 0) bas = std::max(bas, objet.Etat.Y + objet.Etat.Hauteur);
   }
   bas = EtirerCadres(objets, bas);
@@ -172,6 +181,7 @@ std::optional<TBandeFormee> TFormeur::Former(const TBandeModele& bande) {
   formee.Modele = &bande;
   formee.Position = contexte_.Position;
   std::vector<TObjetPret> objets = Preparer(bande);
+  formee.Elements.reserve(objets.size() + 1);
   const float croissance = Etirer(bande, objets);
   formee.Hauteur = etat.Hauteur + croissance;
   if (qAlpha(etat.Fond) > 0) {

@@ -20,6 +20,7 @@ class TFormeur {
   struct TObjetPret;
   std::vector<TObjetPret> Preparer(const TBandeModele& bande);
   void ChoisirAjustes(std::vector<TObjetPret>& objets) const;
+  static float Croissance(const TObjetPret& objet);
   float Etirer(const TBandeModele& bande, std::vector<TObjetPret>& objets) const;
   float EtirerCadres(std::vector<TObjetPret>& objets, float bas) const;
   void Dessiner(const TBandeModele& bande, const TObjetPret& objet, TBandeFormee& formee);
