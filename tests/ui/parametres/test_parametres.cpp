@@ -219,7 +219,7 @@ TEST_F(MonEcole, EachFieldWritesItsSetting) {
       "edCompteBancaire 11 edHeureDebutLMJV 12 edMinuteDebutLMJV 13 edHeureFinLMJV 14 edMinuteFinLMJV 15 "
       "edHeureDebutMercredi 16 edMinuteDebutMercredi 17 edHeureFinMercredi 18 edMinuteFinMercredi 19 edEmail "
       "20 "
-      "edNomDirection 21 edPrenomDirection 22 edTitreDirection 23"_s.split(u' ');
+      "edNomDirection 21 edPrenomDirection 22 edTitreDirection 23 edNumeroEntreprise 117"_s.split(u' ');
   for (int i = 0; i < champs.size(); i += 2) {
     Saisir(champs[i], u" 0%1 "_s.arg(champs[i + 1]));
     EXPECT_EQ(Parametre(champs[i + 1].toInt()), u"0%1"_s.arg(champs[i + 1])) << champs[i].toStdString();
