@@ -76,8 +76,9 @@ void DireEcole(const TRapport& rapport, const TFichesFiscales& fiches, TResultat
 // As in every document, who was struck off is printed alone only; here he must not be forgotten.
 TResultat FicheFiscale(const TContexteDocument& contexte, const TDemandeDocument& demande) {
   TRapport rapport(u"Fiche fiscale 281.86"_s, u"FicheFiscale"_s);
-  TFichesFiscales fiches(contexte.Eleves, contexte.Parametres,
-                         AnneeRevenus(contexte.Eleves.AnneeScolaire, contexte.Aujourdhui));
+  TFichesFiscales fiches(
+      contexte.Eleves, contexte.Parametres,
+      AnneeRevenus(contexte.Eleves.AnneeScolaire, contexte.AnneeTravail, contexte.Aujourdhui));
   TFichesNumerotees numeros(contexte.Eleves.BaseDeDonnees(), fiches.Annee);
   TResultat resultat;
   TArbreRapport arbre;

@@ -64,8 +64,8 @@ Currency TPeriodeGarde::Tarif() const {
   return Currency::Brut((2 * centimes + Jours) / (2 * Jours) * 100);
 }
 
-int AnneeRevenus(int ecole, TDateTime aujourdhui) {
-  return ecole + 1 < DecodeDate(aujourdhui).Annee ? ecole + 1 : ecole;
+int AnneeRevenus(int ecole, int anneeTravail, TDateTime aujourdhui) {
+  return ecole < anneeTravail && ecole + 1 < DecodeDate(aujourdhui).Annee ? ecole + 1 : ecole;
 }
 
 TFichesFiscales::TFichesFiscales(const TEleves& eleves, const TParametres& parametres, int anneeRevenus)

@@ -30,9 +30,9 @@ struct TManqueFiche {
   bool SansFiche = true;  ///< there is no sheet until then; else it leaves something out
 };
 
-/// The year of income whose sheets are made when `ecole` is on display: the last one that is over of the two
-/// that the school year holds a part of, else the first of them.
-int AnneeRevenus(int ecole, TDateTime aujourdhui);
+/// The year of income whose sheets are made when `ecole` is on display. Of the two that a school year holds a
+/// part of, it is the second once that is over and a later school year has been opened, else the first.
+int AnneeRevenus(int ecole, int anneeTravail, TDateTime aujourdhui);
 
 /// The tax sheets of a year of income, whose spring belongs to one school year and its autumn to the next.
 /// Both are read, whichever is on display.

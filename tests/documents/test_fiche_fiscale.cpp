@@ -15,6 +15,7 @@ struct TFicheFiscaleEssai : TDocumentsEssai {
     Poser(
         u"NUM_NATIONAL = '12051000115', NUM_NATIONAL_RESPONSABLE = '85073003328', NOM_RESPONSABLE = 'UN', "
         "NUM_NATIONAL_RESPONSABLE2 = '90010200487', NOM_RESPONSABLE2 = 'DEUX'"_s);
+    ecole.parametre(27, u"2017"_s);
     controleur.Horloge.Moment = EncodeDate(2018, 2, 5);
   }
   // The prices of the school are there once the fixture is set up.
@@ -101,6 +102,7 @@ TEST_F(TFicheFiscaleEssai, CeQuiEstPayeParTrimestre) {
   EXPECT_EQ(Fiches(Etablir()), entiere);
   controleur.Horloge.Moment = EncodeDate(2019, 2, 5);
   EXPECT_EQ(Fiches(Etablir(2016)), entiere) << "the year before the last one";
+  EXPECT_EQ(Fiches(Etablir()), entiere) << "the school has opened no later year";
 }
 
 TEST_F(TFicheFiscaleEssai, CeQuiManqueALEcoleEstDitDAbord) {
