@@ -33,6 +33,9 @@ constexpr double kRetrait = 1 / kCentiemesParPixel;
 /// By how much a code must move so that it begins on a dot.
 double VersPoint(double pixels) { return std::round(pixels / kPoint300) * kPoint300 - pixels; }
 
+/// Hundredths of a dot.
+int CentiemesDePoint(double pixels) { return static_cast<int>(std::lround(pixels / kPoint300 * 100)); }
+
 }  // namespace
 
 int TRessourcesPdf::Image(const QImage& image) {
@@ -253,8 +256,17 @@ void TPagePdf::Dessiner(const TElementBarres& element) {
   SortirDuTexte();
   Couleur(0xFF000000, false);
   const QPointF coin = element.Barres.front().topLeft();
-  const QPointF pas(VersPoint(coin.x()), VersPoint(coin.y()));
-  for (const QRectF& barre : element.Barres)
-    Rectangle(barre.translated(pas).adjusted(kRetrait, 0, -kRetrait, 0));
-  Operateur("f");
+  // In dots from the corner: a payment code has five hundred bars, and whole numbers are short.
+  sortie_ += "q .24 0 0 .24 ";
+  AjouterPlaces(sortie_,
+                {Centiemes(coin.x() + VersPoint(coin.x()) + kRetrait), Y(coin.y() + VersPoint(coin.y()))});
+  Operateur("cm");
+  for (const QRectF& barre : element.Barres) {
+    const QRectF place = barre.translated(-coin);
+    AjouterPlaces(sortie_,
+                  {CentiemesDePoint(place.left()), -CentiemesDePoint(place.bottom()),
+                   CentiemesDePoint(place.width() - 2 * kRetrait), CentiemesDePoint(place.height())});
+    Operateur("re");
+  }
+  Operateur("f Q");
 }
