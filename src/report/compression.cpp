@@ -8,8 +8,8 @@
 
 namespace {
 
-/// Of libdeflate's 12 the one whose files are as small as zlib's, in less than half its time.
-constexpr int kNiveau = 6;
+/// Of libdeflate's 12 one whose files are as small as zlib's, in less than half its time.
+constexpr int kNiveau = 5;
 constexpr qsizetype kBloc = 1 << 20;
 
 Bytef* Octets(const char* debut) { return reinterpret_cast<Bytef*>(const_cast<char*>(debut)); }

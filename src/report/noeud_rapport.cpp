@@ -2,9 +2,10 @@
 
 namespace {
 
-/// Most names are told apart by their length.
+/// Most names are told apart by their length, numbered ones by their end.
 bool MemeNom(QStringView a, QStringView b) {
-  return a.size() == b.size() && a.compare(b, Qt::CaseInsensitive) == 0;
+  return a.size() == b.size() && (a.isEmpty() || a.back().toCaseFolded() == b.back().toCaseFolded()) &&
+         a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
 }  // namespace
