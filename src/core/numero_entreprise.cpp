@@ -6,7 +6,7 @@ namespace {
 
 constexpr qsizetype kLongueur = 10;
 
-/// "BE 0201.310.929" without what is no digit of the number.
+/// "BE 0999.999.922" without what is no digit of the number.
 QString Chiffres(const QString& texte) {
   QString chiffres = texte.trimmed();
   if (chiffres.startsWith(u"BE"_s, Qt::CaseInsensitive)) chiffres.remove(0, 2);

@@ -6,5 +6,5 @@
 
 /// Ten digits, points and blanks left out, whose check digits are right.
 bool NumeroEntrepriseValide(const QString& texte);
-/// "0201.310.929"; what is no such number as it stands.
+/// "0999.999.922"; what is no such number as it stands.
 QString NumeroEntreprisePresente(const QString& texte);

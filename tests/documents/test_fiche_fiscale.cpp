@@ -109,13 +109,13 @@ TEST_F(TFicheFiscaleEssai, CeQuiManqueALEcoleEstDitDAbord) {
   const QString maximum = u" le maximum par jour de 2017 n'est pas connu du programme : vérifiez-le"_s;
   EXPECT_EQ(Manques(Etablir(), true),
             maximum % u"\n le numéro d'entreprise de l'école manque (Mon école, « N° d'entreprise »)");
-  ecole.parametre(117, u"BE 0201.310.928"_s);
-  EXPECT_TRUE(Manques(Etablir(), true).contains(u"« BE 0201.310.928 », est incorrect"_s));
-  ecole.parametre(117, u"0201310929"_s);
+  ecole.parametre(117, u"BE 0999.999.921"_s);
+  EXPECT_TRUE(Manques(Etablir(), true).contains(u"« BE 0999.999.921 », est incorrect"_s));
+  ecole.parametre(117, u"0999999922"_s);
   const TResultat resultat = Etablir();
   EXPECT_EQ(Manques(resultat, true), maximum);
   EXPECT_EQ(resultat.Manques.front().Eleve, nullptr);
-  EXPECT_EQ(Variable(resultat, u"NumEntreprise"), u"0201.310.929");
+  EXPECT_EQ(Variable(resultat, u"NumEntreprise"), u"0999.999.922");
 }
 
 TEST_F(TFicheFiscaleEssai, JusqueLaVeilleDeLAnniversaire) {
