@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "core/comparaisons.h"
 #include "core/formats.h"
 #include "core/parametres.h"
 #include "meals/commandes.h"
@@ -36,8 +35,6 @@ std::vector<const TEleve*> Mangeurs(const TClasse& classe, bool TCommande::*flag
   std::vector<const TEleve*> mangeurs;
   for (const TEleve* eleve : classe.ListeEleves)
     if (const TCommande* c = commande(*eleve); c != nullptr && c->*flag) mangeurs.push_back(eleve);
-  std::ranges::stable_sort(mangeurs,
-                           [](const TEleve* a, const TEleve* b) { return ComparerNoms(*a, *b) < 0; });
   return mangeurs;
 }
 

@@ -126,10 +126,11 @@ void TEleves::Completer(TEleve& eleve) {
   eleve.SousClasse = ElevesClasses.SousClasseDe(eleve.Id);
   if (eleve.Classe != nullptr) return;
   eleve.Classe = &TrouverClasse(eleve.CodeClasse, eleve.SousClasse, eleve.CodeImplantation);
+  // The select statement gives the names in the order of their bytes: É would stand behind Z.
+  const auto avant = [](const TEleve* a, const TEleve* b) { return ComparerNoms(*a, *b) < 0; };
   std::vector<TEleve*>& liste = eleve.Classe->ListeEleves;
-  const bool dernier = liste.empty() || liste.back()->Rang() < eleve.Rang();
-  liste.insert(dernier ? liste.end() : std::ranges::upper_bound(liste, eleve.Rang(), {}, &TEleve::Rang),
-               &eleve);
+  const bool dernier = liste.empty() || !avant(&eleve, liste.back());
+  liste.insert(dernier ? liste.end() : std::ranges::upper_bound(liste, &eleve, avant), &eleve);
 }
 
 void TEleves::TrierClasses() {

@@ -26,20 +26,22 @@ TEST_F(TElevesEssai, LAnneeChargeSesClasses) {
   ecole.unEleve().enClasse(u"M1"_s, {}, u"2"_s);
   ecole.unEleve();  // not enrolled
   TEcoleEssai(base, 2015).unEleve().enClasse(u"P6"_s, u"A"_s);
+  ecole.unEleve().nomme(u"Émile"_s, u"D"_s).enClasse(u"P1"_s, u"A"_s, u"1"_s);
 
   TEleves eleves(*base, 2016);
-  EXPECT_EQ(eleves.NombreEleves(), 5);
+  EXPECT_EQ(eleves.NombreEleves(), 6);
   QStringList contenu;
   for (const auto& classe : eleves.Classes()) {
     contenu += classe->Libelle() % u'/' % classe->CodeImplantation;
     for (const TEleve* eleve : classe->ListeEleves) contenu += eleve->NomComplet();
   }
-  EXPECT_EQ(contenu.join(u';'), u"M1 /2;Eleve5 Prenom5;P1 A/1;Abel C;Abel C;Zoé B;P1 A/2;Eleve4 Prenom4");
+  EXPECT_EQ(contenu.join(u';'),
+            u"M1 /2;Eleve5 Prenom5;P1 A/1;Abel C;Abel C;Émile D;Zoé B;P1 A/2;Eleve4 Prenom4");
   EXPECT_EQ(eleves.ClassesParNom().front(), &eleves.GetClasse(1));  // the first site comes first
   EXPECT_EQ(eleves[0].Classe, &eleves.GetClasse(1));
 
   TEleves tous(*base, 0);
-  EXPECT_EQ(tous.Count(), 7);
+  EXPECT_EQ(tous.Count(), 8);
   EXPECT_EQ(tous.TrouverParId(6)->LibelleClasse(), u" ");
   EXPECT_EQ(tous.TrouverParId(7)->CodeClasse, u"P6");
   EXPECT_EQ(tous[0].Nom, u"Abel");

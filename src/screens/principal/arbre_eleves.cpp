@@ -1,9 +1,6 @@
 #include "screens/principal/arbre_eleves.h"
 
-#include <algorithm>
-
 #include "application/globals.h"
-#include "core/comparaisons.h"
 
 namespace {
 
@@ -15,9 +12,7 @@ TNoeud& NoeudSite(TArbre& arbre, const TClasse& classe) {
 }
 
 void AjouterEleves(TArbre& arbre, TNoeud& noeud, const TClasse& classe, bool avecRadies) {
-  std::vector<TEleve*> eleves = classe.ListeEleves;
-  std::ranges::stable_sort(eleves, [](const TEleve* a, const TEleve* b) { return ComparerNoms(*a, *b) < 0; });
-  for (TEleve* eleve : eleves) {
+  for (TEleve* eleve : classe.ListeEleves) {
     if (eleve->FlgRadie && !avecRadies) continue;
     MarquerRadie(arbre.Ajouter(&noeud, eleve->NomComplet(), eleve), *eleve);
   }
