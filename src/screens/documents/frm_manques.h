@@ -11,7 +11,7 @@ class TFrmManques : public TForm {
   /// `manques` must outlive it.
   TFrmManques(const std::vector<TManque>& manques, bool imprimable, bool avecChamps);
 
-  /// "3 élèves ne sont pas imprimés tant qu'il manque ceci :"
+  /// "2 élèves ne sont pas imprimés tant qu'il manque ceci :", or that all is printed all the same.
   const QString& Texte() const { return texte_; }
   bool Imprimable() const { return imprimable_; }
   bool AvecChamps() const { return avecChamps_; }

@@ -3,8 +3,6 @@
 #include "core/conversions.h"
 #include "core/formats.h"
 #include "documents/caisse_repas.h"
-#include "documents/cuisine.h"
-#include "meals/generation_repas.h"
 #include "pupils/eleves.h"
 #include "screens/documents/imprimeur.h"
 
@@ -17,7 +15,8 @@ QString Euros(Currency montant) { return FormatDeuxDecimales(montant) % u" €";
 }  // namespace
 
 TFrmCompteEleve::TFrmCompteEleve(TContexteEcran& contexte)
-    : Grille({{u"Nom de l'élève"_s, 260}, {u"Solde Compte"_s, 200}}), contexte_(contexte) {
+    : TFrmClasseJour(contexte, GenerationRepas(true),
+                     {{u"Nom de l'élève"_s, 260}, {u"Solde Compte"_s, 200}}) {
   liens_ += Grille.SurChoix.Suivre([this] { Annoncer(); });
 }
 
@@ -26,19 +25,6 @@ void TFrmCompteEleve::FormShow() {
   Globals.Eleves->LibererCommandes();
   Globals.Eleves->LibererRepasPaiements();
   cmbClasseChange(0);
-}
-
-TDateTime TFrmCompteEleve::Aujourdhui() const { return contexte_.Controleur.Horloge().Aujourdhui(); }
-
-bool TFrmCompteEleve::DatesVisibles() const { return !Globals.ModeProfesseur; }
-
-TClasse* TFrmCompteEleve::Classe() const {
-  return classe_ > 0 ? &Globals.Eleves->GetClasse(classe_ - 1) : nullptr;
-}
-
-TEleve* TFrmCompteEleve::Courant() const {
-  const int ligne = Grille.LigneCourante();
-  return ligne < 0 ? nullptr : Grille.Ligne(ligne).Objet.En<TEleve>();
 }
 
 void TFrmCompteEleve::cmbClasseChange(int indice) {
@@ -55,10 +41,6 @@ void TFrmCompteEleve::ChangerJour(void (TJourEcran::*pas)()) {
 
 QString TFrmCompteEleve::Titre() const {
   return Classe() != nullptr ? u"Compte classe du " % FormatJourLong(Aujourdhui()) : QString();
-}
-
-std::vector<TCompteurRepas> TFrmCompteEleve::Compteurs() const {
-  return CompteursRepas(Classe(), jour_.Jour(), GenerationRepas(true));
 }
 
 QString TFrmCompteEleve::NoteMonnaie() const {
@@ -92,11 +74,6 @@ void TFrmCompteEleve::Remplir() {
     Grille.ChoisirLigne(ligne >= 0 ? ligne : qMin(0, Grille.NombreLignes() - 1));
   }
   Annoncer();
-}
-
-QString TFrmCompteEleve::NomEleve() const {
-  const TEleve* eleve = Courant();
-  return eleve != nullptr ? eleve->NomComplet() : QString();
 }
 
 TRepasPaiement* TFrmCompteEleve::PaiementDuJour() const {
@@ -173,23 +150,6 @@ void TFrmCompteEleve::Vider() {
 void TFrmCompteEleve::ImprimerCaisse() {
   TImprimeur(contexte_, {}).Faire([&](const TContexteDocument& contexte) {
     return CaisseDesRepas(contexte, Aujourdhui());
-  });
-}
-
-bool TFrmCompteEleve::RecevoirMessage(const TMessage& message) {
-  if (message.Code != TCodeMessage::Imprimer) return false;
-  Imprimer();
-  return true;
-}
-
-void TFrmCompteEleve::Imprimer() {
-  const TClasse* classe = Classe();
-  if (classe == nullptr) {
-    contexte_.Dialogues().Message(u"Veuillez choisir une classe dans la liste"_s);
-    return;
-  }
-  TImprimeur(contexte_, {}).Faire([&](const TContexteDocument& contexte) {
-    return ChoixDeRepas(contexte, *classe, jour_.Jour());
   });
 }
 

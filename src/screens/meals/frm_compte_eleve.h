@@ -1,36 +1,23 @@
 #pragma once
 #include <array>
 
-#include "forms/grille.h"
 #include "meals/repas_paiements.h"
-#include "screens/contexte_ecran.h"
-#include "screens/meals/jour_ecran.h"
+#include "screens/meals/frm_classe_jour.h"
 
 /// "Comptes": the meal account of each pupil of a class, and cash put on it, counted note by note. The date
 /// in the heading moves the counters only: money is always today's.
-class TFrmCompteEleve : public TForm {
+class TFrmCompteEleve : public TFrmClasseJour {
  public:
   explicit TFrmCompteEleve(TContexteEcran& contexte);
 
-  QStringList Classes() const { return ChoixDeClasses(); }
-  int IndiceClasse() const { return classe_; }
   /// Gives up an open entry first.
-  void cmbClasseChange(int indice);
-  QString TitreJour() const { return jour_.Titre(); }
-  bool DatesVisibles() const;
-  void btnReculeDateClick() { ChangerJour(&TJourEcran::Reculer); }
-  void btnAvanceDateClick() { ChangerJour(&TJourEcran::Avancer); }
-
-  /// Of the class and the day of the heading.
-  std::vector<TCompteurRepas> Compteurs() const;
+  void cmbClasseChange(int indice) override;
   /// "Compte classe du lundi 3 octobre 2016"; "" without a class.
   QString Titre() const;
   /// "Total reçu ce jour : 12,50 €"
   QString TotalRecu() const;
-  TGrille Grille;  ///< "Nom de l'élève", "Solde Compte"; the object of a row is its pupil
 
   // The panel of the pupil in hand.
-  QString NomEleve() const;
   /// "Modifier le paiement" when there is one of today, else "Ajouter un paiement".
   QString TitreAjouteArgent() const;
   void btnAjouteArgentClick();
@@ -53,8 +40,6 @@ class TFrmCompteEleve : public TForm {
   /// The till of today on paper: each note over all pupils.
   void ImprimerCaisse();
 
-  bool RecevoirMessage(const TMessage& message) override;
-  bool Accepte(TCodeMessage code) const override { return code == TCodeMessage::Imprimer; }
   QString EnSuspens() const override;
 
  protected:
@@ -62,20 +47,13 @@ class TFrmCompteEleve : public TForm {
   bool FormCloseQuery() override;
 
  private:
-  TClasse* Classe() const;
-  TEleve* Courant() const;
-  TDateTime Aujourdhui() const;
   TRepasPaiement* PaiementDuJour() const;
   TComptage Comptage() const;
-  void ChangerJour(void (TJourEcran::*pas)());
+  void ChangerJour(void (TJourEcran::*pas)()) override;
   void Vider();
   void Remplir();
   QString TexteSolde(const TEleve& eleve) const;
-  void Imprimer();
 
-  TContexteEcran& contexte_;
-  TJourEcran jour_;
-  int classe_ = 0;
   bool enSaisie_ = false;
   bool compte_ = false;
   std::array<QString, kNombreCoupures> champs_;

@@ -7,6 +7,10 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// What is wrong with a day for serving meals: outside the school year, at a weekend, before the last meal
+/// noted.
 QString AvertissementHorloge(TDateTime jour, int annee, TDateTime dernier) {
   const TPeriode bornes = BornesAnnee(annee);
   if (jour < bornes.Premier || jour > bornes.Dernier)
@@ -19,6 +23,8 @@ QString AvertissementHorloge(TDateTime jour, int annee, TDateTime dernier) {
   if (JourLundi1(jour) > 5) return u"C'est le week-end : vérifiez l'horloge de la tablette."_s;
   return {};
 }
+
+}  // namespace
 
 TFrmPresenceRepas::TFrmPresenceRepas(TContexteEcran& contexte) : contexte_(contexte) {}
 

@@ -71,7 +71,3 @@ class TFrmPresenceRepas : public TForm {
   QString recherche_;
   TDateTime jourMontre_ = 0.0;
 };
-
-/// What is wrong with a day for serving meals: outside the school year, at a weekend, before the last meal
-/// noted.
-QString AvertissementHorloge(TDateTime jour, int annee, TDateTime dernier);

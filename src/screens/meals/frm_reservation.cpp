@@ -3,10 +3,8 @@
 #include "core/calendrier_scolaire.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
-#include "documents/cuisine.h"
 #include "meals/commandes.h"
 #include "pupils/eleves.h"
-#include "screens/documents/imprimeur.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,26 +35,13 @@ QString Abrege(const TCommande* commande, const TGenerationRepas& generation) {
 }  // namespace
 
 TFrmReservation::TFrmReservation(TContexteEcran& contexte, const TGenerationRepas& generation)
-    : Grille(Colonnes(generation)),
-      contexte_(contexte),
-      generation_(generation),
+    : TFrmClasseJour(contexte, generation, Colonnes(generation)),
       commandes_(contexte.Dialogues(), generation) {}
 
 void TFrmReservation::FormShow() {
-  jour_.Definir(contexte_.Controleur.Horloge().Aujourdhui());
+  jour_.Definir(Aujourdhui());
   classe_ = 0;
   Relire();
-}
-
-bool TFrmReservation::DatesVisibles() const { return !Globals.ModeProfesseur; }
-
-TClasse* TFrmReservation::Classe() const {
-  return classe_ > 0 ? &Globals.Eleves->GetClasse(classe_ - 1) : nullptr;
-}
-
-TEleve* TFrmReservation::Courant() const {
-  const int ligne = Grille.LigneCourante();
-  return ligne < 0 ? nullptr : Grille.Ligne(ligne).Objet.En<TEleve>();
 }
 
 void TFrmReservation::cmbClasseChange(int indice) {
@@ -181,15 +166,6 @@ QString TFrmReservation::LegendeMois() const {
   return textes.join(u"  ·  ");
 }
 
-std::vector<TCompteurRepas> TFrmReservation::Compteurs() const {
-  return CompteursRepas(Classe(), jour_.Jour(), generation_);
-}
-
-QString TFrmReservation::NomEleve() const {
-  const TEleve* eleve = Courant();
-  return eleve != nullptr ? eleve->NomComplet() : QString();
-}
-
 QString TFrmReservation::TexteSolde() const {
   const TEleve* eleve = Courant();
   if (eleve == nullptr) return {};
@@ -201,23 +177,6 @@ bool TFrmReservation::SoldeSuffit() const {
   const TEleve* eleve = Courant();
   if (eleve == nullptr) return true;
   return generation_.AvecSolde ? eleve->SoldeRepas() > Currency() : eleve->SoldeTickets() > 0;
-}
-
-bool TFrmReservation::RecevoirMessage(const TMessage& message) {
-  if (message.Code != TCodeMessage::Imprimer) return false;
-  Imprimer();
-  return true;
-}
-
-void TFrmReservation::Imprimer() {
-  const TClasse* classe = Classe();
-  if (classe == nullptr) {
-    contexte_.Dialogues().Message(u"Veuillez choisir une classe dans la liste"_s);
-    return;
-  }
-  TImprimeur(contexte_, {}).Faire([&](const TContexteDocument& contexte) {
-    return ChoixDeRepas(contexte, *classe, jour_.Jour());
-  });
 }
 
 QString TFrmReservation::EnSuspens() const {

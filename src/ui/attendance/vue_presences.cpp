@@ -92,14 +92,11 @@ QLayout* VuePresences::Etapes() {
   return colonne;
 }
 
-QWidget* VuePresences::Comptes() {
-  auto* bande = new QWidget;
-  auto* ligne = new QHBoxLayout(bande);
-  ligne->setContentsMargins(0, 0, 0, 0);
-  ligne->setSpacing(Theme::Px(32));
-  for (Compteur*& compteur : comptes_) ligne->addWidget(compteur = new Compteur({}));
-  ligne->addStretch(1);
-  return bande;
+QLayout* VuePresences::Comptes() {
+  auto* rangee = new RangeePliante;
+  rangee->setSpacing(Theme::Px(32));
+  for (Compteur*& compteur : comptes_) rangee->addWidget(compteur = new Compteur({}));
+  return rangee;
 }
 
 void VuePresences::Disposer() {
@@ -113,22 +110,13 @@ void VuePresences::Disposer() {
   titreRecapitulatif_->AjouterAction(filtre);
   titreRecapitulatif_->AjouterAction(copier);
 
-  setWidgetResizable(true);
-  setFrameShape(NoFrame);
-  setFocusPolicy(Qt::NoFocus);
-  auto* page = new QWidget;
-  auto* colonne = new QVBoxLayout(page);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Présences"_s));
+  QVBoxLayout* colonne = ColonneEcran(*this, u"Présences"_s);
   colonne->addLayout(Etapes());
-  colonne->addWidget(Comptes());
+  colonne->addLayout(Comptes());
   colonne->addWidget(titreAnomalies_);
   colonne->addWidget(anomalies_);
   colonne->addWidget(titreRecapitulatif_);
   colonne->addWidget(recapitulatif_, 1);
-  setWidget(page);
 }
 
 void VuePresences::Actualiser() {

@@ -27,7 +27,7 @@ class VuePresences : public QScrollArea {
  private:
   void CreerMenu();
   QLayout* Etapes();
-  QWidget* Comptes();
+  QLayout* Comptes();
   void CreerGrilles();
   void Disposer();
   void Actualiser();

@@ -1,6 +1,7 @@
 #include "ui/commun/titres.h"
 
-#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
 Titre::Titre(const QString& texte, QFont (*police)(), QWidget* parent)
     : QWidget(parent),
@@ -31,3 +32,18 @@ void Titre::DefinirNote(const QString& note) {
 void Titre::AjouterAction(QWidget* action) { ligne_->addWidget(action); }
 
 void Titre::AjouterSuite(QWidget* suite) { ligne_->insertWidget(1 + suites_++, suite); }
+
+QVBoxLayout* ColonneEcran(QWidget& ecran, TitreEcran* titre) {
+  QWidget* page = &ecran;
+  if (auto* zone = qobject_cast<QScrollArea*>(&ecran)) {
+    zone->setWidgetResizable(true);
+    zone->setFrameShape(QFrame::NoFrame);
+    zone->setFocusPolicy(Qt::NoFocus);
+    zone->setWidget(page = new QWidget);
+  }
+  auto* colonne = new QVBoxLayout(page);
+  colonne->setContentsMargins(Theme::Px(16), Theme::Px(12), Theme::Px(16), Theme::Px(12));
+  colonne->setSpacing(Theme::Px(12));
+  colonne->addWidget(titre);
+  return colonne;
+}

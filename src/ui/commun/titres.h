@@ -4,6 +4,7 @@
 #include "ui/commun/etiquette.h"
 
 class QHBoxLayout;
+class QVBoxLayout;
 
 /// A heading, a secondary note beside it and actions on the right.
 class Titre : public QWidget {
@@ -40,3 +41,10 @@ class TitreSection : public Titre {
   explicit TitreSection(const QString& texte, QWidget* parent = nullptr)
       : Titre(texte, &Theme::TitreSection, parent) {}
 };
+
+/// The column of a whole screen under its heading, with the margins that all screens share. Of a screen that
+/// is a scroll area, the column of the page that it scrolls.
+QVBoxLayout* ColonneEcran(QWidget& ecran, TitreEcran* titre);
+inline QVBoxLayout* ColonneEcran(QWidget& ecran, const QString& titre) {
+  return ColonneEcran(ecran, new TitreEcran(titre));
+}

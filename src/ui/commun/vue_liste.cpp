@@ -20,19 +20,10 @@ VueListe::VueListe(TFrmListe& form, QWidget* parent)
       liste_(new VueGrille(form.Grille, form.Textes().Liste, u"Listes/" % form.Textes().Liste)),
       liaison_(new LiaisonChamps(form.Champs(), this)),
       vide_(new EtatVide(liste_)) {
-  setWidgetResizable(true);
-  setFrameShape(NoFrame);
-  setFocusPolicy(Qt::NoFocus);
-  auto* page = new QWidget;
-  auto* colonne = new QVBoxLayout(page);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, Theme::Px(12), marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(CreerTitre());
+  QVBoxLayout* colonne = ColonneEcran(*this, CreerTitre());
   colonne->addWidget(liste_, 1);
   colonne->addWidget(CreerPanneau());
   liste_->setMinimumHeight(liste_->HauteurPour(4));
-  setWidget(page);
 
   AjouterRetablir();
   liste_->addAction(Theme::Icone(u"document-print"_s), u"Imprimer la liste..."_s, this,
@@ -47,7 +38,7 @@ VueListe::VueListe(TFrmListe& form, QWidget* parent)
   Actualiser();
 }
 
-QWidget* VueListe::CreerTitre() {
+TitreEcran* VueListe::CreerTitre() {
   auto* titre = new TitreEcran(form_.Textes().Titre);
   auto* filtre = new ChampFiltre;
   filtre->setFixedWidth(Theme::Px(200));

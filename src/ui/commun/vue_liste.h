@@ -8,6 +8,7 @@ class LiaisonChamps;
 class MarqueEtat;
 class QBoxLayout;
 class TFrmListe;
+class TitreEcran;
 class TitreSection;
 class VueGrille;
 
@@ -26,7 +27,7 @@ class VueListe : public QScrollArea {
   void keyPressEvent(QKeyEvent* evenement) override;
 
  private:
-  QWidget* CreerTitre();
+  TitreEcran* CreerTitre();
   QWidget* CreerPanneau();
   void AjouterRetablir();
 

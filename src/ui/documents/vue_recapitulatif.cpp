@@ -23,16 +23,7 @@ VueRecapitulatif::VueRecapitulatif(TFrmRecapitulatif& form, QWidget* parent)
       form_(form),
       liaison_(new LiaisonChamps(form.Champs(), this)),
       onglets_(new QTabWidget) {
-  setWidgetResizable(true);
-  setFrameShape(NoFrame);
-  setFocusPolicy(Qt::NoFocus);
-  auto* contenu = new QWidget;
-  auto* colonne = new QVBoxLayout(contenu);
-  colonne->setContentsMargins(Theme::Px(16), Theme::Px(12), Theme::Px(16), Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Statistiques"_s));
-  colonne->addWidget(onglets_, 1);
-  setWidget(contenu);
+  ColonneEcran(*this, u"Statistiques"_s)->addWidget(onglets_, 1);
   CreerImpayes();
   CreerPositives();
   CreerPassages();

@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 
+#include "screens/meals/frm_classe_jour.h"
 #include "ui/commun/etiquette.h"
 
 using namespace Qt::StringLiterals;
@@ -56,6 +57,17 @@ void ChoixClasseJour::DefinirClasses(const QStringList& classes, int choisie) {
     classes_->addItems(classes);
   }
   classes_->setCurrentIndex(choisie);
+}
+
+void ChoixClasseJour::Suivre(TFrmClasseJour& form) {
+  connect(this, &ChoixClasseJour::ClasseChoisie, this, [&form](int indice) { form.cmbClasseChange(indice); });
+  connect(this, &ChoixClasseJour::Recule, this, [&form] { form.btnReculeDateClick(); });
+  connect(this, &ChoixClasseJour::Avance, this, [&form] { form.btnAvanceDateClick(); });
+}
+
+void ChoixClasseJour::Montrer(const TFrmClasseJour& form) {
+  DefinirClasses(form.Classes(), form.IndiceClasse());
+  DefinirJour(form.TitreJour(), form.DatesVisibles());
 }
 
 void ChoixClasseJour::DefinirJour(const QString& titre, bool pas) {

@@ -4,6 +4,7 @@
 class Etiquette;
 class QComboBox;
 class QToolButton;
+class TFrmClasseJour;
 
 /// The class and the day of a meal screen, in one row: a list, and the date between its two steps.
 class ChoixClasseJour : public QWidget {
@@ -11,11 +12,13 @@ class ChoixClasseJour : public QWidget {
  public:
   /// `avecClasse`: there is a list of classes.
   explicit ChoixClasseJour(bool avecClasse, QWidget* parent = nullptr);
-  void DefinirClasses(const QStringList& classes, int choisie);
   /// `pas`: the two steps are shown.
   void DefinirJour(const QString& titre, bool pas);
   /// The row holds as it is.
   void Verrouiller(bool verrou);
+  /// What is chosen goes to the screen, whose class and day `Montrer` shows.
+  void Suivre(TFrmClasseJour& form);
+  void Montrer(const TFrmClasseJour& form);
   /// Behind the date.
   void AjouterAction(QWidget* action);
 
@@ -25,6 +28,8 @@ class ChoixClasseJour : public QWidget {
   void Avance();
 
  private:
+  void DefinirClasses(const QStringList& classes, int choisie);
+
   QComboBox* classes_;
   QToolButton* recule_;
   Etiquette* jour_;

@@ -26,11 +26,7 @@ VueComptabilite::VueComptabilite(TFrmComptabilite& form, QWidget* parent)
                 u"Versement sur le compte"_s);
   pages->addTab(new VueGrille(form.Comptant, u"Paiement au comptant"_s, u"Compta/Comptant"_s),
                 u"Paiement au comptant"_s);
-  auto* colonne = new QVBoxLayout(this);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Compta"_s));
+  QVBoxLayout* colonne = ColonneEcran(*this, u"Compta"_s);
   colonne->addLayout(periode);
   colonne->addWidget(pages, 1);
   for (SaisieDate* date : {debut_, fin_}) connect(date, &Saisie::Saisi, this, &VueComptabilite::Lire);

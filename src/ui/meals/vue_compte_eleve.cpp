@@ -32,9 +32,7 @@ VueCompteEleve::VueCompteEleve(TFrmCompteEleve& form, QWidget* parent)
       annuler_(BoutonSimple(u"Annuler"_s)),
       vide_(new EtatVide(grille_)) {
   Disposer();
-  connect(choix_, &ChoixClasseJour::ClasseChoisie, this, [this](int i) { form_.cmbClasseChange(i); });
-  connect(choix_, &ChoixClasseJour::Recule, this, [this] { form_.btnReculeDateClick(); });
-  connect(choix_, &ChoixClasseJour::Avance, this, [this] { form_.btnAvanceDateClick(); });
+  choix_->Suivre(form_);
   const auto saisir = [this] {
     form_.btnAjouteArgentClick();
     if (form_.EnSaisie()) champs_.front()->setFocus();
@@ -121,11 +119,7 @@ void VueCompteEleve::Disposer() {
   tete->addWidget(titre_);
   tete->addStretch(1);
   tete->addWidget(recu_);
-  auto* colonne = new QVBoxLayout(this);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Comptes"_s));
+  QVBoxLayout* colonne = ColonneEcran(*this, u"Comptes"_s);
   colonne->addWidget(choix_);
   colonne->addWidget(comptes_);
   colonne->addLayout(tete);
@@ -133,8 +127,7 @@ void VueCompteEleve::Disposer() {
 }
 
 void VueCompteEleve::Actualiser() {
-  choix_->DefinirClasses(form_.Classes(), form_.IndiceClasse());
-  choix_->DefinirJour(form_.TitreJour(), form_.DatesVisibles());
+  choix_->Montrer(form_);
   comptes_->Definir(form_.Compteurs());
   titre_->setText(form_.Titre());
   note_->setText(form_.NoteMonnaie());

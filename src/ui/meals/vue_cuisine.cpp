@@ -58,11 +58,7 @@ void VueCuisine::Disposer() {
   arbre_->setHeaderHidden(true);
   arbre_->setAccessibleName(u"Commandes par classe"_s);
   for (Etiquette* note : {incompletes_, changements_}) note->setWordWrap(true);
-  auto* colonne = new QVBoxLayout(this);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Cuisine"_s));
+  QVBoxLayout* colonne = ColonneEcran(*this, u"Cuisine"_s);
   colonne->addWidget(choix_);
   colonne->addLayout(totaux);
   colonne->addWidget(incompletes_);

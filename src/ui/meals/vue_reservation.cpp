@@ -30,9 +30,7 @@ VueReservation::VueReservation(TFrmReservation& form, QWidget* parent)
       aide_(new Etiquette({}, TRole::Secondaire)),
       vide_(new EtatVide(grille_)) {
   Disposer();
-  connect(choix_, &ChoixClasseJour::ClasseChoisie, this, [this](int i) { form_.cmbClasseChange(i); });
-  connect(choix_, &ChoixClasseJour::Recule, this, [this] { form_.btnReculeDateClick(); });
-  connect(choix_, &ChoixClasseJour::Avance, this, [this] { form_.btnAvanceDateClick(); });
+  choix_->Suivre(form_);
   connect(boutonMois_, &QPushButton::toggled, this, &VueReservation::MontrerMois);
   liens_ += form_.SurChangement.Suivre([this] { Actualiser(); });
   Actualiser();
@@ -66,11 +64,7 @@ void VueReservation::Disposer() {
   aide_->setWordWrap(true);
   pages_->addWidget(grille_);
   pages_->addWidget(vueMois_);
-  auto* colonne = new QVBoxLayout(this);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Réservation"_s));
+  QVBoxLayout* colonne = ColonneEcran(*this, u"Réservation"_s);
   colonne->addWidget(choix_);
   colonne->addLayout(Boutons());
   colonne->addWidget(comptes_);
@@ -85,8 +79,7 @@ void VueReservation::MontrerMois(bool mois) {
 }
 
 void VueReservation::Actualiser() {
-  choix_->DefinirClasses(form_.Classes(), form_.IndiceClasse());
-  choix_->DefinirJour(form_.TitreJour(), form_.DatesVisibles());
+  choix_->Montrer(form_);
   choix_->Verrouiller(form_.EstVerrouillee());
   comptes_->Definir(form_.Compteurs());
   nom_->setText(form_.NomEleve());

@@ -30,11 +30,7 @@ VueTicket::VueTicket(TFrmTicket& form, QWidget* parent)
   connect(eleves_, &VueGrille::Activee, this, [this] { form_.LstEleveDblClick(); });
   connect(sansTicket_, &EtatVide::BoutonPresse, this, [this] { form_.btnEtape1Click(); });
   connect(detail_, &VueGrille::Suppression, this, [this] { form_.AdvGlowButton2Click(); });
-  auto* colonne = new QVBoxLayout(this);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Gestion des tickets"_s));
+  QVBoxLayout* colonne = ColonneEcran(*this, u"Gestion des tickets"_s);
   colonne->addLayout(Boutons());
   colonne->addWidget(pages_, 1);
   liens_ += form_.SurChangement.Suivre([this] { Actualiser(); });

@@ -21,11 +21,7 @@ VueTransfertRepas::VueTransfertRepas(TFrmTransfertRepas& form, QWidget* parent)
       recommencer_(BoutonSimple(u"Recommencer le transfert"_s, u"view-refresh"_s)) {
   recommencer_->setMinimumHeight(qMax(48, Theme::Px(48)));
   connect(recommencer_, &QPushButton::clicked, this, [this] { form_.btnRecommencerClick(); });
-  auto* colonne = new QVBoxLayout(this);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Transfert"_s));
+  QVBoxLayout* colonne = ColonneEcran(*this, u"Transfert"_s);
   colonne->addWidget(etat_);
   colonne->addWidget(comptes_);
   colonne->addWidget(anomalies_, 1);

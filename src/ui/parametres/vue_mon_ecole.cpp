@@ -23,16 +23,7 @@ QVBoxLayout* Remplir(QWidget& page) {
 }  // namespace
 
 VueMonEcole::VueMonEcole(TFrmMonEcole& form, QWidget* parent) : QScrollArea(parent), pages_(new QTabWidget) {
-  setWidgetResizable(true);
-  setFrameShape(NoFrame);
-  setFocusPolicy(Qt::NoFocus);
-  auto* page = new QWidget;
-  auto* colonne = new QVBoxLayout(page);
-  colonne->setContentsMargins(Theme::Px(16), Theme::Px(12), Theme::Px(16), Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Mon école"_s));
-  colonne->addWidget(pages_, 1);
-  setWidget(page);
+  ColonneEcran(*this, u"Mon école"_s)->addWidget(pages_, 1);
   pages_->setAccessibleName(u"Pages de mon école"_s);
   pages_->addTab(CreerDenomination(form), u"Dénomination de l'école"_s);
   pages_->addTab(CreerImplantations(form), u"Implantations"_s);

@@ -14,16 +14,7 @@
 
 VueParametres::VueParametres(TFrmParametres& form, QWidget* parent)
     : QScrollArea(parent), form_(form), pages_(new QTabWidget) {
-  setWidgetResizable(true);
-  setFrameShape(NoFrame);
-  setFocusPolicy(Qt::NoFocus);
-  auto* page = new QWidget;
-  auto* colonne = new QVBoxLayout(page);
-  colonne->setContentsMargins(Theme::Px(16), Theme::Px(12), Theme::Px(16), Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Paramètres"_s));
-  colonne->addWidget(pages_, 1);
-  setWidget(page);
+  ColonneEcran(*this, u"Paramètres"_s)->addWidget(pages_, 1);
   CreerPages();
   CreerGroupes();
   const auto professeur = [this] { professeur_->setVisible(form_.BoutonProfesseurVisible()); };

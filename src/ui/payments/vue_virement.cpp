@@ -42,11 +42,7 @@ VueVirement::VueVirement(TFrmVirement& form, QWidget* parent)
   pages_->addTab(PageImportation(), u"Importation des virements"_s);
   pages_->addTab(historique_, u"Historique des virements"_s);
   pages_->addTab(PageReleve(), u"Relevé annuel"_s);
-  auto* colonne = new QVBoxLayout(this);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Virements"_s));
+  QVBoxLayout* colonne = ColonneEcran(*this, u"Virements"_s);
   colonne->addWidget(pages_, 1);
   connect(etape1_, &QPushButton::clicked, this, [this] { Faire(&TFrmVirement::btnEtape1Click); });
   connect(etape2_, &QPushButton::clicked, this, [this] { Faire(&TFrmVirement::btnEtape2Click); });

@@ -71,11 +71,7 @@ void VueImport::Disposer() {
   titre->AjouterAction(filtre);
   titre->AjouterAction(copier);
 
-  auto* colonne = new QVBoxLayout(this);
-  const int marge = Theme::Px(16);
-  colonne->setContentsMargins(marge, marge, marge, Theme::Px(12));
-  colonne->setSpacing(Theme::Px(12));
-  colonne->addWidget(new TitreEcran(u"Importation des élèves"_s));
+  QVBoxLayout* colonne = ColonneEcran(*this, u"Importation des élèves"_s);
   colonne->addLayout(boutons);
   colonne->addLayout(comptes);
   colonne->addWidget(effet_);
