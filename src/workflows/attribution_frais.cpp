@@ -63,6 +63,20 @@ const QString kSuppression = u"Suppresion du frais chez : "_s;
 
 }  // namespace
 
+std::unique_ptr<TFraisEleve> CopieDe(const TFraisEleve& ligne) {
+  auto copie = std::make_unique<TFraisEleve>();
+  copie->ListeFraisId = ligne.ListeFraisId;
+  copie->Remarque = ligne.Remarque;
+  copie->MontantVerse = ligne.MontantVerse;
+  copie->DateVersement = ligne.DateVersement;
+  copie->Mois = ligne.Mois;
+  copie->ExtraitId = ligne.ExtraitId;
+  copie->TypeFamilleFrais = ligne.TypeFamilleFrais;
+  copie->GroupeFraisId = ligne.GroupeFraisId;
+  copie->FlgPart = ligne.FlgPart;
+  return copie;
+}
+
 void TAttributionFrais::Ouvrir(TFrais* frais) {
   for (auto* cles : {&depart_, &coches_, &payes_, &marques_}) cles->clear();
   if (frais == nullptr) return;
@@ -110,7 +124,9 @@ void TAttributionFrais::Enregistrer(TFrais& frais) {
   for (const int cle : ajouts) {
     travail.Suivant(kAjout, cle);
     const bool paye = modePaye_ && marques_.contains(cle);
-    Donner({.EleveId = cle, .MontantVerse = paye ? frais.Cout : Currency()}, frais.Id);
+    auto ligne = std::make_unique<TFraisEleve>();
+    if (paye) ligne->MontantVerse = frais.Cout;
+    Donner(cle, std::move(ligne), frais.Id);
     depart_.insert(cle);
     if (paye) payes_.insert(cle);
   }
@@ -131,7 +147,7 @@ TAttributionFrais::TLignesRetirees TAttributionFrais::RetirerATous(TFrais& frais
   TTravail travail(controleur_.Dialogues(), doivent.size());
   for (const int cle : doivent) {
     travail.Suivant(kSuppression, cle);
-    if (const auto retiree = Retirer(cle, frais.Id)) retirees.push_back(*retiree);
+    if (auto retiree = Retirer(cle, frais.Id)) retirees.push_back(std::move(*retiree));
   }
   return retirees;
 }
@@ -141,25 +157,18 @@ void TAttributionFrais::Rendre(TFrais& frais, const TLignesRetirees& lignes) {
   TTravail travail(controleur_.Dialogues(), lignes.size());
   for (const TLigneRetiree& ligne : lignes) {
     travail.Suivant(kAjout, ligne.EleveId);
-    Donner(ligne, frais.Id);
+    Donner(ligne.EleveId, CopieDe(*ligne.Ligne), frais.Id);
   }
 }
 
 // Nobody in the table owes it at this moment, so a line that memory still has lost its row to another
 // workstation.
-void TAttributionFrais::Donner(const TLigneRetiree& retiree, int frais) {
-  const TEleve& eleve = *Globals.Eleves->TrouverParId(retiree.EleveId);
+void TAttributionFrais::Donner(int eleveId, std::unique_ptr<TFraisEleve> neuve, int frais) {
+  const TEleve& eleve = *Globals.Eleves->TrouverParId(eleveId);
   TAllFraisEleve& lignes = *eleve.GetAllFrais();
   if (TFraisEleve* perdue = lignes.LigneFrais(frais)) lignes.Forget(*perdue);
-  auto neuve = std::make_unique<TFraisEleve>();
   neuve->ListeFraisId = frais;
-  neuve->MontantVerse = retiree.MontantVerse;
-  neuve->Remarque = retiree.Remarque;
-  neuve->DateVersement = retiree.DateVersement;
-  neuve->Mois = retiree.Mois;
-  neuve->ExtraitId = retiree.ExtraitId;
-  neuve->TypeFamilleFrais = retiree.TypeFamilleFrais;
-  neuve->GroupeFraisId = retiree.GroupeFraisId;
+  if (neuve->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is taken
   TFraisEleve& ligne = lignes.Add(std::move(neuve));
   Sauver(lignes);
   if (ligne.Id != -1) return;
@@ -173,9 +182,8 @@ std::optional<TAttributionFrais::TLigneRetiree> TAttributionFrais::Retirer(int e
   const TEleve* eleve = Globals.Eleves->TrouverParId(eleveId);
   TAllFraisEleve* lignes = eleve != nullptr ? eleve->GetAllFrais() : nullptr;
   if (TFraisEleve* ligne = lignes != nullptr ? lignes->LigneFrais(frais) : nullptr) {
-    const TLigneRetiree retiree{
-        eleveId,     ligne->MontantVerse, ligne->Remarque,         ligne->DateVersement,
-        ligne->Mois, ligne->ExtraitId,    ligne->TypeFamilleFrais, ligne->GroupeFraisId};
+    TLigneRetiree retiree{eleveId, CopieDe(*ligne)};
+    if (ligne->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is free again
     lignes->Remove(*ligne);
     Sauver(*lignes);
     return retiree;

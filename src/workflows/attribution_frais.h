@@ -6,6 +6,9 @@
 #include "application/controleur.h"
 #include "services/frais_eleve.h"
 
+/// A new line that says what that one says, to come back when it has been deleted.
+std::unique_ptr<TFraisEleve> CopieDe(const TFraisEleve& ligne);
+
 /// Who owes a fee of the year on display: as the hand ticks it, and as it is stored. A tick or a mark stays
 /// in memory until `Enregistrer`.
 class TAttributionFrais {
@@ -36,13 +39,7 @@ class TAttributionFrais {
   /// A line that was taken from a pupil of the year, so that it can come back.
   struct TLigneRetiree {
     int EleveId = 0;
-    Currency MontantVerse = {};
-    QString Remarque = {};
-    TDateTime DateVersement = 0.0;
-    int Mois = 0;
-    int ExtraitId = 0;
-    TTypeFamilleFrais TypeFamilleFrais = {};
-    int GroupeFraisId = 0;
+    std::unique_ptr<TFraisEleve> Ligne;
   };
   using TLignesRetirees = std::vector<TLigneRetiree>;
   /// Takes the fee from all who owe it. Raises Exception as `Enregistrer`.
@@ -51,7 +48,7 @@ class TAttributionFrais {
   void Rendre(TFrais& frais, const TLignesRetirees& lignes);
 
  private:
-  void Donner(const TLigneRetiree& ligne, int frais);
+  void Donner(int eleveId, std::unique_ptr<TFraisEleve> ligne, int frais);
   std::optional<TLigneRetiree> Retirer(int eleveId, int frais);
 
   TControleur& controleur_;

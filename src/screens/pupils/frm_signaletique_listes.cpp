@@ -10,6 +10,7 @@
 #include "screens/payments/frm_paiement.h"
 #include "screens/pupils/frm_signaletique.h"
 #include "services/frais_eleve.h"
+#include "workflows/attribution_frais.h"
 #include "workflows/credit_extraits.h"
 #include "workflows/import_presences.h"
 #include "workflows/repartition.h"
@@ -17,21 +18,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A line beside those that were there, to come back when it has been deleted.
-std::unique_ptr<TFraisEleve> Copie(const TFraisEleve& ligne) {
-  auto copie = std::make_unique<TFraisEleve>();
-  copie->ListeFraisId = ligne.ListeFraisId;
-  copie->Remarque = ligne.Remarque;
-  copie->MontantVerse = ligne.MontantVerse;
-  copie->DateVersement = ligne.DateVersement;
-  copie->Mois = ligne.Mois;
-  copie->ExtraitId = ligne.ExtraitId;
-  copie->TypeFamilleFrais = ligne.TypeFamilleFrais;
-  copie->GroupeFraisId = ligne.GroupeFraisId;
-  copie->FlgPart = ligne.FlgPart;
-  return copie;
-}
 
 std::unique_ptr<TPresence> Copie(const TPresence& releve) {
   auto copie = std::make_unique<TPresence>();
@@ -124,6 +110,7 @@ void TFrmSignaletique::DireReleve(const TPresence& demande, bool garde, bool pro
 }
 
 void TFrmSignaletique::btnDeleteFaitClick() {
+  if (!ExigeEleve()) return;
   const int ligne = Releve.Grille.LigneCourante();
   auto* releve = ligne < 0 ? nullptr : Releve.Grille.Ligne(ligne).Objet.En<TPresence>();
   if (releve == nullptr)
@@ -197,6 +184,7 @@ void TFrmSignaletique::grdListeFraisDblClick() {
 }
 
 void TFrmSignaletique::SpeedButton2Click() {
+  if (!ExigeEleve()) return;
   const int ligne = Frais.Grille.LigneCourante();
   if (ligne < 0) return Signaler(u"Choisissez d'abord la ligne à supprimer"_s);
   auto* frais = Frais.Grille.Ligne(ligne).Objet.En<TFraisEleve>();
@@ -208,14 +196,14 @@ void TFrmSignaletique::SpeedButton2Click() {
                                : u"Confirmez-vous la suppression de ce frais : %1 (%2 euros)"_s.arg(
                                      frais->LibelleFrais(), FormatDeuxDecimales(frais->MontantFrais()));
   if (!contexte_.Dialogues().ConfirmerGrave(question)) return;
-  const std::shared_ptr<TFraisEleve> copie = Copie(*frais);
+  const std::shared_ptr<TFraisEleve> copie = CopieDe(*frais);
   const QString quoi = frais->EstLibre() ? frais->Remarque : frais->LibelleFrais();
   TAllFraisEleve& lignes = *Globals.EleveCourant->GetAllFrais();
   Frais.Grille.ChoisirLigne(-1);
   lignes.Remove(*frais);
   if (Enregistrer(lignes, u"Suppression de " % quoi)) {
     if (copie->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is free again
-    Offrir(quoi % u" : supprimé", [this, copie, quoi] { AjouterLigne(Copie(*copie), quoi); });
+    Offrir(quoi % u" : supprimé", [this, copie, quoi] { AjouterLigne(CopieDe(*copie), quoi); });
   }
   RelireGroupes(copie->GroupeFraisId);
   RelireListes();

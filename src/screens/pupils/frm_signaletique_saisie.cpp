@@ -6,6 +6,7 @@
 #include "core/formats.h"
 #include "core/mois.h"
 #include "pupils/eleves.h"
+#include "screens/parametres/champs_parametres.h"
 #include "screens/payments/frm_attribution_compte.h"
 #include "screens/pupils/frm_signaletique.h"
 
@@ -230,7 +231,7 @@ void TFrmSignaletique::DaterPhotos() {
   const TDateTime maintenant = contexte_.Controleur.Horloge().Maintenant();
   Globals.Parametres->SetParametre(TParam::DatePhoto,
                                    FormatDate(maintenant) % HeureVersQt(maintenant).toString(u" hh:mm:ss"_s));
-  Globals.Parametres->Save();
+  TChampsParametres::Sauver();
   LirePhoto(*Globals.EleveCourant);
   Annoncer();
 }

@@ -216,6 +216,8 @@ TEST_F(TSaisieFiche, LesCasesEtLesMois) {
     Controle<QAbstractButton>(nom).click();
     EXPECT_FALSE(Controle<QAbstractButton>(nom).isChecked()) << "the box goes back";
   }
+  base.Dialogues.Attend(u"Veuillez sélectionner un élève"_s);
+  ecran->SpeedButton2Click();
 }
 
 TEST_F(TSaisieFiche, RelevesAjoutesEtSupprimes) {
