@@ -59,5 +59,3 @@ int JourLundi1(TDateTime date) {
   const auto jours = static_cast<qint64>(std::floor(date));
   return static_cast<int>(((jours + 5) % 7 + 7) % 7) + 1;  // day 2 (1 January 1900) was a Monday
 }
-
-int JourDimanche1(TDateTime date) { return JourLundi1(date) % 7 + 1; }

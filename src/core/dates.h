@@ -31,5 +31,3 @@ QTime HeureVersQt(TDateTime heure);
 
 /// Monday 1 to Sunday 7.
 int JourLundi1(TDateTime date);
-/// Sunday 1 to Saturday 7.
-int JourDimanche1(TDateTime date);

@@ -45,11 +45,6 @@ TNoeud* TArbre::TrouverObjet(TObjetVu objet) const {
   return Trouver([&](const TNoeud& noeud) { return noeud.Objet == objet; }, Premier());
 }
 
-TNoeud* TArbre::TrouverTexte(const QString& texte) const {
-  return Trouver([&](const TNoeud& noeud) { return noeud.Texte.compare(texte, Qt::CaseInsensitive) == 0; },
-                 Premier());
-}
-
 void TArbre::Selectionner(TNoeud* noeud) {
   if (noeud == selection_) return;
   selection_ = noeud;

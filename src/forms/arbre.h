@@ -54,8 +54,6 @@ class TArbre {
   TNoeud* Trouver(const std::function<bool(const TNoeud&)>& convient, TNoeud* debut) const;
   /// The first node that carries the object; null if none.
   TNoeud* TrouverObjet(TObjetVu objet) const;
-  /// The first node with this text, compared without case; null if none.
-  TNoeud* TrouverTexte(const QString& texte) const;
 
   /// The selected node; null for none.
   TNoeud* Selection() const { return selection_; }

@@ -27,8 +27,6 @@ class TForm : public TComposant {
  public:
   /// Key of the record that the form shows in its container; none when it shows no single one.
   const std::optional<int>& Cle() const { return cle_; }
-  /// The container that holds the form; null for a window of its own.
-  TPanneau* Conteneur() const { return conteneur_; }
   /// Which screen this is; two forms of one class are the same screen.
   std::type_index Classe() const { return typeid(*this); }
 
@@ -78,7 +76,6 @@ class TForm : public TComposant {
 
   std::vector<TComposant*> composants_;
   std::optional<int> cle_;
-  TPanneau* conteneur_ = nullptr;
   bool montree_ = false;
 };
 

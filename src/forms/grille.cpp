@@ -44,12 +44,6 @@ int TGrille::AjouterTete(TCellules cellules, TObjetVu objet) {
   return NombreLignes() - 1;
 }
 
-int TGrille::TeteDe(int ligne) const {
-  if (Ligne(ligne).Tete) return -1;
-  while (--ligne >= 0 && !Ligne(ligne).Tete) continue;
-  return ligne;
-}
-
 void TGrille::Fermer(int tete, bool ferme) {
   if (ferme)
     fermes_.insert(Nom(tete));

@@ -74,8 +74,6 @@ class TGrille {
   /// A head; the rows added after it are its group. Shut when the group of that name (column 0) was
   /// shut before, so that a list that is filled again keeps what the user folded.
   int AjouterTete(TCellules cellules, TObjetVu objet = {});
-  /// The head above the row; -1 for a head and for a row of no group.
-  int TeteDe(int ligne) const;
   bool EstFerme(int tete) const { return fermes_.contains(Nom(tete)); }
   /// The user folded or opened the group; announces nothing.
   void Fermer(int tete, bool ferme);

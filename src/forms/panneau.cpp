@@ -15,7 +15,6 @@ TForm* TPanneau::Ouvrir(std::type_index classe, const TFabrique& creer, std::opt
   places_.push_back({creer(), remplacement});
   TForm& form = *places_.back().Form;
   form.cle_ = cle;
-  form.conteneur_ = this;
   try {
     Avancer(form);
   } catch (...) {  // a screen that cannot fill itself is not opened

@@ -49,7 +49,6 @@ class TTickets : public TCollection<TTicket> {
   /// The distinct dates of purchase, in the order of the list; 0 stands once for the missing tickets.
   std::vector<TDateTime> DatesAchat() const;
   std::vector<TTicket*> AchetesLe(TDateTime date) const;
-  int NombreAchetesLe(TDateTime date) const { return static_cast<int>(AchetesLe(date).size()); }
   /// The first that was not bought, or null.
   TTicket* PremierManquant() const;
   /// How many were used without having been bought.

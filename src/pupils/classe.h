@@ -38,5 +38,5 @@ class TClasse {
   const QString CodeClasse;
   const QString SousClasse;
   const QString CodeImplantation;
-  std::vector<TEleve*> ListeEleves;  ///< in the order of the load: by name
+  std::vector<TEleve*> ListeEleves;  ///< by name, in the order of French
 };

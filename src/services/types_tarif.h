@@ -40,7 +40,6 @@ const QStringList& TextesFacturation();
 inline QString Texte(TTypeFamille famille) { return TextesTypeFamille().value(static_cast<int>(famille)); }
 inline QString Texte(TTypeJour jour) { return TextesTypeJour().value(static_cast<int>(jour)); }
 inline QString Texte(TTypeScan scan) { return TextesTypeScan().value(static_cast<int>(scan)); }
-inline QString TexteUnite(TTypeForfait forfait) { return TextesUnite().value(static_cast<int>(forfait)); }
 inline QString TexteFacturation(TTypeForfait forfait) {
   return TextesFacturation().value(static_cast<int>(forfait));
 }

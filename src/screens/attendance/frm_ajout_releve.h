@@ -30,9 +30,6 @@ class TFrmAjoutReleve : public TFrmDialogueDe<TReleveSaisi> {
   /// "Annuler"
   void BitBtn2Click() { Annuler(); }
 
-  /// The site is asked for (parameter 113).
-  bool AvecImplantation() const { return avecImplantation_; }
-
   // What was entered; for a dialog that was closed by "Valider".
   TTypePresence TypePresence() const { return static_cast<TTypePresence>(Saisi.IndexType + 1); }
   TDateTime DateReleve() const { return Saisi.Date; }

@@ -33,8 +33,6 @@ QString IconeDeNiveau(TNiveauEtat niveau) {
   return {};
 }
 
-TRole RoleDeNiveau(TNiveauEtat niveau) { return RoleDeIcone(IconeDeNiveau(niveau)); }
-
 MarqueEtat::MarqueEtat(QWidget* parent)
     : QWidget(parent), image_(new QLabel), texte_(new Etiquette({}, TRole::Secondaire)) {
   auto* ligne = new QHBoxLayout(this);

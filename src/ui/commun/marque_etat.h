@@ -8,7 +8,6 @@
 TRole RoleDeIcone(const QString& icone);
 /// Icon of a level; empty for Neutre.
 QString IconeDeNiveau(TNiveauEtat niveau);
-TRole RoleDeNiveau(TNiveauEtat niveau);
 
 /// A state as icon and word.
 class MarqueEtat : public QWidget {

@@ -87,8 +87,6 @@ void Saisie::focusInEvent(QFocusEvent* evenement) {
 
 SaisieMontant::SaisieMontant(QWidget* parent) : Saisie(parent) { setAlignment(Qt::AlignRight); }
 
-void SaisieMontant::DefinirMontant(Currency montant) { Montrer(FormatPrix(montant)); }
-
 std::optional<Currency> SaisieMontant::Montant() const {
   return Lire<Currency>(TGenreChamp::Montant, text());
 }
@@ -106,8 +104,6 @@ void SaisieMontant::keyPressEvent(QKeyEvent* evenement) {
 }
 
 SaisieHeure::SaisieHeure(QWidget* parent) : Saisie(parent) { setPlaceholderText(u"hh:mm"_s); }
-
-void SaisieHeure::DefinirHeure(TDateTime heure) { Montrer(FormatHeureCourte(heure)); }
 
 std::optional<TDateTime> SaisieHeure::Heure() const { return Lire<TDateTime>(TGenreChamp::Heure, text()); }
 

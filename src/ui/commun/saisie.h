@@ -41,7 +41,6 @@ class SaisieMontant : public Saisie {
   Q_OBJECT
  public:
   explicit SaisieMontant(QWidget* parent = nullptr);
-  void DefinirMontant(Currency montant);
   /// 0 for an empty field; none when the text is no amount.
   std::optional<Currency> Montant() const;
 
@@ -55,8 +54,6 @@ class SaisieHeure : public Saisie {
   Q_OBJECT
  public:
   explicit SaisieHeure(QWidget* parent = nullptr);
-  /// 0 empties the field.
-  void DefinirHeure(TDateTime heure);
   /// 0 for an empty field; none when the text is no time.
   std::optional<TDateTime> Heure() const;
 

@@ -232,13 +232,6 @@ void VueGrille::AllerAuFiltre() {
   champ_->selectAll();
 }
 
-int VueGrille::NombreVisibles() const {
-  int nombre = 0;
-  for (int ligne = 0; ligne < grille_.NombreLignes(); ++ligne)
-    if (!grille_.Ligne(ligne).Tete && IndexDe(ligne).isValid()) ++nombre;
-  return nombre;
-}
-
 // Copying
 
 std::vector<int> VueGrille::LignesVues() const {
@@ -327,8 +320,6 @@ void VueGrille::mouseDoubleClickEvent(QMouseEvent* evenement) {
   else
     emit Activee(ligne);
 }
-
-int VueGrille::LigneA(const QPoint& place) const { return LigneDe(indexAt(place)); }
 
 bool VueGrille::viewportEvent(QEvent* evenement) {
   if (evenement->type() != QEvent::ToolTip) return QTreeView::viewportEvent(evenement);

@@ -32,16 +32,12 @@ class VueGrille : public QTreeView {
   std::vector<int> ColonnesVues() const;
   /// Both keep the same widths, whichever of them is drawn.
   static void Accorder(VueGrille& a, VueGrille& b);
-  /// Rows that the filter lets through, heads not counted.
-  int NombreVisibles() const;
   /// The height for so many rows, its header included.
   int HauteurPour(int lignes) const;
   /// The scroll bar keeps its place even when there is nothing to scroll (see PiedDeGrille).
   void GarderBarre();
   /// The row of the grid is brought into view.
   void MontrerLigne(int ligne);
-  /// The row of the grid at a place of the viewport; -1 for none. For context menus.
-  int LigneA(const QPoint& place) const;
 
   QSize sizeHint() const override;
 

@@ -20,7 +20,6 @@ class VueListe : public QScrollArea {
 
  protected:
   VueGrille* Liste() const { return liste_; }
-  LiaisonChamps& Liaison() const { return *liaison_; }
   /// Beside the fields, for what a screen has more.
   QBoxLayout* Panneau() const { return panneau_; }
   virtual void Actualiser();
