@@ -25,8 +25,14 @@ std::vector<TColonneGrille> Colonnes() {
           {u"Type"_s, 88},
           {u"Entrée"_s, 72, TGenre::Heure},
           {u"Sortie"_s, 72, TGenre::Heure},
-          {u"Matricule"_s, 128},
-          {u"État"_s, 140, TGenre::Etat}};
+          {u"État"_s, 140, TGenre::Etat},
+          {u"Matricule"_s, 128}};
+}
+
+/// The state stands before the number, which alone is out of sight on a small screen.
+TCellules AvecEtat(TCellules cellules) {
+  cellules.insert(cellules.begin() + TfrmPresences::Etat, TValeurVue());
+  return cellules;
 }
 
 /// The windows in which a scan of that kind counts that day, for who corrects it: "matin 07:00 - 08:30".
@@ -240,7 +246,7 @@ void TfrmPresences::Afficher() {
     for (const auto& presence : import_.Bons()) AjouterBon(*presence);
     Anomalies.Vider();
     for (const TAnomalie& a : import_.Anomalies())
-      Anomalies.Ajouter(LigneAnomalie(a), a.Presence.get(), a.Presence ? SansTarif : Inconnu);
+      Anomalies.Ajouter(AvecEtat(LigneAnomalie(a)), a.Presence.get(), a.Presence ? SansTarif : Inconnu);
     Anomalies.ChoisirLigne(0);
   }
   Annoncer();
@@ -248,7 +254,7 @@ void TfrmPresences::Afficher() {
 
 void TfrmPresences::AjouterBon(TPresence& presence) {
   const bool hors = TImportPresences::EstHorsAnnee(presence.DateReleve);
-  Recapitulatif.Ajouter(LigneRecapitulatif(presence), &presence,
+  Recapitulatif.Ajouter(AvecEtat(LigneRecapitulatif(presence)), &presence,
                         hors ? HorsAnnee : static_cast<int>(import_.Origine(presence)));
 }
 

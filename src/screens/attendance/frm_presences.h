@@ -30,7 +30,7 @@ class TfrmPresences : public TForm {
   /// Also after step 2: what is corrected then waits for another one.
   bool PeutCorriger() const { return Anomalies.NombreLignes() > 0; }
 
-  enum TColonne { Nom, Prenom, Date, Type, Entree, Sortie, Matricule, Etat };
+  enum TColonne { Nom, Prenom, Date, Type, Entree, Sortie, Etat, Matricule };
   enum TEtatRecapitulatif { Bon, Corrige, Derive, HorsAnnee };
   enum TEtatAnomalie { Aucun, Inconnu, SansTarif };
   TGrille Recapitulatif;  ///< the object of a row is its TPresence, until step 2

@@ -5,6 +5,13 @@
 #include "ui/commun/marque_etat.h"
 #include "ui/commun/texte.h"
 
+namespace {
+
+/// A longer label goes on to a second line: it would push its fields out of a small screen.
+constexpr int kLargeurLibelle = 284;
+
+}  // namespace
+
 Etiquette* CreerLibelle(const QString& texte, QWidget* champ, QWidget* parent) {
   auto* libelle = new Etiquette(texte, TRole::Secondaire, nullptr, parent);
   if (!champ || texte.isEmpty()) return libelle;
@@ -16,6 +23,9 @@ Etiquette* CreerLibelle(const QString& texte, QWidget* champ, QWidget* parent) {
 Etiquette* CreerLibelleDeRang(const QString& texte, QWidget* champ) {
   Etiquette* libelle = CreerLibelle(texte, champ);
   libelle->setMinimumHeight(Theme::Px(28));
+  if (libelle->sizeHint().width() <= Theme::Px(kLargeurLibelle)) return libelle;
+  libelle->setWordWrap(true);
+  libelle->setFixedWidth(Theme::Px(kLargeurLibelle));
   return libelle;
 }
 
