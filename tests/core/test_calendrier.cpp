@@ -4,6 +4,7 @@
 
 #include "core/calendrier_scolaire.h"
 #include "core/exceptions.h"
+#include "core/mois.h"
 
 namespace {
 
@@ -22,6 +23,8 @@ TEST(CalendrierScolaire, BornesDeLAnneeEtDesMois) {
   }
   EXPECT_EQ(BornesMois(2, 2015), Periode(2016, 2, 1, 2016, 2, 29));
   for (const int faux : {0, 13}) EXPECT_THROW(BornesMois(faux, 2016), EConvertError);
+  EXPECT_EQ((QStringList{TexteDuMois(3), TexteDuMois(4), TexteDuMois(8), TexteDuMois(10)}).join(u'|'),
+            u"du mois de mars|du mois d'avril|du mois d'août|du mois d'octobre");
 }
 
 TEST(CalendrierScolaire, PeriodesExactes) {

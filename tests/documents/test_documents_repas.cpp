@@ -110,6 +110,10 @@ TEST_F(TDocumentsRepasEssai, DetailOfOrders) {
   EXPECT_EQ(Dessin(choix.Rapports.at(0)),
             u"Eleve2 Prenom2: NomEleve=Eleve2 Prenom2\nEleve3 Prenom3: NomEleve=Eleve3 Prenom3");
   EXPECT_TRUE(Page(choix.Rapports.at(0)).contains(u"jeudi 24 novembre 2016"));
+  base.Sql(u"UPDATE ELEVES SET NOM = CASE ELEVE_ID WHEN 2 THEN 'Zorn' ELSE 'Éloy' END"_s);
+  controleur.Charger();
+  const TResultat classe = ChoixDeRepas(Contexte(), Globals.Eleves->GetClasse(1), J("2016-11-24"));
+  EXPECT_TRUE(Dessin(classe.Rapports.at(0)).startsWith(u"Éloy Prenom3: ")) << "É with E on paper too";
 }
 
 TEST_F(TDocumentsRepasEssai, TicketsOfParentsAndClasses) {

@@ -6,7 +6,7 @@
 
 #include "core/exceptions.h"
 #include "forms/grille.h"
-#include "report/rapport.h"
+#include "report/parcours.h"
 
 using namespace Qt::StringLiterals;
 
@@ -93,6 +93,14 @@ TEST(Rapport, ColonnesDUneListeEtDUneGrille) {
   rapport.ChargerColonnesListe(TGrille(std::vector<TColonneGrille>(50, {u"C"_s, 7})));
   EXPECT_EQ(Valeurs(rapport, u"COLWIDTH"_s, {0, 48}), u"7"_s);
   EXPECT_THROW(rapport.ChargerColonnesListe(TGrille(std::vector<TColonneGrille>(51))), Exception);
+}
+
+TEST(Rapport, LesSousDetailsDemandesAvantLesDetails) {
+  const TRapport rapport = Rapport(DeuxEleves());
+  TParcours parcours(rapport);
+  parcours.Premier(TJeu::Maitre);
+  parcours.Premier(TJeu::SousDetail);
+  EXPECT_EQ(parcours.NombreLignes(TJeu::SousDetail), 2) << "those of the first detail";
 }
 
 TEST(Rapport, JsonGardeLOrdreEtToutTexte) {

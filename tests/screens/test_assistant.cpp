@@ -236,6 +236,8 @@ TEST_F(Assistant, BothRefusalsLeaveItOpen) {
   assistant.ChoisirMois(-1);
   const auto vide = Ouvrir([&] { Finir(); }, {false, {{u"Cuisine"_s, true}}, false, nullptr});
   ASSERT_TRUE(vide);
+  EXPECT_EQ(vide->DateDebut, J("2016-09-01")) << "no month is the year";
+  EXPECT_EQ(vide->DateFin, J("2017-06-30"));
 }
 
 TEST_F(Assistant, PaymentDateIsAWeekAhead) {

@@ -137,4 +137,9 @@ TEST_F(PresencesDuSite, TheFolderOfTheDevice) {
   EXPECT_FALSE(QFile::exists(fichier) || QFile::exists(copie));
   EXPECT_EQ(Archives(), u"Presences-3.10.2016-7h5m0s.txt");
   EXPECT_EQ(Presences(), u"1");
+  for (const QString& dossier : {premier, second}) Base.Fichier(dossier + u"Presences.txt"_s, kScans);
+  Form.btnImportScannerClick();
+  Base.Dialogues.Attend(kMemorisees);
+  Form.btnEtape2Click();
+  EXPECT_FALSE(QFile::exists(fichier)) << "the other file of the device goes too";
 }

@@ -209,6 +209,10 @@ TEST_F(TTarifsEssai, LePrixNeRegardePasLeJour) {
   EXPECT_EQ(trouve(TGroupe::Garderie, "07:45", ""), "1 07:30");
   EXPECT_EQ(cout(Matin, ScanEntree, "07:45", ""), "5.0000");
   EXPECT_EQ(cout(Soir, ScanSortie, "", "16:30"), "2.0000");  // equal starts: as in the collection
+  ecole.tarif(Midi, 3, "12:00", "13:00", Forfait, "3", ScanEntree);
+  ecole.tarif(Midi, TousLesJours, "12:00", "13:00", Forfait, "4", ScanEntree);
+  charger();
+  EXPECT_EQ(cout(Midi, ScanEntree, "12:30", ""), "4.0000") << "the greater set of days stands first";
 }
 
 TEST_F(TTarifsEssai, HeuresDUneFamille) {

@@ -262,6 +262,9 @@ TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
       << "its rows in other tables stay";
   EXPECT_EQ(Globals.EleveCourant, nullptr);
   Recherche()->clear();
+  QTest::keyClicks(Recherche(), u"peeters"_s);
+  EXPECT_NE(Choisi(), u"Peeters Anne") << "nor in the tree";
+  Recherche()->clear();
   QTest::keyClicks(Recherche(), u"pirard"_s);
   EXPECT_EQ(Choisi(), u"Pirard X");
   EXPECT_FALSE(Programme.Main().PeutSupprimerProfesseur()) << "a pupil";

@@ -74,9 +74,12 @@ TEST_F(TAttribution, PaidModeHoldsAtTheSave) {
   EXPECT_EQ(Rangees(), "1:12.5000 2:0.0000 3:0.0000 4:0.0000 5:12.5000");
   EXPECT_TRUE(attribution_.EstPaye(Eleve(5)));
   // Who has paid and is unticked loses line and amount, without a question.
+  Eleve(1).GetAllFrais()->LigneFrais(frais_)->ExtraitId = 7;
+  Globals.Eleves->ChargerExtraits = false;
   Cocher(1, false);
   attribution_.Enregistrer(Frais());
   EXPECT_EQ(Rangees(), "2:0.0000 3:0.0000 4:0.0000 5:12.5000");
+  EXPECT_TRUE(Globals.Eleves->ChargerExtraits) << "the movement that paid it is free again";
 }
 
 TEST_F(TAttribution, RefusedHalfWayItGoesOnFromThere) {
