@@ -49,12 +49,13 @@ TProvision::TProvision(const TParametres& parametres) {
 void TProvision::LireMontant() {
   try {
     const Currency lu = StrToCurr(Garderie);
-    if (lu >= Currency()) Montant = lu;
+    if (lu >= Currency() && TientDansVirement(lu)) Montant = lu;
   } catch (const EConvertError&) {
   }
   if (!Montant)
     Avertissements +=
-        u"La provision « %1 » n'est pas un montant : l'ordre de virement reste sans montant."_s.arg(Garderie);
+        u"La provision « %1 » n'est pas un montant qui tient dans ses cases : l'ordre de virement reste sans montant."_s
+            .arg(Garderie);
 }
 
 /// A text that is no whole number counts for nothing in the sum.

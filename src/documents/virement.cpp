@@ -27,7 +27,11 @@ struct TPartie {
   QString Texte;
 };
 
+QString Centimes(Currency montant) { return FormatDeuxDecimales(montant).remove(u','); }
+
 }  // namespace
+
+bool TientDansVirement(Currency montant) { return Centimes(montant).size() <= kCasesMontant; }
 
 void RemplirBeneficiaire(TRapport& rapport, const TParametres& parametres) {
   const auto texte = [&](TParam param) { return parametres.GetParametre(param); };
@@ -55,7 +59,7 @@ void RemplirVirement(TNoeudRapport& noeud, const QString& communication, std::op
     noeud.Valeurs.Ecrire(nom, caractere);
   };
   Repartir(u"COMMUNICATION", communication, communication.size(), ecrire);
-  QString chiffres = montant ? FormatDeuxDecimales(*montant).remove(u',') : QString();
-  if (chiffres.size() > kCasesMontant) chiffres.clear();  // a part of it would be another amount
+  const bool tient = montant && TientDansVirement(*montant);  // a part of it would be another amount
+  const QString chiffres = tient ? Centimes(*montant) : QString();
   Repartir(u"EURO", chiffres.rightJustified(kCasesMontant), kCasesMontant, ecrire);
 }

@@ -17,3 +17,6 @@ void RemplirBeneficiaire(TRapport& rapport, const TParametres& parametres);
 /// `COMMUNICATION`, as many as the text is long, and `EURO`: the cents in the last two boxes, blanks
 /// before the first digit, all blank without an amount.
 void RemplirVirement(TNoeudRapport& noeud, const QString& communication, std::optional<Currency> montant);
+
+/// Whether the amount has room in the boxes `EURO`.
+bool TientDansVirement(Currency montant);

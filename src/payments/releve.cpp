@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "payments/communication_structuree.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -26,7 +28,11 @@ TDispositionReleve DispositionDuParametre(const QString& valeur) {
 TReleveLu LireReleve(const QByteArray& octets, TDispositionReleve disposition) {
   TReleveLu releve =
       disposition == TDispositionReleve::C ? LireLignesEtiquetees(octets) : LireTableau(octets, disposition);
-  for (TMouvement& mouvement : releve.Mouvements) Tronquer(mouvement);
+  for (TMouvement& mouvement : releve.Mouvements) {
+    mouvement.Communication =
+        CommunicationNormalisee(mouvement.Communication);  // it may be cut after that only
+    Tronquer(mouvement);
+  }
   return releve;
 }
 

@@ -74,8 +74,13 @@ QString Reference(const TElementXml& structuree) {
 QString Communication(const TElementXml& detail, const TElementXml& ecriture) {
   QStringList libres;
   if (const TElementXml* remise = detail.Trouver(u"RmtInf")) {
-    for (const TElementXml* structuree : remise->Tous(u"Strd"))
-      if (const QString reference = Reference(*structuree); !reference.isEmpty()) return reference;
+    QString premiere;
+    for (const TElementXml* structuree : remise->Tous(u"Strd")) {
+      const QString reference = Reference(*structuree);
+      if (!TexteInterieur(reference).isEmpty()) return reference;
+      if (premiere.isEmpty()) premiere = reference;
+    }
+    if (!premiere.isEmpty()) return premiere;
     for (const TElementXml* libre : remise->Tous(u"Ustrd"))
       if (!libre->Texte.isEmpty()) libres += libre->Texte;
   }

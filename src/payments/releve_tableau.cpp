@@ -16,7 +16,10 @@ constexpr TColonnes kDispositionA{13, 1, 4, 5, 10, 14};
 constexpr TColonnes kDispositionB{14, 3, 4, 5, 10, 8};
 
 TMouvement LireLigne(const QStringList& cellules, const TColonnes& c) {
-  return {cellules.value(c.Donneur), StrToDate(cellules.value(c.Date)), StrToCurr(cellules.value(c.Montant)),
+  const TDateTime date = StrToDate(cellules.value(c.Date));
+  // The day before the first one that a database tells from an empty one.
+  if (date == 0.0) throw EConvertError(u"« %1 » n'est pas une date"_s.arg(cellules.value(c.Date)));
+  return {cellules.value(c.Donneur), date, StrToCurr(cellules.value(c.Montant)),
           cellules.value(c.Communication), cellules.value(c.Compte)};
 }
 
