@@ -100,6 +100,10 @@ TEST_F(PremierJour, FromNothingToTheFirstInvoiceByKeyboardAlone) {
             QStringList("1;6;1.5000;1"));
 
   Presser({Qt::CTRL | Qt::Key_1});
+  Activer("Paramètres : Ouvrir");
+  Remplacer("memFacture", "Merci de payer avec");
+
+  Presser({Qt::CTRL | Qt::Key_1});
   Activer("Frais : Encoder les frais");
   Presser({Qt::Key_F7});
   Ecrire("Piscine");
@@ -138,6 +142,6 @@ TEST_F(PremierJour, FromNothingToTheFirstInvoiceByKeyboardAlone) {
     Presser({Qt::Key_Escape});
   });
   Presser({Qt::Key_F8});
-  for (const char* texte : {"Nom 1234-1", "3,00", "Piscine", "12,50"})
+  for (const char* texte : {"Nom 1234-1", "3,00", "Piscine", "12,50", "Merci de payer avec"})
     EXPECT_TRUE(facture.contains(texte)) << texte << " in " << facture.toStdString();
 }

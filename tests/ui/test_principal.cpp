@@ -293,7 +293,7 @@ TEST_F(Principal, FirstUseLeadsToTheImport) {
   Programme.Demarrer();
   EXPECT_TRUE(Fenetre().Accueil()->isVisible());
   EXPECT_FALSE(Recherche()->isEnabled());
-  for (const char16_t* texte : {u"Aucun élève en 2016 - 2017", u"1.  Année scolaire", u"5.  Frais"})
+  for (const char16_t* texte : {u"Aucun élève en 2016 - 2017", u"1.  Année scolaire", u"6.  Frais"})
     EXPECT_TRUE(TextesDe(Fenetre()).contains(QStringView(texte)));
   EcrireLEcole();
   Programme.Main().mnuAnneeClick(2016);

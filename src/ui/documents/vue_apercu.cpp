@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <algorithm>
+#include <functional>
 
 #include "screens/documents/frm_apercu.h"
 #include "ui/commun/bouton.h"
@@ -99,7 +100,7 @@ QWidget* VueApercu::CreerBarre() {
 
 void VueApercu::CreerCommandes(QHBoxLayout& ligne) {
   const auto faire = [this](QPushButton* bouton, void (TFrmApercu::*action)()) {
-    connect(bouton, &QPushButton::clicked, this, [this, action] { (form_.*action)(); });
+    connect(bouton, &QPushButton::clicked, this, [this, action] { std::invoke(action, form_); });
   };
   faire(Commande(ligne, u"Imprimer"_s, u"document-print"_s, u"Imprimer (Ctrl+P)"_s, true),
         &TFrmApercu::btnImprimerClick);

@@ -4,6 +4,7 @@
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <functional>
 
 #include "screens/documents/frm_recapitulatif.h"
 #include "ui/commun/bouton.h"
@@ -143,7 +144,7 @@ void VueRecapitulatif::AjouterPeriode(PageStatistique& page, const QString& debu
 void VueRecapitulatif::AjouterCommande(PageStatistique& page, const QString& texte, const QString& icone,
                                        void (TFrmRecapitulatif::*faire)()) {
   QPushButton* bouton = BoutonSimple(texte, icone);
-  connect(bouton, &QPushButton::clicked, this, [this, faire] { (form_.*faire)(); });
+  connect(bouton, &QPushButton::clicked, this, [this, faire] { std::invoke(faire, form_); });
   page.Commandes().addWidget(bouton);
 }
 

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <functional>
 
 #include "screens/meals/frm_ticket.h"
 #include "ui/commun/bouton.h"
@@ -53,7 +54,7 @@ QLayout* VueTicket::Boutons() {
   for (const auto& [texte, icone, faire, principal] : boutons) {
     QPushButton* bouton = CreerBouton(principal ? TGenreBouton::Principal : TGenreBouton::Simple,
                                       QString::fromUtf16(texte), QString::fromUtf16(icone));
-    connect(bouton, &QPushButton::clicked, this, [this, faire = faire] { (form_.*faire)(); });
+    connect(bouton, &QPushButton::clicked, this, [this, faire = faire] { std::invoke(faire, form_); });
     rangee->addWidget(bouton);
     if (faire != &TFrmTicket::AdvGlowButton1Click) continue;
     bouton->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTabWidget>
+#include <functional>
 
 #include "screens/parametres/frm_parametres.h"
 #include "ui/commun/bouton.h"
@@ -65,7 +66,7 @@ void VueParametres::CreerPages() {
 QPushButton* VueParametres::AjouterBouton(QBoxLayout& rang, const QString& texte,
                                           void (TFrmParametres::*faire)()) {
   QPushButton* bouton = BoutonSimple(texte);
-  connect(bouton, &QPushButton::clicked, this, [this, faire] { (form_.*faire)(); });
+  connect(bouton, &QPushButton::clicked, this, [this, faire] { std::invoke(faire, form_); });
   rang.addWidget(bouton);
   return bouton;
 }

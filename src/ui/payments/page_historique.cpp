@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <functional>
 
 #include "screens/payments/frm_virement.h"
 #include "ui/commun/bouton.h"
@@ -42,7 +43,7 @@ QPushButton* PageHistorique::CreerFiltreEtat(const QString& texte, const QString
   bouton->setObjectName(nom);
   bouton->setCheckable(true);
   bouton->setToolTip(QString(u"Enfoncé, montre les mouvements " % QString(texte).remove(u'&').toLower()));
-  connect(bouton, &QPushButton::clicked, this, [this, faire] { (form_.*faire)(); });
+  connect(bouton, &QPushButton::clicked, this, [this, faire] { std::invoke(faire, form_); });
   return bouton;
 }
 
@@ -61,7 +62,7 @@ void PageHistorique::CreerTitre() {
 QAction* PageHistorique::AjouterAction(const QString& texte, void (TFrmVirement::*faire)(),
                                        const QString& icone) {
   auto* action = new QAction(icone.isEmpty() ? QIcon() : Theme::Icone(icone), texte, grille_);
-  connect(action, &QAction::triggered, this, [this, faire] { (form_.*faire)(); });
+  connect(action, &QAction::triggered, this, [this, faire] { std::invoke(faire, form_); });
   grille_->addAction(action);
   return action;
 }

@@ -6,6 +6,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <functional>
 
 #include "screens/payments/frm_attribution_virement.h"
 #include "ui/commun/bouton.h"
@@ -152,7 +153,8 @@ void VueAttributionVirement::reject() {
 }
 
 void VueAttributionVirement::Actualiser() {
-  for (std::size_t i = 0; i < mouvement_.size(); ++i) mouvement_[i]->setText((form_.*kMouvement[i].Lire)());
+  for (std::size_t i = 0; i < mouvement_.size(); ++i)
+    mouvement_[i]->setText(std::invoke(kMouvement[i].Lire, form_));
   if (nom_->text() != form_.SaisieEleve()) nom_->setText(form_.SaisieEleve());
   for (QWidget* champ :
        {static_cast<QWidget*>(nom_), static_cast<QWidget*>(eleves_), static_cast<QWidget*>(ajouter_)})
