@@ -190,8 +190,7 @@ void TImportPresences::Classer(const TScan& scan, const QString& site, std::vect
   const bool entree = scan.Sens == kEntree || entreeDuMatin;
   (entree ? presence->HeureEntree : presence->HeureSortie) = scan.Heure;
   std::unique_ptr<TPresence> derive = GarderieDuRepas(*presence);
-  if (Globals.TarifsGarderies->TarifExiste(GroupeDe(presence->TypePresence), presence->HeureSortie,
-                                           presence->HeureEntree, scan.Date))
+  if (AUnTarif(*presence))
     bons_.push_back(std::move(presence));
   else
     sansTarif.push_back({eleve->Matricule, std::move(presence)});
@@ -285,6 +284,11 @@ void TImportPresences::ArchiverSousSonNom(const QString& chemin) const {
 TOrigine TImportPresences::Origine(const TPresence& bon) const {
   const auto origine = origines_.find(&bon);
   return origine == origines_.end() ? TOrigine::Fichier : origine->second;
+}
+
+bool TImportPresences::AUnTarif(const TPresence& presence) {
+  return Globals.TarifsGarderies->TarifExiste(GroupeDe(presence.TypePresence), presence.HeureSortie,
+                                              presence.HeureEntree, presence.DateReleve);
 }
 
 int TImportPresences::NombreNonMemorises() const { return static_cast<int>(bons_.size() + ajoutees_.size()); }

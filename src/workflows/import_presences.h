@@ -66,6 +66,8 @@ class TImportPresences {
   const std::vector<std::unique_ptr<TPresence>>& Bons() const { return bons_; }
   const std::vector<TAnomalie>& Anomalies() const { return anomalies_; }
   TOrigine Origine(const TPresence& bon) const;
+  /// A tariff counts it.
+  static bool AUnTarif(const TPresence& presence);
   /// Records that are ready and not stored.
   int NombreNonMemorises() const;
   /// Of these, those whose day is not of the year on display: nobody will see them there.

@@ -90,6 +90,19 @@ TEST_F(FrmPresences, TheCountersAndTheNoteOfTheAnomalies) {
   EXPECT_EQ(Ecran.Etats.last(), u"3 relevés mémorisés") << "nothing is left to store";
 }
 
+TEST_F(FrmPresences, ACorrectionThatNoTariffCountsIsReadyAndSaidToBeSo) {
+  Importer("11;1;20161004;110100000;2\n", true);
+  Ecran.SurModale = [](TForm& form) {
+    auto& saisie = dynamic_cast<TFrmAjoutReleve&>(form);
+    EXPECT_TRUE(saisie.Note.endsWith(u"Heure de fin à corriger : 11:01")) << saisie.Note.toStdString();
+    saisie.Champs().Taper(Fin, u"23:00"_s);
+    EXPECT_TRUE(saisie.BitBtn1Click());
+  };
+  Form.Corrigerlerelev1Click();
+  EXPECT_EQ(Lignes(Form.Recapitulatif), QStringList{"Eleve1|Garderie|Sans tarif"});
+  EXPECT_TRUE(Ecran.Etats.last().startsWith(u"Relevé corrigé, mais aucun tarif"));
+}
+
 TEST_F(FrmPresences, APupilWhoIsGoneIsNotCorrected) {
   Importer("11;1;20161004;110100000;2\n", true);
   Globals.Eleves->RemoveEleve(*Globals.Eleves->TrouverParCode(u"11"_s));

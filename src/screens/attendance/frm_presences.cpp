@@ -47,6 +47,14 @@ QString HeuresDesTarifs(TTypePresence type, TDateTime date) {
   return heures.isEmpty() ? u"Aucun tarif ce jour-là."_s : QString(u"Tarifs : " % heures.join(u", "));
 }
 
+/// The hour to be put right, by its field: "Heure de fin à corriger : 18:22".
+QString HeuresACorriger(const TPresence& presence) {
+  QStringList heures;
+  if (presence.HeureEntree != 0.0) heures += u"Heure de début à corriger : " % FormatHeureCourte(presence.HeureEntree);
+  if (presence.HeureSortie != 0.0) heures += u"Heure de fin à corriger : " % FormatHeureCourte(presence.HeureSortie);
+  return heures.join(u'\n');
+}
+
 }  // namespace
 
 TfrmPresences::TfrmPresences(TContexteEcran& contexte)
@@ -54,7 +62,8 @@ TfrmPresences::TfrmPresences(TContexteEcran& contexte)
   Recapitulatif.Etats = {{},
                          {u"Corrigé"_s, u"data-information"_s},
                          {u"Forfait journée"_s, u"data-information"_s},
-                         {u"Hors de l'année"_s, u"data-warning"_s}};
+                         {u"Hors de l'année"_s, u"data-warning"_s},
+                         {u"Sans tarif"_s, u"data-warning"_s}};
   Anomalies.Etats = {{}, {u"Inconnu"_s, u"data-error"_s}, {u"Sans tarif"_s, u"data-warning"_s}};
 }
 
@@ -253,9 +262,15 @@ void TfrmPresences::Afficher() {
 }
 
 void TfrmPresences::AjouterBon(TPresence& presence) {
-  const bool hors = TImportPresences::EstHorsAnnee(presence.DateReleve);
-  Recapitulatif.Ajouter(AvecEtat(LigneRecapitulatif(presence)), &presence,
-                        hors ? HorsAnnee : static_cast<int>(import_.Origine(presence)));
+  Recapitulatif.Ajouter(AvecEtat(LigneRecapitulatif(presence)), &presence, EtatDe(presence));
+}
+
+// What was corrected is ready whatever its hours are; that no tariff counts it is only said.
+int TfrmPresences::EtatDe(const TPresence& bon) const {
+  if (TImportPresences::EstHorsAnnee(bon.DateReleve)) return HorsAnnee;
+  const TOrigine origine = import_.Origine(bon);
+  if (origine == TOrigine::Corrige && !TImportPresences::AUnTarif(bon)) return CorrigeSansTarif;
+  return static_cast<int>(origine);
 }
 
 void TfrmPresences::CompterReleves() {
@@ -278,7 +293,8 @@ void TfrmPresences::Corrigerlerelev1Click() {
   saisie.Charger(presence->TypePresence, presence->HeureSortie, presence->HeureEntree, presence->DateReleve,
                  presence->CodeImplantation);
   saisie.Note = Globals.Eleves->TrouverParId(presence->EleveId)->NomComplet() % u'\n' %
-                HeuresDesTarifs(presence->TypePresence, presence->DateReleve);
+                HeuresDesTarifs(presence->TypePresence, presence->DateReleve) % u'\n' %
+                HeuresACorriger(*presence);
   if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
   import_.Corriger(ligne, saisie.TypePresence(), saisie.DateReleve(), saisie.HeureSortie(),
                    saisie.HeureEntree(), saisie.CodeImplantation());
@@ -286,8 +302,11 @@ void TfrmPresences::Corrigerlerelev1Click() {
   Anomalies.Retirer(ligne);
   CompterCorrection();
   const int corrigee = Recapitulatif.NombreLignes() - 1;
-  Signaler(TNiveauEtat::Succes, QString(u"Relevé corrigé : " % Recapitulatif.Texte(corrigee, Nom) % u' ' %
-                                        Recapitulatif.Texte(corrigee, Prenom)));
+  const QString nom = Recapitulatif.Texte(corrigee, Nom) % u' ' % Recapitulatif.Texte(corrigee, Prenom);
+  if (EtatDe(*import_.Bons().back()) == CorrigeSansTarif)
+    Signaler(TNiveauEtat::Alerte, QString(u"Relevé corrigé, mais aucun tarif ne le couvre : " % nom));
+  else
+    Signaler(TNiveauEtat::Succes, QString(u"Relevé corrigé : " % nom));
   Annoncer();
 }
 

@@ -31,7 +31,7 @@ class TfrmPresences : public TForm {
   bool PeutCorriger() const { return Anomalies.NombreLignes() > 0; }
 
   enum TColonne { Nom, Prenom, Date, Type, Entree, Sortie, Etat, Matricule };
-  enum TEtatRecapitulatif { Bon, Corrige, Derive, HorsAnnee };
+  enum TEtatRecapitulatif { Bon, Corrige, Derive, HorsAnnee, CorrigeSansTarif };
   enum TEtatAnomalie { Aucun, Inconnu, SansTarif };
   TGrille Recapitulatif;  ///< the object of a row is its TPresence, until step 2
   TGrille Anomalies;      ///< its TPresence; none for an unknown pupil
@@ -74,6 +74,7 @@ class TfrmPresences : public TForm {
   void Afficher();
   void CompterReleves();
   void AjouterBon(TPresence& presence);
+  int EtatDe(const TPresence& bon) const;
   bool AccepteDePerdre() const;
   bool AccepteHorsAnnee() const;
   QString TexteBilan() const;
