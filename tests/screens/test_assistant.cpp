@@ -218,7 +218,10 @@ TEST_F(Assistant, BothRefusalsLeaveItOpen) {
   ecran.Essai.Horloge.Moment = EncodeDate(2016, 7, 15);
   const auto choix = Ouvrir([&] {
     assistant.ChoixRapportClick(1);
-    while (!assistant.EstDernierePage()) assistant.btnSuivantClick();
+    assistant.btnSuivantClick();
+    base.Dialogues.Attend(u"Aucun élève n'a été sélectionné !"_s);
+    EXPECT_FALSE(assistant.PeutSuivre()) << "nobody is chosen yet";
+    assistant.btnSuivantClick();
     EXPECT_EQ(assistant.IndiceMois(), -1) << "July is no month of school";
     base.Dialogues.Attend(u"Veuillez sélectionner un mois dans la liste déroulante"_s);
     Finir();

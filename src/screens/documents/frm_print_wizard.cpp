@@ -250,6 +250,12 @@ void TFrmPrintWizard::ChoisirDates(TDateTime debut, TDateTime fin) {
   Annoncer();
 }
 
+bool TFrmPrintWizard::PeutSuivre() {
+  if (page_ != TPageAssistant::Qui || AQuelquun()) return true;
+  RefuserPersonne();
+  return false;
+}
+
 void TFrmPrintWizard::btnAnnulerClick() {
   ResultatModal = TResultatModal::Annule;
   Fermer();
@@ -258,13 +264,12 @@ void TFrmPrintWizard::btnAnnulerClick() {
 void TFrmPrintWizard::KWizard1FinishButtonClick() {
   if (choixPeriode_ == TChoixPeriode::Mois && indiceMois_ < 0 && PageVisible(TPageAssistant::Periode))
     return Refuser(u"Veuillez sélectionner un mois dans la liste déroulante"_s, TChampAssistant::Mois);
+  if (PageVisible(TPageAssistant::Qui) && !AQuelquun()) {
+    OuvrirPage(TPageAssistant::Qui);
+    return RefuserPersonne();
+  }
   choix_ = {};
   AjouterChoisis(choix_);
-  if (PageVisible(TPageAssistant::Qui) && choix_.Eleves.empty() && choix_.Classes.empty()) {
-    OuvrirPage(TPageAssistant::Qui);
-    return Refuser(u"Aucun élève n'a été sélectionné !"_s,
-                   LstClasseActive() ? TChampAssistant::LstClasse : TChampAssistant::LstEleve);
-  }
   choix_.Indice = indice_;
   if (indice_ >= 0) dernier_ = Titres()[static_cast<std::size_t>(indice_)].Titre;
   const TPeriode periode = Periode();
@@ -277,6 +282,17 @@ void TFrmPrintWizard::KWizard1FinishButtonClick() {
 void TFrmPrintWizard::Refuser(const QString& texte, TChampAssistant champ) {
   contexte_.Dialogues().Message(texte);
   SurFoyer(champ);
+}
+
+void TFrmPrintWizard::RefuserPersonne() {
+  Refuser(u"Aucun élève n'a été sélectionné !"_s,
+          LstClasseActive() ? TChampAssistant::LstClasse : TChampAssistant::LstEleve);
+}
+
+bool TFrmPrintWizard::AQuelquun() const {
+  TChoixDocument choix;
+  AjouterChoisis(choix);
+  return !choix.Eleves.empty() || !choix.Classes.empty();
 }
 
 void TFrmPrintWizard::AjouterChoisis(TChoixDocument& choix) const {

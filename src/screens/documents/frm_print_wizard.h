@@ -27,6 +27,8 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   bool EstDernierePage() const { return PageVoisine(1) == page_; }
   void btnPrecedentClick() { OuvrirPage(PageVoisine(-1)); }
   void btnSuivantClick() { OuvrirPage(PageVoisine(1)); }
+  /// False, after a message, on the page of who as long as nobody is chosen.
+  bool PeutSuivre();
   void btnAnnulerClick();
   void KWizard1FinishButtonClick();
 
@@ -103,6 +105,8 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   TPageAssistant PageVoisine(int sens) const;
   void OuvrirPage(TPageAssistant page);
   void Refuser(const QString& texte, TChampAssistant champ);
+  void RefuserPersonne();
+  bool AQuelquun() const;
   void AjouterChoisis(TChoixDocument& choix) const;
   TPeriode Periode() const;
   QString TexteQui() const;

@@ -71,7 +71,7 @@ VuePrintWizard::VuePrintWizard(TFrmPrintWizard& form, QWidget* parent)
   pages_->addWidget(CreerPageQui());
   pages_->addWidget(CreerPagePeriode());
   const QSize place = QGuiApplication::primaryScreen()->availableSize();
-  resize(QSize(Theme::Px(720), Theme::Px(600)).boundedTo(place));
+  resize(QSize(Theme::Px(720), Theme::Px(680)).boundedTo(place));
   Suivre();
   pages_->setCurrentIndex(Id(form_.Page()));
   Rafraichir();
@@ -145,18 +145,21 @@ QWidget* VuePrintWizard::CreerPageRapport() {
       if (coche) zone->ensureWidgetVisible(bouton);
     });
   }
-  if (const int dernier = form_.IndiceDernier(); dernier >= 0) {
-    QPushButton* reprendre =
-        BoutonDiscret(u"Comme la dernière fois : " % form_.Titres()[static_cast<std::size_t>(dernier)].Titre);
-    connect(reprendre, &QPushButton::clicked, this, [this] { form_.btnDernierClick(); });
-    colonne->addWidget(reprendre, 0, Qt::AlignLeft);
-  }
   colonne->addStretch(1);
   zone->setFrameShape(QFrame::NoFrame);
   zone->setWidgetResizable(true);
   zone->setFocusPolicy(Qt::NoFocus);
   zone->setWidget(page);
-  return zone;
+  auto* pages = new QWidget;
+  auto* haut = SansMarge<QVBoxLayout>(pages, 4);
+  if (const int dernier = form_.IndiceDernier(); dernier >= 0) {  // above the titles, which may have to scroll
+    QPushButton* reprendre =
+        BoutonDiscret(u"Comme la dernière fois : " % form_.Titres()[static_cast<std::size_t>(dernier)].Titre);
+    connect(reprendre, &QPushButton::clicked, this, [this] { form_.btnDernierClick(); });
+    haut->addWidget(reprendre, 0, Qt::AlignLeft);
+  }
+  haut->addWidget(zone, 1);
+  return pages;
 }
 
 QLayout* VuePrintWizard::CreerListe(TListe& liste, const QString& courant, const QString& plusieurs,
@@ -375,7 +378,7 @@ bool VuePrintWizard::Valider() {
     return false;
   }
   if (!form_.EstDernierePage()) {
-    form_.btnSuivantClick();
+    if (form_.PeutSuivre()) form_.btnSuivantClick();
     return false;
   }
   form_.KWizard1FinishButtonClick();
