@@ -120,7 +120,7 @@ TEST_F(DeuxPostes, ARecordFollowsAfterF5AndSaysWhatIsGone) {
   Base.Sql("DELETE FROM ELEVES WHERE ELEVE_ID = 2");
   Programme.Dialogues.Attend("Cet élève n'existe plus : un autre poste l'a supprimé.");
   relue.Champs().Choisir(relue.Champs().Indice("cbEleveRadie"), 1);
-  EXPECT_EQ(Etat(), "Non enregistré");
+  EXPECT_EQ(Etat(), "Non enregistré : Élève radié");
   Touche(Qt::Key_F5);
   EXPECT_EQ(Programme.Main().NombreEleves(), 3);
 }

@@ -90,8 +90,9 @@ TEST_F(Tarifs, AjouteModifieEtRefuse) {
   Touche(Qt::Key_Tab);
   EXPECT_EQ(QApplication::focusWidget(), &Controle("edHeureFin")) << "the hand stays where the fault is";
   EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"« 25:00 » n'est pas une heure (hh:mm)."_s));
-  EXPECT_EQ(Etat(), u"Non enregistré : « 25:00 » n'est pas une heure (hh:mm).");
+  EXPECT_EQ(Etat(), u"Non enregistré : « Heure de fin » : « 25:00 » n'est pas une heure (hh:mm).");
   Taper("edHeureFin", u"1630"_s);
+  EXPECT_EQ(Etat(), QString()) << "it is typed anew";
   Controle<QLineEdit>("edCout").setFocus(Qt::TabFocusReason);
   QTest::keyClicks(&Controle<QLineEdit>("edCout"), u"1"_s);
   QTest::keyClick(&Controle<QLineEdit>("edCout"), Qt::Key_Period, Qt::KeypadModifier);

@@ -1,6 +1,7 @@
 #include "screens/commun/frm_liste.h"
 
 #include "report/rapport.h"
+#include "screens/commun/refus.h"
 
 TFrmListe::TFrmListe(TContexteEcran& contexte, TTextesListe textes)
     : contexte_(contexte), textes_(std::move(textes)) {
@@ -11,9 +12,7 @@ TFrmListe::TFrmListe(TContexteEcran& contexte, TTextesListe textes)
 }
 
 void TFrmListe::FormShow() {
-  Champs().SurRefus = [this](const TChamp&, const QString& faute) {
-    Dire(TNiveauEtat::Erreur, u"Non enregistré : " % faute);
-  };
+  liens_ += AnnoncerRefus(Champs(), contexte_.Principal);
   liens_ += Champs().SurChangement.Suivre([this](int) { SurChangement(); });
   Champs().DefinirLectureSeule(true);
   Remplir();

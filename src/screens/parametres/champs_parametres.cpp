@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/exceptions.h"
+#include "screens/commun/refus.h"
 
 using namespace Qt::StringLiterals;
 
@@ -56,9 +57,7 @@ TChampsParametres::TChampsParametres(TContexteEcran& contexte, TTableChamps<TPar
     : TChampsDe(std::move(table), Aussitot), contexte_(contexte) {
   EcrireToujours = true;
   SurEnregistrer = [this](const TChamp& champ) { Enregistrer(champ); };
-  SurRefus = [this](const TChamp&, const QString& faute) {
-    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré : " % faute);
-  };
+  refus_ = AnnoncerRefus(*this, contexte.Principal);
 }
 
 void TChampsParametres::Sauver() {
@@ -73,8 +72,10 @@ void TChampsParametres::Sauver() {
 void TChampsParametres::Enregistrer(const TChamp& champ) {
   if (Avant) Avant(champ);
   Sauver();
+  const int indice = Indice(champ.Nom);
+  if (Lire(indice) == Valeur(indice)) return;  // nothing was typed: nothing to tell
   const QString nom = NomDuChamp(champ);
-  const QString avis = Avis ? Avis(champ, TexteDuChamp(champ, Lire(Indice(champ.Nom)))) : QString();
+  const QString avis = Avis ? Avis(champ, TexteDuChamp(champ, Lire(indice))) : QString();
   if (avis.isEmpty())
     contexte_.Principal.Etat(TNiveauEtat::Succes, u"Enregistré : " % nom);
   else

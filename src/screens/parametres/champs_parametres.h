@@ -32,4 +32,5 @@ class TChampsParametres : public TChampsDe<TParametres> {
   void Enregistrer(const TChamp& champ);
 
   TContexteEcran& contexte_;
+  TLien refus_;
 };

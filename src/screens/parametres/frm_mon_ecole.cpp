@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 
 #include "core/exceptions.h"
+#include "screens/commun/refus.h"
 #include "screens/parametres/pages_parametres.h"
 
 using namespace Qt::StringLiterals;
@@ -107,9 +108,7 @@ TFrmMonEcole::TFrmMonEcole(TContexteEcran& contexte)
       contexte_(contexte) {
   Ecole.Avis = AvisHoraire;
   Implantation.SurEnregistrer = [this](const TChamp&) { grdImplantationCellEdited(); };
-  Implantation.SurRefus = [this](const TChamp&, const QString& faute) {
-    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré : " % faute);
-  };
+  liens_ += AnnoncerRefus(Implantation, contexte.Principal);
   liens_ += grdImplantation.SurChoix.Suivre([this] { MontrerImplantation(); });
 }
 

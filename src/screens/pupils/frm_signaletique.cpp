@@ -1,4 +1,5 @@
 #include "screens/pupils/frm_signaletique.h"
+#include "screens/commun/refus.h"
 
 #include <algorithm>
 
@@ -49,11 +50,9 @@ TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte)
       champs_(Table(), TChamps::Aussitot) {
   champs_.SurPermission = [this] { return ExigeEleve(); };
   champs_.SurEnregistrer = [this](const TChamp& champ) { EnregistrerEleve(champ); };
-  champs_.SurRefus = [this](const TChamp&, const QString& faute) {
-    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré : " % faute);
-  };
-  champs_.SurEchec = [this](const TChamp&, const QString& faute) {
-    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré"_s);
+  refus_ = AnnoncerRefus(champs_, contexte.Principal);
+  champs_.SurEchec = [this](const TChamp& champ, const QString& faute) {
+    contexte_.Principal.Etat(TNiveauEtat::Erreur, QString(u"Non enregistré : " % NomDuChamp(champ)));
     contexte_.Dialogues().Message(faute);
   };
   imprimeur_.SurAllerAuChamp = [this](TEleve& eleve, const QString& champ) { AllerAuChamp(eleve, champ); };
@@ -95,12 +94,16 @@ bool TFrmSignaletique::Accepte(TCodeMessage code) const {
 // Whatever fails half-way, the screen never shows two pupils at once.
 void TFrmSignaletique::PrendreEleve() {
   TEleve* eleve = Globals.EleveCourant;
-  if (champs_.Modifies() && eleve != champs_.Objet())  // it belonged to the pupil who was left
-    contexte_.Principal.Etat(TNiveauEtat::Alerte,
-                             u"Abandonné, car refusé : la modification de " % nomComplet_);
-  if (eleve == nullptr) return Vider();
+  // What was refused belonged to the pupil who is left.
+  const QString perdu = champs_.Modifies() && eleve != champs_.Objet() ? nomComplet_ : QString();
+  const auto direPerdu = [&] {
+    if (!perdu.isEmpty())
+      contexte_.Principal.Etat(TNiveauEtat::Alerte, u"Abandonné, car refusé : la modification de " % perdu);
+  };
+  if (eleve == nullptr) return Vider(), direPerdu();
   try {
     LireFiche(*eleve);
+    direPerdu();
     Frais.Remplir(*eleve);
     Annoncer();
     RemplirReleve(*eleve);

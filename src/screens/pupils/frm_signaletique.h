@@ -169,6 +169,7 @@ class TFrmSignaletique : public TForm {
   int indiceMois_ = 0;
   bool courriel_ = false;
   TChampsDe<TEleve> champs_;
+  TLien refus_;
   struct TAnnulation {
     int EleveId = 0;
     std::function<void()> Faire;

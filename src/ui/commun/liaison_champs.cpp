@@ -87,6 +87,15 @@ int LargeurDe(const TChamp& champ) {
   return champ.Boutons ? 0 : kGenres[static_cast<std::size_t>(champ.Genre)].Largeur;
 }
 
+/// The caret stays where it was, as far as there is text.
+void Remplacer(QPlainTextEdit& lignes, const QString& texte) {
+  const int place = lignes.textCursor().position();
+  lignes.setPlainText(texte);
+  QTextCursor curseur = lignes.textCursor();
+  curseur.setPosition(std::min(place, lignes.document()->characterCount() - 1));
+  lignes.setTextCursor(curseur);
+}
+
 /// What is pasted is cut as what is typed.
 QString Coupe(QPlainTextEdit& lignes, int longueur) {
   const QString texte = lignes.toPlainText();
@@ -231,7 +240,7 @@ void LiaisonChamps::ActualiserUn(int champ) {
     }
   } else if (auto* lignes = qobject_cast<QPlainTextEdit*>(widget)) {
     lignes->setReadOnly(inactif);
-    if (lignes->toPlainText() != QString(texte).replace(u"\r\n"_s, u"\n"_s)) lignes->setPlainText(texte);
+    if (lignes->toPlainText() != QString(texte).replace(u"\r\n"_s, u"\n"_s)) Remplacer(*lignes, texte);
   } else if (auto* choix = qobject_cast<QComboBox*>(widget)) {
     choix->setEnabled(!lecture);
     choix->setCurrentIndex(champs_.Actifs() ? valeur : -1);

@@ -113,6 +113,7 @@ void VueParametres::AjouterInsertion(QBoxLayout& rang, const QString& texte, con
                                      const QString& quoi) {
   QPushButton* bouton = BoutonSimple(texte);
   bouton->setToolTip(u"Ajoute "_s % quoi % u" à l'endroit du curseur");
+  bouton->setFocusPolicy(Qt::TabFocus);  // a press leaves no field, which would store and trim it first
   connect(bouton, &QPushButton::clicked, this, [this, champ, quoi] { Inserer(champ, quoi); });
   rang.addWidget(bouton);
 }

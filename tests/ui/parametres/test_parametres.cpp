@@ -68,6 +68,7 @@ TEST_F(Parametres, EachFieldWritesItsSetting) {
   Aller(Controle("edVirementBeneficiaire"));
   Touche(Qt::Key_Tab);
   EXPECT_EQ(Parametre(50), "É");
+  EXPECT_FALSE(Etat().startsWith("Enregistré : Nom du")) << "but nothing was typed";
 }
 
 TEST_F(Parametres, TheFtpAddressIsWrittenAtEachKey) {
@@ -135,6 +136,10 @@ TEST_F(Parametres, WhatIsInsertedStandsAtTheCaretAndFits) {
   QTest::keyClicks(&facture, "-");
   Touche(Qt::Key_Tab);
   EXPECT_EQ(Parametre(10), "1\n2\nA[ComStructParFacture]-B");
+  Saisir("memFacture", "Merci ");
+  Cliquer("Insérer la communication structurée");
+  EXPECT_EQ(facture.toPlainText(), "Merci[ComStructParFacture]")
+      << "what is stored is trimmed, the caret stays";
 
   auto& effectifs = Controle<QPlainTextEdit>("memFraisEffectifs");
   Programme.Dialogues.Attend("1000 au plus");
