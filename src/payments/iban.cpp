@@ -16,3 +16,9 @@ bool IbanValide(const QString& compte) {
     chiffres += c.isDigit() ? QString(c) : QString::number(c.unicode() - u'A' + 10);
   return Modulo97(chiffres) == 1;
 }
+
+bool IbanFautif(const QString& saisi) {
+  static const QRegularExpression debut(u"\\A[A-Z]{2}[0-9]{2}"_s);
+  const QString compte = IbanSansBlancs(saisi.toUpper());
+  return debut.match(compte).hasMatch() && !IbanValide(compte);
+}

@@ -5,6 +5,7 @@
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "core/mois.h"
+#include "payments/iban.h"
 #include "pupils/eleves.h"
 #include "screens/parametres/champs_parametres.h"
 #include "screens/payments/frm_attribution_compte.h"
@@ -60,7 +61,12 @@ void TFrmSignaletique::EnregistrerEleve(const TChamp& champ) {
   SauverEleve(eleve);
   QString quoi = champ.Libelle;
   while (quoi.endsWith(u':') || quoi.endsWith(u' ')) quoi.chop(1);
-  contexte_.Principal.Etat(TNiveauEtat::Succes, QString(quoi % u" : enregistré pour " % nomComplet_));
+  const QString fait = quoi % u" : enregistré pour " % nomComplet_;
+  if (champ.Nom == u"edNumCompte" && IbanFautif(eleve.NumCompte))
+    contexte_.Principal.Etat(TNiveauEtat::Alerte,
+                             fait % u", mais ce n'est pas un IBAN : vérifiez ses chiffres");
+  else
+    contexte_.Principal.Etat(TNiveauEtat::Succes, fait);
 }
 
 void TFrmSignaletique::SauverEleve(TEleve& eleve) {
