@@ -199,10 +199,12 @@ TEST_F(FrmMain, SearchFromTheStartThenOnward) {
 
   const QString fin = u"Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?"_s;
   Chercher("p");
+  EXPECT_EQ(Main.Etat().Texte, u"1 sur 3 pour « p » : Entrée passe au suivant");
   for (const char* attendu : {"P2 A", "Pirard X"}) {
     Main.btnRechercheClick();
     EXPECT_EQ(Choisi().toStdString(), attendu);
   }
+  EXPECT_EQ(Main.Etat().Texte, u"3 sur 3 pour « p »");
   Base.Dialogues.Repond(fin, false);
   Main.btnRechercheClick();
   EXPECT_EQ(Choisi(), u"Pirard X") << "no stops";
@@ -229,9 +231,12 @@ TEST_F(FrmMain, ASecondSearchWhereTheFirstFindsNothing) {
   EXPECT_TRUE(Main.Trouves().empty());
   EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves") << "the first find opens its record";
 
+  Main.Executer(TGestionnaire::AdvGlowButton16Click);
   Chercher("BOIS");
   EXPECT_EQ(Choisi(), u"Dubois X");
-  Main.btnRechercheClick();  // a single hit asks nothing
+  EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Frais");
+  Main.btnRechercheClick();  // a single hit asks nothing, and shows its record
+  EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
   journal.clear();
   Chercher("personne");
   EXPECT_EQ(Globals.EleveCourant, nullptr);

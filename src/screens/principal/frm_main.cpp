@@ -73,6 +73,7 @@ TFrmMain::TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge&
   liens_ += Panneau.SurEtape.Suivre([this](TForm& form, TEtapeForm etape) {
     if (etape == TEtapeForm::Affichee) {
       accueilDevant_ = false;
+      OublierRefus();
       ecran_ = form.SurCommandes.Suivre([this] { SurOutils(); });
     }
     SurEtape(form, etape);
@@ -319,6 +320,12 @@ bool TFrmMain::RecevoirMessage(const TMessage& message) {
 void TFrmMain::Etat(TNiveauEtat niveau, const QString& texte) {
   etat_ = {niveau, texte};
   SurEtat();
+}
+
+// What a screen refused is no word about the next one.
+void TFrmMain::OublierRefus() {
+  if (etat_.Niveau == TNiveauEtat::Erreur && etat_.Texte.startsWith(u"Non enregistré"))
+    Etat(TNiveauEtat::Neutre, {});
 }
 
 void TFrmMain::EtatApresEcran(TNiveauEtat niveau, const QString& fait) {

@@ -168,6 +168,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   void tvEleveChange();
   /// What was done, and what the screen that had to go for it has left undone.
   void EtatApresEcran(TNiveauEtat niveau, const QString& fait);
+  void OublierRefus();
   void Diffuser(TCodeMessage code);
   bool EcranAccepte();
   TNoeud* NoeudQuiCommence(TNoeud* debut) const;
@@ -176,13 +177,15 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
                         bool faite) const;
   void ChoisirPremiereAnnee();
   TEtapeAccueil EtapeReglages() const;
+  TEtapeAccueil EtapeImportation() const;
   TEtapeAccueil EtapeFrais() const;
   bool EstEcartee(const QString& reglage) const;
   bool EstBureau() const;
-  void OuvrirNoeud(TNoeud& noeud);
+  void OuvrirNoeud(TNoeud& noeud, bool fiche);
+  QString TexteRang() const;
   void LaisserEleve();
   void MontrerTrouves(std::vector<TNoeud*> trouves);
-  bool ChercherPartout();
+  bool ChercherPartout(bool fiche);
   void OuvrirMatricule();
   template <class T>
   int Combien(T compte) const;

@@ -82,8 +82,7 @@ std::vector<TEtapeAccueil> TFrmMain::Etapes() const {
       EtapeAnnee(),
       EtapeDe(AdvGlowButton3Click, u"Nom, adresse et compte bancaire : ce que les documents impriment."_s,
               u"Ouvrir"_s, !Globals.Parametres->GetParametre(TParam::NomEcole).trimmed().isEmpty()),
-      EtapeDe(AdvGlowButton8Click, u"Élèves, classes et implantations, depuis l'export du registre SIEL."_s,
-              u"Importer les élèves"_s, Globals.Eleves->Count() > 0),
+      EtapeImportation(),
       EtapeDe(AdvGlowButton5Click, u"Horaires et tarifs des garderies, de l'étude et des repas."_s,
               u"Encoder les tarifs"_s, Globals.TarifsGarderies->Count() > 0),
       EtapeReglages(),
@@ -111,6 +110,19 @@ TEtapeAccueil TFrmMain::EtapeReglages() const {
   if (!etape.Faite) {
     etape.Ecarter = u"S'en passer cette année"_s;
     etape.ReglageEcarte = kAnneeSansReglages;
+  }
+  return etape;
+}
+
+// The register is taken into the working year, whichever is looked at.
+TEtapeAccueil TFrmMain::EtapeImportation() const {
+  TEtapeAccueil etape = EtapeDe(TGestionnaire::AdvGlowButton8Click,
+                                u"Élèves, classes et implantations, depuis l'export du registre SIEL."_s,
+                                u"Importer les élèves"_s, Globals.Eleves->Count() > 0);
+  if (etape.Possible && !AnneeDeTravailAffichee()) {
+    etape.Possible = false;
+    etape.RaisonInactive = u"Le registre entre dans l'année de travail, " %
+                           AnneeEnTexte(Globals.AnneeScolaire) % u" : affichez-la d'abord";
   }
   return etape;
 }

@@ -43,12 +43,29 @@ TNoeud* TFrmMain::NoeudQuiCommence(TNoeud* debut) const {
       [&](const TNoeud& noeud) { return noeud.Texte.startsWith(cherche, Qt::CaseInsensitive); }, debut);
 }
 
-// At the start, with no screen open, the one found shows its record.
-void TFrmMain::OuvrirNoeud(TNoeud& noeud) {
+/// "2 sur 3 pour « dupont »", of the names that begin so; "" for a single one.
+QString TFrmMain::TexteRang() const {
+  int rang = 0, nombre = 0;
+  for (TNoeud* noeud = NoeudQuiCommence(Arbre.Premier()); noeud != nullptr;
+       noeud = NoeudQuiCommence(Arbre.Suivant(*noeud))) {
+    ++nombre;
+    if (noeud == Arbre.Selection()) rang = nombre;
+  }
+  if (nombre < 2 || rang == 0) return {};
+  const QString texte = u"%1 sur %2 pour « %3 »"_s.arg(rang).arg(nombre).arg(recherche_.trimmed());
+  return rang < nombre ? QString(texte % u" : Entrée passe au suivant") : texte;
+}
+
+// The record opens at the start, with no screen open, and where it is asked for on a screen that does not
+// take up the pupil.
+void TFrmMain::OuvrirNoeud(TNoeud& noeud, bool fiche) {
   Arbre.Selectionner(&noeud);
-  if (noeud.Objet.En<TEleve>() == nullptr || Panneau.Courante() != nullptr) return;
-  const TGestionnaire fiche = TGestionnaire::AdvGlowButton2Click;
-  if (PageVisible(TPage::PgEleve) && CommandeActive(Commande(fiche))) Executer(fiche);
+  Etat(TNiveauEtat::Neutre, TexteRang());
+  const TCommandePrincipale* ouverte = CommandeOuverte();
+  const bool reste = Panneau.Courante() != nullptr && (!fiche || (ouverte != nullptr && ouverte->PrendEleve));
+  if (noeud.Objet.En<TEleve>() == nullptr || reste) return;
+  const TGestionnaire eleves = TGestionnaire::AdvGlowButton2Click;
+  if (PageVisible(TPage::PgEleve) && CommandeActive(Commande(eleves))) Executer(eleves);
 }
 
 // Nobody is current after a search that found nobody, so that nobody's papers are printed by mistake.
@@ -67,10 +84,9 @@ void TFrmMain::edSearchChange(const QString& texte) {
   MontrerTrouves({});
   if (texte.trimmed().isEmpty()) return;
   if (TNoeud* noeud = NoeudQuiCommence(Arbre.Premier())) {
-    OuvrirNoeud(*noeud);
-    Etat(TNiveauEtat::Neutre, {});
+    OuvrirNoeud(*noeud, false);
   } else {
-    ChercherPartout();
+    ChercherPartout(false);
   }
 }
 
@@ -84,10 +100,10 @@ void TFrmMain::ChoisirTrouve(int rang) {
   if (rang < 0 || rang >= static_cast<int>(trouves_.size())) return;
   TNoeud& noeud = *trouves_[static_cast<std::size_t>(rang)];
   MontrerTrouves({});
-  OuvrirNoeud(noeud);
+  OuvrirNoeud(noeud, true);
 }
 
-bool TFrmMain::ChercherPartout() {
+bool TFrmMain::ChercherPartout(bool fiche) {
   std::vector<TNoeud*> trouves;
   for (TNoeud* noeud = Arbre.Premier(); noeud != nullptr; noeud = Arbre.Suivant(*noeud)) {
     const TEleve* eleve = noeud->Objet.En<TEleve>();
@@ -96,7 +112,7 @@ bool TFrmMain::ChercherPartout() {
   const QString cherche = recherche_.trimmed();
   if (trouves.size() == 1) {
     MontrerTrouves({});
-    OuvrirNoeud(*trouves.front());
+    OuvrirNoeud(*trouves.front(), fiche);
     Etat(TNiveauEtat::Neutre, u"Trouvé pour « %1 » : "_s.arg(cherche) % trouves.front()->Texte);
     return true;
   }
@@ -115,7 +131,7 @@ void TFrmMain::OuvrirMatricule() {
   TEleve* eleve = Globals.Eleves != nullptr ? Globals.Eleves->TrouverParCode(matricule) : nullptr;
   TNoeud* noeud = eleve != nullptr ? Arbre.TrouverObjet(eleve) : nullptr;
   if (noeud != nullptr) {
-    OuvrirNoeud(*noeud);
+    OuvrirNoeud(*noeud, true);
     Etat(TNiveauEtat::Neutre, u"Matricule %1 : "_s.arg(matricule) % noeud->Texte);
     return;
   }
@@ -129,13 +145,13 @@ void TFrmMain::btnRechercheClick() {
   if (!matricule_.isEmpty()) return OuvrirMatricule();
   if (recherche_.trimmed().isEmpty()) return;
   TNoeud* premier = NoeudQuiCommence(Arbre.Premier());
-  if (premier == nullptr && ChercherPartout()) return;
+  if (premier == nullptr && ChercherPartout(true)) return;
   if (premier != nullptr && NoeudQuiCommence(Arbre.Suivant(*premier)) == nullptr)
-    return OuvrirNoeud(*premier);
+    return OuvrirNoeud(*premier, true);
   for (;;) {
     const TNoeud* choisi = Arbre.Selection();
     TNoeud* debut = choisi != nullptr ? Arbre.Suivant(*choisi) : Arbre.Premier();
-    if (TNoeud* noeud = NoeudQuiCommence(debut)) return OuvrirNoeud(*noeud);
+    if (TNoeud* noeud = NoeudQuiCommence(debut)) return OuvrirNoeud(*noeud, true);
     if (!Contexte.Dialogues().Confirmer(
             u"Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?"_s))
       return;
