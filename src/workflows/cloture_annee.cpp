@@ -9,13 +9,23 @@ using namespace Qt::StringLiterals;
 
 QString TClotureAnnee::Annonce(int eleves) {
   const int annee = Globals.AnneeScolaire;
-  std::unordered_set<int> comptes;
-  for (const TEleve& eleve : *Globals.Eleves) comptes.insert(eleve.Id);
+  std::unordered_set<int> comptes, professeurs;
+  for (const TEleve& eleve : *Globals.Eleves)
+    (CategorieDeClasse(eleve.CodeClasse) == TCategorie::Personnel ? professeurs : comptes).insert(eleve.Id);
+  QString qui = CompterEleves(static_cast<qint64>(comptes.size()));
+  QString reste;
+  if (!professeurs.empty()) {
+    const auto nombre = static_cast<qint64>(professeurs.size());
+    qui += u" et de " % Compter(nombre, u"professeur"_s, u"professeurs"_s);
+    reste =
+        u"\nAucun professeur ne passe : ajoutez-les dans la nouvelle année, par le menu de la liste des élèves."_s;
+  }
   return u"La clôture écrit la balance de %1, fait passer %2 du fichier en %3-%4 et quitte l'année "
-         "%5-%3."_s.arg(CompterEleves(static_cast<qint64>(comptes.size())), CompterEleves(eleves))
+         "%5-%3."_s.arg(qui, CompterEleves(eleves))
              .arg(annee + 1)
              .arg(annee + 2)
-             .arg(annee);
+             .arg(annee) %
+         reste;
 }
 
 void TClotureAnnee::Cloturer() {

@@ -2,6 +2,17 @@
 
 #include "core/accord.h"
 #include "forms/arbre.h"
+#include "pupils/eleves.h"
+
+namespace {
+
+/// Its class counts its own; a site counts pupils only.
+bool EstPersonnel(const TNoeud& noeud) {
+  const auto* classe = noeud.Objet.En<TClasse>();
+  return classe != nullptr && CategorieDeClasse(classe->CodeClasse) == TCategorie::Personnel;
+}
+
+}  // namespace
 
 ModeleArbre::ModeleArbre(const TArbre& arbre, QObject* parent) : QAbstractItemModel(parent), arbre_(arbre) {
   Relire();
@@ -19,7 +30,7 @@ void ModeleArbre::Noter(TNoeud& noeud, int rang) {
   int feuilles = 0, suivant = 0;
   for (const auto& enfant : noeud.Enfants()) {
     Noter(*enfant, suivant++);
-    feuilles += enfant->Enfants().empty() ? 1 : places_[enfant.get()].Feuilles;
+    if (!EstPersonnel(*enfant)) feuilles += enfant->Enfants().empty() ? 1 : places_[enfant.get()].Feuilles;
   }
   places_[&noeud] = {rang, feuilles};
 }
