@@ -3,8 +3,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QStandardPaths>
+#include <QTreeView>
 
 #include "ui/commun/bouton.h"
 #include "ui/commun/theme.h"
@@ -34,7 +36,44 @@ void Dire(const QString& texte, const QString& icone, TRole role) {
   boite.exec();
 }
 
+/// What the answer sets off may take long: the question does not stand there meanwhile.
+void Effacer(QDialog& boite) {
+  boite.hide();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+/// Qt's own dialog: names have the room, the kind of a file, which is not in French, goes.
+void Habiller(const QFileDialog& dialogue) {
+  auto* detail = dialogue.findChild<QTreeView*>(u"treeView"_s);
+  if (detail == nullptr) return;
+  constexpr int kType = 2;
+  detail->hideColumn(kType);
+  detail->header()->setStretchLastSection(false);
+  detail->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  detail->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+/// Eats what was typed or pressed at what no longer stands there.
+class Sourd : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* evenement) override {
+    switch (evenement->type()) {
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+      case QEvent::Shortcut:
+      case QEvent::ShortcutOverride:
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseButtonDblClick:
+        return true;
+      default:
+        return false;
+    }
+  }
+};
+
 std::optional<QString> Choisi(QFileDialog& dialogue, QString& dossier) {
+  Habiller(dialogue);
   if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return {};
   const QString fichier = dialogue.selectedFiles().constFirst();
   dossier = QFileInfo(fichier).absolutePath();
@@ -91,6 +130,7 @@ bool DialoguesQt::Demander(const QString& question, bool sansRetour) {
   boite.setDefaultButton(sansRetour ? non : oui);
   boite.setEscapeButton(non);
   boite.exec();
+  Effacer(boite);
   return boite.clickedButton() == oui;
 }
 
@@ -130,9 +170,17 @@ void DialoguesQt::Progression(int fait, int total, const QString& nom) { SurProg
 
 void DialoguesQt::TraiterEvenements() { QCoreApplication::processEvents(); }
 
+// Keys struck during a long work, when the window did not answer, were not meant for what comes after it.
 void DialoguesQt::CurseurAttente(bool actif) {
-  if (actif)
+  constexpr qint64 kLong = 2000;
+  if (actif) {
+    if (QApplication::overrideCursor() == nullptr) attente_.start();
     QApplication::setOverrideCursor(Qt::WaitCursor);
-  else
-    QApplication::restoreOverrideCursor();
+    return;
+  }
+  QApplication::restoreOverrideCursor();
+  if (QApplication::overrideCursor() != nullptr || !attente_.hasExpired(kLong)) return;
+  Sourd sourd;
+  QCoreApplication::instance()->installEventFilter(&sourd);
+  QCoreApplication::processEvents();
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QWidget>
 
@@ -30,6 +31,7 @@ class DialoguesQt : public IDialogues {
   bool Demander(const QString& question, bool sansRetour);
 
   QString dossier_;  // of the file chosen last
+  QElapsedTimer attente_;
 };
 
 /// The window above which a dialog opens; null for none.

@@ -21,7 +21,7 @@ class PageGuide : public QTextBrowser {
   QVariant loadResource(int genre, const QUrl& nom) override {
     if (genre != QTextDocument::ImageResource) return QTextBrowser::loadResource(genre, nom);
     const QImage image(QString(u":/guide/" % nom.toString()));
-    const int largeur = Theme::Px(kLargeur - 80);
+    const int largeur = Theme::Px(kLargeur - 160);  // the margins, a list's too, and the scroll bar
     return image.width() <= largeur ? image : image.scaledToWidth(largeur, Qt::SmoothTransformation);
   }
   static constexpr int kLargeur = 760;
