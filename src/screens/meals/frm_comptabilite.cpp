@@ -11,9 +11,9 @@ namespace {
 /// Names first, then numbers and amounts, as they are printed.
 std::vector<TColonneGrille> Colonnes() {
   using enum TGenre;
-  constexpr std::pair<int, TGenre> colonnes[] = {{200, Texte},   {140, Entier}, {100, Montant},
-                                                 {160, Montant}, {128, Entier}, {100, Montant},
-                                                 {148, Montant}, {112, Montant}};
+  constexpr std::pair<int, TGenre> colonnes[] = {{128, Texte},   {160, Entier}, {124, Montant},
+                                                 {180, Montant}, {148, Entier}, {124, Montant},
+                                                 {164, Montant}, {128, Montant}};
   std::vector<TColonneGrille> rendues;
   for (const QString& titre : ColonnesVentes()) {
     const auto& [largeur, genre] = colonnes[rendues.size()];

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "screens/meals/frm_comptabilite.h"
+#include "ui/commun/etat_vide.h"
 #include "ui/commun/saisie.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
@@ -22,16 +23,21 @@ VueComptabilite::VueComptabilite(TFrmComptabilite& form, QWidget* parent)
   periode->addWidget(fin_);
   periode->addStretch(1);
   auto* pages = new QTabWidget;
-  pages->addTab(new VueGrille(form.Versements, u"Versement sur le compte"_s, u"Compta/Versements"_s),
-                u"Versement sur le compte"_s);
-  pages->addTab(new VueGrille(form.Comptant, u"Paiement au comptant"_s, u"Compta/Comptant"_s),
-                u"Paiement au comptant"_s);
+  AjouterPage(*pages, form.Versements, u"Versement sur le compte"_s, u"Compta/Versements"_s);
+  AjouterPage(*pages, form.Comptant, u"Paiement au comptant"_s, u"Compta/Comptant"_s);
   QVBoxLayout* colonne = ColonneEcran(*this, u"Compta"_s);
   colonne->addLayout(periode);
   colonne->addWidget(pages, 1);
   for (SaisieDate* date : {debut_, fin_}) connect(date, &Saisie::Saisi, this, &VueComptabilite::Lire);
   lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
   Actualiser();
+}
+
+void VueComptabilite::AjouterPage(QTabWidget& pages, TGrille& grille, const QString& titre,
+                                  const QString& ecran) {
+  auto* vue = new VueGrille(grille, titre, ecran);
+  vides_.emplace_back(&grille, new EtatVide(vue));
+  pages.addTab(vue, titre);
 }
 
 // A date that cannot be read stays as it was typed, marked, and the lists stay too.
@@ -43,4 +49,10 @@ void VueComptabilite::Lire() {
 void VueComptabilite::Actualiser() {
   debut_->DefinirDate(form_.dtDebut);
   fin_->DefinirDate(form_.dtFin);
+  for (const auto& [grille, vide] : vides_) {
+    if (grille->NombreLignes() > 0)
+      vide->Cacher();
+    else
+      vide->Montrer(u"Aucune vente dans cette période"_s, u"Changez les dates pour voir d'autres ventes."_s);
+  }
 }

@@ -1,10 +1,15 @@
 #pragma once
 #include <QWidget>
+#include <utility>
+#include <vector>
 
 #include "forms/signal.h"
 
+class EtatVide;
+class QTabWidget;
 class SaisieDate;
 class TFrmComptabilite;
+class TGrille;
 
 /// "Compta": the tickets sold over a period, a page a way of paying.
 class VueComptabilite : public QWidget {
@@ -13,11 +18,13 @@ class VueComptabilite : public QWidget {
   VueComptabilite(TFrmComptabilite& form, QWidget* parent);
 
  private:
+  void AjouterPage(QTabWidget& pages, TGrille& grille, const QString& titre, const QString& ecran);
   void Lire();
   void Actualiser();
 
   TFrmComptabilite& form_;
   SaisieDate* debut_;
   SaisieDate* fin_;
+  std::vector<std::pair<const TGrille*, EtatVide*>> vides_;
   TLien lien_;
 };

@@ -104,6 +104,8 @@ QWidget* VueCompteEleve::CreerPanneau() {
   colonne->addWidget(ajouter_);
   colonne->addWidget(monnaie_ = CreerMonnaie());
   colonne->addStretch(1);
+  nom_->DefinirElision(true);  // the grid keeps its width whatever the name
+  place->setFixedWidth(std::max(Theme::Px(260), monnaie_->sizeHint().width()));
   return place;
 }
 

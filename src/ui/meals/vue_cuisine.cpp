@@ -7,6 +7,7 @@
 
 #include "screens/meals/frm_cuisine.h"
 #include "ui/commun/bouton.h"
+#include "ui/commun/etat_vide.h"
 #include "ui/commun/titres.h"
 #include "ui/meals/choix_classe_jour.h"
 
@@ -34,7 +35,8 @@ VueCuisine::VueCuisine(TFrmCuisine& form, QWidget* parent)
       choix_(new ChoixClasseJour(false)),
       incompletes_(new Etiquette({}, TRole::Alerte)),
       changements_(new Etiquette({}, TRole::Alerte, &Theme::Gras)),
-      arbre_(new QTreeWidget) {
+      arbre_(new QTreeWidget),
+      vide_(new EtatVide(arbre_)) {
   Disposer();
   connect(choix_, &ChoixClasseJour::Recule, this, [this] { form_.btnReculeDateClick(); });
   connect(choix_, &ChoixClasseJour::Avance, this, [this] { form_.btnAvanceDateClick(); });
@@ -73,6 +75,10 @@ void VueCuisine::RemplirArbre() {
     for (const auto& ligne : classe->Enfants()) new QTreeWidgetItem(noeud, {ligne->Texte});
   }
   arbre_->expandAll();
+  if (!form_.Arbre.Racines().empty())
+    vide_->Cacher();
+  else
+    vide_->Montrer(u"Aucune commande ce jour"_s, u"Les commandes s'encodent dans l'écran Réservation."_s);
 }
 
 void VueCuisine::Actualiser() {

@@ -5,6 +5,7 @@
 #include "forms/signal.h"
 
 class ChoixClasseJour;
+class EtatVide;
 class Etiquette;
 class QTreeWidget;
 class TFrmCuisine;
@@ -27,5 +28,6 @@ class VueCuisine : public QWidget {
   Etiquette* incompletes_;
   Etiquette* changements_;
   QTreeWidget* arbre_;
+  EtatVide* vide_;
   TLiens liens_;
 };

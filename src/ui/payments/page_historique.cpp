@@ -84,10 +84,9 @@ void PageHistorique::Disposer() {
   auto* pied = new QHBoxLayout;
   pied->setSpacing(Theme::Px(24));
   for (Etiquette*& total : totaux_) {
-    pied->addWidget(total = new Etiquette);
-    total->DefinirElision(true);
+    pied->addWidget(total = new Etiquette, 1);  // on a second line where the room is short
+    total->setWordWrap(true);
   }
-  pied->addStretch(1);
   pied->addWidget(attribuer_);
   auto* colonne = new QVBoxLayout(this);
   colonne->setContentsMargins(0, Theme::Px(12), 0, 0);

@@ -154,7 +154,7 @@ void VueAttributionVirement::reject() {
 
 void VueAttributionVirement::Actualiser() {
   for (std::size_t i = 0; i < mouvement_.size(); ++i)
-    mouvement_[i]->setText(std::invoke(kMouvement[i].Lire, form_));
+    mouvement_[i]->setText(TypographieMontant(std::invoke(kMouvement[i].Lire, form_)));
   if (nom_->text() != form_.SaisieEleve()) nom_->setText(form_.SaisieEleve());
   for (QWidget* champ :
        {static_cast<QWidget*>(nom_), static_cast<QWidget*>(eleves_), static_cast<QWidget*>(ajouter_)})
