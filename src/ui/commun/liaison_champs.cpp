@@ -82,6 +82,9 @@ const struct {
     {Nouveau<SaisieDate>, 116}, {Nouveau<SaisieHeure>, 64}, {NouveauChoix, 248}, {NouvelleCoche, 0},
     {NouveauTexteMontant, 88},  {NouveauSecret, 0}};
 
+/// A list takes its width before the room behind it, and gives way on a small screen.
+constexpr int kPartChoix = 100, kMoindreChoix = 112;
+
 int LargeurDe(const TChamp& champ) {
   if (champ.Largeur > 0) return champ.Largeur;
   return champ.Boutons ? 0 : kGenres[static_cast<std::size_t>(champ.Genre)].Largeur;
@@ -200,7 +203,7 @@ QLayout* LiaisonChamps::Rangee(const std::vector<TPart>& parts) {
   TLigneFaute faute{{}, new MarqueEtat};
   for (const TPart& part : parts) {
     AjouterAuRang(*rang, part, &part == parts.data());
-    etire = etire || part.Part > 0;
+    etire = etire || (part.Part > 0 && Widget(part.Champ)->maximumWidth() == QWIDGETSIZE_MAX);
     faute.Champs.push_back(part.Champ);
   }
   if (!etire) rang->addStretch(1);
@@ -335,11 +338,14 @@ QLayout* CreerFormulaire(LiaisonChamps& liaison) {
     do {
       const int largeur = LargeurDe(champs.Champ(champ));
       QWidget* widget = liaison.Widget(champ);
-      if (largeur > 0 && champs.Champ(champ).Suite && champs.Champ(champ).Genre == TGenreChamp::Choix)
-        widget->setFixedWidth(Theme::Px(160));
-      else if (largeur > 0)
+      const bool choix = largeur > 0 && champs.Champ(champ).Genre == TGenreChamp::Choix;
+      if (choix) {
+        widget->setMinimumWidth(Theme::Px(kMoindreChoix));
+        widget->setMaximumWidth(Theme::Px(champs.Champ(champ).Suite ? 160 : largeur));
+      } else if (largeur > 0) {
         widget->setFixedWidth(Theme::Px(largeur));
-      parts.push_back({champ, largeur > 0 ? 0 : 1});
+      }
+      parts.push_back({champ, choix ? kPartChoix : largeur > 0 ? 0 : 1});
     } while (++champ < champs.Nombre() && champs.Champ(champ).Suite);
     const int rang = grille->rowCount();
     if (premier.Genre != TGenreChamp::Coche && !premier.Libelle.isEmpty())

@@ -41,7 +41,8 @@ VueListe::VueListe(TFrmListe& form, QWidget* parent)
 TitreEcran* VueListe::CreerTitre() {
   auto* titre = new TitreEcran(form_.Textes().Titre);
   auto* filtre = new ChampFiltre;
-  filtre->setFixedWidth(Theme::Px(200));
+  filtre->setMinimumWidth(Theme::Px(120));  // a long title takes its room on a small screen
+  filtre->setMaximumWidth(Theme::Px(200));
   liste_->Filtrer(*filtre);
   QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
   copier->setToolTip(u"Copier toute la liste (Ctrl+Maj+C)"_s);
