@@ -20,12 +20,12 @@ std::vector<TEtatGrille> EtatsMouvement() {
 }
 
 std::vector<TColonneGrille> ColonnesMouvement() {
-  return {{u"Nom du donneur d'ordre"_s, 184},
-          {u"Date du virement"_s, 140, TGenre::Date},
+  return {{u"Nom du donneur d'ordre"_s, 160},
+          {u"Date du virement"_s, 96, TGenre::Date},
           {u"Montant"_s, 88, TGenre::Montant},
-          {u"Communication"_s, 204},
-          {u"N° de compte"_s, 176},
-          {u"Nom de l'élève"_s, 168},
+          {u"Communication"_s, 184},
+          {u"N° de compte"_s, 116},
+          {u"Nom de l'élève"_s, 188},
           {u"Classe"_s, 64}};
 }
 

@@ -126,6 +126,7 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
   });
   connect(header(), &QHeaderView::sectionResized, this, [this](int colonne, int, int largeur) {
     if (enCours_ || colonne == ColonneSouple()) return;
+    tracees_ = true;
     grille_.ChangerLargeur(colonne, static_cast<int>(std::lround(largeur * 96.0 / Theme::Px(96))));
     RetenirBientot();
   });

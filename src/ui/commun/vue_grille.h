@@ -79,6 +79,7 @@ class VueGrille : public QTreeView {
   void SuivreChoix();
   void RemettreGroupes();
   void PoserColonnes();
+  void Elargir(std::vector<TBesoinColonne>& besoins, int surplus) const;
   void RepartirPlusTard();
   void SuivreLargeurs(const VueGrille& autre);
   int LargeurContenu(int colonne) const;
@@ -99,6 +100,7 @@ class VueGrille : public QTreeView {
   ChampFiltre* champ_ = nullptr;
   QPointer<VueGrille> jumelle_;  ///< has the same widths
   int souple_ = -1;
+  bool tracees_ = false;    ///< the user has drawn a width
   bool enCours_ = true;     ///< the view itself moves the current row, the folds or the widths
   bool aRetenir_ = false;   ///< widths or order have changed since they were kept
   bool aRepartir_ = false;  ///< the widths are to be seen to

@@ -90,7 +90,12 @@ std::vector<TBesoinColonne> VueGrille::Besoins(int place) const {
     besoins.push_back({voulue, voulue});
     reste -= voulue;
   }
-  if (reste >= Theme::Px(kAssezPourUnNom)) return besoins;
+  if (reste >= Theme::Px(kAssezPourUnNom)) {
+    const int declare = std::clamp(grille_.Colonne(souple).Largeur, kMoindreNom, kAssezPourUnNom);
+    const int nom = std::clamp(LargeurContenu(souple), Theme::Px(kMoindreNom), Theme::Px(declare));
+    if (!tracees_) Elargir(besoins, reste - nom);
+    return besoins;
+  }
   for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
     TBesoinColonne& besoin = besoins[static_cast<std::size_t>(colonne)];
     const int contenu = LargeurContenu(colonne);
@@ -100,6 +105,26 @@ std::vector<TBesoinColonne> VueGrille::Besoins(int place) const {
       besoin.Moindre = std::min(besoin.Voulue, contenu);
   }
   return besoins;
+}
+
+/// Room that a name does not need goes to what is cut, cells before titles, and first to what lacks least;
+/// widths that the user drew stay.
+void VueGrille::Elargir(std::vector<TBesoinColonne>& besoins, int surplus) const {
+  for (const bool titres : {false, true}) {
+    std::vector<std::pair<int, std::size_t>> manques;
+    for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
+      const auto rang = static_cast<std::size_t>(colonne);
+      const int contenu = titres ? LargeurContenu(colonne) : sizeHintForColumn(colonne);
+      if (colonne != ColonneSouple() && contenu > besoins[rang].Voulue)
+        manques.emplace_back(contenu - besoins[rang].Voulue, rang);
+    }
+    std::ranges::sort(manques);
+    for (const auto& [manque, rang] : manques) {
+      const int plus = std::min(manque, std::max(surplus, 0));
+      besoins[rang] = {besoins[rang].Voulue + plus, besoins[rang].Moindre + plus};
+      surplus -= plus;
+    }
+  }
 }
 
 /// An amount that is cut is another amount, and a name that is cut may be somebody else's: where the room is
@@ -158,6 +183,7 @@ void VueGrille::Rappeler() {
     const int largeur = std::max(colonnes[rang][1].toInt(), 24);
     header()->moveSection(header()->visualIndex(colonne), rang);
     if (colonne == ColonneSouple()) continue;
+    tracees_ = tracees_ || largeur != grille_.Colonne(colonne).Largeur;
     grille_.ChangerLargeur(colonne, largeur);
     header()->resizeSection(colonne, Theme::Px(largeur));
   }
