@@ -4,6 +4,7 @@
 #include <QMap>
 #include <QRegularExpression>
 
+#include "app/sortie_documents.h"
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "documents/periode.h"
@@ -43,6 +44,7 @@ bool TSession::Connecter(bool creer) const {
   if (nouveau && !creer)
     throw Exception(
         u"Aucune école ne se trouve à cet endroit, et rien n'y a été créé : « %1 »."_s.arg(fichier));
+  VerifierFichiers(*this);
   Base.Connecter();
   if (nouveau) Dialogues.Information(u"La base de données « %1 » est créée."_s.arg(fichier));
   return nouveau;
@@ -70,11 +72,7 @@ QString TSession::UneSeule(const QStringList& noms) const {
 
 TDateTime TSession::Date(const QString& option) const { return StrToDate(Option(option)); }
 
-TPeriode TSession::LirePeriode() const {
-  const TPeriode periode{Date(u"du"_s), Date(u"au"_s)};
-  if (const QString faute = FautePeriode(periode); !faute.isEmpty()) throw Exception(faute);
-  return periode;
-}
+TPeriode TSession::LirePeriode() const { return {Date(u"du"_s), Date(u"au"_s)}; }
 
 int TSession::Mois() const {
   const int mois = StrToInt(Option(u"mois"_s));

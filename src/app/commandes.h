@@ -29,7 +29,7 @@ struct TSession {
   QString UneSeule(const QStringList& noms) const;
   /// A date that is written dd/mm/yyyy. Raises Exception when it is missing, EConvertError when it is none.
   TDateTime Date(const QString& option) const;
-  /// --du and --au. Raises Exception when they are not in order.
+  /// --du and --au, as they stand.
   TPeriode LirePeriode() const;
   /// The month of --mois, 1 to 12; raises Exception.
   int Mois() const;

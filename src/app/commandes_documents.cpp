@@ -38,7 +38,6 @@ int Document(TSession& session) {
   TChoixDocument choix;
   const TTitreDocument* document = TrouverTitre(titre);
   if (document == nullptr) throw Exception(u"Il n'y a pas de document « %1 »."_s.arg(titre));
-  VerifierFichiers(session);
   session.Ouvrir();
   if (document->AvecEleves) Choisir(session, choix);
   const TPeriode periode =

@@ -8,6 +8,7 @@
 #include "core/formats.h"
 #include "core/mois.h"
 #include "documents/accueil_extrascolaire.h"
+#include "documents/periode.h"
 #include "documents/statistiques.h"
 #include "pupils/eleves.h"
 #include "workflows/attestations.h"
@@ -33,7 +34,6 @@ int Sortir(TSession& session, const QString& titre, TFaire faire) {
 
 int Accueil(TSession& session) {
   const int mois = session.Mois();
-  VerifierFichiers(session);
   session.Ouvrir();
   return SortirDocument(session, u"Accueil extrascolaire"_s, AccueilExtraScolaire(Contexte(session), mois));
 }
@@ -62,7 +62,6 @@ void Exporter(TSession& session, const std::vector<TMontantEleve>& lignes,
 
 int ListeImpayes(TSession& session) {
   const TCriteresImpayes criteres = Criteres(session);
-  VerifierFichiers(session);
   session.Ouvrir();
   const std::vector<TMontantEleve> lignes = Impayes(*Globals.Eleves, criteres);
   TCsv csv(u"eleve_id;nom;prenom;classe;montant"_s.split(u';'));
@@ -78,7 +77,6 @@ int ListeImpayes(TSession& session) {
 }
 
 int ListePositives(TSession& session) {
-  VerifierFichiers(session);
   session.Ouvrir();
   const bool frais = session.A(u"frais"_s), services = session.A(u"services"_s);
   const std::vector<TMontantEleve> lignes = BalancesPositives(*Globals.Eleves, frais, services);
@@ -95,9 +93,15 @@ int ListePositives(TSession& session) {
   });
 }
 
+/// The lists of a period back to front are empty.
+void DireFaute(TSession& session, const TPeriode& periode) {
+  if (const QString faute = FautePeriode(periode); !faute.isEmpty()) session.Dialogues.Message(faute);
+}
+
 int Passages(TSession& session) {
   const TPeriode periode = session.LirePeriode();
   session.Ouvrir();
+  DireFaute(session, periode);
   TCsv csv(u"eleve_id;date;type;entree;sortie"_s.split(u';'));
   for (const TEleve* eleve : ElevesPresents(*Globals.Eleves, periode))
     for (const TPresence* p : Globals.Presences->PresencesEleve(eleve->Id, periode))
@@ -107,7 +111,6 @@ int Passages(TSession& session) {
 }
 
 int Annuel(TSession& session) {
-  VerifierFichiers(session);
   session.Ouvrir();
   const TReleveAnnuel releve = ReleveAnnuel();
   TCsv csv(u"rubrique;valeur"_s.split(u';'));
@@ -124,7 +127,6 @@ int Annuel(TSession& session) {
 
 int Paiements(TSession& session) {
   const QString libelle = session.Option(u"groupe"_s);
-  VerifierFichiers(session);
   session.Ouvrir();
   TGroupeFrais* groupe = nullptr;
   for (TGroupeFrais& g : *Globals.GroupesFrais)
@@ -142,8 +144,8 @@ int Paiements(TSession& session) {
 
 int Fiscales(TSession& session) {
   const TPeriode periode = session.LirePeriode();
-  VerifierFichiers(session);
   session.Ouvrir();
+  DireFaute(session, periode);
   const std::vector<TLigneFiscale> lignes = StatistiquesFiscales(*Globals.Eleves, periode);
   TCsv csv(u"eleve_id;nom;prenom;classe;du;paye"_s.split(u';'));
   for (const auto& [eleve, du, paye] : lignes)
@@ -169,7 +171,6 @@ std::vector<TLigneFrais> Coches(const TSession& session, const std::vector<TLign
 }
 
 int Frais(TSession& session) {
-  VerifierFichiers(session);
   session.Ouvrir();
   const std::vector<TLigneFrais> lignes = StatistiqueFrais(*Globals.ListeFrais);
   const std::vector<TLigneFrais> coches = Coches(session, lignes);

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QMap>
+#include <filesystem>
 
 #include "core/exceptions.h"
 #include "core/fichiers.h"
@@ -56,20 +57,28 @@ bool MettreEnPdf(TSession& session, const QString& titre, const TResultat& resul
   return true;
 }
 
+/// Where what is written under that name lands, through links; "" for no name.
+QString CheminReel(const QString& nom) {
+  std::error_code faute;
+  const std::filesystem::path chemin =
+      std::filesystem::weakly_canonical(QFileInfo(nom).absoluteFilePath().toStdString(), faute);
+  return nom.isEmpty() ? QString() : QString::fromStdString(chemin.string());
+}
+
 }  // namespace
 
 void VerifierFichiers(const TSession& session) {
-  QMap<QString, QString> options;  // by the path of their file
-  for (const QString& option : {u"serveur"_s, u"pdf"_s, u"json"_s, u"export"_s}) {
-    const QFileInfo fichier(session.Options.value(option));
-    if (!session.A(option) || (fichier.exists() && !fichier.isFile())) continue;
-    const QString dossier = QFileInfo(fichier.absolutePath()).canonicalFilePath();
-    const QString chemin =
-        fichier.exists() ? fichier.canonicalFilePath() : QString(dossier % u'/' % fichier.fileName());
-    if (options.contains(chemin))
-      throw Exception(
-          u"Donnez deux fichiers différents à --%1 et à --%2."_s.arg(options.value(chemin), option));
-    options.insert(chemin, option);
+  QMap<QString, QString> options{{CheminReel(session.Base.FichierLocal()), {}}};  // by the path of their file
+  for (const QString& option : {u"pdf"_s, u"json"_s, u"export"_s}) {
+    if (!session.A(option)) continue;
+    const QString chemin = CheminReel(session.Options.value(option));
+    const auto autre = options.constFind(chemin);
+    if (autre == options.constEnd())
+      options.insert(chemin, option);
+    else if (autre->isEmpty())
+      throw Exception(u"--%1 nomme le fichier de la base de données."_s.arg(option));
+    else
+      throw Exception(u"Donnez deux fichiers différents à --%1 et à --%2."_s.arg(*autre, option));
   }
 }
 

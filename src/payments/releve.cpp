@@ -29,8 +29,8 @@ TReleveLu LireReleve(const QByteArray& octets, TDispositionReleve disposition) {
   TReleveLu releve =
       disposition == TDispositionReleve::C ? LireLignesEtiquetees(octets) : LireTableau(octets, disposition);
   for (TMouvement& mouvement : releve.Mouvements) {
-    mouvement.Communication =
-        CommunicationNormalisee(mouvement.Communication);  // it may be cut after that only
+    // What is normalised may fit; a file that is not taken is shown as it came.
+    if (!releve.Faute) mouvement.Communication = CommunicationNormalisee(mouvement.Communication);
     Tronquer(mouvement);
   }
   return releve;

@@ -120,9 +120,10 @@ TEST_F(TLotEssai, Documents) {
       {Mots(u"document Rien --tous"_s), 1, {}, u"pas de document « Rien »"_s},
       {tous + QStringList{u"--pdf"_s, Chemin("./document.json")}, 1, {}, u"deux fichiers différents"_s},
       {Mots(u"statistiques positives --json x --export x"_s), 1, {}, u"deux fichiers différents"_s},
-      {Mots(u"accueil --mois 10 --pdf"_s) + Serveur().last(1), 1, {}, u"à --serveur et à --pdf"_s},
-      {Mots(u"statistiques passages --du 02/10/2016 --au 01/10/2016"_s), 1, {}, u"après la seconde"_s},
-      {Mots(u"document Facture --du 2/10/2016 --au 1/10/2016 --tous"_s), 1, {}, u"après la seconde"_s},
+      {Mots(u"accueil --mois 10 --pdf"_s) + Serveur().last(1), 1, {}, u"base de données"_s},
+      {Mots(u"statistiques passages --du 02/10/2016 --au 01/10/2016"_s), 0,
+       u"eleve_id;date;type;entree;sortie\n"_s, u"après la seconde"_s},
+      {Mots(u"document Facture --du 2/10/2016 --au 1/10/2016 --tous"_s), 0, {}, u"Aucune facture"_s},
       {Mots(u"--annee 2015 transferer positifs"_s), 1, {}, u"Rien n'a été transféré."_s},
   });
   EXPECT_FALSE(QFile::exists(Chemin("document.json"))) << "a refusal writes nothing";

@@ -73,7 +73,6 @@ TFrmMain::TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge&
   liens_ += Panneau.SurEtape.Suivre([this](TForm& form, TEtapeForm etape) {
     if (etape == TEtapeForm::Affichee) {
       accueilDevant_ = false;
-      OublierRefus();
       ecran_ = form.SurCommandes.Suivre([this] { SurOutils(); });
     }
     SurEtape(form, etape);
@@ -154,7 +153,15 @@ bool TFrmMain::FormCloseQuery() {
 }
 
 // A screen with something unsaved asks, once; also one that stands behind another.
-bool TFrmMain::EcranAccepte() { return Panneau.AccepteDeFermer(); }
+bool TFrmMain::EcranAccepte() {
+  if (Panneau.AccepteDeFermer()) return true;
+  if (const TCommandePrincipale* ouverte = CommandeOuverte()) {  // it may have come to the front
+    page_ = ouverte->Page;
+    outils_ = ouverte->Outils.value_or(outils_);
+  }
+  Annoncer();
+  return false;
+}
 
 // Bar.
 
@@ -225,6 +232,7 @@ void TFrmMain::Executer(TGestionnaire gestionnaire) {
     if (Contexte.Dialogues().Confirmer(u"Souhaitez-vous quitter Calpenne ?"_s)) Terminer();
     return;
   }
+  OublierRefus();  // what leaving the field says now stays
   QuitterChamp();
   const TEcran& ecran = *commande.Ecran;
   TForm* form = Panneau.Ouvrir(

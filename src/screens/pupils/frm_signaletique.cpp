@@ -115,9 +115,7 @@ void TFrmSignaletique::PrendreEleve() {
 
 /// The record of that pupil, with the hand in that field.
 void TFrmSignaletique::AllerAuChamp(TEleve& eleve, const QString& champ) {
-  Globals.EleveCourant = &eleve;
-  Globals.ClasseCourante = eleve.Classe;
-  contexte_.Principal.Envoyer({TCodeMessage::EleveChange, {}});
+  PrendreEnMain(eleve);
   if (champs_.Objet() != &eleve) PrendreEleve();  // one who does not stand in the tree
   if (const int indice = champs_.Indice(champ); indice >= 0) champs_.SurFoyer(indice);
 }
@@ -127,10 +125,21 @@ QString TFrmSignaletique::EnSuspens() const {
   return champs_.Modifies() ? QString(u"modification non enregistrée de " % nomComplet_) : QString();
 }
 
+// Behind another screen the pupil in hand may have become another one than the one who comes back with it.
 bool TFrmSignaletique::FormCloseQuery() {
-  return !champs_.Modifies() ||
-         contexte_.Dialogues().ConfirmerGrave(
-             u"Ce que vous avez introduit n'est pas enregistré. Voulez-vous l'abandonner ?"_s);
+  if (!champs_.Modifies() ||
+      contexte_.Dialogues().ConfirmerGrave(
+          u"Ce que vous avez introduit n'est pas enregistré. Voulez-vous l'abandonner ?"_s))
+    return true;
+  if (TEleve* eleve = champs_.Objet(); eleve != nullptr && eleve != Globals.EleveCourant)
+    PrendreEnMain(*eleve);
+  return false;
+}
+
+void TFrmSignaletique::PrendreEnMain(TEleve& eleve) {
+  Globals.EleveCourant = &eleve;
+  Globals.ClasseCourante = eleve.Classe;
+  contexte_.Principal.Envoyer({TCodeMessage::EleveChange, {}});
 }
 
 void TFrmSignaletique::LireFiche(TEleve& eleve) {

@@ -119,6 +119,7 @@ class TFrmSignaletique : public TForm {
  private:
   void PrendreEleve();
   void AllerAuChamp(TEleve& eleve, const QString& champ);
+  void PrendreEnMain(TEleve& eleve);
   void LireFiche(TEleve& eleve);
   void LireActivites(const TEleve& eleve);
   TTableChamps<TEleve> Table();

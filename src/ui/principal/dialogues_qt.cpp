@@ -66,6 +66,9 @@ class Sourd : public QObject {
       case QEvent::MouseButtonRelease:
       case QEvent::MouseButtonDblClick:
         return true;
+      case QEvent::Close:  // the work is not quite over: what it stands on must not go
+        evenement->ignore();
+        return true;
       default:
         return false;
     }
