@@ -211,7 +211,9 @@ TEST_F(TSignaletique, CeQuiEstRefuseNeSePerdPasEnSilence) {
   EXPECT_FALSE(fiche.LaisserChamp());
   const QString question = u"Ce que vous avez introduit n'est pas enregistré. Voulez-vous l'abandonner ?"_s;
   base.Dialogues.Repond(question, false).Repond(question, true);
+  Globals.EleveCourant = nullptr;  // as when another screen stood in front
   EXPECT_FALSE(fiche.AccepteDeFermer());
+  EXPECT_EQ(Globals.EleveCourant, fiche.Champs().Objet());
   EXPECT_TRUE(fiche.AccepteDeFermer());
 }
 
