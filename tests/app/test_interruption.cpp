@@ -2,6 +2,7 @@
 // stored is lost, and the same command brings it to the same end.
 #include <QDeadlineTimer>
 #include <QFileInfo>
+#include <algorithm>
 #include <filesystem>
 #include <random>
 
@@ -24,12 +25,13 @@ bool Commence(const QStringList& lignes, const QStringList& debut) {
   return debut.size() <= lignes.size() && std::equal(debut.begin(), debut.end(), lignes.begin());
 }
 
-/// Points of a run at which to kill it, spread over its length.
+/// Points of a run at which to kill it, spread over its length. A fast machine shows fewer changes than points.
 std::vector<int> Moments(int changements, int nombre) {
   std::mt19937 hasard(2016);
   std::vector<int> moments;
   for (int i = 0; i < nombre; ++i) {
-    std::uniform_int_distribution<int> tirage(1 + changements * i / nombre, changements * (i + 1) / nombre);
+    const int debut = 1 + changements * i / nombre;
+    std::uniform_int_distribution<int> tirage(debut, std::max(debut, changements * (i + 1) / nombre));
     moments.push_back(tirage(hasard));
   }
   return moments;
