@@ -61,14 +61,13 @@ void TDetailPaiementsLiquides::DefineQuery() {
 }
 
 TRepasPaiements::TRepasPaiements(TDataModule1& base, const TPeriode& periode)
-    : TCollection(base), periode_(periode), details_(base) {
-  Charger();
+    : TCollection(base), details_(base) {
+  Lire({periode.Premier - kJoursAutour, periode.Dernier + kJoursAutour});
 }
 
 void TRepasPaiements::DefineQuery() {
-  SelectSql = u"SELECT * FROM REPAS_PAIEMENT WHERE DATE_PAIEMENT >=" %
-              FormatDateSql(periode_.Premier - kJoursAutour) % u" AND DATE_PAIEMENT <=" %
-              FormatDateSql(periode_.Dernier + kJoursAutour) % u" ORDER BY REPAS_PAIEMENT_ID + 0";
+  SelectSql = u"SELECT * FROM REPAS_PAIEMENT WHERE DATE_PAIEMENT >=" % FormatDateSql(periode_.Premier) %
+              u" AND DATE_PAIEMENT <=" % FormatDateSql(periode_.Dernier) % u" ORDER BY REPAS_PAIEMENT_ID + 0";
   TableName = u"REPAS_PAIEMENT"_s;
   KeyField = "REPAS_PAIEMENT_ID";
   CounterName = u"REPAS_PAIEMENT"_s;
@@ -85,7 +84,25 @@ void TRepasPaiements::Desindexer(TRepasPaiement& p) {
   parEleve_.Oublier(p);
 }
 
-TRepasPaiement* TRepasPaiements::PaiementDu(int eleve, TDateTime jour, TPaiementRepas type) const {
+void TRepasPaiements::Lire(const TPeriode& periode) {
+  periode_ = periode;
+  Charger();
+  lues_.push_back(periode);
+}
+
+// Cash is of the day of the clock, whichever year is shown.
+void TRepasPaiements::LireJour(TDateTime jour) {
+  const auto contient = [jour](const TPeriode& p) { return p.Premier <= jour && jour <= p.Dernier; };
+  if (std::ranges::none_of(lues_, contient)) Lire({jour, jour});
+}
+
+Currency TRepasPaiements::RecuLe(int eleve, TDateTime jour) {
+  LireJour(jour);
+  return Recu(eleve, {jour, jour});
+}
+
+TRepasPaiement* TRepasPaiements::PaiementDu(int eleve, TDateTime jour, TPaiementRepas type) {
+  LireJour(jour);
   for (TRepasPaiement* paiement : parEleveJour_.Tous(CleEleveJour(eleve, jour)))
     if (paiement->TypePaiement == type) return paiement;
   return nullptr;
@@ -99,7 +116,7 @@ Currency TRepasPaiements::Recu(int eleve, const TPeriode& periode) const {
   return recu;
 }
 
-bool TRepasPaiements::EstDepasse(int eleve, TDateTime jour) const {
+bool TRepasPaiements::EstDepasse(int eleve, TDateTime jour) {
   TCurseur ligne(
       Base(),
       u"SELECT P.REPAS_PAIEMENT_ID PAIEMENT, P.MONTANT, D.* FROM REPAS_PAIEMENT P LEFT JOIN "

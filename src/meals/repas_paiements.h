@@ -44,22 +44,25 @@ class TDetailPaiementsLiquides : public TCollection<TDetailPaiementLiquide> {
   TIndex<int, TDetailPaiementLiquide> parPaiement_;
 };
 
-/// The payments to the meal accounts around a period, 500 days more on each side, and their cash details.
+/// The payments to the meal accounts around a period, 500 days more on each side, and their cash details. A
+/// day outside is read when it is asked for.
 class TRepasPaiements : public TCollection<TRepasPaiement> {
  public:
   TRepasPaiements(TDataModule1& base, const TPeriode& periode);
 
-  /// The pupil's first payment of that day and kind, or null.
-  TRepasPaiement* PaiementDu(int eleve, TDateTime jour, TPaiementRepas type) const;
-  /// The sum of the pupil's payments of a period, of whatever kind.
+  /// The pupil's first payment of that day and kind, or null. Raises EDistributor.
+  TRepasPaiement* PaiementDu(int eleve, TDateTime jour, TPaiementRepas type);
+  /// The sum of the pupil's payments of a period, of whatever kind, as far as they are read.
   Currency Recu(int eleve, const TPeriode& periode) const;
+  /// The same of a day, whichever it is. Raises EDistributor.
+  Currency RecuLe(int eleve, TDateTime jour);
   /// The cash detail of a payment, or null.
   TDetailPaiementLiquide* Detail(const TRepasPaiement& paiement) const {
     return details_.DuPaiement(paiement.Id);
   }
   /// Another workstation has counted cash for the pupil on that day since the payments were read. Raises
   /// Exception.
-  bool EstDepasse(int eleve, TDateTime jour) const;
+  bool EstDepasse(int eleve, TDateTime jour);
   /// Cash counted for a pupil on a day: it takes the place of what was counted before on that day.
   /// Saves; raises EDistributor.
   void Encaisser(int eleve, TDateTime jour, const TComptage& comptage);
@@ -70,7 +73,11 @@ class TRepasPaiements : public TCollection<TRepasPaiement> {
   void Desindexer(TRepasPaiement& p) override;
 
  private:
-  TPeriode periode_;
+  void Lire(const TPeriode& periode);
+  void LireJour(TDateTime jour);
+
+  TPeriode periode_;  // what Charger reads
+  std::vector<TPeriode> lues_;
   TDetailPaiementsLiquides details_;
   TIndex<TEleveJour, TRepasPaiement> parEleveJour_;
   TIndex<int, TRepasPaiement> parEleve_;

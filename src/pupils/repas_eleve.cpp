@@ -145,7 +145,7 @@ Currency TEleve::SoldeRepas() const {
 
 Currency TEleve::RecuLe(TDateTime jour) const {
   Base();
-  return Eleves->RepasPaiements().Recu(Id, {jour, jour});
+  return Eleves->RepasPaiements().RecuLe(Id, jour);
 }
 
 void TEleve::EncaisserRepas(TDateTime jour, const TComptage& comptage) {

@@ -205,6 +205,12 @@ TEST_F(TReservationEssai, CashIsNotCountedOverTheCountOfAnother) {
   EXPECT_EQ(caisse(), "5.0000 5.0000 0");
   Eleve(2).EncaisserRepas(jour, TComptage{1});
   EXPECT_EQ(caisse(), "100.0000 0.0000 0");
+  for (const int pieces : {1, 2}) {  // outside what is read, by two runs of the program
+    essai.Charger();
+    Eleve(2).EncaisserRepas(jour + 1000, TComptage{0, 0, 0, 0, 0, pieces});
+  }
+  EXPECT_EQ(Euros(Eleve(2).RecuLe(jour + 1000)), "4.0000");
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM REPAS_PAIEMENT WHERE DATE_PAIEMENT > '2018-01-01'"_s), u"1");
 }
 
 TEST_F(TReservationEssai, OrdersAreTakenOverFromAnotherDay) {
