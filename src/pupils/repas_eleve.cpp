@@ -5,6 +5,7 @@
 #include "meals/commandes.h"
 #include "meals/repas_paiements.h"
 #include "pupils/eleves.h"
+#include "pupils/reserver.h"
 #include "services/frais_eleve.h"
 
 using namespace Qt::StringLiterals;
@@ -14,11 +15,12 @@ namespace {
 /// The meal account counts from the year before to the year after.
 TPeriode PeriodeSolde(int annee) { return {EncodeDate(annee - 1, 9, 1), EncodeDate(annee + 2, 6, 30)}; }
 
-/// What is written stands together or not at all; false from it leaves everything as it was. Raises
-/// EDistributor.
-bool Ensemble(TDataModule1& base, const std::function<bool()>& ecrire) {
+/// What is written for the pupil stands together or not at all, and nobody else writes in between; false from
+/// it leaves everything as it was. Raises EDistributor.
+bool Ensemble(const TEleve& eleve, const std::function<bool()>& ecrire) {
   try {
-    TTransactionCommune ensemble(base);
+    TTransactionCommune ensemble(eleve.Eleves->BaseDeDonnees());
+    Reserver(eleve);
     if (!ecrire()) return false;
     ensemble.Valider();
     return true;
@@ -78,9 +80,12 @@ void TEleve::EcrireTickets(const std::function<void(TTickets&)>& changement) {
 }
 
 void TEleve::ModifierTickets(const std::function<void(TTickets&)>& changement) {
-  RefuserTicketsChanges();
+  Base();
   try {
-    Ensemble(Base(), [&] { return EcrireTickets(changement), true; });
+    Ensemble(*this, [&] {
+      RefuserTicketsChanges();
+      return EcrireTickets(changement), true;
+    });
   } catch (const EDistributor&) {
     ClearTickets();
     throw;
@@ -119,7 +124,7 @@ bool TEleve::SetCommande(TDateTime date, Currency valeurTicket,
   changement(*commande);
   commandes.Add(*commande);
   try {
-    return Ensemble(Base(), [&] { return EcrireCommande(*commande, valeurTicket); });
+    return Ensemble(*this, [&] { return EcrireCommande(*commande, valeurTicket); });
   } catch (const EDistributor&) {
     Eleves->LibererCommandes();
     throw;
@@ -149,10 +154,10 @@ Currency TEleve::RecuLe(TDateTime jour) const {
 }
 
 void TEleve::EncaisserRepas(TDateTime jour, const TComptage& comptage) {
-  TDataModule1& base = Base();
+  Base();
   TRepasPaiements& paiements = Eleves->RepasPaiements();
   try {
-    Ensemble(base, [&] {
+    Ensemble(*this, [&] {
       if (paiements.EstDepasse(Id, jour))
         throw EDistributor(
             u"Un autre poste a changé le paiement du jour pour %1 : il est relu, et rien n'a été "
@@ -236,12 +241,17 @@ void TEleves::LireSoldesTickets(const std::vector<TEleve*>& eleves) const {
 }
 
 void TEleves::DeplacerTicket(int ancienEleveId, int nouvelEleveId, int ticketId) {
-  if (const TEleve* eleve = TrouverParId(ancienEleveId)) eleve->RefuserTicketsChanges();
+  TTransactionCommune ensemble(BaseDeDonnees());
+  if (const TEleve* eleve = TrouverParId(ancienEleveId)) {
+    Reserver(*eleve);
+    eleve->RefuserTicketsChanges();
+  }
   const int deplaces =
       TQueryInternal(BaseDeDonnees(), u"UPDATE TICKET SET ELEVE_ID = " % QString::number(nouvelEleveId) %
                                           u" where ELEVE_ID=" % QString::number(ancienEleveId) %
                                           u" AND TICKET_ID=" % QString::number(ticketId))
           .Executer();
+  ensemble.Valider();
   for (const int id : {ancienEleveId, nouvelEleveId})
     if (const TEleve* eleve = TrouverParId(id)) eleve->ClearTickets();
   if (deplaces == 0)

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "core/mois.h"
-#include "core/query_internal.h"
 #include "core/transaction_commune.h"
 #include "payments/paiements.h"
 #include "pupils/eleves.h"
+#include "pupils/reserver.h"
 #include "workflows/memoriser.h"
 
 using namespace Qt::StringLiterals;
@@ -33,13 +33,6 @@ TFraisEleve& AjouterLigne(TAllFraisEleve& lignes, Currency montant, int mois, co
 QString TexteChange(const TEleve& eleve) {
   return u"Les paiements de %1 ont été changés par un autre poste : relisez les données (F5)."_s.arg(
       eleve.NomComplet());
-}
-
-/// Whoever carries the same pupil at the same time waits here until this one is stored, and is then refused.
-void Reserver(TDataModule1& base, const TEleve& eleve) {
-  TQueryInternal(base, u"UPDATE ELEVES SET ELEVE_ID = ELEVE_ID WHERE ELEVE_ID = :eleve"_s)
-      .Parametre(u"eleve"_s, eleve.Id)
-      .Executer();
 }
 
 bool MemeLigne(const TFraisEleve& a, const TFraisEleve& b) {
@@ -96,9 +89,8 @@ class TDeuxLignes {
 
 /// What a pupil paid is looked at again when nobody else can carry it any more.
 void Reporter(const TEleve& depart, const TEleve& arrivee, Currency solde, const QString& mot) {
-  TDataModule1& base = depart.Eleves->BaseDeDonnees();
-  TTransactionCommune ensemble(base);
-  Reserver(base, depart);
+  TTransactionCommune ensemble(depart.Eleves->BaseDeDonnees());
+  Reserver(depart);
   if (!EstAJour(depart)) throw Exception(TexteChange(depart));
   TDeuxLignes(depart, arrivee, solde, mot).Ranger(ensemble);
 }

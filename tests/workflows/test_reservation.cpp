@@ -1,7 +1,13 @@
+#include <future>
+#include <thread>
+
 #include "core/exceptions.h"
+#include "core/query_internal.h"
+#include "core/transaction_commune.h"
 #include "meals/caisse.h"
 #include "meals/commandes.h"
 #include "meals/generation_repas.h"
+#include "pupils/reserver.h"
 #include "support/controleur_essai.h"
 #include "workflows/jour_cuisine.h"
 #include "workflows/reservation.h"
@@ -174,7 +180,9 @@ TEST_F(TReservationEssai, TicketsAreSoldAndDeletedAsTheyWereShown) {
     const QStringList avant = base.Rangees(u"SELECT * FROM TICKET"_s);
     EXPECT_THROW(geste(), EDistributor);
     EXPECT_EQ(base.Rangees(u"SELECT * FROM TICKET"_s), avant);
-    EXPECT_EQ(Eleve(2).SoldeTickets(), -1) << "read again";
+    EXPECT_EQ(Euros(Eleve(2).GetTickets().Liste()[0]->Valeur),
+              base.Valeur(u"SELECT VALEUR FROM TICKET"_s).toStdString())
+        << "read again";
   }
   EXPECT_NO_THROW(gestes[0]());
   // An order takes a ticket that was sold meanwhile, and never the one that was used meanwhile.
@@ -211,6 +219,38 @@ TEST_F(TReservationEssai, CashIsNotCountedOverTheCountOfAnother) {
   }
   EXPECT_EQ(Euros(Eleve(2).RecuLe(jour + 1000)), "4.0000");
   EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM REPAS_PAIEMENT WHERE DATE_PAIEMENT > '2018-01-01'"_s), u"1");
+}
+
+TEST_F(TReservationEssai, WhatIsBeingStoredElsewhereIsWaitedForAndSeen) {
+  essai.Charger();
+  const TDateTime jour = EncodeDate(2016, 10, 3);
+  TDataModule1 poste(base.Dialogues, base.Reglages);
+  poste.ServerName = base.FichierDeDonnees();
+  poste.Connecter();
+  const TEleves ailleurs(poste, 2016);
+  Eleve(2).GetTickets();
+  Eleve(2).RecuLe(jour);
+  const std::pair<const char*, std::function<void()>> gestes[] = {
+      {"INSERT INTO TICKET (TICKET_ID, ELEVE_ID, VALEUR) VALUES (77, 2, 2)",
+       [&] { Eleve(2).AcheterTickets(1, TPaiementTicket::Comptant, {}, jour); }},
+      {"INSERT INTO REPAS_PAIEMENT (REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT) "
+       "VALUES (77, 2, 5, 0, '2016-10-03')",
+       [&] { Eleve(2).EncaisserRepas(jour, TComptage{1}); }}};
+  for (const auto& [sql, geste] : gestes) {
+    TTransactionCommune autre(poste);
+    Reserver(*ailleurs.TrouverParId(2));
+    TQueryInternal(poste, QString::fromLatin1(sql)).Executer();
+    const auto fin = std::async(std::launch::async, [&] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(200));
+      autre.Valider();
+    });
+    try {
+      geste();
+      ADD_FAILURE() << "not seen: " << sql;
+    } catch (const EDistributor& e) {
+      EXPECT_TRUE(e.Message.startsWith(u"Un autre poste a changé"_s)) << e.Message.toStdString();
+    }
+  }
 }
 
 TEST_F(TReservationEssai, OrdersAreTakenOverFromAnotherDay) {
