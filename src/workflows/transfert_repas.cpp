@@ -49,8 +49,9 @@ class TCopie {
     }
   }
 
-  /// Pictures that have not been copied stay in their file as they are. The pupils come last: where they are,
-  /// the rest is there too, wherever the tablet is killed.
+  /// Pictures that have not been copied stay in their file as they are. The pupils come last: with the first
+  /// copy, where they are, the rest is there too. A later one that is cut short before them leaves the new
+  /// classes with the pupils of before; who came in meanwhile has no name until the next transfer.
   void Enregistrer(const TFichiersTablette& fichiers, bool avecPhotos) const {
     std::vector<std::pair<QString, QByteArray>> tous{{fichiers.Classes, classes_.EnOctets()}};
     if (avecPhotos) tous.emplace_back(fichiers.Photos, photos_.EnOctets());
