@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/curseur.h"
 #include "core/mois.h"
 #include "core/transaction_commune.h"
 #include "payments/paiements.h"
@@ -51,6 +52,20 @@ bool EstAJour(const TEleve& eleve) {
   return lignes.Count() == table.Count();
 }
 
+/// The services that the pupil has paid are those that the table holds now; with provisions they are no part
+/// of the balance.
+bool ServicesAJour(const TEleve& eleve) {
+  const TEleves& eleves = *eleve.Eleves;
+  if (eleves.Regles != nullptr && eleves.Regles->ModeProvision) return true;
+  TCurseur ligne(
+      eleves.BaseDeDonnees(),
+      u"SELECT MONTANT FROM PAIEMENTS WHERE ELEVE_ID = ? AND ANNEE_SCOLAIRE = ? AND TYPE_PAIEMENT = ?"_s,
+      {eleve.Id, eleves.AnneeScolaire, kPaiementServices});
+  Currency total;
+  while (ligne.Suivant()) total += ligne.Montant("MONTANT");
+  return total == eleve.PaiementsAnnee();
+}
+
 /// The two lines of a pupil: the balance arrives in one year and leaves the other. They go again unless they
 /// are stored.
 class TDeuxLignes {
@@ -91,7 +106,7 @@ class TDeuxLignes {
 void Reporter(const TEleve& depart, const TEleve& arrivee, Currency solde, const QString& mot) {
   TTransactionCommune ensemble(depart.Eleves->BaseDeDonnees());
   Reserver(depart);
-  if (!EstAJour(depart)) throw Exception(TexteChange(depart));
+  if (!EstAJour(depart) || !ServicesAJour(depart)) throw Exception(TexteChange(depart));
   TDeuxLignes(depart, arrivee, solde, mot).Ranger(ensemble);
 }
 
@@ -121,7 +136,6 @@ QString QuestionTransfert(TSensTransfert sens, const QString& deQui, int anneeTr
 void TransfererSoldes(const TEleves& eleves, int anneeTravail, const std::vector<TEleve*>& lesquels,
                       TSensTransfert sens, const std::function<void(const TMontantEleve&)>& reporte) {
   const TEleves travail(eleves.BaseDeDonnees(), anneeTravail);
-  const TPaiements paiements(eleves.BaseDeDonnees(), eleves.AnneeScolaire);
   const bool positifs = sens == TSensTransfert::Positifs;
   eleves.LireFrais(lesquels);
   for (const TEleve* ligne : lesquels) {
@@ -130,7 +144,6 @@ void TransfererSoldes(const TEleves& eleves, int anneeTravail, const std::vector
     const bool concerne = positifs ? solde > Currency() : solde < Currency();
     const TEleve* arrivee = concerne ? travail.TrouverParId(eleve->Id) : nullptr;
     if (arrivee == nullptr) continue;
-    if (eleve->PaiementsAnnee() != paiements.TotalPaiements(eleve->Id)) throw Exception(TexteChange(*eleve));
     Reporter(*eleve, *arrivee, solde, positifs ? kTransfert : kReport);
     reporte({eleve, solde});
   }

@@ -89,10 +89,10 @@ TEST_F(TStatistiquesEssai, LesSoldesPassentUneFois) {
   for (const int id : {anne.Id, leo.Id}) TEleveEssai(suivante, id).enClasse(u"P4"_s, u"A"_s);
   ecole.parametre(27, u"2017"_s);
   controleur.Charger(2016);
-  const std::vector<TEleve*> tous = Globals.Eleves->Tous();
   const auto transferer = [&](TSensTransfert sens) {
     std::vector<TMontantEleve> reportes;
-    TransfererSoldes(*Globals.Eleves, 2017, tous, sens, [&](const auto& un) { reportes.push_back(un); });
+    TransfererSoldes(*Globals.Eleves, 2017, Globals.Eleves->Tous(), sens,
+                     [&](const auto& un) { reportes.push_back(un); });
     return Montants(reportes);
   };
   EXPECT_EQ(RefusTransfert(*Globals.Eleves, 2017), QString());
@@ -121,6 +121,14 @@ TEST_F(TStatistiquesEssai, LesSoldesPassentUneFois) {
             "3;2016;-;1;6;14;Report vers l'année scolaire 2017-2018"_s);
   controleur.Charger(2017);
   EXPECT_EQ(Montants(BalancesPositives(*Globals.Eleves, true, true)), u"ADAM 12,3456"_s);
+  ecole.parametre(25, u"1"_s);
+  TEleveEssai(suivante, 2).enClasse(u"P4"_s, u"A"_s);
+  Globals = {};
+  controleur.Charger(2016);
+  base.Sql(
+      u"INSERT INTO PAIEMENTS (PAIEMENT_ID, ELEVE_ID, TYPE_PAIEMENT, MOIS, MONTANT, ANNEE_SCOLAIRE) "
+      "VALUES (99, 2, 7, 9, 1, 2016)"_s);
+  EXPECT_TRUE(transferer(TSensTransfert::Positifs).endsWith(u" 5"_s)) << "services are no part of it";
 }
 
 TEST_F(TStatistiquesEssai, LesRapports) {
