@@ -71,6 +71,7 @@ bool TFrmAjoutTicket::Controler() {
   if (!EstNombreTickets(Saisi.Nombre)) return Champs().Refuser(u"edNombre"_s, RefusNombreTickets());
   if (const QString refus = RefusPrixTicket(Saisi.Prix); !refus.isEmpty())
     return Champs().Refuser(u"edPrix"_s, refus);
+  Enregistrer();
   return true;
 }
 

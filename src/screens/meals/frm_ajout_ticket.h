@@ -13,7 +13,8 @@ struct TSaisieTicket {
   int Paiement = 0;  ///< index of "Virement", "Comptant"; -1 for neither
 };
 
-/// "Ajouter des tickets": a sale, or one meal that was eaten without a ticket.
+/// "Ajouter des tickets": a sale, or one meal that was eaten without a ticket. It is stored before the dialog
+/// closes: what cannot be stays there, as it was entered.
 class TFrmAjoutTicket : public TFrmDialogueDe<TSaisieTicket> {
  public:
   TFrmAjoutTicket(TContexteEcran& contexte, TEleve& eleve, Currency prix);
@@ -24,14 +25,13 @@ class TFrmAjoutTicket : public TFrmDialogueDe<TSaisieTicket> {
   QString LibelleDate() const;
   /// What the sale settles: "2 tickets manquants seront réglés."; "" when it settles none.
   QString Annonce() const;
-  /// What was entered goes into the pupil's tickets. Raises EDistributor.
-  void Enregistrer();
 
  protected:
   bool Controler() override;
 
  private:
   void cbTicketManquantClick();
+  void Enregistrer();
 
   TEleve& eleve_;
   const TChamps& champs_;

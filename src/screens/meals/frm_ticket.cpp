@@ -147,10 +147,9 @@ void TFrmTicket::btnEtape1Click() {
   if (!ExigeEleve()) return;
   TEleve& eleve = *Courant();
   TFrmAjoutTicket ajout(contexte_, eleve, PrixSection(eleve.Categorie()));
-  if (contexte_.Modale.MontrerModal(ajout) != TResultatModal::Valide) return;
-  Changer(eleve, [&] {
-    ajout.Enregistrer();
-    contexte_.Principal.Etat(TNiveauEtat::Succes, u"Enregistré pour " % eleve.NomComplet());
+  Changer(eleve, [&] {  // also when it was given up: a sale that failed had the tickets read again
+    if (contexte_.Modale.MontrerModal(ajout) == TResultatModal::Valide)
+      contexte_.Principal.Etat(TNiveauEtat::Succes, u"Enregistré pour " % eleve.NomComplet());
   });
 }
 

@@ -68,7 +68,7 @@ TEST_F(VuesRepas, TicketsAreSoldIntoTheRedAndSettled) {
   EXPECT_EQ(eleves()[0], "ALVES Rui|-2|en négatif");
   EXPECT_TRUE(Montre("1 élève(s) en négatif"));
 
-  Programme.Dialogues.Fait("Ajouter des tickets à ALVES Rui", [](QWidget& fenetre) {
+  Programme.Dialogues.Fait("Ajouter des tickets à ALVES Rui", [this](QWidget& fenetre) {
     EXPECT_EQ(Champ(fenetre, "edPrix").text(), "2,60");
     for (const char* nombre : {"0", "-1", "abc", "1000000000", ""}) {
       Taper(fenetre, "edNombre", "x");  // what stood there leaves
@@ -84,6 +84,10 @@ TEST_F(VuesRepas, TicketsAreSoldIntoTheRedAndSettled) {
     EXPECT_TRUE(fenetre.isVisible());
     Taper(fenetre, "edPrix", "2,5");
     QTest::mouseClick(BoutonDe(fenetre, "Comptant"), Qt::LeftButton, {}, {8, 8});
+    Base.Sql("UPDATE TICKET SET VALEUR = VALEUR + 1");
+    Programme.Dialogues.Attend("Un autre poste a changé les tickets de ALVES Rui");
+    ::Cliquer(fenetre, "Valider");
+    EXPECT_TRUE(fenetre.isVisible() && Champ(fenetre, "edNombre").text() == "5") << "what was typed stays";
     ::Cliquer(fenetre, "Valider");
   });
   Cliquer("Ajouter des tickets");
