@@ -1,6 +1,7 @@
 #include "screens/meals/frm_compte_eleve.h"
 
 #include "core/conversions.h"
+#include "core/exceptions.h"
 #include "core/formats.h"
 #include "documents/caisse_repas.h"
 #include "pupils/eleves.h"
@@ -62,14 +63,16 @@ QString TFrmCompteEleve::TexteSolde(const TEleve& eleve) const {
   return paye ? solde % u"  (+" % FormatDeuxDecimales(eleve.RecuLe(Aujourdhui())) % u')' : solde;
 }
 
+// What cannot be read leaves the list as it was.
 void TFrmCompteEleve::Remplir() {
   TEleve* courant = Courant();
+  std::vector<std::pair<TEleve*, QString>> soldes;
+  if (const TClasse* classe = Classe())
+    for (TEleve* eleve : classe->ListeEleves) soldes.emplace_back(eleve, TexteSolde(*eleve));
   {
     const TGrille::TLot lot(Grille);
     Grille.Vider();
-    if (const TClasse* classe = Classe())
-      for (TEleve* eleve : classe->ListeEleves)
-        Grille.Ajouter({eleve->NomComplet(), TexteSolde(*eleve)}, eleve);
+    for (const auto& [eleve, solde] : soldes) Grille.Ajouter({eleve->NomComplet(), solde}, eleve);
     const int ligne = courant != nullptr ? Grille.TrouverObjet(courant) : -1;
     Grille.ChoisirLigne(ligne >= 0 ? ligne : qMin(0, Grille.NombreLignes() - 1));
   }
@@ -127,7 +130,10 @@ void TFrmCompteEleve::btnValiderClick() {
   try {
     eleve->EncaisserRepas(Aujourdhui(), Comptage());
   } catch (...) {  // what was counted stays, beside what is stored
-    Remplir();
+    try {
+      Remplir();
+    } catch (const Exception&) {  // the first failure is the one to tell
+    }
     throw;
   }
   contexte_.Principal.Etat(TNiveauEtat::Succes,

@@ -250,11 +250,16 @@ TEST_F(VuesRepas, CashIsCountedCorrectedAndCancelled) {
   Cliquer("Valider");
   EXPECT_EQ(Lignes(comptes)[0], "ALVES Rui|7,00 €  (+7,00)");
   EXPECT_EQ(Nomme<QLineEdit>("Nombre : 1 euro").text(), "1") << "what was counted stays";
-  Touche(Qt::Key_Escape);
+  Globals.Eleves->BaseDeDonnees().Deconnecter();
+  Programme.Dialogues.Attend("La connexion à la base de données n'est pas ouverte.");
+  Cliquer("Valider");
+  Globals.Eleves->BaseDeDonnees().Connecter();
+  Cliquer("Valider");
+  EXPECT_EQ(Lignes(comptes)[0], "ALVES Rui|7,50 €  (+7,50)") << "also when nothing can be read";
 
   Programme.Horloge.Moment += 1.0;
   ChoisirClasse(2);
-  EXPECT_EQ(Lignes(comptes)[0], "ALVES Rui|7,00 €");
+  EXPECT_EQ(Lignes(comptes)[0], "ALVES Rui|7,50 €");
 }
 
 TEST_F(VuesRepas, ATeacherOrdersForToday) {
