@@ -70,20 +70,20 @@ void TFrmSignaletique::EnregistrerEleve(const TChamp& champ) {
 }
 
 void TFrmSignaletique::SauverEleve(TEleve& eleve) {
-  annulation_ = {};
   Globals.Eleves->AddEleve(eleve);
   Globals.Eleves->Save();
   const std::vector<TEleve*> disparus = Globals.Eleves->RangeesDisparues();  // others may be waiting there
   if (std::ranges::find(disparus, &eleve) != disparus.end())
     throw Exception(u"Cet élève n'existe plus : un autre poste l'a supprimé."_s);
+  annulation_ = {};
 }
 
 bool TFrmSignaletique::Enregistrer(TDistributor& collection, const std::function<bool()>& disparue,
                                    const QString& fait) {
   try {
-    annulation_ = {};
     collection.Save();
     if (disparue()) throw Exception(u"Cette ligne n'existe plus : un autre poste l'a supprimée."_s);
+    annulation_ = {};
     contexte_.Principal.Etat(TNiveauEtat::Succes, QString(fait % u" : enregistré pour " % nomComplet_));
     return true;
   } catch (const Exception& e) {
