@@ -22,8 +22,24 @@ namespace {
 /// What a shared file answers on the system of the office.
 const QString kViolationDePartage = u"32"_s;
 
-/// The workstation's setting that holds the print of a file from the beginning of its step 2 to the end.
+/// The workstation's setting that holds the prints of the files whose step 2 has begun and has not ended.
 const QString kVirementsEnCours = u"VirementsEnCours"_s;
+/// The oldest ones go: there is a file that nobody takes up again.
+constexpr qsizetype kFichiersEnCours = 10;
+
+QStringList LireEnCours(const TReglagesPoste& reglages) {
+  return reglages.Lire(TRacine::Utilisateur, kVirementsEnCours).split(u' ', Qt::SkipEmptyParts);
+}
+
+/// Only this file's own print comes or goes; none when no file has been read.
+void MarquerEnCours(TReglagesPoste& reglages, const QString& empreinte, bool enCours) {
+  if (empreinte.isEmpty()) return;
+  QStringList fichiers = LireEnCours(reglages);
+  fichiers.removeAll(empreinte);
+  if (enCours) fichiers += empreinte;
+  reglages.Ecrire(TRacine::Utilisateur, kVirementsEnCours,
+                  fichiers.last(std::min(fichiers.size(), kFichiersEnCours)).join(u' '));
+}
 
 std::unique_ptr<TExtrait> EnExtrait(const TMouvement& lu) {
   auto extrait = std::make_unique<TExtrait>();
@@ -91,6 +107,7 @@ void TImportVirements::Vider() {
   rangees_.clear();
   faute_.reset();
   statut_.clear();
+  empreinte_.clear();
   entetes_.clear();
   parSonCompte_ = false;
 }
@@ -211,14 +228,14 @@ void TImportVirements::Situer(TRangeeVirement& rangee) {
 // statement counts as taken after that, so that it can be read again for the rest without a question.
 void TImportVirements::Etape2() {
   TReglagesPoste& reglages = controleur_.Reglages();
-  reprise_ = reglages.Lire(TRacine::Utilisateur, kVirementsEnCours) == empreinte_;
-  reglages.Ecrire(TRacine::Utilisateur, kVirementsEnCours, empreinte_);
+  reprise_ = LireEnCours(reglages).contains(empreinte_);
+  MarquerEnCours(reglages, empreinte_, true);
   try {
     TProgression progression(controleur_.Dialogues(), static_cast<int>(2 * rangees_.size()));
     Memoriser(progression);
     Crediter(progression);
     if (!entetes_.empty()) TRelevesConnus(controleur_.Base()).Retenir(entetes_);
-    reglages.Ecrire(TRacine::Utilisateur, kVirementsEnCours, {});
+    MarquerEnCours(reglages, empreinte_, false);
   } catch (...) {
     Resituer();
     throw;

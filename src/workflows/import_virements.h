@@ -98,7 +98,7 @@ class TImportVirements {
   std::vector<TRangeeVirement> rangees_;
   std::optional<TFauteReleve> faute_;
   QString statut_;
-  QString empreinte_;                   // of the file's octets
+  QString empreinte_;                   // of the file's octets; "" when none has been read
   bool reprise_ = false;                // step 2 of this file was cut off before
   std::unordered_set<int> passes_;      // the movements that step 2 has been through
   std::vector<TEnteteReleve> entetes_;  // of the statements in the file

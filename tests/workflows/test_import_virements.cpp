@@ -131,6 +131,28 @@ TEST_F(TImportVirementsEssai, TwinsAreTwoPayments) {
   EXPECT_EQ(Credits(), QStringList{u"1;1;10;2;10.0000"_s});
 }
 
+// A step 2 that was cut off between two twins goes on, whatever is done meanwhile.
+TEST_F(TImportVirementsEssai, AfterACutTheSecondTwinHasItsPupilToo) {
+  const TVersement a{u"+++000/0110/16104+++"_s}, jumeau = a;
+  base_.Sql(
+      u"CREATE TRIGGER REFUS FOR FRAIS_ELEVE BEFORE INSERT AS BEGIN IF (NEW.EXTRAIT_ID = 2) THEN "
+      "NEW.ELEVE_ID = NULL; END"_s);
+  essai_.Charger();
+  TImportVirements import(essai_.Controleur);
+  ASSERT_TRUE(import.Etape1(Fichier({a, jumeau})));
+  EXPECT_THROW(import.Etape2(), Exception);
+  import.Vider();
+  import.Etape2();
+  base_.Sql(u"DROP TRIGGER REFUS"_s);
+  Importer({TVersement{u"merci"_s}});
+  EXPECT_EQ(Credits().size(), 1);
+  Importer({a, jumeau});
+  EXPECT_EQ(Credits(), (QStringList{u"1;1;10;2;10.0000"_s, u"1;2;10;2;10.0000"_s}));
+  base_.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
+  Importer({a, jumeau});
+  EXPECT_EQ(Credits().size(), 1) << "it has come to its end: both are the first one";
+}
+
 TEST_F(TImportVirementsEssai, AMovementBelongsToOnePupil) {
   const TVersement a{u"+++000/0110/16104+++"_s};
   Importer({a});
