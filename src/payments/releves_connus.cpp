@@ -142,9 +142,9 @@ std::vector<TEmpreinteReleve> TRelevesConnus::Empreintes() const {
   return empreintes;
 }
 
-void TProches::Ajouter(const TExtraits& extraits, const std::unordered_set<const TExtrait*>& sauf) {
+void TProches::Ajouter(const TExtraits& extraits, const std::unordered_set<int>& sauf) {
   for (const TExtrait& extrait : extraits)
-    if (!sauf.contains(&extrait)) communications_[CleProche(extrait)] += extrait.Communication;
+    if (!sauf.contains(extrait.Id)) communications_[CleProche(extrait)] += extrait.Communication;
 }
 
 bool TProches::Contient(const TExtrait& extrait) const {

@@ -42,8 +42,8 @@ class TRelevesConnus : public TCollection<TReleveConnu> {
 /// stand there; but two right communications that differ are two payments.
 class TProches {
  public:
-  /// The movements that stay outside, where they are.
-  void Ajouter(const TExtraits& extraits, const std::unordered_set<const TExtrait*>& sauf);
+  /// Without the movements of those keys.
+  void Ajouter(const TExtraits& extraits, const std::unordered_set<int>& sauf);
   bool Contient(const TExtrait& extrait) const;
 
  private:

@@ -184,8 +184,13 @@ void TImportVirements::Reconnaitre(TRangeeVirement& rangee) {
 // stored movement that a row is throughout is that row and no other one.
 void TImportVirements::ReconnaitreProches() {
   const auto connus = LireConnus(controleur_.Base());
-  std::unordered_set<const TExtrait*> reconnus;
-  for (const TRangeeVirement& rangee : rangees_) reconnus.insert(rangee.Extrait);
+  TExtraits& extraits = controleur_.Extraits();
+  std::unordered_set<int> reconnus;
+  for (const TRangeeVirement& rangee : rangees_)
+    if (rangee.Extrait != nullptr)
+      reconnus.insert(rangee.Extrait->Id);
+    else if (rangee.Etat == TEtatMouvement::AnneePrecedente)
+      reconnus.insert(extraits.IdentiqueAnneePrecedente(*EnExtrait(rangee.Lu))->Id);
   std::optional<TProches> proches;
   for (TRangeeVirement& rangee : rangees_) {
     if (rangee.Etat != TEtatMouvement::Nouveau ||
@@ -193,7 +198,7 @@ void TImportVirements::ReconnaitreProches() {
       continue;
     if (!proches) {
       proches.emplace();
-      proches->Ajouter(controleur_.Extraits(), reconnus);
+      proches->Ajouter(extraits, reconnus);
       proches->Ajouter(controleur_.ExtraitsPrecedents(), reconnus);
     }
     if (proches->Contient(*EnExtrait(rangee.Lu))) rangee.Etat = TEtatMouvement::DejaImporte;

@@ -71,6 +71,7 @@ TEST(Releve, TablesAreReadByPosition) {
     for (const auto& [date, montant] : {std::pair(u"2016-10-05"_s, u"1"_s),
                                         {u"05/10/2016"_s, u"1.250,00"_s},
                                         {u"31/06/2017"_s, u"1"_s},
+                                        {u"30/12/1899"_s, u"1"_s},
                                         {u"05/10/2016"_s, QString()}}) {
       const QStringList lus = lire(rangee(u"05/10/2016"_s, u"1"_s) + rangee(date, montant) + u"x\n");
       ASSERT_EQ(lus.size(), 2) << montant.toStdString();

@@ -229,6 +229,10 @@ TEST(Camt, WhatAnEntrySays) {
        u"0510|1|||+++001/2310/16185+++"_s},
       {Ecriture(u"1"_s, u"CRDT"_s, Remise(reference.arg(u"x"_s, u"001231016186"_s))),
        u"0510|1|||001231016186"_s},
+      {Ecriture(u"1"_s, u"CRDT"_s,
+                Remise(u"<Strd><CdtrRefInf><Ref>RF18</Ref></CdtrRefInf></Strd>"_s +
+                       reference.arg(u"BBA"_s, u"001231016186"_s))),
+       u"0510|1|||+++001/2310/16186+++"_s},
       {Ecriture(u"1"_s, u"CRDT"_s, Details(Detail(u"<AddtlTxInf>t</AddtlTxInf>"_s))), u"0510|1|||t"_s},
   };
   for (const auto& [ecriture, lu] : cas)

@@ -310,18 +310,38 @@ TEST_F(FrmVirement, TheTwoStepsOfAFile) {
   EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
 }
 
+// One more of the same day, account and amount is near none that the file has throughout, and two right
+// communications are two payments.
 TEST_F(FrmVirement, WhatIsPerhapsImportedIsStoredWhenTicked) {
   Base.Mouvement(u"A"_s, 15);
   Ouvrir();
-  Base.Dialogues.Saisit(
-      u"Importer vos virements"_s,
-      Base.Fichier(
-          u"releve.xml"_s,
-          "<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.08'><BkToCstmrStmt><Stmt>"
-          "<Id>1</Id><Ntry><Amt Ccy='EUR'>12.5</Amt><CdtDbtInd>CRDT</CdtDbtInd><ValDt>"
-          "<Dt>2016-10-15</Dt></ValDt><NtryDtls><TxDtls><RltdPties><DbtrAcct><Id><IBAN>BE68</IBAN>"
-          "</Id></DbtrAcct></RltdPties></TxDtls></NtryDtls></Ntry></Stmt></BkToCstmrStmt></Document>"));
-  Form->btnEtape1Click();
+  const auto ecriture = [](const QString& communication, const QString& donneur = {}) {
+    return QString(
+        u"<Ntry><Amt Ccy='EUR'>12.5</Amt><CdtDbtInd>CRDT</CdtDbtInd><ValDt><Dt>2016-10-15</Dt></ValDt>"
+        "<NtryDtls><TxDtls><RltdPties><Dbtr><Nm>" %
+        donneur %
+        u"</Nm></Dbtr><DbtrAcct><Id><IBAN>BE68</IBAN>"
+        "</Id></DbtrAcct></RltdPties><RmtInf><Ustrd>" %
+        communication % u"</Ustrd></RmtInf></TxDtls></NtryDtls></Ntry>");
+  };
+  const auto etape1 = [&](const QString& ecritures) {
+    const QString document =
+        u"<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.08'><BkToCstmrStmt><Stmt><Id>1</Id>" %
+        ecritures % u"</Stmt></BkToCstmrStmt></Document>";
+    Base.Dialogues.Saisit(u"Importer vos virements"_s, Base.Fichier(u"releve.xml"_s, document.toUtf8()));
+    Form->btnEtape1Click();
+    QStringList etats;
+    for (int i = 0; i < Form->Apercu.NombreLignes(); ++i) etats += Form->Apercu.Textes(i).last();
+    return etats.join(u'|');
+  };
+  for (const int annee : {2015, 2016}) {
+    Base.Sql(u"UPDATE EXTRAITS SET COMMUNICATION = '+++000/0110/16166+++', ANNEE_SCOLAIRE = %1"_s.arg(annee));
+    Ouvrir();
+    EXPECT_EQ(etape1(ecriture(u"000011016166"_s, u"A"_s) + ecriture({})),
+              (annee == 2015 ? u"Année précédente" : u"Inconnu") % u"|Nouveau"_s);
+    EXPECT_EQ(etape1(ecriture(u"000021016260"_s) + ecriture({})), u"Nouveau|Peut-être déjà importé");
+  }
+  etape1(ecriture({}));
   EXPECT_EQ(Form->Apercu.Textes(0).last(), u"Peut-être déjà importé");
   EXPECT_TRUE(Form->NoteApercu().startsWith(u"1 mouvement est peut-être déjà importé"));
   EXPECT_EQ(Form->EnSuspens(), QString());
