@@ -48,8 +48,7 @@ std::vector<QSet<QString>> Adultes(const TEleve& eleve) {
 }  // namespace
 
 TPropositions::TPropositions(TEleves& eleves) : eleves_(eleves) {
-  std::vector<TEleve*> tous;
-  for (TEleve& eleve : eleves_) tous.push_back(&eleve);
+  const std::vector<TEleve*> tous = ElevesUneFois(eleves_);
   eleves_.LireFrais(tous);
   for (TEleve* eleve : tous)
     connus_.push_back({eleve, Compte(eleve->NumCompte), Adultes(*eleve), SoldeDu(*eleve)});

@@ -77,6 +77,13 @@ class TLignesParts {
 
 }  // namespace
 
+std::vector<TEleve*> ElevesUneFois(TEleves& eleves) {
+  std::vector<TEleve*> uneFois;
+  for (TEleve& eleve : eleves)
+    if (eleves.TrouverParId(eleve.Id) == &eleve) uneFois.push_back(&eleve);
+  return uneFois;
+}
+
 Currency SoldeDu(const TEleve& eleve) {
   const Currency du = -eleve.Solde(true, true);
   return std::max(Currency(), Currency::Brut((du.EnBrut() + kCent / 2) / kCent * kCent));

@@ -13,6 +13,9 @@ struct TPartVirement {
   int GroupeFraisId = 0;  ///< 0 for none
 };
 
+/// The pupils, each once: one who is enrolled twice has one ledger, and is the first of the two.
+std::vector<TEleve*> ElevesUneFois(TEleves& eleves);
+
 /// What the pupil owes for the year, fees and services, in whole cents; 0 when nothing.
 Currency SoldeDu(const TEleve& eleve);
 

@@ -146,7 +146,9 @@ TEST_F(TRepartitionEssai, QuiAPuPayerEtPourquoi) {
       u"UPDATE ELEVES SET NOM_RESPONSABLE = 'Dupont', PRENOM_RESPONSABLE = 'Marie' WHERE ELEVE_ID = 1"_s);
   base_.Sql(
       u"UPDATE ELEVES SET NOM_RESPONSABLE = 'Dupont', PRENOM_RESPONSABLE = 'Paul' WHERE ELEVE_ID = 3"_s);
-  EXPECT_EQ(Propositions(Charger()), u"2 compte de l'élève|1 nom d'un adulte => 2");
+  TEleveEssai(ecole_, 2).enClasse(u"P2"_s, u"B"_s);
+  EXPECT_EQ(Propositions(Charger()), u"2 compte de l'élève|1 nom d'un adulte => 2") << "enrolled twice, once";
+  EXPECT_EQ(ElevesUneFois(*Globals.Eleves).size(), 3U);
   Mouvement(8, u"21"_s, u"BE68539007547034"_s, u"X"_s);
   TEleveEssai(ecole_, 3).paie(u"1"_s, 0, 0, {});
   base_.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 8, FLG_PART = 1 WHERE ELEVE_ID = 3"_s);

@@ -8,6 +8,7 @@
 #include "screens/payments/frm_repartition.h"
 #include "screens/payments/frm_virement.h"
 #include "workflows/credit_extraits.h"
+#include "workflows/repartition.h"
 
 using namespace Qt::StringLiterals;
 
@@ -69,9 +70,9 @@ void TFrmAttributionVirement::FormClose() { Globals.Eleves->ChargerExtraits = tr
 
 void TFrmAttributionVirement::LireEleves() {
   eleves_.clear();
-  for (TEleve& eleve : *Globals.Eleves) {
-    const QString nom = eleve.Nom % u' ' % eleve.Prenom;
-    eleves_.push_back({&eleve, nom, Simplifier(nom)});
+  for (TEleve* eleve : ElevesUneFois(*Globals.Eleves)) {
+    const QString nom = eleve->Nom % u' ' % eleve->Prenom;
+    eleves_.push_back({eleve, nom, Simplifier(nom)});
   }
   std::ranges::stable_sort(
       eleves_, [](const TCandidat& a, const TCandidat& b) { return ComparerTextes(a.Nom, b.Nom) < 0; });

@@ -71,8 +71,8 @@ void TFrmRepartition::RemplirEleves() {
     return std::ranges::find(parts_, eleve, &TPartVirement::Eleve) == parts_.end();
   };
   std::vector<TEleve*> autres;
-  for (TEleve& eleve : *Globals.Eleves)
-    if (sansPart(&eleve) && Raison(eleve).isEmpty()) autres.push_back(&eleve);
+  for (TEleve* eleve : ElevesUneFois(*Globals.Eleves))
+    if (sansPart(eleve) && Raison(*eleve).isEmpty()) autres.push_back(eleve);
   std::ranges::stable_sort(autres, [](const TEleve* a, const TEleve* b) { return ComparerNoms(*a, *b) < 0; });
   const TGrille::TLot lot(Eleves);
   Eleves.Vider();
