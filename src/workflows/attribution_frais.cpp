@@ -1,7 +1,12 @@
 #include "workflows/attribution_frais.h"
 
+#include <algorithm>
+
+#include "core/curseur.h"
 #include "core/exceptions.h"
 #include "core/query_internal.h"
+#include "workflows/credit_extraits.h"
+#include "workflows/repartition.h"
 
 using namespace Qt::StringLiterals;
 
@@ -57,6 +62,36 @@ class TTravail {
   TProgression progression_;
   int fait_ = 0;
 };
+
+/// A payment has come or gone with its line: its movement and its group are counted again.
+void RelirePaiement(int extraitId, int groupeFraisId) {
+  if (extraitId > 0) Globals.Eleves->ChargerExtraits = true;
+  RelireGroupes(groupeFraisId);
+}
+
+void OterPaiement(TFraisEleve& ligne) {
+  ligne.MontantVerse = Currency();
+  ligne.DateVersement = 0.0;
+  ligne.ExtraitId = ligne.GroupeFraisId = 0;
+  ligne.FlgPart = false;
+}
+
+/// The row of a line that is not in memory.
+void RetirerRangee(TDataModule1& base, int eleveId, int frais) {
+  int extrait = 0, groupe = 0;
+  TCurseur ligne(
+      base, u"SELECT EXTRAIT_ID, GROUPE_FRAIS_ID FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = ? AND ELEVE_ID = ?"_s,
+      {frais, eleveId});
+  while (ligne.Suivant()) {
+    extrait = std::max(extrait, ligne.Entier("EXTRAIT_ID"));
+    groupe = std::max(groupe, ligne.Entier("GROUPE_FRAIS_ID"));
+  }
+  TQueryInternal(base, u"DELETE FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = :frais AND ELEVE_ID = :eleve"_s)
+      .Parametre(u"frais"_s, frais)
+      .Parametre(u"eleve"_s, eleveId)
+      .Executer();
+  RelirePaiement(extrait, groupe);
+}
 
 const QString kAjout = u"Ajout du frais à : "_s;
 const QString kSuppression = u"Suppresion du frais chez : "_s;
@@ -155,10 +190,18 @@ TAttributionFrais::TLignesRetirees TAttributionFrais::RetirerATous(TFrais& frais
 void TAttributionFrais::Rendre(TFrais& frais, const TLignesRetirees& lignes) {
   const TRelecture relecture(frais);
   TTravail travail(controleur_.Dialogues(), lignes.size());
+  QStringList refus;
   for (const TLigneRetiree& ligne : lignes) {
     travail.Suivant(kAjout, ligne.EleveId);
-    Donner(ligne.EleveId, CopieDe(*ligne.Ligne), frais.Id);
+    auto copie = CopieDe(*ligne.Ligne);
+    if (const QString raison = RefusMouvement(*copie, copie->MontantVerse); !raison.isEmpty()) {
+      refus += NomDe(ligne.EleveId) % u" : " % raison;
+      OterPaiement(*copie);
+    }
+    Donner(ligne.EleveId, std::move(copie), frais.Id);
   }
+  if (!refus.isEmpty())
+    controleur_.Dialogues().Message(u"Le frais est rendu sans son paiement à :\n" % refus.join(u'\n'));
 }
 
 // Nobody in the table owes it at this moment, so a line that memory still has lost its row to another
@@ -168,10 +211,9 @@ void TAttributionFrais::Donner(int eleveId, std::unique_ptr<TFraisEleve> neuve, 
   TAllFraisEleve& lignes = *eleve.GetAllFrais();
   if (TFraisEleve* perdue = lignes.LigneFrais(frais)) lignes.Forget(*perdue);
   neuve->ListeFraisId = frais;
-  if (neuve->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is taken
   TFraisEleve& ligne = lignes.Add(std::move(neuve));
   Sauver(lignes);
-  if (ligne.Id != -1) return;
+  if (ligne.Id != -1) return RelirePaiement(ligne.ExtraitId, ligne.GroupeFraisId);
   lignes.Forget(ligne);  // no key could be had, which the user has been told
   throw Exception(u"Le frais n'a pas pu être donné à "_s % eleve.NomComplet() % u'.');
 }
@@ -183,15 +225,11 @@ std::optional<TAttributionFrais::TLigneRetiree> TAttributionFrais::Retirer(int e
   TAllFraisEleve* lignes = eleve != nullptr ? eleve->GetAllFrais() : nullptr;
   if (TFraisEleve* ligne = lignes != nullptr ? lignes->LigneFrais(frais) : nullptr) {
     TLigneRetiree retiree{eleveId, CopieDe(*ligne)};
-    if (ligne->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is free again
     lignes->Remove(*ligne);
     Sauver(*lignes);
+    RelirePaiement(retiree.Ligne->ExtraitId, retiree.Ligne->GroupeFraisId);
     return retiree;
   }
-  TQueryInternal(controleur_.Base(),
-                 u"DELETE FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = :frais AND ELEVE_ID = :eleve"_s)
-      .Parametre(u"frais"_s, frais)
-      .Parametre(u"eleve"_s, eleveId)
-      .Executer();
+  RetirerRangee(controleur_.Base(), eleveId, frais);
   return std::nullopt;
 }

@@ -44,7 +44,8 @@ class TAttributionFrais {
   using TLignesRetirees = std::vector<TLigneRetiree>;
   /// Takes the fee from all who owe it. Raises Exception as `Enregistrer`.
   TLignesRetirees RetirerATous(TFrais& frais);
-  /// Gives those lines back, under a fee that nobody owes. Raises Exception as `Enregistrer`.
+  /// Gives those lines back, under a fee that nobody owes; without its payment, and says so, where the
+  /// movement of the bank is another's by now. Raises Exception as `Enregistrer`.
   void Rendre(TFrais& frais, const TLignesRetirees& lignes);
 
  private:

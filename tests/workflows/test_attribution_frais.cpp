@@ -102,8 +102,19 @@ TEST_F(TAttribution, RefusedHalfWayItGoesOnFromThere) {
 TEST_F(TAttribution, TakenFromAllAndGivenBack) {
   const int absent = ecole_.unEleve().Id;  // enrolled nowhere
   TEleveEssai(ecole_, absent).doit(frais_);
+  Base_.Sql("UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 8 WHERE ELEVE_ID = " + QString::number(absent));
+  Eleve(1).GetAllFrais()->LigneFrais(frais_)->GroupeFraisId = 3;
   Frais().InvalideElevesFrais();
+  Globals.Eleves->PartsExtrait(8);
+  const TGroupesFrais* groupes = Globals.GroupesFrais.get();
   const auto lignes = attribution_.RetirerATous(Frais());
+  EXPECT_TRUE(Globals.Eleves->PartsExtrait(8).empty()) << "free again";
+  EXPECT_NE(Globals.GroupesFrais.get(), groupes) << "what the groups have received is read again";
+  lignes[1].Ligne->ExtraitId = 9;
+  TEleveEssai(ecole_, 4).paie("5", 0, 0, "x");
+  Base_.Sql("UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 9");
+  Base_.Dialogues.Attend("Le frais est rendu sans son paiement à :\n" + Eleve(2).NomComplet() +
+                         " : Le mouvement de la banque a été attribué autrement entre-temps.");
   EXPECT_EQ(Rangees(), "");
   EXPECT_EQ(Eleve(1).GetAllFrais()->Count(), 0);
   attribution_.Rendre(Frais(), lignes);
