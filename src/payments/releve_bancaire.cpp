@@ -1,16 +1,19 @@
 #include "payments/releve_bancaire.h"
 
 #include "core/exceptions.h"
+#include "payments/communication_structuree.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// As all banks' texts are compared: single blanks, "+++" for the stars of a communication.
+/// As all banks' texts are compared: single blanks, "+++" for the stars of a communication, which is
+/// recognised while it is whole.
 void Nettoyer(TMouvement& mouvement) {
   for (QString* texte : {&mouvement.Donneur, &mouvement.Communication, &mouvement.Compte})
     *texte = texte->simplified();
   mouvement.Communication.replace(u"***"_s, u"+++"_s);
+  mouvement.Communication = CommunicationNormalisee(mouvement.Communication);
   Tronquer(mouvement);
 }
 

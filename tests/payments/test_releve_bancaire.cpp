@@ -233,6 +233,8 @@ TEST(Camt, WhatAnEntrySays) {
                 Remise(u"<Strd><CdtrRefInf><Ref>RF18</Ref></CdtrRefInf></Strd>"_s +
                        reference.arg(u"BBA"_s, u"001231016186"_s))),
        u"0510|1|||+++001/2310/16186+++"_s},
+      {Ecriture(u"1"_s, u"CRDT"_s, Remise(u"<Ustrd>"_s + u"/"_s.repeated(250) + u"001231016185</Ustrd>"_s)),
+       u"0510|1|||+++001/2310/16185+++"_s},
       {Ecriture(u"1"_s, u"CRDT"_s, Details(Detail(u"<AddtlTxInf>t</AddtlTxInf>"_s))), u"0510|1|||t"_s},
   };
   for (const auto& [ecriture, lu] : cas)
