@@ -110,9 +110,9 @@ std::vector<TPartVirement> ProposerParts(const TExtrait& extrait, const std::vec
 }
 
 QString FauteParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts) {
-  if (parts.empty()) return u"Aucun élève n'a été sélectionné !"_s;
   const Currency reste = Globals.Eleves->ResteExtrait(extrait.Id, extrait.Montant);
   if (reste <= Currency()) return u"Ce mouvement est déjà attribué en entier."_s;
+  if (parts.empty()) return u"Aucun élève n'a été sélectionné !"_s;
   Currency total;
   for (const TPartVirement& part : parts) {
     if (part.Montant <= Currency())

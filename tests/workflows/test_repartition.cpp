@@ -106,7 +106,8 @@ TEST_F(TRepartitionEssai, PlusieursLignesDUnMouvement) {
   CrediterParts(extrait, ProposerParts(extrait, Eleves({3})), {});
   EXPECT_EQ(Lignes(), lignes += u"3;7;3.0000;1;0"_s);
   EXPECT_EQ(EtatExtrait(extrait), TEtatMouvement::Comptabilise);
-  EXPECT_EQ(FauteParts(extrait, parts), u"Ce mouvement est déjà attribué en entier.");
+  for (const auto& trop : {parts, {}})
+    EXPECT_EQ(FauteParts(extrait, trop), u"Ce mouvement est déjà attribué en entier.");
   EXPECT_EQ(LireAttributions(*base_)[7].size(), 3U);
   // One of them deleted leaves the others, and its part is free again.
   TAllFraisEleve& deux = *Eleves({2})[0]->GetAllFrais();

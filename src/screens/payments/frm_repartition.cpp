@@ -151,8 +151,9 @@ void TFrmRepartition::MontrerPart() {
 
 bool TFrmRepartition::btnValiderClick() {
   if (!champs_.QuitterTout()) return false;
+  const auto nulle = [](const TPartVirement& part) { return part.Montant == Currency(); };
   std::vector<TPartVirement> parts = parts_;
-  std::erase_if(parts, [](const TPartVirement& part) { return part.Montant == Currency(); });
+  if (!std::ranges::all_of(parts, nulle)) std::erase_if(parts, nulle);  // else it is said that they are zero
   try {
     CrediterParts(extrait_, parts, commun_.Libelle);
   } catch (const Exception& e) {
