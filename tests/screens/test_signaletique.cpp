@@ -253,17 +253,17 @@ TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
   vide.paie(u"15"_s, 0, 0, u"Ailleurs"_s);
   base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 5, FLG_PART = 1 WHERE REMARQUE = 'Ailleurs'"_s);
   TFrmSignaletique& relue = Ouvrir(rose);
-  for (const QString& montant : {u"15,01"_s, u"15"_s}) {
-    relue.Frais.Grille.ChoisirLigne(relue.Frais.Grille.NombreLignes() - 1);
-    monde.SurModale = [&](TForm& form) {
-      auto& saisie = dynamic_cast<TFrmPaiement&>(form);
-      saisie.Champs().Taper(saisie.Champs().Indice(u"edMontant"_s), montant);
-      saisie.Valider();
-    };
-    if (montant != u"15")
-      base.Dialogues.Attend(u"Il ne reste que 3,00 € de ce mouvement de la banque : il manque 0,01 €."_s);
-    relue.grdListeFraisDblClick();
-  }
+  relue.Frais.Grille.ChoisirLigne(relue.Frais.Grille.NombreLignes() - 1);
+  QStringList montants{u"12,00"_s, u"15,01"_s, u"15"_s};
+  monde.SurModale = [&](TForm& form) {
+    auto& saisie = dynamic_cast<TFrmPaiement&>(form);
+    const int montant = saisie.Champs().Indice(u"edMontant"_s);
+    EXPECT_EQ(saisie.Champs().Texte(montant), montants.takeFirst()) << "what was typed is there again";
+    saisie.Champs().Taper(montant, montants.first());
+    saisie.Valider();
+  };
+  base.Dialogues.Attend(u"Il ne reste que 3,00 € de ce mouvement de la banque : il manque 0,01 €."_s);
+  relue.grdListeFraisDblClick();
   EXPECT_EQ(base.Rangees(payes), (QStringList{u"1;15.0000"_s, u"2;15.0000"_s}));
   EXPECT_TRUE(Globals.Eleves->ChargerExtraits);
 }
