@@ -168,6 +168,7 @@ void TCompteGarde::PayerDette(TParPayeur& caisse) {
 
 void TCompteGarde::Recevoir(TParPayeur dettePayee) {
   TParPayeur recu = Prendre(dettePayee, detteCedee_);
+  PayerDette(recu);
   PayerFrais(recu);
   Verser(recu, recettes_[0]);
 }

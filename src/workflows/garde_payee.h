@@ -35,7 +35,7 @@ class TCompteGarde {
 
   /// What was paid in this account of the debt of the year before.
   const TParPayeur& DettePayee() const { return dettePayee_; }
-  /// What the year after paid of the debt that this account handed over: its fees first.
+  /// What the year after paid of the debt that this account handed over: an older debt first, then its fees.
   void Recevoir(TParPayeur dettePayee);
   /// The days of care in their order.
   std::vector<TJourGarde> Solder();

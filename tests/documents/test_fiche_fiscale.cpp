@@ -166,6 +166,13 @@ TEST_F(TFicheFiscaleEssai, LaDetteReporteeNEstPasPayee) {
   EXPECT_EQ(Manques(Etablir()), u" 3 jours de garde impayés, du 08/05/2017 au 03/10/2017 : pas sur la fiche");
 }
 
+TEST_F(TFicheFiscaleEssai, LaPlusVieilleDetteEstPayeeDAbord) {
+  anne.paie(u"-10"_s, 9, 1, u"Report de l'année scolaire 2015-2016"_s);
+  anne.paie(u"11.2345"_s, 6, 1, u"Report vers l'année scolaire 2017-2018"_s);
+  automne.paie(u"-11.2345"_s, 9, 1, u"Report de l'année scolaire 2016-2017"_s);
+  EXPECT_EQ(Manques(Etablir()), u" 3 jours de garde impayés, du 08/05/2017 au 03/10/2017 : pas sur la fiche");
+}
+
 // What was paid too much on fees is in the balance that was carried, and takes nothing from the care.
 TEST_F(TFicheFiscaleEssai, LeSurplusReporteEtaitSurLesFrais) {
   anne.paie(u"1.2345"_s, 0, 2, {}).paie(u"10"_s, 0, 1, {});
