@@ -145,13 +145,14 @@ void TCompteGarde::PayerMois() {
   }
 }
 
-// A balance that was carried joined fees and services: what was paid too much on fees went with it. One that
-// was not leaves it on the fees; what was given back of them is owed again.
+// What was paid too much on fees joins the services in a balance that was carried, and where nothing was left
+// to carry. A family that owes leaves it on the fees; what was given back of them is owed again.
 void TCompteGarde::PayerDettes() {
   PayerFrais(frais_);
   const Currency surplus = Somme(frais_);
   if (surplus < Currency()) fraisImpayes_ -= surplus;
-  if (surplus > Currency() && reporte_) Verser(frais_, general_);
+  if (surplus > Currency() && (reporte_ || eleve_.Solde(true, true) >= Currency()))
+    Verser(frais_, general_);
   PayerDette(general_);
   PayerFrais(general_);
   Verser(general_, recettes_[0]);

@@ -173,6 +173,14 @@ TEST_F(TFicheFiscaleEssai, LaPlusVieilleDetteEstPayeeDAbord) {
   EXPECT_EQ(Manques(Etablir()), u" 3 jours de garde impayés, du 08/05/2017 au 03/10/2017 : pas sur la fiche");
 }
 
+// Who owes nothing has paid the care, on whatever line.
+TEST_F(TFicheFiscaleEssai, LeSurplusDesFraisPaieLaGardeDeQuiNeDoitRien) {
+  anne.doit(ecole.frais(u"Piscine"_s, u"10"_s, 5)).paie(u"11.2344"_s, 0, 1, {});
+  EXPECT_EQ(Manques(Etablir()), kMai);
+  anne.paie(u"0.0001"_s, 0, 1, {});
+  EXPECT_EQ(Manques(Etablir()), QString());
+}
+
 // What was paid too much on fees is in the balance that was carried, and takes nothing from the care.
 TEST_F(TFicheFiscaleEssai, LeSurplusReporteEtaitSurLesFrais) {
   anne.paie(u"1.2345"_s, 0, 2, {}).paie(u"10"_s, 0, 1, {});
