@@ -111,7 +111,9 @@ void TCompteGarde::LireLignes() {
           ligne.FraisService() ? std::max(Currency(), ligne.MontantVerse - ligne.MontantFrais())
                                : ligne.MontantVerse;
   }
-  fraisImpayes_ = lignes->TotalFrais();
+  fraisImpayes_ = std::max(Currency(), lignes->TotalFrais());
+  // Reductions above the fees are the debtor's money.
+  frais_[static_cast<std::size_t>(payeur_)] += fraisImpayes_ - lignes->TotalFrais();
 }
 
 void TCompteGarde::LirePaiement(const TFraisEleve& ligne) {

@@ -173,6 +173,12 @@ TEST_F(TFicheFiscaleEssai, LaPlusVieilleDetteEstPayeeDAbord) {
   EXPECT_EQ(Manques(Etablir()), u" 3 jours de garde impayés, du 08/05/2017 au 03/10/2017 : pas sur la fiche");
 }
 
+TEST_F(TFicheFiscaleEssai, UneRemiseEstAuDebiteur) {
+  Poser(u"FLG_IMPOT_RESPONS2 = 1"_s);
+  anne.doit(ecole.frais(u"Remise"_s, u"-1.2345"_s, 5));
+  EXPECT_TRUE(Fiches(Etablir()).startsWith(u"1 DEUX 5 j"));
+}
+
 // Who owes nothing has paid the care, on whatever line.
 TEST_F(TFicheFiscaleEssai, LeSurplusDesFraisPaieLaGardeDeQuiNeDoitRien) {
   anne.doit(ecole.frais(u"Piscine"_s, u"10"_s, 5)).paie(u"11.2344"_s, 0, 1, {});
