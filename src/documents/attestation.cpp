@@ -53,14 +53,15 @@ TResultat AttestationFiscale(const TContexteDocument& contexte, const TDemandeDo
     for (const QString& remarque : feuille.Remarques)
       rapport.Avertissements += feuille.Eleve->NomComplet() % u" : " % remarque % u'.';
     const bool deja = !resultat.Manques.empty() && resultat.Manques.back().Eleve == feuille.Eleve;
-    if (feuille.Eleve->DateNaissance == 0.0 && !deja)
+    if (feuille.SansDate && !deja)
       resultat.Manques.push_back(
           {feuille.Eleve, u"lblDateNaissance"_s, u"pas d'attestation sans date de naissance"_s});
     if (feuille.Montant == Currency()) continue;
     const int numero = feuille.Eleve->GetNumAttestation();
     if (numero == 0) {
-      resultat.Manques.push_back(
-          {feuille.Eleve, {}, u"pas d'attestation : aucun numéro n'a pu lui être donné"_s});
+      if (!deja)
+        resultat.Manques.push_back(
+            {feuille.Eleve, {}, u"pas d'attestation : aucun numéro n'a pu lui être donné"_s});
       continue;
     }
     arbre.push_back(NoeudFeuille(feuille, numero));

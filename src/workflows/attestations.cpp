@@ -33,6 +33,16 @@ QStringList RemarquesDe(const TMontantAttestation& detail) {
   return remarques;
 }
 
+/// Whether the care of the tax year goes without a sheet because the date of birth is missing.
+bool SansDate(const TEleve& eleve, const TEleve* precedent) {
+  const TPeriode annee{EncodeDate(kAnneeFiscale, 1, 1), EncodeDate(kAnneeFiscale, 12, 31)};
+  const int ecole = eleve.Eleves->AnneeScolaire;
+  if (eleve.DateNaissance != 0.0 || eleve.Categorie() == TCategorie::Personnel) return false;
+  if (ecole != kAnneeFiscale) precedent = nullptr;  // the year on display counts alone
+  return eleve.TotalGarderies(annee) > Currency() ||
+         (precedent != nullptr && precedent->TotalGarderies(annee) > Currency());
+}
+
 /// Both parents who live apart have on their sheets what was not told apart.
 bool DoubleEmploi(const TMontantAttestation& detail) {
   return std::ranges::any_of(detail.Parties, [](const TPartieAttestation& p) {
@@ -83,6 +93,7 @@ TFeuilleAttestation TAttestations::Feuille(TEleve& eleve, int responsable, QStri
   else
     messages += u"Le paramètre de calcul d'attestation d'impôt n'a pas été défini."_s;
   feuille.Montant = feuille.Detail.Total();
+  feuille.SansDate = SansDate(eleve, precedent);
   Dater(feuille);
   if (feuille.Montant != Currency()) feuille.Remarques = RemarquesDe(feuille.Detail);
   if (feuille.Montant != Currency() && responsable == 2 && DoubleEmploi(feuille.Detail))

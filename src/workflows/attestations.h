@@ -15,6 +15,7 @@ struct TFeuilleAttestation {
   QString DateDebut;      ///< "01/09/2017"
   QString DateFin;        ///< of the sentence of the form
   QString DateFinReel;    ///< the same cut at the twelfth birthday, day and month as short as they are
+  bool SansDate = false;  ///< a pupil had care in the tax year, but no date of birth tells how much of it
   QStringList Remarques;  ///< what the office has to look at; French
 };
 
