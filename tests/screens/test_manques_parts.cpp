@@ -36,16 +36,24 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
   void (TFrmManques::*faire)() = nullptr;
   monde.SurModale = [&](TForm& form) {
     auto& manques = dynamic_cast<TFrmManques&>(form);
-    EXPECT_EQ(manques.Texte(), u"1 élève n'est pas imprimé tant qu'il manque ceci :");
-    EXPECT_EQ(manques.Grille.Texte(1, 3), u"Imprimé sans");
+    EXPECT_EQ(manques.Texte(),
+              u"1 élève n'est pas imprimé tant qu'il manque ceci ; les "
+              "autres lignes n'empêchent pas d'imprimer :");
+    EXPECT_EQ(manques.Grille.Texte(2, 3), u"Pas imprimé") << "what is unpaid of who is not printed";
+    EXPECT_EQ(manques.Grille.Texte(3, 3), u"Imprimé sans");
+    EXPECT_EQ(manques.Grille.LigneCourante(), 1) << "the first that leads to a record";
+    EXPECT_EQ(manques.LibelleImprimer(), u"Imprimer les autres");
+    EXPECT_EQ(manques.Titre(), u"Ce qui manque, revenus de 2017");
     if (faire != nullptr) (manques.*faire)();
   };
   const auto imprimer = [&] {
     imprimeur.Faire([](const TContexteDocument&) {
       TResultat resultat;
-      resultat.Manques = {{&Eleve(1), u"edNumNational"_s, u"manque"_s, true},
+      resultat.Manques = {{nullptr, {}, u"l'école"_s, false},
+                          {&Eleve(1), u"edNumNational"_s, u"manque"_s, true},
+                          {&Eleve(1), {}, u"impayé"_s, false},
                           {&Eleve(2), {}, u"impayé"_s, false}};
-      resultat.Rapports.emplace_back(u"Titre"_s, u"Modele"_s);
+      resultat.Rapports.emplace_back(u"Titre"_s, u"Modele"_s).AjouterVariable(u"AnneeRevenus"_s, u"2017"_s);
       return resultat;
     });
     return monde.Apercus.size();

@@ -1,4 +1,6 @@
 #pragma once
+#include <set>
+
 #include "documents/resultat.h"
 #include "forms/form.h"
 #include "forms/grille.h"
@@ -7,17 +9,23 @@
 /// goes to the record to see to it. Modal.
 class TFrmManques : public TForm {
  public:
-  /// `imprimable`: there is a document for the others. `avecChamps`: something leads to the record.
-  /// `manques` must outlive it.
-  TFrmManques(const std::vector<TManque>& manques, bool imprimable, bool avecChamps);
+  /// `avecChamps`: something leads to the record. `resultat` must outlive it.
+  TFrmManques(const TResultat& resultat, bool avecChamps);
 
-  /// "2 élèves ne sont pas imprimés tant qu'il manque ceci :", or that all is printed all the same.
+  /// "Ce qui manque", with the year whose incomes a tax paper tells.
+  QString Titre() const;
+  /// "2 élèves ne sont pas imprimés tant qu'il manque ceci :", what the other rows are, or that all is
+  /// printed all the same.
   const QString& Texte() const { return texte_; }
-  bool Imprimable() const { return imprimable_; }
-  bool AvecChamps() const { return avecChamps_; }
+  /// There is a document for the others.
+  bool Imprimable() const { return !resultat_.Rapports.empty(); }
+  /// There is a row that leads to a record.
+  bool AvecChamps() const { return premier_ >= 0; }
+  /// "Imprimer les autres"; "Imprimer" when nobody is left out.
+  QString LibelleImprimer() const;
   TGrille Grille;  ///< a row each, with its place among them
 
-  /// "Imprimer les autres"
+  /// Goes on without what is missing.
   void btnImprimerClick() { Valider(); }
   /// "Aller à la fiche", of the current row; nothing for one of the school.
   void btnAllerClick();
@@ -26,10 +34,13 @@ class TFrmManques : public TForm {
 
  private:
   void Valider();
+  QString Resume() const;
+  /// Of the pupil of that row nothing is printed.
+  bool SansDocument(const TManque& manque) const;
 
-  const std::vector<TManque>& manques_;
-  const bool imprimable_;
-  const bool avecChamps_;
+  const TResultat& resultat_;
+  std::set<const TEleve*> sans_;  ///< who is not printed
+  int premier_ = -1;              ///< the first row that leads to a record
   QString texte_;
   const TManque* choisi_ = nullptr;
 };

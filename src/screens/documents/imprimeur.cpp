@@ -51,7 +51,7 @@ void TImprimeur::Montrer(TResultat resultat) {
 
 bool TImprimeur::PasseManques(const TResultat& resultat) {
   if (resultat.Manques.empty()) return true;
-  TFrmManques manques(resultat.Manques, !resultat.Rapports.empty(), SurAllerAuChamp != nullptr);
+  TFrmManques manques(resultat, SurAllerAuChamp != nullptr);
   const bool imprimer = contexte_.Modale.MontrerModal(manques) == TResultatModal::Valide;
   const TManque* manque = manques.Choisi();
   if (manque != nullptr && SurAllerAuChamp) SurAllerAuChamp(*manque->Eleve, manque->Champ);

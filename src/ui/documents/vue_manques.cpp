@@ -8,15 +8,14 @@
 
 using namespace Qt::StringLiterals;
 
-VueManques::VueManques(TFrmManques& form, QWidget* parent)
-    : DialogueBase(u"Ce qui manque"_s, parent), form_(form) {
+VueManques::VueManques(TFrmManques& form, QWidget* parent) : DialogueBase(form.Titre(), parent), form_(form) {
   DefinirEntete(form_.Texte());
   auto* grille = new VueGrille(form_.Grille, u"Ce qui manque"_s, u"Manques/Liste"_s);
   grille->DefinirColonneSouple(2);
   grille->setMinimumSize(Theme::Px(980), Theme::Px(320));
   Contenu()->addWidget(grille, 1);
   connect(grille, &VueGrille::Activee, this, &VueManques::Aller);
-  DefinirPrincipal(form_.Imprimable() ? u"Imprimer les autres"_s : u"Aller à la fiche"_s);
+  DefinirPrincipal(form_.Imprimable() ? form_.LibelleImprimer() : u"Aller à la fiche"_s);
   if (form_.Imprimable() && form_.AvecChamps())
     connect(AjouterBouton(u"Aller à la fiche"_s), &QPushButton::clicked, this, &VueManques::Aller);
   if (!form_.Imprimable() && !form_.AvecChamps()) DefinirPrincipal(u"Fermer"_s);
