@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <unordered_set>
 
 #include "application/globals.h"
 #include "core/accord.h"
@@ -97,7 +98,9 @@ std::vector<TFicheFiscale> TFichesFiscales::Fiches(const std::vector<TEleve*>& e
     Eleves(annee).LireFrais(deLAnnee);
   }
   std::vector<TFicheFiscale> fiches;
-  for (TEleve* eleve : eleves) Ajouter(*eleve, fiches);
+  std::unordered_set<int> faits;  // who is enrolled twice in the year stands twice in the list
+  for (TEleve* eleve : eleves)
+    if (faits.insert(eleve->Id).second) Ajouter(*eleve, fiches);
   return fiches;
 }
 

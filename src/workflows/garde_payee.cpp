@@ -153,8 +153,7 @@ void TCompteGarde::PayerDettes() {
   PayerFrais(frais_);
   const Currency surplus = Somme(frais_);
   if (surplus < Currency()) fraisImpayes_ -= surplus;
-  if (surplus > Currency() && (reporte_ || eleve_.Solde(true, true) >= Currency()))
-    Verser(frais_, general_);
+  if (surplus > Currency() && (reporte_ || eleve_.Solde(true, true) >= Currency())) Verser(frais_, general_);
   PayerDette(general_);
   PayerFrais(general_);
   Verser(general_, recettes_[0]);

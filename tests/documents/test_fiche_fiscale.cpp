@@ -86,6 +86,7 @@ TEST_F(TFicheFiscaleEssai, CeQuiEstPayeParTrimestre) {
   const TResultat resultat = Etablir();
   const QString entiere = u"1 UN 4 j 5,43: "_s + kPrintemps + u'|' + kAutomne;
   EXPECT_EQ(Fiches(resultat), entiere);
+  EXPECT_EQ(Fiches(Etablir(2017, {anne.Id})), entiere) << "enrolled twice";
   EXPECT_EQ(Manques(resultat), kMai);
   EXPECT_EQ(Variable(resultat, u"AnneeRevenus"), u"2017");
   const TValeurs& valeurs = resultat.Rapports[0].Arbre()[0].Valeurs;
