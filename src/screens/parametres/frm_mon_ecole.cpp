@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 
 #include "core/exceptions.h"
+#include "core/numero_entreprise.h"
 #include "screens/commun/refus.h"
 #include "screens/parametres/pages_parametres.h"
 
@@ -83,6 +84,13 @@ QString AvisHoraire(const TChamp& champ, const QString& texte) {
                                                        heure ? u"une heure"_s : u"un nombre de minutes"_s);
 }
 
+QString AvisEcole(const TChamp& champ, const QString& texte) {
+  if (champ.Nom == u"edNumeroEntreprise" && !texte.isEmpty() && !NumeroEntrepriseValide(texte))
+    return u"enregistré, mais « %1 » n'est pas un numéro d'entreprise : dix chiffres, dont les deux derniers "
+           "contrôlent les autres"_s.arg(texte);
+  return AvisHoraire(champ, texte);
+}
+
 /// Another site of that name, by which the tree knows sites; null for none.
 const TImplantation* HomonymeDe(const TImplantation& site) {
   for (const TImplantation& autre : *Globals.Eleves->Implantations)
@@ -106,7 +114,7 @@ TFrmMonEcole::TFrmMonEcole(TContexteEcran& contexte)
       grdImplantation({{u"Code Implantation"_s, 200}, {u"Nom de l'implantation"_s, 480}}),
       Implantation(ChampsImplantation(), TChamps::Aussitot),
       contexte_(contexte) {
-  Ecole.Avis = AvisHoraire;
+  Ecole.Avis = AvisEcole;
   Implantation.SurEnregistrer = [this](const TChamp&) { grdImplantationCellEdited(); };
   liens_ += AnnoncerRefus(Implantation, contexte.Principal);
   liens_ += grdImplantation.SurChoix.Suivre([this] { MontrerImplantation(); });

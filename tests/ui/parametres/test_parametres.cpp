@@ -229,6 +229,9 @@ TEST_F(MonEcole, EachFieldWritesItsSetting) {
     Saisir(champs[i], u" 0%1 "_s.arg(champs[i + 1]));
     EXPECT_EQ(Parametre(champs[i + 1].toInt()), u"0%1"_s.arg(champs[i + 1])) << champs[i].toStdString();
   }
+  EXPECT_TRUE(Etat().contains("n'est pas un numéro d'entreprise")) << Etat().toStdString();
+  Saisir("edNumeroEntreprise", "0999.999.922");
+  EXPECT_FALSE(Etat().contains("n'est pas")) << Etat().toStdString();
   Saisir("edHeureFinLMJV", "25");
   EXPECT_EQ(Parametre(14), "25");
   EXPECT_TRUE(Etat().contains("n'est pas une heure")) << Etat().toStdString();
