@@ -3,11 +3,11 @@
 #include <QTreeView>
 
 #include "forms/grille.h"
+#include "ui/commun/largeurs_colonnes.h"
 
 class ChampFiltre;
 class ModeleGrille;
 class FiltreGrille;
-struct TBesoinColonne;
 
 /// The view of a TGrille, which outlives it. Rows are those of the grid, whatever order and filter
 /// show. Groups fold by arrow, click, Left and Right; Space ticks; Ctrl+C copies the row with tabs,
@@ -100,7 +100,10 @@ class VueGrille : public QTreeView {
   ChampFiltre* champ_ = nullptr;
   QPointer<VueGrille> jumelle_;  ///< has the same widths
   int souple_ = -1;
-  bool tracees_ = false;    ///< the user has drawn a width
+  bool tracees_ = false;  ///< the user has drawn a width
+  mutable std::vector<TBesoinColonne>
+      elargis_;  ///< as measured with rows in a view of the width placeElargie_
+  mutable int placeElargie_ = -1;
   bool enCours_ = true;     ///< the view itself moves the current row, the folds or the widths
   bool aRetenir_ = false;   ///< widths or order have changed since they were kept
   bool aRepartir_ = false;  ///< the widths are to be seen to

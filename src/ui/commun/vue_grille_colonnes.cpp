@@ -91,10 +91,16 @@ std::vector<TBesoinColonne> VueGrille::Besoins(int place) const {
     reste -= voulue;
   }
   if (reste >= Theme::Px(kAssezPourUnNom)) {
-    const int declare = std::clamp(grille_.Colonne(souple).Largeur, kMoindreNom, kAssezPourUnNom);
-    const int nom = std::clamp(LargeurContenu(souple), Theme::Px(kMoindreNom), Theme::Px(declare));
-    if (!tracees_) Elargir(besoins, reste - nom);
-    return besoins;
+    if (tracees_) return besoins;
+    // Measured once for a width: the columns of a record do not jump from pupil to pupil, nor cost at each.
+    if (placeElargie_ != place || elargis_.size() != besoins.size()) {
+      const int declare = std::clamp(grille_.Colonne(souple).Largeur, kMoindreNom, kAssezPourUnNom);
+      const int nom = std::clamp(LargeurContenu(souple), Theme::Px(kMoindreNom), Theme::Px(declare));
+      Elargir(besoins, reste - nom);
+      elargis_ = besoins;
+      placeElargie_ = grille_.NombreLignes() > 0 ? place : -1;
+    }
+    return elargis_;
   }
   for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
     TBesoinColonne& besoin = besoins[static_cast<std::size_t>(colonne)];
