@@ -1,4 +1,5 @@
-// A school sets itself up from an empty database, in the present year, by keys; the source of the scans apart.
+// A school sets itself up from an empty database, in the present year, by keys; the source of the scans
+// apart.
 #include <QMenu>
 
 #include "screens/documents/frm_apercu.h"

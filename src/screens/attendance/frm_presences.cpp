@@ -50,8 +50,10 @@ QString HeuresDesTarifs(TTypePresence type, TDateTime date) {
 /// The hour to be put right, by its field: "Heure de fin à corriger : 18:22".
 QString HeuresACorriger(const TPresence& presence) {
   QStringList heures;
-  if (presence.HeureEntree != 0.0) heures += u"Heure de début à corriger : " % FormatHeureCourte(presence.HeureEntree);
-  if (presence.HeureSortie != 0.0) heures += u"Heure de fin à corriger : " % FormatHeureCourte(presence.HeureSortie);
+  if (presence.HeureEntree != 0.0)
+    heures += u"Heure de début à corriger : " % FormatHeureCourte(presence.HeureEntree);
+  if (presence.HeureSortie != 0.0)
+    heures += u"Heure de fin à corriger : " % FormatHeureCourte(presence.HeureSortie);
   return heures.join(u'\n');
 }
 

@@ -325,7 +325,10 @@ void TFrmRecapitulatif::Transferer(TSensTransfert sens, const TGrille& grille) {
   qint64 passes = 0;
   try {
     const TAttente attente(dialogues);
-    TransfererSoldes(*Globals.Eleves, travail, coches, sens, [&](const TMontantEleve&) { ++passes; });
+    TProgression progression(dialogues, static_cast<int>(coches.size()));
+    TransfererSoldes(*Globals.Eleves, travail, coches, sens, [&](const TMontantEleve& reporte) {
+      progression.Avancer(static_cast<int>(++passes), reporte.Eleve->NomComplet());
+    });
     const qint64 restes = std::ssize(coches) - passes;
     QString texte =
         Compter(passes, u"solde transféré"_s, u"soldes transférés"_s, u"Aucun solde transféré"_s) %

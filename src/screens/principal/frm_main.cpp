@@ -232,7 +232,7 @@ void TFrmMain::Executer(TGestionnaire gestionnaire) {
     if (Contexte.Dialogues().Confirmer(u"Souhaitez-vous quitter Calpenne ?"_s)) Terminer();
     return;
   }
-  OublierRefus();  // what leaving the field says now stays
+  OublierEcran();  // what leaving the field says now stays
   QuitterChamp();
   const TEcran& ecran = *commande.Ecran;
   TForm* form = Panneau.Ouvrir(
@@ -330,10 +330,10 @@ void TFrmMain::Etat(TNiveauEtat niveau, const QString& texte) {
   SurEtat();
 }
 
-// What a screen refused is no word about the next one.
-void TFrmMain::OublierRefus() {
-  if (etat_.Niveau == TNiveauEtat::Erreur && etat_.Texte.startsWith(u"Non enregistré"))
-    Etat(TNiveauEtat::Neutre, {});
+// What a screen refused, or told by the way, is no word about the next one.
+void TFrmMain::OublierEcran() {
+  const bool refus = etat_.Niveau == TNiveauEtat::Erreur && etat_.Texte.startsWith(u"Non enregistré");
+  if (refus || etat_.Niveau == TNiveauEtat::Neutre) Etat(TNiveauEtat::Neutre, {});
 }
 
 void TFrmMain::EtatApresEcran(TNiveauEtat niveau, const QString& fait) {

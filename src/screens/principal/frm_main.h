@@ -168,7 +168,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   void tvEleveChange();
   /// What was done, and what the screen that had to go for it has left undone.
   void EtatApresEcran(TNiveauEtat niveau, const QString& fait);
-  void OublierRefus();
+  void OublierEcran();
   void Diffuser(TCodeMessage code);
   bool EcranAccepte();
   TNoeud* NoeudQuiCommence(TNoeud* debut) const;

@@ -152,7 +152,8 @@ QWidget* VuePrintWizard::CreerPageRapport() {
   zone->setWidget(page);
   auto* pages = new QWidget;
   auto* haut = SansMarge<QVBoxLayout>(pages, 4);
-  if (const int dernier = form_.IndiceDernier(); dernier >= 0) {  // above the titles, which may have to scroll
+  if (const int dernier = form_.IndiceDernier();
+      dernier >= 0) {  // above the titles, which may have to scroll
     QPushButton* reprendre =
         BoutonDiscret(u"Comme la dernière fois : " % form_.Titres()[static_cast<std::size_t>(dernier)].Titre);
     connect(reprendre, &QPushButton::clicked, this, [this] { form_.btnDernierClick(); });
