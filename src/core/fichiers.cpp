@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <memory>
+#include <filesystem>
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
 #endif
@@ -12,6 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Of a file that waits to take its place, and of the list of those that do.
+const QString kNouveau = u".nouveau"_s;
+const QString kListe = u"/remplacement.txt"_s;
 constexpr qint64 kTailleMaximum = 64LL * 1024 * 1024;
 
 // Flushes by itself: QSaveFile::commit lets a failure of its own flush pass and keeps half a file.
@@ -35,6 +38,15 @@ QString CauseOuverture(const QFile& fichier) {
 #else
   return fichier.errorString();
 #endif
+}
+
+/// Over the file that is there.
+void Remplacer(const QString& nouveau, const QString& chemin) {
+  std::error_code faute;
+  std::filesystem::rename(nouveau.toStdU16String(), chemin.toStdU16String(), faute);
+  if (faute)
+    throw Exception(u"Impossible d'écrire le fichier « %1 » : %2"_s.arg(
+        chemin, QString::fromLocal8Bit(faute.message().c_str())));
 }
 
 }  // namespace
@@ -74,12 +86,23 @@ void EcrireFichier(const QString& chemin, QByteArrayView octets) {
   if (!Ecrire(fichier, octets) || !fichier.commit()) Refuser(chemin, fichier);
 }
 
-void EcrireFichiers(const std::vector<std::pair<QString, QByteArray>>& fichiers) {
-  std::vector<std::unique_ptr<QSaveFile>> ecrits;
-  for (const auto& [chemin, octets] : fichiers) {
-    auto& fichier = *ecrits.emplace_back(std::make_unique<QSaveFile>(chemin));
-    if (!Ecrire(fichier, octets)) Refuser(chemin, fichier);
+// All the new ones stand beside the old ones, and are listed, before the first takes its place: whoever is
+// cut off behind the list only has renames to do again.
+void EcrireFichiers(const QString& dossier, const std::vector<std::pair<QString, QByteArray>>& fichiers) {
+  QByteArray noms;
+  for (const auto& [nom, octets] : fichiers) {
+    EcrireFichier(dossier % u'/' % nom % kNouveau, octets);
+    noms += nom.toUtf8() + '\n';
   }
-  for (const auto& fichier : ecrits)
-    if (!fichier->commit()) Refuser(fichier->fileName(), *fichier);
+  EcrireFichier(dossier % kListe, noms);
+  AcheverFichiers(dossier);
+}
+
+void AcheverFichiers(const QString& dossier) {
+  const QString liste = dossier % kListe;
+  if (!QFileInfo::exists(liste)) return;
+  for (const QString& nom : QString::fromUtf8(LireFichier(liste)).split(u'\n', Qt::SkipEmptyParts))
+    if (const QString chemin = dossier % u'/' % QFileInfo(nom).fileName(); QFile::exists(chemin % kNouveau))
+      Remplacer(chemin % kNouveau, chemin);
+  QFile::remove(liste);
 }

@@ -22,6 +22,9 @@ QByteArray LireFichier(const QString& chemin);
 /// through. Raises Exception.
 void EcrireFichier(const QString& chemin, QByteArrayView octets);
 
-/// Several files of a folder that belong together: all are written beside their places before the first is
-/// renamed. Raises Exception, and leaves them as they were unless the renaming itself fails.
-void EcrireFichiers(const std::vector<std::pair<QString, QByteArray>>& fichiers);
+/// Several files of a folder, by name, that belong together: either all of them are replaced, or none. Raises
+/// Exception, and leaves them as they were unless the exchange itself fails.
+void EcrireFichiers(const QString& dossier, const std::vector<std::pair<QString, QByteArray>>& fichiers);
+/// Ends an exchange of files of the folder that was cut off (power, a killed program); does nothing where
+/// there is none. Raises Exception.
+void AcheverFichiers(const QString& dossier);

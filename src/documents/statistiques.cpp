@@ -172,10 +172,13 @@ QString TextePeriode(const TPeriode& periode) {
 
 TResultat ImprimerListe(const TContexteDocument& contexte, const QString& titre, const QString& sousTitre,
                         const TGrille& grille) {
-  if (grille.NombreLignes() == 0) return Message(TexteRienAImprimer());
   TRapport rapport(titre, u"RepDynamicFromListviewPortrait"_s);
-  AjouterEcole(rapport, contexte, sousTitre);
+  QStringList dessous{sousTitre};
+  if (!grille.Filtre.isEmpty()) dessous += u"Lignes contenant « " % grille.Filtre % u" »";
+  dessous.removeAll(QString());
+  AjouterEcole(rapport, contexte, dessous.join(u" · "_s));
   rapport.ChargerColonnesGrille(grille);
+  if (rapport.Plat().empty()) return Message(TexteRienAImprimer());
   TResultat resultat;
   resultat.Rapports.push_back(std::move(rapport));
   return resultat;

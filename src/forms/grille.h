@@ -98,6 +98,8 @@ class TGrille {
   int ColonneEtat() const;
   /// Whether a cell of the row contains each word of the text, without regard to case and accents.
   bool Contient(int ligne, const QString& cherche) const;
+  /// Whether the row is not narrowed away by `Filtre`.
+  bool EstVue(int ligne) const { return Filtre.isEmpty() || Contient(ligne, Filtre); }
   /// -1 when no row carries the object.
   int TrouverObjet(TObjetVu objet) const;
 
@@ -109,6 +111,8 @@ class TGrille {
   /// The rows are shown with check boxes.
   bool CasesACocher = false;
   std::vector<TEtatGrille> Etats;
+  /// Words that the user narrows the list to, on the screen and on paper; empty for all rows.
+  QString Filtre;
   TSignal<TChangement> SurChangement;
   /// The selected row is another one.
   TSignal<> SurChoix;

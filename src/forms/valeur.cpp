@@ -17,8 +17,14 @@ T Lire(const TValeurVue& valeur) {
 
 QString EntierEnTexte(const TValeurVue& v) { return QString::number(Lire<int>(v)); }
 QString ElevesEnTexte(const TValeurVue& v) { return CompterEleves(Lire<int>(v)); }
-QString MontantEnTexte(const TValeurVue& v) { return FormatMontant(Lire<Currency>(v)); }
-QString DecimalesEnTexte(const TValeurVue& v) { return FormatPrix(Lire<Currency>(v)); }
+QString MontantEnTexte(const TValeurVue& v) {
+  if (const auto* m = std::get_if<TMontantNote>(&v)) return FormatDeuxDecimales(m->Montant) % u" €" % m->Note;
+  return FormatMontant(Lire<Currency>(v));
+}
+QString DecimalesEnTexte(const TValeurVue& v) {
+  const auto* m = std::get_if<TMontantNote>(&v);
+  return FormatPrix(m != nullptr ? m->Montant : Lire<Currency>(v));
+}
 QString PrixEnTexte(const TValeurVue& v) { return FormatPrix(Lire<Currency>(v)) % u" €"; }
 QString DateEnTexte(const TValeurVue& v) { return FormatDate(Lire<TDateTime>(v)); }
 QString DateCourteEnTexte(const TValeurVue& v) {

@@ -6,9 +6,17 @@
 #include "core/currency.h"
 #include "core/dates.h"
 
+/// An amount and what the screen says behind it, put in order by the amount: "12,50 €  (+5,00)".
+struct TMontantNote {
+  Currency Montant;
+  QString Note;
+  bool operator==(const TMontantNote&) const = default;
+  bool operator<(const TMontantNote& autre) const { return Montant < autre.Montant; }
+};
+
 /// What a cell or a field holds; `TValeurVue()` for nothing. Dates and times are TDateTime, a month is 1 to
 /// 12. A text stands in any cell: for what could not be read, or in the head of a group.
-using TValeurVue = std::variant<std::monostate, QString, int, Currency, TDateTime>;
+using TValeurVue = std::variant<std::monostate, QString, int, Currency, TDateTime, TMontantNote>;
 using TCellules = std::vector<TValeurVue>;
 
 /// How the values of a column are shown and put in order.

@@ -84,6 +84,7 @@ void TRapport::ChargerColonnes(const TGrille& grille, TCellule cellule) {
 
   TArbreRapport lignes;
   for (int ligne = 0; ligne < grille.NombreLignes(); ++ligne) {
+    if (!grille.EstVue(ligne)) continue;
     TNoeudRapport& noeud = lignes.emplace_back(grille.Texte(ligne, 0));
     for (int colonne = 0; colonne < colonnes; ++colonne)
       noeud.Valeurs.Ecrire(NomColonne(colonne), cellule(grille.Texte(ligne, colonne)));

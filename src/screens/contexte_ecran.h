@@ -1,14 +1,15 @@
 #pragma once
 #include "application/controleur.h"
-#include "forms/form.h"
 #include "documents/etiquettes.h"
+#include "forms/form.h"
 #include "report/apercu.h"
 
 class IAssistant;
 class ILienLecteur;
 
 /// How sure the user can be of what the status bar says.
-enum class TNiveauEtat { Neutre, Succes, Alerte, Erreur };
+/// Refus: an Erreur of what the screen would not store, which the next screen takes away.
+enum class TNiveauEtat { Neutre, Succes, Alerte, Erreur, Refus };
 
 /// How a screen reaches the main window.
 class ILienPrincipal {
@@ -27,8 +28,8 @@ struct TContexteEcran {
   IFenetreModale& Modale;
   IApercu& Apercu;
   ILienPrincipal& Principal;
-  IAssistant* Assistant = nullptr;  ///< the print wizard; set before the first screen opens
-  ILienLecteur* Lecteur = nullptr;  ///< the hand scanner; null where there can be none
+  IAssistant* Assistant = nullptr;   ///< the print wizard; set before the first screen opens
+  ILienLecteur* Lecteur = nullptr;   ///< the hand scanner; null where there can be none
   TPosteEtiquettes Etiquettes = {};  ///< how labels are printed here; empty where they cannot be
 
   IDialogues& Dialogues() const { return Controleur.Dialogues(); }

@@ -38,7 +38,12 @@ TFichiersTablette::TFichiersTablette(const QString& dossier)
       Classes(dossier % u"/CLASSES"),
       Photos(dossier % u"/PHOTOS"),
       Repas(dossier % u"/presences.txt"),
-      Transferes(dossier % u"/transferes.txt") {}
+      Transferes(dossier % u"/transferes.txt") {
+  try {
+    AcheverFichiers(dossier);
+  } catch (const Exception&) {  // the copies are as they are: what reads them says so
+  }
+}
 
 int NombreLignesLocales(const QString& chemin) {
   const auto copie = LireCopie(chemin);

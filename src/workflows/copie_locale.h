@@ -14,6 +14,7 @@ class IDialogues;
 struct TFichiersTablette {
   explicit TFichiersTablette(const TReglagesPoste& reglages)
       : TFichiersTablette(DossierPresences(reglages)) {}
+  /// An exchange of the copies that was cut off is ended first.
   explicit TFichiersTablette(const QString& dossier);
 
   QString Eleves;

@@ -2,9 +2,9 @@
 
 namespace {
 
-/// By year of income. In each, in the order of the services: morning, midday, evening, Wednesday and study
-/// are care; meal and soup are not. An amount that is not known is written on no
-/// sheet.
+/// By year of income, with the limits that the tax administration publishes for it. In each, in the order of
+/// the services: morning, midday, evening, Wednesday and study are care; meal and soup are not. An amount
+/// that is not known is written on no sheet.
 constexpr TReglesFiscales kRegles[] = {
     {0, 14, 21, Currency(), {true, true, true, true, true, false, false}},
     {2020, 14, 21, Currency::Brut(130000), {true, true, true, true, true, false, false}},

@@ -1,6 +1,7 @@
 #include "workflows/transfert_repas.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include "core/curseur.h"
 #include "core/exceptions.h"
@@ -49,19 +50,19 @@ class TCopie {
     }
   }
 
-  /// Pictures that have not been copied stay in their file as they are. The pupils come last: with the first
-  /// copy, where they are, the rest is there too. A later one that is cut short before them leaves the new
-  /// classes with the pupils of before; who came in meanwhile has no name until the next transfer.
+  /// Pictures that have not been copied stay in their file as they are.
   void Enregistrer(const TFichiersTablette& fichiers, bool avecPhotos) const {
-    std::vector<std::pair<QString, QByteArray>> tous{{fichiers.Classes, classes_.EnOctets()}};
-    if (avecPhotos) tous.emplace_back(fichiers.Photos, photos_.EnOctets());
-    tous.emplace_back(fichiers.Eleves, eleves_.EnOctets());
-    EcrireFichiers(tous);
+    std::vector<std::pair<QString, QByteArray>> tous{{Nom(fichiers.Classes), classes_.EnOctets()},
+                                                     {Nom(fichiers.Eleves), eleves_.EnOctets()}};
+    if (avecPhotos) tous.emplace_back(Nom(fichiers.Photos), photos_.EnOctets());
+    EcrireFichiers(QFileInfo(fichiers.Eleves).path(), tous);
   }
 
   const QStringList& PhotosAbimees() const { return abimees_; }
 
  private:
+  static QString Nom(const QString& chemin) { return QFileInfo(chemin).fileName(); }
+
   TDataSet eleves_{{u"ELEVE_ID"_s, u"MATRICULE"_s, u"NOM"_s, u"PRENOM"_s, u"FLG_RADIE"_s}};
   TDataSet classes_{{u"ELEVE_ID"_s, u"CLASSE"_s, u"SOUS_CLASSE"_s}};
   TDataSet photos_{{u"ELEVE_ID"_s, u"PHOTO"_s}};

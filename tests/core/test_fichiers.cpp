@@ -12,6 +12,8 @@
 #include "core/exceptions.h"
 #include "core/fichiers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class TFichiersEssai : public testing::Test {
@@ -60,4 +62,19 @@ TEST_F(TFichiersEssai, APipeIsWrittenThroughAndStays) {
   struct stat etat {};
   ASSERT_EQ(stat(tube.constData(), &etat), 0);
   EXPECT_TRUE(S_ISFIFO(etat.st_mode));
+}
+
+TEST_F(TFichiersEssai, FilesThatBelongTogetherAreReplacedTogether) {
+  const auto lus = [this] { return Lu(Chemin("A")) + ' ' + Lu(Chemin("B")); };
+  EcrireFichiers(dossier_.path(), {{u"A"_s, "a1"}, {u"B"_s, "b1"}});
+  EcrireFichier(Chemin("A.nouveau"), "a2");
+  AcheverFichiers(dossier_.path());
+  EXPECT_EQ(lus(), "a1 b1") << "cut off before both were written";
+  EcrireFichiers(dossier_.path(), {{u"A"_s, "a3"}, {u"B"_s, "b3"}});
+  EXPECT_EQ(lus(), "a3 b3");
+  EcrireFichier(Chemin("B.nouveau"), "b4");
+  EcrireFichier(Chemin("remplacement.txt"), "A\nB\n");  // cut off between the two
+  AcheverFichiers(dossier_.path());
+  EXPECT_EQ(lus(), "a3 b4");
+  EXPECT_EQ(QDir(dossier_.path()).entryList(QDir::Files), (QStringList{u"A"_s, u"B"_s}));
 }

@@ -66,7 +66,7 @@ bool TFrmListe::Essayer(const std::function<void()>& faire) {
     faire();
     return true;
   } catch (const Exception& e) {
-    Dire(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    Dire(TNiveauEtat::Refus, u"Non enregistré"_s);
     contexte_.Dialogues().Message(e.Message);
     return false;
   }

@@ -16,7 +16,7 @@ bool EstTape(const TChamp& champ) {
 TLien AnnoncerRefus(TChamps& champs, ILienPrincipal& principal) {
   champs.SurRefus = [&principal](const TChamp& champ, const QString& faute) {
     const bool nomme = faute == champ.Refus;  // the words of the field itself tell what they are about
-    principal.Etat(TNiveauEtat::Erreur,
+    principal.Etat(TNiveauEtat::Refus,
                    nomme ? QString(u"Non enregistré : " % faute)
                          : QString(u"Non enregistré : « " % NomDuChamp(champ) % u" » : " % faute));
   };

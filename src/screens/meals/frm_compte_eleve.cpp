@@ -17,7 +17,7 @@ QString Euros(Currency montant) { return FormatDeuxDecimales(montant) % u" €";
 
 TFrmCompteEleve::TFrmCompteEleve(TContexteEcran& contexte)
     : TFrmClasseJour(contexte, GenerationRepas(true),
-                     {{u"Nom de l'élève"_s, 260}, {u"Solde Compte"_s, 200}}) {
+                     {{u"Nom de l'élève"_s, 260}, {u"Solde Compte"_s, 200, TGenre::Montant}}) {
   liens_ += Grille.SurChoix.Suivre([this] { Annoncer(); });
 }
 
@@ -55,20 +55,20 @@ QString TFrmCompteEleve::TotalRecu() const {
   return u"Total reçu ce jour : " % Euros(total);
 }
 
-QString TFrmCompteEleve::TexteSolde(const TEleve& eleve) const {
-  const QString solde = Euros(eleve.SoldeRepas());
+TMontantNote TFrmCompteEleve::Solde(const TEleve& eleve) const {
   const bool paye = Globals.Eleves->RepasPaiements().PaiementDu(eleve.Id, Aujourdhui(),
                                                                 TPaiementRepas::Liquide) != nullptr ||
                     eleve.RecuLe(Aujourdhui()) != Currency();
-  return paye ? solde % u"  (+" % FormatDeuxDecimales(eleve.RecuLe(Aujourdhui())) % u')' : solde;
+  return {eleve.SoldeRepas(),
+          paye ? QString(u"  (+" % FormatDeuxDecimales(eleve.RecuLe(Aujourdhui())) % u')') : QString()};
 }
 
 // What cannot be read leaves the list as it was.
 void TFrmCompteEleve::Remplir() {
   TEleve* courant = Courant();
-  std::vector<std::pair<TEleve*, QString>> soldes;
+  std::vector<std::pair<TEleve*, TMontantNote>> soldes;
   if (const TClasse* classe = Classe())
-    for (TEleve* eleve : classe->ListeEleves) soldes.emplace_back(eleve, TexteSolde(*eleve));
+    for (TEleve* eleve : classe->ListeEleves) soldes.emplace_back(eleve, Solde(*eleve));
   {
     const TGrille::TLot lot(Grille);
     Grille.Vider();

@@ -52,7 +52,7 @@ class TFrmCompteEleve : public TFrmClasseJour {
   void ChangerJour(void (TJourEcran::*pas)()) override;
   void Vider();
   void Remplir();
-  QString TexteSolde(const TEleve& eleve) const;
+  TMontantNote Solde(const TEleve& eleve) const;
 
   bool enSaisie_ = false;
   bool compte_ = false;

@@ -115,7 +115,7 @@ void TFrmParametres::ServeurFtpChange() {
   try {
     TChampsParametres::Sauver();
   } catch (const Exception& e) {
-    Dire(TNiveauEtat::Erreur, u"Non enregistré : " % e.Message);
+    Dire(TNiveauEtat::Refus, u"Non enregistré : " % e.Message);
   }
 }
 
@@ -186,7 +186,7 @@ bool TFrmParametres::SauverGroupes() {
   } catch (const Exception& e) {
     Globals.GroupesFrais->Remettre();
     RemplirGroupes(nullptr);
-    Dire(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    Dire(TNiveauEtat::Refus, u"Non enregistré"_s);
     contexte_.Dialogues().Message(e.Message);
     return false;
   }

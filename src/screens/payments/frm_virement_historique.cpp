@@ -175,7 +175,7 @@ bool TFrmVirement::Enregistrer(TExtrait& extrait, const QString& fait) {
     Signaler(TNiveauEtat::Succes, fait);
     return true;
   } catch (const Exception& e) {
-    Signaler(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    Signaler(TNiveauEtat::Refus, u"Non enregistré"_s);
     contexte_.Dialogues().Message(e.Message);
     extraits.Remettre();
     RemplirApercu();

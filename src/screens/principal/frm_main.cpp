@@ -332,8 +332,8 @@ void TFrmMain::Etat(TNiveauEtat niveau, const QString& texte) {
 
 // What a screen refused, or told by the way, is no word about the next one.
 void TFrmMain::OublierEcran() {
-  const bool refus = etat_.Niveau == TNiveauEtat::Erreur && etat_.Texte.startsWith(u"Non enregistré");
-  if (refus || etat_.Niveau == TNiveauEtat::Neutre) Etat(TNiveauEtat::Neutre, {});
+  if (etat_.Niveau == TNiveauEtat::Refus || etat_.Niveau == TNiveauEtat::Neutre)
+    Etat(TNiveauEtat::Neutre, {});
 }
 
 void TFrmMain::EtatApresEcran(TNiveauEtat niveau, const QString& fait) {

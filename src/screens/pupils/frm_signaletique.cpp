@@ -52,7 +52,7 @@ TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte)
   champs_.SurEnregistrer = [this](const TChamp& champ) { EnregistrerEleve(champ); };
   refus_ = AnnoncerRefus(champs_, contexte.Principal);
   champs_.SurEchec = [this](const TChamp& champ, const QString& faute) {
-    contexte_.Principal.Etat(TNiveauEtat::Erreur, QString(u"Non enregistré : " % NomDuChamp(champ)));
+    contexte_.Principal.Etat(TNiveauEtat::Refus, QString(u"Non enregistré : " % NomDuChamp(champ)));
     contexte_.Dialogues().Message(faute);
   };
   imprimeur_.SurAllerAuChamp = [this](TEleve& eleve, const QString& champ) { AllerAuChamp(eleve, champ); };

@@ -87,7 +87,7 @@ bool TFrmSignaletique::Enregistrer(TDistributor& collection, const std::function
     contexte_.Principal.Etat(TNiveauEtat::Succes, QString(fait % u" : enregistré pour " % nomComplet_));
     return true;
   } catch (const Exception& e) {
-    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    contexte_.Principal.Etat(TNiveauEtat::Refus, u"Non enregistré"_s);
     contexte_.Dialogues().Message(e.Message);
     collection.Remettre();
     return false;
@@ -128,7 +128,7 @@ void TFrmSignaletique::DonnerCompte(TEleve& eleve, const QString& numero, const 
     contexte_.Principal.Etat(TNiveauEtat::Succes, QString(u"N° compte : enregistré pour " % nomComplet_));
   } catch (const Exception& e) {
     std::tie(eleve.NumCompte, eleve.NomTitulaireCompte) = avant;
-    contexte_.Principal.Etat(TNiveauEtat::Erreur, u"Non enregistré"_s);
+    contexte_.Principal.Etat(TNiveauEtat::Refus, u"Non enregistré"_s);
     contexte_.Dialogues().Message(e.Message);
   }
   champs_.Montrer(&eleve);

@@ -26,6 +26,7 @@ QString IconeDeNiveau(TNiveauEtat niveau) {
     case TNiveauEtat::Alerte:
       return u"data-warning"_s;
     case TNiveauEtat::Erreur:
+    case TNiveauEtat::Refus:
       return u"data-error"_s;
     case TNiveauEtat::Neutre:
       break;

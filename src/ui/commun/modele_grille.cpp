@@ -148,13 +148,8 @@ FiltreGrille::FiltreGrille(const TGrille& grille, ModeleGrille& modele, QObject*
   setAutoAcceptChildRows(true);
 }
 
-void FiltreGrille::Chercher(const QString& texte) {
-  cherche_ = texte.trimmed();
-  invalidateFilter();
-}
-
 bool FiltreGrille::filterAcceptsRow(int rang, const QModelIndex& parent) const {
-  return cherche_.isEmpty() || grille_.Contient(modele_.Ligne(modele_.index(rang, 0, parent)), cherche_);
+  return grille_.EstVue(modele_.Ligne(modele_.index(rang, 0, parent)));
 }
 
 bool FiltreGrille::lessThan(const QModelIndex& a, const QModelIndex& b) const {

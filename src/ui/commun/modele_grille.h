@@ -57,8 +57,8 @@ class FiltreGrille : public QSortFilterProxyModel {
   Q_OBJECT
  public:
   FiltreGrille(const TGrille& grille, ModeleGrille& modele, QObject* parent);
-  void Chercher(const QString& texte);
-  bool EstFiltre() const { return !cherche_.isEmpty(); }
+  /// The words of the grid's filter are others.
+  void Refiltrer() { invalidateFilter(); }
 
  protected:
   bool filterAcceptsRow(int rang, const QModelIndex& parent) const override;
@@ -67,5 +67,4 @@ class FiltreGrille : public QSortFilterProxyModel {
  private:
   const TGrille& grille_;
   ModeleGrille& modele_;
-  QString cherche_;
 };

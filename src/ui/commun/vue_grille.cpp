@@ -89,6 +89,7 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
       ecran_(ecran),
       modele_(new ModeleGrille(grille, this)),
       filtre_(new FiltreGrille(grille, *modele_, this)) {
+  grille.Filtre.clear();  // of a view that is gone
   setAccessibleName(nom);
   setModel(filtre_);
   setItemDelegate(new DelegueGrille(this));
@@ -189,7 +190,7 @@ void VueGrille::RemettreGroupes() {
     const int ligne = LigneDe(index);
     if (!grille_.Ligne(ligne).Tete) continue;
     groupes = true;
-    setExpanded(index, filtre_->EstFiltre() || !grille_.EstFerme(ligne));
+    setExpanded(index, !grille_.Filtre.isEmpty() || !grille_.EstFerme(ligne));
   }
   setRootIsDecorated(groupes);
   setIndentation(groupes ? Theme::Px(15) : 0);
@@ -208,7 +209,8 @@ void VueGrille::Filtrer(ChampFiltre& champ) {
   connect(&champ, &QLineEdit::textChanged, this, [this](const QString& texte) {
     {
       const Pendant pendant(enCours_);
-      filtre_->Chercher(texte);
+      grille_.Filtre = texte.trimmed();
+      filtre_->Refiltrer();
       RemettreGroupes();
     }
     // A row out of sight is not one to work on.

@@ -9,6 +9,26 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Pupils go in the order of the column that was pressed; the records of each stay in that of their days.
+class Passage : public QTreeWidgetItem {
+ public:
+  Passage(const QStringList& textes, std::size_t rang) : QTreeWidgetItem(textes), Rang(rang) {}
+
+  bool operator<(const QTreeWidgetItem& autre) const override {
+    const auto& suivant = static_cast<const Passage&>(autre);
+    const int colonne = treeWidget()->sortColumn();
+    const bool montant = treeWidget()->header()->sortIndicatorOrder() == Qt::AscendingOrder;
+    if (parent() != nullptr) return montant ? Rang < suivant.Rang : suivant.Rang < Rang;
+    return ComparerTextes(text(colonne), suivant.text(colonne)) < 0;
+  }
+
+  const std::size_t Rang;  ///< among the pupils who came, or among the records of one
+};
+
+}  // namespace
+
 ArbrePassages::ArbrePassages(TFrmRecapitulatif& form, QWidget* parent) : QTreeWidget(parent), form_(form) {
   setAccessibleName(u"Entrées et sorties par élève"_s);
   setHeaderLabels({u"Nom et prénom / date"_s, u"Classe / type"_s, u"Entrée"_s, u"Sortie"_s});
@@ -16,6 +36,8 @@ ArbrePassages::ArbrePassages(TFrmRecapitulatif& form, QWidget* parent) : QTreeWi
   setAllColumnsShowFocus(true);
   setTabKeyNavigation(false);
   header()->setStretchLastSection(false);
+  header()->setSortIndicator(-1, Qt::AscendingOrder);
+  setSortingEnabled(true);
   header()->setSectionResizeMode(0, QHeaderView::Stretch);
   for (int colonne = 1; colonne < columnCount(); ++colonne)
     header()->resizeSection(colonne, Theme::Px(colonne == 1 ? 160 : 96));
@@ -28,7 +50,8 @@ void ArbrePassages::Remplir() {
   clear();
   QList<QTreeWidgetItem*> lignes;
   for (const TEleve* eleve : form_.Presents()) {
-    auto* ligne = new QTreeWidgetItem(QStringList{eleve->NomComplet(), eleve->LibelleClasse()});
+    auto* ligne =
+        new Passage({eleve->NomComplet(), eleve->LibelleClasse()}, static_cast<std::size_t>(lignes.size()));
     ligne->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
     lignes += ligne;
   }
@@ -38,10 +61,10 @@ void ArbrePassages::Remplir() {
 
 void ArbrePassages::Ouvrir(QTreeWidgetItem& ligne) {
   if (ligne.parent() != nullptr || ligne.childCount() > 0) return;
-  const auto rang = static_cast<std::size_t>(indexOfTopLevelItem(&ligne));
+  const TEleve& eleve = *form_.Presents()[static_cast<const Passage&>(ligne).Rang];
   QList<QTreeWidgetItem*> passages;
-  for (const QStringList& textes : form_.Passages(*form_.Presents()[rang]))
-    passages += new QTreeWidgetItem(textes);
+  for (const QStringList& textes : form_.Passages(eleve))
+    passages += new Passage(textes, static_cast<std::size_t>(passages.size()));
   ligne.addChildren(passages);
 }
 

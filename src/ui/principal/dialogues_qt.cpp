@@ -3,11 +3,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QHeaderView>
+#include <QIdentityProxyModel>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QTreeView>
 
+#include "core/formats.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/theme.h"
 #include "ui/principal/dialogue_reessai.h"
@@ -42,11 +45,29 @@ void Effacer(QDialog& boite) {
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+enum TColonneFichier { kTaille = 1, kType, kModifie };
+
+/// Sizes and dates as the school writes them: the model writes them in the language of the machine.
+class FichiersEnFrancais : public QIdentityProxyModel {
+ public:
+  using QIdentityProxyModel::QIdentityProxyModel;
+
+  QVariant data(const QModelIndex& index, int role) const override {
+    const auto* fichiers = qobject_cast<QFileSystemModel*>(sourceModel());
+    const QModelIndex ici = mapToSource(index);
+    if (role == Qt::DisplayRole && fichiers != nullptr && index.column() == kModifie)
+      return LocaleEcole().toString(fichiers->lastModified(ici), u"dd/MM/yyyy HH:mm"_s);
+    if (role == Qt::DisplayRole && fichiers != nullptr && index.column() == kTaille)
+      return fichiers->isDir(ici) ? QString() : LocaleEcole().formattedDataSize(fichiers->size(ici));
+    return QIdentityProxyModel::data(index, role);
+  }
+};
+
 /// Qt's own dialog: names have the room, the kind of a file, which is not in French, goes.
-void Habiller(const QFileDialog& dialogue) {
+void Habiller(QFileDialog& dialogue) {
+  dialogue.setProxyModel(new FichiersEnFrancais(&dialogue));
   auto* detail = dialogue.findChild<QTreeView*>(u"treeView"_s);
   if (detail == nullptr) return;
-  constexpr int kType = 2;
   detail->hideColumn(kType);
   detail->header()->setStretchLastSection(false);
   detail->header()->setSectionResizeMode(QHeaderView::ResizeToContents);

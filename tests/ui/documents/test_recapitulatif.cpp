@@ -101,6 +101,11 @@ TEST_F(Recapitulatif, TheListsPrintAndGoIntoFiles) {
   Aller(TabBalancePositive);
   EXPECT_EQ(Lignes(Ecran().Positives), (QStringList{"CLAES Zoé|M1 A|7,00 €||", "BODART Max|P1 A|5,00 €||"}));
   EXPECT_TRUE(Imprime().contains("Liste des balances positives"));
+  for (auto* filtre : Programme.Fenetre().findChildren<ChampFiltre*>())
+    if (filtre->isVisible()) QTest::keyClicks(filtre, "zoe");
+  const QString filtree = Imprime();
+  EXPECT_TRUE(filtree.contains("Lignes contenant « zoe »") && filtree.contains("CLAES"));
+  EXPECT_FALSE(filtree.contains("BODART"));
   EXPECT_TRUE(Exporte().contains("\"BODART\";\"Max\";\"P1 A\";\"5,00\""));
 }
 
