@@ -50,7 +50,7 @@ TEST(Connexion, TheUpgradeScriptRunsAsOftenAsOneLikes) {
   TBaseEssai base;
   const QStringList avant = Schema(base);
   EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM RDB$RELATIONS WHERE RDB$SYSTEM_FLAG = 0"_s), u"25");
-  EXPECT_EQ(Instructions(ScriptMiseAJour()).size(), 99);
+  EXPECT_EQ(Instructions(ScriptMiseAJour()).size(), 100);
   base->GetNextId(u"ELEVES"_s);
   base.Sql(u"UPDATE PARAMETRE SET VALEUR = '2020' WHERE PARAMETRE_ID = 27"_s);
   base->MettreAJour();

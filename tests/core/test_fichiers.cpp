@@ -65,7 +65,7 @@ TEST_F(TFichiersEssai, APipeIsWrittenThroughAndStays) {
 }
 
 TEST_F(TFichiersEssai, FilesThatBelongTogetherAreReplacedTogether) {
-  const auto lus = [this] { return Lu(Chemin("A")) + ' ' + Lu(Chemin("B")); };
+  const auto lus = [this]() -> QByteArray { return Lu(Chemin("A")) + ' ' + Lu(Chemin("B")); };
   EcrireFichiers(dossier_.path(), {{u"A"_s, "a1"}, {u"B"_s, "b1"}});
   EcrireFichier(Chemin("A.nouveau"), "a2");
   AcheverFichiers(dossier_.path());

@@ -11,20 +11,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Pupils go in the order of the column that was pressed; the records of each stay in that of their days.
-class Passage : public QTreeWidgetItem {
+/// A pupil, put in order by the column that was pressed; his records stay in that of their days.
+class Passant : public QTreeWidgetItem {
  public:
-  Passage(const QStringList& textes, std::size_t rang) : QTreeWidgetItem(textes), Rang(rang) {}
-
-  bool operator<(const QTreeWidgetItem& autre) const override {
-    const auto& suivant = static_cast<const Passage&>(autre);
-    const int colonne = treeWidget()->sortColumn();
-    const bool montant = treeWidget()->header()->sortIndicatorOrder() == Qt::AscendingOrder;
-    if (parent() != nullptr) return montant ? Rang < suivant.Rang : suivant.Rang < Rang;
-    return ComparerTextes(text(colonne), suivant.text(colonne)) < 0;
+  explicit Passant(const TEleve& eleve)
+      : QTreeWidgetItem(QStringList{eleve.NomComplet(), eleve.LibelleClasse()}), Eleve(eleve) {
+    setChildIndicatorPolicy(ShowIndicator);
   }
 
-  const std::size_t Rang;  ///< among the pupils who came, or among the records of one
+  bool operator<(const QTreeWidgetItem& autre) const override {
+    const int colonne = treeWidget()->sortColumn();
+    return ComparerTextes(text(colonne), autre.text(colonne)) < 0;
+  }
+
+  const TEleve& Eleve;
+};
+
+/// Never before another: a stable order leaves them as they came.
+class Passage : public QTreeWidgetItem {
+ public:
+  using QTreeWidgetItem::QTreeWidgetItem;
+  bool operator<(const QTreeWidgetItem&) const override { return false; }
 };
 
 }  // namespace
@@ -37,7 +44,9 @@ ArbrePassages::ArbrePassages(TFrmRecapitulatif& form, QWidget* parent) : QTreeWi
   setTabKeyNavigation(false);
   header()->setStretchLastSection(false);
   header()->setSortIndicator(-1, Qt::AscendingOrder);
-  setSortingEnabled(true);
+  header()->setSortIndicatorShown(true);
+  header()->setSectionsClickable(true);
+  connect(header(), &QHeaderView::sortIndicatorChanged, this, &ArbrePassages::Trier);
   header()->setSectionResizeMode(0, QHeaderView::Stretch);
   for (int colonne = 1; colonne < columnCount(); ++colonne)
     header()->resizeSection(colonne, Theme::Px(colonne == 1 ? 160 : 96));
@@ -49,22 +58,23 @@ ArbrePassages::ArbrePassages(TFrmRecapitulatif& form, QWidget* parent) : QTreeWi
 void ArbrePassages::Remplir() {
   clear();
   QList<QTreeWidgetItem*> lignes;
-  for (const TEleve* eleve : form_.Presents()) {
-    auto* ligne =
-        new Passage({eleve->NomComplet(), eleve->LibelleClasse()}, static_cast<std::size_t>(lignes.size()));
-    ligne->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
-    lignes += ligne;
-  }
+  for (const TEleve* eleve : form_.Presents()) lignes += new Passant(*eleve);
   addTopLevelItems(lignes);
+  Trier();
   if (topLevelItemCount() > 0) setCurrentItem(topLevelItem(0));
+}
+
+/// By name or class; nothing else of a pupil stands on his line.
+void ArbrePassages::Trier() {
+  const int colonne = header()->sortIndicatorSection();
+  if (colonne == 0 || colonne == 1) sortItems(colonne, header()->sortIndicatorOrder());
 }
 
 void ArbrePassages::Ouvrir(QTreeWidgetItem& ligne) {
   if (ligne.parent() != nullptr || ligne.childCount() > 0) return;
-  const TEleve& eleve = *form_.Presents()[static_cast<const Passage&>(ligne).Rang];
   QList<QTreeWidgetItem*> passages;
-  for (const QStringList& textes : form_.Passages(eleve))
-    passages += new Passage(textes, static_cast<std::size_t>(passages.size()));
+  for (const QStringList& textes : form_.Passages(static_cast<const Passant&>(ligne).Eleve))
+    passages += new Passage(textes);
   ligne.addChildren(passages);
 }
 

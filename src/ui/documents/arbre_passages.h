@@ -17,6 +17,7 @@ class ArbrePassages : public QTreeWidget {
 
  private:
   void Remplir();
+  void Trier();
   void Ouvrir(QTreeWidgetItem& ligne);
 
   TFrmRecapitulatif& form_;
