@@ -1,5 +1,7 @@
 #include "services/activites.h"
 
+#include "core/query_internal.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -58,6 +60,17 @@ void TActivitesEleves::DefineQuery() {
   KeyField = "ACTIVITE_ELEVE_ID";
   CounterName = u"ACTIVITES_ELEVES"_s;
   Colonnes = kColonnesInscriptions;
+}
+
+// Those that another workstation has added meanwhile too.
+void TActivitesEleves::Reprendre(int ancienne, int nouvelle) {
+  TQueryInternal(Base(),
+                 u"UPDATE ACTIVITES_ELEVES SET ACTIVITE_ID = :nouvelle WHERE ACTIVITE_ID = :ancienne"_s)
+      .Parametre(u"nouvelle"_s, nouvelle)
+      .Parametre(u"ancienne"_s, ancienne)
+      .Executer();
+  for (TActiviteEleve& inscription : *this)
+    if (inscription.ActiviteId == ancienne) inscription.ActiviteId = nouvelle;
 }
 
 TActiviteEleve* TActivitesEleves::ActivitesEleve(int eleve) const { return parEleve_.Premier(eleve); }

@@ -57,6 +57,9 @@ class TActivitesEleves : public TCollection<TActiviteEleve> {
   TActiviteEleve* ActiviteDuJour(int eleve, TDateTime date) const;
   /// The first row of the pupil whose flag of the weekday is set and whose activity takes place then.
   TActiviteEnCours ActiviteEnCours(int eleve, TDateTime date) const;
+  /// Who followed an activity that was deleted follows the one that took its place, by their keys. Raises
+  /// EDistributor.
+  void Reprendre(int ancienne, int nouvelle);
 
  protected:
   void DefineQuery() override;

@@ -6,6 +6,7 @@
 #include "core/exceptions.h"
 #include "core/query_internal.h"
 #include "workflows/credit_extraits.h"
+#include "workflows/memoriser.h"
 #include "workflows/repartition.h"
 
 using namespace Qt::StringLiterals;
@@ -51,7 +52,7 @@ void LireFrais(const std::vector<int>& cles) {
 class TTravail {
  public:
   TTravail(IDialogues& dialogues, std::size_t total)
-      : dialogues_(dialogues), progression_(dialogues, static_cast<int>(total)) {}
+      : dialogues_(dialogues), attente_(dialogues), progression_(dialogues, static_cast<int>(total)) {}
   void Suivant(const QString& quoi, int eleveId) {
     dialogues_.TraiterEvenements();
     progression_.Avancer(++fait_, quoi % NomDe(eleveId));
@@ -59,6 +60,7 @@ class TTravail {
 
  private:
   IDialogues& dialogues_;
+  TAttente attente_;
   TProgression progression_;
   int fait_ = 0;
 };
@@ -146,6 +148,7 @@ void TAttributionFrais::DefinirModePaye(bool paye) {
 }
 
 void TAttributionFrais::Enregistrer(TFrais& frais) {
+  ExigerCle(frais);  // its lines would name no fee
   const TRelecture relecture(frais);
   const std::vector<int> doivent = frais.ElevesFrais();
   const std::set<int> dejaLa(doivent.begin(), doivent.end());
@@ -174,34 +177,37 @@ void TAttributionFrais::Enregistrer(TFrais& frais) {
   depart_ = coches_;  // with those that another workstation had stored already
 }
 
-TAttributionFrais::TLignesRetirees TAttributionFrais::RetirerATous(TFrais& frais) {
+void TAttributionFrais::RetirerATous(TFrais& frais, TLignesRetirees& retirees) {
   const TRelecture relecture(frais);
   const std::vector<int> doivent = frais.ElevesFrais();
   LireFrais(doivent);
-  TLignesRetirees retirees;
   TTravail travail(controleur_.Dialogues(), doivent.size());
   for (const int cle : doivent) {
     travail.Suivant(kSuppression, cle);
     if (auto retiree = Retirer(cle, frais.Id)) retirees.push_back(std::move(*retiree));
   }
-  return retirees;
 }
 
-void TAttributionFrais::Rendre(TFrais& frais, const TLignesRetirees& lignes) {
+void TAttributionFrais::Rendre(TFrais& frais, TLignesRetirees& lignes) {
   const TRelecture relecture(frais);
   TTravail travail(controleur_.Dialogues(), lignes.size());
   QStringList refus;
-  for (const TLigneRetiree& ligne : lignes) {
+  for (; !lignes.empty(); lignes.erase(lignes.begin())) {
+    const TLigneRetiree& ligne = lignes.front();
     travail.Suivant(kAjout, ligne.EleveId);
+    if (Globals.Eleves->TrouverParId(ligne.EleveId) == nullptr) {
+      refus += ligne.Nom % u" : n'est plus dans l'année affichée"_s;
+      continue;
+    }
     auto copie = CopieDe(*ligne.Ligne);
     if (const QString raison = RefusMouvement(*copie, copie->MontantVerse); !raison.isEmpty()) {
-      refus += NomDe(ligne.EleveId) % u" : " % raison;
+      refus += ligne.Nom % u", sans son paiement : " % raison;
       OterPaiement(*copie);
     }
     Donner(ligne.EleveId, std::move(copie), frais.Id);
   }
   if (!refus.isEmpty())
-    controleur_.Dialogues().Message(u"Le frais est rendu sans son paiement à :\n" % refus.join(u'\n'));
+    controleur_.Dialogues().Message(u"Le frais n'est pas rendu tout entier :\n" % refus.join(u'\n'));
 }
 
 // Nobody in the table owes it at this moment, so a line that memory still has lost its row to another
@@ -224,7 +230,7 @@ std::optional<TAttributionFrais::TLigneRetiree> TAttributionFrais::Retirer(int e
   const TEleve* eleve = Globals.Eleves->TrouverParId(eleveId);
   TAllFraisEleve* lignes = eleve != nullptr ? eleve->GetAllFrais() : nullptr;
   if (TFraisEleve* ligne = lignes != nullptr ? lignes->LigneFrais(frais) : nullptr) {
-    TLigneRetiree retiree{eleveId, CopieDe(*ligne)};
+    TLigneRetiree retiree{eleveId, eleve->NomComplet(), CopieDe(*ligne)};
     lignes->Remove(*ligne);
     Sauver(*lignes);
     RelirePaiement(retiree.Ligne->ExtraitId, retiree.Ligne->GroupeFraisId);

@@ -32,21 +32,25 @@ class TAttributionFrais {
   void DefinirModePaye(bool paye);
 
   /// Gives the stored fee to who was ticked and takes it from who was unticked by hand, each pupil's lines
-  /// saved at once. Who owes it by now is read again: nobody gets a second line. Raises Exception at the
+  /// saved at once. Who owes it by now is read again: nobody gets a second line. Raises Exception for a fee
+  /// without a row, and at the
   /// first pupil whose lines cannot be saved; those before are stored, and the ticks say so.
   void Enregistrer(TFrais& frais);
 
   /// A line that was taken from a pupil of the year, so that it can come back.
   struct TLigneRetiree {
     int EleveId = 0;
+    QString Nom;
     std::unique_ptr<TFraisEleve> Ligne;
   };
   using TLignesRetirees = std::vector<TLigneRetiree>;
-  /// Takes the fee from all who owe it. Raises Exception as `Enregistrer`.
-  TLignesRetirees RetirerATous(TFrais& frais);
-  /// Gives those lines back, under a fee that nobody owes; without its payment, and says so, where the
-  /// movement of the bank is another's by now. Raises Exception as `Enregistrer`.
-  void Rendre(TFrais& frais, const TLignesRetirees& lignes);
+  /// Takes the fee from all who owe it; `retirees` gets each line as it goes. Raises Exception as
+  /// `Enregistrer`.
+  void RetirerATous(TFrais& frais, TLignesRetirees& retirees);
+  /// Gives those lines back, under a fee that nobody owes, and says which cannot come back whole: without its
+  /// payment, where the movement of the bank is another's by now, or not at all, where the pupil has left.
+  /// What is back leaves `lignes`. Raises Exception as `Enregistrer`.
+  void Rendre(TFrais& frais, TLignesRetirees& lignes);
 
  private:
   void Donner(int eleveId, std::unique_ptr<TFraisEleve> ligne, int frais);

@@ -107,14 +107,17 @@ TEST_F(TAttribution, TakenFromAllAndGivenBack) {
   Frais().InvalideElevesFrais();
   Globals.Eleves->PartsExtrait(8);
   const TGroupesFrais* groupes = Globals.GroupesFrais.get();
-  const auto lignes = attribution_.RetirerATous(Frais());
+  TAttributionFrais::TLignesRetirees lignes;
+  attribution_.RetirerATous(Frais(), lignes);
   EXPECT_TRUE(Globals.Eleves->PartsExtrait(8).empty()) << "free again";
   EXPECT_NE(Globals.GroupesFrais.get(), groupes) << "what the groups have received is read again";
   lignes[1].Ligne->ExtraitId = 9;
+  lignes.push_back({999, u"PARTI Paul"_s, CopieDe(*lignes[0].Ligne)});
   TEleveEssai(ecole_, 4).paie("5", 0, 0, "x");
   Base_.Sql("UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 9");
-  Base_.Dialogues.Attend("Le frais est rendu sans son paiement à :\n" + Eleve(2).NomComplet() +
-                         " : Le mouvement de la banque a été attribué autrement entre-temps.");
+  Base_.Dialogues.Attend("Le frais n'est pas rendu tout entier :\n" + Eleve(2).NomComplet() +
+                         ", sans son paiement : Le mouvement de la banque a été attribué autrement "
+                         "entre-temps.\nPARTI Paul : n'est plus dans l'année affichée");
   EXPECT_EQ(Rangees(), "");
   EXPECT_EQ(Eleve(1).GetAllFrais()->Count(), 0);
   attribution_.Rendre(Frais(), lignes);

@@ -6,6 +6,7 @@
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "pupils/eleves.h"
+#include "workflows/memoriser.h"
 
 using namespace Qt::StringLiterals;
 
@@ -70,18 +71,19 @@ void TFrmReleveCalendrier::PlannerCalendar1DblClick() {
   releve->HeureEntree = Globals.TarifsGarderies->DebutFamille(kTypes[vu_.Type].Famille);
   if (Globals.Parametres->EstVrai(TParam::PlusieursImplantations))
     releve->CodeImplantation = eleve_.CodeImplantation;
-  const bool ajoute = Globals.Presences->AjoutePresence(std::move(releve)) != nullptr;
+  const TPresence* ajoute = Globals.Presences->AjoutePresence(std::move(releve));
   try {
     Globals.Presences->Save();
+    if (ajoute != nullptr) ExigerCle(*ajoute);
   } catch (const Exception& e) {
     Globals.Presences->Remettre();
     Noter(u"Rien n'a été enregistré."_s);
     return contexte_.Dialogues().Message(e.Message);
   }
   marques_.insert(date);
-  Noter(ajoute ? QString(FormatJour(date) % u" : ajouté.")
-               : QString(FormatJour(date) %
-                         u" : marqué, mais il y avait déjà un relevé ; rien n'a été ajouté."));
+  Noter(ajoute != nullptr ? QString(FormatJour(date) % u" : ajouté.")
+                          : QString(FormatJour(date) %
+                                    u" : marqué, mais il y avait déjà un relevé ; rien n'a été ajouté."));
 }
 
 void TFrmReleveCalendrier::Noter(const QString& texte) {

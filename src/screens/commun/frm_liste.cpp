@@ -1,5 +1,7 @@
 #include "screens/commun/frm_liste.h"
 
+#include <QScopedValueRollback>
+
 #include "report/rapport.h"
 #include "screens/commun/refus.h"
 
@@ -50,7 +52,7 @@ void TFrmListe::Nouveau() {
 void TFrmListe::Modifier() { Passer(TModeEdition::Modification); }
 
 void TFrmListe::Annuler() {
-  if (mode_ == TModeEdition::Lecture) return;
+  if (mode_ == TModeEdition::Lecture || occupe_) return;
   Champs().AbandonnerTout();
   Passer(TModeEdition::Lecture);
   MontrerLigne();
@@ -62,6 +64,7 @@ bool TFrmListe::LaisserChamp() { return mode_ == TModeEdition::Lecture || Champs
 
 /// What cannot be stored is said in the words of the database; false then.
 bool TFrmListe::Essayer(const std::function<void()>& faire) {
+  const QScopedValueRollback pendant(occupe_, true);
   try {
     faire();
     return true;
@@ -73,7 +76,7 @@ bool TFrmListe::Essayer(const std::function<void()>& faire) {
 }
 
 bool TFrmListe::Enregistrer() {
-  if (mode_ == TModeEdition::Lecture || !Controler() || !Champs().Verifier()) return false;
+  if (mode_ == TModeEdition::Lecture || occupe_ || !Controler() || !Champs().Verifier()) return false;
   if (!Essayer([this] { Ranger(mode_ == TModeEdition::Nouveau); })) {
     Champs().SurFoyer(0);
     return false;
@@ -100,7 +103,7 @@ void TFrmListe::Supprimer() {
 }
 
 void TFrmListe::Retablir() {
-  if (mode_ != TModeEdition::Lecture || supprime_.empty()) return;
+  if (mode_ != TModeEdition::Lecture || occupe_ || supprime_.empty()) return;
   if (!Essayer([this] { Remettre(supprime_); })) return;
   supprime_.clear();
   Dire(TNiveauEtat::Succes, textes_.Retabli);
@@ -146,7 +149,7 @@ bool TFrmListe::Accepte(TCodeMessage code) const {
 bool TFrmListe::RecevoirMessage(const TMessage& message) {
   const TAction* action = ActionDe(message.Code);
   if (action == nullptr) return false;
-  if (Accepte(message.Code)) (this->*action->Faire)();
+  if (!occupe_ && Accepte(message.Code)) (this->*action->Faire)();
   return true;
 }
 

@@ -4,6 +4,7 @@
 #include "forms/champs.h"
 #include "forms/grille.h"
 #include "screens/contexte_ecran.h"
+#include "workflows/memoriser.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,6 +48,8 @@ class TFrmListe : public TForm {
   /// The record deleted last comes back as a new row; only until the next change.
   void Retablir();
   bool PeutRetablir() const { return !supprime_.empty(); }
+  /// It stores or deletes: nothing else can be begun.
+  bool EstOccupe() const { return occupe_; }
   /// The rows and columns of the list, in the order in which they are shown, in a preview.
   void Imprimer(const std::vector<int>& lignes, const std::vector<int>& colonnes);
 
@@ -99,6 +102,7 @@ class TFrmListe : public TForm {
   TTextesListe textes_;
   TModeEdition mode_ = TModeEdition::Lecture;
   TCellules supprime_;
+  bool occupe_ = false;
   TLiens liens_;
 };
 
@@ -199,15 +203,16 @@ class TFrmListeDe : public TFrmListe {
     Preparer(*neuf);
     remplir(*neuf);
     const T& objet = Collection().Add(std::move(neuf));
-    Sauver();
+    Sauver(&objet);
     Remplir();
     Choisir(&objet);
   }
 
   /// A refused save leaves nothing behind: memory is again what the table holds.
-  void Sauver() {
+  void Sauver(const T* neuf = nullptr) {
     try {
       Collection().Save();
+      if (neuf != nullptr) ExigerCle(*neuf);
       if (Collection().RangeesDisparues().empty()) return;
     } catch (const Exception&) {
       Collection().Remettre();

@@ -5,6 +5,7 @@
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "screens/parametres/pages_parametres.h"
+#include "workflows/memoriser.h"
 
 using namespace Qt::StringLiterals;
 
@@ -182,6 +183,7 @@ void TFrmParametres::RemplirGroupes(const TGroupeFrais* choisi) {
 bool TFrmParametres::SauverGroupes() {
   try {
     Globals.GroupesFrais->Save();
+    for (const TGroupeFrais& groupe : *Globals.GroupesFrais) ExigerCle(groupe);
     return true;
   } catch (const Exception& e) {
     Globals.GroupesFrais->Remettre();

@@ -77,22 +77,17 @@ bool TFrmMain::PeutSupprimerProfesseur() const {
 void TFrmMain::Supprimerunprofesseur1Click() {
   if (!PeutSupprimerProfesseur()) return;
   QuitterChamp();
+  if (!EcranAccepte()) return;
   if (!Contexte.Dialogues().ConfirmerGrave(
           u"Souhaitez-vous supprimer définitivement ce professeurs et les données de son compte ?"_s))
     return;
   TNoeud& noeud = *Arbre.Selection();
   TEleve& professeur = *noeud.Objet.En<TEleve>();
   const QString nom = professeur.NomComplet();
-  OublierEleve(professeur);
+  FermerEcran();  // a screen behind the open one may hold him too
+  if (Globals.EleveCourant == &professeur) Globals.EleveCourant = nullptr;
   TProfesseurs(Controleur).Supprimer(professeur);
   Arbre.Supprimer(noeud);
   Arbre.Annoncer();
-  Etat(TNiveauEtat::Succes, u"Professeur supprimé : " % nom);
-}
-
-// The open screen lets go of it before it ends.
-void TFrmMain::OublierEleve(const TEleve& eleve) {
-  if (Globals.EleveCourant != &eleve) return;
-  Globals.EleveCourant = nullptr;
-  Diffuser(TCodeMessage::EleveChange);
+  EtatApresEcran(TNiveauEtat::Succes, u"Professeur supprimé : " % nom);
 }

@@ -70,3 +70,15 @@ void TFrmActivites::MontrerNouveau() {
   for (const QString& nom : {u"edDateDebut"_s, u"edDateFin"_s})
     Champs().Proposer(Champs().Indice(nom), aujourdhui);
 }
+
+TCellules TFrmActivites::Oter() {
+  const int cle = Courant()->Id;
+  TCellules valeurs = TFrmListeDe::Oter();
+  supprimee_ = cle;
+  return valeurs;
+}
+
+void TFrmActivites::Remettre(const TCellules& valeurs) {
+  TFrmListeDe::Remettre(valeurs);
+  Globals.ActivitesEleves->Reprendre(supprimee_, Courant()->Id);
+}

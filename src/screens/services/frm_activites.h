@@ -11,4 +11,9 @@ class TFrmActivites : public TFrmListeDe<TActivite> {
   TCollection<TActivite>& Collection() const override;
   /// Both dates are today's at first.
   void MontrerNouveau() override;
+  TCellules Oter() override;
+  void Remettre(const TCellules& valeurs) override;
+
+ private:
+  int supprimee_ = 0;  ///< key of the activity deleted last
 };

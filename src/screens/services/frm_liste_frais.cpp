@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
+#include "core/accord.h"
 #include "core/mois.h"
 #include "screens/principal/arbre_eleves.h"
 
@@ -73,6 +74,12 @@ TTableChamps<T> ChampsFrais() {
   };
 }
 
+/// The whole school is its pupils; a class of the staff is ticked by itself.
+bool EstDuPersonnel(const TNoeud& noeud) {
+  const TClasse* classe = noeud.Objet.En<TClasse>();
+  return classe != nullptr && CategorieDeClasse(classe->CodeClasse) == TCategorie::Personnel;
+}
+
 }  // namespace
 
 TFrmListeFrais::TFrmListeFrais(TContexteEcran& contexte)
@@ -100,6 +107,7 @@ TEtatCoche TFrmListeFrais::EtatDe(const TNoeud* noeud) const {
     return attribution_.EstCoche(*eleve) ? TEtatCoche::Tous : TEtatCoche::Aucun;
   bool aucun = true, tous = true;
   for (const auto& enfant : Sous(noeud)) {
+    if (EstDuPersonnel(*enfant)) continue;
     const TEtatCoche etat = EtatDe(enfant.get());
     aucun = aucun && etat == TEtatCoche::Aucun;
     tous = tous && etat == TEtatCoche::Tous;
@@ -113,7 +121,7 @@ bool TFrmListeFrais::EstPaye(const TNoeud& noeud) const {
 }
 
 void TFrmListeFrais::Cocher(const TNoeud* noeud, bool coche) {
-  if (Ecrit()) CocherSous(noeud, coche);
+  if (Ecrit() && !EstOccupe()) CocherSous(noeud, coche);
   SurCoches();
   Annoncer();
 }
@@ -121,7 +129,8 @@ void TFrmListeFrais::Cocher(const TNoeud* noeud, bool coche) {
 void TFrmListeFrais::CocherSous(const TNoeud* noeud, bool coche) {
   if (const TEleve* eleve = noeud != nullptr ? noeud->Objet.En<TEleve>() : nullptr)
     attribution_.Cocher(*eleve, coche);
-  for (const auto& enfant : Sous(noeud)) CocherSous(enfant.get(), coche);
+  for (const auto& enfant : Sous(noeud))
+    if (!EstDuPersonnel(*enfant)) CocherSous(enfant.get(), coche);
 }
 
 QString TFrmListeFrais::TexteCoches() const {
@@ -183,24 +192,40 @@ TCellules TFrmListeFrais::Oter() {
   const bool recurent = frais.FlgRecurent;
   const int cle = frais.Id;
   TAttributionFrais::TLignesRetirees lignes;
-  if (frais.TypeFrais == TTypeFrais::Eleves) lignes = attribution_.RetirerATous(frais);
   try {
+    if (frais.TypeFrais == TTypeFrais::Eleves) attribution_.RetirerATous(frais, lignes);
     TCellules valeurs = TFrmListeDe::Oter();
     retirees_ = std::move(lignes);
     recurentSupprime_ = recurent;
+    rendu_ = 0;
     return valeurs;
-  } catch (const Exception&) {
-    if (TFrais* reste = Collection().ParCle(cle)) attribution_.Rendre(*reste, lignes);
-    throw;
+  } catch (const Exception& e) {
+    const QString reste = RendreApresRefus(cle, lignes);
+    throw Exception(e.Message % reste);
   }
 }
 
+/// The fee stays, and so do its pupils; what could not be given back is said.
+QString TFrmListeFrais::RendreApresRefus(int cle, TAttributionFrais::TLignesRetirees& lignes) {
+  TFrais* frais = Collection().ParCle(cle);
+  try {
+    if (frais != nullptr) attribution_.Rendre(*frais, lignes);
+  } catch (const Exception&) {  // told with the first refusal
+  }
+  Remplir();
+  OuvrirCoches(Courant());
+  return lignes.empty()
+             ? QString()
+             : QString(u"\n\nLe frais a déjà été retiré à " % CompterEleves(std::ssize(lignes)) % u'.');
+}
+
+// Stopped half-way the fee is there; the next try goes on with its pupils.
 void TFrmListeFrais::Remettre(const TCellules& valeurs) {
-  {
+  if (Collection().ParCle(rendu_) == nullptr) {
     const QScopedValueRollback recurent(recurent_, recurentSupprime_);
     TFrmListeDe::Remettre(valeurs);
+    rendu_ = Courant()->Id;
   }
-  attribution_.Rendre(*Courant(), retirees_);
-  retirees_.clear();
+  attribution_.Rendre(*Collection().ParCle(rendu_), retirees_);
   Remplir();
 }

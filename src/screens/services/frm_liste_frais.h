@@ -45,6 +45,7 @@ class TFrmListeFrais : public TFrmListeDe<TFrais> {
   void Remettre(const TCellules& valeurs) override;
 
  private:
+  QString RendreApresRefus(int cle, TAttributionFrais::TLignesRetirees& lignes);
   bool Ecrit() const { return Mode() != TModeEdition::Lecture; }
   void OuvrirCoches(TFrais* frais);
   const std::vector<std::unique_ptr<TNoeud>>& Sous(const TNoeud* noeud) const {
@@ -57,6 +58,7 @@ class TFrmListeFrais : public TFrmListeDe<TFrais> {
   TAttributionFrais::TLignesRetirees retirees_;  ///< of the fee that was deleted last
   bool recurent_ = false;                        ///< the same fee's, while it comes back
   bool recurentSupprime_ = false;
+  int rendu_ = 0;       ///< key under which it has come back, its pupils not all yet
   bool range_ = false;  ///< the new fee is stored, but not given to all yet
   int concerne_ = -1;
   int mois_ = -1;

@@ -192,7 +192,8 @@ bool DialoguesQt::Reessayer(const TReessai& reessai) {
 
 void DialoguesQt::Progression(int fait, int total, const QString& nom) { SurProgression(fait, total, nom); }
 
-void DialoguesQt::TraiterEvenements() { QCoreApplication::processEvents(); }
+// What is typed or pressed while work runs would change what it stands on.
+void DialoguesQt::TraiterEvenements() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
 
 // Keys struck during a long work, when the window did not answer, were not meant for what comes after it.
 void DialoguesQt::CurseurAttente(bool actif) {

@@ -18,6 +18,7 @@ class ListesServices : public TReglagesEssai {
     for (int i = 1; i < 5; ++i) Ecole.unEleve().enClasse("P1", "A");
     TEleveEssai(Ecole, 4).avec("FLG_RADIE");
     Ecole.unEleve().enClasse("P2", "A");
+    Ecole.unEleve().enClasse("PROFESSEURS", "");  // no part of "Toute l'école"
   }
   ArbreCoches& Arbre() {
     for (ArbreCoches* arbre : Programme.Fenetre().findChildren<ArbreCoches*>())
@@ -83,6 +84,10 @@ TEST_F(ListesServices, ActivitiesAreKeptAndDeleted) {
   EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM ACTIVITES_ELEVES"), "1") << "who followed it stays";
   Touche(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Base.Valeur("SELECT LIBELLE FROM ACTIVITES"), "Judo petits");
+  EXPECT_EQ(Base.Valeur(
+                "SELECT COUNT(*) FROM ACTIVITES_ELEVES E JOIN ACTIVITES A ON A.ACTIVITE_ID = E.ACTIVITE_ID"),
+            "1")
+      << "and follows the one that is back";
 }
 
 TEST_F(ListesServices, AFeeGivenToAClassChangedAndDeleted) {
@@ -156,7 +161,18 @@ TEST_F(ListesServices, AFeeRefusedHalfWayIsNotMadeTwice) {
   Base.Sql("DROP TRIGGER REFUS");
   Touche(Qt::Key_F9);
   EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM LISTE_FRAIS"), "1");
-  EXPECT_EQ(Lignes().size(), 5);
+  const QStringList toutes = Lignes();
+  EXPECT_EQ(toutes.size(), 5);
+  Base.Sql(
+      "CREATE TRIGGER REFUS FOR FRAIS_ELEVE BEFORE DELETE AS DECLARE X INTEGER; BEGIN IF (OLD.ELEVE_ID = 3) "
+      "THEN X = 1 / 0; END");
+  Programme.Dialogues.Repond("Voulez-vous supprimer ce frais ?", true).Fait("zero", [](QWidget& dialogue) {
+    dialogue.close();
+  });
+  Touche(Qt::Key_Delete, Qt::ControlModifier);
+  EXPECT_EQ(Lignes(), toutes) << "those who were done have it again";
+  EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains("5 élèves"));
+  Base.Sql("DROP TRIGGER REFUS");
   // A fee for the school of former times keeps its lines, so it cannot go.
   Base.Sql("UPDATE LISTE_FRAIS SET TYPE_FRAIS = 0");
   Programme.Main().mnuAnneeClick(2016);
@@ -166,6 +182,73 @@ TEST_F(ListesServices, AFeeRefusedHalfWayIsNotMadeTwice) {
   Touche(Qt::Key_Delete, Qt::ControlModifier);
   EXPECT_EQ(Lignes().size(), 5);
   EXPECT_EQ(Form<TFrmListeFrais>().Grille.NombreLignes(), 1) << "it is back";
+}
+
+TEST_F(ListesServices, NothingElseBeginsWhileAFeeIsStoredOrDeleted) {
+  Ecole.frais("Bus", "5", 10);
+  Demarrer(TGestionnaire::AdvGlowButton16Click);
+  Touche(Qt::Key_F7);
+  QTest::keyClicks(QApplication::focusWidget(), "Piscine");
+  Taper("edMontant", "10");
+  Choisir("cmbMois", 1);
+  Choisir("cmbConcerne", 0);
+  Cliquer("Mode frais non payés");
+  CocherNoeud("Toute l'école");
+  int fois = 0;
+  const TLien lien = Programme.Tout().Dialogues.SurProgression.Suivre([&](int, int total, const QString&) {
+    if (total == 0) return;
+    ++fois;
+    for (const Qt::Key touche : {Qt::Key_Escape, Qt::Key_F2, Qt::Key_Return, Qt::Key_Space}) Touche(touche);
+    for (const Qt::Key touche : {Qt::Key_Delete, Qt::Key_Z}) Touche(touche, Qt::ControlModifier);
+  });
+  Touche(Qt::Key_F9);
+  EXPECT_EQ(fois, 5);
+  EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM FRAIS_ELEVE WHERE MONTANT_VERSE = 10"), "5");
+  Programme.Dialogues.Repond("Voulez-vous supprimer ce frais ?", true);
+  Touche(Qt::Key_Delete, Qt::ControlModifier);
+  EXPECT_EQ(fois, 10);
+  EXPECT_EQ(Lignes(), QStringList());
+  EXPECT_EQ(Base.Valeur("SELECT LIBELLE FROM LISTE_FRAIS"), "Bus");
+  EXPECT_EQ(Form<TFrmListeFrais>().Mode(), TModeEdition::Lecture);
+}
+
+// The user is told that no key could be had; nothing is said to be stored, and no pupil pays it.
+TEST_F(ListesServices, ARowWithoutKeyIsRefused) {
+  Base.Sql("DELETE FROM COUNTERS WHERE TABLE_NAME IN ('LISTE_FRAIS', 'ACTIVITES')");
+  Demarrer(TGestionnaire::AdvGlowButton16Click);
+  Touche(Qt::Key_F7);
+  QTest::keyClicks(QApplication::focusWidget(), "Piscine");
+  Taper("edMontant", "10");
+  Choisir("cmbMois", 1);
+  Choisir("cmbConcerne", 0);
+  CocherNoeud("Toute l'école");
+  const auto refuse = [this] {
+    Programme.Dialogues.Attend("Le compteur de table").Attend("Aucun numéro n'a pu être donné");
+    Touche(Qt::Key_F9);
+    EXPECT_TRUE(Etat().startsWith("Non enregistré")) << Etat().toStdString();
+  };
+  refuse();
+  EXPECT_EQ(Lignes(), QStringList());
+  EXPECT_EQ(Form<TFrmListeFrais>().Grille.NombreLignes(), 0);
+  Touche(Qt::Key_Escape);
+  Programme.Ouvrir(TGestionnaire::btnActivitesClick);
+  Touche(Qt::Key_F7);
+  for (const auto& [champ, texte] :
+       {std::pair("edLibelle", "Judo"), std::pair("edHeureDebut", "16:00"), std::pair("edHeureFin", "17:00")})
+    Taper(champ, texte);
+  refuse();
+  EXPECT_EQ(Form<TFrmActivites>().Grille.NombreLignes(), 0);
+  Touche(Qt::Key_Escape);
+}
+
+TEST_F(ListesServices, ATeacherWhoGoesLeavesNoScreenThatHoldsHim) {
+  const int cle = 6;
+  Demarrer(TGestionnaire::AdvGlowButton16Click);
+  Programme.Main().Arbre.Selectionner(Programme.Main().Arbre.TrouverObjet(Globals.Eleves->TrouverParId(cle)));
+  Programme.Dialogues.Repond("supprimer définitivement ce professeurs", true);
+  Programme.Main().Supprimerunprofesseur1Click();
+  EXPECT_EQ(Programme.Main().Panneau.Courante(), nullptr);
+  EXPECT_EQ(Globals.Eleves->TrouverParId(cle), nullptr);
 }
 
 TEST_F(ListesServices, NothingIsMissedByKeyboardOrReader) {
