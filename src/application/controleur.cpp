@@ -14,6 +14,7 @@ constexpr int kMoisPreparation = 7;  // from July on a school prepares the year 
 // off-line again, wherever the transfer ends.
 const QString kHorsLigne = u"Offline"_s;
 const QString kTransfert = u"Transfert"_s;
+const QString kTablette = u"Tablette"_s;
 
 TExtraits& LireAuBesoin(std::unique_ptr<TExtraits>& extraits, TDataModule1& base, int annee) {
   if (!extraits) extraits = std::make_unique<TExtraits>(base, annee);
@@ -68,7 +69,7 @@ bool TControleur::Demarrer() {
 
 void TControleur::Preparer(bool pagesTablette) {
   Globals.ModeProfesseur = EstUn(u"Mode"_s);
-  Globals.ModeTablette = EstUn(u"Tablette"_s);
+  Globals.ModeTablette = EstUn(kTablette);
   fenetre_.DureeBulles(kDureeBulles);
   ChargerParametres();
   if (Globals.ModeTablette || pagesTablette)
@@ -215,6 +216,7 @@ void TControleur::PasserHorsLigne() {
 bool TControleur::PasserEnLigne() {
   ExigerReglage(kTransfert, u"1"_s);
   ExigerReglage(kHorsLigne, u"0"_s);
+  EcrireReglage(kTablette, u"1"_s);  // stopped half-way it is a tablet still, and no office
   Globals.ModeHorsLigne = false;
   Globals.DatePhoto = reglages_.Lire(TRacine::Utilisateur, u"Photo"_s);
   OublierDonnees();

@@ -25,10 +25,20 @@ TPresences::TPresences(TDataModule1& base, const TPeriode& periode, const TRegle
   Charger();
 }
 
+QString TPresences::Selection(const TPeriode& jours) {
+  return u"SELECT * FROM PRESENCES WHERE DATE_RELEVE >= " % FormatDateSql(jours.Premier) %
+         u" AND DATE_RELEVE <= " % FormatDateSql(jours.Dernier) % u" ORDER BY DATE_RELEVE, HEURE_ENTREE";
+}
+
+void TPresences::LireNouvelles(const TPeriode& jours) {
+  TCurseur ligne(Base(), Selection({std::max(jours.Premier, periode_.Premier),
+                                    std::min(jours.Dernier, periode_.Dernier)}));
+  while (ligne.Suivant())
+    if (ParCle(ligne.Entier(KeyField)) == nullptr) LoadItems(ligne);
+}
+
 void TPresences::DefineQuery() {
-  SelectSql = u"SELECT * FROM PRESENCES WHERE DATE_RELEVE >= " % FormatDateSql(periode_.Premier) %
-              u" AND DATE_RELEVE <= " % FormatDateSql(periode_.Dernier) %
-              u" ORDER BY DATE_RELEVE, HEURE_ENTREE";
+  SelectSql = Selection(periode_);
   TableName = u"PRESENCES"_s;
   KeyField = "PRESENCE_ID";
   CounterName = u"PRESENCES"_s;

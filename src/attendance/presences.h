@@ -41,6 +41,8 @@ class TPresences : public TCollection<TPresence> {
   /// The one way in for a new record, which keeps a pupil at one record a family and day. Null when
   /// it was dropped, be it that its exit has moved that of an evening already there. Does not save.
   TPresence* AjoutePresence(std::unique_ptr<TPresence> presence);
+  /// Takes in what others have stored since for these days, as far as they are of the period.
+  void LireNouvelles(const TPeriode& jours);
   /// The first record equal on all four, whatever its kind; or null.
   TPresence* ChercheDoublon(int eleve, TDateTime date, TDateTime entree, TDateTime sortie) const;
   /// Whether the pupil has a record of that family on that date, `exclue` (or null) left out.
@@ -95,6 +97,7 @@ class TPresences : public TCollection<TPresence> {
 
  protected:
   void DefineQuery() override;
+  static QString Selection(const TPeriode& jours);
   void Completer(TPresence& presence) override;
   void Indexer(TPresence& presence) override;
   void Desindexer(TPresence& presence) override;

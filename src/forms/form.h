@@ -64,6 +64,8 @@ class TForm : public TComposant {
  protected:
   /// The form appears; its key and container are known.
   virtual void FormShow() {}
+  /// The form has its view: what takes long or asks begins here, before the eyes of the user.
+  virtual void FormAffichee() {}
   /// The form is about to be closed for good.
   virtual void FormClose() {}
   /// Whether the form may be closed now.

@@ -61,8 +61,10 @@ void TPanneau::Vider() {
 void TPanneau::Avancer(TForm& form) {
   const auto place = std::ranges::find_if(places_, [&](const TPlace& p) { return p.Form.get() == &form; });
   std::rotate(place, place + 1, places_.end());
+  const bool nouvelle = !form.EstMontree();
   form.Montrer();
   Annoncer(form, TEtapeForm::Affichee);
+  if (nouvelle) form.FormAffichee();
 }
 
 /// False when a form refused to close.

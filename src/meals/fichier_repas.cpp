@@ -59,6 +59,14 @@ TFichierRepas::TFichierRepas(QString chemin) : chemin_(std::move(chemin)) {
   for (const QByteArray& ligne : lignes) Compter(ligne, 1);
 }
 
+TFichierRepas TFichierRepas::OuVide(const QString& chemin) {
+  try {
+    return TFichierRepas(chemin);
+  } catch (const Exception&) {
+    return TFichierRepas({});
+  }
+}
+
 void TFichierRepas::Compter(const QByteArray& ligne, int fois) {
   nombre_ += fois;
   if ((nombres_[ligne] += fois) == 0) nombres_.remove(ligne);

@@ -23,6 +23,8 @@ class TFichierRepas {
  public:
   /// Reads the file; a missing one is empty. Raises Exception.
   explicit TFichierRepas(QString chemin);
+  /// The same of a file that can be done without: one that cannot be read is empty too.
+  static TFichierRepas OuVide(const QString& chemin);
 
   bool Contient(const QByteArray& ligne) const { return nombres_.contains(ligne); }
   /// Adds the line, or takes the first such one away, and writes the file at once. Raises Exception, and

@@ -58,7 +58,7 @@ TServiceHorsLigne::TServiceHorsLigne(const TReglagesPoste& reglages, IDialogues&
       copieClasses_(TDataSet::LireDe(fichiers_.Classes)),
       photos_(LirePhotos(fichiers_.Photos, dialogues)),
       repas_(fichiers_.Repas),
-      transferes_(fichiers_.Transferes),
+      transferes_(TFichierRepas::OuVide(fichiers_.Transferes)),
       eleves_(std::make_unique<TEleves>(copieEleves_.Annee, copieClasses_, copieEleves_)) {
   if (photos_) eleves_->SourcePhotos = &*photos_;
 }

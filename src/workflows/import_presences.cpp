@@ -4,12 +4,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <set>
 
 #include "core/calendrier_scolaire.h"
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "core/lecture_dates.h"
+#include "core/transaction_commune.h"
+#include "pupils/reserver.h"
 
 using namespace Qt::StringLiterals;
 
@@ -133,6 +136,7 @@ void TImportPresences::Vider() {
   bons_.clear();
   origines_.clear();
   ajoutees_.clear();
+  ecartes_.clear();
   bilan_ = {};
   anomalies_.clear();
   grille_ = {};
@@ -224,9 +228,32 @@ bool TImportPresences::Corriger(int anomalie, TTypePresence typePresence, TDateT
   return true;
 }
 
+// Two tablets may come back at once: each pupil is the business of one of them.
+void TImportPresences::EnregistrerTablette() {
+  TTransactionCommune ensemble(controleur_.Base());
+  RelireJours();
+  Enregistrer();
+  ensemble.Valider();
+}
+
+void TImportPresences::RelireJours() const {
+  if (bons_.empty()) return;
+  std::set<int> eleves;  // in one order everywhere, so that no two wait for each other
+  TPeriode jours{bons_.front()->DateReleve, bons_.front()->DateReleve};
+  for (const auto& bon : bons_) {
+    eleves.insert(bon->EleveId);
+    jours = {std::min(jours.Premier, bon->DateReleve), std::max(jours.Dernier, bon->DateReleve)};
+  }
+  for (const int cle : eleves) Reserver(*Globals.Eleves->TrouverParId(cle));
+  Globals.Presences->LireNouvelles(jours);
+}
+
 // A failure leaves the rest pending: the step can be taken again.
 void TImportPresences::Enregistrer() {
-  if (ajoutees_.empty()) bilan_ = {};
+  if (ajoutees_.empty()) {
+    bilan_ = {};
+    ecartes_.clear();
+  }
   for (auto& presence : bons_) Ajouter(std::move(presence));
   bons_.clear();
   origines_.clear();
@@ -240,12 +267,23 @@ void TImportPresences::Enregistrer() {
 
 void TImportPresences::Ajouter(std::unique_ptr<TPresence> presence) {
   const bool derive = Origine(*presence) == TOrigine::Derive;
+  const bool repas = presence->TypePresence == TTypePresence::Repas;
+  const int eleve = presence->EleveId;
+  const TDateTime jour = presence->DateReleve;
   if (const TPresence* ajoutee = Globals.Presences->AjoutePresence(std::move(presence))) {
     ajoutees_.push_back(ajoutee);
     ++bilan_.Memorisees;
   } else {
     ++(derive ? bilan_.Derivees : bilan_.Doubles);
+    if (repas) NoterEcarte(eleve, jour);
   }
+}
+
+void TImportPresences::NoterEcarte(int eleve, TDateTime jour) {
+  const auto dejaLa = Globals.Presences->PresencesEleve(eleve, {jour, jour});
+  ecartes_.push_back({eleve, jour, std::ranges::any_of(dejaLa, [](const TPresence* presence) {
+                        return presence->TypePresence == TTypePresence::Repas;
+                      })});
 }
 
 // A copy is left in the temporary folder by the scanner only; a file chosen by hand stays where it is.
@@ -292,6 +330,12 @@ bool TImportPresences::AUnTarif(const TPresence& presence) {
 }
 
 int TImportPresences::NombreNonMemorises() const { return static_cast<int>(bons_.size() + ajoutees_.size()); }
+
+int TImportPresences::NombreCorrigibles() const {
+  int nombre = 0;
+  for (int i = 0; i < static_cast<int>(anomalies_.size()); ++i) nombre += EstCorrigible(i);
+  return nombre;
+}
 
 bool TImportPresences::EstHorsAnnee(TDateTime date) {
   const TPeriode annee = BornesAnnee(Globals.Eleves->AnneeScolaire);

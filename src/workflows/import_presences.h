@@ -26,6 +26,13 @@ struct TBilanPresences {
   int Derivees = 0;  ///< of the flat rate of the day, which is counted already
 };
 
+/// A record that was not stored beside another of its day.
+struct TRepasEcarte {
+  int EleveId = 0;
+  TDateTime Jour = 0.0;
+  bool Connu = false;  ///< a meal of the day is there; else something else is, which counts instead
+};
+
 /// Bringing a file of scans in: each line becomes a record, the good ones are stored, and what is
 /// wrong is shown and can be corrected. What the lists show is what is stored.
 class TImportPresences {
@@ -58,8 +65,11 @@ class TImportPresences {
   void ArchiverSousSonNom(const QString& chemin) const;
   /// Of the last step 2.
   const TBilanPresences& Bilan() const { return bilan_; }
-  /// The same as step 2 for the tablet's file, without a word; `ArchiverTablette` comes next.
-  void EnregistrerTablette() { Enregistrer(); }
+  /// The same as step 2 for the tablet's file, without a word; `ArchiverTablette` comes next. What another
+  /// tablet has stored since the analysis is known. All of it is stored, or nothing.
+  void EnregistrerTablette();
+  /// The meals that the last step 2 did not store.
+  const std::vector<TRepasEcarte>& Ecartes() const { return ecartes_; }
   /// Archives the tablet's file. False, after a message, when it cannot be moved: it would be read again.
   bool ArchiverTablette(const QString& chemin) const;
 
@@ -70,6 +80,8 @@ class TImportPresences {
   static bool AUnTarif(const TPresence& presence);
   /// Records that are ready and not stored.
   int NombreNonMemorises() const;
+  /// Lines of the anomalies that can be corrected, and then stored.
+  int NombreCorrigibles() const;
   /// Of these, those whose day is not of the year on display: nobody will see them there.
   int NombreHorsAnnee() const;
   static bool EstHorsAnnee(TDateTime date);
@@ -99,6 +111,8 @@ class TImportPresences {
   TScan LireLigne(int ligne) const;
   void Classer(const TScan& scan, const QString& site, std::vector<TAnomalie>& sansTarif);
   void Ajouter(std::unique_ptr<TPresence> presence);
+  void NoterEcarte(int eleve, TDateTime jour);
+  void RelireJours() const;
   void Enregistrer();
   bool Archiver(const QString& fichier) const;
 
@@ -108,6 +122,7 @@ class TImportPresences {
   std::vector<TAnomalie> anomalies_;
   std::unordered_map<const TPresence*, TOrigine> origines_;  // of the good records that are not Fichier
   TBilanPresences bilan_;
+  std::vector<TRepasEcarte> ecartes_;
   std::vector<const TPresence*> ajoutees_;  // by a step 2 that has not yet succeeded
   bool pret_ = false;
 };

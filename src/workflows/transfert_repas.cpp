@@ -79,13 +79,26 @@ void Remplir(TCopie& copie, bool avecPhotos, TProgression& progression) {
     }
 }
 
-/// The lines of the last day up to today, of which the tablet says that they are transferred: those of
-/// before, and the meals about to be stored.
-QByteArray LignesTransferees(const QString& chemin, const TImportPresences& import, TDateTime aujourdhui) {
-  std::vector<QByteArray> lignes = TFichierRepas(chemin).Lignes();
+QString NomDe(int eleve) { return Globals.Eleves->TrouverParId(eleve)->NomComplet(); }
+
+QByteArray LigneDe(int eleve, TDateTime jour) {
+  return LigneRepas(Globals.Eleves->TrouverParId(eleve)->Matricule, jour);
+}
+
+/// The meals about to be stored.
+std::vector<QByteArray> LignesDesRepas(const TImportPresences& import) {
+  std::vector<QByteArray> lignes;
   for (const auto& bon : import.Bons())
-    if (bon->TypePresence == TTypePresence::Repas)
-      lignes.push_back(LigneRepas(Globals.Eleves->TrouverParId(bon->EleveId)->Matricule, bon->DateReleve));
+    if (bon->TypePresence == TTypePresence::Repas) lignes.push_back(LigneDe(bon->EleveId, bon->DateReleve));
+  return lignes;
+}
+
+/// The lines of the last day up to today, of which the tablet says that they are transferred: those of
+/// before, and these.
+QByteArray LignesTransferees(const QString& chemin, const std::vector<QByteArray>& repas,
+                             TDateTime aujourdhui) {
+  std::vector<QByteArray> lignes = TFichierRepas::OuVide(chemin).Lignes();
+  lignes.insert(lignes.end(), repas.begin(), repas.end());
   TDateTime dernier = 0.0;
   for (const QByteArray& ligne : lignes)
     if (const TDateTime jour = JourDeLigne(ligne); jour <= aujourdhui) dernier = qMax(dernier, jour);
@@ -173,18 +186,33 @@ void TTransfertRepas::ImporterRepas(TBilanTransfert& bilan) {
   bilan.Lignes = import_.NombreEntrees();
   bilan.Bons = import_.NombreBons();
   bilan.Anomalies = import_.NombreAnomalies();
-  bilan.Repas = bilan.Lignes - static_cast<int>(import_.Anomalies().size());
   if (SurAnalyse) SurAnalyse(bilan);
   if (!AccepterAnomalies() || !AccepterHorsAnnee()) return;
-  const QByteArray transferees =
-      LignesTransferees(fichiers.Transferes, import_, controleur_.Horloge().Aujourdhui());
+  std::vector<QByteArray> repas = LignesDesRepas(import_);
+  bilan.Repas = static_cast<int>(repas.size());
   import_.EnregistrerTablette();
   bilan.Importe = true;
+  CompterEcartes(bilan);
+  for (const TRepasEcarte& ecarte : import_.Ecartes())
+    if (!ecarte.Connu) std::erase(repas, LigneDe(ecarte.EleveId, ecarte.Jour));
+  const QByteArray transferees =
+      LignesTransferees(fichiers.Transferes, repas, controleur_.Horloge().Aujourdhui());
   bilan.Archive = import_.ArchiverTablette(fichiers.Repas);
   try {
     EcrireFichier(fichiers.Transferes, transferees);
   } catch (const Exception& e) {  // the meals are stored: only the mark "transféré" is lost
     controleur_.Dialogues().Message(e.Message);
+  }
+}
+
+/// What came of the meals that had no anomaly.
+void TTransfertRepas::CompterEcartes(TBilanTransfert& bilan) const {
+  for (const TRepasEcarte& ecarte : import_.Ecartes()) {
+    --bilan.Repas;
+    if (ecarte.Connu)
+      ++bilan.DejaNotes;
+    else
+      bilan.Couverts += NomDe(ecarte.EleveId) % u", " % FormatJour(ecarte.Jour);
   }
 }
 

@@ -13,7 +13,9 @@ struct TBilanTransfert {
   int Lignes = 0;          ///< of the file
   int Bons = 0;            ///< records, also those that a meal brings with it
   int Anomalies = 0;
-  int Repas = 0;  ///< lines without an anomaly
+  int Repas = 0;         ///< meals stored
+  int DejaNotes = 0;     ///< meals that were known
+  QStringList Couverts;  ///< meals that are not stored because of another record of that day: who, which day
 };
 
 /// The transfer of the tablet, without a window: the meals noted go into the presences, and the copy of the
@@ -35,6 +37,7 @@ class TTransfertRepas {
   bool Synchroniser();
   void ImporterRepas(TBilanTransfert& bilan);
   bool AccepterAnomalies() const;
+  void CompterEcartes(TBilanTransfert& bilan) const;
   bool AccepterHorsAnnee() const;
 
   TControleur& controleur_;

@@ -1,14 +1,17 @@
 #include "screens/meals/frm_transfert_repas.h"
 
+#include "core/accord.h"
 #include "core/exceptions.h"
 
 using namespace Qt::StringLiterals;
 
 TFrmTransfertRepas::TFrmTransfertRepas(TContexteEcran& contexte)
-    : Anomalies({{u"Nom"_s, 200}, {u"Prénom"_s, 140}, {u"Date"_s, 180}, {u"Type"_s, 80}, {u"Raison"_s, 320}}),
+    : Anomalies({{u"Nom"_s, 200},
+                 {u"Prénom"_s, 140},
+                 {u"Date"_s, 180, TGenre::DateLongue},
+                 {u"Type"_s, 80},
+                 {u"Raison"_s, 320}}),
       contexte_(contexte) {}
-
-void TFrmTransfertRepas::FormShow() { btnRecommencerClick(); }
 
 std::vector<TCompteurRepas> TFrmTransfertRepas::Compteurs() const {
   return {{u"Nombre de repas relevés :"_s, bilan_.Lignes},
@@ -65,6 +68,14 @@ void TFrmTransfertRepas::Conclure(const TBilanTransfert& bilan) {
   if (!bilan.HorsLigne)
     return Dire(TNiveauEtat::Alerte,
                 u"Le transfert est arrêté : la tablette reste connectée, et les repas sont gardés."_s);
-  Dire(TNiveauEtat::Succes, bilan.Importe ? u"%1 repas transférés, les élèves sont à jour."_s.arg(bilan.Repas)
-                                          : u"Les élèves sont à jour."_s);
+  if (!bilan.Importe) return Dire(TNiveauEtat::Succes, u"Les élèves sont à jour."_s);
+  QString texte =
+      Compter(bilan.Repas, u"repas transféré"_s, u"repas transférés"_s, u"Aucun repas transféré"_s) %
+      u", les élèves sont à jour.";
+  if (bilan.DejaNotes > 0) texte += u" Déjà notés : %1."_s.arg(bilan.DejaNotes);
+  if (bilan.Couverts.isEmpty()) return Dire(TNiveauEtat::Succes, texte);
+  Dire(TNiveauEtat::Alerte, texte % u" Pas enregistrés : %1."_s.arg(bilan.Couverts.size()));
+  contexte_.Dialogues().Message(
+      u"Ces repas ne sont pas enregistrés, parce qu'un autre relevé de ce jour-là compte à leur place :\n" %
+      bilan.Couverts.join(u'\n'));
 }

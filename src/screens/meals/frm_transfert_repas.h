@@ -5,7 +5,7 @@
 #include "workflows/transfert_repas.h"
 
 /// "Transfert": the tablet's meals go into the presences, and its copy of the pupils is renewed. It runs as
-/// soon as it opens.
+/// soon as it is seen.
 class TFrmTransfertRepas : public TForm {
  public:
   explicit TFrmTransfertRepas(TContexteEcran& contexte);
@@ -22,7 +22,7 @@ class TFrmTransfertRepas : public TForm {
   bool PeutRecommencer() const { return !enCours_; }
 
  protected:
-  void FormShow() override;
+  void FormAffichee() override { btnRecommencerClick(); }
   bool FormCloseQuery() override { return !enCours_; }
 
  private:

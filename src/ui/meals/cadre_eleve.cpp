@@ -1,5 +1,7 @@
 #include "ui/meals/cadre_eleve.h"
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "ui/commun/theme.h"
@@ -31,6 +33,21 @@ void CadreEleve::Definir(const QString& statut, bool servi, bool radie) {
 }
 
 QSize CadreEleve::sizeHint() const { return {Theme::Px(kCadre.width()), Theme::Px(kCadre.height())}; }
+
+void CadreEleve::mousePressEvent(QMouseEvent* evenement) {
+  presse_ = evenement->globalPosition().toPoint();
+  QAbstractButton::mousePressEvent(evenement);
+}
+
+// A finger that has moved on was scrolling, and serves nobody.
+void CadreEleve::mouseReleaseEvent(QMouseEvent* evenement) {
+  const QPoint chemin = evenement->globalPosition().toPoint() - presse_;
+  if (chemin.manhattanLength() >= QApplication::startDragDistance()) {
+    setDown(false);
+    return;
+  }
+  QAbstractButton::mouseReleaseEvent(evenement);
+}
 
 void CadreEleve::paintEvent(QPaintEvent*) {
   QPainter peintre(this);

@@ -12,11 +12,14 @@ class CadreEleve : public QAbstractButton {
   QSize sizeHint() const override;
 
  protected:
+  void mousePressEvent(QMouseEvent* evenement) override;
+  void mouseReleaseEvent(QMouseEvent* evenement) override;
   void paintEvent(QPaintEvent* evenement) override;
 
  private:
   QString nom_, prenom_, statut_;
   QPixmap photo_;
+  QPoint presse_;
   bool servi_ = false;
   bool radie_ = false;
 };

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScroller>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -26,6 +27,16 @@ constexpr int kMinuteMs = 30'000;
 
 /// A finger is not smaller with a small font.
 int HauteurDoigt() { return qMax(kHauteurBouton, Theme::Px(kHauteurBouton)); }
+
+/// Drawn along by the finger, as by the bar.
+void SuivreLeDoigt(QScrollArea& defile) {
+  QScroller::grabGesture(defile.viewport(), QScroller::LeftMouseButtonGesture);
+  QScrollerProperties proprietes = QScroller::scroller(defile.viewport())->scrollerProperties();
+  for (const auto mesure :
+       {QScrollerProperties::HorizontalOvershootPolicy, QScrollerProperties::VerticalOvershootPolicy})
+    proprietes.setScrollMetric(mesure, QScrollerProperties::OvershootAlwaysOff);
+  QScroller::scroller(defile.viewport())->setScrollerProperties(proprietes);
+}
 
 QPushButton* GrandBouton(const QString& texte) {
   QPushButton* bouton = BoutonSimple(texte);
@@ -92,6 +103,7 @@ QWidget* VuePresenceRepas::Gauche() {
   defile->setFocusPolicy(Qt::NoFocus);
   defile->setFixedWidth(Theme::Px(kLargeurBouton + 30));
   defile->setWidget(place);
+  SuivreLeDoigt(*defile);
   return defile;
 }
 
@@ -104,6 +116,7 @@ QWidget* VuePresenceRepas::Droite() {
   cadres_->setWidgetResizable(true);
   cadres_->setFrameShape(QFrame::NoFrame);
   cadres_->setFocusPolicy(Qt::NoFocus);
+  SuivreLeDoigt(*cadres_);
   auto* place = new QWidget;
   auto* colonne = new QVBoxLayout(place);
   colonne->setContentsMargins(0, 0, 0, 0);

@@ -4,6 +4,7 @@
 
 #include "core/fichiers.h"
 #include "screens/meals/frm_presence_repas.h"
+#include "screens/meals/frm_transfert_repas.h"
 #include "ui/meals/cadre_eleve.h"
 #include "ui/meals/repas_essai.h"
 #include "ui/verifier_vue.h"
@@ -103,6 +104,47 @@ TEST_F(Tablette, FromTheFirstLoadToTheTransferAndBack) {
   EXPECT_EQ(Cadres(), QStringList("MARIN Zoé, transféré"));
   Programme.Fermer();
   EXPECT_EQ(Presences(), (QStringList{"1;2;2016-10-03", "3;2;2016-10-03"}));
+}
+
+// What is asked about is there to be read; "Non" leaves a tablet, also at the next start.
+TEST_F(Tablette, AnAnomalyIsShownBeforeItIsAskedAbout) {
+  Programme.Demarrer();
+  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+  const QByteArray taps = "11;2;20161003;120000000;1\n11;2;20161009;120000000;1\n99;2;20161003;120000000;1\n";
+  EcrireFichier(Repas(), taps);
+  Programme.Dialogues.Fait("2 repas ne seront pas enregistrés.", [&](QWidget& question) {
+    EXPECT_TRUE(Montre("Nombre d'anomalies détectées:"));
+    const TGrille& anomalies = Form<TFrmTransfertRepas>().Anomalies;
+    EXPECT_EQ(anomalies.Texte(0, 0), "Matricule inconnu (99)");
+    EXPECT_EQ(anomalies.Texte(1, 2), "dimanche 9 octobre");
+    ::Cliquer(question, "Non");
+  });
+  Cliquer("Recommencer le transfert");
+  EXPECT_EQ(LireFichier(Repas()), taps);
+  Programme.Fermer();
+  Programme.Demarrer();
+  EXPECT_FALSE(Programme.Main().PageVisible(TPage::PgEleve)) << "no office";
+  Programme.Dialogues.Fait("2 repas ne seront pas enregistrés.", [&](QWidget& question) {
+    EXPECT_TRUE(Montre("Nombre d'anomalies détectées:")) << "at the first opening too";
+    ::Cliquer(question, "Oui");
+  });
+  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+  EXPECT_TRUE(Montre("1 repas transféré, les élèves sont à jour."));
+}
+
+TEST_F(Tablette, AFingerThatScrollsServesNobody) {
+  Programme.Demarrer();
+  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+  Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
+  Toucher("P1");
+  Toucher("P1 A");
+  CadreEleve* cadre = Programme.Fenetre().findChild<CadreEleve*>();
+  const QPoint debut = cadre->rect().center(), fin = debut - QPoint(0, 60);
+  QTest::mousePress(cadre, Qt::LeftButton, {}, debut);
+  QTest::mouseMove(cadre, fin);
+  QTest::mouseRelease(cadre, Qt::LeftButton, {}, fin);
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+  EXPECT_FALSE(QFile::exists(Repas()));
 }
 
 TEST_F(Tablette, TheDateFollowsTheClockAndSaysWhatIsWrongWithIt) {
