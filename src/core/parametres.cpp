@@ -57,6 +57,11 @@ int TParametres::Entier(TParam param) const { return Convertir(*this, param, Str
 
 Currency TParametres::Montant(TParam param) const { return Convertir(*this, param, StrToCurr); }
 
+QString TParametres::CompteEcole() const {
+  const QString virement = GetParametre(TParam::VirementIBAN);
+  return virement.trimmed().isEmpty() ? GetParametre(TParam::CompteBanque) : virement;
+}
+
 void TParametres::SetParametre(TParam param, const QString& valeur) {
   if (TParametre* parametre = FindParametre(param)) {
     parametre->Valeur = valeur;

@@ -21,6 +21,8 @@ class TParametres : public TCollection<TParametre> {
   Currency Montant(TParam param) const;
   /// True when the value is exactly "1".
   bool EstVrai(TParam param) const { return GetParametre(param) == u"1"; }
+  /// The school's account as it was typed, "" when it has none: that of the transfer form, else the other.
+  QString CompteEcole() const;
   /// Marks the setting modified also when the value is the same.
   void SetParametre(TParam param, const QString& valeur);
   /// Null when there is no row.

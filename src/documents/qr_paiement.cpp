@@ -14,14 +14,19 @@ constexpr Currency kMontantMax = Currency::Brut(9'999'999'999'900);  // 999,999,
 
 QString PremierRempli(const QString& texte, const QString& sinon) { return texte.isEmpty() ? sinon : texte; }
 
+/// No half of a character and no blank at its end.
+QString Coupe(QString nom) {
+  nom.truncate(kNomMax);
+  if (!nom.isEmpty() && nom.back().isHighSurrogate()) nom.chop(1);
+  return nom.trimmed();
+}
+
 }  // namespace
 
 TQrPaiement::TQrPaiement(const TParametres& parametres)
-    : nom_(PremierRempli(parametres.GetParametre(TParam::VirementNom).simplified(),
-                         parametres.GetParametre(TParam::NomEcole).simplified())
-               .left(kNomMax)),
-      compte_(PremierRempli(IbanSansBlancs(parametres.GetParametre(TParam::VirementIBAN)),
-                            IbanSansBlancs(parametres.GetParametre(TParam::CompteBanque)))),
+    : nom_(Coupe(PremierRempli(parametres.GetParametre(TParam::VirementNom).simplified(),
+                               parametres.GetParametre(TParam::NomEcole).simplified()))),
+      compte_(IbanSansBlancs(parametres.CompteEcole())),
       valide_(IbanValide(compte_)),
       reference_(parametres.Regles().QrReference) {}
 

@@ -12,6 +12,7 @@ struct TColonneGrille {
   QString Titre;
   int Largeur = 100;  ///< in 1/96 inch
   TGenre Genre = TGenre::Texte;
+  bool SuitEtat = false;  ///< bold, in the colour of the state of its row
 };
 
 /// A state of the rows: a word and the name of an icon, never a colour alone.
@@ -111,6 +112,8 @@ class TGrille {
   /// The rows are shown with check boxes.
   bool CasesACocher = false;
   std::vector<TEtatGrille> Etats;
+  /// Whose list it is, and of which month: the name of an exported file says it. It may be empty.
+  QString DeQuoi;
   /// Words that the user narrows the list to, on the screen and on paper; empty for all rows.
   QString Filtre;
   TSignal<TChangement> SurChangement;

@@ -4,6 +4,7 @@
 
 #include "core/chaines.h"
 #include "core/exceptions.h"
+#include "core/formats.h"
 #include "core/texte_separe.h"
 #include "payments/iban.h"
 #include "payments/releve_bancaire.h"
@@ -291,9 +292,12 @@ class TLecteurCoda {
     const auto prouver = [&](const QString& quoi, bool juste) {
       if (!juste) releve_.Preuves += u"%1 n'est pas ce que dit l'enregistrement 9."_s.arg(quoi);
     };
-    prouver(u"Le nombre d'enregistrements"_s, fin->Vaut(17, 6, comptes_.Enregistrements));
-    prouver(u"La somme des débits"_s, fin->Vaut(23, 15, comptes_.Debits.EnBrut() / 10));
-    prouver(u"La somme des crédits"_s, fin->Vaut(38, 15, comptes_.Credits.EnBrut() / 10));
+    prouver(u"Le nombre d'enregistrements, %1,"_s.arg(comptes_.Enregistrements),
+            fin->Vaut(17, 6, comptes_.Enregistrements));
+    prouver(u"La somme des débits, %1,"_s.arg(FormatMontant(comptes_.Debits)),
+            fin->Vaut(23, 15, comptes_.Debits.EnBrut() / 10));
+    prouver(u"La somme des crédits, %1,"_s.arg(FormatMontant(comptes_.Credits)),
+            fin->Vaut(38, 15, comptes_.Credits.EnBrut() / 10));
   }
 
   TReleveBancaire releve_;
@@ -307,7 +311,9 @@ class TLecteurCoda {
 }  // namespace
 
 bool EstCoda(const QByteArray& octets) {
-  const QString debut = TexteDepuisOctets(octets.first(std::min<qsizetype>(octets.size(), 400))).trimmed();
+  QByteArray tete = octets.first(std::min<qsizetype>(octets.size(), 400));
+  while (!tete.isEmpty() && static_cast<uchar>(tete.back()) >= 0x80) tete.chop(1);  // no half of a letter
+  const QString debut = TexteDepuisOctets(tete).trimmed();
   return debut.startsWith(u"0000") && !debut.left(kDebutEntete).contains(u';');
 }
 

@@ -3,6 +3,7 @@
 #include <unordered_set>
 
 #include "core/accord.h"
+#include "core/mois.h"
 #include "core/query_internal.h"
 
 using namespace Qt::StringLiterals;
@@ -20,7 +21,15 @@ QString TClotureAnnee::Annonce(int eleves) {
     reste =
         u"\nAucun professeur ne passe : ajoutez-les dans la nouvelle année, par le menu de la liste des élèves."_s;
   }
-  return u"La clôture écrit la balance de %1, fait passer %2 du fichier en %3-%4 et quitte l'année "
+  const int affichee = Globals.Eleves->AnneeScolaire;
+  const QString ailleurs =
+      affichee == annee
+          ? QString()
+          : u"ATTENTION : l'année affichée est %1. Ce sont ses comptes, et non ceux de l'année de "
+            "travail %2, qui seront écrits pour %2, et cela ne se refait pas. Affichez d'abord "
+            "l'année de travail.\n\n"_s.arg(AnneeCompacte(affichee), AnneeCompacte(annee));
+  return ailleurs %
+         u"La clôture écrit la balance de %1, fait passer %2 du fichier en %3-%4 et quitte l'année "
          "%5-%3."_s.arg(qui, CompterEleves(eleves))
              .arg(annee + 1)
              .arg(annee + 2)

@@ -156,8 +156,7 @@ bool TImportVirements::LireBancaire(TReleveBancaire releve) {
     throw Exception(
         u"La base de données n'est pas à jour : lancez sa mise à jour (paramètres de l'école) avant "
         "d'importer un relevé CODA ou camt.053."_s);
-  const QStringList doutes =
-      connus->Doutes(releve.Entetes, Globals.Parametres->GetParametre(TParam::VirementIBAN));
+  const QStringList doutes = connus->Doutes(releve.Entetes, Globals.Parametres->CompteEcole());
   if (!doutes.isEmpty() && !dialogues.ConfirmerGrave(doutes.join(u'\n') % u"\nL'importer quand même ?"))
     return false;
   parSonCompte_ = true;

@@ -96,7 +96,8 @@ std::vector<Currency> RepartirMontant(Currency montant, const std::vector<Curren
     return EnProportion(montant, std::vector<Currency>(dus.size(), Currency::Euros(1)));
   if (montant < total) return EnProportion(montant, dus);
   std::vector<Currency> parts = dus;
-  parts.front() += montant - total;
+  // Whoever owes nothing is not given the rest.
+  *std::ranges::find_if(parts, [](Currency part) { return part > Currency(); }) += montant - total;
   return parts;
 }
 

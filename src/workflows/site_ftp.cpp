@@ -35,12 +35,23 @@ constexpr TRaison kRaisons[] = {
     {CURLE_FTP_WEIRD_SERVER_REPLY, u"ce qui répond n'est pas un site FTP"},
     {CURLE_QUOTE_ERROR, u"le site refuse d'effacer le fichier"},
     {CURLE_WRITE_ERROR, u"le fichier est trop grand"},
+    {CURLE_UNSUPPORTED_PROTOCOL, u"l'adresse n'est pas celle d'un site FTP"},
+    {CURLE_FTP_ACCEPT_FAILED, u"le site n'ouvre pas le transfert"},
+    {CURLE_FTP_ACCEPT_TIMEOUT, u"le site n'ouvre pas le transfert"},
+    {CURLE_FTP_WEIRD_PASV_REPLY, u"le site n'ouvre pas le transfert"},
+    {CURLE_FTP_WEIRD_227_FORMAT, u"le site n'ouvre pas le transfert"},
+    {CURLE_FTP_CANT_GET_HOST, u"le site n'ouvre pas le transfert"},
+    {CURLE_FTP_COULDNT_RETR_FILE,
+     u"le site ne donne pas le fichier : il est peut-être en train de le recevoir"},
+    {CURLE_SSL_CONNECT_ERROR, u"la connexion sécurisée n'a pas pu s'établir"},
+    {CURLE_PEER_FAILED_VERIFICATION, u"le certificat du site n'est pas valable"},
+    {CURLE_USE_SSL_FAILED, u"le site n'accepte pas de connexion sécurisée"},
 };
 
 [[noreturn]] void Echouer(CURLcode code) {
   for (const TRaison& raison : kRaisons)
     if (raison.Code == code) throw Exception(QString(QStringView(raison.Texte) % u'.'));
-  throw Exception(QString::fromUtf8(curl_easy_strerror(code)));
+  throw Exception(u"le site a répondu autrement que prévu (code %1)."_s.arg(static_cast<int>(code)));
 }
 
 std::size_t Recevoir(const char* octets, std::size_t taille, std::size_t nombre, void* vers) {
@@ -53,6 +64,7 @@ std::size_t Recevoir(const char* octets, std::size_t taille, std::size_t nombre,
 
 /// The name that a line of the listing tells; "" when it is not one.
 QString NomDeFichier(QByteArrayView ligne) {
+  if (ligne.startsWith("./")) ligne = ligne.sliced(2);
   QStringDecoder utf8(QStringDecoder::Utf8);
   const QString nom = QString(utf8(ligne)).trimmed();
   if (utf8.hasError() || nom.startsWith(u'.') || !nom.endsWith(u".txt", Qt::CaseInsensitive)) return {};
@@ -137,8 +149,14 @@ std::vector<QString> TSiteFtp::Lister() {
   if (code != CURLE_OK && !curl_->RienDeTel()) Echouer(code);
   std::vector<QString> noms;
   if (code != CURLE_OK) return noms;
-  for (const QByteArray& ligne : curl_->Recu.split('\n'))
-    if (const QString nom = NomDeFichier(ligne); !nom.isEmpty()) noms.push_back(nom);
+  ecartes_ = 0;
+  for (const QByteArray& ligne : curl_->Recu.split('\n')) {
+    const QString nom = NomDeFichier(ligne);
+    if (!nom.isEmpty())
+      noms.push_back(nom);
+    else
+      ecartes_ += ligne.trimmed().toLower().endsWith(".txt");
+  }
   return noms;
 }
 

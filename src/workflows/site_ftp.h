@@ -21,6 +21,8 @@ class TSiteFtp {
   /// The names "*.txt" of the folder, in the order of the site. What is no plain name (a path, a hidden file,
   /// bytes that are no text) is not among them.
   std::vector<QString> Lister();
+  /// How many "*.txt" the last listing has left out.
+  int NombreEcartes() const { return ecartes_; }
   /// Into a local file, which is replaced only by a whole one. False when the file is no longer there.
   bool Telecharger(const QString& nom, const QString& local);
   /// Opens a connection that was lost again.
@@ -30,4 +32,5 @@ class TSiteFtp {
   struct TCurl;
   std::unique_ptr<TCurl> curl_;
   bool connecte_ = false;
+  int ecartes_ = 0;
 };

@@ -214,6 +214,7 @@ TEST_F(FrmMain, SearchFromTheStartThenOnward) {
   Chercher("zz");
   Base.Dialogues.Repond(fin, true).Repond(fin, true).Repond(fin, false);
   Main.btnRechercheClick();
+  EXPECT_EQ(Globals.ClasseCourante, nullptr) << "starting over finds nobody either";
 }
 
 // Nobody is current after a search that found nobody, so that nobody's bill is printed by mistake.
@@ -263,6 +264,11 @@ TEST_F(FrmMain, TheTreeReadsAsAFrenchReaderExpects) {
   EXPECT_EQ(Textes().mid(2, 5),
             (QStringList{">>Éloy X", ">>Evrard X", ">>Şahin X", ">>Simon X", ">>Zorn X"}));
   EXPECT_EQ(Main.TexteNombres(), u"7 élèves, 1 sans implantation") << "a teacher is no pupil";
+  Chercher("perdu");
+  EXPECT_EQ(Globals.EleveCourant, nullptr);
+  Main.btnRechercheClick();
+  EXPECT_EQ(Globals.EleveCourant->Nom, u"Perdu") << "who stands in no list is found all the same";
+  EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
 }
 
 TEST_F(FrmMain, ItReopensOnTheLastPupilAndScreen) {

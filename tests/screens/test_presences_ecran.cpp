@@ -86,8 +86,10 @@ TEST_F(FrmPresences, TheCountersAndTheNoteOfTheAnomalies) {
   Form.btnEtape2Click();
   EXPECT_TRUE(Form.PeutCorriger()) << "also after a step 2";
   EXPECT_EQ(Form.NoteAnomalies(), u"2 lignes n'ont pas été mémorisées");
+  EXPECT_EQ(Ecran.Etats.last(), u"3 relevés mémorisés");
+  Base.Dialogues.Repond(u"1 anomalie non corrigée.\nContinuer sans"_s, true);
   EXPECT_TRUE(Form.Fermer());
-  EXPECT_EQ(Ecran.Etats.last(), u"3 relevés mémorisés") << "nothing is left to store";
+  EXPECT_EQ(Ecran.Etats.last(), u"1 anomalie non corrigée") << "of a pupil who is known";
 }
 
 TEST_F(FrmPresences, ACorrectionThatNoTariffCountsIsReadyAndSaidToBeSo) {

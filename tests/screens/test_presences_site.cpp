@@ -100,6 +100,7 @@ TEST_F(PresencesDuSite, TheFileOnTheSiteAfterTheSave) {
     const TServeurFtp serveur(mode);
     serveur.Poser(u"z.txt"_s, kScans);
     Viser(serveur);
+    if (mode == u"paths") Base.Dialogues.Attend(u"5 fichiers du site ont un nom"_s);
     Form.btnImportFTPClick();
     EXPECT_EQ(Form.Fichier(), u"z.txt · 0 fichier.");
     Base.Dialogues.Attend(kMemorisees);

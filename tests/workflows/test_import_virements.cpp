@@ -58,6 +58,32 @@ class TImportVirementsEssai : public testing::Test {
   QStringList etats_;
 };
 
+/// A statement of the bank: its number, account, day of October 2016, old balance in euros, payments of 10.
+QByteArray Releve(int numero, const QString& compte, int jour, int ancien,
+                  const QStringList& communications) {
+  const auto solde = [jour](const char* genre, qsizetype euros) {
+    return u"<Bal><Tp><CdOrPrtry><Cd>%1</Cd></CdOrPrtry></Tp><Amt "
+           u"Ccy='EUR'>%2</Amt><CdtDbtInd>CRDT</CdtDbtInd>"
+           "<Dt><Dt>2016-10-%3</Dt></Dt></Bal>"_s.arg(QString::fromLatin1(genre))
+               .arg(euros)
+               .arg(jour, 2, 10, QChar(u'0'));
+  };
+  QString texte =
+      u"<Document "
+      u"xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.02'><BkToCstmrStmt><GrpHdr/><Stmt><Id>S</Id>"
+      "<LglSeqNb>%1</LglSeqNb><Acct><Id><IBAN>%2</IBAN></Id></Acct>"_s.arg(QString::number(numero), compte) +
+      solde("OPBD", ancien) + solde("CLBD", ancien + 10 * communications.size());
+  for (const QString& communication : communications)
+    texte +=
+        u"<Ntry><Amt Ccy='EUR'>10</Amt><CdtDbtInd>CRDT</CdtDbtInd><Sts>BOOK</Sts><BookgDt><Dt>2016-10-%1</Dt>"
+        "</BookgDt><NtryDtls><TxDtls><RltdPties><Dbtr><Nm>DUPONT</Nm></Dbtr><DbtrAcct><Id><IBAN>BE68</IBAN></"
+        "Id>"
+        "</DbtrAcct></RltdPties><RmtInf><Ustrd>%2</Ustrd></RmtInf></TxDtls></NtryDtls></Ntry>"_s
+            .arg(jour, 2, 10, QChar(u'0'))
+            .arg(communication);
+  return (texte + u"</Stmt></BkToCstmrStmt></Document>"_s).toUtf8();
+}
+
 QString Bilan(int lignes, int comptabilises, int inconnus, int regularisations = -1) {
   QString bilan =
       u"Le fichier compte %1 mouvements.\n\n%2 mouvements ont été comptabilisés.\n"
@@ -220,6 +246,47 @@ TEST_F(TImportVirementsEssai, EveryLayoutOfTheParameter) {
     EXPECT_EQ(Extraits(), QStringList{u"1;+++000/0110/16104+++"_s}) << "the same payment in all layouts";
     base_.Sql(u"DELETE FROM PARAMETRE WHERE PARAMETRE_ID = 58"_s);
   }
+  EXPECT_EQ(Credits().size(), 1);
+}
+
+// What a statement says of itself guards against storing it twice, and against one that is missing.
+TEST_F(TImportVirementsEssai, AStatementIsAskedAboutBeforeItIsDoubted) {
+  const QString ecole = u"BE33123456789012"_s;
+  ecole_.parametre(11, u"BE33 1234 5678 9012"_s);
+  const auto lit = [&](const QByteArray& releve, const QString& question, bool oui = false) {
+    SCOPED_TRACE(question.toStdString());
+    Globals.Parametres.reset();
+    essai_.Charger(2016);
+    if (!question.isEmpty()) base_.Dialogues.Repond(question, oui);
+    TImportVirements import(essai_.Controleur);
+    const bool lu = import.Etape1(base_.Fichier(u"releve.xml"_s, releve));
+    if (lu) import.Etape2();
+    EXPECT_EQ(lu, question.isEmpty() || oui);
+    return Extraits().size();
+  };
+  EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), {}), 2);
+  EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s), 2);
+  EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s, true), 2)
+      << "no row twice";
+  EXPECT_EQ(lit(Releve(9, ecole, 7, 120, {u"c"_s}), u"ne suit pas le relevé n° 7 du 05/10/2016"_s), 2);
+  EXPECT_EQ(lit(Releve(8, ecole, 6, 500, {u"c"_s}), u"il en manque un entre les deux"_s), 2);
+  EXPECT_EQ(lit(Releve(8, u"BE71096123456769"_s, 6, 120, {u"c"_s}),
+                u"est celui du compte BE71096123456769, et le compte de l'école est BE33123456789012"_s),
+            2);
+  EXPECT_EQ(lit(Releve(8, u"123456789012"_s, 6, 120, {u"c"_s}), {}), 3)
+      << "the old number of the same account";
+  EXPECT_EQ(lit(Releve(8, ecole, 6, 120, {u"b"_s, u"c"_s}), {}), 4)
+      << "b of another day is another payment, c is there";
+}
+
+// The same payments by the bank's own file, and the table of the same days.
+TEST_F(TImportVirementsEssai, AStatementAndATableOfTheSameDays) {
+  const QString communication = u"+++000/0110/16104+++"_s;
+  ImporterFichier(base_.Fichier(u"releve.xml"_s, Releve(7, u"BE33"_s, 5, 0, {communication, u"merci"_s})));
+  EXPECT_EQ(Extraits(), (QStringList{u"1;"_s + communication, u"2;merci"_s}));
+  Importer({{communication}, {u"autre texte"_s}});
+  EXPECT_EQ(Extraits().size(), 2) << "perhaps the second one, and waits to be ticked";
+  EXPECT_EQ(etats_.last(), u"Peut-être déjà importé 0");
   EXPECT_EQ(Credits().size(), 1);
 }
 

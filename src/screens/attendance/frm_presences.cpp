@@ -91,8 +91,11 @@ void TfrmPresences::FormClose() {
 }
 
 QString TfrmPresences::EnSuspens() const {
-  const int reste = import_.NombreNonMemorises();
-  return Compter(reste, u"relevé non mémorisé"_s, u"relevés non mémorisés"_s, {});
+  QStringList restes{
+      Compter(import_.NombreNonMemorises(), u"relevé non mémorisé"_s, u"relevés non mémorisés"_s, {}),
+      Compter(import_.NombreCorrigibles(), u"anomalie non corrigée"_s, u"anomalies non corrigées"_s, {})};
+  restes.removeAll(QString());
+  return restes.join(u", "_s);
 }
 
 QString TfrmPresences::TitreSource() const {

@@ -42,6 +42,11 @@ void TfrmPresences::Chercher() {
   const auto parametre = [](TParam param) { return Globals.Parametres->GetParametre(param); };
   site_.Connecter(parametre(TParam::ServeurFTP), parametre(TParam::UserFTP), parametre(TParam::MdpFTP));
   const std::vector<QString> noms = site_.Lister();
+  if (const int ecartes = site_.NombreEcartes(); ecartes > 0)
+    contexte_.Dialogues().Message(
+        Compter(ecartes, u"fichier du site a un nom que le programme ne peut pas prendre."_s,
+                u"fichiers du site ont un nom que le programme ne peut pas prendre."_s) %
+        u"\nRenommez-les sur le site : lettres sans accents et chiffres."_s);
   if (noms.empty()) {
     contexte_.Dialogues().Information(u"Toutes les informations ont été transférées."_s);
     return;

@@ -304,11 +304,19 @@ void TFrmRecapitulatif::Exporter() {
   const TDefinition& page = DefinitionDe(page_);
   if (page.Exporter == nullptr) return;
   const auto fichier = contexte_.Dialogues().FichierAEnregistrer(
-      u"Exporter la liste"_s, QString::fromUtf16(page.Titre) % u".csv", u"Texte (*.csv)"_s);
+      u"Exporter la liste"_s, QString::fromUtf16(page.Titre) % Quand() % u".csv", u"Texte (*.csv)"_s);
   if (!fichier) return;
+  contexte_.Principal.Etat(TNiveauEtat::Neutre, {});  // no word about another file, if this one fails
   page.Exporter(this->*page.Lignes, *fichier);
   Dire(u"Exporté : " % *fichier);
   contexte_.Dialogues().Information(u"L'exportation des informations est terminée."_s);
+}
+
+/// The month of the list, for the name of its file.
+QString TFrmRecapitulatif::Quand() const {
+  const TCriteresImpayes& criteres = criteres_.Impayes;
+  const bool mois = page_ == TabImpaye && criteres.Etendue != TEtendue::Annee && criteres.Mois != 0;
+  return u' ' % (mois ? NomMoisCourant(criteres.Mois) : AnneeCompacte(Globals.Eleves->AnneeScolaire));
 }
 
 void TFrmRecapitulatif::Transferer(TSensTransfert sens, const TGrille& grille) {

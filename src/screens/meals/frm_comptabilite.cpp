@@ -1,6 +1,8 @@
 #include "screens/meals/frm_comptabilite.h"
 
+#include "documents/periode.h"
 #include "documents/tickets.h"
+#include "screens/commun/refus.h"
 #include "screens/documents/imprimeur.h"
 #include "workflows/ventes_tickets.h"
 
@@ -22,19 +24,36 @@ std::vector<TColonneGrille> Colonnes() {
   return rendues;
 }
 
+TTableChamps<TPeriode> ChampsPeriode() {
+  const auto date = [](const QString& nom, const QString& libelle) {
+    return TChamp{.Nom = nom, .Libelle = libelle, .Genre = TGenreChamp::Date, .Obligatoire = true};
+  };
+  return {{date(u"dtDebut"_s, u"Début de la période"_s), Membre(&TPeriode::Premier)},
+          {date(u"dtFin"_s, u"Fin de la période"_s), Membre(&TPeriode::Dernier)}};
+}
+
 }  // namespace
 
 TFrmComptabilite::TFrmComptabilite(TContexteEcran& contexte)
-    : Versements(Colonnes()), Comptant(Colonnes()), contexte_(contexte) {}
+    : Versements(Colonnes()),
+      Comptant(Colonnes()),
+      contexte_(contexte),
+      champs_(ChampsPeriode(), TChamps::Aussitot) {}
 
 void TFrmComptabilite::FormShow() {
+  lien_ = AnnoncerRefus(champs_, contexte_.Principal);
+  champs_.SurEnregistrer = [this](const TChamp&) { Remplir(); };
   const TDateTime jour = contexte_.Controleur.Horloge().Aujourdhui();
   dtChange(jour, jour);
 }
 
 void TFrmComptabilite::dtChange(TDateTime debut, TDateTime fin) {
-  dtDebut = debut;
-  dtFin = fin;
+  periode_ = {debut, fin};
+  champs_.Montrer(&periode_);
+  Remplir();
+}
+
+void TFrmComptabilite::Remplir() {
   Remplir(Versements, TPaiementTicket::Virement);
   Remplir(Comptant, TPaiementTicket::Comptant);
   Annoncer();
@@ -43,7 +62,7 @@ void TFrmComptabilite::dtChange(TDateTime debut, TDateTime fin) {
 void TFrmComptabilite::Remplir(TGrille& grille, TPaiementTicket type) const {
   const TGrille::TLot lot(grille);
   grille.Vider();
-  for (const TVentesJour& jour : VentesDeTickets(*Globals.Eleves, {dtDebut, dtFin}, type)) {
+  for (const TVentesJour& jour : VentesDeTickets(*Globals.Eleves, periode_, type)) {
     grille.AjouterTete(LigneVentesJour(jour));
     for (const TVenteEleve& vente : jour.Eleves) grille.Ajouter(LigneVenteEleve(vente));
   }
@@ -51,8 +70,14 @@ void TFrmComptabilite::Remplir(TGrille& grille, TPaiementTicket type) const {
 
 bool TFrmComptabilite::RecevoirMessage(const TMessage& message) {
   if (message.Code != TCodeMessage::Imprimer) return false;
+  if (!LaisserChamp()) return true;
   TImprimeur(contexte_, {}).Faire([&](const TContexteDocument& contexte) {
-    return TicketsVendus(contexte, {dtDebut, dtFin});
+    return TicketsVendus(contexte, periode_);
   });
   return true;
+}
+
+QString TFrmComptabilite::Vide() const {
+  const QString faute = FautePeriode(periode_);
+  return faute.isEmpty() ? u"Changez les dates pour voir d'autres ventes."_s : faute;
 }

@@ -1,4 +1,6 @@
 #pragma once
+#include "core/calendrier_scolaire.h"
+#include "forms/champs.h"
 #include "forms/grille.h"
 #include "meals/tickets.h"
 #include "screens/contexte_ecran.h"
@@ -8,23 +10,30 @@ class TFrmComptabilite : public TForm {
  public:
   explicit TFrmComptabilite(TContexteEcran& contexte);
 
-  TDateTime dtDebut = 0.0;
-  TDateTime dtFin = 0.0;
-  /// One of the two dates has changed.
+  /// "dtDebut" and "dtFin", both included: the lists follow when one is left.
+  TChamps& Champs() { return champs_; }
+  /// Sets both.
   void dtChange(TDateTime debut, TDateTime fin);
+  /// Instead of a list without a sale.
+  QString Vide() const;
 
   // A head a day, a row a pupil.
   TGrille Versements;  ///< "Versement sur le compte"
   TGrille Comptant;    ///< "Paiement au comptant"
 
   bool RecevoirMessage(const TMessage& message) override;
+  bool LaisserChamp() override { return champs_.QuitterTout(); }
   bool Accepte(TCodeMessage code) const override { return code == TCodeMessage::Imprimer; }
 
  protected:
   void FormShow() override;
 
  private:
+  void Remplir();
   void Remplir(TGrille& grille, TPaiementTicket type) const;
 
   TContexteEcran& contexte_;
+  TPeriode periode_;
+  TChampsDe<TPeriode> champs_;
+  TLien lien_;
 };

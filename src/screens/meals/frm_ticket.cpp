@@ -15,8 +15,9 @@ constexpr int kPageDetail = 1;
 }  // namespace
 
 TFrmTicket::TFrmTicket(TContexteEcran& contexte)
-    : LstEleve(
-          {{u"Nom prénom"_s, 240}, {u"Nb tickets"_s, 112, TGenre::Entier}, {u"État"_s, 120, TGenre::Etat}}),
+    : LstEleve({{u"Nom prénom"_s, 240},
+                {u"Nb tickets"_s, 112, TGenre::Entier, true},
+                {u"État"_s, 120, TGenre::Etat}}),
       Detail({{u"Date achat"_s, 200},
               {u"Date utilisation"_s, 150, TGenre::Date},
               {u"Total"_s, 70, TGenre::Entier}}),
@@ -25,7 +26,7 @@ TFrmTicket::TFrmTicket(TContexteEcran& contexte)
   LstEleve.Etats = {{QString(), QString()},
                     {u"en négatif"_s, u"data-error"_s},
                     {u"sans ticket"_s, u"data-warning"_s},
-                    {u"< 3 tickets"_s, u"data-information"_s}};
+                    {u"< 3 tickets"_s, u"dialog-ok-apply"_s}};
   liens_ += LstEleve.SurChoix.Suivre([this] { LstEleveClick(); });
 }
 

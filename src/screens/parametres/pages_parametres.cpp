@@ -60,6 +60,8 @@ TTable Virements() {
                         [] {
                           return QStringList{u"Belfius (Direct Net)"_s, u"Belfius Professionel"_s, u"ING"_s};
                         }}),
+      Reglage(QrReference, {.Nom = u"cbQrReference"_s,
+                            .Libelle = u"Code QR de paiement : la communication comme référence"_s}),
   };
 }
 

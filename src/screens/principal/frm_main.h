@@ -186,10 +186,11 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   void LaisserEleve();
   void MontrerTrouves(std::vector<TNoeud*> trouves);
   bool ChercherPartout(bool fiche);
+  bool ChercherHorsListe(bool fiche);
+  void OuvrirHorsListe(TEleve& eleve);
   void OuvrirMatricule();
   template <class T>
   int Combien(T compte) const;
-  void OublierEleve(const TEleve& eleve);
 
   TReglagesPoste& reglages_;
   std::vector<TPage> pagesCachees_{TPage::pgRepas, TPage::pgRepas3};

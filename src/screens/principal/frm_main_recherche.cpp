@@ -117,13 +117,41 @@ bool TFrmMain::ChercherPartout(bool fiche) {
     return true;
   }
   LaisserEleve();
-  if (trouves.empty())
-    Etat(TNiveauEtat::Alerte, u"Aucun élève n'est trouvé pour « %1 »"_s.arg(cherche));
-  else
+  if (!trouves.empty())
     Etat(TNiveauEtat::Neutre, u"%1 pour « %2 » : choisissez dans la liste"_s.arg(
                                   CompterEleves(static_cast<qint64>(trouves.size())), cherche));
   MontrerTrouves(std::move(trouves));
-  return !trouves_.empty();
+  return !trouves_.empty() || ChercherHorsListe(fiche);
+}
+
+/// Pupils without a site stand in no list, and are known by the same words. A single one is opened on Enter.
+bool TFrmMain::ChercherHorsListe(bool fiche) {
+  std::vector<TEleve*> trouves;
+  for (TEleve& eleve : *Globals.Eleves)
+    if (ContientMots(Connu(eleve), recherche_) && Arbre.TrouverObjet(&eleve) == nullptr)
+      trouves.push_back(&eleve);
+  const QString cherche = recherche_.trimmed();
+  if (trouves.empty()) {
+    Etat(TNiveauEtat::Alerte, u"Aucun élève n'est trouvé pour « %1 »"_s.arg(cherche));
+    return false;
+  }
+  if (fiche && trouves.size() == 1) {
+    OuvrirHorsListe(*trouves.front());
+    return true;
+  }
+  Etat(TNiveauEtat::Alerte, CompterEleves(std::ssize(trouves)) %
+                                u" hors de la liste, sans implantation, pour « %1 »"_s.arg(cherche) %
+                                (trouves.size() == 1 ? u" : Entrée ouvre la fiche" : u""));
+  return true;
+}
+
+void TFrmMain::OuvrirHorsListe(TEleve& eleve) {
+  Globals.EleveCourant = &eleve;
+  Globals.ClasseCourante = eleve.Classe;
+  Diffuser(TCodeMessage::EleveChange);
+  const TGestionnaire eleves = TGestionnaire::AdvGlowButton2Click;
+  if (PageVisible(TPage::PgEleve) && CommandeActive(Commande(eleves))) Executer(eleves);
+  Etat(TNiveauEtat::Alerte, eleve.NomComplet() % u" : sans implantation, il n'est pas dans la liste");
 }
 
 void TFrmMain::OuvrirMatricule() {
@@ -136,6 +164,7 @@ void TFrmMain::OuvrirMatricule() {
     return;
   }
   LaisserEleve();
+  if (eleve != nullptr) return OuvrirHorsListe(*eleve);
   Etat(TNiveauEtat::Alerte, u"Aucun élève de la liste ne porte le matricule « %1 »"_s.arg(matricule));
 }
 
@@ -154,7 +183,7 @@ void TFrmMain::btnRechercheClick() {
     if (TNoeud* noeud = NoeudQuiCommence(debut)) return OuvrirNoeud(*noeud, true);
     if (!Contexte.Dialogues().Confirmer(
             u"Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?"_s))
-      return;
+      return premier == nullptr ? LaisserEleve() : void();
     Arbre.Selectionner(Arbre.Premier());
   }
 }

@@ -195,6 +195,8 @@ void TFrmSignaletique::cmbMoisChange(int indice) {
 
 void TFrmSignaletique::RemplirReleve(const TEleve& eleve) {
   Releve.Remplir(eleve, BornesMois(MoisVu(), eleve.Eleves->AnneeScolaire));
+  Releve.Grille.DeQuoi = eleve.NomComplet() % u' ' % NomMoisCourant(MoisVu());
+  Frais.Grille.DeQuoi = eleve.NomComplet();
 }
 
 QString TFrmSignaletique::TexteSansReleve() const {

@@ -107,10 +107,12 @@ QVariant ModeleGrille::Apparence(int ligne, int colonne, int role) const {
   if (role == Qt::FontRole && vue.Tete) return Theme::Gras();
   if (role == Qt::AccessibleDescriptionRole && vue.Tete && colonne == 0)
     return grille_.EstFerme(ligne) ? u"groupe fermé"_s : u"groupe ouvert"_s;
-  if (vue.Tete || colonne != grille_.ColonneEtat()) return {};
+  const bool suit = grille_.Colonne(colonne).SuitEtat;
+  if (vue.Tete || (colonne != grille_.ColonneEtat() && !suit)) return {};
   const TEtatGrille& etat = grille_.Etats.at(static_cast<size_t>(vue.Etat));
   if (etat.Icone.isEmpty()) return {};
-  if (role == Qt::DecorationRole) return Theme::Icone(etat.Icone, RoleDeIcone(etat.Icone));
+  if (suit && role == Qt::FontRole) return Theme::Gras();
+  if (!suit && role == Qt::DecorationRole) return Theme::Icone(etat.Icone, RoleDeIcone(etat.Icone));
   if (role == Qt::ForegroundRole) return Theme::Couleur(RoleDeIcone(etat.Icone));
   return {};
 }

@@ -274,7 +274,8 @@ void VueGrille::CopierTout() {
 
 // The mark of the encoding is for spreadsheets, which would take the text for another one.
 void VueGrille::Exporter() {
-  const auto chemin = DialoguesQt().FichierAEnregistrer(u"Exporter la liste"_s, accessibleName() % u".csv",
+  const QString nom = QString(accessibleName() % u' ' % grille_.DeQuoi).trimmed().replace(u'/', u'-');
+  const auto chemin = DialoguesQt().FichierAEnregistrer(u"Exporter la liste"_s, nom % u".csv",
                                                         u"Texte séparé par des points-virgules (*.csv)"_s);
   if (!chemin) return;
   const QByteArray octets = "\xEF\xBB\xBF" + EnCsv(grille_, LignesVues(), ColonnesVues()).toUtf8();

@@ -6,8 +6,8 @@
 #include "forms/signal.h"
 
 class EtatVide;
+class LiaisonChamps;
 class QTabWidget;
-class SaisieDate;
 class TFrmComptabilite;
 class TGrille;
 
@@ -19,12 +19,10 @@ class VueComptabilite : public QWidget {
 
  private:
   void AjouterPage(QTabWidget& pages, TGrille& grille, const QString& titre, const QString& ecran);
-  void Lire();
   void Actualiser();
 
   TFrmComptabilite& form_;
-  SaisieDate* debut_;
-  SaisieDate* fin_;
+  LiaisonChamps* liaison_;
   std::vector<std::pair<const TGrille*, EtatVide*>> vides_;
   TLien lien_;
 };
