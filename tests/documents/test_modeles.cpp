@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "core/fichiers.h"
 #include "core/reglages_poste.h"
 #include "documents/modeles.h"
 #include "report/layout/mise_en_page.h"
@@ -67,6 +68,42 @@ TEST(Modeles, TousSeLisent) {
       EXPECT_NO_THROW(ModeleDocument(fichier.chopped(4))) << fichier.toStdString();
     }
   EXPECT_EQ(ModeleDocument(u"Inconnu"_s), nullptr);
+}
+
+// A name is never cut, nor does it push a page that is to be one.
+TEST(Modeles, NomsEtLieuxLongsTiennent) {
+  const QString ecole =
+      u"École fondamentale libre subventionnée Notre-Dame de la Miséricorde et Saint-Joseph"_s;
+  for (const auto& [modele, pages] : {std::pair(u"FicheFiscale"_s, 1U),
+                                      {u"AttestationContribution"_s, 2U},
+                                      {u"ONE"_s, 2U},
+                                      {u"DocumentProvision"_s, 1U}}) {
+    for (const QString& lieu : {u"Ottignies-Louvain-la-Neuve"_s, u"Saint-Georges-sur-Meuse"_s}) {
+      SCOPED_TRACE(modele.toStdString());
+      TRapport rapport(modele, modele);
+      for (const char16_t* nom : {u"NomEcole", u"NomEcoleOfficiel"}) rapport.AjouterVariable(nom, ecole);
+      for (const char16_t* nom : {u"LocaliteEcole", u"ADRESSE"}) rapport.AjouterVariable(nom, lieu);
+      TNoeudRapport eleve = Eleve(u"VANDENBOSSCHE-DE LA CROIX"_s, {Section(u"une"_s, 0)});
+      eleve.Valeurs.Ecrire(u"PrenomEleve", u"Marie-Antoinette Joséphine Clémentine"_s);
+      eleve.Valeurs.Ecrire(u"NomResponsable", u"VANDENBOSSCHE-DE LA CROIX DE MEULENAERE"_s);
+      eleve.Valeurs.Ecrire(u"LocaliteResponsable", lieu);
+      eleve.Valeurs.Ecrire(u"QrPaiement", u"BCD"_s);
+      std::vector<TNoeudRapport> arbre;
+      arbre.push_back(std::move(eleve));
+      rapport.CopierArbre(std::move(arbre));
+      const TDocumentPrepare document = MettreEnPage(rapport, *ModeleDocument(modele));
+      EXPECT_EQ(document.Pages.size(), pages);
+      EXPECT_TRUE(document.Defauts.empty()) << document.Defauts[0].Message.toStdString();
+    }
+  }
+}
+
+// What is official is mended in one place.
+TEST(Modeles, LesMotsDuTrimestreSontEnUnSeulEndroit) {
+  int fois = 0;
+  for (const QString& fichier : QDir(u":/modeles"_s).entryList())
+    fois += LireFichier(u":/modeles/"_s + fichier).contains("différents de la section maternelle");
+  EXPECT_EQ(fois, 1);
 }
 
 TEST(Modeles, UneFactureDeDeuxPages) {
