@@ -209,8 +209,9 @@ QSize StyleCalpenne::sizeFromContents(ContentsType type, const QStyleOption* opt
     const bool texte = !static_cast<const QStyleOptionButton*>(option)->text.isEmpty();
     const bool discret = genre == TGenreBouton::Discret || genre == TGenreBouton::Suppression;
     const int marge = Theme::Px(!texte ? 6 : discret ? 8 : 12);
-    return {taille.width() + 2 * marge,
-            std::max(Theme::Px(genre == TGenreBouton::Principal ? 34 : 30), taille.height())};
+    const QSize voulue(taille.width() + 2 * marge,
+                       std::max(Theme::Px(genre == TGenreBouton::Principal ? 34 : 30), taille.height()));
+    return Theme::EstTactile() ? voulue.expandedTo({2 * Theme::CoteDoigt(), Theme::CoteDoigt()}) : voulue;
   }
   const QSize voulue = QProxyStyle::sizeFromContents(type, option, taille, widget);
   if (type == CT_LineEdit || type == CT_ComboBox || type == CT_SpinBox)

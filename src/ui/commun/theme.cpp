@@ -109,6 +109,11 @@ bool EstFortContraste(const QPalette& p) {
          Contraste(fond, p.color(QPalette::WindowText)) >= 15.0;
 }
 
+bool& Doigt() {
+  static bool doigt = false;
+  return doigt;
+}
+
 TPresentation& Presente() {
   static TPresentation presentation = Presentation(false);
   return presentation;
@@ -288,6 +293,12 @@ void Appliquer(QApplication& application, TMode mode) {
 bool EstSombre() { return Presente().Sombre; }
 
 int Px(int longueur) { return static_cast<int>(std::lround(longueur * Echelle())); }
+
+int CoteDoigt() { return std::max(48, Px(48)); }
+
+void DefinirTactile(bool tactile) { Doigt() = tactile; }
+
+bool EstTactile() { return Doigt(); }
 
 QColor Couleur(TRole role) {
   switch (role) {

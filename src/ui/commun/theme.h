@@ -34,6 +34,12 @@ bool EstSombre();
 
 /// A length given at 10 points, in pixels at the size of the application's font.
 int Px(int longueur);
+/// The least side of what a finger presses, in pixels: no smaller with a small font.
+int CoteDoigt();
+/// Whether a finger works the program, as on the tablet: buttons made from then on are no smaller, those of
+/// dialogs too.
+void DefinirTactile(bool tactile);
+bool EstTactile();
 
 QColor Couleur(TRole role);
 QColor Secondaire();

@@ -19,14 +19,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kLargeurBouton = 180;
-constexpr int kHauteurBouton = 48;
 constexpr int kLargeurRecherche = 280;
 constexpr int kMarge = 18;
 constexpr int kEntreLignes = 20;
 constexpr int kMinuteMs = 30'000;
-
-/// A finger is not smaller with a small font.
-int HauteurDoigt() { return qMax(kHauteurBouton, Theme::Px(kHauteurBouton)); }
 
 /// Drawn along by the finger, as by the bar.
 void SuivreLeDoigt(QScrollArea& defile) {
@@ -40,7 +36,7 @@ void SuivreLeDoigt(QScrollArea& defile) {
 
 QPushButton* GrandBouton(const QString& texte) {
   QPushButton* bouton = BoutonSimple(texte);
-  bouton->setMinimumSize(Theme::Px(kLargeurBouton), HauteurDoigt());
+  bouton->setMinimumSize(Theme::Px(kLargeurBouton), Theme::CoteDoigt());
   return bouton;
 }
 
@@ -111,7 +107,7 @@ QWidget* VuePresenceRepas::Droite() {
   recherche_->setPlaceholderText(u"Rechercher un élève"_s);
   recherche_->setAccessibleName(u"Rechercher un élève"_s);
   recherche_->setClearButtonEnabled(true);
-  recherche_->setMinimumSize(Theme::Px(kLargeurRecherche), HauteurDoigt());
+  recherche_->setMinimumSize(Theme::Px(kLargeurRecherche), Theme::CoteDoigt());
   connect(recherche_, &QLineEdit::textEdited, this, [this](const QString& t) { form_.edRechercheChange(t); });
   cadres_->setWidgetResizable(true);
   cadres_->setFrameShape(QFrame::NoFrame);

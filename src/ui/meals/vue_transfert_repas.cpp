@@ -19,7 +19,7 @@ VueTransfertRepas::VueTransfertRepas(TFrmTransfertRepas& form, QWidget* parent)
       comptes_(new RangeeCompteurs),
       anomalies_(new VueGrille(form.Anomalies, u"Anomalies"_s, u"TransfertRepas/Anomalies"_s)),
       recommencer_(BoutonSimple(u"Recommencer le transfert"_s, u"view-refresh"_s)) {
-  recommencer_->setMinimumHeight(qMax(48, Theme::Px(48)));
+  recommencer_->setMinimumHeight(Theme::CoteDoigt());
   connect(recommencer_, &QPushButton::clicked, this, [this] { form_.btnRecommencerClick(); });
   QVBoxLayout* colonne = ColonneEcran(*this, u"Transfert"_s);
   colonne->addWidget(etat_);

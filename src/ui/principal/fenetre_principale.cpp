@@ -136,6 +136,7 @@ void FenetrePrincipale::Demarrer() {
 }
 
 void FenetrePrincipale::Actualiser() {
+  Theme::DefinirTactile(form_.PageVisible(TPage::pgRepas3));
   barre_->Actualiser();
   eleves_->setVisible(form_.ArbreVisible());
   trait_->setVisible(form_.ArbreVisible());

@@ -117,6 +117,8 @@ TEST_F(Tablette, AnAnomalyIsShownBeforeItIsAskedAbout) {
     const TGrille& anomalies = Form<TFrmTransfertRepas>().Anomalies;
     EXPECT_EQ(anomalies.Texte(0, 0), "Matricule inconnu (99)");
     EXPECT_EQ(anomalies.Texte(1, 2), "dimanche 9 octobre");
+    const QAbstractButton* non = BoutonDe(question, "Non");
+    EXPECT_TRUE(non->width() >= 96 && non->height() >= 48) << "for a finger";
     ::Cliquer(question, "Non");
   });
   Cliquer("Recommencer le transfert");
