@@ -120,6 +120,7 @@ bool TControleur::Connecter() {
         "Actions:"_s;
     reessai.Lien = u"Cliquez ici afin de modifier le nom du serveur de données."_s;
     reessai.SurLien = [this] { base_.AskServerName(); };
+    if (base_.EstLocal()) reessai.SurFichier = [this] { return base_.AskDataFile(); };
     reessai.Cause = e.Message;
     if (!Dialogues().Reessayer(reessai)) return false;
     Dialogues().TraiterEvenements();

@@ -92,16 +92,32 @@ bool TDataModule1::CanWriteMachineKey() const { return reglages_.MachineInscript
 
 void TDataModule1::AskServerName() {
   QString invite = u"Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :"_s;
-  const bool machine = CanWriteMachineKey();
-  if (!machine)
+  if (!CanWriteMachineKey())
     invite +=
         u"\nAttention : Afin de ne plus afficher ce message, veuillez exécuter cette opération avec un "
         u"compte "
         "administrateur"_s;
   const auto reponse = dialogues_.Saisir(u"Identification du Serveur de données"_s, invite, ServerName);
   if (!reponse || reponse->trimmed().isEmpty()) return;
-  ServerName = *reponse;
-  WriteServerName(machine ? TRacine::Machine : TRacine::Utilisateur);
+  KeepServerName(*reponse);
+}
+
+bool TDataModule1::AskDataFile() {
+  const auto fichier =
+      dialogues_.ChoisirFichier(u"Choisir le fichier de données"_s, u"Fichiers de données (*.fdb)"_s);
+  if (!fichier) return false;
+  if (!fichier->endsWith(u".fdb", Qt::CaseInsensitive)) {  // it would be taken for the name of a server
+    dialogues_.Message(u"« %1 » n'est pas un fichier de données : son nom doit finir par « .fdb »."_s.arg(
+        QFileInfo(*fichier).fileName()));
+    return false;
+  }
+  KeepServerName(*fichier);
+  return true;
+}
+
+void TDataModule1::KeepServerName(const QString& nom) {
+  ServerName = nom;
+  WriteServerName(CanWriteMachineKey() ? TRacine::Machine : TRacine::Utilisateur);
 }
 
 namespace {

@@ -37,6 +37,8 @@ class TDataModule1 {
   bool CanWriteMachineKey() const;
   /// Asks the user for the server's name and keeps the answer; a blank answer changes nothing.
   void AskServerName();
+  /// Asks which data file of this computer to open, and keeps the answer; false when the user gives up.
+  bool AskDataFile();
 
   /// The next key of a counter, never given twice; -1 after having told the user why not.
   int GetNextId(const QString& counterName);
@@ -69,6 +71,7 @@ class TDataModule1 {
   QString ServeurImpose;
 
  private:
+  void KeepServerName(const QString& nom);
   void OuvrirFichier(const QString& chemin);
   void CreerFichier(const QString& chemin);
   void Ouvrir(const QString& hote, const QString& base);

@@ -11,6 +11,7 @@ struct TReessai {
   QString Lien;
   QString Cause;  ///< what the database or the network answered
   std::function<void()> SurLien;
+  std::function<bool()> SurFichier;  ///< chooses the data file of this computer; none for a server
 };
 
 /// How logic talks to the user. The desktop program answers with dialogs, the batch program on the

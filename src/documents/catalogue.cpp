@@ -23,9 +23,11 @@ namespace {
 
 constexpr TTitreDocument kTitres[] = {
     {.Titre = u"Etiquettes d'identification 89mm x 36mm (Etiquette Dymo 99012)",
-     .Construire = EtiquettesGrandes},
+     .Construire = EtiquettesGrandes,
+     .Empechement = EmpechementGrandes},
     {.Titre = u"Etiquettes d'identification 54mm x 25mm (Etiquette Dymo 11352)",
-     .Construire = EtiquettesPetites},
+     .Construire = EtiquettesPetites,
+     .Empechement = EmpechementPetites},
     {.Titre = u"Badge individuel d'identification (85mm x 54mm)", .Construire = Badge},
     {.Titre = u"Badge individuel Xerox DocuCard (1 carte)", .Construire = Xerox},
     {.Titre = u"Liste d'identification par classe", .Construire = ListeCodesBarres},
@@ -106,8 +108,8 @@ const TTitreDocument* TrouverTitre(QStringView titre) {
   return trouve == std::end(kTitres) ? nullptr : trouve;
 }
 
-QString Empechement(const TTitreDocument& titre) {
-  return titre.Construire != nullptr ? QString() : u"pas encore disponible"_s;
+QString Empechement(const TTitreDocument& titre, const TEtiquettes& etiquettes) {
+  return titre.Empechement != nullptr ? titre.Empechement(etiquettes) : QString();
 }
 
 bool DemandeDatePaiement(const TTitreDocument& titre, const TParametres& parametres) {

@@ -24,11 +24,13 @@ struct TTitreDocument {
   bool Courriel = false;     ///< the command for mail offers it too
   /// Whether the user has to be asked for a payment date before it; null: never.
   bool (*DemandeDate)(const TParametres&) = nullptr;
+  /// What may be missing on this workstation; null: nothing.
+  QString (*Empechement)(const TEtiquettes&) = nullptr;
   TListeTitres Liste = TListeTitres::Eleves;
 };
 
-/// Why that document cannot be made here; "" when it can.
-QString Empechement(const TTitreDocument& titre);
+/// Why that document cannot be made here, with these labels; "" when it can.
+QString Empechement(const TTitreDocument& titre, const TEtiquettes& etiquettes);
 
 /// A title as it stands before the user, and what is made when it is chosen.
 struct TTitreOffert {

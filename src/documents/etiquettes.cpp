@@ -26,6 +26,8 @@ constexpr TRegleModele kModeles[] = {
      u"vérifier si le fichier EtiquetteLivre.LWL se trouve dans le répertoire courant."},
 };
 
+const TRegleModele& Regle(TModeleEtiquette modele) { return kModeles[static_cast<std::size_t>(modele) - 1]; }
+
 TResultat Echouer(const QString& message) {
   TResultat resultat;
   resultat.Messages += message;
@@ -56,13 +58,22 @@ TResultat DuPoste(const TContexteDocument& contexte, TModeleEtiquette modele, co
 
 }  // namespace
 
+QString TEtiquettes::Chemin(TModeleEtiquette modele) const {
+  return QDir(poste_.Dossier).filePath(QString::fromUtf16(Regle(modele).Fichier));
+}
+
+QString TEtiquettes::Empechement(TModeleEtiquette modele) const {
+  return QFile::exists(Chemin(modele))
+             ? QString()
+             : QString(u"modèle absent : " % QString::fromUtf16(Regle(modele).Fichier));
+}
+
 TResultat TEtiquettes::Imprimer(TModeleEtiquette modele, const TElevesChoisis& eleves) {
   const TAttente attente(dialogues_);
   if (!moteur_ && poste_.CreerMoteur) moteur_ = poste_.CreerMoteur();
   if (!moteur_) return SansMoteur();
-  const TRegleModele& regle = kModeles[static_cast<std::size_t>(modele) - 1];
-  const QString chemin = QDir(poste_.Dossier).filePath(QString::fromUtf16(regle.Fichier));
-  if (!QFile::exists(chemin)) return Echouer(QString::fromUtf16(regle.SiAbsent));
+  const QString chemin = Chemin(modele);
+  if (!QFile::exists(chemin)) return Echouer(QString::fromUtf16(Regle(modele).SiAbsent));
   moteur_->OuvrirFichier(chemin);
   TResultat resultat;
   for (const TEleve* eleve : eleves)
@@ -93,4 +104,12 @@ TResultat EtiquettesGrandes(const TContexteDocument& contexte, const TDemandeDoc
 
 TResultat EtiquettesPetites(const TContexteDocument& contexte, const TDemandeDocument& demande) {
   return DuPoste(contexte, TModeleEtiquette::Petite, demande.Eleves);
+}
+
+QString EmpechementGrandes(const TEtiquettes& etiquettes) {
+  return etiquettes.Empechement(TModeleEtiquette::Grande);
+}
+
+QString EmpechementPetites(const TEtiquettes& etiquettes) {
+  return etiquettes.Empechement(TModeleEtiquette::Petite);
 }

@@ -53,8 +53,12 @@ class TEtiquettes {
   /// nothing printed, without engine or model; an object that the model lacks leaves a message for each
   /// label, which is printed all the same.
   TResultat Imprimer(TModeleEtiquette modele, const TElevesChoisis& eleves);
+  /// Why labels of that model cannot be printed here, before anybody asks for one: the model is not there.
+  /// A printer may still be switched on, so its absence is told when it is needed. "" when they can.
+  QString Empechement(TModeleEtiquette modele) const;
 
  private:
+  QString Chemin(TModeleEtiquette modele) const;
   QStringList ImprimerUne(const TEleve& eleve);
 
   TPosteEtiquettes poste_;
@@ -65,3 +69,6 @@ class TEtiquettes {
 /// The labels of the wizard's first titles; without a printer of labels, the same as without its software.
 TResultat EtiquettesGrandes(const TContexteDocument& contexte, const TDemandeDocument& demande);
 TResultat EtiquettesPetites(const TContexteDocument& contexte, const TDemandeDocument& demande);
+/// Why these cannot be made here; "" when they can.
+QString EmpechementGrandes(const TEtiquettes& etiquettes);
+QString EmpechementPetites(const TEtiquettes& etiquettes);

@@ -112,8 +112,6 @@ class TGrille {
   /// The rows are shown with check boxes.
   bool CasesACocher = false;
   std::vector<TEtatGrille> Etats;
-  /// Whose list it is, and of which month: the name of an exported file says it. It may be empty.
-  QString DeQuoi;
   /// Words that the user narrows the list to, on the screen and on paper; empty for all rows.
   QString Filtre;
   TSignal<TChangement> SurChangement;

@@ -8,6 +8,20 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The accounts are those on display: of another year, they would be written once and for all.
+QString AutreAnneeAffichee() {
+  const int affichee = Globals.Eleves->AnneeScolaire;
+  if (affichee == Globals.AnneeScolaire) return {};
+  return u"Attention : l'année affichée est %1. La clôture écrirait ses comptes comme étant ceux de %2, et "
+         u"ne "
+         "peut pas être refaite. Répondez « Non » et affichez d'abord %2.\n"_s.arg(
+             AnneeEnTexte(affichee), AnneeEnTexte(Globals.AnneeScolaire));
+}
+
+}  // namespace
+
 QString TClotureAnnee::Annonce(int eleves) {
   const int annee = Globals.AnneeScolaire;
   std::unordered_set<int> comptes, professeurs;
@@ -21,19 +35,9 @@ QString TClotureAnnee::Annonce(int eleves) {
     reste =
         u"\nAucun professeur ne passe : ajoutez-les dans la nouvelle année, par le menu de la liste des élèves."_s;
   }
-  const int affichee = Globals.Eleves->AnneeScolaire;
-  const QString ailleurs =
-      affichee == annee
-          ? QString()
-          : u"ATTENTION : l'année affichée est %1. Ce sont ses comptes, et non ceux de l'année de "
-            "travail %2, qui seront écrits pour %2, et cela ne se refait pas. Affichez d'abord "
-            "l'année de travail.\n\n"_s.arg(AnneeCompacte(affichee), AnneeCompacte(annee));
-  return ailleurs %
-         u"La clôture écrit la balance de %1, fait passer %2 du fichier en %3-%4 et quitte l'année "
-         "%5-%3."_s.arg(qui, CompterEleves(eleves))
-             .arg(annee + 1)
-             .arg(annee + 2)
-             .arg(annee) %
+  return AutreAnneeAffichee() %
+         u"La clôture écrit la balance de %1 pour l'année %2, fait passer %3 du fichier en %4 et quitte "
+         "%2."_s.arg(qui, AnneeEnTexte(annee), CompterEleves(eleves), AnneeEnTexte(annee + 1)) %
          reste;
 }
 

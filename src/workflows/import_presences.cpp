@@ -331,10 +331,9 @@ bool TImportPresences::AUnTarif(const TPresence& presence) {
 
 int TImportPresences::NombreNonMemorises() const { return static_cast<int>(bons_.size() + ajoutees_.size()); }
 
-int TImportPresences::NombreCorrigibles() const {
-  int nombre = 0;
-  for (int i = 0; i < static_cast<int>(anomalies_.size()); ++i) nombre += EstCorrigible(i);
-  return nombre;
+int TImportPresences::NombreACorriger() const {
+  return static_cast<int>(
+      std::ranges::count_if(anomalies_, [](const TAnomalie& a) { return a.Presence != nullptr; }));
 }
 
 bool TImportPresences::EstHorsAnnee(TDateTime date) {

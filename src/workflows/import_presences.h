@@ -80,9 +80,10 @@ class TImportPresences {
   static bool AUnTarif(const TPresence& presence);
   /// Records that are ready and not stored.
   int NombreNonMemorises() const;
-  /// Lines of the anomalies that can be corrected, and then stored.
-  int NombreCorrigibles() const;
-  /// Of these, those whose day is not of the year on display: nobody will see them there.
+  /// Anomalies of a known pupil: nobody has corrected them yet, and nothing stores them as they are.
+  int NombreACorriger() const;
+  /// Of the records that are ready, those whose day is not of the year on display: nobody will see them
+  /// there.
   int NombreHorsAnnee() const;
   static bool EstHorsAnnee(TDateTime date);
   /// There are records to store.

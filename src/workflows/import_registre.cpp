@@ -72,6 +72,17 @@ TDateTime DateDuFichier(const QString& texte) {
   return StrToDate(texte);
 }
 
+TFicheRegistre FicheDe(const TEleve& eleve) {
+  return {eleve.Matricule,
+          eleve.Nom,
+          eleve.Prenom,
+          eleve.DateNaissance != 0.0 ? FormatDate(eleve.DateNaissance) : QString(),
+          eleve.LibelleClasse().trimmed(),
+          eleve.CodeImplantation,
+          QString(eleve.NomResponsable % u' ' % eleve.PrenomResponsable).trimmed(),
+          eleve.Localite};
+}
+
 }  // namespace
 
 TImportRegistre::TImportRegistre(TControleur& controleur)
@@ -90,7 +101,7 @@ QString TImportRegistre::Classe(int ligne) const {
   return disposition_.NettoyerClasse ? Nettoyer(classe) : classe;
 }
 
-TImportRegistre::TFiche TImportRegistre::Fiche(int ligne) const {
+TFicheRegistre TImportRegistre::Fiche(int ligne) const {
   const TDisposition& d = disposition_;
   QString naissance = Champ(ligne, d.DateNaissance);
   try {
@@ -200,16 +211,19 @@ QString TImportRegistre::NomDe(int ligne) const {
 TEffetRegistre TImportRegistre::Effet() const {
   TEffetRegistre effet;
   if (NombreEleves() == 0) return effet;
-  const TEleves tous(controleur_.Base(), 0);
+  TDataModule1& base = controleur_.Base();
+  const TEleves tous(base, 0), inscrits(base, Globals.AnneeScolaire);
   for (int ligne = 1; ligne < grille_.NombreLignes(); ++ligne) {
-    effet.Lignes.push_back(Sort(tous, ligne));
+    effet.Lignes.push_back(Sort(tous, inscrits, ligne));
     if (Champ(ligne, disposition_.Site).trimmed().isEmpty()) effet.SansSite += NomDe(ligne);
   }
-  effet.Partis = ElevesPartis();
+  const bool commencee =
+      std::ranges::any_of(inscrits.Tous(), [](const TEleve* e) { return !TProfesseurs::EstProfesseur(*e); });
+  effet.Partis = commencee ? ElevesPartis(inscrits) : ElevesPartis(TEleves(base, Globals.AnneeScolaire - 1));
   return effet;
 }
 
-TSortLigne TImportRegistre::Sort(const TEleves& eleves, int ligne) const {
+TSortLigne TImportRegistre::Sort(const TEleves& eleves, const TEleves& inscrits, int ligne) const {
   TEleve lu;
   try {
     RemplirEleve(lu, ligne);
@@ -219,10 +233,12 @@ TSortLigne TImportRegistre::Sort(const TEleves& eleves, int ligne) const {
   if (Champ(ligne, disposition_.Site).size() > kCodeImplantationMaximum) return TSortLigne::Illisible;
   const TEleve* eleve = eleves.TrouverParMatricule(lu.Matricule);
   if (eleve == nullptr) return TSortLigne::Nouveau;
-  return Differe(*eleve, lu, ligne) ? TSortLigne::Modifie : TSortLigne::Inchange;
+  return Differe(*eleve, lu) || ChangeDeClasse(inscrits.TrouverParId(eleve->Id), ligne)
+             ? TSortLigne::Modifie
+             : TSortLigne::Inchange;
 }
 
-bool TImportRegistre::Differe(const TEleve& eleve, const TEleve& lu, int ligne) const {
+bool TImportRegistre::Differe(const TEleve& eleve, const TEleve& lu) const {
   static constexpr QString TEleve::*kTextes[] = {&TEleve::Nom,
                                                  &TEleve::Prenom,
                                                  &TEleve::NomResponsable,
@@ -236,30 +252,28 @@ bool TImportRegistre::Differe(const TEleve& eleve, const TEleve& lu, int ligne) 
   const auto autre = [&](QString TEleve::*champ) { return eleve.*champ != lu.*champ; };
   if (std::ranges::any_of(kTextes, autre)) return true;
   if (eleve.DateNaissance != lu.DateNaissance || eleve.CodePostal != lu.CodePostal) return true;
-  if (disposition_.Adresse2 >= 0 &&
-      (std::ranges::any_of(kSecond, autre) || eleve.CodePostal2 != lu.CodePostal2))
-    return true;
-  // The class too: of the year that step 2 will write to, which is not the one on display after a closing.
-  const TEleve* inscrit = Globals.Eleves->AnneeScolaire == Globals.AnneeScolaire
-                              ? Globals.Eleves->TrouverParId(eleve.Id)
-                              : nullptr;
+  return disposition_.Adresse2 >= 0 &&
+         (std::ranges::any_of(kSecond, autre) || eleve.CodePostal2 != lu.CodePostal2);
+}
+
+bool TImportRegistre::ChangeDeClasse(const TEleve* inscrit, int ligne) const {
   return inscrit == nullptr || inscrit->CodeClasse != Classe(ligne) ||
          inscrit->SousClasse != Champ(ligne, disposition_.SousClasse) ||
          inscrit->CodeImplantation != Champ(ligne, disposition_.Site);
 }
 
 // A file of one site says nothing of the pupils of the others.
-QStringList TImportRegistre::ElevesPartis() const {
+std::vector<TFicheRegistre> TImportRegistre::ElevesPartis(const TEleves& inscrits) const {
   QSet<QString> presents;
   for (int ligne = 1; ligne < grille_.NombreLignes(); ++ligne)
     presents += Champ(ligne, disposition_.Matricule);
   const QString site = Globals.Parametres->GetParametre(TParam::CodeEtablissement);
-  QStringList partis;
-  for (const TEleve& eleve : *Globals.Eleves) {
+  std::vector<TFicheRegistre> partis;
+  for (const TEleve& eleve : inscrits) {
     const bool ailleurs =
         !site.isEmpty() && !eleve.CodeImplantation.isEmpty() && eleve.CodeImplantation != site;
     if (eleve.FlgRadie || ailleurs || TProfesseurs::EstProfesseur(eleve)) continue;
-    if (!presents.contains(eleve.Matricule)) partis += eleve.NomComplet();
+    if (!presents.contains(eleve.Matricule)) partis.push_back(FicheDe(eleve));
   }
   return partis;
 }

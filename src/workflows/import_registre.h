@@ -18,11 +18,19 @@ struct TBilanRegistre {
 /// What a row of the file will do.
 enum class TSortLigne { Nouveau, Modifie, Inchange, Illisible };
 
+/// What a list says of a pupil, of the file or of the year.
+struct TFicheRegistre {
+  QString Matricule, Nom, Prenom;
+  QString Naissance;  ///< "02/06/2010"; of the file as it stands when it is no date
+  QString Classe;     ///< with its sub-class: "P3 A"
+  QString Site, Responsable, Localite;
+};
+
 /// What step 2 will do, told before it is taken.
 struct TEffetRegistre {
-  std::vector<TSortLigne> Lignes;  ///< by data row
-  QStringList Partis;              ///< pupils of the year on display that the file no longer holds
-  QStringList SansSite;            ///< pupils of the file without a site
+  std::vector<TSortLigne> Lignes;      ///< by data row
+  std::vector<TFicheRegistre> Partis;  ///< pupils that the file no longer holds
+  QStringList SansSite;                ///< pupils of the file without a site
   int Nombre(TSortLigne sort) const { return static_cast<int>(std::ranges::count(Lignes, sort)); }
 };
 
@@ -37,7 +45,8 @@ class TImportRegistre {
   /// step 2 may follow. Raises Exception for a file that cannot be read, EConvertError for one that
   /// bears no date, ECloture.
   bool Etape1(const QString& fichier);
-  /// Reads every row against what the table holds; nothing is changed.
+  /// Reads every row against what the tables hold of the working year, whichever is on display; who is
+  /// gone is told of the year before while nobody is enrolled yet, as after a closing. Nothing is changed.
   TEffetRegistre Effet() const;
   /// Step 2: writes each pupil and enrolment at once, then loads the working year. A malformed row
   /// raises EConvertError, which names it; the rows before it stay.
@@ -62,14 +71,7 @@ class TImportRegistre {
   /// Step 2 has written that row of the grid, and is about to let pending events through.
   std::function<void(int)> SurLigneTransferee;
 
-  /// What the file says of a pupil, for lists.
-  struct TFiche {
-    QString Matricule, Nom, Prenom;
-    QString Naissance;  ///< "02/06/2010"; as it stands when it is no date
-    QString Classe;     ///< with its sub-class: "P3 A"
-    QString Site, Responsable, Localite;
-  };
-  TFiche Fiche(int ligne) const;
+  TFicheRegistre Fiche(int ligne) const;
 
   /// Columns of the file, from 0; -1 is not read.
   struct TDisposition {
@@ -85,9 +87,10 @@ class TImportRegistre {
   bool VerifierAnnee();
   TDateTime DatePremierEleve() const;
   QString Situer(int ligne, const Exception& e);
-  TSortLigne Sort(const TEleves& eleves, int ligne) const;
-  bool Differe(const TEleve& eleve, const TEleve& lu, int ligne) const;
-  QStringList ElevesPartis() const;
+  TSortLigne Sort(const TEleves& eleves, const TEleves& inscrits, int ligne) const;
+  bool Differe(const TEleve& eleve, const TEleve& lu) const;
+  bool ChangeDeClasse(const TEleve* inscrit, int ligne) const;
+  std::vector<TFicheRegistre> ElevesPartis(const TEleves& inscrits) const;
   QString NomDe(int ligne) const;
   void TransfererLigne(TEleves& eleves, int ligne, TBilanRegistre& bilan);
   void RemplirEleve(TEleve& eleve, int ligne) const;

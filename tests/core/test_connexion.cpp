@@ -141,6 +141,17 @@ TEST(Connexion, WhereTheServersNameComesFrom) {
   EXPECT_TRUE(base->ConnectToServer());
   EXPECT_EQ(base->ServerName, b);
   EXPECT_FALSE(QFile::exists(b + u".nouveau"_s));
+  // A file that was moved is shown by its place; what is no data file is not taken for a server.
+  base.Dialogues.Saisit(u"Choisir le fichier de données"_s, {})
+      .Saisit(u"Choisir le fichier de données"_s, base.Chemin(u"ecole.txt"_s))
+      .Attend(u"« ecole.txt » n'est pas un fichier de données"_s);
+  EXPECT_FALSE(base->AskDataFile());
+  EXPECT_FALSE(base->AskDataFile());
+  EXPECT_EQ(base->ServerName, b);
+  base.Dialogues.Saisit(u"Choisir le fichier de données"_s, a);
+  EXPECT_TRUE(base->AskDataFile());
+  EXPECT_TRUE(base->ConnectToServer());
+  EXPECT_EQ(reglages.Lire(TRacine::Machine, u"Serveur"_s), a);
 }
 
 TEST(Connexion, OnlyWhoMayNotWriteTheMachinesSettingsIsWarned) {

@@ -90,6 +90,15 @@ TEST_F(TEtiquettesEssai, SansMoteurNiModele) {
   const TResultat petite = Demander(1, {anne});
   EXPECT_TRUE(petite.Echec);
   EXPECT_EQ(petite.Messages, QStringList{debut % u" : \"EtiquetteEleve-11352.label\"." % suite});
+
+  // Known before anybody asks, each model for itself; a document that needs none is never held back.
+  Modele(u"99012"_s, {"NomEleve"});
+  QStringList raisons;
+  for (const TTitreOffert& titre : TitresOfferts(TListeTitres::Eleves))
+    raisons += Empechement(*titre.Fait, etiquettes);
+  EXPECT_EQ(raisons[1], u"modèle absent : EtiquetteEleve-11352.label");
+  raisons.removeAll(QString());
+  EXPECT_EQ(raisons.size(), 1);
 }
 
 TEST_F(TEtiquettesEssai, UnObjetQuiManqueSeDitAChaqueEtiquette) {

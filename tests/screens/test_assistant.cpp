@@ -103,6 +103,23 @@ TEST_F(Assistant, PagesFollowWhatWasAskedAndTheTitle) {
   }
 }
 
+TEST_F(Assistant, ATitleThatCannotBeMadeIsNotTheOneAtHand) {
+  const auto demande = [](const QString& raison) {
+    TDemandeAssistant d = TDemandeAssistant::De({{u"Badge"_s, false, raison}, {u"Liste"_s, false}});
+    d.PageQui = false;
+    return d;
+  };
+  Ouvrir([&] { Finir(); }, demande({}));
+  EXPECT_EQ(demandeur.Choix->Indice, 0);
+  Ouvrir(
+      [&] {
+        EXPECT_EQ(assistant.Indice(), 1) << "the first that can";
+        EXPECT_EQ(assistant.IndiceDernier(), -1) << "what was printed last is no longer offered";
+        assistant.btnAnnulerClick();
+      },
+      demande(u"modèle absent"_s));
+}
+
 TEST_F(Assistant, WhoIsCheckedAtTheOpening) {
   const auto coche = [&] {
     Ouvrir([&] { assistant.btnAnnulerClick(); });

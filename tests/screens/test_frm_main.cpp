@@ -115,6 +115,11 @@ TEST_F(FrmMain, ACommandOpensItsScreenWithItsTools) {
   Main.Executer(TGestionnaire::btnVirementClick);
   EXPECT_EQ(Main.Panneau.Courante(), fiche) << "a screen that is not there says so and opens nothing";
   EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Alerte);
+  for (const TNiveauEtat niveau : {TNiveauEtat::Succes, TNiveauEtat::Alerte, TNiveauEtat::Erreur}) {
+    Main.Etat(niveau, u"Tarif enregistré"_s);
+    Main.Executer(TGestionnaire::AdvGlowButton16Click);
+    EXPECT_EQ(Main.Etat().Texte.isEmpty(), niveau != TNiveauEtat::Erreur) << "no word about the next screen";
+  }
   for (const bool oui : {false, true}) {
     Base.Dialogues.Repond(u"Souhaitez-vous quitter"_s, oui);
     Main.Executer(TGestionnaire::AdvGlowButton4Click);
@@ -214,7 +219,8 @@ TEST_F(FrmMain, SearchFromTheStartThenOnward) {
   Chercher("zz");
   Base.Dialogues.Repond(fin, true).Repond(fin, true).Repond(fin, false);
   Main.btnRechercheClick();
-  EXPECT_EQ(Globals.ClasseCourante, nullptr) << "starting over finds nobody either";
+  EXPECT_EQ(Globals.ClasseCourante, nullptr) << "the first class of the tree was not looked for";
+  EXPECT_EQ(Choisi(), QString());
 }
 
 // Nobody is current after a search that found nobody, so that nobody's bill is printed by mistake.
@@ -264,11 +270,19 @@ TEST_F(FrmMain, TheTreeReadsAsAFrenchReaderExpects) {
   EXPECT_EQ(Textes().mid(2, 5),
             (QStringList{">>Éloy X", ">>Evrard X", ">>Şahin X", ">>Simon X", ">>Zorn X"}));
   EXPECT_EQ(Main.TexteNombres(), u"7 élèves, 1 sans implantation") << "a teacher is no pupil";
-  Chercher("perdu");
-  EXPECT_EQ(Globals.EleveCourant, nullptr);
-  Main.btnRechercheClick();
-  EXPECT_EQ(Globals.EleveCourant->Nom, u"Perdu") << "who stands in no list is found all the same";
-  EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
+
+  // Who stands in no place of it is found all the same, by name and by number, and stays over a reading.
+  for (const QString& cherche : {u"PERDU"_s, Globals.Eleves->TrouverParId(7)->Matricule}) {
+    Chercher("seul");
+    Main.edSearchSaisie(cherche);
+    Main.btnRechercheClick();
+    ASSERT_NE(Globals.EleveCourant, nullptr);
+    EXPECT_EQ(Globals.EleveCourant->Nom, u"Perdu");
+    EXPECT_EQ(Choisi(), QString()) << "nobody else looks chosen";
+    EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
+  }
+  Main.RechargerAnnee();
+  EXPECT_EQ(Globals.EleveCourant->Nom, u"Perdu");
 }
 
 TEST_F(FrmMain, ItReopensOnTheLastPupilAndScreen) {

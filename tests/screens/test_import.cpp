@@ -18,7 +18,7 @@ class FrmImport : public testing::Test {
   QString Etats() const {
     QString lettres;
     for (int ligne = 0; ligne < Form.Grille.NombreLignes(); ++ligne)
-      lettres += u"-eTRNMIX"_s.at(Form.Grille.Ligne(ligne).Etat);
+      lettres += u"-eTRNMIXP"_s.at(Form.Grille.Ligne(ligne).Etat);
     return lettres;
   }
 
@@ -43,7 +43,7 @@ TEST_F(FrmImport, AClosingThatFailsIsNoTransfer) {
   const QString nouvelle = TFichierRegistre(1).Mettre(1, 16, u"01/07/2017"_s).Ecrire(Base);
   const QString question = u"Voulez-vous clôturer l'année scolaire 2016-2017 ?"_s;
   Ecran.Essai.Controleur.ChargerAnnee(2015);
-  Base.Dialogues.Saisit(kOuvrir, nouvelle).Repond(u"ATTENTION : l'année affichée est 2015-2016"_s, false);
+  Base.Dialogues.Saisit(kOuvrir, nouvelle).Repond(u"Attention : l'année affichée est 2015 - 2016"_s, false);
   Form.btnEtape1Click();
   Ecran.Essai.Controleur.ChargerAnnee(2016);
   Base.Dialogues.Saisit(kOuvrir, nouvelle).Repond(question, true).Attend(u"est clôturée."_s);
@@ -73,9 +73,24 @@ TEST_F(FrmImport, AFailureThatIsNoRowsMarksNone) {
   EXPECT_EQ(Form.Feuille().Titre, u"Transfert arrêté");
 }
 
+TEST_F(FrmImport, WhoIsGoneStandsInTheListUntilTheTransfer) {
+  TEcoleEssai(Base).unEleve().nomme(u"PARTI"_s, u"Luc"_s).enClasse(u"P1"_s, u"A"_s);
+  Ouvrir(TFichierRegistre(1).Ecrire(Base));
+  EXPECT_EQ(Form.Effet(), u"9 nouveaux, 1 parti (en fin de liste)");
+  EXPECT_EQ(Etats(), u"NNNNNNNNNP");
+  EXPECT_EQ(Form.Grille.Texte(9, TFrmImport::Nom), u"PARTI");
+  Form.btnEtape2Click();
+  EXPECT_EQ(Etats(), u"TTTTTTTTT") << "nothing is done to who is not in the file";
+}
+
 TEST_F(FrmImport, APupilWithoutASiteIsTold) {
   Ouvrir(TFichierRegistre(1).Mettre(3, 1, {}).Ecrire(Base));
   EXPECT_EQ(Form.Effet(), u"9 nouveaux, 1 sans implantation");
   Base.Dialogues.Attend(u"1 élève importé n'a pas d'implantation :\nNom 1234-3 Zoé"_s);
+  bool bande = true;  // the last that the view heard before the message
+  const TLien lien = Form.SurChangement.Suivre([&] {
+    if (Base.Dialogues.Dits.isEmpty()) bande = Form.Feuille().Visible;
+  });
   Form.btnEtape2Click();
+  EXPECT_FALSE(bande) << "the band does not stand behind the message";
 }

@@ -74,6 +74,7 @@ TEST_F(FrmPresences, TheCountersAndTheNoteOfTheAnomalies) {
   Form.Importerunfichierdeprsence1Click();
   EXPECT_FALSE(Form.FichierLu());
   Importer(kScans, true);
+  EXPECT_EQ(Form.EnSuspens(), u"3 relevés non mémorisés, 1 anomalie non corrigée");
   EXPECT_EQ(Lignes(Form.Anomalies),
             (QStringList{"Matricule inconnu (99)|Etude|Inconnu", "Eleve1|Garderie|Sans tarif"}));
   EXPECT_EQ(Comptes(), u"4 3 2 5");
@@ -86,10 +87,14 @@ TEST_F(FrmPresences, TheCountersAndTheNoteOfTheAnomalies) {
   Form.btnEtape2Click();
   EXPECT_TRUE(Form.PeutCorriger()) << "also after a step 2";
   EXPECT_EQ(Form.NoteAnomalies(), u"2 lignes n'ont pas été mémorisées");
-  EXPECT_EQ(Ecran.Etats.last(), u"3 relevés mémorisés");
-  Base.Dialogues.Repond(u"1 anomalie non corrigée.\nContinuer sans"_s, true);
+  // The device holds them no more: only the known pupil's can be corrected, and that is asked about.
+  const QString question = u"1 anomalie non corrigée.\nContinuer sans les mémoriser ?"_s;
+  Base.Dialogues.Repond(question, false).Repond(question, false).Repond(question, true);
+  Form.Importerunfichierdeprsence1Click();
+  EXPECT_FALSE(Form.Fermer());
+  EXPECT_EQ(Form.Anomalies.NombreLignes(), 2);
   EXPECT_TRUE(Form.Fermer());
-  EXPECT_EQ(Ecran.Etats.last(), u"1 anomalie non corrigée") << "of a pupil who is known";
+  EXPECT_EQ(Ecran.Etats.last(), u"1 anomalie non corrigée");
 }
 
 TEST_F(FrmPresences, ACorrectionThatNoTariffCountsIsReadyAndSaidToBeSo) {

@@ -26,6 +26,8 @@ TEST_F(TSignaletique, ReleveDuMoisParService) {
   EXPECT_EQ(fiche.TexteSansReleve(), QString());
 
   fiche.cmbMoisChange(4);
+  EXPECT_EQ(fiche.NomReleve(), (QStringList{"LAMBERT Élise", "janvier 2017"}));
+  EXPECT_EQ(fiche.NomFrais(), (QStringList{"LAMBERT Élise", "2016 - 2017"}));
   EXPECT_EQ(Lignes(fiche.Releve.Grille),
             (QStringList{u"#Garderie du matin|1 relevé|||1,00 €"_s, u"|lun. 09/01|07:30||1,00 €"_s}));
   fiche.cmbMoisChange(5);
@@ -50,6 +52,7 @@ TEST_F(TSignaletique, FraisEtPaiementsDansLOrdre) {
 
 // The year is loaded again: nobody is selected, and nothing of the pupil who went stays.
 TEST_F(TSignaletique, SansEleve) {
+  monde.Contexte.Etiquettes.Dossier = base.Chemin(u"sans-modeles"_s);
   TFrmSignaletique& fiche = Ouvrir(rose);
   monde.Essai.Charger();
   EXPECT_TRUE(Diffuser(TCodeMessage::EleveChange, fiche));
@@ -59,7 +62,11 @@ TEST_F(TSignaletique, SansEleve) {
   EXPECT_EQ(fiche.Releve.Grille.NombreLignes() + fiche.Frais.Grille.NombreLignes(), 0);
   fiche.cmbMoisChange(3);
   EXPECT_TRUE(Diffuser(TCodeMessage::Imprimer, fiche)) << "classes can be printed all the same";
-  EXPECT_EQ(assistant.Demande.Titres.size(), 17U);
+  ASSERT_EQ(assistant.Demande.Titres.size(), 17U);
+  EXPECT_EQ(assistant.Demande.Titres[0].Empechement, u"modèle absent : EtiquetteEleve-99012.label");
+  EXPECT_EQ(fiche.Titre(), u"Choisissez un élève dans la liste");
+  monde.Essai.Charger(2018);
+  EXPECT_EQ(fiche.Titre(), u"Aucun élève en 2018 - 2019") << "there is nobody to choose";
 }
 
 TEST_F(TSignaletique, UnePhotoIllisibleNeCachePasLEleve) {

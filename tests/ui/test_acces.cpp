@@ -31,6 +31,8 @@ TEST_F(Acces, PagesCommandsAndBoxesDoWhatTheMouseDoes) {
   Faire(barre.Onglet(TPage::PgParametre));
   EXPECT_EQ(Interface(barre.Onglet(TPage::PgParametre)).role(), QAccessible::PageTab);
   EXPECT_TRUE(Interface(barre.Onglet(TPage::PgParametre)).state().selected);
+  EXPECT_TRUE(Interface(barre.findChild<QWidget*>("annees")).state().hasPopup);
+  EXPECT_FALSE(Interface(barre.Onglet(TPage::PgParametre)).state().hasPopup);
   QWidget* frais = barre.Bouton(TGestionnaire::AdvGlowButton16Click);
   EXPECT_EQ(Interface(frais).role(), QAccessible::Button);
   EXPECT_EQ(Interface(frais).text(QAccessible::Name), "Frais");

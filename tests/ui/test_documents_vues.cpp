@@ -344,4 +344,14 @@ TEST_F(DocumentsVues, WithinReachOfEveryone) {
     }
   };
   assistant.Demander(TDemandeAssistant::De({{u"Badge"_s, true}, {u"Facture"_s, true}}));
+
+  modale.Geste = [&] {
+    const VuePrintWizard vue(assistant, nullptr);
+    const QAbstractButton* grise = nullptr;
+    for (const auto* bouton : vue.findChildren<QRadioButton*>())
+      if (bouton->text() == u"Badge (modèle absent)") grise = bouton;
+    ASSERT_NE(grise, nullptr) << "the reason stands beside the title";
+    EXPECT_FALSE(grise->isEnabled());
+  };
+  assistant.Demander(TDemandeAssistant::De({{u"Badge"_s, true, u"modèle absent"_s}, {u"Facture"_s, true}}));
 }

@@ -187,6 +187,7 @@ TEST_F(Tarifs, LeMenuDeLaListe) {
     QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save),
                       Qt::LeftButton);
   });
+  Programme.Dialogues.Attend(u"La liste est exportée :\n"_s + fichier);
   choisir(u"Exporter"_s);
   QFile csv(fichier);
   ASSERT_TRUE(csv.open(QIODevice::ReadOnly));

@@ -1,4 +1,5 @@
 // The desktop program from its start to its end, by clicking and typing.
+#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -167,6 +168,19 @@ TEST_F(Principal, TheLinkOfTheRetryDialogChangesTheServer) {
   Programme.Demarrer();
   EXPECT_TRUE(Programme.Dialogues.Vus.at(1).contains(u"Le nom « local » fait travailler ce poste seul"));
   EXPECT_EQ(Arbre()->model()->rowCount(), 2);
+}
+
+TEST_F(Principal, AFileThatWasMovedIsChosenInTheRetryDialog) {
+  EcrireLEcole();
+  PerdreLeServeur();
+  Programme.Dialogues.Clique(kErreurConnexion, u"Choisir le fichier..."_s);
+  Programme.Dialogues.Fait(u"Choisir le fichier de données"_s, [this](QWidget& dialogue) {
+    dialogue.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(Programme.Base.FichierDeDonnees());
+    QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
+                      Qt::LeftButton);
+  });
+  Programme.Demarrer();
+  EXPECT_EQ(Arbre()->model()->rowCount(), 2) << "it is tried at once";
 }
 
 TEST_F(Principal, TheSearchChoosesAPupil) {
@@ -340,6 +354,7 @@ TEST_F(Principal, EveryControlOfItsDialogsToo) {
   reessai.Explication = u"Veuillez vérifier si :\n1. Le serveur est allumé."_s;
   reessai.Lien = u"Cliquez ici afin de modifier le nom du serveur de données."_s;
   reessai.Cause = u"Unable to complete network request to host \"SECRETARIAT\"."_s;
+  reessai.SurFichier = [] { return false; };
   VerifierVuePartout([&] { return std::make_unique<DialogueReessai>(reessai); });
   VerifierVuePartout([] {
     return std::make_unique<DialogueSaisie>(

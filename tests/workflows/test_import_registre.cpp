@@ -63,7 +63,8 @@ TEST(ImportRegistre, TheEffectIsToldBeforeStepTwo) {
   using enum TSortLigne;
   EXPECT_EQ(effet.Lignes,
             (std::vector{Nouveau, Nouveau, Modifie, Nouveau, Illisible, Nouveau, Nouveau, Nouveau, Nouveau}));
-  EXPECT_EQ(effet.Partis, QStringList{u"PARTI Luc"_s}) << "teachers are in no register";
+  ASSERT_EQ(effet.Partis.size(), 1U) << "teachers are in no register";
+  EXPECT_EQ(effet.Partis[0].Nom + effet.Partis[0].Classe, u"PARTIP1 A");
   EXPECT_EQ(effet.SansSite, QStringList{u"Nom 1234-2 Zoé"_s});
   EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM ELEVES"_s), u"3") << "nothing is changed";
 
@@ -72,6 +73,16 @@ TEST(ImportRegistre, TheEffectIsToldBeforeStepTwo) {
   ASSERT_TRUE(import.Etape1(TFichierRegistre(1).Mettre(4, 18, u"C"_s).Ecrire(base)));
   EXPECT_EQ(import.Effet().Nombre(Inchange), 8);
   EXPECT_EQ(import.Effet().Lignes[3], Modifie) << "another class";
+
+  // What counts is the working year, whichever is on display.
+  essai.Controleur.ChargerAnnee(2015);
+  EXPECT_EQ(import.Effet().Nombre(Inchange), 8);
+  ASSERT_EQ(import.Effet().Partis.size(), 1U);
+  // Until somebody is enrolled in it, as after a closing, the year before tells who is gone.
+  Globals.AnneeScolaire = 2017;
+  base.Sql(u"UPDATE ELEVES_CLASSES SET ANNEE_SCOLAIRE = 2017 WHERE CLASSE = 'PROFESSEURS'"_s);
+  EXPECT_EQ(import.Effet().Nombre(Modifie), 9);
+  EXPECT_EQ(import.Effet().Partis[0].Nom, u"PARTI");
 }
 
 TEST(ImportRegistre, FiltersAndShortFiles) {
@@ -107,7 +118,12 @@ TEST(ImportRegistre, TheClosingMovesTheYearOnce) {
   TImportRegistre import(essai.Controleur);
   EXPECT_TRUE(import.Etape1(fichier.Mettre(1, 16, u"30/06/2017"_s).Ecrire(base)));
   const QString nouvelle = fichier.Mettre(1, 16, u"2017/07/01"_s).Ecrire(base);
-  base.Dialogues.Repond(kQuestion, false);
+  essai.Controleur.ChargerAnnee(2015);
+  base.Dialogues.Repond(kQuestion + u"\r\n\r\nAttention : l'année affichée est 2015 - 2016."_s, false);
+  EXPECT_FALSE(import.Etape1(nouvelle)) << "the accounts of another year would be written";
+  essai.Controleur.ChargerAnnee(2016);
+  base.Dialogues.Repond(kQuestion + u"\r\n\r\nLa clôture écrit la balance de 1 élève pour l'année 2016"_s,
+                        false);
   EXPECT_FALSE(import.Etape1(nouvelle));
   EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM BALANCE"_s), u"0");
   base.Dialogues.Repond(kQuestion, true)

@@ -78,7 +78,7 @@ bool TfrmPresences::FormCloseQuery() {
   return !enCours_ && AccepteDePerdre();
 }
 
-// What was read, and perhaps corrected, goes only when the user says so.
+// What was read, corrected or still to be, goes only when the user says so.
 bool TfrmPresences::AccepteDePerdre() const {
   const QString reste = EnSuspens();
   return reste.isEmpty() ||
@@ -93,7 +93,7 @@ void TfrmPresences::FormClose() {
 QString TfrmPresences::EnSuspens() const {
   QStringList restes{
       Compter(import_.NombreNonMemorises(), u"relevé non mémorisé"_s, u"relevés non mémorisés"_s, {}),
-      Compter(import_.NombreCorrigibles(), u"anomalie non corrigée"_s, u"anomalies non corrigées"_s, {})};
+      Compter(import_.NombreACorriger(), u"anomalie non corrigée"_s, u"anomalies non corrigées"_s, {})};
   restes.removeAll(QString());
   return restes.join(u", "_s);
 }

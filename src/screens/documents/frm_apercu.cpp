@@ -8,6 +8,7 @@
 
 #include "core/accord.h"
 #include "core/exceptions.h"
+#include "core/nom_fichier.h"
 #include "documents/factures.h"
 #include "documents/modeles.h"
 #include "report/layout/papier_modele.h"
@@ -76,14 +77,6 @@ QString QuandEstCe(const TRapport& rapport) {
   for (const QString& debut : {u"Détails des services "_s, u"du mois de "_s, u"du mois d'"_s})
     if (texte.startsWith(debut)) texte.remove(0, debut.size());
   return texte;
-}
-
-/// A name for a file, without what a file's name cannot hold.
-QString NomDeFichier(QString titre) {
-  for (QChar& c : titre)
-    if (u"/\\:*?\"<>|"_s.contains(c)) c = u'-';
-  titre = titre.trimmed();
-  return titre.isEmpty() ? u"Document"_s : titre;
 }
 
 }  // namespace
@@ -289,9 +282,8 @@ std::optional<QString> TFrmApercu::Demander(const QString& titre, const QString&
   QStringList parties{Document().Titre};
   if (modele_)  // a report that was opened from a file tells no more than its title
     parties << QuiEstDedans(rapport_) << QuandEstCe(rapport_);
-  parties.removeAll(QString());
-  const QString nom = NomDeFichier(parties.join(u" - "_s)) + extension;
-  std::optional<QString> chemin = Dialogues().FichierAEnregistrer(titre, nom, filtre);
+  std::optional<QString> chemin =
+      Dialogues().FichierAEnregistrer(titre, NomDeFichier(parties, extension), filtre);
   if (chemin && !chemin->endsWith(extension, Qt::CaseInsensitive)) *chemin += extension;
   return chemin;
 }

@@ -5,6 +5,7 @@
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "core/mois.h"
+#include "core/nom_fichier.h"
 #include "pupils/eleves.h"
 #include "screens/documents/criteres_recapitulatif.h"
 #include "services/liste_frais.h"
@@ -303,20 +304,15 @@ TResultat TFrmRecapitulatif::ImprimerFrais(const TContexteDocument& contexte) co
 void TFrmRecapitulatif::Exporter() {
   const TDefinition& page = DefinitionDe(page_);
   if (page.Exporter == nullptr) return;
-  const auto fichier = contexte_.Dialogues().FichierAEnregistrer(
-      u"Exporter la liste"_s, QString::fromUtf16(page.Titre) % Quand() % u".csv", u"Texte (*.csv)"_s);
+  const QString nom =
+      NomDeFichier({QString::fromUtf16(page.Titre), AnneeEnTexte(Globals.Eleves->AnneeScolaire)}, u".csv"_s);
+  const auto fichier =
+      contexte_.Dialogues().FichierAEnregistrer(u"Exporter la liste"_s, nom, u"Texte (*.csv)"_s);
   if (!fichier) return;
-  contexte_.Principal.Etat(TNiveauEtat::Neutre, {});  // no word about another file, if this one fails
+  contexte_.Principal.Etat(TNiveauEtat::Neutre, {});  // what an earlier one did is no word about this one
   page.Exporter(this->*page.Lignes, *fichier);
   Dire(u"Exporté : " % *fichier);
   contexte_.Dialogues().Information(u"L'exportation des informations est terminée."_s);
-}
-
-/// The month of the list, for the name of its file.
-QString TFrmRecapitulatif::Quand() const {
-  const TCriteresImpayes& criteres = criteres_.Impayes;
-  const bool mois = page_ == TabImpaye && criteres.Etendue != TEtendue::Annee && criteres.Mois != 0;
-  return u' ' % (mois ? NomMoisCourant(criteres.Mois) : AnneeCompacte(Globals.Eleves->AnneeScolaire));
 }
 
 void TFrmRecapitulatif::Transferer(TSensTransfert sens, const TGrille& grille) {

@@ -112,7 +112,6 @@ class TFrmRecapitulatif : public TForm {
   std::vector<TLigneFrais> Coches() const;
   TGroupeFrais* Groupe() const;
   void Transferer(TSensTransfert sens, const TGrille& grille);
-  QString Quand() const;
   void Dire(const QString& texte) const { contexte_.Principal.Etat(TNiveauEtat::Succes, texte); }
 
   TContexteEcran& contexte_;

@@ -8,8 +8,8 @@ bool TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
   titres_ = std::move(titres);
   std::vector<TTitreAssistant> offerts;
   for (const TTitreOffert& titre : titres_)
-    offerts.push_back(
-        {QString::fromUtf16(titre.Montre->Titre), titre.Montre->AvecPeriode, Empechement(*titre.Fait)});
+    offerts.push_back({QString::fromUtf16(titre.Montre->Titre), titre.Montre->AvecPeriode,
+                       Empechement(*titre.Fait, etiquettes_)});
   TDemandeAssistant demande = TDemandeAssistant::De(std::move(offerts));
   demande.PageQui = std::ranges::any_of(titres_, [](const auto& titre) { return titre.Montre->AvecEleves; });
   demande.MoisEcran = moisEcran;

@@ -112,8 +112,7 @@ void TFrmMain::RouvrirPlace() {
 }
 
 void TFrmMain::Rouvrir(int eleve, const QString& place) {
-  if (TEleve* dernier = Globals.Eleves->TrouverParId(eleve))
-    if (TNoeud* noeud = Arbre.TrouverObjet(dernier)) Arbre.Selectionner(noeud);
+  if (TEleve* dernier = Globals.Eleves->TrouverParId(eleve)) ChoisirEleve(*dernier);
   for (const TCommandePrincipale& commande : Commandes)
     if (!place.isEmpty() && NomDePlace(commande) == place && PageVisible(commande.Page) &&
         CommandeActive(commande))
@@ -232,12 +231,16 @@ void TFrmMain::Executer(TGestionnaire gestionnaire) {
     if (Contexte.Dialogues().Confirmer(u"Souhaitez-vous quitter Calpenne ?"_s)) Terminer();
     return;
   }
+  const TEtatPrincipal avant = etat_;
   OublierEcran();  // what leaving the field says now stays
   QuitterChamp();
   const TEcran& ecran = *commande.Ecran;
   TForm* form = Panneau.Ouvrir(
       ecran.Classe, [&] { return ecran.Creer(Contexte); }, {}, ecran.Remplacement);
-  if (form == nullptr) return;
+  if (form == nullptr) {  // the screen stays, and so does what it said
+    if (etat_.Texte.isEmpty()) Etat(avant.Niveau, avant.Texte);
+    return;
+  }
   page_ = commande.Page;
   outils_ = commande.Outils.value_or(outils_);
   if (commande.PrendEleve) ::Diffuser(TCodeMessage::EleveChange, *form);
@@ -330,10 +333,10 @@ void TFrmMain::Etat(TNiveauEtat niveau, const QString& texte) {
   SurEtat();
 }
 
-// What a screen refused, or told by the way, is no word about the next one.
+// What a screen did, refused or told by the way is no word about the next one. A failure stays until
+// something else is said.
 void TFrmMain::OublierEcran() {
-  if (etat_.Niveau == TNiveauEtat::Refus || etat_.Niveau == TNiveauEtat::Neutre)
-    Etat(TNiveauEtat::Neutre, {});
+  if (etat_.Niveau != TNiveauEtat::Erreur) Etat(TNiveauEtat::Neutre, {});
 }
 
 void TFrmMain::EtatApresEcran(TNiveauEtat niveau, const QString& fait) {

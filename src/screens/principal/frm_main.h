@@ -77,7 +77,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   /// Enter.
   void btnRechercheClick();
   /// Of a search that found several pupils but no beginning of a name, for the user to choose from.
-  const std::vector<TNoeud*>& Trouves() const { return trouves_; }
+  const std::vector<TEleve*>& Trouves() const { return trouves_; }
   void ChoisirTrouve(int rang);
   const QString& TexteRecherche() const { return recherche_; }
   int NombreEleves() const;
@@ -181,13 +181,15 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   TEtapeAccueil EtapeFrais() const;
   bool EstEcartee(const QString& reglage) const;
   bool EstBureau() const;
+  void ChoisirEleve(TEleve& eleve);
   void OuvrirNoeud(TNoeud& noeud, bool fiche);
+  void OuvrirEleve(TEleve& eleve, bool fiche);
+  void OuvrirFiche(bool demandee);
   QString TexteRang() const;
   void LaisserEleve();
-  void MontrerTrouves(std::vector<TNoeud*> trouves);
+  void MontrerTrouves(std::vector<TEleve*> trouves);
+  std::vector<TEleve*> ElevesConnus() const;
   bool ChercherPartout(bool fiche);
-  bool ChercherHorsListe(bool fiche);
-  void OuvrirHorsListe(TEleve& eleve);
   void OuvrirMatricule();
   template <class T>
   int Combien(T compte) const;
@@ -204,7 +206,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   int anneeCochee_ = 0;
   QString recherche_;
   QString matricule_;  // digits typed in the search
-  std::vector<TNoeud*> trouves_;
+  std::vector<TEleve*> trouves_;
   TEtatPrincipal etat_;
   QString enSuspens_;  // of the screen that was freed last
   bool enTravail_ = false;

@@ -25,6 +25,17 @@ void TFrmMain::tvEleveChange() {
   Annoncer();
 }
 
+// Also one who has no place in the tree, where classes without a site are left out.
+void TFrmMain::ChoisirEleve(TEleve& eleve) {
+  Arbre.Selectionner(Arbre.TrouverObjet(&eleve));
+  if (Globals.EleveCourant == &eleve) return;
+  QuitterChamp();
+  Globals.EleveCourant = &eleve;
+  Globals.ClasseCourante = eleve.Classe;
+  Diffuser(TCodeMessage::EleveChange);
+  Annoncer();
+}
+
 // What the year holds: staff are no pupils.
 
 template <class T>
@@ -86,6 +97,7 @@ void TFrmMain::Supprimerunprofesseur1Click() {
   const QString nom = professeur.NomComplet();
   FermerEcran();  // a screen behind the open one may hold him too
   if (Globals.EleveCourant == &professeur) Globals.EleveCourant = nullptr;
+  MontrerTrouves({});
   TProfesseurs(Controleur).Supprimer(professeur);
   Arbre.Supprimer(noeud);
   Arbre.Annoncer();

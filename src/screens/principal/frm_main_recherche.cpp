@@ -56,14 +56,23 @@ QString TFrmMain::TexteRang() const {
   return rang < nombre ? QString(texte % u" : Entrée passe au suivant") : texte;
 }
 
-// The record opens at the start, with no screen open, and where it is asked for on a screen that does not
-// take up the pupil.
 void TFrmMain::OuvrirNoeud(TNoeud& noeud, bool fiche) {
   Arbre.Selectionner(&noeud);
   Etat(TNiveauEtat::Neutre, TexteRang());
+  if (noeud.Objet.En<TEleve>() != nullptr) OuvrirFiche(fiche);
+}
+
+void TFrmMain::OuvrirEleve(TEleve& eleve, bool fiche) {
+  ChoisirEleve(eleve);
+  OuvrirFiche(fiche);
+}
+
+// The record opens at the start, with no screen open, and where it is asked for on a screen that does not
+// take up the pupil.
+void TFrmMain::OuvrirFiche(bool demandee) {
   const TCommandePrincipale* ouverte = CommandeOuverte();
-  const bool reste = Panneau.Courante() != nullptr && (!fiche || (ouverte != nullptr && ouverte->PrendEleve));
-  if (noeud.Objet.En<TEleve>() == nullptr || reste) return;
+  const bool suit = ouverte != nullptr && ouverte->PrendEleve;
+  if (Panneau.Courante() != nullptr && (!demandee || suit)) return;
   const TGestionnaire eleves = TGestionnaire::AdvGlowButton2Click;
   if (PageVisible(TPage::PgEleve) && CommandeActive(Commande(eleves))) Executer(eleves);
 }
@@ -90,7 +99,7 @@ void TFrmMain::edSearchChange(const QString& texte) {
   }
 }
 
-void TFrmMain::MontrerTrouves(std::vector<TNoeud*> trouves) {
+void TFrmMain::MontrerTrouves(std::vector<TEleve*> trouves) {
   if (trouves_.empty() && trouves.empty()) return;
   trouves_ = std::move(trouves);
   SurTrouves();
@@ -98,74 +107,55 @@ void TFrmMain::MontrerTrouves(std::vector<TNoeud*> trouves) {
 
 void TFrmMain::ChoisirTrouve(int rang) {
   if (rang < 0 || rang >= static_cast<int>(trouves_.size())) return;
-  TNoeud& noeud = *trouves_[static_cast<std::size_t>(rang)];
+  TEleve& eleve = *trouves_[static_cast<std::size_t>(rang)];
   MontrerTrouves({});
-  OuvrirNoeud(noeud, true);
+  Etat(TNiveauEtat::Neutre, {});
+  OuvrirEleve(eleve, true);
+}
+
+// In the order of the tree; then those who have no place in it, but are in the year all the same.
+std::vector<TEleve*> TFrmMain::ElevesConnus() const {
+  std::vector<TEleve*> trouves;
+  for (TNoeud* noeud = Arbre.Premier(); noeud != nullptr; noeud = Arbre.Suivant(*noeud)) {
+    TEleve* eleve = noeud->Objet.En<TEleve>();
+    if (eleve != nullptr && ContientMots(Connu(*eleve), recherche_)) trouves.push_back(eleve);
+  }
+  if (Globals.Eleves != nullptr)
+    for (TEleve& eleve : *Globals.Eleves)
+      if (ContientMots(Connu(eleve), recherche_) && Arbre.TrouverObjet(&eleve) == nullptr)
+        trouves.push_back(&eleve);
+  return trouves;
 }
 
 bool TFrmMain::ChercherPartout(bool fiche) {
-  std::vector<TNoeud*> trouves;
-  for (TNoeud* noeud = Arbre.Premier(); noeud != nullptr; noeud = Arbre.Suivant(*noeud)) {
-    const TEleve* eleve = noeud->Objet.En<TEleve>();
-    if (eleve != nullptr && ContientMots(Connu(*eleve), recherche_)) trouves.push_back(noeud);
-  }
+  std::vector<TEleve*> trouves = ElevesConnus();
   const QString cherche = recherche_.trimmed();
   if (trouves.size() == 1) {
     MontrerTrouves({});
-    OuvrirNoeud(*trouves.front(), fiche);
-    Etat(TNiveauEtat::Neutre, u"Trouvé pour « %1 » : "_s.arg(cherche) % trouves.front()->Texte);
+    OuvrirEleve(*trouves.front(), fiche);
+    Etat(TNiveauEtat::Neutre, u"Trouvé pour « %1 » : "_s.arg(cherche) % trouves.front()->NomComplet());
     return true;
   }
   LaisserEleve();
-  if (!trouves.empty())
+  if (trouves.empty())
+    Etat(TNiveauEtat::Alerte, u"Aucun élève n'est trouvé pour « %1 »"_s.arg(cherche));
+  else
     Etat(TNiveauEtat::Neutre, u"%1 pour « %2 » : choisissez dans la liste"_s.arg(
                                   CompterEleves(static_cast<qint64>(trouves.size())), cherche));
   MontrerTrouves(std::move(trouves));
-  return !trouves_.empty() || ChercherHorsListe(fiche);
-}
-
-/// Pupils without a site stand in no list, and are known by the same words. A single one is opened on Enter.
-bool TFrmMain::ChercherHorsListe(bool fiche) {
-  std::vector<TEleve*> trouves;
-  for (TEleve& eleve : *Globals.Eleves)
-    if (ContientMots(Connu(eleve), recherche_) && Arbre.TrouverObjet(&eleve) == nullptr)
-      trouves.push_back(&eleve);
-  const QString cherche = recherche_.trimmed();
-  if (trouves.empty()) {
-    Etat(TNiveauEtat::Alerte, u"Aucun élève n'est trouvé pour « %1 »"_s.arg(cherche));
-    return false;
-  }
-  if (fiche && trouves.size() == 1) {
-    OuvrirHorsListe(*trouves.front());
-    return true;
-  }
-  Etat(TNiveauEtat::Alerte, CompterEleves(std::ssize(trouves)) %
-                                u" hors de la liste, sans implantation, pour « %1 »"_s.arg(cherche) %
-                                (trouves.size() == 1 ? u" : Entrée ouvre la fiche" : u""));
-  return true;
-}
-
-void TFrmMain::OuvrirHorsListe(TEleve& eleve) {
-  Globals.EleveCourant = &eleve;
-  Globals.ClasseCourante = eleve.Classe;
-  Diffuser(TCodeMessage::EleveChange);
-  const TGestionnaire eleves = TGestionnaire::AdvGlowButton2Click;
-  if (PageVisible(TPage::PgEleve) && CommandeActive(Commande(eleves))) Executer(eleves);
-  Etat(TNiveauEtat::Alerte, eleve.NomComplet() % u" : sans implantation, il n'est pas dans la liste");
+  return !trouves_.empty();
 }
 
 void TFrmMain::OuvrirMatricule() {
   const QString matricule = std::exchange(matricule_, {});
   TEleve* eleve = Globals.Eleves != nullptr ? Globals.Eleves->TrouverParCode(matricule) : nullptr;
-  TNoeud* noeud = eleve != nullptr ? Arbre.TrouverObjet(eleve) : nullptr;
-  if (noeud != nullptr) {
-    OuvrirNoeud(*noeud, true);
-    Etat(TNiveauEtat::Neutre, u"Matricule %1 : "_s.arg(matricule) % noeud->Texte);
+  if (eleve != nullptr) {
+    OuvrirEleve(*eleve, true);
+    Etat(TNiveauEtat::Neutre, u"Matricule %1 : "_s.arg(matricule) % eleve->NomComplet());
     return;
   }
   LaisserEleve();
-  if (eleve != nullptr) return OuvrirHorsListe(*eleve);
-  Etat(TNiveauEtat::Alerte, u"Aucun élève de la liste ne porte le matricule « %1 »"_s.arg(matricule));
+  Etat(TNiveauEtat::Alerte, u"Aucun élève de l'année ne porte le matricule « %1 »"_s.arg(matricule));
 }
 
 // The question comes when there is another node to go back to, or none at all; a single one needs no word.
@@ -182,8 +172,10 @@ void TFrmMain::btnRechercheClick() {
     TNoeud* debut = choisi != nullptr ? Arbre.Suivant(*choisi) : Arbre.Premier();
     if (TNoeud* noeud = NoeudQuiCommence(debut)) return OuvrirNoeud(*noeud, true);
     if (!Contexte.Dialogues().Confirmer(
-            u"Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?"_s))
-      return premier == nullptr ? LaisserEleve() : void();
+            u"Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?"_s)) {
+      if (premier == nullptr) LaisserEleve();  // the first node of the tree is not what was looked for
+      return;
+    }
     Arbre.Selectionner(Arbre.Premier());
   }
 }

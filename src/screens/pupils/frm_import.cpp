@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QScopedValueRollback>
+#include <utility>
 
 #include "core/accord.h"
 #include "core/lecture_dates.h"
@@ -34,6 +35,11 @@ TValeurVue DateOuTexte(const QString& texte) {
   return date != 0.0 ? TValeurVue(date) : TValeurVue(texte);
 }
 
+TCellules Cellules(const TFicheRegistre& f) {
+  return {{},       f.Matricule, f.Nom,         f.Prenom,  DateOuTexte(f.Naissance),
+          f.Classe, f.Site,      f.Responsable, f.Localite};
+}
+
 }  // namespace
 
 TFrmImport::TFrmImport(TContexteEcran& contexte) : contexte_(contexte) {
@@ -53,7 +59,8 @@ TFrmImport::TFrmImport(TContexteEcran& contexte) : contexte_(contexte) {
                   {u"Nouveau"_s, u"list-add"_s},
                   {u"Modifié"_s, u"document-edit"_s},
                   {u"Inchangé"_s, {}},
-                  {u"Illisible"_s, u"data-error"_s}};
+                  {u"Illisible"_s, u"data-error"_s},
+                  {u"Parti"_s, u"data-warning"_s}};
 }
 
 void TFrmImport::FormShow() {
@@ -115,6 +122,7 @@ void TFrmImport::AnnoncerEffet() {
   const TGrille::TLot lot(Grille);
   for (int ligne = 0; ligne < Grille.NombreLignes(); ++ligne)
     Grille.ChangerEtat(ligne, Nouveau + static_cast<int>(effet_.Lignes[static_cast<std::size_t>(ligne)]));
+  for (const TFicheRegistre& parti : effet_.Partis) Grille.Ajouter(Cellules(parti), nullptr, Parti);
   DefinirFichier(effet_.Nombre(TSortLigne::Illisible) > 0 ? TNiveauEtat::Alerte : TNiveauEtat::Succes,
                  fichier_.Texte);
 }
@@ -125,17 +133,17 @@ QString TFrmImport::Effet() const {
     if (nombre > 0) parties += Compter(nombre, un, plusieurs);
   };
   for (const TMotEffet& mot : kMotsEffet) ajouter(effet_.Nombre(mot.Sort), mot.Un, mot.Plusieurs);
-  ajouter(effet_.Partis.size(), u"parti"_s, u"partis"_s);
+  ajouter(std::ssize(effet_.Partis), u"parti (en fin de liste)"_s, u"partis (en fin de liste)"_s);
   ajouter(effet_.SansSite.size(), u"sans implantation"_s, u"sans implantation"_s);
   return parties.join(u", "_s);
 }
 
-void TFrmImport::DireSansSite() const {
-  const qsizetype nombre = effet_.SansSite.size();
+void TFrmImport::DireSansSite(const QStringList& sansSite) const {
+  const qsizetype nombre = sansSite.size();
   if (nombre == 0) return;
   QString texte = Compter(nombre, u"élève importé n'a pas d'implantation :"_s,
                           u"élèves importés n'ont pas d'implantation :"_s) %
-                  u'\n' % effet_.SansSite.mid(0, kNomsListes).join(u'\n');
+                  u'\n' % sansSite.mid(0, kNomsListes).join(u'\n');
   if (nombre > kNomsListes) texte += u"\net %1 de plus"_s.arg(nombre - kNomsListes);
   if (Globals.Eleves->PlusieursImplantations())
     texte += nombre == 1 ? u"\nIl n'apparaît pas dans la liste des élèves."_s
@@ -151,18 +159,8 @@ void TFrmImport::DefinirFichier(TNiveauEtat niveau, const QString& texte) {
 void TFrmImport::RemplirGrille() {
   const TGrille::TLot lot(Grille);
   Grille.Vider();
-  for (int ligne = 1; ligne < import_->Grille().NombreLignes(); ++ligne) {
-    const TImportRegistre::TFiche f = import_->Fiche(ligne);
-    Grille.Ajouter({{},
-                    f.Matricule,
-                    f.Nom,
-                    f.Prenom,
-                    DateOuTexte(f.Naissance),
-                    f.Classe,
-                    f.Site,
-                    f.Responsable,
-                    f.Localite});
-  }
+  for (int ligne = 1; ligne < import_->Grille().NombreLignes(); ++ligne)
+    Grille.Ajouter(Cellules(import_->Fiche(ligne)));
   Annoncer();
 }
 
@@ -178,6 +176,7 @@ void TFrmImport::btnEtape2Click() {
     feuille_.Total = NombreEleves();
     {
       const TGrille::TLot lot(Grille);
+      while (Grille.NombreLignes() > NombreEleves()) Grille.Retirer(Grille.NombreLignes() - 1);
       for (int ligne = 0; ligne < Grille.NombreLignes(); ++ligne) Grille.ChangerEtat(ligne, Attente);
     }
     PrendreEnMain(0);
@@ -194,9 +193,9 @@ void TFrmImport::btnEtape2Click() {
                  QString(Compter(bilan.Lignes, u"élève transféré"_s, u"élèves transférés"_s) % u" : " %
                          Compter(bilan.Crees, u"nouveau"_s, u"nouveaux"_s) % u", " %
                          QString::number(bilan.Modifies) % u" mis à jour"));
-  DireSansSite();
-  effet_ = {};
-  Annoncer();
+  const QStringList sansSite = std::exchange(effet_, {}).SansSite;
+  Annoncer();  // the band goes before what is left to say
+  DireSansSite(sansSite);
 }
 
 // The rows of the file count its header, those of the grid do not.

@@ -20,8 +20,9 @@ class TFrmImport : public TForm {
   bool Etape2Suivante() const { return Etape2Active() && !feuille_.Arretee; }
 
   /// States of the rows, in the order of the grid's.
-  enum TEtatLigne { Attente, EnCours, Transfere, Refuse, Nouveau, Modifie, Inchange, Illisible };
+  enum TEtatLigne { Attente, EnCours, Transfere, Refuse, Nouveau, Modifie, Inchange, Illisible, Parti };
   enum TColonne { Etat, Matricule, Nom, Prenom, Naissance, Classe, Implantation, Responsable, Localite };
+  /// The rows of the file; behind them, until step 2, who is no longer in it.
   TGrille Grille;
 
   int NombreEleves() const { return import_ ? import_->NombreEleves() : 0; }
@@ -33,8 +34,6 @@ class TFrmImport : public TForm {
   const TLigneFichier& Fichier() const { return fichier_; }
   /// What step 2 will do: "12 nouveaux, 3 modifiés, 2 partis"; "" before a file is accepted.
   QString Effet() const;
-  /// Who is no longer in the file, one a line.
-  QString Partis() const { return effet_.Partis.join(u'\n'); }
 
   /// The band of the progress.
   struct TFeuille {
@@ -61,7 +60,7 @@ class TFrmImport : public TForm {
   void SuivreLigne(int ligne);
   void Arreter();
   void AnnoncerEffet();
-  void DireSansSite() const;
+  void DireSansSite(const QStringList& sansSite) const;
 
   TContexteEcran& contexte_;
   std::unique_ptr<TImportRegistre> import_;  // once shown: it knows the layout of the files

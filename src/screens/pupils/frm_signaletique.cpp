@@ -120,6 +120,21 @@ void TFrmSignaletique::AllerAuChamp(TEleve& eleve, const QString& champ) {
   if (const int indice = champs_.Indice(champ); indice >= 0) champs_.SurFoyer(indice);
 }
 
+QString TFrmSignaletique::Titre() const {
+  if (avecEleve_) return nomComplet_;
+  if (Globals.Eleves == nullptr || Globals.Eleves->Count() > 0) return u"Choisissez un élève dans la liste"_s;
+  return u"Aucun élève en "_s + AnneeEnTexte(Globals.Eleves->AnneeScolaire);
+}
+
+QStringList TFrmSignaletique::NomReleve() const {
+  return {nomComplet_,
+          NomMoisCourant(MoisVu()) % u' ' % QString::number(Globals.Eleves->AnneeDuMois(MoisVu()))};
+}
+
+QStringList TFrmSignaletique::NomFrais() const {
+  return {nomComplet_, AnneeEnTexte(Globals.Eleves->AnneeScolaire)};
+}
+
 // A text that was refused stands nowhere but in its field.
 QString TFrmSignaletique::EnSuspens() const {
   return champs_.Modifies() ? QString(u"modification non enregistrée de " % nomComplet_) : QString();
@@ -195,8 +210,6 @@ void TFrmSignaletique::cmbMoisChange(int indice) {
 
 void TFrmSignaletique::RemplirReleve(const TEleve& eleve) {
   Releve.Remplir(eleve, BornesMois(MoisVu(), eleve.Eleves->AnneeScolaire));
-  Releve.Grille.DeQuoi = eleve.NomComplet() % u' ' % NomMoisCourant(MoisVu());
-  Frais.Grille.DeQuoi = eleve.NomComplet();
 }
 
 QString TFrmSignaletique::TexteSansReleve() const {

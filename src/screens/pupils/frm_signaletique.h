@@ -33,6 +33,8 @@ class TFrmSignaletique : public TForm {
   bool AvecEleve() const { return avecEleve_; }
   TChampsDe<TEleve>& Champs() { return champs_; }
   const QString& NomComplet() const { return nomComplet_; }
+  /// The full name; without a pupil, what to do to have one.
+  QString Titre() const;
   /// "P3 A · Centre · Matricule 212-04127-38"; what is not known is left out.
   const QString& SousTitre() const { return sousTitre_; }
   /// A null picture without a photo.
@@ -79,6 +81,9 @@ class TFrmSignaletique : public TForm {
   int IndiceMois() const { return indiceMois_; }
   /// The same, 1 to 12.
   int MoisVu() const { return kMoisScolaires[static_cast<std::size_t>(indiceMois_)]; }
+  /// Whose the lists are and of when, for the names of their files: "LAMBERT Élise", "octobre 2016".
+  QStringList NomReleve() const;
+  QStringList NomFrais() const;
   void cmbMoisChange(int indice);
   /// Instead of a list without a row: "Aucun relevé en novembre"; else "".
   QString TexteSansReleve() const;

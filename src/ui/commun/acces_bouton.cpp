@@ -5,13 +5,14 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Qt toggles a button that can be checked, and nobody hears of it: screens follow clicks. An assistive program
-/// may ask for a button while it is being made: what it is, is seen at each question.
+/// Qt toggles a button that can be checked, and nobody hears of it: screens follow clicks. An assistive
+/// program may ask for a button while it is being made: what it is, is seen at each question.
 class AccesBouton : public QAccessibleWidget {
  public:
   explicit AccesBouton(QAbstractButton* bouton) : QAccessibleWidget(bouton, QAccessible::Button) {}
@@ -38,6 +39,8 @@ class AccesBouton : public QAccessibleWidget {
     if (const auto* bouton = qobject_cast<const QPushButton*>(object())) {
       etat.defaultButton = bouton->isDefault();
       etat.hasPopup = bouton->menu() != nullptr;
+    } else if (const auto* outil = qobject_cast<const QToolButton*>(object())) {
+      etat.hasPopup = outil->menu() != nullptr || outil->property("ouvreMenu").toBool();
     }
     return etat;
   }

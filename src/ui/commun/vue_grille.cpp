@@ -16,6 +16,7 @@
 #include <cmath>
 
 #include "core/fichiers.h"
+#include "core/nom_fichier.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/menu_grille.h"
 #include "ui/commun/modele_grille.h"
@@ -274,12 +275,14 @@ void VueGrille::CopierTout() {
 
 // The mark of the encoding is for spreadsheets, which would take the text for another one.
 void VueGrille::Exporter() {
-  const QString nom = QString(accessibleName() % u' ' % grille_.DeQuoi).trimmed().replace(u'/', u'-');
-  const auto chemin = DialoguesQt().FichierAEnregistrer(u"Exporter la liste"_s, nom % u".csv",
-                                                        u"Texte séparé par des points-virgules (*.csv)"_s);
+  const QStringList parties = QStringList{accessibleName()} + (precisions_ ? precisions_() : QStringList());
+  const auto chemin =
+      DialoguesQt().FichierAEnregistrer(u"Exporter la liste"_s, NomDeFichier(parties, u".csv"_s),
+                                        u"Texte séparé par des points-virgules (*.csv)"_s);
   if (!chemin) return;
   const QByteArray octets = "\xEF\xBB\xBF" + EnCsv(grille_, LignesVues(), ColonnesVues()).toUtf8();
   EcrireFichier(*chemin, octets);
+  DialoguesQt().Information(u"La liste est exportée :\n" % *chemin);
 }
 
 // Keyboard and mouse

@@ -1,6 +1,7 @@
 #pragma once
 #include <QPointer>
 #include <QTreeView>
+#include <functional>
 
 #include "forms/grille.h"
 #include "ui/commun/largeurs_colonnes.h"
@@ -24,6 +25,8 @@ class VueGrille : public QTreeView {
   TGrille& Grille() const { return grille_; }
   /// The field filters as one types; Ctrl+F in the grid goes to it.
   void Filtrer(ChampFiltre& champ);
+  /// What is told in the name of an exported file besides the list: whose it is, and of when.
+  void DefinirNomExport(std::function<QStringList()> precisions) { precisions_ = std::move(precisions); }
   /// The column that takes the room that is left, or gives way; the widest on the left by default.
   void DefinirColonneSouple(int colonne);
   int ColonneSouple() const;
@@ -98,6 +101,7 @@ class VueGrille : public QTreeView {
   ModeleGrille* modele_;
   FiltreGrille* filtre_;
   ChampFiltre* champ_ = nullptr;
+  std::function<QStringList()> precisions_;
   QPointer<VueGrille> jumelle_;  ///< has the same widths
   int souple_ = -1;
   bool tracees_ = false;  ///< the user has drawn a width

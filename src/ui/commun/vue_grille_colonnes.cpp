@@ -17,7 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A name needs the one at least, and is given up to the other at the cost of the other columns.
+/// A name needs the one at least, and is given up to the other, or up to the width that its column
+/// declares, at the cost of the other columns.
 constexpr int kMoindreNom = 140;
 constexpr int kAssezPourUnNom = 220;
 
@@ -94,7 +95,7 @@ std::vector<TBesoinColonne> VueGrille::Besoins(int place) const {
     if (tracees_) return besoins;
     // Measured once for a width: the columns of a record do not jump from pupil to pupil, nor cost at each.
     if (placeElargie_ != place || elargis_.size() != besoins.size()) {
-      const int declare = std::clamp(grille_.Colonne(souple).Largeur, kMoindreNom, kAssezPourUnNom);
+      const int declare = std::max(grille_.Colonne(souple).Largeur, kMoindreNom);
       const int nom = std::clamp(LargeurContenu(souple), Theme::Px(kMoindreNom), Theme::Px(declare));
       Elargir(besoins, reste - nom);
       elargis_ = besoins;
@@ -106,7 +107,8 @@ std::vector<TBesoinColonne> VueGrille::Besoins(int place) const {
     TBesoinColonne& besoin = besoins[static_cast<std::size_t>(colonne)];
     const int contenu = LargeurContenu(colonne);
     if (colonne == souple)
-      besoin = {std::min(contenu, Theme::Px(kAssezPourUnNom)), std::min(contenu, Theme::Px(kMoindreNom))};
+      besoin = {std::min(contenu, Theme::Px(std::max(grille_.Colonne(souple).Largeur, kAssezPourUnNom))),
+                std::min(contenu, Theme::Px(kMoindreNom))};
     else
       besoin.Moindre = std::min(besoin.Voulue, contenu);
   }

@@ -103,6 +103,7 @@ void BarreCommandes::CreerOnglets(QHBoxLayout& ligne) {
   annees_ = CreerOnglet({});
   annees_->setObjectName(u"annees"_s);  // no page: its text is never pale
   annees_->setCheckable(false);
+  annees_->setProperty("ouvreMenu", true);  // made at each opening, since years come and go
   annees_->setFixedHeight(Theme::Px(kHauteurOnglets));
   annees_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   annees_->setIcon(Theme::Icone(u"view-calendar"_s));

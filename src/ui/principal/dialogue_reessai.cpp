@@ -71,6 +71,11 @@ DialogueReessai::DialogueReessai(const TReessai& reessai, QWidget* parent)
   Contenu()->addWidget(lien);
 
   Contenu()->addStretch();
+  if (reessai.SurFichier)
+    connect(AjouterBouton(u"&Choisir le fichier..."_s), &QPushButton::clicked, this,
+            [this, surFichier = reessai.SurFichier] {
+              if (surFichier()) accept();
+            });
   DefinirPrincipal(u"&Réessayer"_s);
   resize(minimumWidth(), layout()->totalHeightForWidth(minimumWidth()));
   Principal()->setFocus();

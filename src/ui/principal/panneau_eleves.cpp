@@ -240,7 +240,8 @@ void PanneauEleves::Texter(const QString& texte) {
 void PanneauEleves::MontrerTrouves() {
   const auto& trouves = form_.Trouves();
   trouves_->clear();
-  for (const TNoeud* noeud : trouves) trouves_->addItem(noeud->Texte % u"  ·  " % noeud->Parent()->Texte);
+  for (const TEleve* eleve : trouves)
+    trouves_->addItem(eleve->NomComplet() % u"  ·  " % eleve->LibelleClasse());
   trouves_->setVisible(!trouves.empty());
   constexpr int kLignes = 8;
   const int lignes = std::min(static_cast<int>(trouves.size()), kLignes);

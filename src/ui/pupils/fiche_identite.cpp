@@ -249,7 +249,7 @@ void FicheIdentite::Actualiser() {
 }
 
 void FicheIdentite::ActualiserEntete() {
-  nom_->setText(form_.AvecEleve() ? form_.NomComplet() : u"Choisissez un élève dans la liste"_s);
+  nom_->setText(form_.Titre());
   sousTitre_->setText(form_.SousTitre());
   photo_->Definir(form_.Photo());
   titreSolde_->setVisible(form_.AvecEleve());

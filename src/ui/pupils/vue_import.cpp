@@ -93,7 +93,6 @@ void VueImport::Actualiser() {
   fichier_->Definir(form_.Fichier().Niveau, form_.Fichier().Texte);
   effet_->setText(form_.Effet());
   effet_->setVisible(!form_.Effet().isEmpty());
-  effet_->setToolTip(form_.Partis());
   if (form_.Grille.NombreLignes() > 0)
     vide_->Cacher();
   else

@@ -78,6 +78,7 @@ QWidget* VueSignaletique::CreerReleve() {
   connect(supprimer, &QPushButton::clicked, this, [this] { form_.btnDeleteFaitClick(); });
   titre->AjouterAction(supprimer);
   releve_ = new VueGrille(form_.Releve.Grille, titre->Texte(), u"Signaletique/Releve"_s);
+  releve_->DefinirNomExport([this] { return form_.NomReleve(); });
   piedReleve_ = new PiedDeGrille(*releve_);
   sansReleve_ = new EtatVide(releve_);
   connect(releve_, &VueGrille::Changee, this, &VueSignaletique::ActualiserListes);
@@ -94,6 +95,7 @@ QWidget* VueSignaletique::CreerFrais() {
   connect(supprimer, &QPushButton::clicked, this, [this] { form_.SpeedButton2Click(); });
   titre->AjouterAction(supprimer);
   frais_ = new VueGrille(form_.Frais.Grille, titre->Texte(), u"Signaletique/Frais"_s);
+  frais_->DefinirNomExport([this] { return form_.NomFrais(); });
   piedFrais_ = new PiedDeGrille(*frais_);
   sansFrais_ = new EtatVide(frais_);
   connect(frais_, &VueGrille::Activee, this, [this] { form_.grdListeFraisDblClick(); });

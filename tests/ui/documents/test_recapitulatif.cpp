@@ -64,7 +64,9 @@ class Recapitulatif : public TReglagesEssai {
     const QString chemin = Base.Chemin("liste.csv");
     QFile::remove(chemin);
     Programme.Dialogues.Fait("Exporter la liste", [&](QWidget& dialogue) {
-      dialogue.findChild<QLineEdit*>("fileNameEdit")->setText(chemin);
+      auto* nom = dialogue.findChild<QLineEdit*>("fileNameEdit");
+      Propose = nom->text();
+      nom->setText(chemin);
       QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save),
                         Qt::LeftButton);
     });
@@ -75,6 +77,7 @@ class Recapitulatif : public TReglagesEssai {
     return fichier.readAll();
   }
   TFrmRecapitulatif& Ecran() { return Form<TFrmRecapitulatif>(); }
+  QString Propose;
 };
 
 }  // namespace
@@ -108,6 +111,16 @@ TEST_F(Recapitulatif, TheListsPrintAndGoIntoFiles) {
   EXPECT_TRUE(filtree.contains("Lignes contenant « zoe »") && filtree.contains("CLAES"));
   EXPECT_FALSE(filtree.contains("BODART"));
   EXPECT_TRUE(Exporte().contains("\"BODART\";\"Max\";\"P1 A\";\"5,00\""));
+  EXPECT_TRUE(Propose.endsWith(" - 2016 - 2017.csv")) << Propose.toStdString();
+  EXPECT_EQ(Programme.Main().Etat().Niveau, TNiveauEtat::Succes);
+  Programme.Dialogues.Fait("Exporter la liste", [](QWidget& dialogue) {
+    dialogue.findChild<QLineEdit*>("fileNameEdit")->setText("/proc/liste.csv");
+    QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save),
+                      Qt::LeftButton);
+  });
+  Programme.Dialogues.Attend("/proc/liste.csv");
+  Cliquer("Exporter la liste");
+  EXPECT_NE(Programme.Main().Etat().Niveau, TNiveauEtat::Succes) << "no green word of an earlier file";
 }
 
 TEST_F(Recapitulatif, TheOtherPages) {
