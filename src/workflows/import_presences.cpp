@@ -244,7 +244,10 @@ void TImportPresences::RelireJours() const {
     eleves.insert(bon->EleveId);
     jours = {std::min(jours.Premier, bon->DateReleve), std::max(jours.Dernier, bon->DateReleve)};
   }
-  for (const int cle : eleves) Reserver(*Globals.Eleves->TrouverParId(cle));
+  // A file of this computer is open in one program only, and a lock that a killed one left there is waited
+  // for.
+  if (!controleur_.Base().EstLocal())
+    for (const int cle : eleves) Reserver(*Globals.Eleves->TrouverParId(cle));
   Globals.Presences->LireNouvelles(jours);
 }
 

@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int kEleves = 30;
-constexpr int kMorts = 50;
+constexpr int kMorts = 25;
 
 /// So many times the program is killed; CALPENNE_MORTS asks for more.
 int Morts() { return qMax(kMorts, qEnvironmentVariableIntValue("CALPENNE_MORTS")); }
