@@ -10,7 +10,7 @@ class TDialoguesDemo : public IDialogues {
   void Message(const QString& texte) override;
   void Information(const QString& texte) override { Message(texte); }
   bool Confirmer(const QString& question) override;
-  std::optional<QString> Saisir(const QString&, const QString&, const QString&) override { return {}; }
+  std::optional<QString> Saisir(const TSaisie&) override { return {}; }
   std::optional<QString> ChoisirFichier(const QString&, const QString&) override { return {}; }
   std::optional<QString> FichierAEnregistrer(const QString&, const QString&, const QString&) override {
     return {};

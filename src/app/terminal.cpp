@@ -21,9 +21,7 @@ bool TDialoguesTerminal::Confirmer(const QString& question) {
   return Oui;
 }
 
-std::optional<QString> TDialoguesTerminal::Saisir(const QString&, const QString&, const QString&) {
-  return {};
-}
+std::optional<QString> TDialoguesTerminal::Saisir(const TSaisie&) { return {}; }
 
 std::optional<QString> TDialoguesTerminal::ChoisirFichier(const QString&, const QString&) { return {}; }
 

@@ -8,7 +8,7 @@ class TDialoguesTerminal : public IDialogues {
   void Message(const QString& texte) override;
   void Information(const QString& texte) override { Message(texte); }
   bool Confirmer(const QString& question) override;
-  std::optional<QString> Saisir(const QString& titre, const QString& invite, const QString& valeur) override;
+  std::optional<QString> Saisir(const TSaisie& saisie) override;
   std::optional<QString> ChoisirFichier(const QString& titre, const QString& filtre) override;
   std::optional<QString> FichierAEnregistrer(const QString& titre, const QString& nom,
                                              const QString& filtre) override;

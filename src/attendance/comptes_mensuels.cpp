@@ -27,7 +27,7 @@ template <class Condition>
 int TPresences::CompterSoir(int eleve, const TPeriode& mois, int valeur, bool compte, TLignesService& lignes,
                             Condition dansLaLigne) const {
   lignes.clear();
-  const TParametreService& affiche = Service(TLigneParametreService::Soir1);
+  const TParametreService& affiche = ParametreService(TLigneParametreService::Soir1);
   int total = 0;
   Currency montant;
   TDatesVues vues;
@@ -47,7 +47,7 @@ int TPresences::CompterSoir(int eleve, const TPeriode& mois, int valeur, bool co
 
 int TPresences::ServiceSoir1(int eleve, int mois, int annee, const TPresencesParticulieres& marques,
                              TLignesService& lignes) const {
-  const TParametreService& service = Service(TLigneParametreService::Soir1);
+  const TParametreService& service = ParametreService(TLigneParametreService::Soir1);
   const TDateTime debut = service.ServiceHeureDebut, fin = service.ServiceHeureFin;
   const TDateTime tot = Decaler(debut, -15);
   return CompterSoir(eleve, BornesMois(mois, annee), service.ServiceValeur,
@@ -59,7 +59,7 @@ int TPresences::ServiceSoir1(int eleve, int mois, int annee, const TPresencesPar
 }
 
 int TPresences::ServiceSoir2(int eleve, int mois, int annee, TLignesService& lignes) const {
-  const TParametreService& service = Service(TLigneParametreService::Soir2);
+  const TParametreService& service = ParametreService(TLigneParametreService::Soir2);
   const TDateTime debut = service.ServiceHeureDebut, fin = service.ServiceHeureFin;
   const TDateTime tard = Decaler(fin, 15);
   return CompterSoir(eleve, BornesMois(mois, annee), service.ServiceValeur, true, lignes,
@@ -72,8 +72,8 @@ int TPresences::ServiceSoir2(int eleve, int mois, int annee, TLignesService& lig
 
 TMercrediMois TPresences::ServiceMercredi(int eleve, int mois, int annee, TLignesService& lignes) const {
   lignes.clear();
-  const TParametreService& courte = Service(TLigneParametreService::Mercredi1);
-  const TParametreService& longue = Service(TLigneParametreService::Mercredi2);
+  const TParametreService& courte = ParametreService(TLigneParametreService::Mercredi1);
+  const TParametreService& longue = ParametreService(TLigneParametreService::Mercredi2);
   const TDateTime tot = Decaler(courte.ServiceHeureDebut, -15);
   TMercrediMois compte;
   Currency montant;

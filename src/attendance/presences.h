@@ -93,7 +93,9 @@ class TPresences : public TCollection<TPresence> {
 
   /// Copies the row; its two hours are read from its texts (else EConvertError).
   void SetParametreService(TLigneParametreService ligne, TParametreService parametre);
-  TParametreService ParametreService(TLigneParametreService ligne) const { return Service(ligne); }
+  const TParametreService& ParametreService(TLigneParametreService ligne) const {
+    return tableParametreService_.at(static_cast<std::size_t>(ligne));
+  }
 
  protected:
   void DefineQuery() override;
@@ -116,9 +118,6 @@ class TPresences : public TCollection<TPresence> {
   template <class Condition>
   int CompterSoir(int eleve, const TPeriode& mois, int valeur, bool compte, TLignesService& lignes,
                   Condition dansLaLigne) const;
-  const TParametreService& Service(TLigneParametreService ligne) const {
-    return tableParametreService_.at(static_cast<std::size_t>(ligne));
-  }
   const TIndexPresences& Index() const;
 
   TPeriode periode_;

@@ -75,8 +75,6 @@ bool TCurseur::Suivant() {
   return d_->instruction->Suivant();
 }
 
-bool TCurseur::EstNul(const char* colonne) { return d_->Colonne(colonne).nul < 0; }
-
 int TCurseur::Entier(const char* colonne) { return static_cast<int>(Firebird::Entier(d_->Colonne(colonne))); }
 
 bool TCurseur::EstVrai(const char* colonne) {

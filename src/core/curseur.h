@@ -24,7 +24,6 @@ class TCurseur {
   /// The next row (the first one at the first call); false at the end.
   bool Suivant();
 
-  bool EstNul(const char* colonne);
   /// 0 when NULL.
   int Entier(const char* colonne);
   /// True when the value is exactly 1, as a number or as a text.

@@ -97,7 +97,16 @@ void TDataModule1::AskServerName() {
         u"\nAttention : Afin de ne plus afficher ce message, veuillez exécuter cette opération avec un "
         u"compte "
         "administrateur"_s;
-  const auto reponse = dialogues_.Saisir(u"Identification du Serveur de données"_s, invite, ServerName);
+  const auto reponse = dialogues_.Saisir(
+      {.Titre = u"Identification du Serveur de données"_s,
+       .Invite = invite,
+       .Valeur = ServerName,
+       .Aide =
+           u"Le nom « local » fait travailler ce poste seul, sans serveur : les données sont alors dans un "
+           "fichier de cet ordinateur, créé à la première ouverture."_s,
+       .Principal = u"&Se connecter à un serveur"_s,
+       .Autre = u"&Travailler seul"_s,
+       .ValeurAutre = u"local"_s});
   if (!reponse || reponse->trimmed().isEmpty()) return;
   KeepServerName(*reponse);
 }

@@ -14,6 +14,18 @@ struct TReessai {
   std::function<bool()> SurFichier;  ///< chooses the data file of this computer; none for a server
 };
 
+/// A line of text that is asked for.
+struct TSaisie {
+  QString Titre;
+  QString Invite;  ///< its first line is the label of the field, the others stand below
+  QString Valeur = {};
+  QString Aide = {};                                  ///< what a person needs to know besides, on a screen
+  std::function<QString(const QString&)> Refus = {};  ///< why an answer will not do; "" for one that will
+  QString Principal = {};                             ///< caption of the primary button; "" for the usual one
+  QString Autre = {};  ///< caption of a button that answers `ValeurAutre` at once; "" for none
+  QString ValeurAutre = {};
+};
+
 /// How logic talks to the user. The desktop program answers with dialogs, the batch program on the
 /// terminal, a test with a script of expected questions and answers.
 class IDialogues {
@@ -28,9 +40,8 @@ class IDialogues {
   virtual bool Confirmer(const QString& question) = 0;
   /// The same for what cannot be taken back: "Non" is the answer at hand.
   virtual bool ConfirmerGrave(const QString& question) { return Confirmer(question); }
-  /// A line of text; none when the user gives up.
-  virtual std::optional<QString> Saisir(const QString& titre, const QString& invite,
-                                        const QString& valeur) = 0;
+  /// A line of text that is not refused; none when the user gives up.
+  virtual std::optional<QString> Saisir(const TSaisie& saisie) = 0;
   /// An existing file to read; `filtre` as "Texte (*.txt *.csv)".
   virtual std::optional<QString> ChoisirFichier(const QString& titre, const QString& filtre) = 0;
   /// Where to write; `nom` is proposed.

@@ -10,7 +10,7 @@ class TRecueilMessages final : public IDialogues {
   void Message(const QString& texte) override { Messages += texte; }
   void Information(const QString& texte) override { Messages += texte; }
   bool Confirmer(const QString&) override { return false; }
-  std::optional<QString> Saisir(const QString&, const QString&, const QString&) override { return {}; }
+  std::optional<QString> Saisir(const TSaisie&) override { return {}; }
   std::optional<QString> ChoisirFichier(const QString&, const QString&) override { return {}; }
   std::optional<QString> FichierAEnregistrer(const QString&, const QString&, const QString&) override {
     return {};

@@ -2,10 +2,12 @@
 #include "core/distributor.h"
 #include "core/exceptions.h"
 
+using namespace Qt::StringLiterals;
+
 /// Raises EDistributor when a save has left the object without a row, as its key could not be had.
 inline void ExigerCle(const TBaseObject& objet) {
   if (objet.Status == TStatus::Nouveau)
-    throw EDistributor(QStringLiteral("Aucun numéro n'a pu être donné à ce qui devait être mémorisé."));
+    throw EDistributor(u"Aucun numéro n'a pu être donné à ce qui devait être mémorisé."_s);
 }
 
 /// Adds an object and saves at once. One that cannot be stored leaves again, so that no later save meets it;

@@ -170,8 +170,8 @@ TEST(Connexion, OnlyWhoMayNotWriteTheMachinesSettingsIsWarned) {
       "administrateur"_s;
   for (const bool inscriptible : {true, false}) {
     struct TNote : TDialoguesScenario {
-      std::optional<QString> Saisir(const QString&, const QString& texte, const QString&) override {
-        Invite = texte;
+      std::optional<QString> Saisir(const TSaisie& saisie) override {
+        Invite = saisie.Invite;
         return u"poste1"_s;
       }
       QString Invite;

@@ -251,13 +251,15 @@ TEST(Kernel, ValuesTravelExactly) {
       ASSERT_TRUE(lu.Suivant());
       EXPECT_EQ(lu.Montant("M").EnBrut(), m);
       EXPECT_EQ(lu.Heure("H"), h) << "the very same double";
-      EXPECT_EQ(lu.EstNul("H"), h == 0.0);
       EXPECT_EQ(lu.Date("D"), EncodeDate(2016, 10, 3));
       EXPECT_EQ(lu.Texte("V"), u"é  ");
       EXPECT_EQ(lu.Texte("C"), u"é");
     }
   EXPECT_FALSE(lu.Suivant());
   EXPECT_THROW(lu.Texte("ABSENTE"), Exception);
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM ESSAI WHERE H IS NULL"_s),
+            QString::number(std::size(montants)))
+      << "midnight is no hour";
 }
 
 TEST(Kernel, TextsAndBlobsTravelWhole) {
@@ -274,10 +276,10 @@ TEST(Kernel, TextsAndBlobsTravelWhole) {
   TCurseur lu(*base, u"SELECT * FROM ESSAI ORDER BY ID"_s);
   for (const QString& texte : textes) {
     ASSERT_TRUE(lu.Suivant());
-    EXPECT_FALSE(lu.EstNul("V")) << "an empty text is not NULL";
     EXPECT_EQ(lu.Texte("V"), texte);
     EXPECT_EQ(lu.Octets("B"), octets);
   }
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM ESSAI WHERE V IS NULL"_s), u"0") << "an empty text is a text";
   for (const int longueur : {251, 40000})
     EXPECT_THROW(ecrire.Parametre(u"V"_s, QString(longueur, u'x')).Executer(), Exception);
   EXPECT_EQ(TQueryInternal(*base, u"UPDATE ESSAI SET V = '12:30' WHERE ID > 1 AND V <> ':V'"_s).Executer(),

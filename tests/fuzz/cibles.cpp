@@ -23,7 +23,7 @@ class TMuet : public IDialogues {
   void Message(const QString&) override {}
   void Information(const QString&) override {}
   bool Confirmer(const QString&) override { return false; }
-  std::optional<QString> Saisir(const QString&, const QString&, const QString&) override { return {}; }
+  std::optional<QString> Saisir(const TSaisie&) override { return {}; }
   std::optional<QString> ChoisirFichier(const QString&, const QString&) override { return {}; }
   std::optional<QString> FichierAEnregistrer(const QString&, const QString&, const QString&) override {
     return {};

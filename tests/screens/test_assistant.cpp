@@ -159,7 +159,7 @@ TEST_F(Assistant, TheListsAndTheirTwoButtons) {
     assistant.RbEleveClick(Eleves);
     assistant.btnRienSelectionnerClick();
     Cocher(assistant.LstEleve, u"Luc"_s);
-    assistant.FiltreEleve = u"p1 a"_s;
+    assistant.Filtrer(assistant.LstEleve, u"p1 a"_s);
     assistant.btnToutSelectionnerClick();
     EXPECT_EQ(assistant.Compte(), u"3 élèves"_s) << "those that the filter shows, and a tick behind it";
     assistant.LstEleveColumnClick(0, false);
@@ -193,8 +193,7 @@ TEST_F(Assistant, PeriodOfTheChoice) {
   ecran.Essai.Horloge.Moment = EncodeDate(2016, 11, 22) + EncodeTime(9, 30);
   Ouvrir([&] { assistant.btnAnnulerClick(); });
   EXPECT_EQ(assistant.IndiceMois(), 2);
-  EXPECT_EQ(assistant.dtDate1(), J("2016-11-22"));
-  EXPECT_EQ(assistant.dtDate2(), J("2016-11-22"));
+  for (int date = 0; date < 2; ++date) EXPECT_EQ(assistant.Dates().Texte(date), u"22/11/2016");
   const struct {
     std::function<void()> Geste;
     const char *Du, *Au;
@@ -205,7 +204,9 @@ TEST_F(Assistant, PeriodOfTheChoice) {
       {[&] { assistant.ChoisirMois(9); }, "2017-06-01", "2017-06-30", u"juin 2017"},
       {[&] {
          assistant.RbMoisClick(TChoixPeriode::Periode);
-         assistant.ChoisirDates(J("2016-12-24"), J("2016-10-01"));
+         assistant.Dates().Taper(0, u"24/12/2016"_s);
+         assistant.Dates().Taper(1, u"01/10/2016"_s);
+         assistant.Dates().QuitterTout();
        },
        "2016-12-24", "2016-10-01", u"du 24/12/2016 au 01/10/2016"},
       {[&] { assistant.RbMoisClick(TChoixPeriode::Annee); }, "2016-09-01", "2017-06-30",
@@ -237,8 +238,11 @@ TEST_F(Assistant, BothRefusalsLeaveItOpen) {
     assistant.ChoixRapportClick(1);
     assistant.btnSuivantClick();
     base.Dialogues.Attend(u"Aucun élève n'a été sélectionné !"_s);
-    EXPECT_FALSE(assistant.PeutSuivre()) << "nobody is chosen yet";
     assistant.btnSuivantClick();
+    EXPECT_EQ(assistant.Page(), Qui) << "nobody is chosen yet";
+    Cocher(assistant.LstEleve, u"Adam"_s);
+    assistant.btnSuivantClick();
+    assistant.btnRienSelectionnerClick();
     EXPECT_EQ(assistant.IndiceMois(), -1) << "July is no month of school";
     base.Dialogues.Attend(u"Veuillez sélectionner un mois dans la liste déroulante"_s);
     Finir();

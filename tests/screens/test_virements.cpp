@@ -126,11 +126,8 @@ TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
   const int a = Base.Mouvement(u"A"_s, 3), b = Base.Mouvement(u"B"_s, 4), c = Base.Mouvement(u"C"_s, 5);
   Base.Credit(c, 3);
   Ouvrir();
-  Form->LignesVues = [this] {  // the other way round
-    std::vector<int> lignes;
-    for (int i = Form->Historique.NombreLignes() - 1; i >= 0; --i) lignes.push_back(i);
-    return lignes;
-  };
+  const TLien aRebours =
+      Form->SurOrdre.Suivre([](std::vector<int>& lignes) { std::ranges::reverse(lignes); });
   // The file in the preview holds a movement that leaves the year.
   Base.Dialogues.Saisit(u"Importer vos virements"_s,
                         Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) +
@@ -166,7 +163,9 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
   Base.Mouvement(u"D"_s, 6, u"1"_s);
   Ouvrir();
   Form->mnuAfficheMouvementClick();
-  Form->LignesVues = [] { return std::vector<int>{1, 2, 0, 3}; };  // A, B, C, D
+  const TLien ordre = Form->SurOrdre.Suivre([](std::vector<int>& lignes) {
+    lignes = {1, 2, 0, 3};
+  });  // A, B, C, D
   Form->Historique.ChoisirLigne(1);
   Attribuer([](TFrmAttributionVirement& dialogue) {
     EXPECT_EQ(dialogue.lblDonneurOrdre(), u"A");

@@ -52,9 +52,13 @@ bool TDialoguesScenario::Confirmer(const QString& question) {
   return Suivant(TSorte::Question, question).oui;
 }
 
-std::optional<QString> TDialoguesScenario::Saisir(const QString& titre, const QString& invite,
-                                                  const QString&) {
-  return Suivant(TSorte::Saisie, titre + u'\n' + invite).reponse;
+std::optional<QString> TDialoguesScenario::Saisir(const TSaisie& saisie) {
+  while (true) {
+    const auto reponse = Suivant(TSorte::Saisie, saisie.Titre + u'\n' + saisie.Invite).reponse;
+    const QString refus = reponse && saisie.Refus ? saisie.Refus(*reponse) : QString();
+    if (refus.isEmpty()) return reponse;
+    Dits += refus;
+  }
 }
 
 std::optional<QString> TDialoguesScenario::ChoisirFichier(const QString& titre, const QString&) {

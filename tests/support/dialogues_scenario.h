@@ -16,7 +16,8 @@ class TDialoguesScenario : public IDialogues {
   TDialoguesScenario& Attend(const QString& extrait);
   /// The next question holds this text and is answered so.
   TDialoguesScenario& Repond(const QString& extrait, bool oui);
-  /// The next input or file dialog holds this text in its title or prompt; none gives up.
+  /// The next input or file dialog holds this text in its title or prompt; none gives up. What is refused is
+  /// among `Dits`, and the dialog stands there again.
   TDialoguesScenario& Saisit(const QString& extrait, std::optional<QString> reponse);
   /// The next failed connection is answered by "Réessayer" or "Annuler", after the link when asked.
   TDialoguesScenario& Reessaie(bool oui, bool parLeLien = false);
@@ -24,7 +25,7 @@ class TDialoguesScenario : public IDialogues {
   void Message(const QString& texte) override;
   void Information(const QString& texte) override;
   bool Confirmer(const QString& question) override;
-  std::optional<QString> Saisir(const QString& titre, const QString& invite, const QString& valeur) override;
+  std::optional<QString> Saisir(const TSaisie& saisie) override;
   std::optional<QString> ChoisirFichier(const QString& titre, const QString& filtre) override;
   std::optional<QString> FichierAEnregistrer(const QString& titre, const QString& nom,
                                              const QString& filtre) override;

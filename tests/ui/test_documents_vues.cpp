@@ -319,6 +319,20 @@ TEST_F(DocumentsVues, NavigatorPagesAndPaper) {
   EXPECT_TRUE(TextesDe(vue).contains(u"A4, paysage"_s));
 }
 
+TEST_F(DocumentsVues, ARefusedFieldCallsNoPressOfAnnulerBack) {
+  TFrmDatePaiement form(programme.Tout().Main.Contexte);
+  VueDialogue vue(form, nullptr);
+  vue.show();
+  auto* date = vue.findChild<SaisieDate*>();
+  date->setFocus();
+  date->selectAll();
+  QTest::keyClicks(date, u"31/02/2017"_s);
+  QTest::mousePress(vue.Annuler(), Qt::LeftButton);
+  QCoreApplication::processEvents();
+  QTest::mouseRelease(vue.Annuler(), Qt::LeftButton);
+  EXPECT_FALSE(vue.isVisible());
+}
+
 TEST_F(DocumentsVues, WithinReachOfEveryone) {
   Programme& tout = programme.Tout();
   TFrmDatePaiement date(tout.Main.Contexte);

@@ -357,11 +357,13 @@ TEST_F(Principal, EveryControlOfItsDialogsToo) {
   reessai.SurFichier = [] { return false; };
   VerifierVuePartout([&] { return std::make_unique<DialogueReessai>(reessai); });
   VerifierVuePartout([] {
-    return std::make_unique<DialogueSaisie>(
-        u"Identification du Serveur de données"_s,
-        u"Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :\n"
-        "Attention : veuillez exécuter cette opération avec un compte administrateur"_s,
-        u"SECRETARIAT"_s);
+    return std::make_unique<DialogueSaisie>(TSaisie{
+        .Titre = u"Identification du Serveur de données"_s,
+        .Invite = u"Veuillez indiquer ci-dessous le nom du serveur de données ou son adresse réseau :\n"
+                  "Attention : veuillez exécuter cette opération avec un compte administrateur"_s,
+        .Valeur = u"SECRETARIAT"_s,
+        .Principal = u"&Se connecter à un serveur"_s,
+        .Autre = u"&Travailler seul"_s});
   });
   Programme.Demarrer();
   TFrmAjoutProfesseur ajout(Programme.Main().Contexte);

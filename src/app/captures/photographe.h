@@ -6,6 +6,8 @@
 #include "core/exceptions.h"
 #include "ui/principal/programme.h"
 
+using namespace Qt::StringLiterals;
+
 class TFrmVirement;
 
 /// What the pictures are taken of.
@@ -41,7 +43,7 @@ class Photographe : public QObject {
   template <class T>
   T& Ecran() {
     auto* form = dynamic_cast<T*>(programme_.Main.Panneau.Courante());
-    if (form == nullptr) throw Exception(QStringLiteral("Un écran ne s'ouvre pas."));
+    if (form == nullptr) throw Exception(u"Un écran ne s'ouvre pas."_s);
     return *form;
   }
 

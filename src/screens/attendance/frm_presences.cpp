@@ -120,6 +120,16 @@ QString TfrmPresences::NoteAnomalies() const {
                  u"lignes ne seront pas mémorisées tant qu'elles ne sont pas corrigées"_s);
 }
 
+TVide TfrmPresences::RecapitulatifVide() const {
+  if (Recapitulatif.NombreLignes() > 0) return {};
+  if (FichierLu())
+    return {u"Aucun relevé bon dans ce fichier"_s,
+            u"Corrigez les anomalies, ou importez un autre fichier."_s};
+  return {u"Aucune présence à montrer"_s,
+          u"Importez-les depuis le scanner local ou un site distant (Etape n°1), ou "
+          "choisissez « Importer un fichier de présence » sous Source."_s};
+}
+
 QString TfrmPresences::NoteRecapitulatif() const {
   if (!lu_) return {};
   if (!import_.Pret()) return TexteBilan();

@@ -1,5 +1,6 @@
 #pragma once
 #include "forms/grille.h"
+#include "forms/vide.h"
 #include "screens/contexte_ecran.h"
 #include "workflows/import_presences.h"
 #include "workflows/site_ftp.h"
@@ -51,6 +52,8 @@ class TfrmPresences : public TForm {
   bool FichierLu() const { return lu_; }
   QString NoteAnomalies() const;
   QString NoteRecapitulatif() const;
+  /// In the place of a summary without a row.
+  TVide RecapitulatifVide() const;
   QString EnSuspens() const override;
 
  protected:

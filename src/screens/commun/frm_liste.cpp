@@ -162,7 +162,5 @@ bool TFrmListe::FormCloseQuery() {
 }
 
 QString TFrmListe::EnSuspens() const {
-  return mode_ != TModeEdition::Lecture && const_cast<TFrmListe*>(this)->EstModifie()
-             ? u"modifications non enregistrées"_s
-             : QString();
+  return EstModifie() ? u"modifications non enregistrées"_s : QString();
 }

@@ -31,11 +31,12 @@ class TFrmListe : public TForm {
  public:
   const TTextesListe& Textes() const { return textes_; }
   virtual TChamps& Champs() = 0;
+  virtual const TChamps& Champs() const = 0;
   TModeEdition Mode() const { return mode_; }
   /// Head of the panel.
   QString TitrePanneau() const;
   /// Something typed or chosen is not stored yet.
-  virtual bool EstModifie() { return mode_ != TModeEdition::Lecture && Champs().Modifies(); }
+  virtual bool EstModifie() const { return mode_ != TModeEdition::Lecture && Champs().Modifies(); }
 
   void Nouveau();
   void Modifier();
@@ -118,6 +119,7 @@ template <class T>
 class TFrmListeDe : public TFrmListe {
  public:
   TChampsDe<T>& Champs() override { return champs_; }
+  const TChampsDe<T>& Champs() const override { return champs_; }
   /// The object of the current row; null for none.
   T* Courant() const {
     const int ligne = Grille.LigneCourante();

@@ -32,6 +32,20 @@ std::vector<T*> Coches(const TGrille& liste) {
   return objets;
 }
 
+TTableChamps<TPeriode> ChampsPeriode() {
+  const auto date = [](const QString& nom, const QString& nomme) {
+    return TChamp{.Nom = nom,
+                  .Libelle = u"au"_s,
+                  .Genre = TGenreChamp::Date,
+                  .Nomme = nomme,
+                  .Obligatoire = true,
+                  .Refus = u"La date introduite est incorrecte."_s,
+                  .Suite = true};
+  };
+  return {{date(u"dtDate1"_s, u"Premier jour"_s), Membre(&TPeriode::Premier)},
+          {date(u"dtDate2"_s, u"Dernier jour"_s), Membre(&TPeriode::Dernier)}};
+}
+
 int AnneeAffichee() { return Globals.Eleves->AnneeScolaire; }
 
 }  // namespace
@@ -41,7 +55,10 @@ TDemandeAssistant TDemandeAssistant::De(std::vector<TTitreAssistant> titres) {
   return {true, std::move(titres), periode};
 }
 
-TFrmPrintWizard::TFrmPrintWizard(const TContexteEcran& contexte) : contexte_(contexte) {
+TFrmPrintWizard::TFrmPrintWizard(const TContexteEcran& contexte)
+    : contexte_(contexte), champs_(ChampsPeriode(), TChamps::Aussitot) {
+  champs_.DefinirLectureSeule(true);
+  champs_.SurEnregistrer = [this](const TChamp&) { Annoncer(); };
   LstEleve.DefinirColonnes({{u"Nom de l'élève"_s, 150}, {u"Classe"_s, 70}, {u"Implantation"_s, 112}});
   LstClasse.DefinirColonnes({{u"Nom de la classe"_s, 150}, {u"Implantation"_s, 112}});
   LstEleve.CasesACocher = LstClasse.CasesACocher = true;
@@ -68,8 +85,8 @@ std::optional<TChoixDocument> TFrmPrintWizard::Demander(const TDemandeAssistant&
 void TFrmPrintWizard::Preparer(const TDemandeAssistant& demande) {
   ResultatModal = TResultatModal::Aucun;
   demande_ = demande;
-  FiltreEleve.clear();
-  FiltreClasse.clear();
+  filtreEleve_.clear();
+  filtreClasse_.clear();
   RemplirListes();
   PoserDates();
   lblEleve = Globals.EleveCourant != nullptr ? Globals.EleveCourant->NomComplet() : QString();
@@ -139,9 +156,11 @@ void TFrmPrintWizard::Remplir(TGrille& liste, TContenu& avant, TContenu contenu,
 }
 
 void TFrmPrintWizard::PoserDates() {
-  if (dtDate1_ != 0.0) return;
+  champs_.AbandonnerTout();  // what was typed before the wizard was given up
+  if (champs_.Actifs()) return;
   const TDateTime aujourdhui = contexte_.Controleur.Horloge().Aujourdhui();
-  dtDate1_ = dtDate2_ = aujourdhui;
+  periode_ = {aujourdhui, aujourdhui};
+  champs_.Montrer(&periode_);
   indiceMois_ = IndiceMoisScolaire(DecodeDate(aujourdhui).Mois);
 }
 
@@ -190,7 +209,7 @@ void TFrmPrintWizard::btnDernierClick() {
 
 void TFrmPrintWizard::btnMoisEcranClick() {
   if (MoisEcran() == 0) return;
-  choixPeriode_ = TChoixPeriode::Mois;
+  RbMoisClick(TChoixPeriode::Mois);
   ChoisirMois(IndiceMoisScolaire(MoisEcran()));
 }
 
@@ -214,11 +233,15 @@ void TFrmPrintWizard::RbEleveClick(TChoixQui choix) {
 
 void TFrmPrintWizard::btnToutSelectionnerClick() {
   TGrille& liste = LstClasseActive() ? LstClasse : LstEleve;
-  const QString& filtre = LstClasseActive() ? FiltreClasse : FiltreEleve;
+  const QString& filtre = LstClasseActive() ? filtreClasse_ : filtreEleve_;
   if (!SelectionActive()) return;
   const TGrille::TLot lot(liste);
   for (int ligne = 0; ligne < liste.NombreLignes(); ++ligne)
     if (liste.Contient(ligne, filtre)) liste.Cocher(ligne, true);
+}
+
+void TFrmPrintWizard::Filtrer(const TGrille& liste, const QString& filtre) {
+  (&liste == &LstClasse ? filtreClasse_ : filtreEleve_) = filtre;
 }
 
 void TFrmPrintWizard::btnRienSelectionnerClick() {
@@ -235,7 +258,9 @@ void TFrmPrintWizard::Trier(TGrille& liste, TTri& tri, int colonne, bool croissa
 }
 
 void TFrmPrintWizard::RbMoisClick(TChoixPeriode choix) {
+  if (choix != TChoixPeriode::Periode) champs_.AbandonnerTout();  // no matter any more
   choixPeriode_ = choix;
+  champs_.DefinirLectureSeule(choix != TChoixPeriode::Periode);
   Annoncer();
 }
 
@@ -244,16 +269,9 @@ void TFrmPrintWizard::ChoisirMois(int indice) {
   Annoncer();
 }
 
-void TFrmPrintWizard::ChoisirDates(TDateTime debut, TDateTime fin) {
-  dtDate1_ = debut;
-  dtDate2_ = fin;
-  Annoncer();
-}
-
-bool TFrmPrintWizard::PeutSuivre() {
-  if (page_ != TPageAssistant::Qui || AQuelquun()) return true;
-  RefuserPersonne();
-  return false;
+void TFrmPrintWizard::btnSuivantClick() {
+  if (page_ == TPageAssistant::Qui && !AQuelquun()) return RefuserPersonne();
+  OuvrirPage(PageVoisine(1));
 }
 
 void TFrmPrintWizard::btnAnnulerClick() {
@@ -262,6 +280,7 @@ void TFrmPrintWizard::btnAnnulerClick() {
 }
 
 void TFrmPrintWizard::KWizard1FinishButtonClick() {
+  if (!champs_.QuitterTout()) return;
   if (choixPeriode_ == TChoixPeriode::Mois && indiceMois_ < 0 && PageVisible(TPageAssistant::Periode))
     return Refuser(u"Veuillez sélectionner un mois dans la liste déroulante"_s, TChampAssistant::Mois);
   if (PageVisible(TPageAssistant::Qui) && !AQuelquun()) {
@@ -313,7 +332,7 @@ void TFrmPrintWizard::AjouterChoisis(TChoixDocument& choix) const {
 }
 
 TPeriode TFrmPrintWizard::Periode() const {
-  if (choixPeriode_ == TChoixPeriode::Periode) return {dtDate1_, dtDate2_};
+  if (choixPeriode_ == TChoixPeriode::Periode) return periode_;
   if (choixPeriode_ == TChoixPeriode::Mois && indiceMois_ >= 0)
     return BornesMois(kMoisScolaires[static_cast<std::size_t>(indiceMois_)], AnneeAffichee());
   return BornesAnnee(AnneeAffichee());
@@ -344,7 +363,7 @@ QString TFrmPrintWizard::TexteAnnee() const {
 QString TFrmPrintWizard::TextePeriode() const {
   if (choixPeriode_ == TChoixPeriode::Annee) return TexteAnnee();
   if (choixPeriode_ == TChoixPeriode::Periode)
-    return u"du " % FormatDate(dtDate1_) % u" au " % FormatDate(dtDate2_);
+    return u"du " % FormatDate(periode_.Premier) % u" au " % FormatDate(periode_.Dernier);
   if (indiceMois_ < 0) return u"aucun mois choisi"_s;
   const int mois = kMoisScolaires[static_cast<std::size_t>(indiceMois_)];
   return NomMoisCourant(mois) % u' ' % QString::number(Globals.Eleves->AnneeDuMois(mois));

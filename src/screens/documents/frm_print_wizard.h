@@ -1,6 +1,8 @@
 #pragma once
 #include <functional>
 
+#include "core/calendrier_scolaire.h"
+#include "forms/champs.h"
 #include "forms/grille.h"
 #include "screens/contexte_ecran.h"
 #include "screens/documents/assistant.h"
@@ -26,9 +28,8 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   bool EstPremierePage() const { return PageVoisine(-1) == page_; }
   bool EstDernierePage() const { return PageVoisine(1) == page_; }
   void btnPrecedentClick() { OuvrirPage(PageVoisine(-1)); }
-  void btnSuivantClick() { OuvrirPage(PageVoisine(1)); }
-  /// False, after a message, on the page of who as long as nobody is chosen.
-  bool PeutSuivre();
+  /// Stays, after a message, on the page of who as long as nobody is chosen.
+  void btnSuivantClick();
   void btnAnnulerClick();
   void KWizard1FinishButtonClick();
 
@@ -67,9 +68,8 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   /// 1 to 12, the month that the screen behind shows; 0 for none.
   int MoisEcran() const { return demande_.MoisEcran; }
   void btnMoisEcranClick();
-  void ChoisirDates(TDateTime debut, TDateTime fin);
-  TDateTime dtDate1() const { return dtDate1_; }
-  TDateTime dtDate2() const { return dtDate2_; }
+  /// "dtDate1" and "dtDate2", both included; they answer as long as "La période du :" is chosen.
+  TChamps& Dates() { return champs_; }
   /// "du 1er septembre 2018 au 30 juin 2019"
   QString TexteAnnee() const;
   /// What will be printed, in one line.
@@ -77,7 +77,8 @@ class TFrmPrintWizard : public TForm, public IAssistant {
 
   QString lblEleve, lblClasse;  ///< names of the current pupil and class
   TGrille LstEleve, LstClasse;
-  QString FiltreEleve, FiltreClasse;  ///< of the two lists; a hidden row keeps its tick
+  /// What is typed above that list; a row that it hides keeps its tick.
+  void Filtrer(const TGrille& liste, const QString& filtre);
   TSignal<TChampAssistant> SurFoyer;
 
  private:
@@ -125,7 +126,9 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   TChoixPeriode choixPeriode_ = TChoixPeriode::Mois;
   QStringList mois_;
   int indiceMois_ = -1;
-  TDateTime dtDate1_ = 0.0, dtDate2_ = 0.0;
+  QString filtreEleve_, filtreClasse_;
+  TPeriode periode_;  ///< by its dates
+  TChampsDe<TPeriode> champs_;
   TChoixDocument choix_;  ///< of the last finish
   TLiens liens_;
 };

@@ -1,6 +1,7 @@
 #include "screens/parametres/frm_mon_ecole.h"
 
 #include <QRegularExpression>
+#include <array>
 
 #include "core/exceptions.h"
 #include "core/numero_entreprise.h"
@@ -26,10 +27,15 @@ TRang Texte(const char16_t* nom, TParam param, const char16_t* libelle, int larg
 struct THoraire {
   const char16_t* Jours;
   const char16_t* Suffixe;
-  TParam Premier;  ///< the three others follow it
+  std::array<TParam, 4> Nombres;
 };
-constexpr THoraire kHoraires[] = {{u"le lundi, mardi, jeudi et vendredi", u"LMJV", HeureDebutLMJV},
-                                  {u"le mercredi", u"Mercredi", HeureDebutMercredi}};
+constexpr THoraire kHoraires[] = {
+    {u"le lundi, mardi, jeudi et vendredi",
+     u"LMJV",
+     {HeureDebutLMJV, MinuteDebutLMJV, HeureFinLMJV, MinuteFinLMJV}},
+    {u"le mercredi",
+     u"Mercredi",
+     {HeureDebutMercredi, MinuteDebutMercredi, HeureFinMercredi, MinuteFinMercredi}}};
 const struct {
   const char16_t *Debut, *Quoi, *Libelle, *Unite;
 } kNombres[] = {{u"edHeureDebut", u"heure du début des cours", u"Les cours se déroulent de :", u"h"},
@@ -39,16 +45,16 @@ const struct {
 
 void AjouterHoraire(TTableChamps<TParametres>& table, const THoraire& horaire) {
   const QString jours = QString::fromUtf16(horaire.Jours);
-  for (int i = 0; i < 4; ++i) {
+  for (std::size_t i = 0; i < horaire.Nombres.size(); ++i) {
     const auto& [debut, quoi, libelle, unite] = kNombres[i];
     const QString derriere = i == 3 ? jours : QString::fromUtf16(unite);
-    table.push_back(Reglage(static_cast<TParam>(static_cast<int>(horaire.Premier) + i),
-                            {.Nom = QString::fromUtf16(debut) % QString::fromUtf16(horaire.Suffixe),
-                             .Libelle = QString::fromUtf16(libelle),
-                             .Nomme = QString::fromUtf16(quoi) % u", " % jours,
-                             .Largeur = 44,
-                             .Unite = derriere,
-                             .Suite = i > 0}));
+    table.push_back(
+        Reglage(horaire.Nombres[i], {.Nom = QString::fromUtf16(debut) % QString::fromUtf16(horaire.Suffixe),
+                                     .Libelle = QString::fromUtf16(libelle),
+                                     .Nomme = QString::fromUtf16(quoi) % u", " % jours,
+                                     .Largeur = 44,
+                                     .Unite = derriere,
+                                     .Suite = i > 0}));
   }
 }
 

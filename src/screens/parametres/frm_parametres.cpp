@@ -37,6 +37,23 @@ const struct {
   TParam Param;
 } kPrix[] = {{u"edRepasMaternel"_s, TParam::RepasMaternel}, {u"edRepasPrimaire"_s, TParam::RepasPrimaire}};
 
+QString RefusNomGroupe(const QString& nom) {
+  if (nom.trimmed().isEmpty()) return u"Le nom d'un groupe ne peut pas être vide."_s;
+  return nom.size() <= kNomGroupeMaximum
+             ? QString()
+             : u"Le nom d'un groupe a %1 caractères au plus."_s.arg(kNomGroupeMaximum);
+}
+
+QString RefusNumero(const QString& texte) {
+  return StrToIntDef(texte, 0) >= 1 ? QString() : u"« %1 » n'est pas le numéro d'un paramètre."_s.arg(texte);
+}
+
+QString RefusValeur(const QString& texte) {
+  return texte.size() <= kParametreMaximum
+             ? QString()
+             : u"Un paramètre a %1 caractères au plus."_s.arg(kParametreMaximum);
+}
+
 }  // namespace
 
 TFrmParametres::TFrmParametres(TContexteEcran& contexte)
@@ -195,15 +212,10 @@ bool TFrmParametres::SauverGroupes() {
 }
 
 void TFrmParametres::btnAjoutFaitClick() {
-  const auto nom = contexte_.Dialogues().Saisir(u"Nouveau groupe de paiement"_s,
-                                                u"Veuillez entrer le nom de votre groupe"_s, {});
+  const auto nom = contexte_.Dialogues().Saisir({.Titre = u"Nouveau groupe de paiement"_s,
+                                                 .Invite = u"Veuillez entrer le nom de votre groupe"_s,
+                                                 .Refus = RefusNomGroupe});
   if (!nom) return;
-  if (nom->trimmed().isEmpty() || nom->size() > kNomGroupeMaximum) {
-    contexte_.Dialogues().Message(
-        nom->trimmed().isEmpty() ? u"Le nom d'un groupe ne peut pas être vide."_s
-                                 : u"Le nom d'un groupe a %1 caractères au plus."_s.arg(kNomGroupeMaximum));
-    return;
-  }
   auto neuf = std::make_unique<TGroupeFrais>();
   neuf->Libelle = *nom;
   const TGroupeFrais& groupe = Globals.GroupesFrais->Add(std::move(neuf));
@@ -245,16 +257,17 @@ void TFrmParametres::btnEtape1Click() {
 }
 
 void TFrmParametres::btnEtape1MouseDown() {
-  const auto numero = contexte_.Dialogues().Saisir(u"Paramètre"_s, u"Numéro du paramètre :"_s, {});
+  const auto numero = contexte_.Dialogues().Saisir(
+      {.Titre = u"Paramètre"_s, .Invite = u"Numéro du paramètre :"_s, .Refus = RefusNumero});
   if (!numero) return;
   const int id = StrToInt(*numero);
-  if (id < 1) throw EConvertError(u"« %1 » n'est pas le numéro d'un paramètre."_s.arg(*numero));
   const auto param = static_cast<TParam>(id);
   const QString avant = Globals.Parametres->GetParametre(param);
-  const auto valeur = contexte_.Dialogues().Saisir(u"Paramètre"_s, u"Valeur actuelle : " % avant, avant);
+  const auto valeur = contexte_.Dialogues().Saisir({.Titre = u"Paramètre"_s,
+                                                    .Invite = u"Valeur actuelle : " % avant,
+                                                    .Valeur = avant,
+                                                    .Refus = RefusValeur});
   if (!valeur) return;
-  if (valeur->size() > kParametreMaximum)
-    throw Exception(u"Un paramètre a %1 caractères au plus."_s.arg(kParametreMaximum));
   RendrePrix({});
   Globals.Parametres->SetParametre(param, *valeur);
   TChampsParametres::Sauver();

@@ -4,6 +4,8 @@
 #include "forms/grille.h"
 #include "screens/parametres/champs_parametres.h"
 
+using namespace Qt::StringLiterals;
+
 /// A page of settings.
 struct TPageParametres {
   QString Titre;
@@ -64,5 +66,5 @@ class TFrmParametres : public TForm {
 };
 
 /// The fields that a communication may hold.
-inline const QString kChampComStruct = QStringLiteral("[ComStructParFacture]");
-inline const QString kChampDatePaiement = QStringLiteral("[DatePaiementFacture]");
+inline const QString kChampComStruct = u"[ComStructParFacture]"_s;
+inline const QString kChampDatePaiement = u"[DatePaiementFacture]"_s;

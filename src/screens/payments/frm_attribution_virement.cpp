@@ -92,6 +92,13 @@ QString TFrmAttributionVirement::lblDateVirement() const { return FormatDate(Ext
 QString TFrmAttributionVirement::lblCommunication() const { return Extrait().Communication; }
 QString TFrmAttributionVirement::lblCompte() const { return Extrait().NumCptDonneur; }
 
+std::pair<TNiveauEtat, QString> TFrmAttributionVirement::Etat() const {
+  if (Partiel()) return {TNiveauEtat::Alerte, u"Attribué en partie"_s};
+  if (imgValide()) return {TNiveauEtat::Succes, u"Comptabilisé"_s};
+  if (!Actif()) return {TNiveauEtat::Alerte, u"Mouvement caché : il ne peut pas être attribué"_s};
+  return {TNiveauEtat::Neutre, Place()};
+}
+
 QString TFrmAttributionVirement::Place() const {
   return u"Mouvement %1 sur %2"_s.arg(place_ + 1).arg(ordre_.size());
 }
@@ -186,6 +193,10 @@ void TFrmAttributionVirement::btnAccepterClick() {
   if (proposition == nullptr) return;
   LUCombo1.ChoisirLigne(LUCombo1.TrouverObjet(proposition->Eleve));
   Button3Click();
+}
+
+void TFrmAttributionVirement::EntreeClick() {
+  lblProposition().isEmpty() ? Button3Click() : btnAccepterClick();
 }
 
 TEleve* TFrmAttributionVirement::EleveChoisi() const {

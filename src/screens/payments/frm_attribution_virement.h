@@ -28,8 +28,8 @@ class TFrmAttributionVirement : public TForm {
   QString lblDateVirement() const;
   QString lblCommunication() const;
   QString lblCompte() const;
-  /// "Mouvement 3 sur 28", as they stood on the screen.
-  QString Place() const;
+  /// How it stands: "Comptabilisé", else "Mouvement 3 sur 28", as they stood on the screen.
+  std::pair<TNiveauEtat, QString> Etat() const;
   /// Some pupil has it.
   bool imgValide() const;
   /// It may be given to a pupil: nobody has it, and it is not hidden.
@@ -49,6 +49,8 @@ class TFrmAttributionVirement : public TForm {
   QString lblProposition() const;
   /// Gives the movement to the one who is proposed; then on to the next movement.
   void btnAccepterClick();
+  /// Enter in the name: who is proposed, else "Attribuer".
+  void EntreeClick();
   /// Of the pupil who is chosen, or who has the movement.
   QString lblClasse() const;
 
@@ -77,6 +79,7 @@ class TFrmAttributionVirement : public TForm {
   void FormClose() override;
 
  private:
+  QString Place() const;
   struct TCandidat {
     TEleve* Eleve;
     QString Nom;

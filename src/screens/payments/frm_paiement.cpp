@@ -2,6 +2,7 @@
 
 #include "core/mois.h"
 #include "services/frais_eleve.h"
+#include "workflows/repartition.h"
 
 namespace {
 
@@ -49,10 +50,16 @@ TFrmPaiement::TFrmPaiement(int indexMois) : TFrmDialogueDe(u"Ajout d'un paiement
 }
 
 TFrmPaiement::TFrmPaiement(const TFraisEleve& paiement)
-    : TFrmDialogueDe(u"Modification d'un paiement"_s, Table()) {
+    : TFrmDialogueDe(u"Modification d'un paiement"_s, Table()), paiement_(&paiement) {
   Saisi = {paiement.Remarque, paiement.MontantVerse, IndiceMoisScolaire(paiement.Mois),
            static_cast<int>(paiement.TypeFamilleFrais), IndexDuGroupe(paiement.GroupeFraisId)};
   Montrer();
+}
+
+bool TFrmPaiement::Controler() {
+  if (paiement_ == nullptr) return true;
+  const QString refus = RefusMouvement(*paiement_, Saisi.Montant - paiement_->MontantVerse);
+  return refus.isEmpty() || Champs().Refuser(u"edMontant"_s, refus);
 }
 
 void TFrmPaiement::EcrireDans(TFraisEleve& paiement) const {

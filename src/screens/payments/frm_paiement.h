@@ -26,4 +26,11 @@ class TFrmPaiement : public TFrmDialogueDe<TPaiementSaisi> {
   /// Into the payment. What the dialog does not hold stays: the movement of the bank, the date, a group that
   /// is no longer there.
   void EcrireDans(TFraisEleve& paiement) const;
+
+ protected:
+  /// No more of a movement of the bank is given than is left of it.
+  bool Controler() override;
+
+ private:
+  const TFraisEleve* paiement_ = nullptr;  ///< the one that is there
 };

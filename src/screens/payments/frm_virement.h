@@ -1,5 +1,6 @@
 #pragma once
 #include "forms/grille.h"
+#include "forms/vide.h"
 #include "screens/contexte_ecran.h"
 #include "workflows/import_virements.h"
 
@@ -43,6 +44,8 @@ class TFrmVirement : public TForm {
   void btnComptabiliseClick() { Basculer(voitComptabilises_); }
   void btnInconnuClick() { Basculer(voitInconnus_); }
   bool CachesInclus() const { return voitCaches_; }
+  /// In the place of a history without a row.
+  TVide HistoriqueVide() const;
 
   // On the current row.
   /// Opens the attribution.
@@ -61,8 +64,9 @@ class TFrmVirement : public TForm {
   // What the attribution sees of the history.
   /// The movement of the current row; null for none.
   TExtrait* Courant() const;
-  /// The rows as the screen shows them, filtered and in order; set by the view, else as they stand.
-  std::function<std::vector<int>()> LignesVues;
+  /// Who shows the history writes its rows there, filtered and in order.
+  TSignal<std::vector<int>&> SurOrdre;
+  /// The rows as the screen shows them; as they stand when it shows none.
   std::vector<int> Ordre() const;
   /// The row that stands so many rows behind the current one on the screen; -1 at either end.
   int Voisine(int pas) const;

@@ -66,10 +66,19 @@ bool TFrmVirement::ExigeMouvement() const {
 // Attribution
 
 std::vector<int> TFrmVirement::Ordre() const {
-  if (LignesVues) return LignesVues();
   std::vector<int> lignes(static_cast<std::size_t>(Historique.NombreLignes()));
   std::iota(lignes.begin(), lignes.end(), 0);
+  SurOrdre(lignes);
   return lignes;
+}
+
+TVide TFrmVirement::HistoriqueVide() const {
+  if (Historique.NombreLignes() > 0) return {};
+  if (!voitComptabilises_ && !voitInconnus_) return {u"Aucun état choisi : activez un filtre"_s};
+  if (total_ > 0)
+    return {u"Aucun mouvement dans cet état"_s, u"Activez l'autre filtre pour voir les autres."_s};
+  return {u"Aucun mouvement cette année"_s,
+          u"Importez le fichier de la banque dans la page « Importation des virements »."_s};
 }
 
 int TFrmVirement::Voisine(int pas) const {

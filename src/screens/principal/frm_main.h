@@ -1,5 +1,6 @@
 #pragma once
 #include "forms/arbre.h"
+#include "forms/vide.h"
 #include "screens/principal/commandes.h"
 
 /// What the left of the status bar says.
@@ -95,6 +96,10 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   /// A step is left, and no screen in front.
   bool PremiereUtilisation() const;
   bool SansEleve() const;
+  /// What stands above the steps of the first use.
+  TVide Accueil() const;
+  /// In the place of the screen when none is open.
+  TVide SansEcran() const;
   /// A step is left: always without a pupil, else in the working year only.
   bool ResteAFaire() const;
   std::vector<TEtapeAccueil> Etapes() const;

@@ -40,6 +40,26 @@ bool TFrmMain::EstBureau() const { return !Globals.ModeProfesseur && !Globals.Mo
 
 bool TFrmMain::SansEleve() const { return EstRelie() && EstBureau() && Globals.Eleves->Count() == 0; }
 
+TVide TFrmMain::Accueil() const {
+  const QString travail = AnneeEnTexte(AnneeTravail());
+  if (!SansEleve()) return {u"Année scolaire " % travail, u"Il reste à préparer cette année scolaire."_s};
+  if (AnneeCochee() == AnneeTravail())
+    return {u"Bienvenue dans Calpenne"_s,
+            u"La base est prête et ne contient encore aucun élève. Voici par où commencer."_s};
+  return {u"Aucun élève en " % AnneeEnTexte(AnneeCochee()),
+          u"L'importation remplit l'année de travail, " % travail %
+              u". Pour revoir une autre année : le menu des années (Ctrl+0)."};
+}
+
+TVide TFrmMain::SansEcran() const {
+  if (!EstRelie()) return {};
+  const auto fiches =
+      std::ranges::find(Commandes, TGestionnaire::AdvGlowButton2Click, &TCommandePrincipale::Gestionnaire);
+  const bool ouvrables = PageVisible(TPage::PgEleve) && CommandeActive(*fiches);
+  return {u"Aucun écran ouvert"_s, u"Choisissez un écran dans la barre de commandes."_s,
+          ouvrables ? u"Fiches des élèves"_s : QString()};
+}
+
 bool TFrmMain::ResteAFaire() const {
   if (SansEleve()) return true;
   return EstRelie() && EstBureau() && anneeCochee_ == Globals.AnneeScolaire &&
@@ -158,15 +178,18 @@ void TFrmMain::ChoisirPremiereAnnee() {
   QuitterChamp();
   if (!EcranAccepte()) return;
   const int proposee = Controleur.AnneeProposee();
-  const auto reponse = Contexte.Dialogues().Saisir(
-      u"Année scolaire"_s, u"Quelle année scolaire voulez-vous commencer ?"_s, AnneeEnTexte(proposee));
+  const auto refus = [proposee](const QString& texte) {
+    if (AnneeDuTexte(texte, proposee) != 0) return QString();
+    return u"« %1 » n'est pas une année scolaire. Introduisez par exemple %2."_s.arg(texte,
+                                                                                     AnneeEnTexte(proposee));
+  };
+  const auto reponse =
+      Contexte.Dialogues().Saisir({.Titre = u"Année scolaire"_s,
+                                   .Invite = u"Quelle année scolaire voulez-vous commencer ?"_s,
+                                   .Valeur = AnneeEnTexte(proposee),
+                                   .Refus = refus});
   if (!reponse) return;
   const int annee = AnneeDuTexte(*reponse, proposee);
-  if (annee == 0) {
-    Contexte.Dialogues().Message(u"« %1 » n'est pas une année scolaire. Introduisez par exemple %2."_s.arg(
-        *reponse, AnneeEnTexte(proposee)));
-    return;
-  }
   Controleur.CommencerAnnee(annee);
   FermerEcran();
   Etat(TNiveauEtat::Succes, u"Année de travail : " % AnneeEnTexte(annee));

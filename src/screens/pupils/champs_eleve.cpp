@@ -6,6 +6,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kEtroit = 52;  // a number or a postal code, beside what is longer
+
 /// A national number, stored as its digits. Who stores the pupil sees to it that it is one.
 TAcces<TEleve> NumeroNational(QString TEleve::*membre) {
   return {[membre](const TEleve& eleve) -> TValeurVue { return NumeroNationalPresente(eleve.*membre); },
@@ -43,16 +45,17 @@ TTableChamps<TEleve> ChampsEleve() {
       {{u"edNomResponsable"_s, u"Nom du responsable"_s, Texte, 50}, Membre(&T::NomResponsable)},
       {{u"edPrenomResponsable"_s, u"Prénom du responsable"_s, Texte, 50}, Membre(&T::PrenomResponsable)},
       {{u"edAdresse"_s, u"Adresse du responsable"_s, Texte, 200}, Membre(&T::Adresse)},
-      {{u"edNumero"_s, u"Numéro du responsable"_s, Texte, 40}, Membre(&T::Numero)},
-      {{u"edCodePostal"_s, u"Code postal du responsable"_s, Entier}, Membre(&T::CodePostal)},
+      {{u"edNumero"_s, u"Numéro du responsable"_s, Texte, 40, {}, kEtroit}, Membre(&T::Numero)},
+      {{u"edCodePostal"_s, u"Code postal du responsable"_s, Entier, 0, {}, kEtroit}, Membre(&T::CodePostal)},
       {{u"edLocalite"_s, u"Localité du responsable"_s, Texte, 100}, Membre(&T::Localite)},
 
       {{u"edNomResponsable2"_s, u"Nom du second responsable"_s, Texte, 50}, Membre(&T::NomResponsable2)},
       {{u"edPrenomResponsable2"_s, u"Prénom du second responsable"_s, Texte, 50},
        Membre(&T::PrenomResponsable2)},
       {{u"edAdresse2"_s, u"Adresse du second responsable"_s, Texte, 200}, Membre(&T::Adresse2)},
-      {{u"edNumero2"_s, u"Numéro du second responsable"_s, Texte, 40}, Membre(&T::Numero2)},
-      {{u"edCodePostal2"_s, u"Code postal du second responsable"_s, Entier}, Membre(&T::CodePostal2)},
+      {{u"edNumero2"_s, u"Numéro du second responsable"_s, Texte, 40, {}, kEtroit}, Membre(&T::Numero2)},
+      {{u"edCodePostal2"_s, u"Code postal du second responsable"_s, Entier, 0, {}, kEtroit},
+       Membre(&T::CodePostal2)},
       {{u"edLocalite2"_s, u"Localité du second responsable"_s, Texte, 100}, Membre(&T::Localite2)},
 
       {{u"edNumNationalResponsable"_s, u"Numéro national du responsable"_s, Texte, 15},

@@ -146,8 +146,8 @@ void TFrmImport::DireSansSite(const QStringList& sansSite) const {
                   u'\n' % sansSite.mid(0, kNomsListes).join(u'\n');
   if (nombre > kNomsListes) texte += u"\net %1 de plus"_s.arg(nombre - kNomsListes);
   if (Globals.Eleves->PlusieursImplantations())
-    texte += nombre == 1 ? u"\nIl n'apparaît pas dans la liste des élèves."_s
-                         : u"\nIls n'apparaissent pas dans la liste des élèves."_s;
+    texte += Accorder(nombre, u"\nIl n'apparaît pas dans la liste des élèves."_s,
+                      u"\nIls n'apparaissent pas dans la liste des élèves."_s);
   contexte_.Dialogues().Information(texte);
 }
 

@@ -169,13 +169,7 @@ void TFrmSignaletique::grdListeFraisDblClick() {
     return Signaler(
         u"Seul un paiement introduit à la main se modifie ; Espace marque un frais ou un mois payé"_s);
   TFrmPaiement saisie(*paiement);
-  QString refus;
-  do {  // with what was typed
-    saisie.ResultatModal = TResultatModal::Aucun;
-    if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
-    refus = RefusMouvement(*paiement, saisie.Saisi.Montant - paiement->MontantVerse);
-    if (!refus.isEmpty()) contexte_.Dialogues().Message(refus);
-  } while (!refus.isEmpty());
+  if (contexte_.Modale.MontrerModal(saisie) != TResultatModal::Valide) return;
   const int groupe = paiement->GroupeFraisId;
   saisie.EcrireDans(*paiement);
   const int nouveau = paiement->GroupeFraisId;

@@ -28,7 +28,9 @@ class TFrmListeFrais : public TFrmListeDe<TFrais> {
   QString TexteMode() const;
   bool ModePaye() const { return attribution_.ModePaye(); }
 
-  bool EstModifie() override { return TFrmListe::EstModifie() || (Ecrit() && attribution_.EstModifiee()); }
+  bool EstModifie() const override {
+    return TFrmListe::EstModifie() || (Ecrit() && attribution_.EstModifiee());
+  }
 
   /// The ticks, or the tree that shows them, have changed.
   TSignal<> SurCoches;

@@ -7,11 +7,12 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "core/accord.h"
 #include "screens/attendance/frm_presences.h"
 #include "ui/commun/bouton.h"
-#include "ui/commun/champ_filtre.h"
 #include "ui/commun/compteur.h"
 #include "ui/commun/etat_vide.h"
+#include "ui/commun/outils_liste.h"
 #include "ui/commun/rangee_pliante.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
@@ -101,14 +102,7 @@ QLayout* VuePresences::Comptes() {
 
 void VuePresences::Disposer() {
   titreAnomalies_->AjouterAction(corriger_);
-  auto* filtre = new ChampFiltre(u"Filtrer le récapitulatif"_s);
-  filtre->setFixedWidth(Theme::Px(200));
-  recapitulatif_->Filtrer(*filtre);
-  QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
-  copier->setToolTip(u"Copier tout le récapitulatif (Ctrl+Maj+C)"_s);
-  connect(copier, &QPushButton::clicked, recapitulatif_, &VueGrille::CopierTout);
-  titreRecapitulatif_->AjouterAction(filtre);
-  titreRecapitulatif_->AjouterAction(copier);
+  AjouterFiltreEtCopie(*titreRecapitulatif_, *recapitulatif_, u"Filtrer le récapitulatif"_s);
 
   QVBoxLayout* colonne = ColonneEcran(*this, u"Présences"_s);
   colonne->addLayout(Etapes());
@@ -136,15 +130,7 @@ void VuePresences::Actualiser() {
   corriger_->setEnabled(form_.PeutCorriger());
   titreRecapitulatif_->DefinirNote(form_.NoteRecapitulatif());
   MesurerAnomalies();
-  if (form_.Recapitulatif.NombreLignes() > 0)
-    vide_->Cacher();
-  else if (form_.FichierLu())
-    vide_->Montrer(u"Aucun relevé bon dans ce fichier"_s,
-                   u"Corrigez les anomalies, ou importez un autre fichier."_s);
-  else
-    vide_->Montrer(u"Aucune présence à montrer"_s,
-                   u"Importez-les depuis le scanner local ou un site distant (Etape n°1), ou "
-                   "choisissez « Importer un fichier de présence » sous Source."_s);
+  vide_->Montrer(form_.RecapitulatifVide());
 }
 
 void VuePresences::ActualiserEtapes() {
@@ -163,7 +149,7 @@ void VuePresences::ActualiserComptes() {
   const int nombres[] = {c.lblEntree, c.lblRecap, c.lblAnomalie, c.lblTotal};
   for (std::size_t i = 0; i < comptes_.size(); ++i) {
     comptes_[i]->Definir(nombres[i]);
-    comptes_[i]->DefinirMot(nombres[i] > 1 ? kMots[i].Plusieurs : kMots[i].Un);
+    comptes_[i]->DefinirMot(Accorder(nombres[i], kMots[i].Un, kMots[i].Plusieurs));
     comptes_[i]->setEnabled(c.AJour);
     comptes_[i]->setToolTip(c.AJour ? QString() : u"Comptes d'un fichier précédent"_s);
   }

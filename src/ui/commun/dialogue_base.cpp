@@ -30,6 +30,7 @@ DialogueBase::DialogueBase(const QString& titre, QWidget* parent)
   faute_->hide();
   principal_->setDefault(true);
   annuler_->setMinimumHeight(Theme::Px(34));
+  annuler_->setFocusPolicy(Qt::TabFocus);  // a press must not be called back by a field that is refused
   boutons_->setSpacing(Theme::Px(8));
   boutons_->addWidget(annuler_);
   boutons_->addStretch(1);

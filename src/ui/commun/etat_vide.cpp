@@ -42,6 +42,10 @@ void EtatVide::Montrer(const QString& titre, const QString& phrase, const QStrin
   raise();
 }
 
+void EtatVide::Montrer(const TVide& vide) {
+  vide.Titre.isEmpty() ? Cacher() : Montrer(vide.Titre, vide.Phrase, vide.Bouton);
+}
+
 void EtatVide::Cacher() { hide(); }
 
 void EtatVide::Placer() {

@@ -1,6 +1,7 @@
 #pragma once
 #include <QWidget>
 
+#include "forms/vide.h"
 #include "ui/commun/etiquette.h"
 
 class QPushButton;
@@ -13,6 +14,8 @@ class EtatVide : public QWidget {
   explicit EtatVide(QWidget* hote);
   /// `phrase` and `bouton` may be empty.
   void Montrer(const QString& titre, const QString& phrase = {}, const QString& bouton = {});
+  /// As the form says it.
+  void Montrer(const TVide& vide);
   void Cacher();
 
  signals:

@@ -7,10 +7,10 @@
 
 #include "screens/commun/frm_liste.h"
 #include "ui/commun/bouton.h"
-#include "ui/commun/champ_filtre.h"
 #include "ui/commun/etat_vide.h"
 #include "ui/commun/liaison_champs.h"
 #include "ui/commun/marque_etat.h"
+#include "ui/commun/outils_liste.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 
@@ -40,15 +40,7 @@ VueListe::VueListe(TFrmListe& form, QWidget* parent)
 
 TitreEcran* VueListe::CreerTitre() {
   auto* titre = new TitreEcran(form_.Textes().Titre);
-  auto* filtre = new ChampFiltre;
-  filtre->setMinimumWidth(Theme::Px(120));  // a long title takes its room on a small screen
-  filtre->setMaximumWidth(Theme::Px(200));
-  liste_->Filtrer(*filtre);
-  QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
-  copier->setToolTip(u"Copier toute la liste (Ctrl+Maj+C)"_s);
-  connect(copier, &QPushButton::clicked, liste_, &VueGrille::CopierTout);
-  titre->AjouterAction(filtre);
-  titre->AjouterAction(copier);
+  AjouterFiltreEtCopie(*titre, *liste_);
   return titre;
 }
 

@@ -4,8 +4,8 @@
 
 #include "screens/documents/frm_recapitulatif.h"
 #include "ui/commun/bouton.h"
-#include "ui/commun/champ_filtre.h"
 #include "ui/commun/etat_vide.h"
+#include "ui/commun/outils_liste.h"
 #include "ui/commun/texte.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
@@ -50,12 +50,7 @@ void PageStatistique::AjouterOutils(VueGrille& grille) {
       emit grille.Cochee(-1, false);
     });
   }
-  auto* filtre = new ChampFiltre;
-  filtre->setFixedWidth(Theme::Px(200));
-  grille.Filtrer(*filtre);
-  titre_->AjouterAction(filtre);
-  bouton(u"Copier"_s, u"edit-copy"_s, u"Copier toute la liste (Ctrl+Maj+C)"_s,
-         [&grille] { grille.CopierTout(); });
+  AjouterFiltreEtCopie(*titre_, grille);
 }
 
 void PageStatistique::AjouterACote(QWidget* widget) { milieu_->addWidget(widget, 3); }

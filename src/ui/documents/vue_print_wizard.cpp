@@ -14,7 +14,7 @@
 #include "core/mois.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/champ_filtre.h"
-#include "ui/commun/saisie.h"
+#include "ui/commun/liaison_champs.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/documents/filet.h"
 
@@ -61,8 +61,10 @@ VuePrintWizard::VuePrintWizard(TFrmPrintWizard& form, QWidget* parent)
       precedent_(AjouterBouton(u"< &Précédent"_s)),
       titres_(new QButtonGroup(this)),
       qui_(new QButtonGroup(this)),
-      periode_(new QButtonGroup(this)) {
+      periode_(new QButtonGroup(this)),
+      dates_(new LiaisonChamps(form.Dates(), this)) {
   question_->setWordWrap(true);
+  precedent_->setFocusPolicy(Qt::TabFocus);
   Contenu()->addWidget(CreerEtapes());
   Contenu()->addWidget(question_);
   Contenu()->addWidget(pages_, 1);
@@ -81,31 +83,25 @@ VuePrintWizard::VuePrintWizard(TFrmPrintWizard& form, QWidget* parent)
 void VuePrintWizard::Suivre() {
   liens_ += form_.SurChangement.Suivre([this] { Rafraichir(); });
   liens_ += form_.SurFoyer.Suivre([this](TChampAssistant champ) { AllerAuChamp(champ); });
-  connect(precedent_, &QPushButton::clicked, this, [this] {
-    MontrerFaute({});
-    form_.btnPrecedentClick();
-  });
+  connect(precedent_, &QPushButton::clicked, this, [this] { form_.btnPrecedentClick(); });
   connect(titres_, &QButtonGroup::idClicked, this, [this](int id) { form_.ChoixRapportClick(id); });
   connect(qui_, &QButtonGroup::idClicked, this,
           [this](int id) { form_.RbEleveClick(static_cast<TChoixQui>(id)); });
-  connect(periode_, &QButtonGroup::idClicked, this, [this](int id) {
-    MontrerFaute({});
-    form_.RbMoisClick(static_cast<TChoixPeriode>(id));
-  });
+  connect(periode_, &QButtonGroup::idClicked, this,
+          [this](int id) { form_.RbMoisClick(static_cast<TChoixPeriode>(id)); });
   connect(tout_, &QPushButton::clicked, this, [this] { form_.btnToutSelectionnerClick(); });
   connect(rien_, &QPushButton::clicked, this, [this] { form_.btnRienSelectionnerClick(); });
   connect(mois_, &QComboBox::activated, this, [this](int indice) { form_.ChoisirMois(indice); });
-  for (SaisieDate* date : dates_) connect(date, &Saisie::Saisi, this, [this] { LireDates(); });
-  SuivreListe(eleves_, form_.FiltreEleve,
+  SuivreListe(eleves_, form_.LstEleve,
               [this](int colonne, bool croissant) { form_.LstEleveColumnClick(colonne, croissant); });
-  SuivreListe(classes_, form_.FiltreClasse,
+  SuivreListe(classes_, form_.LstClasse,
               [this](int colonne, bool croissant) { form_.LstClasseColumnClick(colonne, croissant); });
 }
 
-void VuePrintWizard::SuivreListe(const TListe& liste, QString& filtre,
+void VuePrintWizard::SuivreListe(const TListe& liste, const TGrille& grille,
                                  const std::function<void(int, bool)>& trier) {
-  QString* retenu = &filtre;
-  connect(liste.Filtre, &QLineEdit::textChanged, this, [retenu](const QString& texte) { *retenu = texte; });
+  connect(liste.Filtre, &QLineEdit::textChanged, this,
+          [this, &grille](const QString& texte) { form_.Filtrer(grille, texte); });
   const QHeaderView* tete = liste.Vue->header();
   const auto ordonner = [trier](int colonne, Qt::SortOrder ordre) {
     trier(colonne, ordre == Qt::AscendingOrder);
@@ -231,15 +227,9 @@ QWidget* VuePrintWizard::CreerLigneMois() {
 
 QWidget* VuePrintWizard::CreerLigneDates() {
   auto* champs = new QWidget;
-  auto* ligne = SansMarge<QHBoxLayout>(champs, 12);
-  for (SaisieDate*& date : dates_) {
-    const bool premiere = &date == &dates_[0];
-    if (!premiere) ligne->addWidget(new Etiquette(u"au"_s));
-    date = new SaisieDate;
-    date->setMinimumWidth(Theme::Px(124));
-    date->setAccessibleName(premiere ? u"Premier jour"_s : u"Dernier jour"_s);
-    ligne->addWidget(date);
-  }
+  const TChamps& dates = form_.Dates();
+  champs->setLayout(dates_->Rangee({{dates.Indice(u"dtDate1"_s)}, {dates.Indice(u"dtDate2"_s)}}));
+  champs->layout()->setContentsMargins(0, 0, 0, 0);
   return champs;
 }
 
@@ -258,6 +248,7 @@ QWidget* VuePrintWizard::CreerPagePeriode() {
   int rang = 0;
   for (const auto& [texte, choix, champs] : lignes) {
     auto* bouton = new QRadioButton(texte);
+    bouton->setFocusPolicy(Qt::TabFocus);  // a press must not be called back by a date that is refused
     periode_->addButton(bouton, Id(choix));
     grille->addWidget(bouton, rang, 0);
     grille->addWidget(champs, rang++, 1, Qt::AlignLeft | Qt::AlignVCenter);
@@ -329,11 +320,8 @@ void VuePrintWizard::RafraichirPeriode() {
   periode_->button(Id(form_.ChoixPeriode()))->setChecked(true);
   mois_->setEnabled(form_.ChoixPeriode() == TChoixPeriode::Mois);
   mois_->setCurrentIndex(form_.IndiceMois());
-  for (SaisieDate* date : dates_) {
-    date->setEnabled(form_.ChoixPeriode() == TChoixPeriode::Periode);
-    // What cannot be read stays in sight.
-    if (date->EstValide()) date->DefinirDate(date == dates_[0] ? form_.dtDate1() : form_.dtDate2());
-  }
+  for (int date = 0; date < form_.Dates().Nombre(); ++date)
+    dates_->Widget(date)->setEnabled(!form_.Dates().LectureSeule());
   annee_->setText(form_.TexteAnnee());
   resume_->setText(form_.Resume());
 }
@@ -343,7 +331,7 @@ void VuePrintWizard::FoyerDePage() {
   if (form_.Page() == TPageAssistant::Periode && form_.ChoixPeriode() == TChoixPeriode::Mois)
     return mois_->setFocus(Qt::OtherFocusReason);
   if (form_.Page() == TPageAssistant::Periode && form_.ChoixPeriode() == TChoixPeriode::Periode)
-    return dates_[0]->setFocus(Qt::OtherFocusReason);
+    return dates_->AllerA(form_.Dates().Indice(u"dtDate1"_s));
   const QButtonGroup* groupes[] = {titres_, qui_, periode_};
   if (QAbstractButton* coche = groupes[pages_->currentIndex()]->checkedButton())
     coche->setFocus(Qt::OtherFocusReason);
@@ -360,26 +348,9 @@ void VuePrintWizard::AllerAuChamp(TChampAssistant champ) {
   }
 }
 
-/// The field that holds no date; null when both do, and the form then has them.
-SaisieDate* VuePrintWizard::LireDates() {
-  TDateTime lues[2] = {};
-  for (int i = 0; i < 2; ++i) {
-    lues[i] = dates_[i]->Date().value_or(0.0);
-    if (lues[i] == 0.0) return dates_[i];
-  }
-  form_.ChoisirDates(lues[0], lues[1]);
-  return nullptr;
-}
-
 bool VuePrintWizard::Valider() {
-  const bool parDates =
-      form_.Page() == TPageAssistant::Periode && form_.ChoixPeriode() == TChoixPeriode::Periode;
-  if (SaisieDate* fautive = parDates ? LireDates() : nullptr) {
-    MontrerFaute(u"La date introduite est incorrecte."_s, fautive);
-    return false;
-  }
   if (!form_.EstDernierePage()) {
-    if (form_.PeutSuivre()) form_.btnSuivantClick();
+    form_.btnSuivantClick();
     return false;
   }
   form_.KWizard1FinishButtonClick();

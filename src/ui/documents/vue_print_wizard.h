@@ -3,11 +3,11 @@
 #include "ui/commun/dialogue_base.h"
 
 class ChampFiltre;
+class LiaisonChamps;
 class QButtonGroup;
 class QComboBox;
 class QRadioButton;
 class QStackedWidget;
-class SaisieDate;
 class VueGrille;
 
 /// The wizard's three pages under their steps.
@@ -40,14 +40,13 @@ class VuePrintWizard : public DialogueBase {
   QWidget* CreerLigneMois();
   QWidget* CreerLigneDates();
   void Suivre();
-  void SuivreListe(const TListe& liste, QString& filtre, const std::function<void(int, bool)>& trier);
+  void SuivreListe(const TListe& liste, const TGrille& grille, const std::function<void(int, bool)>& trier);
   void Rafraichir();
   void RafraichirEtapes();
   void RafraichirQui();
   void RafraichirPeriode();
   void FoyerDePage();
   void AllerAuChamp(TChampAssistant champ);
-  SaisieDate* LireDates();
 
   TFrmPrintWizard& form_;
   std::vector<Etiquette*> etapes_;
@@ -62,7 +61,7 @@ class VuePrintWizard : public DialogueBase {
   QPushButton* rien_ = nullptr;
   Etiquette* compte_ = nullptr;
   QComboBox* mois_ = nullptr;
-  SaisieDate* dates_[2] = {};
+  LiaisonChamps* dates_;
   Etiquette* annee_ = nullptr;
   Etiquette* resume_ = nullptr;
   TLiens liens_;

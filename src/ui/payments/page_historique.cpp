@@ -7,8 +7,8 @@
 
 #include "screens/payments/frm_virement.h"
 #include "ui/commun/bouton.h"
-#include "ui/commun/champ_filtre.h"
 #include "ui/commun/etat_vide.h"
+#include "ui/commun/outils_liste.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 
@@ -23,7 +23,6 @@ PageHistorique::PageHistorique(TFrmVirement& form)
           CreerFiltreEtat(u"&Comptabilisés"_s, u"btnComptabilise"_s, &TFrmVirement::btnComptabiliseClick)),
       inconnus_(CreerFiltreEtat(u"&Inconnus"_s, u"btnInconnu"_s, &TFrmVirement::btnInconnuClick)),
       attribuer_(BoutonPrincipal(u"&Attribuer..."_s)) {
-  form_.LignesVues = [this] { return grille_->LignesVues(); };
   CreerTitre();
   CreerMenu();
   Disposer();
@@ -32,10 +31,9 @@ PageHistorique::PageHistorique(TFrmVirement& form)
   connect(grille_, &VueGrille::Activee, this, &PageHistorique::Attribuer);
   connect(grille_, &VueGrille::Choisie, this, [this](int ligne) { attribuer_->setEnabled(ligne >= 0); });
   liens_ += form_.SurChangement.Suivre([this] { Actualiser(); });
+  liens_ += form_.SurOrdre.Suivre([this](std::vector<int>& lignes) { lignes = grille_->LignesVues(); });
   Actualiser();
 }
-
-PageHistorique::~PageHistorique() { form_.LignesVues = nullptr; }
 
 QPushButton* PageHistorique::CreerFiltreEtat(const QString& texte, const QString& nom,
                                              void (TFrmVirement::*faire)()) {
@@ -48,15 +46,8 @@ QPushButton* PageHistorique::CreerFiltreEtat(const QString& texte, const QString
 }
 
 void PageHistorique::CreerTitre() {
-  auto* filtre = new ChampFiltre(u"Filtrer l'historique"_s);
-  filtre->setFixedWidth(Theme::Px(180));
-  grille_->Filtrer(*filtre);
-  QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
-  copier->setToolTip(u"Copier toute la liste (Ctrl+Maj+C)"_s);
-  connect(copier, &QPushButton::clicked, grille_, &VueGrille::CopierTout);
-  for (QWidget* action : {static_cast<QWidget*>(comptabilises_), static_cast<QWidget*>(inconnus_),
-                          static_cast<QWidget*>(filtre), static_cast<QWidget*>(copier)})
-    titre_->AjouterAction(action);
+  for (QPushButton* etat : {comptabilises_, inconnus_}) titre_->AjouterAction(etat);
+  AjouterFiltreEtCopie(*titre_, *grille_, u"Filtrer l'historique"_s);
 }
 
 QAction* PageHistorique::AjouterAction(const QString& texte, void (TFrmVirement::*faire)(),
@@ -121,17 +112,5 @@ void PageHistorique::Actualiser() {
                                             {u"Nombre total de mouvements:"_s, form_.lblTotal()}};
   for (std::size_t i = 0; i < totaux_.size(); ++i)
     totaux_[i]->setText(QString(totaux[i].first % u' ' % QString::number(totaux[i].second)));
-  ActualiserVide();
-}
-
-void PageHistorique::ActualiserVide() {
-  if (form_.Historique.NombreLignes() > 0)
-    vide_->Cacher();
-  else if (!form_.btnComptabilise() && !form_.btnInconnu())
-    vide_->Montrer(u"Aucun état choisi : activez un filtre"_s);
-  else if (form_.lblTotal() > 0)
-    vide_->Montrer(u"Aucun mouvement dans cet état"_s, u"Activez l'autre filtre pour voir les autres."_s);
-  else
-    vide_->Montrer(u"Aucun mouvement cette année"_s,
-                   u"Importez le fichier de la banque dans la page « Importation des virements »."_s);
+  vide_->Montrer(form_.HistoriqueVide());
 }

@@ -17,7 +17,6 @@ class PageHistorique : public QWidget {
   Q_OBJECT
  public:
   explicit PageHistorique(TFrmVirement& form);
-  ~PageHistorique() override;
   /// The hand goes to the list, at its first row when none is chosen. Nothing while the page is hidden.
   void PrendreFoyer();
 
@@ -29,7 +28,6 @@ class PageHistorique : public QWidget {
   void Disposer();
   void Attribuer();
   void Actualiser();
-  void ActualiserVide();
 
   TFrmVirement& form_;
   TitreSection* titre_;

@@ -163,14 +163,8 @@ void VueAttributionVirement::Actualiser() {
   proposition_->setText(form_.lblProposition());
   accepter_->setVisible(!proposition_->text().isEmpty());
   repartir_->setEnabled(form_.PeutRepartir());
-  if (form_.Partiel())
-    valide_->Definir(TNiveauEtat::Alerte, u"Attribué en partie"_s);
-  else if (form_.imgValide())
-    valide_->Definir(TNiveauEtat::Succes, u"Comptabilisé"_s);
-  else if (!form_.Actif())
-    valide_->Definir(TNiveauEtat::Alerte, u"Mouvement caché : il ne peut pas être attribué"_s);
-  else
-    valide_->Definir(TNiveauEtat::Neutre, form_.Place());
+  const auto& [niveau, etat] = form_.Etat();
+  valide_->Definir(niveau, etat);
 }
 
 void VueAttributionVirement::PlacerFoyer() {
@@ -184,14 +178,13 @@ void VueAttributionVirement::Deplacer(int pas) {
   eleves_->MontrerLigne(form_.LUCombo1.LigneCourante());
 }
 
-// The arrows choose in the list while the hand goes on typing; Enter accepts who is proposed, and is the
-// primary button when nobody is.
+// The arrows choose in the list while the hand goes on typing.
 bool VueAttributionVirement::eventFilter(QObject* objet, QEvent* evenement) {
   if (objet != nom_ || evenement->type() != QEvent::KeyPress)
     return DialogueBase::eventFilter(objet, evenement);
   const int touche = static_cast<QKeyEvent*>(evenement)->key();
-  if ((touche == Qt::Key_Return || touche == Qt::Key_Enter) && !form_.lblProposition().isEmpty()) {
-    form_.btnAccepterClick();
+  if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
+    form_.EntreeClick();
     return true;
   }
   if (touche != Qt::Key_Down && touche != Qt::Key_Up) return false;

@@ -1,31 +1,23 @@
 #include "ui/payments/vue_virement.h"
 
-#include <QPointer>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "core/chaines.h"
+#include "core/mois.h"
 #include "screens/payments/frm_virement.h"
 #include "ui/commun/bouton.h"
-#include "ui/commun/champ_filtre.h"
 #include "ui/commun/etat_vide.h"
 #include "ui/commun/feuille_progression.h"
+#include "ui/commun/outils_liste.h"
 #include "ui/commun/rangee_pliante.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/payments/page_historique.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The months of school, by the name of their label.
-const QString kMois[] = {u"Septembre"_s, u"Octobre"_s, u"Novembre"_s, u"Decembre"_s, u"Janvier"_s,
-                         u"Fevrier"_s,   u"Mars"_s,    u"Avril"_s,    u"Mai"_s,      u"Juin"_s};
-
-}  // namespace
 
 VueVirement::VueVirement(TFrmVirement& form, QWidget* parent)
     : QWidget(parent),
@@ -44,8 +36,10 @@ VueVirement::VueVirement(TFrmVirement& form, QWidget* parent)
   pages_->addTab(PageReleve(), u"Relevé annuel"_s);
   QVBoxLayout* colonne = ColonneEcran(*this, u"Virements"_s);
   colonne->addWidget(pages_, 1);
-  connect(etape1_, &QPushButton::clicked, this, [this] { Faire(&TFrmVirement::btnEtape1Click); });
-  connect(etape2_, &QPushButton::clicked, this, [this] { Faire(&TFrmVirement::btnEtape2Click); });
+  connect(etape1_, &QPushButton::clicked, this,
+          [this] { FaireEtape(form_, &TFrmVirement::btnEtape1Click, etape1_, etape2_); });
+  connect(etape2_, &QPushButton::clicked, this,
+          [this] { FaireEtape(form_, &TFrmVirement::btnEtape2Click, etape1_, etape2_); });
   connect(apercu_, &VueGrille::Cochee, this, [this](int ligne, bool coche) { form_.Cocher(ligne, coche); });
   // The arrows go on from tab to tab.
   connect(pages_, &QTabWidget::currentChanged, this, [this] {
@@ -61,14 +55,7 @@ QWidget* VueVirement::PageImportation() {
   boutons->addWidget(etape1_);
   boutons->addWidget(etape2_);
   statut_->setWordWrap(true);
-  auto* filtre = new ChampFiltre(u"Filtrer le contenu du fichier"_s);
-  filtre->setFixedWidth(Theme::Px(200));
-  apercu_->Filtrer(*filtre);
-  QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
-  copier->setToolTip(u"Copier toute la liste (Ctrl+Maj+C)"_s);
-  connect(copier, &QPushButton::clicked, apercu_, &VueGrille::CopierTout);
-  titre_->AjouterAction(filtre);
-  titre_->AjouterAction(copier);
+  AjouterFiltreEtCopie(*titre_, *apercu_, u"Filtrer le contenu du fichier"_s);
   apercu_->DefinirColonneSouple(TFrmVirement::Eleve);
 
   auto* page = new QWidget;
@@ -94,21 +81,14 @@ QWidget* VueVirement::PageReleve() {
                              TRole::Secondaire);
   note->setWordWrap(true);
   colonne->addWidget(note);
-  for (const QString& mois : kMois) {
+  for (const QString& mois : NomsMoisScolaires()) {
     auto* total = new Etiquette;
-    total->setObjectName(QString(u"lblTot" % mois));
+    const QString nom = MajusculesSansAccents(mois);
+    total->setObjectName(QString(u"lblTot" % nom.first(1) % nom.sliced(1).toLower()));
     colonne->addWidget(total);
   }
   colonne->addStretch(1);
   return page;
-}
-
-// Off during the work, the step in hand has lost the focus: it goes to what comes next, also after a fault.
-void VueVirement::Faire(void (TFrmVirement::*etape)()) {
-  const auto foyer = qScopeGuard([this, vue = QPointer<VueVirement>(this)] {
-    if (vue) (form_.Etape2Suivante() ? etape2_ : etape1_)->setFocus();
-  });
-  (form_.*etape)();
 }
 
 void VueVirement::Actualiser() {

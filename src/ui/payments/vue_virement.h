@@ -22,7 +22,6 @@ class VueVirement : public QWidget {
  private:
   QWidget* PageImportation();
   QWidget* PageReleve();
-  void Faire(void (TFrmVirement::*etape)());
   void Actualiser();
   void ActualiserFeuille();
 

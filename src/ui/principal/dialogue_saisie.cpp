@@ -7,44 +7,34 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool EstServeur(const QString& titre) { return titre == u"Identification du Serveur de données"; }
-
-/// What a person needs to know to answer, besides what is asked.
-QString Aide(const QString& titre) {
-  if (!EstServeur(titre)) return {};
-  return u"Le nom « local » fait travailler ce poste seul, sans serveur : les données sont alors dans un "
-         u"fichier "
-         "de cet ordinateur, créé à la première ouverture."_s;
-}
-
-}  // namespace
-
-DialogueSaisie::DialogueSaisie(const QString& titre, const QString& invite, const QString& valeur,
-                               QWidget* parent)
-    : DialogueBase(titre, parent), champ_(new QLineEdit(valeur)) {
+DialogueSaisie::DialogueSaisie(TSaisie saisie, QWidget* parent)
+    : DialogueBase(saisie.Titre, parent), saisie_(std::move(saisie)), champ_(new QLineEdit(saisie_.Valeur)) {
   setMinimumWidth(Theme::Px(600));
-  auto* champ = new ChampLibelle(invite.section(u'\n', 0, 0), champ_, ChampLibelle::Dessus);
+  auto* champ = new ChampLibelle(saisie_.Invite.section(u'\n', 0, 0), champ_, ChampLibelle::Dessus);
   champ->Libelle()->setWordWrap(true);
   Contenu()->addWidget(champ);
-  const QStringList notes = invite.split(u'\n').mid(1) + QStringList{Aide(titre)};
+  const QStringList notes = saisie_.Invite.split(u'\n').mid(1) + QStringList{saisie_.Aide};
   for (const QString& texte : notes) {
     if (texte.isEmpty()) continue;
     auto* note = new Etiquette(texte, TRole::Secondaire);
     note->setWordWrap(true);
     Contenu()->addWidget(note);
   }
-  if (EstServeur(titre)) {
-    connect(AjouterBouton(u"&Travailler seul"_s), &QPushButton::clicked, this, [this] {
-      champ_->setText(u"local"_s);
+  if (!saisie_.Principal.isEmpty()) DefinirPrincipal(saisie_.Principal);
+  if (!saisie_.Autre.isEmpty())
+    connect(AjouterBouton(saisie_.Autre), &QPushButton::clicked, this, [this] {
+      champ_->setText(saisie_.ValeurAutre);
       accept();
     });
-    DefinirPrincipal(u"&Se connecter à un serveur"_s);
-  }
   resize(minimumWidth(), layout()->totalHeightForWidth(minimumWidth()));
   champ_->selectAll();
   champ_->setFocus();
+}
+
+bool DialogueSaisie::Valider() {
+  const QString refus = saisie_.Refus ? saisie_.Refus(champ_->text()) : QString();
+  MontrerFaute(refus, champ_);
+  return refus.isEmpty();
 }
 
 QString DialogueSaisie::Texte() const { return champ_->text(); }

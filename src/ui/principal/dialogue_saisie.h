@@ -1,18 +1,22 @@
 #pragma once
+#include "core/dialogues.h"
 #include "ui/commun/dialogue_base.h"
 
 class QLineEdit;
 
-/// A line of text. The first line of `invite` is the label of the field, the others stand below it.
+/// A line of text. What is refused is said, and the dialog stays.
 class DialogueSaisie : public DialogueBase {
   Q_OBJECT
  public:
-  DialogueSaisie(const QString& titre, const QString& invite, const QString& valeur,
-                 QWidget* parent = nullptr);
+  explicit DialogueSaisie(TSaisie saisie, QWidget* parent = nullptr);
 
   /// As typed.
   QString Texte() const;
 
+ protected:
+  bool Valider() override;
+
  private:
+  TSaisie saisie_;
   QLineEdit* champ_;
 };

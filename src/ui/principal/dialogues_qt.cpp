@@ -158,10 +158,9 @@ bool DialoguesQt::Demander(const QString& question, bool sansRetour) {
   return boite.clickedButton() == oui;
 }
 
-std::optional<QString> DialoguesQt::Saisir(const QString& titre, const QString& invite,
-                                           const QString& valeur) {
+std::optional<QString> DialoguesQt::Saisir(const TSaisie& saisie) {
   const TDevant devant;
-  DialogueSaisie dialogue(titre, invite, valeur, devant.Fenetre());
+  DialogueSaisie dialogue(saisie, devant.Fenetre());
   if (dialogue.exec() != QDialog::Accepted) return {};
   return dialogue.Texte();
 }

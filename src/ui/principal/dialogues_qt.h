@@ -15,7 +15,7 @@ class DialoguesQt : public IDialogues {
   bool Confirmer(const QString& question) override;
   /// "Non" is the default.
   bool ConfirmerGrave(const QString& question) override;
-  std::optional<QString> Saisir(const QString& titre, const QString& invite, const QString& valeur) override;
+  std::optional<QString> Saisir(const TSaisie& saisie) override;
   std::optional<QString> ChoisirFichier(const QString& titre, const QString& filtre) override;
   std::optional<QString> FichierAEnregistrer(const QString& titre, const QString& nom,
                                              const QString& filtre) override;

@@ -159,16 +159,7 @@ void FenetrePrincipale::ActualiserContenu() {
   }
   QWidget* vue = VueCourante();
   contenu_->setCurrentWidget(vue != nullptr ? Page(vue) : rien_);
-  if (vue != nullptr || !form_.EstRelie()) {
-    vide_->Cacher();
-    return;
-  }
-  const auto fiches = std::find_if(form_.Commandes.begin(), form_.Commandes.end(), [](const auto& commande) {
-    return commande.Gestionnaire == TGestionnaire::AdvGlowButton2Click;
-  });
-  const bool ouvrables = form_.PageVisible(TPage::PgEleve) && form_.CommandeActive(*fiches);
-  vide_->Montrer(u"Aucun écran ouvert"_s, u"Choisissez un écran dans la barre de commandes."_s,
-                 ouvrables ? u"Fiches des élèves"_s : QString());
+  vue != nullptr ? vide_->Cacher() : vide_->Montrer(form_.SansEcran());
 }
 
 QWidget* FenetrePrincipale::VueCourante() const { return vues_.value(form_.Panneau.Courante()); }
@@ -276,9 +267,7 @@ void FenetrePrincipale::MontrerTouches() {
   dialogue.exec();
 }
 
-void FenetrePrincipale::MontrerAPropos() {
-  dialogues_.Information(QStringLiteral("Calpenne, version " CALPENNE_VERSION));
-}
+void FenetrePrincipale::MontrerAPropos() { dialogues_.Information(u"Calpenne, version "_s CALPENNE_VERSION); }
 
 // F6: bar, tree, content, and round again; backwards for sens -1.
 void FenetrePrincipale::ZoneSuivante(int sens) {

@@ -125,18 +125,9 @@ VueAccueil::VueAccueil(TFrmMain& form, QWidget* parent)
 }
 
 void VueAccueil::Actualiser() {
-  const int affichee = form_.AnneeCochee(), travail = form_.AnneeTravail();
-  if (!form_.SansEleve()) {
-    titre_->setText(u"Année scolaire " % AnneeEnTexte(travail));
-    phrase_->setText(u"Il reste à préparer cette année scolaire."_s);
-  } else if (affichee == travail) {
-    titre_->setText(u"Bienvenue dans Calpenne"_s);
-    phrase_->setText(u"La base est prête et ne contient encore aucun élève. Voici par où commencer."_s);
-  } else {
-    titre_->setText(u"Aucun élève en " % AnneeEnTexte(affichee));
-    phrase_->setText(u"L'importation remplit l'année de travail, " % AnneeEnTexte(travail) %
-                     u". Pour revoir une autre année : le menu des années (Ctrl+0).");
-  }
+  const TVide accueil = form_.Accueil();
+  titre_->setText(accueil.Titre);
+  phrase_->setText(accueil.Phrase);
   const std::vector<TEtapeAccueil> etapes = form_.Etapes();
   for (std::size_t i = lignes_.size(); i < etapes.size(); ++i) {
     lignes_.push_back(new Ligne(form_, etapes[i], static_cast<int>(i) + 1));

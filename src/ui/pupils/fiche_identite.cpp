@@ -128,9 +128,9 @@ QLayout* FicheIdentite::Rangee(const QStringList& noms) {
   std::vector<LiaisonChamps::TPart> parts;
   for (const QString& nom : noms) {
     const int champ = form_.Champs().Indice(nom);
-    const bool etroit = nom.startsWith(u"edNumero"_s) || nom.startsWith(u"edCodePostal"_s);
-    if (etroit) liaison_->Widget(champ)->setFixedWidth(Theme::Px(52));
-    parts.push_back({champ, etroit ? 0 : 1});
+    const int largeur = form_.Champs().Champ(champ).Largeur;
+    if (largeur > 0) liaison_->Widget(champ)->setFixedWidth(Theme::Px(largeur));
+    parts.push_back({champ, largeur > 0 ? 0 : 1});
   }
   return liaison_->Rangee(parts);
 }

@@ -1,18 +1,16 @@
 #include "ui/pupils/vue_import.h"
 
-#include <QPointer>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QVBoxLayout>
 
 #include "core/accord.h"
 #include "screens/pupils/frm_import.h"
 #include "ui/commun/bouton.h"
-#include "ui/commun/champ_filtre.h"
 #include "ui/commun/compteur.h"
 #include "ui/commun/etat_vide.h"
 #include "ui/commun/feuille_progression.h"
 #include "ui/commun/marque_etat.h"
+#include "ui/commun/outils_liste.h"
 #include "ui/commun/rangee_pliante.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
@@ -37,18 +35,12 @@ VueImport::VueImport(TFrmImport& form, QWidget* parent)
       grille_(new VueGrille(form.Grille, u"Contenu du fichier"_s, u"Importation/Fichier"_s)),
       vide_(new EtatVide(grille_)) {
   Disposer();
-  connect(etape1_, &QPushButton::clicked, this, [this] { Faire(&TFrmImport::btnEtape1Click); });
-  connect(etape2_, &QPushButton::clicked, this, [this] { Faire(&TFrmImport::btnEtape2Click); });
+  connect(etape1_, &QPushButton::clicked, this,
+          [this] { FaireEtape(form_, &TFrmImport::btnEtape1Click, etape1_, etape2_); });
+  connect(etape2_, &QPushButton::clicked, this,
+          [this] { FaireEtape(form_, &TFrmImport::btnEtape2Click, etape1_, etape2_); });
   lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
   Actualiser();
-}
-
-// Off during the work, the step in hand has lost the focus: it goes to the next one, also after a fault.
-void VueImport::Faire(void (TFrmImport::*etape)()) {
-  const auto foyer = qScopeGuard([this, vue = QPointer<VueImport>(this)] {
-    if (vue) (form_.Etape2Suivante() ? etape2_ : etape1_)->setFocus();
-  });
-  (form_.*etape)();
 }
 
 void VueImport::Disposer() {
@@ -60,16 +52,9 @@ void VueImport::Disposer() {
   comptes->addWidget(eleves_);
   comptes->addWidget(fichier_, 1);
 
-  auto* filtre = new ChampFiltre(u"Filtrer"_s);
-  filtre->setFixedWidth(Theme::Px(200));
-  grille_->Filtrer(*filtre);
   grille_->DefinirColonneSouple(kNom);
-  QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
-  copier->setToolTip(u"Copier toute la liste (Ctrl+Maj+C)"_s);
-  connect(copier, &QPushButton::clicked, grille_, &VueGrille::CopierTout);
   auto* titre = new TitreSection(u"Contenu du fichier"_s);
-  titre->AjouterAction(filtre);
-  titre->AjouterAction(copier);
+  AjouterFiltreEtCopie(*titre, *grille_);
 
   QVBoxLayout* colonne = ColonneEcran(*this, u"Importation des élèves"_s);
   colonne->addLayout(boutons);

@@ -19,7 +19,6 @@ class VueImport : public QWidget {
   VueImport(TFrmImport& form, QWidget* parent);
 
  private:
-  void Faire(void (TFrmImport::*etape)());
   void Disposer();
   void Actualiser();
   void ActualiserFeuille();

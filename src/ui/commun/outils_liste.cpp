@@ -1,0 +1,17 @@
+#include "ui/commun/outils_liste.h"
+
+#include "ui/commun/bouton.h"
+#include "ui/commun/champ_filtre.h"
+#include "ui/commun/vue_grille.h"
+
+void AjouterFiltreEtCopie(Titre& titre, VueGrille& liste, const QString& indication) {
+  auto* filtre = new ChampFiltre(indication);
+  filtre->setMinimumWidth(Theme::Px(120));  // a long title takes its room on a small screen
+  filtre->setMaximumWidth(Theme::Px(200));
+  liste.Filtrer(*filtre);
+  QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);
+  copier->setToolTip(u"Copier toute la liste (Ctrl+Maj+C)"_s);
+  QObject::connect(copier, &QPushButton::clicked, &liste, &VueGrille::CopierTout);
+  titre.AjouterAction(filtre);
+  titre.AjouterAction(copier);
+}
