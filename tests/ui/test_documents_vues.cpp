@@ -352,6 +352,7 @@ TEST_F(DocumentsVues, WithinReachOfEveryone) {
   TFrmPrintWizard assistant(contexte);
   modale.Geste = [&] {
     assistant.RbEleveClick(TChoixQui::Classes);
+    assistant.btnToutSelectionnerClick();
     for (int page = 0; page < 3; ++page) {
       VerifierVuePartout([&] { return std::make_unique<VuePrintWizard>(assistant, nullptr); });
       assistant.btnSuivantClick();
