@@ -105,6 +105,14 @@ TEST(Coda, WhatAMovementSays) {
        u"0510|12,5|BE68539007547034|ZOÉ|%1 ab+++ fin"_s.arg(cinquante)},
       {{Mouvement(kUn, 1250, u"101001231016185"_s, u'0', true), Information(u"31"_s, u"texte"_s)},
        u"0510|12,5|||+++001/2310/16185+++"_s},
+      {{Mouvement(kUn, 1250, u"101"_s, u'0', true), Information(u"31"_s, u"libre"_s)},
+       u"0510|12,5|||libre"_s},
+      {{Mouvement(kUn, 1250, u"101 école"_s, u'0', true), Information(u"31"_s, u"libre"_s)},
+       u"0510|12,5|||école libre"_s},
+      {{Mouvement(kUn, 1250, u"x"_s), Donneur(kUn, u"BE68 5390 0754 7034 EUR"_s, u"A"_s)},
+       u"0510|12,5|BE68539007547034|A|x"_s},
+      {{Mouvement(kUn, 1250, u"x"_s), Donneur(kUn, u"DE89 3704 0044 0532 0130 00EUR"_s, u"A"_s)},
+       u"0510|12,5|DE89370400440532013000|A|x"_s},
       {{Mouvement(kUn, 1250, u"102001231016185"_s, u'0', true)}, u"0510|12,5|||+++001/2310/16185+++"_s},
       {{Mouvement(kUn, 1250, u"105"_s % codes % u"00123", u'0', true), Suite(kUn, u"1016185"_s)},
        u"0510|12,5|||+++001/2310/16185+++"_s},
@@ -162,9 +170,9 @@ TEST(Coda, ProofsAndRefusals) {
        {std::pair(Coda(deux, 200, 100, 1),
                   u"l'ancien solde et les mouvements font 102,00, et le nouveau solde est 102,01"_s),
         {juste.left(neuf), u"L'enregistrement 9 manque"_s},
-        {change(neuf + 2 + 21, "9"), u"Le nombre d'enregistrements"_s},
-        {change(neuf + 2 + 22, "9"), u"La somme des débits"_s},
-        {change(neuf + 2 + 37, "9"), u"La somme des crédits"_s}}) {
+        {change(neuf + 2 + 21, "9"), u"Nombre d'enregistrements : 4, et l'enregistrement 9 annonce 9."_s},
+        {change(neuf + 2 + 34, "9"), u"Somme des débits : 1,00 €, et l'enregistrement 9 annonce 1,90 €."_s},
+        {change(neuf + 2 + 37, "x"), u"Somme des crédits : 3,00 €, et l'enregistrement 9 annonce « x0"_s}}) {
     const QString lu = Lire(octets);
     EXPECT_TRUE(lu.startsWith(lus + u'\n') && lu.contains(preuve)) << lu.toStdString();
     EXPECT_EQ(lu.count(u'\n'), 2);
@@ -176,6 +184,7 @@ TEST(Coda, ProofsAndRefusals) {
                                        {change(130 + 130, "5"), u"n'est pas un enregistrement CODA"_s},
                                        {change(130, "4"), u"sans ancien solde"_s}})
     EXPECT_TRUE(Lire(octets).startsWith(u'!') && Lire(octets).contains(raison)) << Lire(octets).toStdString();
+  EXPECT_EQ(Lire(QByteArray(juste).append('\0')), u"! Ce fichier n'est pas un fichier de texte.");
   EXPECT_EQ(Lire("Date;Montant"), u"?");
 }
 
@@ -253,6 +262,8 @@ TEST(Camt, DetailsThatSumToTheEntry) {
   EXPECT_EQ(details(Detail(un)), u"0510|3|||a");
   EXPECT_EQ(details(Detail({}) + Detail(un) + Detail(deux)), u"0510|1|||a\n0510|2|||b");
   EXPECT_EQ(details(Detail(un) + Detail(trois)), u"0510|3|||");
+  const QString dollars = QString(deux).replace(u"<AmtDtls>"_s, u"<Amt Ccy='USD'>2.2</Amt><AmtDtls>"_s);
+  EXPECT_EQ(details(Detail(un) + Detail(dollars)), u"0510|3|||") << "an amount of its own, in no euros";
   EXPECT_EQ(details(Detail(u"<CdtDbtInd>DBIT</CdtDbtInd>"_s + un) + Detail(deux + un)), u"0510|3|||");
   EXPECT_EQ(details(Detail(u"<CdtDbtInd>DBIT</CdtDbtInd>"_s + un) + Detail(deux) + Detail(deux)),
             u"0510|-1|||a\n0510|2|||b\n0510|2|||b");
