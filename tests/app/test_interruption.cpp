@@ -217,7 +217,7 @@ TEST_F(TInterruptionEssai, ABankStatement) {
         u"SELECT DONNEUR_ORDRE, COMMUNICATION, ANNEE_SCOLAIRE FROM EXTRAITS ORDER BY EXTRAIT_ID"_s,
         u"SELECT F.ELEVE_ID, F.MOIS, F.MONTANT_VERSE, E.DONNEUR_ORDRE FROM FRAIS_ELEVE F JOIN EXTRAITS E "
         "ON E.EXTRAIT_ID = F.EXTRAIT_ID ORDER BY F.FRAIS_ELEVE_ID"_s};
-    if (prouve) requetes += u"SELECT E.EXTRAIT_ID FROM EXTRAITS E, RELEVE_BANQUE ORDER BY 1"_s;
+    if (prouve) requetes += u"SELECT E.DONNEUR_ORDRE FROM EXTRAITS E, RELEVE_BANQUE ORDER BY E.EXTRAIT_ID"_s;
     Interrompre({u"--oui"_s, u"releve"_s, releve}, requetes, lignes,
                 [&](const TRun&, const QList<QStringList>& lues) {
                   EXPECT_TRUE(!prouve || lues[2].isEmpty() || lues[1].size() == lignes);

@@ -161,6 +161,23 @@ TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
   EXPECT_EQ(Ecran.Niveau, TNiveauEtat::Alerte);
 }
 
+// The screen may stand open all day.
+TEST_F(FrmVirement, WhatAnotherWorkstationHasStoredIsNotStoredAgain) {
+  Base.Mouvement(u"A"_s, 3);
+  Ouvrir();
+  Form->Historique.ChoisirLigne(0);
+  const int b = Base.Mouvement(u"B"_s, 4);
+  Base.Credit(b, 3);
+  Base.Dialogues.Saisit(u"Importer vos virements"_s,
+                        Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) +
+                                                          "x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n"));
+  Form->btnEtape1Click();
+  EXPECT_EQ(Form->Apercu.Texte(0, TFrmVirement::Eleve), u"LAMBERT Élise");
+  Form->btnEtape2Click();
+  EXPECT_EQ(Historique(), (QStringList{u"A||Inconnu"_s, u"B|LAMBERT Élise|Comptabilisé"_s}));
+  EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
+}
+
 TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
   const int c = Base.Mouvement(u"C"_s, 5), a = Base.Mouvement(u"A"_s, 3), b = Base.Mouvement(u"B"_s, 4);
   Base.Mouvement(u"D"_s, 6, u"1"_s);

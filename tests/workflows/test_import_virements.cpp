@@ -339,6 +339,13 @@ TEST_F(TImportVirementsEssai, AStatementAndATableOfTheSameDays) {
   EXPECT_EQ(Credits().size(), 1);
 }
 
+// What is known throughout is no reason to doubt another payment, be it twice in the file.
+TEST_F(TImportVirementsEssai, TwinsCastNoDoubtOnAThird) {
+  ImporterFichier(base_.Fichier(u"releve"_s, ReleveCoda(7, 5, 0, {u"merci"_s, u"merci"_s})));
+  ImporterFichier(base_.Fichier(u"releve"_s, ReleveCoda(8, 5, 20, {u"merci"_s, u"merci"_s, u"autre"_s})));
+  EXPECT_EQ(Extraits(), (QStringList{u"1;merci"_s, u"2;merci"_s, u"3;autre"_s}));
+}
+
 TEST_F(TImportVirementsEssai, ProgressIsTwiceTheRows) {
   base_.Dialogues.Progressions = 0;
   Importer({{u"a"_s}, {u"b"_s}, {u"c"_s}});

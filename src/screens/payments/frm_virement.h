@@ -80,6 +80,7 @@ class TFrmVirement : public TForm {
 
  private:
   void Lire(const QString& chemin);
+  void RelireMouvements();
   void RemplirApercu();
   void AjouterFaute();
   void Terminer(TNiveauEtat niveau, const QString& texte);
