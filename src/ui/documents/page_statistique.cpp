@@ -51,7 +51,8 @@ void PageStatistique::AjouterOutils(VueGrille& grille) {
     });
   }
   auto* filtre = new ChampFiltre;
-  filtre->setFixedWidth(Theme::Px(200));
+  filtre->setMinimumWidth(Theme::Px(104));  // it gives way before the page is wider than a small window
+  filtre->setMaximumWidth(Theme::Px(200));
   grille.Filtrer(*filtre);
   titre_->AjouterAction(filtre);
   bouton(u"Copier"_s, u"edit-copy"_s, u"Copier toute la liste (Ctrl+Maj+C)"_s,
