@@ -79,7 +79,8 @@ TTexteSepare TTexteSepare::Lire(const QString& chemin) { return Depuis(LireFichi
 
 QStringList LignesDeTexte(const QByteArray& octets, const QString& nom) {
   if (octets.contains('\0') && !EstUtf16(octets))
-    throw Exception(u"Le fichier « %1 » n'est pas un fichier de texte."_s.arg(nom));
+    throw Exception(nom.isEmpty() ? u"Ce fichier n'est pas un fichier de texte."_s
+                                  : u"Le fichier « %1 » n'est pas un fichier de texte."_s.arg(nom));
   QString texte = TexteDepuisOctets(octets);
   texte.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
   QStringList lignes = texte.split(u'\n');

@@ -225,6 +225,7 @@ TResultat AccueilOne(const TContexteDocument& contexte, const TDemandeDocument& 
   const TPeriode bornes = BornesTrimestre(trimestre, annee);
   TRapport rapport(u"Document O.N.E."_s, plusieurs ? u"ONEMulti"_s : u"ONE"_s);
   AjouterVariables(rapport, contexte.Parametres, trimestre, annee);
+  if (maximumParJour) rapport.AjouterVariable(u"MaximumParJour", u"1"_s);
   TArbreRapport arbre = plusieurs ? PlusieursLieux(contexte, bornes, maximumParJour, rapport)
                                   : UnLieu(contexte, bornes, maximumParJour, rapport);
   return Presenter(std::move(rapport), std::move(arbre), TexteRienAImprimer());

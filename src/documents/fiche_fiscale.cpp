@@ -59,8 +59,8 @@ void AjouterAnnee(TRapport& rapport, const TFichesFiscales& fiches) {
 
 /// What the sheets lack of the school and of the year, whoever they are for.
 void DireEcole(const TRapport& rapport, const TFichesFiscales& fiches, TResultat& resultat) {
-  const auto dire = [&](const QString& texte) {
-    resultat.Manques.insert(resultat.Manques.begin(), {nullptr, {}, texte, false});
+  const auto dire = [&](const QString& texte, const QString& champ = u"edNumeroEntreprise"_s) {
+    resultat.Manques.insert(resultat.Manques.begin(), {nullptr, champ, texte, false});
   };
   const QString numero = rapport.Variables().Valeur(u"NumEntreprise");
   if (numero.isEmpty())
@@ -68,7 +68,7 @@ void DireEcole(const TRapport& rapport, const TFichesFiscales& fiches, TResultat
   else if (!NumeroEntrepriseValide(numero))
     dire(u"le numéro d'entreprise de l'école, « %1 », est incorrect (Mon école)"_s.arg(numero));
   if (fiches.Regles.MaximumParJour == Currency())
-    dire(u"le maximum par jour de %1 n'est pas connu du programme : vérifiez-le"_s.arg(fiches.Annee));
+    dire(u"le maximum par jour de %1 n'est pas connu du programme : vérifiez-le"_s.arg(fiches.Annee), {});
 }
 
 }  // namespace

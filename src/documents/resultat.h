@@ -8,7 +8,7 @@ class TEleve;
 /// What a document needs of a pupil, or of the school, and does not find.
 struct TManque {
   TEleve* Eleve = nullptr;   ///< null: it is the school's
-  QString Champ;             ///< of the pupil's record, where it is mended; "" for none
+  QString Champ;             ///< of the record, or of the school's screen, where it is mended; "" for none
   QString Texte;             ///< French
   bool SansDocument = true;  ///< the document goes without the pupil; else it leaves something out
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/chaines.h"
+#include "core/curseur.h"
 #include "core/query_internal.h"
 
 using namespace Qt::StringLiterals;
@@ -64,6 +65,16 @@ TExtrait* TExtraits::IdentiqueAnneePrecedente(const TExtrait& extrait) {
   TExtrait* trouve = precedente_->Identique(extrait);
   if (trouve != nullptr) trouve->DeAnneePrecedente = true;
   return trouve;
+}
+
+bool TExtraits::EstPerime() const {
+  TCurseur ligne(
+      Base(),
+      u"SELECT COUNT(*) AS NOMBRE, MAX(EXTRAIT_ID) AS DERNIER FROM EXTRAITS WHERE ANNEE_SCOLAIRE = ?"_s,
+      {AnneeScolaire});
+  int dernier = 0;
+  for (const TExtrait& extrait : *this) dernier = std::max(dernier, extrait.Id);
+  return !ligne.Suivant() || ligne.Entier("NOMBRE") != Count() || ligne.Entier("DERNIER") != dernier;
 }
 
 TPeriode TExtraits::BornesDates() const {

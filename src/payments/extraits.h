@@ -48,6 +48,8 @@ class TExtraits : public TCollection<TExtrait> {
   }
   /// The same in the year before, which is loaded at the first call; the one found is marked so.
   TExtrait* IdentiqueAnneePrecedente(const TExtrait& extrait);
+  /// Another workstation has stored some since, or moved some to or from this year.
+  bool EstPerime() const;
   /// First and last value date; 0 and 0 without movements.
   TPeriode BornesDates() const;
   /// Gives a stored movement to another school year: its row changes, and it leaves this collection.

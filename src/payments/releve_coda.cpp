@@ -42,10 +42,6 @@ class TEnregistrement {
     if (!EstChiffres(chiffres)) Refuser(u"« %1 » n'est pas un nombre."_s.arg(chiffres));
     return chiffres.toLongLong();
   }
-  bool Vaut(std::size_t place, std::size_t longueur, std::int64_t nombre) const {
-    const QString chiffres = Champ(place, longueur);
-    return EstChiffres(chiffres) && chiffres.toLongLong() == nombre;
-  }
   /// Fifteen digits, three of them decimals.
   Currency Montant(std::size_t place) const { return Currency::Brut(Nombre(place, 15) * 10); }
   /// The same with its sign, 0 for a credit and 1 for a debit, at another place.
@@ -96,6 +92,8 @@ constexpr TStructure kStructures[] = {
     {u"101", 0, 12, true}, {u"102", 0, 12, true}, {u"105", 45, 12, true}, {u"127", 79, 62, false}};
 constexpr QStringView kMontantOriginal = u"105";
 
+bool SansChiffres(const QString& texte) { return !EstChiffres(texte) || texte.count(u'0') == texte.size(); }
+
 /// Code and the rest of a structured communication as its text; true when it is twelve digits.
 std::pair<QString, bool> TexteStructure(const QString& zone) {
   const QString reste = zone.mid(3);
@@ -104,9 +102,8 @@ std::pair<QString, bool> TexteStructure(const QString& zone) {
     const QString texte = reste.mid(s.Place, s.Longueur);
     if (!s.Chiffres) return {texte, false};
     // There it is often left out, and the payer's own words come in records 3.
-    const bool aucun =
-        s.Code == kMontantOriginal && (!EstChiffres(texte) || texte.count(u'0') == texte.size());
-    return {aucun ? QString() : texte, !aucun};
+    if (s.Code == kMontantOriginal) return {SansChiffres(texte) ? QString() : texte, !SansChiffres(texte)};
+    if (EstChiffres(texte)) return {texte, true};
   }
   return {reste, false};
 }
@@ -126,9 +123,15 @@ QString Communication(const TArticle& article) {
 QString SansSuite(const QString& compte) {
   static constexpr qsizetype kIbanBelge = 16, kDevise = 3;
   const QString mot = compte.trimmed().section(u' ', 0, 0);
-  if (mot.startsWith(u"BE")) return mot.first(std::min(kIbanBelge, mot.size()));
-  const QString sansDevise = mot.chopped(std::min(kDevise, mot.size()));
-  return !IbanValide(mot) && IbanValide(sansDevise) ? sansDevise : mot;
+  const auto sansDevise = [](const QString& texte) {
+    return texte.startsWith(u"BE") ? texte.first(std::min(kIbanBelge, texte.size()))
+                                   : texte.chopped(std::min(kDevise, texte.size()));
+  };
+  // The last two are a number in groups of four, which is one when it is right.
+  const QString uni = IbanSansBlancs(compte);
+  for (const QString& numero : {mot, sansDevise(mot), sansDevise(uni), uni})
+    if (IbanValide(numero)) return numero;
+  return mot.startsWith(u"BE") ? sansDevise(mot) : mot;
 }
 
 class TLecteurCoda {
@@ -289,15 +292,19 @@ class TLecteurCoda {
       releve_.Preuves += u"L'enregistrement 9 manque : le fichier n'est pas complet."_s;
       return;
     }
-    const auto prouver = [&](const QString& quoi, bool juste) {
-      if (!juste) releve_.Preuves += u"%1 n'est pas ce que dit l'enregistrement 9."_s.arg(quoi);
+    const auto prouver = [&](const QString& quoi, std::int64_t lu, std::size_t place, std::size_t longueur,
+                             QString (*montrer)(std::int64_t)) {
+      const QString champ = fin->Champ(place, longueur);
+      const bool chiffres = EstChiffres(champ);
+      if (chiffres && champ.toLongLong() == lu) return;
+      releve_.Preuves += u"%1 : %2, et l'enregistrement 9 annonce %3."_s.arg(
+          quoi, montrer(lu), chiffres ? montrer(champ.toLongLong()) : u"« %1 »"_s.arg(champ.trimmed()));
     };
-    prouver(u"Le nombre d'enregistrements, %1,"_s.arg(comptes_.Enregistrements),
-            fin->Vaut(17, 6, comptes_.Enregistrements));
-    prouver(u"La somme des débits, %1,"_s.arg(FormatMontant(comptes_.Debits)),
-            fin->Vaut(23, 15, comptes_.Debits.EnBrut() / 10));
-    prouver(u"La somme des crédits, %1,"_s.arg(FormatMontant(comptes_.Credits)),
-            fin->Vaut(38, 15, comptes_.Credits.EnBrut() / 10));
+    const auto montant = [](std::int64_t milliemes) { return FormatMontant(Currency::Brut(milliemes * 10)); };
+    prouver(u"Nombre d'enregistrements"_s, comptes_.Enregistrements, 17, 6,
+            [](std::int64_t nombre) { return QString::number(nombre); });
+    prouver(u"Somme des débits"_s, comptes_.Debits.EnBrut() / 10, 23, 15, montant);
+    prouver(u"Somme des crédits"_s, comptes_.Credits.EnBrut() / 10, 38, 15, montant);
   }
 
   TReleveBancaire releve_;
@@ -318,5 +325,5 @@ bool EstCoda(const QByteArray& octets) {
 }
 
 TReleveBancaire LireCoda(const QByteArray& octets) {
-  return TLecteurCoda().Lire(LignesDeTexte(octets, u"CODA"_s));
+  return TLecteurCoda().Lire(LignesDeTexte(octets));
 }

@@ -92,7 +92,7 @@ std::optional<TMouvement> Convertir(const TFauteReleve& texte) {
 
 TReleveLu LireLignesEtiquetees(const QByteArray& octets) {
   TReleveLu releve;
-  const QStringList lignes = LignesDeTexte(octets, u"mouvements"_s);
+  const QStringList lignes = LignesDeTexte(octets);
   for (int i = 1; i < lignes.size() && !releve.Faute; ++i) {
     if (lignes[i].trimmed().isEmpty()) continue;
     TFauteReleve texte;

@@ -18,7 +18,7 @@ constexpr TColonnes kDispositionB{14, 3, 4, 5, 10, 8};
 TMouvement LireLigne(const QStringList& cellules, const TColonnes& c) {
   const TDateTime date = StrToDate(cellules.value(c.Date));
   // The day before the first one that a database tells from an empty one.
-  if (date == 0.0) throw EConvertError(u"« %1 » n'est pas une date"_s.arg(cellules.value(c.Date)));
+  if (date == 0.0) throw EConvertError(u"« %1 » n'est pas une date."_s.arg(cellules.value(c.Date)));
   return {cellules.value(c.Donneur), date, StrToCurr(cellules.value(c.Montant)),
           cellules.value(c.Communication), cellules.value(c.Compte)};
 }
@@ -27,7 +27,7 @@ TMouvement LireLigne(const QStringList& cellules, const TColonnes& c) {
 
 TReleveLu LireTableau(const QByteArray& octets, TDispositionReleve disposition) {
   const TColonnes& c = disposition == TDispositionReleve::B ? kDispositionB : kDispositionA;
-  const TTexteSepare tableau = TTexteSepare::Depuis(octets, u"mouvements"_s);
+  const TTexteSepare tableau = TTexteSepare::Depuis(octets);
   TReleveLu releve;
   for (int i = c.PremiereLigne; i < tableau.NombreLignes(); ++i) {
     const QStringList& cellules = tableau.Lignes[static_cast<std::size_t>(i)];

@@ -18,6 +18,8 @@ class ILienPrincipal {
 
   /// Gives the main window a message that it reacts to: EleveRadie, EleveChange, ImplantationsChange.
   virtual void Envoyer(const TMessage& message) = 0;
+  /// Opens the screen of the school on that field of it.
+  virtual void AllerAEcole(const QString& champ) = 0;
   /// The last thing done, or why it was not, for the left of the status bar.
   virtual void Etat(TNiveauEtat niveau, const QString& texte) = 0;
 };

@@ -185,11 +185,12 @@ void TImportVirements::ReconnaitreProches() {
   const auto connus = LireConnus(controleur_.Base());
   TExtraits& extraits = controleur_.Extraits();
   std::unordered_set<int> reconnus;
-  for (const TRangeeVirement& rangee : rangees_)
-    if (rangee.Extrait != nullptr)
-      reconnus.insert(rangee.Extrait->Id);
-    else if (rangee.Etat == TEtatMouvement::AnneePrecedente)
-      reconnus.insert(extraits.IdentiqueAnneePrecedente(*EnExtrait(rangee.Lu))->Id);
+  for (const TRangeeVirement& rangee : rangees_) {
+    if (rangee.Etat == TEtatMouvement::Nouveau) continue;
+    const TExtraits& liste = rangee.Extrait != nullptr ? extraits : controleur_.ExtraitsPrecedents();
+    for (const TExtrait* jumeau : liste.Identiques(*EnExtrait(rangee.Lu)))  // a row of the file for each
+      if (reconnus.insert(jumeau->Id).second) break;
+  }
   std::optional<TProches> proches;
   for (TRangeeVirement& rangee : rangees_) {
     if (rangee.Etat != TEtatMouvement::Nouveau ||

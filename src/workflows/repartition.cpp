@@ -1,6 +1,7 @@
 #include "workflows/repartition.h"
 
 #include <algorithm>
+#include <functional>
 #include <numeric>
 
 #include "application/globals.h"
@@ -8,6 +9,7 @@
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "core/transaction_commune.h"
+#include "pupils/reserver.h"
 #include "workflows/credit_extraits.h"
 #include "workflows/memoriser.h"
 
@@ -41,12 +43,12 @@ std::vector<Currency> EnProportion(Currency montant, const std::vector<Currency>
 }
 
 std::unique_ptr<TFraisEleve> LignePart(const TExtrait& extrait, const TPartVirement& part,
-                                       const QString& libelle) {
+                                       const QString& libelle, bool entier) {
   auto ligne = std::make_unique<TFraisEleve>();
   ligne->Remarque = libelle;
   ligne->MontantVerse = part.Montant;
   ligne->ExtraitId = extrait.Id;
-  ligne->FlgPart = true;
+  ligne->FlgPart = !entier;
   ligne->TypeFamilleFrais = part.Famille;
   ligne->GroupeFraisId = part.GroupeFraisId;
   return ligne;
@@ -61,8 +63,12 @@ class TLignesParts {
   void Poser(TAllFraisEleve& lignes, std::unique_ptr<TFraisEleve> ligne) {
     posees_.push_back({&lignes, &lignes.Add(std::move(ligne))});
   }
-  void Ranger(TDataModule1& base) {
+  /// Raises Exception with the reason why not, as it is when nobody else can give the movement any more.
+  void Ranger(const TExtrait& extrait, const std::function<QString()>& refus) {
+    TDataModule1& base = Globals.Eleves->BaseDeDonnees();
     TTransactionCommune ensemble(base);
+    ReserverExtrait(base, extrait.Id);
+    if (const QString raison = refus(); !raison.isEmpty()) throw Exception(raison);
     for (const auto& [lignes, ligne] : posees_) {
       lignes->Save();
       ExigerCle(*ligne);
@@ -74,6 +80,21 @@ class TLignesParts {
  private:
   std::vector<std::pair<TAllFraisEleve*, TFraisEleve*>> posees_;
 };
+
+/// Read by its own statement: the map of the movements stays as it is while many are given one by one.
+QString RefusEntier(const TExtrait& extrait) {
+  TCurseur ligne(Globals.Eleves->BaseDeDonnees(),
+                 u"SELECT FLG_IGNORE, (SELECT FIRST 1 ELEVE_ID FROM FRAIS_ELEVE WHERE EXTRAIT_ID = "
+                 "EXTRAITS.EXTRAIT_ID) A_QUI FROM EXTRAITS WHERE EXTRAIT_ID = ?"_s,
+                 {extrait.Id});
+  if (!ligne.Suivant()) return u"Ce mouvement n'existe plus : un autre poste l'a supprimé."_s;
+  if (const int aQui = ligne.Entier("A_QUI"); aQui != 0) {
+    const TEleve* eleve = Globals.Eleves->TrouverParId(aQui);
+    return u"Ce mouvement est déjà attribué à %1."_s.arg(eleve == nullptr ? u"un élève d'une autre année"_s
+                                                                          : eleve->NomComplet());
+  }
+  return ligne.Entier("FLG_IGNORE") == 1 ? u"Ce mouvement a été caché par un autre poste."_s : QString();
+}
 
 }  // namespace
 
@@ -145,12 +166,20 @@ QString RefusMouvement(const TFraisEleve& paiement, Currency enPlus) {
 
 // Another workstation may have given it to somebody since it was shown.
 void CrediterParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts, const QString& libelle) {
-  Globals.Eleves->ChargerExtraits = true;
-  if (const QString faute = FauteParts(extrait, parts); !faute.isEmpty()) throw Exception(faute);
   TLignesParts lignes;
   for (const TPartVirement& part : parts)
-    lignes.Poser(*part.Eleve->GetAllFrais(), LignePart(extrait, part, libelle));
-  lignes.Ranger(Globals.Eleves->BaseDeDonnees());
+    lignes.Poser(*part.Eleve->GetAllFrais(), LignePart(extrait, part, libelle, false));
+  lignes.Ranger(extrait, [&] {
+    Globals.Eleves->ChargerExtraits = true;
+    return FauteParts(extrait, parts);
+  });
   Globals.Eleves->ChargerExtraits = true;
   for (const TPartVirement& part : parts) RelireGroupes(part.GroupeFraisId);
+}
+
+void CrediterEntier(const TExtrait& extrait, const TPartVirement& part, const QString& libelle) {
+  TLignesParts lignes;
+  lignes.Poser(*part.Eleve->GetAllFrais(), LignePart(extrait, part, libelle, true));
+  lignes.Ranger(extrait, [&] { return RefusEntier(extrait); });
+  RelireGroupes(part.GroupeFraisId);
 }

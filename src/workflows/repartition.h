@@ -36,3 +36,7 @@ QString RefusMouvement(const TFraisEleve& paiement, Currency enPlus);
 
 /// Stores a payment for each part, all or none. Raises Exception, with the reason, when they cannot be.
 void CrediterParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts, const QString& libelle);
+
+/// Gives the whole movement to one pupil, by hand. Raises Exception, with the reason, when somebody has got it
+/// since it was shown.
+void CrediterEntier(const TExtrait& extrait, const TPartVirement& part, const QString& libelle);

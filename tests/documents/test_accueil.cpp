@@ -94,6 +94,8 @@ TEST_F(TAccueilEssai, UnePageParImplantation) {
     const TDocumentPrepare document = MettreEnPage(rapport, *ModeleDocument(u"ONEMulti"_s));
     EXPECT_EQ(document.Pages.size(), 3U) << "the sums have a page of their own";
     EXPECT_EQ(document.Defauts.size(), 0U);
+    EXPECT_NE(document.TexteDePage(2).contains(u"différents"), maximum == u"1")
+        << "the words say what is counted";
   }
 }
 

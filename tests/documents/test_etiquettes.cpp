@@ -1,5 +1,7 @@
 #include "documents/etiquettes.h"
 
+#include <QCoreApplication>
+
 #include "documents/moteur_etiquettes.h"
 #include "ecole_documents.h"
 
@@ -111,4 +113,42 @@ TEST_F(TEtiquettesEssai, UnObjetQuiManqueSeDitAChaqueEtiquette) {
   EXPECT_EQ(imprimees.size(), 2) << "printed all the same";
   Modele(u"99012"_s, {"NomEleve", "CodeBarre"});
   EXPECT_EQ(Demander(0, {anne}).Messages, QStringList{manque(u"NomEcole"_s)});
+}
+
+// The two models that lie beside the programs: a scanner finds the code's ends, and a name of three lines
+// ends above the class.
+TEST(Etiquettes, LeBlancDuCodeEtLesNomsLongs) {
+  for (const QString& numero : {u"99012"_s, u"11352"_s}) {
+    SCOPED_TRACE(numero.toStdString());
+    std::optional<TDocumentPrepare> etiquette;
+    TMoteurEtiquettes moteur(
+        [&](const TDocumentPrepare& page, const TTravailEtiquette&) { etiquette = page; });
+    moteur.OuvrirFichier(QCoreApplication::applicationDirPath() % u"/EtiquetteEleve-" % numero % u".label");
+    moteur.TrouverObjet(u"NomEleve"_s)
+        ->EcrireTexte(u"VANDENBOSSCHE-DE LA CROIX DE MEULENAERE Marie-Antoinette Joséphine Clémentine"_s);
+    moteur.TrouverObjet(u"NomEcole"_s)->EcrireTexte(u"P3 A"_s);
+    moteur.TrouverObjet(u"CodeBarre"_s)->EcrireCodeBarres(u"5537123456"_s);
+    moteur.Imprimer({}, {}, 1);
+    ASSERT_TRUE(etiquette && etiquette->Pages.size() == 1);
+    EXPECT_TRUE(etiquette->Defauts.empty()) << etiquette->Defauts[0].Message.toStdString();
+    const TPagePreparee& page = etiquette->Pages[0];
+    double gauche = page.Largeur, droite = 0, module = page.Largeur;
+    float nom = 0, classe = 0;
+    for (const TElement& element : page.Elements) {
+      if (const auto* barres = std::get_if<TElementBarres>(&element))
+        for (const QRectF& barre : barres->Barres) {
+          gauche = std::min(gauche, barre.left());
+          droite = std::max(droite, barre.right());
+          module = std::min(module, barre.width());
+        }
+      if (const auto* texte = std::get_if<TElementTexte>(&element)) {
+        if (texte->Forme->Texte == u"P3 A") classe = texte->Base;
+        if (texte->Forme->Texte.contains(u"ANDENB") || texte->Forme->Texte.contains(u"ine"))
+          nom = std::max(nom, texte->Base);
+      }
+    }
+    EXPECT_GE(gauche, 10 * module - 0.01);
+    EXPECT_GE(page.Largeur - droite, 10 * module - 0.01);
+    EXPECT_TRUE(nom > 0 && nom <= classe - 9) << nom << ' ' << classe;
+  }
 }

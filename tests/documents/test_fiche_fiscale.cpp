@@ -108,8 +108,10 @@ TEST_F(TFicheFiscaleEssai, CeQuiEstPayeParTrimestre) {
 
 TEST_F(TFicheFiscaleEssai, CeQuiManqueALEcoleEstDitDAbord) {
   const QString maximum = u" le maximum par jour de 2017 n'est pas connu du programme : vérifiez-le"_s;
-  EXPECT_EQ(Manques(Etablir(), true),
-            maximum % u"\n le numéro d'entreprise de l'école manque (Mon école, « N° d'entreprise »)");
+  EXPECT_EQ(
+      Manques(Etablir(), true),
+      maximum %
+          u"\nedNumeroEntreprise le numéro d'entreprise de l'école manque (Mon école, « N° d'entreprise »)");
   ecole.parametre(117, u"BE 0999.999.921"_s);
   EXPECT_TRUE(Manques(Etablir(), true).contains(u"« BE 0999.999.921 », est incorrect"_s));
   ecole.parametre(117, u"0999999922"_s);

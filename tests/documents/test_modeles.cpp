@@ -73,15 +73,19 @@ TEST(Modeles, TousSeLisent) {
 // A name is never cut, nor does it push a page that is to be one.
 TEST(Modeles, NomsEtLieuxLongsTiennent) {
   const QString ecole =
-      u"École fondamentale libre subventionnée Notre-Dame de la Miséricorde et Saint-Joseph"_s;
+      u"École fondamentale libre subventionnée Notre-Dame de la Miséricorde et Saint-Joseph de la Vallée"_s;
   for (const auto& [modele, pages] : {std::pair(u"FicheFiscale"_s, 1U),
                                       {u"AttestationContribution"_s, 2U},
                                       {u"ONE"_s, 2U},
-                                      {u"DocumentProvision"_s, 1U}}) {
+                                      {u"ONEMulti"_s, 2U},
+                                      {u"StatistiqueFrais"_s, 1U},
+                                      {u"DocumentProvision"_s, 1U},
+                                      {u"DocumentProvisionVESPER"_s, 1U}}) {
     for (const QString& lieu : {u"Ottignies-Louvain-la-Neuve"_s, u"Saint-Georges-sur-Meuse"_s}) {
       SCOPED_TRACE(modele.toStdString());
       TRapport rapport(modele, modele);
-      for (const char16_t* nom : {u"NomEcole", u"NomEcoleOfficiel"}) rapport.AjouterVariable(nom, ecole);
+      for (const char16_t* nom : {u"NomEcole", u"NomEcoleOfficiel", u"EcoleNom", u"TitreLieu"})
+        rapport.AjouterVariable(nom, ecole);
       for (const char16_t* nom : {u"LocaliteEcole", u"ADRESSE"}) rapport.AjouterVariable(nom, lieu);
       TNoeudRapport eleve = Eleve(u"VANDENBOSSCHE-DE LA CROIX"_s, {Section(u"une"_s, 0)});
       eleve.Valeurs.Ecrire(u"PrenomEleve", u"Marie-Antoinette Joséphine Clémentine"_s);

@@ -7,8 +7,10 @@
 #include "payments/communication_structuree.h"
 #include "payments/releve_bancaire.h"
 #include "support/affichage.h"
+#include "support/fichier_coda.h"
 
 using namespace Qt::StringLiterals;
+using namespace FichierCoda;
 
 namespace {
 
@@ -31,55 +33,8 @@ QString Lire(const QByteArray& octets) {
   }
 }
 
-/// A record of 128 characters with fields at their places, which count from 1.
-QString Enregistrement(const std::vector<std::pair<int, QString>>& champs) {
-  QString ligne(128, u' ');
-  for (const auto& [place, texte] : champs) ligne.replace(place - 1, texte.size(), texte);
-  return ligne;
-}
-
-QString Centimes(int centimes) { return u"%1"_s.arg(centimes * 10, 15, 10, QChar(u'0')); }
-
-/// A record 2.1, the amount in cents; `article` is sequence and detail.
-QString Mouvement(const QString& article, int centimes, const QString& communication, QChar type = u'0',
-                  bool structuree = false, const QString& dateValeur = u"051016"_s) {
-  return Enregistrement({{1, u"21"_s + article},
-                         {32, centimes < 0 ? u"1"_s : u"0"_s},
-                         {33, Centimes(qAbs(centimes))},
-                         {48, dateValeur},
-                         {54, QString(type) + u"0150000"},
-                         {62, structuree ? u"1"_s : u"0"_s},
-                         {63, communication.left(53)},
-                         {116, u"061016"_s}});
-}
-
-/// The file: its records 0, 1, 8 and 9 around the movements, which must sum to `total` and number `debits`.
-QByteArray Coda(const QStringList& milieu, int total, int debits = 0, int ecart = 0) {
-  QStringList lignes{Enregistrement({{1, u"0000005101672505"_s}, {128, u"2"_s}}),
-                     Enregistrement({{1, u"12001BE33123456789012"_s},
-                                     {40, u"EUR0"_s},
-                                     {44, Centimes(10000)},
-                                     {59, u"041016"_s},
-                                     {126, u"007"_s}})};
-  lignes += milieu;
-  lignes += Enregistrement({{1, u"8001BE33123456789012"_s},
-                            {42, u"0"_s},
-                            {43, Centimes(10000 + total + ecart)},
-                            {58, u"051016"_s}});
-  lignes += Enregistrement({{1, u"9"_s},
-                            {17, u"%1"_s.arg(static_cast<int>(milieu.size()) + 2, 6, 10, QChar(u'0'))},
-                            {23, Centimes(debits)},
-                            {38, Centimes(total + debits)},
-                            {128, u"2"_s}});
-  return lignes.join(u"\r\n"_s).toUtf8();
-}
-
 QString Suite(const QString& article, const QString& texte) {
   return Enregistrement({{1, u"22"_s + article}, {11, texte}});
-}
-QString Donneur(const QString& article, const QString& compte, const QString& nom,
-                const QString& texte = {}) {
-  return Enregistrement({{1, u"23"_s + article}, {11, compte}, {48, nom}, {83, texte}});
 }
 QString Information(const QString& genre, const QString& texte, bool structuree = false) {
   if (genre == u"31")
@@ -105,6 +60,14 @@ TEST(Coda, WhatAMovementSays) {
        u"0510|12,5|BE68539007547034|ZOÉ|%1 ab+++ fin"_s.arg(cinquante)},
       {{Mouvement(kUn, 1250, u"101001231016185"_s, u'0', true), Information(u"31"_s, u"texte"_s)},
        u"0510|12,5|||+++001/2310/16185+++"_s},
+      {{Mouvement(kUn, 1250, u"101"_s, u'0', true), Information(u"31"_s, u"libre"_s)},
+       u"0510|12,5|||libre"_s},
+      {{Mouvement(kUn, 1250, u"101 école"_s, u'0', true), Information(u"31"_s, u"libre"_s)},
+       u"0510|12,5|||école libre"_s},
+      {{Mouvement(kUn, 1250, u"x"_s), Donneur(kUn, u"BE68 5390 0754 7034 EUR"_s, u"A"_s)},
+       u"0510|12,5|BE68539007547034|A|x"_s},
+      {{Mouvement(kUn, 1250, u"x"_s), Donneur(kUn, u"DE89 3704 0044 0532 0130 00EUR"_s, u"A"_s)},
+       u"0510|12,5|DE89370400440532013000|A|x"_s},
       {{Mouvement(kUn, 1250, u"102001231016185"_s, u'0', true)}, u"0510|12,5|||+++001/2310/16185+++"_s},
       {{Mouvement(kUn, 1250, u"105"_s % codes % u"00123", u'0', true), Suite(kUn, u"1016185"_s)},
        u"0510|12,5|||+++001/2310/16185+++"_s},
@@ -162,9 +125,9 @@ TEST(Coda, ProofsAndRefusals) {
        {std::pair(Coda(deux, 200, 100, 1),
                   u"l'ancien solde et les mouvements font 102,00, et le nouveau solde est 102,01"_s),
         {juste.left(neuf), u"L'enregistrement 9 manque"_s},
-        {change(neuf + 2 + 21, "9"), u"Le nombre d'enregistrements"_s},
-        {change(neuf + 2 + 22, "9"), u"La somme des débits"_s},
-        {change(neuf + 2 + 37, "9"), u"La somme des crédits"_s}}) {
+        {change(neuf + 2 + 21, "9"), u"Nombre d'enregistrements : 4, et l'enregistrement 9 annonce 9."_s},
+        {change(neuf + 2 + 34, "9"), u"Somme des débits : 1,00 €, et l'enregistrement 9 annonce 1,90 €."_s},
+        {change(neuf + 2 + 37, "x"), u"Somme des crédits : 3,00 €, et l'enregistrement 9 annonce « x0"_s}}) {
     const QString lu = Lire(octets);
     EXPECT_TRUE(lu.startsWith(lus + u'\n') && lu.contains(preuve)) << lu.toStdString();
     EXPECT_EQ(lu.count(u'\n'), 2);
@@ -176,6 +139,7 @@ TEST(Coda, ProofsAndRefusals) {
                                        {change(130 + 130, "5"), u"n'est pas un enregistrement CODA"_s},
                                        {change(130, "4"), u"sans ancien solde"_s}})
     EXPECT_TRUE(Lire(octets).startsWith(u'!') && Lire(octets).contains(raison)) << Lire(octets).toStdString();
+  EXPECT_EQ(Lire(QByteArray(juste).append('\0')), u"! Ce fichier n'est pas un fichier de texte.");
   EXPECT_EQ(Lire("Date;Montant"), u"?");
 }
 
@@ -253,6 +217,8 @@ TEST(Camt, DetailsThatSumToTheEntry) {
   EXPECT_EQ(details(Detail(un)), u"0510|3|||a");
   EXPECT_EQ(details(Detail({}) + Detail(un) + Detail(deux)), u"0510|1|||a\n0510|2|||b");
   EXPECT_EQ(details(Detail(un) + Detail(trois)), u"0510|3|||");
+  const QString dollars = QString(deux).replace(u"<AmtDtls>"_s, u"<Amt Ccy='USD'>2.2</Amt><AmtDtls>"_s);
+  EXPECT_EQ(details(Detail(un) + Detail(dollars)), u"0510|3|||") << "an amount of its own, in no euros";
   EXPECT_EQ(details(Detail(u"<CdtDbtInd>DBIT</CdtDbtInd>"_s + un) + Detail(deux + un)), u"0510|3|||");
   EXPECT_EQ(details(Detail(u"<CdtDbtInd>DBIT</CdtDbtInd>"_s + un) + Detail(deux) + Detail(deux)),
             u"0510|-1|||a\n0510|2|||b\n0510|2|||b");

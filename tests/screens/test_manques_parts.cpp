@@ -30,10 +30,11 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
   TEcranEssai monde(base);
   TImprimeur imprimeur(monde.Contexte, {});
   QStringList vus;
-  imprimeur.SurAllerAuChamp = [&](TEleve& eleve, const QString& champ) {
-    vus += QString::number(eleve.Id) % u' ' % champ;
+  imprimeur.SurAllerAuChamp = [&](TEleve* eleve, const QString& champ) {
+    vus += QString::number(eleve != nullptr ? eleve->Id : 0) % u' ' % champ;
   };
   void (TFrmManques::*faire)() = nullptr;
+  int ligne = -1;
   monde.SurModale = [&](TForm& form) {
     auto& manques = dynamic_cast<TFrmManques&>(form);
     EXPECT_EQ(manques.Texte(),
@@ -44,12 +45,13 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
     EXPECT_EQ(manques.Grille.LigneCourante(), 1) << "the first that leads to a record";
     EXPECT_EQ(manques.LibelleImprimer(), u"Imprimer les autres");
     EXPECT_EQ(manques.Titre(), u"Ce qui manque, revenus de 2017");
+    if (ligne >= 0) manques.Grille.ChoisirLigne(ligne);
     if (faire != nullptr) (manques.*faire)();
   };
   const auto imprimer = [&] {
     imprimeur.Faire([](const TContexteDocument&) {
       TResultat resultat;
-      resultat.Manques = {{nullptr, {}, u"l'école"_s, false},
+      resultat.Manques = {{nullptr, u"edNumeroEntreprise"_s, u"l'école"_s, false},
                           {&Eleve(1), u"edNumNational"_s, u"manque"_s, true},
                           {&Eleve(1), {}, u"impayé"_s, false},
                           {&Eleve(2), {}, u"impayé"_s, false}};
@@ -61,9 +63,11 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
   EXPECT_EQ(imprimer(), 0) << "given up";
   faire = &TFrmManques::btnAllerClick;
   EXPECT_EQ(imprimer(), 0);
+  ligne = 0;
+  EXPECT_EQ(imprimer(), 0);
   faire = &TFrmManques::btnImprimerClick;
   EXPECT_EQ(imprimer(), 1);
-  EXPECT_EQ(vus, QStringList{u"1 edNumNational"_s});
+  EXPECT_EQ(vus, (QStringList{u"1 edNumNational"_s, u"0 edNumeroEntreprise"_s})) << "the school's too";
 }
 
 TEST_F(TManquesParts, LesPartsSontChangeesPuisStockees) {

@@ -143,4 +143,21 @@ TEST_F(PresencesDuSite, TheFolderOfTheDevice) {
   Base.Dialogues.Attend(kMemorisees);
   Form.btnEtape2Click();
   EXPECT_FALSE(QFile::exists(fichier)) << "the other file of the device goes too";
+
+  const QString muet = Base.Chemin(premier + u"Presences.txt"_s);
+  ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, muet));  // it opens, and gives nothing
+  Base.Dialogues.Attend(kErreur + u"Unable to read data"_s).Attend(kErreur + u"Unable to open"_s);
+  Base.Dialogues.Attend(u"Aucune donnée à récupérer"_s);
+  Form.btnImportScannerClick();
+  EXPECT_TRUE(QFileInfo(muet).isSymLink()) << "it stays where it was";
+  QFile::remove(muet);
+  Base.Fichier(second + u"Presences.txt"_s, kScans);
+  Base.Dialogues.Attend(kErreur + u"Unable to open"_s);
+  Form.btnImportScannerClick();
+  QFile::remove(fichier);
+  QDir().mkpath(fichier + u"/plein"_s);  // what no deletion of a file takes away
+  Base.Dialogues.Attend(kMemorisees).Attend(kErreur + u"Unable to delete the remote file"_s);
+  Form.btnEtape2Click();
+  EXPECT_TRUE(QFileInfo::exists(fichier));
+  EXPECT_EQ(Presences(), u"1") << "stored, and dropped again at the next import";
 }

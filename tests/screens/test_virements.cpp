@@ -158,6 +158,23 @@ TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
   EXPECT_EQ(Ecran.Niveau, TNiveauEtat::Alerte);
 }
 
+// The screen may stand open all day.
+TEST_F(FrmVirement, WhatAnotherWorkstationHasStoredIsNotStoredAgain) {
+  Base.Mouvement(u"A"_s, 3);
+  Ouvrir();
+  Form->Historique.ChoisirLigne(0);
+  const int b = Base.Mouvement(u"B"_s, 4);
+  Base.Credit(b, 3);
+  Base.Dialogues.Saisit(u"Importer vos virements"_s,
+                        Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) +
+                                                          "x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n"));
+  Form->btnEtape1Click();
+  EXPECT_EQ(Form->Apercu.Texte(0, TFrmVirement::Eleve), u"LAMBERT Élise");
+  Form->btnEtape2Click();
+  EXPECT_EQ(Historique(), (QStringList{u"A||Inconnu"_s, u"B|LAMBERT Élise|Comptabilisé"_s}));
+  EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
+}
+
 TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
   const int c = Base.Mouvement(u"C"_s, 5), a = Base.Mouvement(u"A"_s, 3), b = Base.Mouvement(u"B"_s, 4);
   Base.Mouvement(u"D"_s, 6, u"1"_s);
@@ -167,7 +184,7 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
     lignes = {1, 2, 0, 3};
   });  // A, B, C, D
   Form->Historique.ChoisirLigne(1);
-  Attribuer([](TFrmAttributionVirement& dialogue) {
+  Attribuer([&](TFrmAttributionVirement& dialogue) {
     EXPECT_EQ(dialogue.lblDonneurOrdre(), u"A");
     EXPECT_EQ(dialogue.lblMontant(), u"12,50 €");
     EXPECT_EQ(dialogue.Champs().Texte(0), u"Votre virement du 03/10/2016");
@@ -208,17 +225,24 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
     EXPECT_FALSE(dialogue.Actif()) << "a hidden one is nobody's";
     dialogue.Button2Click();
     EXPECT_EQ(dialogue.lblDonneurOrdre(), u"D") << "nothing behind it";
+
+    Base.Credit(c, 3);  // at another workstation
+    dialogue.Button1Click();
+    dialogue.LUCombo1Change(u"dup"_s);
+    Base.Dialogues.Attend(u"Ce mouvement est déjà attribué à LAMBERT Élise."_s);
+    dialogue.Button3Click();
+    EXPECT_EQ(dialogue.lblDonneurOrdre() % dialogue.SaisieEleve(), u"CLAMBERT Élise") << "whom it went to";
+    EXPECT_FALSE(dialogue.Actif());
   });
   EXPECT_TRUE(Globals.Eleves->ChargerExtraits);
-  EXPECT_EQ(Comptes(), u"2 2 4");
-  EXPECT_EQ(Historique(), (QStringList{"C||Inconnu", "A|DUPONT Zoé|Comptabilisé",
+  EXPECT_EQ(Comptes(), u"3 1 4");
+  EXPECT_EQ(Historique(), (QStringList{"C|LAMBERT Élise|Comptabilisé", "A|DUPONT Zoé|Comptabilisé",
                                        "B|LAMBERT Élise|Comptabilisé", "D||Caché"}));
   EXPECT_EQ(Base.Rangees(u"SELECT EXTRAIT_ID, ELEVE_ID, MOIS, TYPE_FAMILLE_FRAIS, GROUPE_FRAIS_ID, REMARQUE "
-                         "FROM FRAIS_ELEVE ORDER BY FRAIS_ELEVE_ID"_s),
+                         "FROM FRAIS_ELEVE WHERE EXTRAIT_ID <> %1 ORDER BY FRAIS_ELEVE_ID"_s.arg(c)),
             (QStringList{u"%1;2;0;2;1;Votre virement du 03/10/2016 (Classes de mer)"_s.arg(a),
                          u"%1;3;0;2;-;Votre virement du 04/10/2016"_s.arg(b)}));
   EXPECT_EQ(Details(2), 1) << "the group sees its payment";
-  EXPECT_EQ(Extrait(u"EXTRAIT_ID"_s, c), QString::number(c));
 }
 
 // Who stands out is proposed, not chosen, and given nothing until that is accepted; a movement of several

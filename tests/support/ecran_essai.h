@@ -16,6 +16,7 @@ class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal
   }
   void Afficher(TRapport& rapport) override { Apercus += rapport.Titre(); }
   void Envoyer(const TMessage&) override { ++Envois; }
+  void AllerAEcole(const QString& champ) override { ChampEcole = champ; }
   void Etat(TNiveauEtat niveau, const QString& texte) override {
     Niveau = niveau;
     Etats += texte;
@@ -26,6 +27,7 @@ class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal
   TNiveauEtat Niveau{};
   QStringList Etats;
   QStringList Apercus;
+  QString ChampEcole;
   int Envois = 0;
   TContexteEcran Contexte{Essai.Controleur, *this, *this, *this};
 };

@@ -2,6 +2,7 @@
 
 #include "core/exceptions.h"
 #include "support/controleur_essai.h"
+#include "support/fichier_coda.h"
 #include "support/valeurs.h"
 #include "workflows/import_virements.h"
 
@@ -58,9 +59,9 @@ class TImportVirementsEssai : public testing::Test {
   QStringList etats_;
 };
 
-/// A statement of the bank: its number, account, day of October 2016, old balance in euros, payments of 10.
-QByteArray Releve(int numero, const QString& compte, int jour, int ancien,
-                  const QStringList& communications) {
+/// A statement in a camt.053 file: number, account, day of October 2016, old balance in euros, payments
+/// of 10.
+QString Stmt(int numero, const QString& compte, int jour, int ancien, const QStringList& communications) {
   const auto solde = [jour](const char* genre, qsizetype euros) {
     return u"<Bal><Tp><CdOrPrtry><Cd>%1</Cd></CdOrPrtry></Tp><Amt "
            u"Ccy='EUR'>%2</Amt><CdtDbtInd>CRDT</CdtDbtInd>"
@@ -68,11 +69,9 @@ QByteArray Releve(int numero, const QString& compte, int jour, int ancien,
                .arg(euros)
                .arg(jour, 2, 10, QChar(u'0'));
   };
-  QString texte =
-      u"<Document "
-      u"xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.02'><BkToCstmrStmt><GrpHdr/><Stmt><Id>S</Id>"
-      "<LglSeqNb>%1</LglSeqNb><Acct><Id><IBAN>%2</IBAN></Id></Acct>"_s.arg(QString::number(numero), compte) +
-      solde("OPBD", ancien) + solde("CLBD", ancien + 10 * communications.size());
+  QString texte = u"<Stmt><Id>S</Id><LglSeqNb>%1</LglSeqNb><Acct><Id><IBAN>%2</IBAN></Id></Acct>"_s.arg(
+                      QString::number(numero), compte) +
+                  solde("OPBD", ancien) + solde("CLBD", ancien + 10 * communications.size());
   for (const QString& communication : communications)
     texte +=
         u"<Ntry><Amt Ccy='EUR'>10</Amt><CdtDbtInd>CRDT</CdtDbtInd><Sts>BOOK</Sts><BookgDt><Dt>2016-10-%1</Dt>"
@@ -81,7 +80,31 @@ QByteArray Releve(int numero, const QString& compte, int jour, int ancien,
         "</DbtrAcct></RltdPties><RmtInf><Ustrd>%2</Ustrd></RmtInf></TxDtls></NtryDtls></Ntry>"_s
             .arg(jour, 2, 10, QChar(u'0'))
             .arg(communication);
-  return (texte + u"</Stmt></BkToCstmrStmt></Document>"_s).toUtf8();
+  return texte + u"</Stmt>"_s;
+}
+
+QByteArray Camt(const QString& releves) {
+  return u"<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.02'><BkToCstmrStmt><GrpHdr/>%1"
+         "</BkToCstmrStmt></Document>"_s.arg(releves)
+             .toUtf8();
+}
+
+QByteArray Releve(int numero, const QString& compte, int jour, int ancien,
+                  const QStringList& communications) {
+  return Camt(Stmt(numero, compte, jour, ancien, communications));
+}
+
+/// The same payments as CODA.
+QByteArray ReleveCoda(int numero, int jour, int ancien, const QStringList& communications) {
+  QStringList milieu;
+  for (const QString& communication : communications) {
+    const QString article = u"%1"_s.arg(milieu.size() / 2 + 1, 4, 10, QChar(u'0')) + u"0000";
+    milieu += FichierCoda::Mouvement(article, 1000, communication, u'0', false,
+                                     u"%1"_s.arg(jour, 2, 10, QChar(u'0')) + u"1016");
+    milieu += FichierCoda::Donneur(article, u"BE68"_s, u"DUPONT"_s);
+  }
+  const int total = 1000 * static_cast<int>(communications.size());
+  return FichierCoda::Coda(milieu, total, 0, 0, numero, 100 * ancien);
 }
 
 QString Bilan(int lignes, int comptabilises, int inconnus, int regularisations = -1) {
@@ -246,7 +269,33 @@ TEST_F(TImportVirementsEssai, EveryLayoutOfTheParameter) {
     EXPECT_EQ(Extraits(), QStringList{u"1;+++000/0110/16104+++"_s}) << "the same payment in all layouts";
     base_.Sql(u"DELETE FROM PARAMETRE WHERE PARAMETRE_ID = 58"_s);
   }
-  EXPECT_EQ(Credits().size(), 1);
+  const QStringList un{u"+++000/0110/16104+++"_s};
+  for (const QByteArray& releve : {ReleveCoda(7, 5, 0, un), Releve(8, u"BE33123456789012"_s, 5, 10, un)}) {
+    ImporterFichier(base_.Fichier(u"releve"_s, releve));
+    EXPECT_EQ(Extraits(), QStringList{u"1;+++000/0110/16104+++"_s}) << "and in the banks' own files";
+  }
+  EXPECT_EQ(Credits(), QStringList{u"1;1;10;2;10.0000"_s});
+}
+
+// Days that two files share are asked about and stored once; what is the same on another day is not the same.
+TEST_F(TImportVirementsEssai, TwoFilesWithAStatementInCommon) {
+  const QString a = u"+++000/0110/16104+++"_s, b = u"merci"_s, ecole = u"BE33123456789012"_s;
+  const QByteArray fichiers[][2] = {{Camt(Stmt(7, ecole, 5, 0, {a, b}) + Stmt(8, ecole, 6, 20, {a})),
+                                     Camt(Stmt(8, ecole, 6, 20, {a}) + Stmt(9, ecole, 7, 30, {b, a}))},
+                                    {ReleveCoda(7, 5, 0, {a, b}) + "\r\n" + ReleveCoda(8, 6, 20, {a}),
+                                     ReleveCoda(8, 6, 20, {a}) + "\r\n" + ReleveCoda(9, 7, 30, {b, a})}};
+  for (const auto& [premier, second] : fichiers) {
+    ImporterFichier(base_.Fichier(u"releve"_s, premier));
+    EXPECT_EQ(Extraits().size(), 3);
+    base_.Dialogues.Repond(u"a déjà été importé"_s, true);
+    ImporterFichier(base_.Fichier(u"releve"_s, second));
+    EXPECT_EQ(base_.Rangees(u"SELECT DATE_VIREMENT, COMMUNICATION FROM EXTRAITS ORDER BY EXTRAIT_ID"_s),
+              (QStringList{u"2016-10-05;"_s + a, u"2016-10-05;merci"_s, u"2016-10-06;"_s + a,
+                           u"2016-10-07;merci"_s, u"2016-10-07;"_s + a}));
+    EXPECT_EQ(Credits().size(), 3);
+    for (const QString& table : {u"FRAIS_ELEVE"_s, u"EXTRAITS"_s, u"RELEVE_BANQUE"_s})
+      base_.Sql(u"DELETE FROM "_s + table);
+  }
 }
 
 // What a statement says of itself guards against storing it twice, and against one that is missing.
@@ -288,6 +337,13 @@ TEST_F(TImportVirementsEssai, AStatementAndATableOfTheSameDays) {
   EXPECT_EQ(Extraits().size(), 2) << "perhaps the second one, and waits to be ticked";
   EXPECT_EQ(etats_.last(), u"Peut-être déjà importé 0");
   EXPECT_EQ(Credits().size(), 1);
+}
+
+// What is known throughout is no reason to doubt another payment, be it twice in the file.
+TEST_F(TImportVirementsEssai, TwinsCastNoDoubtOnAThird) {
+  ImporterFichier(base_.Fichier(u"releve"_s, ReleveCoda(7, 5, 0, {u"merci"_s, u"merci"_s})));
+  ImporterFichier(base_.Fichier(u"releve"_s, ReleveCoda(8, 5, 20, {u"merci"_s, u"merci"_s, u"autre"_s})));
+  EXPECT_EQ(Extraits(), (QStringList{u"1;merci"_s, u"2;merci"_s, u"3;autre"_s}));
 }
 
 TEST_F(TImportVirementsEssai, ProgressIsTwiceTheRows) {

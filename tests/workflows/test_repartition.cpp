@@ -1,6 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <future>
+#include <thread>
+
 #include "core/exceptions.h"
+#include "core/query_internal.h"
+#include "core/transaction_commune.h"
+#include "pupils/reserver.h"
 #include "support/controleur_essai.h"
 #include "support/valeurs.h"
 #include "workflows/import_virements.h"
@@ -138,6 +144,43 @@ TEST_F(TRepartitionEssai, ToutesLesPartsOuAucune) {
     EXPECT_EQ(Lignes(), QStringList());
   }
   EXPECT_EQ(Eleves({1})[0]->GetAllFrais()->Count(), 1);
+}
+
+// The second waits for the first, and then sees what he has given.
+TEST_F(TRepartitionEssai, DeuxPostesDonnentLeMemeMouvement) {
+  TExtrait& extrait = Charger();
+  TEleve* un = Eleves({1})[0];
+  un->GetAllFrais();
+  TDataModule1 poste(base_.Dialogues, base_.Reglages);
+  poste.ServerName = base_.FichierDeDonnees();
+  poste.Connecter();
+  const auto refus = [&](const QString& fait, const std::function<void()>& geste) {
+    TTransactionCommune autre(poste);
+    ReserverExtrait(poste, extrait.Id);
+    TQueryInternal(poste, fait).Executer();
+    const auto fin = std::async(std::launch::async, [&] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(200));
+      autre.Valider();
+    });
+    try {
+      geste();
+    } catch (const Exception& e) {
+      return e.Message;
+    }
+    return u"not seen"_s;
+  };
+  const auto entier = [&] { CrediterEntier(extrait, {un, extrait.Montant}, u"x"_s); };
+  EXPECT_EQ(refus(u"UPDATE EXTRAITS SET FLG_IGNORE = 1"_s, entier),
+            u"Ce mouvement a été caché par un autre poste.");
+  const QString donne =
+      u"INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID, MONTANT_VERSE) "
+      "VALUES (77, 2, 2016, 7, 24)"_s;
+  EXPECT_EQ(refus(donne, entier), u"Ce mouvement est déjà attribué à Eleve2 Prenom2.");
+  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
+  EXPECT_EQ(refus(donne, [&] { CrediterParts(extrait, {{un, C(100)}}, {}); }),
+            u"Ce mouvement est déjà attribué en entier.");
+  EXPECT_EQ(Lignes(), QStringList{u"2;7;24.0000;-;-"_s});
+  EXPECT_EQ(un->GetAllFrais()->Count(), 1) << "nothing stays behind in memory";
 }
 
 TEST_F(TRepartitionEssai, QuiAPuPayerEtPourquoi) {

@@ -27,10 +27,14 @@ TFrmManques::TFrmManques(const TResultat& resultat, bool avecChamps)
                                       manque.Texte,
                                       {}},
                                      {}, SansDocument(manque) ? PasImprime : ImprimeSans);
-    if (avecChamps && manque.Eleve != nullptr && premier_ < 0) premier_ = ligne;
+    if (!avecChamps) continue;
+    if (manque.Eleve != nullptr && premier_ < 0) premier_ = ligne;
+    menent_ = menent_ || Mene(manque);
   }
   Grille.ChoisirLigne(std::max(0, premier_));
 }
+
+bool TFrmManques::Mene(const TManque& manque) { return manque.Eleve != nullptr || !manque.Champ.isEmpty(); }
 
 QString TFrmManques::Titre() const {
   const QString annee =
@@ -62,7 +66,7 @@ void TFrmManques::btnAllerClick() {
   const int ligne = Grille.LigneCourante();
   if (ligne < 0 || !AvecChamps()) return;
   const TManque& manque = resultat_.Manques[static_cast<std::size_t>(ligne)];
-  if (manque.Eleve == nullptr) return;  // no record leads there
+  if (!Mene(manque)) return;
   choisi_ = &manque;
   Valider();
 }

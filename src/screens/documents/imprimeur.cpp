@@ -54,6 +54,6 @@ bool TImprimeur::PasseManques(const TResultat& resultat) {
   TFrmManques manques(resultat, SurAllerAuChamp != nullptr);
   const bool imprimer = contexte_.Modale.MontrerModal(manques) == TResultatModal::Valide;
   const TManque* manque = manques.Choisi();
-  if (manque != nullptr && SurAllerAuChamp) SurAllerAuChamp(*manque->Eleve, manque->Champ);
+  if (manque != nullptr && SurAllerAuChamp) SurAllerAuChamp(manque->Eleve, manque->Champ);
   return imprimer && manque == nullptr;
 }

@@ -19,8 +19,9 @@ class TImprimeur {
     jourRepas_ = jour;
     nouveauxRepas_ = nouveauxRepas;
   }
-  /// How to go to a field of a pupil's record; without it nothing leads there.
-  std::function<void(TEleve& eleve, const QString& champ)> SurAllerAuChamp;
+  /// How to go to a field of a pupil's record, or of the school's screen when it is null; without it nothing
+  /// leads there. The screen that asked must outlive it.
+  std::function<void(TEleve* eleve, const QString& champ)> SurAllerAuChamp;
 
   /// The user chooses one of these titles in the wizard, and gets its document. `moisEcran`: the month that
   /// the screen shows, 1 to 12; 0 for none. False when the user gave up.

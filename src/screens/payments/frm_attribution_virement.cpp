@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/comparaisons.h"
+#include "core/exceptions.h"
 #include "core/formats.h"
 #include "screens/payments/frm_paiement.h"
 #include "screens/payments/frm_repartition.h"
@@ -224,7 +225,8 @@ void TFrmAttributionVirement::btnAjoutLibelleClick() {
 void TFrmAttributionVirement::Button3Click() {
   if (!champs_.Verifier()) return;
   champs_.EcrireDans(saisie_);
-  if (TEleve* eleve = EleveChoisi(); eleve != nullptr && Actif()) Crediter(*eleve);
+  TEleve* eleve = Actif() ? EleveChoisi() : nullptr;
+  if (eleve != nullptr && !Crediter(*eleve)) return MontrerMouvement();
   if (!Aller(1)) MontrerMouvement();
 }
 
@@ -244,7 +246,7 @@ void TFrmAttributionVirement::btnRepartirClick() {
   if (choisi != nullptr && std::ranges::find(avecPart, choisi) == avecPart.end()) avecPart.push_back(choisi);
   for (TEleve* eleve : avecPart) repartition.Ajouter(*eleve);
   if (contexte_.Modale.MontrerModal(repartition) != TResultatModal::Valide) return;
-  virements_.Reparti();
+  virements_.MontrerCourant();
   for (const TPartExtrait& part : Globals.Eleves->PartsExtrait(Extrait().Id))
     if (const TEleve* eleve = Globals.Eleves->TrouverParId(part.EleveId))
       payeurs_->Apprendre(Extrait(), *eleve);
@@ -252,14 +254,20 @@ void TFrmAttributionVirement::btnRepartirClick() {
   if (!Aller(1)) MontrerMouvement();
 }
 
-void TFrmAttributionVirement::Crediter(TEleve& eleve) {
+// Refused, the movement shows whom another workstation gave it to.
+bool TFrmAttributionVirement::Crediter(TEleve& eleve) {
   const TExtrait& extrait = Extrait();
-  if (!CrediterEleve({eleve.Id, 0, saisie_.Famille}, extrait, Groupe(), saisie_.Libelle)) {
-    contexte_.Dialogues().Message(u"Ce mouvement est déjà attribué à un élève."_s);
-    return;
+  try {
+    CrediterEntier(extrait, {&eleve, extrait.Montant, saisie_.Famille, Groupe()}, saisie_.Libelle);
+  } catch (const Exception& e) {
+    contexte_.Dialogues().Message(e.Message);
+    Globals.Eleves->ChargerExtraits = true;
+    virements_.MontrerCourant();
+    return false;
   }
   virements_.Attribue(eleve);
   payeurs_->Apprendre(extrait, eleve);
   contexte_.Principal.Etat(TNiveauEtat::Succes,
                            QString(FormatMontant(extrait.Montant) % u" attribués à " % eleve.NomComplet()));
+  return true;
 }

@@ -96,7 +96,7 @@ class TFrmAttributionVirement : public TForm {
   void MontrerMouvement();
   void LireOrdre();
   bool Aller(int pas);
-  void Crediter(TEleve& eleve);
+  bool Crediter(TEleve& eleve);
   TEleve* EleveChoisi() const;
   const TExtrait& Extrait() const;
   QString Cellule(int colonne) const;

@@ -77,9 +77,22 @@ void TFrmVirement::btnEtape1Click() {
   memorise_ = false;
   pret_ = true;  // also when no file is chosen, on an empty list
   RemplirApercu();
+  RelireMouvements();
   const auto chemin = contexte_.Dialogues().ChoisirFichier(
       u"Importer vos virements"_s, u"Relevés de la banque (*.csv *.txt *.cod *.xml)"_s);
   if (chemin) Lire(*chemin);
+}
+
+// What another workstation has stored or given since is not stored or given again. The rows of the list hold
+// the movements, so they go first.
+void TFrmVirement::RelireMouvements() {
+  Globals.Eleves->ChargerExtraits = true;
+  if (contexte_.Controleur.Extraits().EstPerime()) {
+    Historique.Vider();
+    Globals.Extraits.reset();
+    Globals.ExtraitsPrecedents.reset();
+  }
+  RemplirHistorique();
 }
 
 void TFrmVirement::Lire(const QString& chemin) {

@@ -72,8 +72,8 @@ class TFrmVirement : public TForm {
   int Voisine(int pas) const;
   /// The current movement went to that pupil: its row and the counts follow.
   void Attribue(const TEleve& eleve);
-  /// The same when it was shared out, or more of it.
-  void Reparti();
+  /// The row of the current movement, and the counts, from the map of the movements.
+  void MontrerCourant();
 
   QString EnSuspens() const override;
 
@@ -84,11 +84,13 @@ class TFrmVirement : public TForm {
 
  private:
   void Lire(const QString& chemin);
+  void RelireMouvements();
   void RemplirApercu();
   void AjouterFaute();
   void Terminer(TNiveauEtat niveau, const QString& texte);
   void RemplirHistorique();
   void AjouterMouvement(TExtrait& extrait);
+  static TCellules CellulesHistorique(const TExtrait& extrait);
   void Basculer(bool& drapeau);
   /// False, after a word in the status bar, without a current movement.
   bool ExigeMouvement() const;

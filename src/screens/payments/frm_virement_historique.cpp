@@ -40,11 +40,15 @@ void TFrmVirement::AjouterMouvement(TExtrait& extrait) {
   const bool comptabilise = EstComptabilise(extrait);
   ++(comptabilise ? compta_ : inconnu_);
   if (!(comptabilise ? voitComptabilises_ : voitInconnus_)) return;
+  Historique.Ajouter(CellulesHistorique(extrait), &extrait, static_cast<int>(EtatExtrait(extrait)));
+}
+
+TCellules TFrmVirement::CellulesHistorique(const TExtrait& extrait) {
   TCellules cellules = CellulesMouvement(extrait);
   AjouterEleve(cellules, Globals.Eleves->ExtraitVersEleve(extrait.Id));
   if (const QString parts = TexteParts(extrait); !parts.isEmpty()) cellules[Eleve] = parts;
   cellules.push_back(extrait.TypeResponsable > 0 ? TValeurVue(extrait.TypeResponsable) : TValeurVue());
-  Historique.Ajouter(std::move(cellules), &extrait, static_cast<int>(EtatExtrait(extrait)));
+  return cellules;
 }
 
 void TFrmVirement::Basculer(bool& drapeau) {
@@ -107,14 +111,14 @@ void TFrmVirement::Attribue(const TEleve& eleve) {
   Annoncer();
 }
 
-void TFrmVirement::Reparti() {
+void TFrmVirement::MontrerCourant() {
   const int ligne = Historique.LigneCourante();
-  if (Historique.Texte(ligne, Eleve).isEmpty()) {
-    ++compta_;
-    --inconnu_;
-  }
-  Historique.Ecrire(ligne, Eleve, TexteParts(*Courant()));
-  Historique.ChangerEtat(ligne, static_cast<int>(EtatExtrait(*Courant())));
+  const TExtrait& extrait = *Courant();
+  const int devenu = int{EstComptabilise(extrait)} - int{!Historique.Texte(ligne, Eleve).isEmpty()};
+  compta_ += devenu;
+  inconnu_ -= devenu;
+  Historique.EcrireLigne(ligne, CellulesHistorique(extrait));
+  Historique.ChangerEtat(ligne, static_cast<int>(EtatExtrait(extrait)));
   Annoncer();
 }
 

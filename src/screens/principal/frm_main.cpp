@@ -5,6 +5,7 @@
 
 #include "core/accord.h"
 #include "core/mois.h"
+#include "screens/parametres/frm_mon_ecole.h"
 #include "screens/principal/arbre_eleves.h"
 #include "screens/pupils/frm_signaletique.h"
 
@@ -245,6 +246,12 @@ void TFrmMain::Executer(TGestionnaire gestionnaire) {
   outils_ = commande.Outils.value_or(outils_);
   if (commande.PrendEleve) ::Diffuser(TCodeMessage::EleveChange, *form);
   Annoncer();
+}
+
+void TFrmMain::AllerAEcole(const QString& champ) {
+  Executer(TGestionnaire::AdvGlowButton3Click);
+  if (const auto* form = dynamic_cast<TFrmMonEcole*>(Panneau.Courante()))
+    form->Ecole.SurFoyer(form->Ecole.Indice(champ));
 }
 
 bool TFrmMain::OutilVisible(TOutil outil) const { return (outils_ & static_cast<int>(outil)) != 0; }

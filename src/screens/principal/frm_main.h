@@ -126,6 +126,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   // What screens send.
   bool RecevoirMessage(const TMessage& message) override;
   void Envoyer(const TMessage& message) override { RecevoirMessage(message); }
+  void AllerAEcole(const QString& champ) override;
   void Etat(TNiveauEtat niveau, const QString& texte) override;
 
   // What the controller tells.

@@ -55,7 +55,9 @@ TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte)
     contexte_.Principal.Etat(TNiveauEtat::Refus, QString(u"Non enregistré : " % NomDuChamp(champ)));
     contexte_.Dialogues().Message(faute);
   };
-  imprimeur_.SurAllerAuChamp = [this](TEleve& eleve, const QString& champ) { AllerAuChamp(eleve, champ); };
+  imprimeur_.SurAllerAuChamp = [this](TEleve* eleve, const QString& champ) {
+    eleve != nullptr ? AllerAuChamp(*eleve, champ) : contexte_.Principal.AllerAEcole(champ);
+  };
   const int mois = DecodeDate(contexte.Controleur.Horloge().Aujourdhui()).Mois;
   indiceMois_ = std::max(IndiceMoisScolaire(mois), 0);
 }

@@ -6,7 +6,7 @@
 
 void AjouterFiltreEtCopie(Titre& titre, VueGrille& liste, const QString& indication) {
   auto* filtre = new ChampFiltre(indication);
-  filtre->setMinimumWidth(Theme::Px(120));  // a long title takes its room on a small screen
+  filtre->setMinimumWidth(Theme::Px(104));  // it gives way to a long title on a small window
   filtre->setMaximumWidth(Theme::Px(200));
   liste.Filtrer(*filtre);
   QPushButton* copier = BoutonDiscret(u"Copier"_s, u"edit-copy"_s);

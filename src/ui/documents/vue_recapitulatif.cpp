@@ -2,8 +2,10 @@
 
 #include <QComboBox>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <functional>
 
 #include "screens/documents/frm_recapitulatif.h"
@@ -19,11 +21,33 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Seven titles that all stand in sight on a small window: each is cut there, and its tip has it whole.
+class BarrePages : public QTabBar {
+ protected:
+  QSize minimumTabSizeHint(int index) const override {
+    const QSize entier = tabSizeHint(index);
+    return {std::min(entier.width(), Theme::Px(80)), entier.height()};
+  }
+};
+
+class Pages : public QTabWidget {
+ public:
+  Pages() {
+    setTabBar(new BarrePages);
+    setUsesScrollButtons(false);
+    setElideMode(Qt::ElideRight);
+  }
+};
+
+}  // namespace
+
 VueRecapitulatif::VueRecapitulatif(TFrmRecapitulatif& form, QWidget* parent)
     : QScrollArea(parent),
       form_(form),
       liaison_(new LiaisonChamps(form.Champs(), this)),
-      onglets_(new QTabWidget) {
+      onglets_(new Pages) {
   ColonneEcran(*this, u"Statistiques"_s)->addWidget(onglets_, 1);
   CreerImpayes();
   CreerPositives();
@@ -34,7 +58,6 @@ VueRecapitulatif::VueRecapitulatif(TFrmRecapitulatif& form, QWidget* parent)
   CreerFrais();
   onglets_->setObjectName(u"AdvOfficePager1"_s);
   onglets_->setAccessibleName(u"Pages des statistiques"_s);
-  onglets_->setUsesScrollButtons(true);
   connect(onglets_, &QTabWidget::currentChanged, this, [this](int page) { form_.ChoisirPage(page); });
   liens_ += form_.SurChangement.Suivre([this] { Actualiser(); });
   setFocusProxy(onglets_);
@@ -43,7 +66,8 @@ VueRecapitulatif::VueRecapitulatif(TFrmRecapitulatif& form, QWidget* parent)
 
 PageStatistique* VueRecapitulatif::AjouterPage(const QString& titre, QWidget* liste) {
   auto* page = new PageStatistique(titre, liste);
-  onglets_->addTab(page, TFrmRecapitulatif::Titres().at(onglets_->count()));
+  const QString onglet = TFrmRecapitulatif::Titres().at(onglets_->count());
+  onglets_->setTabToolTip(onglets_->addTab(page, onglet), onglet);
   pages_.push_back(page);
   return page;
 }

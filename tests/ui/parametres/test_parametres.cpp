@@ -227,6 +227,8 @@ TEST_F(MonEcole, EachFieldWritesItsSetting) {
     EXPECT_EQ(Parametre(champs[i + 1].toInt()), u"0%1"_s.arg(champs[i + 1])) << champs[i].toStdString();
   }
   EXPECT_TRUE(Etat().contains("n'est pas un numéro d'entreprise")) << Etat().toStdString();
+  Programme.Main().AllerAEcole("edNumeroEntreprise");
+  EXPECT_TRUE(Controle<QLineEdit>("edNumeroEntreprise").hasFocus()) << "whence a paper lacks it";
   Saisir("edNumeroEntreprise", "0999.999.922");
   EXPECT_FALSE(Etat().contains("n'est pas")) << Etat().toStdString();
   Saisir("edHeureFinLMJV", "25");
