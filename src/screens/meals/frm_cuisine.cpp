@@ -8,7 +8,11 @@ using namespace Qt::StringLiterals;
 TFrmCuisine::TFrmCuisine(TContexteEcran& contexte, const TGenerationRepas& generation)
     : contexte_(contexte),
       generation_(generation),
-      imprimeur_(contexte, TitresOfferts(TListeTitres::Cuisine)) {}
+      imprimeur_(contexte, TitresOfferts(TListeTitres::Cuisine)) {
+  imprimeur_.SurSortie = [this](const TRapport& rapport) {
+    if (rapport.Modele() == "FichePreparation"_L1) NoterImpression();
+  };
+}
 
 void TFrmCuisine::FormShow() {
   date_.Definir(contexte_.Controleur.Horloge().Aujourdhui());
@@ -32,6 +36,7 @@ void TFrmCuisine::ChangerJour(void (TJourEcran::*pas)()) {
 
 void TFrmCuisine::Recapituler() {
   jour_ = JourDeCuisine(*Globals.Eleves, date_.Jour());
+  contenu_ = ContenuDeFiche(jour_, generation_);
   Arbre.Vider();
   for (const TClasseDuJour& classe : jour_.Classes) {
     const auto lignes = LignesDeClasse(classe, generation_);
@@ -52,26 +57,25 @@ QString TFrmCuisine::NoteIncompletes() const {
 
 QString TFrmCuisine::NoteChangements() const {
   if (imprimee_.Jour != jour_.Jour) return {};
-  const QStringList changements = imprimee_.Changements(ComptesCuisine(jour_, generation_));
+  const QStringList changements = imprimee_.Changements(contenu_);
   if (changements.isEmpty()) return {};
-  return u"Depuis l'impression du %1 à %2 : %3"_s.arg(
+  return u"Depuis l'impression de la fiche, le %1 à %2 : %3"_s.arg(
       FormatDate(imprimee_.Moment), FormatHeure(imprimee_.Moment), changements.join(u"  ·  "));
 }
 
 bool TFrmCuisine::RecevoirMessage(const TMessage& message) {
   imprimeur_.DefinirJourRepas(jour_.Jour, &generation_ == &GenerationRepas(true));
   if (message.Code == TCodeMessage::Imprimer) {
-    NoterImpression(imprimeur_.Proposer(TitresOfferts(TListeTitres::Cuisine)));
+    imprimeur_.Proposer(TitresOfferts(TListeTitres::Cuisine));
     return true;
   }
   if (message.Code != TCodeMessage::AssistantConfirme) return false;
-  if (const auto* choix = message.En<TChoixDocument>()) NoterImpression(imprimeur_.Imprimer(*choix));
+  if (const auto* choix = message.En<TChoixDocument>()) imprimeur_.Imprimer(*choix);
   return true;
 }
 
-void TFrmCuisine::NoterImpression(bool imprime) {
-  if (!imprime) return;
-  imprimee_ = {jour_.Jour, contexte_.Controleur.Horloge().Maintenant(), ComptesCuisine(jour_, generation_)};
+void TFrmCuisine::NoterImpression() {
+  imprimee_ = {jour_.Jour, contexte_.Controleur.Horloge().Maintenant(), contenu_};
   imprimee_.Memoriser(contexte_.Controleur.Reglages(), generation_);
   Annoncer();
 }
