@@ -152,6 +152,16 @@ TResultat TicketsParents(const TContexteDocument& contexte, const TElevesChoisis
   return Presenter(std::move(rapport), std::move(arbre), u"Aucun relevé à imprimer."_s);
 }
 
+TResultat ListeSousTrois(const TContexteDocument& contexte, const TGrille& liste, TDateTime jour) {
+  TRapport rapport(u"Élèves avec moins de 3 tickets"_s, u"RepDynamicFromListviewPortrait"_s);
+  rapport.AjouterVariable(u"NomRapportSSTitre", u"Situation au " % FormatDateLongue(jour));
+  rapport.AjouterVariable(u"NomEcole", contexte.Parametres.GetParametre(TParam::NomEcole));
+  rapport.ChargerColonnesListe(liste);
+  TResultat resultat;
+  resultat.Rapports.push_back(std::move(rapport));
+  return resultat;
+}
+
 TResultat TicketsVendus(const TContexteDocument& contexte, const TPeriode& periode) {
   static constexpr struct {
     const char16_t* Titre;

@@ -1,5 +1,7 @@
 #include "workflows/vente_tickets.h"
 
+#include <algorithm>
+
 #include "core/conversions.h"
 #include "core/dialogues.h"
 #include "core/exceptions.h"
@@ -30,6 +32,19 @@ TCompteursTickets CompterTickets(const TClasse& classe) {
     compteurs.Bas += niveau == TNiveauTickets::Bas;
   }
   return compteurs;
+}
+
+std::vector<TEleve*> ElevesSousTrois(const TEleves& eleves) {
+  eleves.LireSoldesTickets(eleves.Tous());
+  std::vector<TEleve*> trouves;
+  for (const auto& classe : eleves.Classes())
+    for (TEleve* eleve : classe->ListeEleves) {
+      const TNiveauTickets niveau = NiveauTickets(eleve->SoldeTickets());
+      if (niveau == TNiveauTickets::Negatif || (niveau != TNiveauTickets::Suffisant && !eleve->FlgRadie))
+        trouves.push_back(eleve);
+    }
+  std::ranges::stable_sort(trouves, {}, &TEleve::SoldeTickets);
+  return trouves;
 }
 
 bool EstNombreTickets(int nombre) { return nombre >= 1 && nombre <= kTicketsMaximum; }
