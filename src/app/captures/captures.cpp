@@ -127,7 +127,11 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
   const QTemporaryDir poste;
   PreparerPoste(poste, base);
   if (!QDir().mkpath(sujet.Dossier)) throw Exception(u"« " % sujet.Dossier % u" » ne peut pas être créé.");
-  Tablette(application, poste, QFileInfo(base).dir().filePath(u"tablette"_s), sujet);
+  if (const QString tablette = QFileInfo(base).dir().filePath(u"tablette"_s); QDir(tablette).exists())
+    Tablette(application, poste, tablette, sujet);
+  else
+    QTextStream(stderr) << "« " << tablette
+                        << " » n'existe pas : les écrans de la tablette ne sont pas pris.\n";
   Globals = {};
   Ecrans(application, sujet);
   Globals = {};
