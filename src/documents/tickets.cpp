@@ -1,5 +1,6 @@
 #include "documents/tickets.h"
 
+#include "core/accord.h"
 #include "core/formats.h"
 #include "core/mois.h"
 #include "core/parametres.h"
@@ -32,8 +33,7 @@ QString TypeRepas(const TCommande* commande) {
 
 QString TitreAchat(TDateTime date, int nombre) {
   if (date == 0.0) return u"Tickets manquants"_s;
-  return FormatDate(date) % u" : Achat de " % QString::number(nombre) %
-         (nombre == 1 ? u" ticket" : u" tickets");
+  return FormatDate(date) % u" : Achat de " % Compter(nombre, u"ticket"_s, u"tickets"_s);
 }
 
 void AjouterTicket(TNoeudRapport& achat, const TEleve& eleve, const TTicket& ticket) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/accord.h"
 #include "core/conversions.h"
 #include "core/dialogues.h"
 #include "core/exceptions.h"
@@ -64,8 +65,7 @@ QString RefusPrixTicket(Currency prix) {
 QString AnnonceVente(const TEleve& eleve, int nombre) {
   const int regles = qMin(nombre, eleve.GetTickets().NombreManquants());
   if (regles <= 0) return {};
-  return regles == 1 ? u"1 ticket manquant sera réglé."_s
-                     : u"%1 tickets manquants seront réglés."_s.arg(regles);
+  return Compter(regles, u"ticket manquant sera réglé."_s, u"tickets manquants seront réglés."_s);
 }
 
 bool SupprimerTicket(IDialogues& dialogues, TEleve& eleve, TTicket& ticket) {

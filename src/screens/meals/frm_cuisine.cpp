@@ -1,5 +1,6 @@
 #include "screens/meals/frm_cuisine.h"
 
+#include "core/accord.h"
 #include "core/formats.h"
 #include "pupils/eleves.h"
 
@@ -49,10 +50,9 @@ void TFrmCuisine::Recapituler() {
 
 QString TFrmCuisine::NoteIncompletes() const {
   if (!generation_.AvecVerrou || jour_.Incompletes == 0) return {};
-  return jour_.Incompletes == 1
-             ? u"1 commande incomplète : elle est dans les totaux et dans aucune variété."_s
-             : u"%1 commandes incomplètes : elles sont dans les totaux et dans aucune variété."_s.arg(
-                   jour_.Incompletes);
+  return Compter(jour_.Incompletes,
+                 u"commande incomplète : elle est dans les totaux et dans aucune variété."_s,
+                 u"commandes incomplètes : elles sont dans les totaux et dans aucune variété."_s);
 }
 
 QString TFrmCuisine::NoteChangements() const {

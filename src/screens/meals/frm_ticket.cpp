@@ -228,7 +228,7 @@ void TFrmTicket::AdvGlowButton3Click() {
   if (!ExigeTicket()) return;
   TEleve& eleve = *Courant();
   const int ticket = TicketCourant()->Id;
-  TFrmTransfertTicket transfert;
+  TFrmTransfertTicket transfert(contexte_.Dialogues());
   if (contexte_.Modale.MontrerModal(transfert) != TResultatModal::Valide || transfert.Choisi() == nullptr)
     return;
   Changer(eleve, [&] {
