@@ -211,6 +211,7 @@ void TControleur::PasserHorsLigne() {
   OublierDonnees();
   base_.Deconnecter();
   Globals.ModeHorsLigne = true;
+  fenetre_.IntitulerAnnee({});
   PagesTablette();
 }
 

@@ -1,5 +1,6 @@
 #include "documents/tickets.h"
 
+#include "core/accord.h"
 #include "core/formats.h"
 #include "core/mois.h"
 #include "core/parametres.h"
@@ -32,8 +33,7 @@ QString TypeRepas(const TCommande* commande) {
 
 QString TitreAchat(TDateTime date, int nombre) {
   if (date == 0.0) return u"Tickets manquants"_s;
-  return FormatDate(date) % u" : Achat de " % QString::number(nombre) %
-         (nombre == 1 ? u" ticket" : u" tickets");
+  return FormatDate(date) % u" : Achat de " % Compter(nombre, u"ticket"_s, u"tickets"_s);
 }
 
 void AjouterTicket(TNoeudRapport& achat, const TEleve& eleve, const TTicket& ticket) {
@@ -150,6 +150,16 @@ TResultat TicketsParents(const TContexteDocument& contexte, const TElevesChoisis
   for (const TEleve* eleve : eleves) arbre.push_back(NoeudTickets(*eleve, jour));
   SupprimerNoeudsVides(arbre);
   return Presenter(std::move(rapport), std::move(arbre), u"Aucun relevé à imprimer."_s);
+}
+
+TResultat ListeSousTrois(const TContexteDocument& contexte, const TGrille& liste, TDateTime jour) {
+  TRapport rapport(u"Élèves avec moins de 3 tickets"_s, u"RepDynamicFromListviewPortrait"_s);
+  rapport.AjouterVariable(u"NomRapportSSTitre", u"Situation au " % FormatDateLongue(jour));
+  rapport.AjouterVariable(u"NomEcole", contexte.Parametres.GetParametre(TParam::NomEcole));
+  rapport.ChargerColonnesListe(liste);
+  TResultat resultat;
+  resultat.Rapports.push_back(std::move(rapport));
+  return resultat;
 }
 
 TResultat TicketsVendus(const TContexteDocument& contexte, const TPeriode& periode) {

@@ -92,6 +92,11 @@ void TGrille::ChangerEtat(int ligne, int etat) {
   Annoncer(ligne);
 }
 
+void TGrille::Barrer(int ligne) {
+  Modifiable(ligne).Barree = true;
+  Annoncer(ligne);
+}
+
 void TGrille::Cocher(int ligne, bool coche) {
   Modifiable(ligne).Coche = coche;
   Annoncer(ligne);

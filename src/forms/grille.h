@@ -13,12 +13,17 @@ struct TColonneGrille {
   int Largeur = 100;  ///< in 1/96 inch
   TGenre Genre = TGenre::Texte;
   bool SuitEtat = false;  ///< bold, in the colour of the state of its row
+  bool Egale = false;     ///< as wide as the others that are
 };
+
+/// The colour of a state.
+enum class TTon { Icone /* that of its icon */, RougeFonce, Rouge, Vert };
 
 /// A state of the rows: a word and the name of an icon, never a colour alone.
 struct TEtatGrille {
   QString Texte;
   QString Icone;
+  TTon Ton = TTon::Icone;
 };
 
 struct TLigneGrille {
@@ -27,6 +32,7 @@ struct TLigneGrille {
   int Etat = 0;  ///< index into the states of the grid
   bool Coche = false;
   bool SansCase = false;  ///< nothing to tick on it
+  bool Barree = false;    ///< its first cell is crossed out: who has left
   bool Tete = false;      ///< heads the rows below it, down to the next head
 
   /// Nothing for a cell that was never written.
@@ -86,6 +92,7 @@ class TGrille {
   void EcrireLigne(int ligne, TCellules cellules);
   void ChangerObjet(int ligne, TObjetVu objet);
   void ChangerEtat(int ligne, int etat);
+  void Barrer(int ligne);
   void Cocher(int ligne, bool coche);
   void CocherTout(bool coche);
   /// The row has no box, in a grid that shows boxes.

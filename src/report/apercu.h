@@ -7,6 +7,6 @@ class IApercu {
  public:
   virtual ~IApercu() = default;
 
-  /// Modal: returns when the preview is closed.
-  virtual void Afficher(TRapport& rapport) = 0;
+  /// Modal: returns when the preview is closed. True when the report went to a printer or into a PDF.
+  virtual bool Afficher(TRapport& rapport) = 0;
 };

@@ -3,10 +3,12 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "core/accord.h"
 #include "core/curseur.h"
 #include "core/exceptions.h"
 #include "core/fichiers.h"
 #include "core/formats.h"
+#include "core/mois.h"
 #include "pupils/photo.h"
 
 using namespace Qt::StringLiterals;
@@ -220,9 +222,8 @@ bool TTransfertRepas::AccepterAnomalies() const {
   const auto nombre = static_cast<int>(import_.Anomalies().size());
   if (nombre == 0) return true;
   return controleur_.Dialogues().ConfirmerGrave(
-      (nombre == 1 ? u"1 repas ne sera pas enregistré.\n"_s
-                   : u"%1 repas ne seront pas enregistrés.\n"_s.arg(nombre)) +
-      u"Souhaitez-vous tout de même continuer la procédure ?"_s);
+      Compter(nombre, u"repas ne sera pas enregistré."_s, u"repas ne seront pas enregistrés."_s) %
+      u"\nSouhaitez-vous tout de même continuer la procédure ?"_s);
 }
 
 // They are stored and seen in no year, nor would a second import of them be recognised.
@@ -236,11 +237,10 @@ bool TTransfertRepas::AccepterHorsAnnee() const {
   }
   if (nombre == 0) return true;
   return controleur_.Dialogues().ConfirmerGrave(
-      u"%1 repas hors de l'année scolaire %2 - %3 (le premier, du %4) : ils seront enregistrés, mais ne se "
-      "verront pas dans cette année. L'horloge de la tablette est-elle juste ? Souhaitez-vous tout de même "
-      "les "
-      "enregistrer ?"_s.arg(nombre)
-          .arg(Globals.Eleves->AnneeScolaire)
-          .arg(Globals.Eleves->AnneeScolaire + 1)
-          .arg(FormatDate(premier)));
+      u"%1 repas hors de l'année scolaire %2 (le premier, du %3) : %4 dans cette année. L'horloge de la "
+      "tablette est-elle juste ? Souhaitez-vous tout de même %5 ?"_s.arg(nombre)
+          .arg(AnneeEnTexte(Globals.Eleves->AnneeScolaire), FormatDate(premier),
+               Accorder(nombre, u"il sera enregistré, mais ne se verra pas"_s,
+                        u"ils seront enregistrés, mais ne se verront pas"_s),
+               Accorder(nombre, u"l'enregistrer"_s, u"les enregistrer"_s)));
 }

@@ -1,5 +1,8 @@
 #include "workflows/vente_tickets.h"
 
+#include <algorithm>
+
+#include "core/accord.h"
 #include "core/conversions.h"
 #include "core/dialogues.h"
 #include "core/exceptions.h"
@@ -32,6 +35,19 @@ TCompteursTickets CompterTickets(const TClasse& classe) {
   return compteurs;
 }
 
+std::vector<TEleve*> ElevesSousTrois(const TEleves& eleves) {
+  eleves.LireSoldesTickets(eleves.Tous());
+  std::vector<TEleve*> trouves;
+  for (const auto& classe : eleves.Classes())
+    for (TEleve* eleve : classe->ListeEleves) {
+      const TNiveauTickets niveau = NiveauTickets(eleve->SoldeTickets());
+      if (niveau == TNiveauTickets::Negatif || (niveau != TNiveauTickets::Suffisant && !eleve->FlgRadie))
+        trouves.push_back(eleve);
+    }
+  std::ranges::stable_sort(trouves, {}, &TEleve::SoldeTickets);
+  return trouves;
+}
+
 bool EstNombreTickets(int nombre) { return nombre >= 1 && nombre <= kTicketsMaximum; }
 
 QString RefusNombreTickets() { return u"Le nombre de tickets va de 1 à %1."_s.arg(kTicketsMaximum); }
@@ -49,8 +65,7 @@ QString RefusPrixTicket(Currency prix) {
 QString AnnonceVente(const TEleve& eleve, int nombre) {
   const int regles = qMin(nombre, eleve.GetTickets().NombreManquants());
   if (regles <= 0) return {};
-  return regles == 1 ? u"1 ticket manquant sera réglé."_s
-                     : u"%1 tickets manquants seront réglés."_s.arg(regles);
+  return Compter(regles, u"ticket manquant sera réglé."_s, u"tickets manquants seront réglés."_s);
 }
 
 bool SupprimerTicket(IDialogues& dialogues, TEleve& eleve, TTicket& ticket) {

@@ -1,11 +1,13 @@
 #pragma once
 #include <QString>
+#include <vector>
 
 #include "core/currency.h"
 
 class IDialogues;
 class TClasse;
 class TEleve;
+class TEleves;
 struct TTicket;
 
 /// How many tickets a pupil has left, as the canteen sees it.
@@ -22,6 +24,9 @@ struct TCompteursTickets {
 
 /// Reads the balances of the class in one statement.
 TCompteursTickets CompterTickets(const TClasse& classe);
+/// The pupils of the school with less than three tickets, who owes most first, then in the order of the
+/// classes; of those who have left only who owes some. Reads the balances in one statement.
+std::vector<TEleve*> ElevesSousTrois(const TEleves& eleves);
 
 /// So many tickets may be sold at once: 1 to 999.
 bool EstNombreTickets(int nombre);

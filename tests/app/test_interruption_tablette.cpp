@@ -13,10 +13,10 @@
 namespace {
 
 constexpr int kEleves = 30;
-constexpr int kMorts = 25;
+constexpr int kMortsTransfert = 40, kMortsRepas = 56;  // 100 with those of the window
 
 /// So many times the program is killed; CALPENNE_MORTS asks for more.
-int Morts() { return qMax(kMorts, qEnvironmentVariableIntValue("CALPENNE_MORTS")); }
+int Morts(int moindre) { return qMax(moindre, qEnvironmentVariableIntValue("CALPENNE_MORTS")); }
 constexpr int kLimiteMs = 60'000;
 
 class TTabletteInterrompue : public TProgrammeEssai {
@@ -115,10 +115,11 @@ TEST_F(TTabletteInterrompue, ATransfer) {
   const auto duree = static_cast<double>(Executer(transfert));
   std::mt19937 hasard(2016);
   int entames = 0;
-  for (int essai = 0; essai < Morts(); ++essai) {
+  const int morts = Morts(kMortsTransfert);
+  for (int essai = 0; essai < morts; ++essai) {
     // Spread over the run, at random within each part of it.
     const double part = essai + std::uniform_real_distribution<>(0.0, 1.0)(hasard);
-    const int fatal = 1 + static_cast<int>(duree * part / Morts());
+    const int fatal = 1 + static_cast<int>(duree * part / morts);
     SCOPED_TRACE(fatal);
     Preparer(repas);
     Executer(transfert, fatal);
@@ -151,7 +152,7 @@ TEST_F(TTabletteInterrompue, Taps) {
     tout += QByteArray::number(n) + "1;2;20161003;120000000;1\n";
   }
   std::mt19937 hasard(2016);
-  for (int essai = 0; essai < Morts(); ++essai) {
+  for (int essai = 0; essai < Morts(kMortsRepas); ++essai) {
     const int fatal = std::uniform_int_distribution(1, kEleves)(hasard);
     SCOPED_TRACE(fatal);
     QFile::remove(Chemin("presences/presences.txt"));

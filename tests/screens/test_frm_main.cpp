@@ -32,7 +32,7 @@ struct TModaleEssai : IFenetreModale {
 };
 
 struct TApercuEssai : IApercu {
-  void Afficher(TRapport&) override {}
+  bool Afficher(TRapport&) override { return false; }
 };
 
 /// The main window over a test's database.

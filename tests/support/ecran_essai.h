@@ -14,7 +14,10 @@ class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal
     if (SurModale) SurModale(form);
     return form.ResultatModal;
   }
-  void Afficher(TRapport& rapport) override { Apercus += rapport.Titre(); }
+  bool Afficher(TRapport& rapport) override {
+    Apercus += rapport.Titre();
+    return false;
+  }
   void Envoyer(const TMessage&) override { ++Envois; }
   void AllerAEcole(const QString& champ) override { ChampEcole = champ; }
   void Etat(TNiveauEtat niveau, const QString& texte) override {

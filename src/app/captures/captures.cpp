@@ -5,9 +5,11 @@
 #include <QFont>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <functional>
 
 #include "app/captures/photographe.h"
 #include "core/data_module.h"
+#include "core/fichiers.h"
 #include "core/parametres.h"
 #include "ui/commun/theme.h"
 #include "ui/principal/application.h"
@@ -26,7 +28,8 @@ void DireAutres(QtMsgType genre, const QMessageLogContext& contexte, const QStri
 /// The day of the pictures, so that two runs give the same.
 class THorlogeFixe : public THorloge {
  public:
-  TDateTime Maintenant() const override { return EncodeDate(2016, 11, 22) + EncodeTime(9, 30, 0); }
+  TDateTime Maintenant() const override { return Moment; }
+  TDateTime Moment = EncodeDate(2016, 11, 22) + EncodeTime(9, 30, 0);
 };
 
 /// The school as it was on the day of the pictures: the year that follows is not open yet.
@@ -86,17 +89,13 @@ void Commencer(Application& application, const QTemporaryDir& poste, const TSuje
   programme.Fenetre.close();
 }
 
-/// A tablet that serves without a server, from a copy of its folder; at the size of a tablet.
-void Tablette(Application& application, const QTemporaryDir& poste, const QString& dossier,
-              const TSujet& sujet) {
-  const QString copie = poste.filePath(u"tablette"_s);
-  QDir().mkpath(copie);
-  for (const QString& fichier : QDir(dossier).entryList(QDir::Files))
-    QFile::copy(dossier % u'/' % fichier, copie % u'/' % fichier);
+/// A tablet that serves without a server, at its size in both palettes; its folder may be empty.
+void Tablette(Application& application, const QString& dossier, const TSujet& sujet,
+              const std::function<void(Photographe&, THorlogeFixe&, const QString&)>& prendre) {
   TReglagesPoste reglages;
-  reglages.Ecrire(TRacine::Utilisateur, u"DossierPresences"_s, copie);
+  reglages.Ecrire(TRacine::Utilisateur, u"DossierPresences"_s, dossier);
   reglages.Ecrire(TRacine::Utilisateur, u"Offline"_s, u"1"_s);
-  const THorlogeFixe horloge;
+  THorlogeFixe horloge;
   Programme programme(horloge);
   programme.Fenetre.Demarrer();
   Attendre(50);
@@ -104,11 +103,41 @@ void Tablette(Application& application, const QTemporaryDir& poste, const QStrin
   for (const auto& [mode, suffixe] : {std::pair(Theme::TMode::Clair, u"-1280x800"_s),
                                       std::pair(Theme::TMode::Sombre, u"-sombre-1280x800"_s)}) {
     Theme::Appliquer(application, mode);
+    programme.Fenetre.showNormal();
     programme.Fenetre.resize(1280, 800);
-    photographe.Tablette(suffixe);
+    prendre(photographe, horloge, suffixe);
   }
   programme.Fenetre.close();
-  reglages.Ecrire(TRacine::Utilisateur, u"Offline"_s, u"0"_s);
+  Globals = {};
+  for (const QString& nom : {u"Offline"_s, u"Tablette"_s}) reglages.Ecrire(TRacine::Utilisateur, nom, u"0"_s);
+}
+
+/// Serving, its clock wrong, its meals on their way; then a tablet that has no pupils yet.
+void Tablettes(Application& application, const QTemporaryDir& poste, const QString& dossier,
+               const TSujet& sujet) {
+  const QString copie = poste.filePath(u"tablette"_s);
+  QDir().mkpath(copie);
+  for (const QString& fichier : QDir(dossier).entryList(QDir::Files))
+    QFile::copy(dossier % u'/' % fichier, copie % u'/' % fichier);
+  Tablette(application, copie, sujet,
+           [](Photographe& photographe, THorlogeFixe& horloge, const QString& suffixe) {
+             photographe.Tablette(suffixe);
+             horloge.Moment += 2000.0;
+             photographe.TabletteAuRouge();
+             horloge.Moment -= 2000.0;
+           });
+  // Who is not of the year, and a Sunday.
+  const QString repas = copie % u"/presences.txt";
+  QByteArray lignes = LireFichier(repas);
+  lignes += "999;2;20161122;120000000;1\n553701772;2;20161120;120000000;1\n";
+  EcrireFichier(repas, lignes);
+  Tablette(application, copie, sujet, [](Photographe& photographe, THorlogeFixe&, const QString& suffixe) {
+    photographe.Transfert(suffixe);
+  });
+  Tablette(application, poste.filePath(u"neuve"_s), sujet,
+           [](Photographe& photographe, THorlogeFixe&, const QString& suffixe) {
+             photographe.TabletteVide(suffixe);
+           });
 }
 
 void Ecrans(Application& application, const TSujet& sujet) {
@@ -127,8 +156,11 @@ void Executer(Application& application, const QString& base, const TSujet& sujet
   const QTemporaryDir poste;
   PreparerPoste(poste, base);
   if (!QDir().mkpath(sujet.Dossier)) throw Exception(u"« " % sujet.Dossier % u" » ne peut pas être créé.");
-  Tablette(application, poste, QFileInfo(base).dir().filePath(u"tablette"_s), sujet);
-  Globals = {};
+  if (const QString tablette = QFileInfo(base).dir().filePath(u"tablette"_s); QDir(tablette).exists())
+    Tablettes(application, poste, tablette, sujet);
+  else
+    QTextStream(stderr) << "« " << tablette
+                        << " » n'existe pas : les écrans de la tablette ne sont pas pris.\n";
   Ecrans(application, sujet);
   Globals = {};
   Commencer(application, poste, sujet);

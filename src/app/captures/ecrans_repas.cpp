@@ -7,6 +7,7 @@
 #include "screens/meals/frm_presence_repas.h"
 #include "screens/meals/frm_reservation.h"
 #include "screens/meals/frm_ticket.h"
+#include "ui/commun/vue_grille.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +22,32 @@ void Photographe::Tablette(const QString& suffixe) {
   Prendre(u"tablette-recherche"_s);
 }
 
+void Photographe::TabletteAuRouge() {
+  auto& form = Ecran<TFrmPresenceRepas>();
+  form.btnClasseClick(*form.ClassesDeLAnnee().front().Classe);
+  form.Horloge();
+  Prendre(u"tablette-horloge"_s);
+}
+
+void Photographe::TabletteVide(const QString& suffixe) {
+  suffixe_ = suffixe;
+  programme_.Main.Executer(TGestionnaire::btnReservationTabletteClick);
+  Prendre(u"tablette-vide"_s);
+}
+
+void Photographe::Transfert(const QString& suffixe) {
+  suffixe_ = suffixe;
+  programme_.Main.Executer(TGestionnaire::btnReservationTabletteClick);
+  Suivre({[this](QWidget& question) {
+    Prendre(programme_.Fenetre, u"transfert-repas"_s);
+    Prendre(question, u"transfert-repas-question"_s);
+    Bouton(question, u"Non"_s)->click();
+    return true;
+  }});
+  programme_.Main.Executer(TGestionnaire::btnTransfertRepasClick);
+  Attendre(50);
+}
+
 void Photographe::Repas() {
   using enum TGestionnaire;
   TFrmMain& main = programme_.Main;
@@ -33,6 +60,14 @@ void Photographe::Repas() {
   Prendre(u"tickets-detail"_s);
   Suivre({Photo(u"tickets-vente"_s)});
   tickets.btnEtape1Click();
+  tickets.Detail.ChoisirLigne(1);
+  Suivre({[this](QWidget& fenetre) {
+    fenetre.findChild<VueGrille*>()->Grille().ChoisirLigne(2);
+    return Photo(u"tickets-transfert"_s)(fenetre);
+  }});
+  tickets.AdvGlowButton3Click();
+  tickets.ChoisirPage(2);
+  Prendre(u"tickets-sous-trois"_s);
   int classe = 0;  // several sites name theirs behind the class
   while (!ChoixDeClasses()[classe].startsWith(tickets.NomClasse())) ++classe;
   for (const auto& [ecran, nom] : {std::pair(btnReservationClick, u"reservation"_s),

@@ -30,8 +30,14 @@ class Photographe : public QObject {
 
   /// Every screen of an office.
   void Tout(const QString& suffixe);
-  /// The tablet: years, a class, and the transfer that has been refused.
+  /// The tablet: a class, and a search.
   void Tablette(const QString& suffixe);
+  /// The same class on a day that the clock cannot mean.
+  void TabletteAuRouge();
+  /// A tablet without pupils.
+  void TabletteVide(const QString& suffixe);
+  /// The transfer, while it asks about its anomalies; it is refused.
+  void Transfert(const QString& suffixe);
   /// A database that is not there yet is made, and the window shows what comes first.
   void Commencer();
   void PremiereUtilisation(const QString& suffixe);

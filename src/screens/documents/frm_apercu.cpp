@@ -292,7 +292,7 @@ void TFrmApercu::btnImprimerClick() {
   Terminer();
   QString imprimante;
   if (Essayer([&] { SurImprimer(document_, imprimante); }) && !imprimante.isEmpty())
-    Dire(TNiveauEtat::Succes, u"Envoyé : " % imprimante);
+    Sortir(u"Envoyé : " % imprimante);
 }
 
 void TFrmApercu::btnExporterClick() {
@@ -302,7 +302,7 @@ void TFrmApercu::btnExporterClick() {
   if (Essayer([&] {
         EcrirePdf({&document_}, document_.Titre, Globals.Parametres->GetParametre(TParam::NomEcole), *chemin);
       }))
-    Dire(TNiveauEtat::Succes, u"Exporté : " % *chemin);
+    Sortir(u"Exporté : " % *chemin);
 }
 
 void TFrmApercu::btnEnregistrerClick() {
@@ -334,6 +334,11 @@ bool TFrmApercu::Essayer(const std::function<void()>& action) {
     Dialogues().Message(e.Message);
     return false;
   }
+}
+
+void TFrmApercu::Sortir(const QString& texte) {
+  sorti_ = sorti_ || modele_ != nullptr;
+  Dire(TNiveauEtat::Succes, texte);
 }
 
 void TFrmApercu::Dire(TNiveauEtat niveau, const QString& texte) {

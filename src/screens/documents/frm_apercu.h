@@ -88,6 +88,8 @@ class TFrmApercu : public TForm {
   void btnEnregistrerClick();
   void btnOuvrirClick();
   void btnFermerClick();
+  /// The report went to a printer or into a PDF; one that was opened from a file does not count.
+  bool EstSorti() const { return sorti_; }
   /// False for a report that was opened from a file.
   bool PapierModifiable() const { return modele_ != nullptr; }
   TPapier Papier() const;
@@ -117,6 +119,7 @@ class TFrmApercu : public TForm {
   void Suivre();
   void ZoomVoisin(int sens);
   void MontrerTrouvaille(const TTrouvaille* trouvaille);
+  void Sortir(const QString& texte);
   void Dire(TNiveauEtat niveau, const QString& texte);
   bool Essayer(const std::function<void()>& action);
   std::optional<QString> Demander(const QString& titre, const QString& extension, const QString& filtre);
@@ -138,5 +141,6 @@ class TFrmApercu : public TForm {
   double facteur_ = 1.0;
   QSizeF vue_{794, 1123};
   TRechercheDocument recherche_;
+  bool sorti_ = false;
   bool choixAttendu_ = false;  ///< the search has found nothing yet
 };

@@ -4,7 +4,7 @@
 #include "screens/documents/frm_manques.h"
 #include "screens/payments/frm_date_paiement.h"
 
-bool TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
+void TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
   titres_ = std::move(titres);
   std::vector<TTitreAssistant> offerts;
   for (const TTitreOffert& titre : titres_)
@@ -14,11 +14,11 @@ bool TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
   demande.PageQui = std::ranges::any_of(titres_, [](const auto& titre) { return titre.Montre->AvecEleves; });
   demande.MoisEcran = moisEcran;
   auto choix = contexte_.Assistant->Demander(demande);
-  return choix && Imprimer(std::move(*choix));
+  if (choix) Imprimer(std::move(*choix));
 }
 
-bool TImprimeur::Imprimer(TChoixDocument choix) {
-  if (choix.Indice < 0 || choix.Indice >= std::ssize(titres_)) return false;
+void TImprimeur::Imprimer(TChoixDocument choix) {
+  if (choix.Indice < 0 || choix.Indice >= std::ssize(titres_)) return;
   const TTitreDocument& titre = *titres_[static_cast<std::size_t>(choix.Indice)].Fait;
   if (DemandeDatePaiement(titre, *Globals.Parametres)) {
     TFrmDatePaiement date(contexte_);
@@ -28,7 +28,6 @@ bool TImprimeur::Imprimer(TChoixDocument choix) {
   choix.Jour = jourRepas_ != 0.0 ? jourRepas_ : contexte_.Controleur.Horloge().Aujourdhui();
   choix.NouveauxRepas = nouveauxRepas_;
   Faire([&](const TContexteDocument& contexte) { return FaireDocument(contexte, titre, choix); });
-  return true;
 }
 
 void TImprimeur::Faire(const std::function<TResultat(const TContexteDocument&)>& construire) {
@@ -46,7 +45,8 @@ void TImprimeur::Montrer(TResultat resultat) {
   for (const QString& message : resultat.Messages)
     resultat.Echec ? contexte_.Dialogues().Message(message) : contexte_.Dialogues().Information(message);
   if (!PasseManques(resultat)) return;
-  for (TRapport& rapport : resultat.Rapports) contexte_.Apercu.Afficher(rapport);
+  for (TRapport& rapport : resultat.Rapports)
+    if (contexte_.Apercu.Afficher(rapport) && SurSortie) SurSortie(rapport);
 }
 
 bool TImprimeur::PasseManques(const TResultat& resultat) {

@@ -22,13 +22,14 @@ class TImprimeur {
   /// How to go to a field of a pupil's record, or of the school's screen when it is null; without it nothing
   /// leads there. The screen that asked must outlive it.
   std::function<void(TEleve* eleve, const QString& champ)> SurAllerAuChamp;
+  /// A report went to a printer or into a PDF.
+  std::function<void(const TRapport& rapport)> SurSortie;
 
   /// The user chooses one of these titles in the wizard, and gets its document. `moisEcran`: the month that
-  /// the screen shows, 1 to 12; 0 for none. False when the user gave up.
-  bool Proposer(std::vector<TTitreOffert> titres, int moisEcran = 0);
-  /// The wizard's answer about the titles that were proposed last. An index of none is passed over, with
-  /// false.
-  bool Imprimer(TChoixDocument choix);
+  /// the screen shows, 1 to 12; 0 for none.
+  void Proposer(std::vector<TTitreOffert> titres, int moisEcran = 0);
+  /// The wizard's answer about the titles that were proposed last. An index of none is passed over.
+  void Imprimer(TChoixDocument choix);
   /// A document that is in no list: it is made under the wait cursor, then shown.
   void Faire(const std::function<TResultat(const TContexteDocument&)>& construire);
 

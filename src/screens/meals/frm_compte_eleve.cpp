@@ -72,7 +72,7 @@ void TFrmCompteEleve::Remplir() {
   {
     const TGrille::TLot lot(Grille);
     Grille.Vider();
-    for (const auto& [eleve, solde] : soldes) Grille.Ajouter({eleve->NomComplet(), solde}, eleve);
+    for (const auto& [eleve, solde] : soldes) AjouterEleve(Grille, *eleve, {eleve->NomComplet(), solde});
     const int ligne = courant != nullptr ? Grille.TrouverObjet(courant) : -1;
     Grille.ChoisirLigne(ligne >= 0 ? ligne : qMin(0, Grille.NombreLignes() - 1));
   }

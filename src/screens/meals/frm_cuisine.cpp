@@ -1,5 +1,6 @@
 #include "screens/meals/frm_cuisine.h"
 
+#include "core/accord.h"
 #include "core/formats.h"
 #include "pupils/eleves.h"
 
@@ -8,7 +9,11 @@ using namespace Qt::StringLiterals;
 TFrmCuisine::TFrmCuisine(TContexteEcran& contexte, const TGenerationRepas& generation)
     : contexte_(contexte),
       generation_(generation),
-      imprimeur_(contexte, TitresOfferts(TListeTitres::Cuisine)) {}
+      imprimeur_(contexte, TitresOfferts(TListeTitres::Cuisine)) {
+  imprimeur_.SurSortie = [this](const TRapport& rapport) {
+    if (rapport.Modele() == "FichePreparation"_L1) NoterImpression();
+  };
+}
 
 void TFrmCuisine::FormShow() {
   date_.Definir(contexte_.Controleur.Horloge().Aujourdhui());
@@ -32,6 +37,7 @@ void TFrmCuisine::ChangerJour(void (TJourEcran::*pas)()) {
 
 void TFrmCuisine::Recapituler() {
   jour_ = JourDeCuisine(*Globals.Eleves, date_.Jour());
+  contenu_ = ContenuDeFiche(jour_, generation_);
   Arbre.Vider();
   for (const TClasseDuJour& classe : jour_.Classes) {
     const auto lignes = LignesDeClasse(classe, generation_);
@@ -44,34 +50,32 @@ void TFrmCuisine::Recapituler() {
 
 QString TFrmCuisine::NoteIncompletes() const {
   if (!generation_.AvecVerrou || jour_.Incompletes == 0) return {};
-  return jour_.Incompletes == 1
-             ? u"1 commande incomplète : elle est dans les totaux et dans aucune variété."_s
-             : u"%1 commandes incomplètes : elles sont dans les totaux et dans aucune variété."_s.arg(
-                   jour_.Incompletes);
+  return Compter(jour_.Incompletes,
+                 u"commande incomplète : elle est dans les totaux et dans aucune variété."_s,
+                 u"commandes incomplètes : elles sont dans les totaux et dans aucune variété."_s);
 }
 
 QString TFrmCuisine::NoteChangements() const {
   if (imprimee_.Jour != jour_.Jour) return {};
-  const QStringList changements = imprimee_.Changements(ComptesCuisine(jour_, generation_));
+  const QStringList changements = imprimee_.Changements(contenu_);
   if (changements.isEmpty()) return {};
-  return u"Depuis l'impression du %1 à %2 : %3"_s.arg(
+  return u"Depuis l'impression de la fiche, le %1 à %2 : %3"_s.arg(
       FormatDate(imprimee_.Moment), FormatHeure(imprimee_.Moment), changements.join(u"  ·  "));
 }
 
 bool TFrmCuisine::RecevoirMessage(const TMessage& message) {
   imprimeur_.DefinirJourRepas(jour_.Jour, &generation_ == &GenerationRepas(true));
   if (message.Code == TCodeMessage::Imprimer) {
-    NoterImpression(imprimeur_.Proposer(TitresOfferts(TListeTitres::Cuisine)));
+    imprimeur_.Proposer(TitresOfferts(TListeTitres::Cuisine));
     return true;
   }
   if (message.Code != TCodeMessage::AssistantConfirme) return false;
-  if (const auto* choix = message.En<TChoixDocument>()) NoterImpression(imprimeur_.Imprimer(*choix));
+  if (const auto* choix = message.En<TChoixDocument>()) imprimeur_.Imprimer(*choix);
   return true;
 }
 
-void TFrmCuisine::NoterImpression(bool imprime) {
-  if (!imprime) return;
-  imprimee_ = {jour_.Jour, contexte_.Controleur.Horloge().Maintenant(), ComptesCuisine(jour_, generation_)};
+void TFrmCuisine::NoterImpression() {
+  imprimee_ = {jour_.Jour, contexte_.Controleur.Horloge().Maintenant(), contenu_};
   imprimee_.Memoriser(contexte_.Controleur.Reglages(), generation_);
   Annoncer();
 }

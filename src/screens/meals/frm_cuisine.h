@@ -20,8 +20,8 @@ class TFrmCuisine : public TForm {
   int lblDagobert() const { return jour_.Dagos; }
   /// "3 commandes incomplètes : ..."; "" when all can be made. The second generation has no fillings.
   QString NoteIncompletes() const;
-  /// What has changed since the sheet of that day was printed on this workstation; "" when nothing has, or
-  /// none was.
+  /// What has changed since the sheet of that day was printed or exported on this workstation; "" when
+  /// nothing has, or none was.
   QString NoteChangements() const;
 
   void btnReculeDateClick() { ChangerJour(&TJourEcran::Reculer); }
@@ -39,13 +39,14 @@ class TFrmCuisine : public TForm {
  private:
   void ChangerJour(void (TJourEcran::*pas)());
   void Recapituler();
-  void NoterImpression(bool imprime);
+  void NoterImpression();
 
   TContexteEcran& contexte_;
   const TGenerationRepas& generation_;
   TImprimeur imprimeur_;
   TJourEcran date_;
   TJourCuisine jour_;
+  TContenuDeFiche contenu_;
   QString titre_;
   TFicheImprimee imprimee_;
 };

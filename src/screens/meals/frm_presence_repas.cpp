@@ -91,7 +91,9 @@ std::vector<TFrmPresenceRepas::TBoutonClasse> TFrmPresenceRepas::ClassesDeLAnnee
   std::vector<TBoutonClasse> boutons;
   if (!service_ || annee_.isEmpty()) return boutons;
   for (const auto& classe : service_->Eleves().Classes())
-    if (classe->CodeClasse == annee_) boutons.push_back({classe.get(), classe->Libelle(), Compte(*classe)});
+    if (classe->CodeClasse == annee_)
+      boutons.push_back({classe.get(), classe->Libelle(), Compte(*classe),
+                         classe.get() == classe_ && recherche_.isEmpty()});
   return boutons;
 }
 

@@ -28,7 +28,8 @@ class TFrmPresenceRepas : public TForm {
   struct TBoutonClasse {
     TClasse* Classe = nullptr;
     QString Libelle;
-    QString Compte;  ///< "12 sur 21"
+    QString Compte;       ///< "12 sur 21"
+    bool EnMain = false;  ///< its pupils are those that show
   };
   std::vector<TBoutonClasse> ClassesDeLAnnee() const;
   void btnClasseClick(TClasse& classe);

@@ -23,10 +23,15 @@ std::vector<TColonneGrille> Colonnes(const TGenerationRepas& generation) {
   return colonnes;
 }
 
+/// The order cannot be made as it is.
+bool Manque(const TCommande* commande, const TGenerationRepas& generation) {
+  return generation.AvecVerrou && commande != nullptr && !commande->EstComplete();
+}
+
 /// A day of the month: the first flag that makes a meal of it, and "!" when it cannot be made.
 QString Abrege(const TCommande* commande, const TGenerationRepas& generation) {
   if (commande == nullptr) return {};
-  const QString defaut = generation.AvecVerrou && !commande->EstComplete() ? u"!"_s : QString();
+  const QString defaut = Manque(commande, generation) ? u"!"_s : QString();
   for (std::size_t c = 0; c < generation.Abreges.size(); ++c)
     if (commande->*ColonnesCommande()[c].Flag) return QString::fromUtf16(generation.Abreges[c]) % defaut;
   return defaut;
@@ -36,7 +41,9 @@ QString Abrege(const TCommande* commande, const TGenerationRepas& generation) {
 
 TFrmReservation::TFrmReservation(TContexteEcran& contexte, const TGenerationRepas& generation)
     : TFrmClasseJour(contexte, generation, Colonnes(generation)),
-      commandes_(contexte.Dialogues(), generation) {}
+      commandes_(contexte.Dialogues(), generation) {
+  Grille.Etats = {{}, {u"incomplète"_s, u"data-warning"_s}};
+}
 
 void TFrmReservation::FormShow() {
   jour_.Definir(Aujourdhui());
@@ -73,7 +80,7 @@ void TFrmReservation::Remplir() {
     const TGrille::TLot lot(Grille);
     Grille.Vider();
     if (const TClasse* classe = Classe())
-      for (TEleve* eleve : classe->ListeEleves) Grille.Ajouter(Cellules(*eleve), eleve, eleve->FlgRadie);
+      for (TEleve* eleve : classe->ListeEleves) AjouterEleve(Grille, *eleve, Cellules(*eleve), Etat(*eleve));
   }
   Annoncer();
 }
@@ -90,8 +97,14 @@ TCellules TFrmReservation::Cellules(const TEleve& eleve) const {
   return cellules;
 }
 
+int TFrmReservation::Etat(const TEleve& eleve) const {
+  return Manque(eleve.GetCommande(jour_.Jour()), generation_) ? 1 : 0;
+}
+
 void TFrmReservation::EcrireLigne(int ligne) {
-  Grille.EcrireLigne(ligne, Cellules(*Grille.Ligne(ligne).Objet.En<TEleve>()));
+  const TEleve& eleve = *Grille.Ligne(ligne).Objet.En<TEleve>();
+  Grille.ChangerEtat(ligne, Etat(eleve));
+  Grille.EcrireLigne(ligne, Cellules(eleve));
 }
 
 bool TFrmReservation::grdEleveRowChanging(int ligne) {
@@ -144,7 +157,8 @@ void TFrmReservation::RemplirMois(TGrille& mois) const {
   for (TDateTime j = premier; DecodeDate(j).Mois == jour.Mois; ++j)
     if (JourLundi1(j) <= 5) jours.push_back(j);
   std::vector<TColonneGrille> colonnes{{u"Nom de l'élève"_s, kLargeurNom}};
-  for (const TDateTime j : jours) colonnes.push_back({QString::number(DecodeDate(j).Jour), kLargeurJour});
+  for (const TDateTime j : jours)
+    colonnes.push_back({QString::number(DecodeDate(j).Jour), kLargeurJour, TGenre::Texte, false, true});
   const TGrille::TLot lot(mois);
   mois.DefinirColonnes(std::move(colonnes));
   const TClasse* classe = Classe();
@@ -153,7 +167,7 @@ void TFrmReservation::RemplirMois(TGrille& mois) const {
   for (TEleve* eleve : classe->ListeEleves) {
     TCellules cellules{eleve->NomComplet()};
     for (const TDateTime j : jours) cellules.push_back(Abrege(eleve->GetCommande(j), generation_));
-    mois.Ajouter(std::move(cellules), eleve);
+    AjouterEleve(mois, *eleve, std::move(cellules));
   }
 }
 

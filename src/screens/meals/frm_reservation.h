@@ -9,7 +9,8 @@ class TFrmReservation : public TFrmClasseJour {
 
   void cmbClasseChange(int indice) override;
 
-  // The grid: names, then the columns of the generation; state 1 for one who has left.
+  // The grid: names, then the columns of the generation; the state says of an order that it is
+  // incomplete.
   void grdEleveClickCell(int ligne, int colonne);
   /// Another row is to come into hand. False, after a message, when the row in hand must first be completed.
   bool grdEleveRowChanging(int ligne);
@@ -43,6 +44,7 @@ class TFrmReservation : public TFrmClasseJour {
   void Relire();
   void Remplir();
   TCellules Cellules(const TEleve& eleve) const;
+  int Etat(const TEleve& eleve) const;
   void EcrireLigne(int ligne);
   void Repeter(TDateTime source);
 

@@ -1,9 +1,14 @@
 #include "screens/meals/frm_ticket.h"
 
+#include <QScopedValueRollback>
+
+#include "core/accord.h"
 #include "core/formats.h"
+#include "documents/tickets.h"
 #include "pupils/eleves.h"
 #include "screens/meals/frm_ajout_ticket.h"
 #include "screens/meals/frm_transfert_ticket.h"
+#include "screens/meals/jour_ecran.h"
 #include "workflows/prix_repas.h"
 
 using namespace Qt::StringLiterals;
@@ -11,23 +16,29 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPageDetail = 1;
+constexpr int kPageSousTrois = 2;
+
+TColonneGrille ColonneNom() { return {u"Nom prénom"_s, 240}; }
+TColonneGrille ColonneTickets() { return {u"Nb tickets"_s, 112, TGenre::Entier, true}; }
+TColonneGrille ColonneEtat() { return {u"État"_s, 120, TGenre::Etat}; }
 
 }  // namespace
 
 TFrmTicket::TFrmTicket(TContexteEcran& contexte)
-    : LstEleve({{u"Nom prénom"_s, 240},
-                {u"Nb tickets"_s, 112, TGenre::Entier, true},
-                {u"État"_s, 120, TGenre::Etat}}),
+    : LstEleve({ColonneNom(), ColonneTickets(), ColonneEtat()}),
       Detail({{u"Date achat"_s, 200},
               {u"Date utilisation"_s, 150, TGenre::Date},
               {u"Total"_s, 70, TGenre::Entier}}),
+      SousTrois({ColonneNom(), {u"Classe"_s, 90}, ColonneTickets(), ColonneEtat()}),
       contexte_(contexte),
       imprimeur_(contexte, TitresOfferts(TListeTitres::Tickets)) {
   LstEleve.Etats = {{QString(), QString()},
-                    {u"en négatif"_s, u"data-error"_s},
-                    {u"sans ticket"_s, u"data-warning"_s},
-                    {u"< 3 tickets"_s, u"dialog-ok-apply"_s}};
+                    {u"en négatif"_s, u"data-error"_s, TTon::RougeFonce},
+                    {u"sans ticket"_s, u"data-warning"_s, TTon::Rouge},
+                    {u"< 3 tickets"_s, u"data-information"_s, TTon::Vert}};
+  SousTrois.Etats = LstEleve.Etats;
   liens_ += LstEleve.SurChoix.Suivre([this] { LstEleveClick(); });
+  liens_ += SousTrois.SurChoix.Suivre([this] { SousTroisClick(); });
 }
 
 void TFrmTicket::FormShow() {
@@ -61,15 +72,11 @@ QString TFrmTicket::NomEleve() const {
 
 void TFrmTicket::ChoisirPage(int page) {
   page_ = page;
+  RemplirSousTrois();
   Annoncer();
 }
 
 void TFrmTicket::LstEleveDblClick() { ChoisirPage(kPageDetail); }
-
-void TFrmTicket::MontrerSousTrois(bool oui) {
-  sousTrois_ = oui;
-  Remplir(Courant());
-}
 
 void TFrmTicket::PrendreClasse(TClasse* classe) {
   classe_ = classe;
@@ -91,15 +98,37 @@ void TFrmTicket::Remplir(TEleve* choisi) {
     if (classe_ != nullptr)
       for (TEleve* eleve : classe_->ListeEleves) {
         const int solde = eleve->SoldeTickets();
-        const TNiveauTickets niveau = NiveauTickets(solde);
-        if (!sousTrois_ || niveau != TNiveauTickets::Suffisant)
-          LstEleve.Ajouter({eleve->NomComplet(), solde, {}}, eleve, static_cast<int>(niveau));
+        AjouterEleve(LstEleve, *eleve, {eleve->NomComplet(), solde, {}},
+                     static_cast<int>(NiveauTickets(solde)));
       }
     LstEleve.ChoisirLigne(choisi != nullptr ? LstEleve.TrouverObjet(choisi) : -1);
   }
+  SousTrois.ChoisirLigne(choisi != nullptr ? SousTrois.TrouverObjet(choisi) : -1);
   remplit_ = false;
   RemplirDetail();
   Annoncer();
+}
+
+// The list of the school only changes here: a choice in it must not fill it again.
+void TFrmTicket::Relire(TEleve* choisi) {
+  RemplirSousTrois();
+  Remplir(choisi);
+}
+
+void TFrmTicket::RemplirSousTrois() {
+  if (page_ != kPageSousTrois) return;
+  const QScopedValueRollback pendant(remplit_, true);
+  const TGrille::TLot lot(SousTrois);
+  SousTrois.Vider();
+  for (TEleve* eleve : ElevesSousTrois(*Globals.Eleves))
+    AjouterEleve(SousTrois, *eleve,
+                 {eleve->NomComplet(), eleve->Classe->Libelle(), eleve->SoldeTickets(), {}},
+                 static_cast<int>(NiveauTickets(eleve->SoldeTickets())));
+  SousTrois.ChoisirLigne(Courant() != nullptr ? SousTrois.TrouverObjet(Courant()) : -1);
+}
+
+QString TFrmTicket::TitreSousTrois() const {
+  return CompterEleves(SousTrois.NombreLignes()) % u" avec moins de 3 tickets";
 }
 
 void TFrmTicket::RemplirDetail() {
@@ -123,12 +152,29 @@ void TFrmTicket::AjouterAchat(const TTickets& tickets, TDateTime date) {
 void TFrmTicket::LstEleveClick() {
   if (remplit_) return;
   RemplirDetail();
-  if (TEleve* eleve = Courant(); eleve != nullptr && eleve != Globals.EleveCourant) {
-    Globals.EleveCourant = eleve;
-    Globals.ClasseCourante = eleve->Classe;
-    contexte_.Principal.Envoyer({TCodeMessage::EleveChange, {}});
-  }
+  Designer(Courant());
   Annoncer();
+}
+
+void TFrmTicket::SousTroisClick() {
+  const int ligne = SousTrois.LigneCourante();
+  if (remplit_ || ligne < 0) return;
+  TEleve* eleve = SousTrois.Ligne(ligne).Objet.En<TEleve>();
+  PrendreEleve(eleve);
+  Designer(eleve);
+}
+
+void TFrmTicket::Designer(TEleve* eleve) {
+  if (eleve == nullptr || eleve == Globals.EleveCourant) return;
+  Globals.EleveCourant = eleve;
+  Globals.ClasseCourante = eleve->Classe;
+  contexte_.Principal.Envoyer({TCodeMessage::EleveChange, {}});
+}
+
+void TFrmTicket::ImprimerSousTrois() {
+  TImprimeur(contexte_, {}).Faire([this](const TContexteDocument& contexte) {
+    return ListeSousTrois(contexte, SousTrois, contexte_.Controleur.Horloge().Aujourdhui());
+  });
 }
 
 bool TFrmTicket::ExigeEleve() const {
@@ -159,16 +205,16 @@ void TFrmTicket::Changer(TEleve& eleve, const std::function<void()>& changement)
   try {
     changement();
   } catch (...) {
-    Remplir(&eleve);
+    Relire(&eleve);
     throw;
   }
-  Remplir(&eleve);
+  Relire(&eleve);
 }
 
 void TFrmTicket::AdvGlowButton1Click() {
   TEleve* eleve = Courant();
   Globals.Eleves->LibererCommandes();
-  Remplir(eleve);
+  Relire(eleve);
 }
 
 void TFrmTicket::AdvGlowButton2Click() {
@@ -182,7 +228,7 @@ void TFrmTicket::AdvGlowButton3Click() {
   if (!ExigeTicket()) return;
   TEleve& eleve = *Courant();
   const int ticket = TicketCourant()->Id;
-  TFrmTransfertTicket transfert;
+  TFrmTransfertTicket transfert(contexte_.Dialogues());
   if (contexte_.Modale.MontrerModal(transfert) != TResultatModal::Valide || transfert.Choisi() == nullptr)
     return;
   Changer(eleve, [&] {

@@ -19,16 +19,22 @@ class TFrmTicket : public TForm {
   /// "Date achat", "Date utilisation", "Total": a head a purchase, its tickets below. The object of a row is
   /// its TTicket.
   TGrille Detail;
-  /// "Aperçu classe", then "Détail de l'élève".
+  /// The pupils of the school with less than three tickets, those who owe most first; who has left stands
+  /// among them with a debt only. Filled while its page is shown.
+  TGrille SousTrois;
+  /// "12 élèves avec moins de 3 tickets"
+  QString TitreSousTrois() const;
+  /// "Aperçu classe", "Détail de l'élève", "Moins de 3 tickets".
   int Page() const { return page_; }
   void ChoisirPage(int page);
-  /// Only pupils with less than three tickets are listed.
-  bool SousTrois() const { return sousTrois_; }
-  void MontrerSousTrois(bool oui);
 
   void LstEleveClick();
+  /// Makes the pupil and his class those in hand.
+  void SousTroisClick();
   /// To the detail of the pupil.
   void LstEleveDblClick();
+  /// The list of the school on paper.
+  void ImprimerSousTrois();
   /// "Ajouter des tickets"
   void btnEtape1Click();
   /// "Actualiser"
@@ -54,6 +60,10 @@ class TFrmTicket : public TForm {
   void PrendreClasse(TClasse* classe);
   void PrendreEleve(TEleve* eleve);
   void Remplir(TEleve* choisi);
+  /// Both lists, after tickets have changed.
+  void Relire(TEleve* choisi);
+  void RemplirSousTrois();
+  void Designer(TEleve* eleve);
   void RemplirDetail();
   void AjouterAchat(const TTickets& tickets, TDateTime date);
 
@@ -62,7 +72,6 @@ class TFrmTicket : public TForm {
   TClasse* classe_ = nullptr;
   TCompteursTickets compteurs_;
   int page_ = 0;
-  bool sousTrois_ = false;
   bool remplit_ = false;
   TLiens liens_;
 };

@@ -27,6 +27,12 @@ std::vector<TCompteurRepas> CompteursRepas(const TClasse* classe, TDateTime jour
   return textes;
 }
 
+int AjouterEleve(TGrille& grille, TEleve& eleve, TCellules cellules, int etat) {
+  const int ligne = grille.Ajouter(std::move(cellules), &eleve, etat);
+  if (eleve.FlgRadie) grille.Barrer(ligne);
+  return ligne;
+}
+
 QStringList ChoixDeClasses() {
   QStringList classes{u"Choisissez votre classe"_s};
   for (const auto& classe : Globals.Eleves->Classes()) {

@@ -3,8 +3,10 @@
 #include <vector>
 
 #include "core/dates.h"
+#include "forms/grille.h"
 
 class TClasse;
+class TEleve;
 struct TGenerationRepas;
 
 /// The day that a meal screen shows, and its two steps over the weekends.
@@ -29,6 +31,9 @@ struct TCompteurRepas {
 /// In order: hot meals, sandwiches, pupils without a meal. Zeros without a class.
 std::vector<TCompteurRepas> CompteursRepas(const TClasse* classe, TDateTime jour,
                                            const TGenerationRepas& generation);
+
+/// A row for a pupil, who is its object; crossed out for one who has left.
+int AjouterEleve(TGrille& grille, TEleve& eleve, TCellules cellules, int etat = 0);
 
 /// "Choisissez votre classe", then every class of the year on display.
 QStringList ChoixDeClasses();

@@ -19,6 +19,20 @@ TRole RoleDeIcone(const QString& icone) {
   return TRole::Secondaire;
 }
 
+TRole RoleDeEtat(const TEtatGrille& etat) {
+  switch (etat.Ton) {
+    case TTon::RougeFonce:
+      return TRole::ErreurGrave;
+    case TTon::Rouge:
+      return TRole::Erreur;
+    case TTon::Vert:
+      return TRole::Succes;
+    case TTon::Icone:
+      break;
+  }
+  return RoleDeIcone(etat.Icone);
+}
+
 QString IconeDeNiveau(TNiveauEtat niveau) {
   switch (niveau) {
     case TNiveauEtat::Succes:

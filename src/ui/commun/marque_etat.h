@@ -1,11 +1,14 @@
 #pragma once
 #include <QWidget>
 
+#include "forms/grille.h"
 #include "screens/contexte_ecran.h"
 #include "ui/commun/etiquette.h"
 
 /// The colour that goes with an icon of a state.
 TRole RoleDeIcone(const QString& icone);
+/// The colour of a state: its own tone, else that of its icon.
+TRole RoleDeEtat(const TEtatGrille& etat);
 /// Icon of a level; empty for Neutre.
 QString IconeDeNiveau(TNiveauEtat niveau);
 

@@ -1,5 +1,7 @@
 #include "ui/commun/modele_grille.h"
 
+#include <QApplication>
+
 #include "ui/commun/marque_etat.h"
 #include "ui/commun/texte.h"
 #include "ui/commun/theme.h"
@@ -7,6 +9,15 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+QVariant ApparenceBarree(int role) {
+  if (role == Qt::ForegroundRole) return Theme::Secondaire();
+  if (role == Qt::AccessibleDescriptionRole) return u"radié"_s;
+  if (role != Qt::FontRole) return {};
+  QFont police = QApplication::font();
+  police.setStrikeOut(true);
+  return police;
+}
 
 Qt::Alignment Alignement(TGenre genre) {
   return (EstADroite(genre) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
@@ -107,13 +118,14 @@ QVariant ModeleGrille::Apparence(int ligne, int colonne, int role) const {
   if (role == Qt::FontRole && vue.Tete) return Theme::Gras();
   if (role == Qt::AccessibleDescriptionRole && vue.Tete && colonne == 0)
     return grille_.EstFerme(ligne) ? u"groupe fermé"_s : u"groupe ouvert"_s;
+  if (vue.Barree && colonne == 0) return ApparenceBarree(role);
   const bool suit = grille_.Colonne(colonne).SuitEtat;
   if (vue.Tete || (colonne != grille_.ColonneEtat() && !suit)) return {};
   const TEtatGrille& etat = grille_.Etats.at(static_cast<size_t>(vue.Etat));
   if (etat.Icone.isEmpty()) return {};
   if (suit && role == Qt::FontRole) return Theme::Gras();
-  if (!suit && role == Qt::DecorationRole) return Theme::Icone(etat.Icone, RoleDeIcone(etat.Icone));
-  if (role == Qt::ForegroundRole) return Theme::Couleur(RoleDeIcone(etat.Icone));
+  if (!suit && role == Qt::DecorationRole) return Theme::Icone(etat.Icone, RoleDeEtat(etat));
+  if (role == Qt::ForegroundRole) return Theme::Couleur(RoleDeEtat(etat));
   return {};
 }
 

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct TCouleurs {
-  QColor Secondaire, Bord, Ligne, Selection, SurSelection, Survol, Succes, Alerte, Erreur;
+  QColor Secondaire, Bord, Ligne, Selection, SurSelection, Survol, Succes, Alerte, Erreur, ErreurGrave;
 };
 
 struct TPresentation {
@@ -43,6 +43,7 @@ TPresentation Presentation(bool sombre) {
       .Succes = deux(0x1B6E3A, 0x6CC58B),
       .Alerte = deux(0x8A5300, 0xE3B04B),
       .Erreur = deux(0xB3261E, 0xFF9089),
+      .ErreurGrave = deux(0x7A1510, 0xFFB3AD),  // further from the ground, in the dark too
   };
   const QColor fenetre = deux(0xF3F5F7, 0x22272D), texte = deux(0x1A1F24, 0xE6E9ED);
   const QColor accent = deux(0x0B6480, 0x63B9D6), surAccent = deux(0xFFFFFF, 0x0C1519);
@@ -98,7 +99,8 @@ TPresentation FortContraste(const QPalette& systeme) {
                 .Survol = systeme.color(QPalette::Window),
                 .Succes = texte,
                 .Alerte = texte,
-                .Erreur = texte};
+                .Erreur = texte,
+                .ErreurGrave = texte};
   return p;
 }
 
@@ -314,6 +316,8 @@ QColor Couleur(TRole role) {
       return Alerte();
     case TRole::Erreur:
       return Erreur();
+    case TRole::ErreurGrave:
+      return ErreurGrave();
     case TRole::SurAccent:
       return Presente().Palette.color(QPalette::HighlightedText);
   }
@@ -329,6 +333,7 @@ QColor Survol() { return Presente().Couleurs.Survol; }
 QColor Succes() { return Presente().Couleurs.Succes; }
 QColor Alerte() { return Presente().Couleurs.Alerte; }
 QColor Erreur() { return Presente().Couleurs.Erreur; }
+QColor ErreurGrave() { return Presente().Couleurs.ErreurGrave; }
 
 QPalette Palette(bool sombre) { return Presentation(sombre).Palette; }
 

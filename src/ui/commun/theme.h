@@ -14,7 +14,8 @@ enum class TRole {
   Succes,
   Alerte,
   Erreur,
-  SurAccent,  ///< on a primary button
+  ErreurGrave,  ///< stands out among errors
+  SurAccent,    ///< on a primary button
 };
 
 /// The look of the whole program: palette, measures, fonts, icons. Colours are asked for when they
@@ -51,6 +52,7 @@ QColor Survol();
 QColor Succes();
 QColor Alerte();
 QColor Erreur();
+QColor ErreurGrave();
 
 /// The palette of light or of dark.
 QPalette Palette(bool sombre);

@@ -47,6 +47,18 @@ class DelegueGrille : public QStyledItemDelegate {
     return {largeur, std::max(Theme::Px(kHauteurLigne), option.fontMetrics.height() + 2)};
   }
 
+  /// A colour that says something holds on a chosen row, and gives way on a list that is off.
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QVariant couleur = index.data(Qt::ForegroundRole);
+    if (!couleur.isValid()) return;
+    if (!option->state.testFlag(QStyle::State_Enabled))
+      option->palette.setColor(QPalette::Text,
+                               option->widget->palette().color(QPalette::Disabled, QPalette::Text));
+    else if (!SelectionEnAccent())
+      option->palette.setColor(QPalette::HighlightedText, couleur.value<QColor>());
+  }
+
   /// A state is an icon and a word that stand close together; the rest is the style's.
   void paint(QPainter* peintre, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QVariant icone = index.data(Qt::DecorationRole);
@@ -58,15 +70,17 @@ class DelegueGrille : public QStyledItemDelegate {
     icone.value<QIcon>().paint(peintre, QRect(place.x(), place.center().y() - cote / 2, cote, cote),
                                Qt::AlignCenter, actif ? QIcon::Normal : QIcon::Disabled);
     place.adjust(cote + Theme::Px(4), 0, 0, -1);  // where the style puts the other texts of the row
-    // In high contrast the ground of a chosen row is the accent itself.
-    const bool surAccent =
-        option.state.testFlag(QStyle::State_Selected) && Theme::Selection() == Theme::Couleur(TRole::Accent);
+    const bool surAccent = option.state.testFlag(QStyle::State_Selected) && SelectionEnAccent();
     peintre->setPen(surAccent ? Theme::SurSelection()
                     : actif   ? index.data(Qt::ForegroundRole).value<QColor>()
                               : option.palette.color(QPalette::Disabled, QPalette::Text));
     peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                       option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, place.width()));
   }
+
+ private:
+  /// In high contrast the ground of a chosen row is the accent itself.
+  static bool SelectionEnAccent() { return Theme::Selection() == Theme::Couleur(TRole::Accent); }
 };
 
 /// Sets a flag while it lives.

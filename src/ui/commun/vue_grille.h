@@ -83,6 +83,7 @@ class VueGrille : public QTreeView {
   void RemettreGroupes();
   void PoserColonnes();
   void Elargir(std::vector<TBesoinColonne>& besoins, int surplus) const;
+  void Egaliser(std::vector<int>& largeurs) const;
   void RepartirPlusTard();
   void SuivreLargeurs(const VueGrille& autre);
   int LargeurContenu(int colonne) const;

@@ -135,6 +135,17 @@ void VueGrille::Elargir(std::vector<TBesoinColonne>& besoins, int surplus) const
   }
 }
 
+/// Of those that stand alike the narrowest gives the width.
+void VueGrille::Egaliser(std::vector<int>& largeurs) const {
+  int commune = 0;
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
+    const int largeur = largeurs[static_cast<std::size_t>(colonne)];
+    if (grille_.Colonne(colonne).Egale) commune = commune == 0 ? largeur : std::min(commune, largeur);
+  }
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
+    if (grille_.Colonne(colonne).Egale) largeurs[static_cast<std::size_t>(colonne)] = commune;
+}
+
 /// An amount that is cut is another amount, and a name that is cut may be somebody else's: where the room is
 /// short the other columns give way, and then the list scrolls sideways.
 void VueGrille::Repartir() {
@@ -142,7 +153,8 @@ void VueGrille::Repartir() {
   aRepartir_ = false;
   const int souple = ColonneSouple(), place = viewport()->width();
   if (souple >= grille_.NombreColonnes()) return;
-  const std::vector<int> largeurs = RepartirLargeurs(Besoins(place), souple, place);
+  std::vector<int> largeurs = RepartirLargeurs(Besoins(place), souple, place);
+  if (!tracees_) Egaliser(largeurs);
   const bool tient = std::accumulate(largeurs.begin(), largeurs.end(), 0) <= place;
   header()->setSectionResizeMode(souple, tient ? QHeaderView::Stretch : QHeaderView::Interactive);
   for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)

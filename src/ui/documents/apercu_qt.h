@@ -7,7 +7,7 @@ class ApercuQt : public IApercu {
  public:
   /// All must outlive it.
   ApercuQt(const TContexteApercu& contexte, IFenetreModale& modale) : contexte_(contexte), modale_(modale) {}
-  void Afficher(TRapport& rapport) override;
+  bool Afficher(TRapport& rapport) override;
 
  private:
   const TContexteApercu contexte_;

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 
 #include "screens/meals/frm_reservation.h"
+#include "ui/commun/marque_etat.h"
 #include "ui/commun/theme.h"
 
 using namespace Qt::StringLiterals;
@@ -62,6 +63,17 @@ void GrilleCommandes::Remplir() {
   for (int ligne = 0; ligne < rowCount(); ++ligne) Ecrire(ligne);
 }
 
+/// Who has left is crossed out, and an order that cannot be made is marked whichever row is in hand.
+void GrilleCommandes::EcrireNom(QTableWidgetItem& cellule, const TLigneGrille& ligne) const {
+  QFont police = font();
+  police.setStrikeOut(ligne.Barree);
+  cellule.setFont(police);
+  const TEtatGrille& etat = form_.Grille.Etats.at(static_cast<std::size_t>(ligne.Etat));
+  const bool marque = !etat.Texte.isEmpty();
+  cellule.setIcon(marque ? Theme::Icone(etat.Icone, RoleDeEtat(etat)) : QIcon());
+  if (marque) cellule.setText(cellule.text() % u"  ·  " % etat.Texte);
+}
+
 void GrilleCommandes::Ecrire(int ligne) {
   const QSignalBlocker silence(this);
   for (int c = 0; c < columnCount(); ++c) {
@@ -70,9 +82,7 @@ void GrilleCommandes::Ecrire(int ligne) {
     const QString texte = form_.Grille.Texte(ligne, c);
     cellule->setText(texte);
     if (c == 0) {
-      QFont police = font();
-      police.setStrikeOut(form_.Grille.Ligne(ligne).Etat == 1);
-      cellule->setFont(police);
+      EcrireNom(*cellule, form_.Grille.Ligne(ligne));
       continue;
     }
     cellule->setTextAlignment(Qt::AlignCenter);

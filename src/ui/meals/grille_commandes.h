@@ -20,6 +20,7 @@ class GrilleCommandes : public QTableWidget {
  private:
   void Remplir();
   void Ecrire(int ligne);
+  void EcrireNom(QTableWidgetItem& cellule, const struct TLigneGrille& ligne) const;
   void Cliquer(int ligne, int colonne);
   void Changer(int ligne, int colonne, int ligneAvant, int colonneAvant);
   /// The column of a letter; 0 for none.

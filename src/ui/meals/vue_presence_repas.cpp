@@ -131,6 +131,7 @@ void VuePresenceRepas::Actualiser() {
   attente_->setText(form_.NoteEnAttente());
   transfert_->setText(form_.NoteTransfert());
   classe_->setText(form_.lblClasse());
+  recherche_->setEnabled(form_.Empechement().isEmpty());
   if (recherche_->text().trimmed() != form_.Recherche()) recherche_->setText(form_.Recherche());
   RemplirBoutons();
   RemplirCadres();
@@ -147,26 +148,36 @@ void VuePresenceRepas::RemplirBoutons() {
     for (const QString& annee : form_.Annees())
       boutons.push_back({annee, annee, [this, annee] { form_.btnAnneeClick(annee); }});
   else
-    for (const auto& [classe, libelle, compte] : form_.ClassesDeLAnnee())
-      boutons.push_back(
-          {libelle, libelle % u'\n' % compte, [this, classe = classe] { form_.btnClasseClick(*classe); }});
+    for (const auto& [classe, libelle, compte, enMain] : form_.ClassesDeLAnnee())
+      boutons.push_back({libelle, libelle % u'\n' % compte,
+                         [this, classe = classe] { form_.btnClasseClick(*classe); }, enMain, true});
   if (form_.AnneeChoisie()) boutons.push_back({u"RETOUR"_s, u"RETOUR"_s, [this] { form_.btnRetourClick(); }});
   const bool memes = std::ranges::equal(boutons, boutonsMontres_, {}, &TBouton::Cle,
                                         [](const auto& montre) { return montre.first; });
   if (!memes) CreerBoutons(boutons);
-  for (std::size_t i = 0; i < boutons.size(); ++i) boutonsMontres_[i].second->setText(boutons[i].Texte);
+  for (std::size_t i = 0; i < boutons.size(); ++i) {
+    boutonsMontres_[i].second->setText(boutons[i].Texte);
+    boutonsMontres_[i].second->setChecked(boutons[i].Choisi);
+  }
 }
 
 void VuePresenceRepas::CreerBoutons(const std::vector<TBouton>& boutons) {
+  const bool foyer =
+      std::ranges::any_of(boutonsMontres_, [](const auto& montre) { return montre.second->hasFocus(); });
   Vider(*boutons_);
   boutonsMontres_.clear();
   for (const TBouton& bouton : boutons) {
     QPushButton* montre = GrandBouton(bouton.Texte);
+    montre->setCheckable(bouton.AChoisir);
     connect(montre, &QPushButton::clicked, this, bouton.Faire, Qt::QueuedConnection);
     if (bouton.Cle == u"RETOUR") boutons_->addSpacing(Theme::Px(20));
     boutons_->addWidget(montre);
     boutonsMontres_.emplace_back(bouton.Cle, montre);
   }
+  // Before the field of the search, which would bring up the keyboard of the tablet.
+  if (boutonsMontres_.empty()) return;
+  setTabOrder(boutonsMontres_.back().second, recherche_);
+  if (foyer) boutonsMontres_.front().second->setFocus();
 }
 
 bool VuePresenceRepas::MettreAJourCadres() {

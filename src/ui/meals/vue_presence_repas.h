@@ -30,6 +30,8 @@ class VuePresenceRepas : public QWidget {
     QString Cle;
     QString Texte;
     std::function<void()> Faire;
+    bool Choisi = false;
+    bool AChoisir = false;  ///< one of those of which one may be in hand
   };
   void RemplirBoutons();
   void CreerBoutons(const std::vector<TBouton>& boutons);

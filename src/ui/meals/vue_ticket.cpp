@@ -1,6 +1,5 @@
 #include "ui/meals/vue_ticket.h"
 
-#include <QCheckBox>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -9,6 +8,7 @@
 #include "screens/meals/frm_ticket.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/etat_vide.h"
+#include "ui/commun/marque_etat.h"
 #include "ui/commun/rangee_pliante.h"
 #include "ui/commun/titres.h"
 #include "ui/commun/vue_grille.h"
@@ -22,13 +22,18 @@ VueTicket::VueTicket(TFrmTicket& form, QWidget* parent)
       eleves_(new VueGrille(form.LstEleve, u"Élèves de la classe"_s, u"Tickets/Eleves"_s)),
       eleve_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
       detail_(new VueGrille(form.Detail, u"Tickets de l'élève"_s, u"Tickets/Detail"_s)),
+      titreSousTrois_(new Etiquette({}, TRole::Texte, &Theme::TitreSection)),
+      sousTrois_(new VueGrille(form.SousTrois, u"Élèves avec moins de 3 tickets"_s, u"Tickets/SousTrois"_s)),
       pages_(new QTabWidget),
       vide_(new EtatVide(eleves_)),
-      sansTicket_(new EtatVide(detail_)) {
+      sansTicket_(new EtatVide(detail_)),
+      personne_(new EtatVide(sousTrois_)) {
   pages_->addTab(Classe(), u"Aperçu classe"_s);
   pages_->addTab(PageDetail(), u"Détail de l'élève"_s);
+  pages_->addTab(PageSousTrois(), u"Moins de 3 tickets"_s);
   connect(pages_, &QTabWidget::currentChanged, this, [this](int page) { form_.ChoisirPage(page); });
-  connect(eleves_, &VueGrille::Activee, this, [this] { form_.LstEleveDblClick(); });
+  for (VueGrille* liste : {eleves_, sousTrois_})
+    connect(liste, &VueGrille::Activee, this, [this] { form_.LstEleveDblClick(); });
   connect(sansTicket_, &EtatVide::BoutonPresse, this, [this] { form_.btnEtape1Click(); });
   connect(detail_, &VueGrille::Suppression, this, [this] { form_.AdvGlowButton2Click(); });
   QVBoxLayout* colonne = ColonneEcran(*this, u"Gestion des tickets"_s);
@@ -72,12 +77,8 @@ QWidget* VueTicket::Classe() {
   comptes->setSpacing(Theme::Px(24));
   for (Etiquette*& compteur : compteurs_)
     comptes->addWidget(compteur = new Etiquette({}, TRole::Texte, &Theme::Gras));
-  compteurs_[0]->DefinirRole(TRole::Erreur);
-  compteurs_[1]->DefinirRole(TRole::Alerte);
-  compteurs_[2]->DefinirRole(TRole::Succes);
-  auto* sousTrois = new QCheckBox(u"Seulement les élèves avec moins de 3 tickets"_s);
-  connect(sousTrois, &QCheckBox::toggled, this, [this](bool oui) { form_.MontrerSousTrois(oui); });
-  comptes->addWidget(sousTrois);
+  for (std::size_t i = 0; i < compteurs_.size(); ++i)
+    compteurs_[i]->DefinirRole(RoleDeEtat(form_.LstEleve.Etats.at(i + 1)));
   colonne->addLayout(comptes);
   colonne->addWidget(eleves_, 1);
   return page;
@@ -92,12 +93,28 @@ QWidget* VueTicket::PageDetail() {
   return page;
 }
 
+QWidget* VueTicket::PageSousTrois() {
+  auto* page = new QWidget;
+  auto* colonne = new QVBoxLayout(page);
+  colonne->setContentsMargins(0, Theme::Px(12), 0, 0);
+  QPushButton* imprimer = BoutonSimple(u"Imprimer la liste"_s, u"document-print"_s);
+  connect(imprimer, &QPushButton::clicked, this, [this] { form_.ImprimerSousTrois(); });
+  auto* tete = new QHBoxLayout;
+  tete->addWidget(titreSousTrois_);
+  tete->addStretch(1);
+  tete->addWidget(imprimer);
+  colonne->addLayout(tete);
+  colonne->addWidget(sousTrois_, 1);
+  return page;
+}
+
 void VueTicket::Actualiser() {
   classe_->setText(form_.NomClasse());
   const QStringList textes = form_.Compteurs();
   for (std::size_t i = 0; i < compteurs_.size(); ++i)
     compteurs_[i]->setText(textes[static_cast<qsizetype>(i)]);
   eleve_->setText(form_.NomEleve());
+  titreSousTrois_->setText(form_.TitreSousTrois());
   pages_->setCurrentIndex(form_.Page());
   MontrerVides();
 }
@@ -107,8 +124,11 @@ void VueTicket::MontrerVides() {
     vide_->Cacher();
   else
     vide_->Montrer(u"Aucun élève à montrer"_s,
-                   form_.SousTrois() ? u"Tous les élèves de la classe ont trois tickets et plus."_s
-                                     : u"Choisissez une classe ou un élève dans l'arbre de gauche."_s);
+                   u"Choisissez une classe ou un élève dans l'arbre de gauche."_s);
+  if (form_.SousTrois.NombreLignes() > 0)
+    personne_->Cacher();
+  else
+    personne_->Montrer(u"Aucun élève à montrer"_s, u"Tous les élèves ont trois tickets et plus."_s);
   if (form_.Detail.NombreLignes() > 0)
     sansTicket_->Cacher();
   else if (form_.NomEleve().isEmpty())

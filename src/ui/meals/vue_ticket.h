@@ -10,7 +10,8 @@ class QTabWidget;
 class TFrmTicket;
 class VueGrille;
 
-/// "Gestion des tickets": the class on one page, the pupil in hand on the other.
+/// "Gestion des tickets": a page for the class, one for the pupil in hand, one for whoever has less than
+/// three tickets in the school.
 class VueTicket : public QWidget {
   Q_OBJECT
  public:
@@ -19,6 +20,7 @@ class VueTicket : public QWidget {
  private:
   QWidget* Classe();
   QWidget* PageDetail();
+  QWidget* PageSousTrois();
   QLayout* Boutons();
   void Actualiser();
   void MontrerVides();
@@ -29,8 +31,11 @@ class VueTicket : public QWidget {
   VueGrille* eleves_;
   Etiquette* eleve_;
   VueGrille* detail_;
+  Etiquette* titreSousTrois_;
+  VueGrille* sousTrois_;
   QTabWidget* pages_;
   EtatVide* vide_;
   EtatVide* sansTicket_;
+  EtatVide* personne_;
   TLiens liens_;
 };

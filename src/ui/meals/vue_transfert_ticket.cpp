@@ -1,5 +1,6 @@
 #include "ui/meals/vue_transfert_ticket.h"
 
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "screens/meals/frm_transfert_ticket.h"
@@ -9,7 +10,7 @@
 using namespace Qt::StringLiterals;
 
 VueTransfertTicket::VueTransfertTicket(TFrmTransfertTicket& form, QWidget* parent)
-    : DialogueBase(u"Transférer un ticket"_s, parent), form_(form), classe_(new Etiquette) {
+    : DialogueBase(u"Transférer un ticket"_s, parent), form_(form), classe_(new Etiquette(form.Classe())) {
   auto* grille = new VueGrille(form.Eleves, u"Élèves de l'année"_s, u"TransfertTicket/Eleves"_s);
   grille->setMinimumSize(Theme::Px(420), Theme::Px(320));
   auto* filtre = new ChampFiltre(u"Nom de l'élève"_s);
@@ -19,10 +20,8 @@ VueTransfertTicket::VueTransfertTicket(TFrmTransfertTicket& form, QWidget* paren
   Contenu()->addWidget(classe_);
   DefinirPrincipal(u"Valider"_s);
   liens_ += form_.SurChangement.Suivre([this] { classe_->setText(form_.Classe()); });
+  connect(grille, &VueGrille::Activee, this, [this] { Principal()->click(); });
   filtre->setFocus(Qt::OtherFocusReason);
 }
 
-bool VueTransfertTicket::Valider() {
-  form_.btnValiderClick();
-  return form_.Choisi() != nullptr;
-}
+bool VueTransfertTicket::Valider() { return form_.btnValiderClick(); }

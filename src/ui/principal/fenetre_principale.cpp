@@ -128,6 +128,7 @@ void FenetrePrincipale::Demarrer() {
   show();
   QTimer::singleShot(0, this, [this] {
     form_.Montrer();
+    if (Theme::EstTactile()) setWindowState(windowState() | Qt::WindowMaximized);  // a tablet has one window
     if (form_.SansEleve())
       accueil_->PrendreFoyer();
     else if (form_.ArbreVisible())

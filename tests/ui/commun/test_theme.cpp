@@ -35,7 +35,8 @@ TEST(Theme, LesCouleursSeDistinguentDansLesDeuxPalettes) {
       EXPECT_GE(Contraste(a, b), moindre) << a.name().toStdString() << " sur " << b.name().toStdString();
     };
     for (const auto& [a, b, moindre] : paires) verifier(a, b, moindre);
-    for (const QColor& role : {Theme::Secondaire(), Theme::Succes(), Theme::Alerte(), Theme::Erreur()})
+    for (const QColor& role :
+         {Theme::Secondaire(), Theme::Succes(), Theme::Alerte(), Theme::Erreur(), Theme::ErreurGrave()})
       for (const QColor& fond : {fenetre, Theme::Selection()}) verifier(role, fond, 4.5);
   }
   Theme::Appliquer(*qApp, Theme::TMode::Clair);

@@ -1,6 +1,13 @@
 // A tablet from its first load to the transfer and back: serving without a server.
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QThread>
+#include <cstdio>
+#include <random>
 
 #include "core/fichiers.h"
 #include "screens/meals/frm_presence_repas.h"
@@ -10,6 +17,8 @@
 #include "ui/verifier_vue.h"
 
 namespace {
+
+constexpr char kMontre[] = "a meal shows";
 
 class Tablette : public TRepasEssai {
  protected:
@@ -47,6 +56,29 @@ class Tablette : public TRepasEssai {
       if (cadre->isVisible()) noms += cadre->accessibleName();
     return noms;
   }
+  /// The class that is marked on the left.
+  QStringList EnMain() {
+    QStringList classes;
+    for (const QPushButton* bouton : Programme.Fenetre().findChildren<QPushButton*>())
+      if (bouton->isVisible() && bouton->isChecked()) classes += bouton->text().section('\n', 0, 0);
+    return classes;
+  }
+  /// Serves a class in the window, says each meal that shows, and waits to be killed.
+  void ServirSansFin(const QString& dossier) {
+    Base.Reglages.Ecrire(TRacine::Utilisateur, "DossierPresences", dossier);
+    Programme.Demarrer();
+    Toucher("P1");
+    Toucher("P1 A");
+    auto* defile =
+        Programme.Fenetre().findChild<CadreEleve*>()->parentWidget()->parentWidget()->parentWidget();
+    for (CadreEleve* cadre : Programme.Fenetre().findChildren<CadreEleve*>()) {
+      dynamic_cast<QScrollArea&>(*defile).ensureWidgetVisible(cadre);
+      Toucher(cadre->accessibleName());
+      if (cadre->accessibleName().endsWith("Repas complet")) std::puts(kMontre);
+      std::fflush(stdout);
+    }
+    for (;;) QThread::sleep(1);
+  }
   QStringList Presences() {
     Base->ServerName = Base.FichierDeDonnees();
     Base->Connecter();
@@ -70,9 +102,16 @@ TEST_F(Tablette, FromTheFirstLoadToTheTransferAndBack) {
   Programme.Demarrer();
   EXPECT_TRUE(Montre("lundi 3 octobre 2016"));
   EXPECT_TRUE(Montre("Aucun repas à transférer"));
+  EXPECT_TRUE(Programme.Fenetre().isMaximized());
+  const auto foyer = [] { return qobject_cast<QPushButton*>(QApplication::focusWidget()); };
+  ASSERT_NE(foyer(), nullptr) << "the field of the search would bring up the keyboard";
   Toucher("P1");
+  EXPECT_NE(foyer(), nullptr);
   Toucher("P1 A");
   EXPECT_TRUE(Montre("P1 A  ·  0 sur 2"));
+  EXPECT_EQ(EnMain(), QStringList("P1 A"));
+  Toucher("P1 A");
+  EXPECT_EQ(EnMain(), QStringList("P1 A")) << "pressed again it stays in hand";
   Toucher("ALVES Rui");
   Toucher("BODART Léa");
   EXPECT_EQ(Cadres(), (QStringList{"ALVES Rui, Repas complet", "BODART Léa, Repas complet"}));
@@ -84,6 +123,7 @@ TEST_F(Tablette, FromTheFirstLoadToTheTransferAndBack) {
   Aller(recherche);
   QTest::keyClicks(&recherche, "zoe mar");
   EXPECT_EQ(Cadres(), QStringList("MARIN Zoé"));
+  EXPECT_EQ(EnMain(), QStringList());
   Toucher("MARIN Zoé");
   Toucher("RETOUR");
   EXPECT_EQ(Cadres(), QStringList());
@@ -97,6 +137,7 @@ TEST_F(Tablette, FromTheFirstLoadToTheTransferAndBack) {
   Allumer();
   Cliquer("Recommencer le transfert");
   EXPECT_TRUE(Montre("2 repas transférés, les élèves sont à jour."));
+  EXPECT_EQ(Programme.Main().IntituleAnnee(), "") << "no year to choose without a server";
   EXPECT_FALSE(QFile::exists(Repas()));
   Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
   Toucher("M1");
@@ -132,6 +173,47 @@ TEST_F(Tablette, AnAnomalyIsShownBeforeItIsAskedAbout) {
   });
   Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
   EXPECT_TRUE(Montre("1 repas transféré, les élèves sont à jour."));
+}
+
+// What the window has shown is on the disk whenever it ends, and the next one shows it.
+TEST_F(Tablette, TheWindowIsKilledBetweenTaps) {
+  if (const QString dossier = qEnvironmentVariable("CALPENNE_A_TUER"); !dossier.isEmpty())
+    return ServirSansFin(dossier);
+  constexpr int kEleves = 20, kMorts = 4;
+  Base->ServerName = Base.FichierDeDonnees();
+  Base->Connecter();
+  for (int i = 3; i < kEleves; ++i) Ecole.unEleve().enClasse("P1", "A");
+  Base->Deconnecter();
+  Programme.Demarrer();
+  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+  Programme.Fermer();
+  std::mt19937 hasard(2016);
+  for (int mort = 0; mort < kMorts; ++mort) {
+    const int fatal = std::uniform_int_distribution(1, kEleves - 3)(hasard);
+    SCOPED_TRACE(fatal);
+    QFile::remove(Repas());
+    QProcess programme;
+    QProcessEnvironment milieu = QProcessEnvironment::systemEnvironment();
+    milieu.insert("CALPENNE_A_TUER", QFileInfo(Repas()).path());
+    milieu.insert("TMPDIR", QFileInfo(Base.FichierDeDonnees()).path());  // what it leaves goes with the test
+    programme.setProcessEnvironment(milieu);
+    programme.start(QCoreApplication::applicationFilePath(),
+                    {"--gtest_filter=Tablette.TheWindowIsKilledBetweenTaps"});
+    QByteArray dit;
+    while (dit.count(kMontre) < fatal && programme.waitForReadyRead())
+      dit += programme.readAllStandardOutput();
+    programme.kill();
+    programme.waitForFinished();
+    const qsizetype montres = dit.count(kMontre);
+    ASSERT_GE(montres, fatal) << dit.constData();
+    const QByteArray notes = LireFichier(Repas());
+    EXPECT_TRUE(notes.endsWith('\n') && notes.count('\n') >= montres) << notes.constData();
+    Programme.Demarrer();
+    Toucher("P1");
+    Toucher("P1 A");
+    EXPECT_EQ(Cadres().filter("Repas complet").size(), notes.count('\n'));
+    Programme.Fermer();
+  }
 }
 
 TEST_F(Tablette, AFingerThatScrollsServesNobody) {

@@ -1,7 +1,10 @@
 // The meal screens of the office and of a teacher, by mouse and keyboard, read back from the database.
+#include <QDialogButtonBox>
+#include <QFile>
 #include <QPushButton>
 #include <QTreeWidget>
 
+#include "screens/documents/frm_apercu.h"
 #include "screens/meals/frm_ajout_ticket.h"
 #include "screens/meals/frm_comptabilite.h"
 #include "screens/meals/frm_compte_eleve.h"
@@ -9,6 +12,8 @@
 #include "screens/meals/frm_presence_repas.h"
 #include "screens/meals/frm_reservation.h"
 #include "screens/meals/frm_ticket.h"
+#include "screens/meals/frm_transfert_repas.h"
+#include "screens/meals/frm_transfert_ticket.h"
 #include "support/ecran_essai.h"
 #include "ui/commun/dialogue_base.h"
 #include "ui/documents/vue_apercu.h"
@@ -50,6 +55,20 @@ class VuesRepas : public TRepasEssai {
       ::Cliquer(fenetre, "Valider");
     });
     Cliquer("Ajouter des tickets");
+    Activer();
+  }
+  /// The preparation sheet, as far as its preview.
+  void Fiche(const std::function<void(QWidget&)>& dansLApercu) {
+    Programme.Dialogues
+        .Fait("Assistant d'impression",
+              [](QWidget& fenetre) {
+                QTest::mouseClick(dynamic_cast<DialogueBase&>(fenetre).Principal(), Qt::LeftButton);
+              })
+        .Fait("Aperçu : Fiche de préparation", [&](QWidget& fenetre) {
+          dansLApercu(fenetre);
+          fenetre.close();
+        });
+    Touche(Qt::Key_F8);
     Activer();
   }
 };
@@ -105,7 +124,10 @@ TEST_F(VuesRepas, TicketsAreSoldIntoTheRedAndSettled) {
   Programme.Dialogues.Attend("Veuillez sélectionner un ticket dans la liste.");
   Cliquer("Transférer un ticket");
   detail.Grille().ChoisirLigne(5);
-  Programme.Dialogues.Fait("Transférer un ticket", [](QWidget& fenetre) {
+  Programme.Dialogues.Fait("Transférer un ticket", [this](QWidget& fenetre) {
+    Programme.Dialogues.Attend("Veuillez sélectionner un élève dans la liste.");
+    ::Cliquer(fenetre, "Valider");
+    EXPECT_TRUE(fenetre.isVisible());
     auto* filtre = fenetre.findChild<QLineEdit*>();
     QTest::keyClicks(filtre, "bod");
     auto* liste = fenetre.findChild<VueGrille*>();
@@ -158,6 +180,56 @@ TEST_F(VuesRepas, AClassIsOrderedByKeyboardIntoTheLockAndOut) {
   EXPECT_TRUE(Lignes(Nomme<VueGrille>("Commandes du mois"))[1].startsWith("BODART Léa|R|R||"));
 }
 
+TEST_F(VuesRepas, WhoHasLessThanThreeTicketsInTheSchool) {
+  Ecole.unEleve().nomme("NOEL", "Tom").enClasse("M1", "B").avec("FLG_RADIE");
+  Ecole.unEleve().nomme("OGER", "Ana").enClasse("M1", "B").avec("FLG_RADIE");
+  const auto ticket = [this](const char* eleve, const char* colonne) {
+    Ecole.Ajouter("TICKET", QString("TICKET_ID, ELEVE_ID, VALEUR, TYPE_PAIEMENT, ") + colonne,
+                  {eleve, "2.60", "0", "'2016-09-30'"});
+  };
+  for (int i = 0; i < 3; ++i) ticket("1", "DATE_ACHAT");
+  ticket("2", "DATE_ACHAT");
+  ticket("5", "DATE_UTILISATION");
+  Demarrer(TGestionnaire::btnTicketClick);
+  auto* pages = Programme.Fenetre().VueCourante()->findChild<QTabWidget*>();
+  pages->setCurrentIndex(2);
+  auto& vue = Nomme<VueGrille>("Élèves avec moins de 3 tickets");
+  EXPECT_EQ(Lignes(vue), (QStringList{"OGER Ana|M1 B|-1|en négatif", "MARIN Zoé|M1 B|0|sans ticket",
+                                      "BODART Léa|P1 A|1|< 3 tickets"}));
+  EXPECT_TRUE(Montre("3 élèves avec moins de 3 tickets"));
+  const auto apparence = [&vue](int ligne, int colonne, int role) {
+    return vue.model()->index(ligne, colonne).data(role);
+  };
+  const QColor couleurs[] = {Theme::ErreurGrave(), Theme::Erreur(), Theme::Succes()};
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(apparence(i, 2, Qt::ForegroundRole).value<QColor>(), couleurs[i]) << i;
+    EXPECT_TRUE(apparence(i, 2, Qt::FontRole).value<QFont>().bold());
+    EXPECT_EQ(apparence(i, 0, Qt::FontRole).value<QFont>().strikeOut(), i == 0) << "who has left";
+  }
+  // The pupil that is chosen is the one in hand, with his class, and may be sold tickets at once.
+  vue.setFocus();
+  for (int i = 0; i < 2; ++i) QTest::keyClick(&vue, Qt::Key_Down);
+  vue.Grille().ChoisirLigne(2);
+  EXPECT_EQ(Form<TFrmTicket>().NomEleve(), "BODART Léa");
+  EXPECT_EQ(Globals.EleveCourant->NomComplet(), "BODART Léa");
+  EXPECT_EQ(Form<TFrmTicket>().NomClasse(), "P1 A");
+  Programme.Dialogues.Fait("Ajouter des tickets à BODART Léa", [](QWidget& fenetre) {
+    Taper(fenetre, "edNombre", "2");
+    ::Cliquer(fenetre, "Valider");
+  });
+  Cliquer("Ajouter des tickets");
+  Activer();
+  EXPECT_EQ(Lignes(vue).size(), 2) << "three now";
+  Programme.Dialogues.Fait("Aperçu : Élèves avec moins de 3 tickets", [](QWidget& fenetre) {
+    QTRY_VERIFY(TextesDe(fenetre).contains("1 page prête\n"));
+    const QString texte = dynamic_cast<VueApercu&>(fenetre).Form().Document().TexteDePage(0);
+    EXPECT_TRUE(texte.contains("OGER Ana") && texte.contains("MARIN Zoé") && !texte.contains("BODART"))
+        << texte.toStdString();
+    fenetre.close();
+  });
+  Cliquer("Imprimer la liste");
+}
+
 TEST_F(VuesRepas, BothKitchens) {
   const char* const jours[] = {"1', '2016-10-03', 1, 0", "2', '2016-10-03', 0, 1"};
   for (const char* jour : jours)
@@ -178,26 +250,41 @@ TEST_F(VuesRepas, BothKitchens) {
   EXPECT_TRUE(Montre("Récapitulatif du lundi 03/10"));
   EXPECT_TRUE(Montre("1 commande incomplète : elle est dans les totaux et dans aucune variété."));
 
-  // The sheet is printed; what another workstation changes afterwards is told, also to a screen opened anew.
-  Programme.Dialogues
-      .Fait("Assistant d'impression",
-            [](QWidget& fenetre) {
-              QTest::mouseClick(dynamic_cast<DialogueBase&>(fenetre).Principal(), Qt::LeftButton);
-            })
-      .Fait("Aperçu : Fiche de préparation", [](QWidget& fenetre) {
-        EXPECT_NE(dynamic_cast<VueApercu*>(&fenetre), nullptr);
-        fenetre.close();
-      });
-  Touche(Qt::Key_F8);
-  Activer();
+  // What another workstation changes is told against the sheet that came out, also to a screen opened anew;
+  // one that was only looked at is none.
+  Fiche([](QWidget& apercu) { EXPECT_NE(dynamic_cast<VueApercu*>(&apercu), nullptr); });
+  Base.Sql("UPDATE COMMANDE SET FLG_JAMBON = 0, FLG_FROMAGE = 1 WHERE ELEVE_ID = 2");
+  const auto rouvrir = [this] {
+    Programme.Ouvrir(TGestionnaire::btnReservationClick);
+    Programme.Ouvrir(TGestionnaire::btnCuisineClick);
+  };
+  rouvrir();
+  EXPECT_FALSE(TextesDe(Programme.Fenetre()).contains("Depuis l'impression"));
+  const auto exporter = [this](QWidget& apercu) {
+    Programme.Dialogues.Fait("Exporter en PDF", [this](QWidget& dialogue) {
+      dialogue.findChild<QLineEdit*>("fileNameEdit")->setText(Base.Chemin("fiche.pdf"));
+      QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save),
+                        Qt::LeftButton);
+    });
+    for (QAbstractButton* bouton : apercu.findChildren<QAbstractButton*>())
+      if (bouton->toolTip().startsWith("Exporter en PDF")) bouton->click();
+  };
+  Fiche(exporter);
   Base.Sql("UPDATE COMMANDE SET FLG_REPAS = 0, FLG_SANDWICH = 1 WHERE ELEVE_ID = 1");
-  Touche(Qt::Key_R, Qt::ControlModifier);
-  Programme.Ouvrir(TGestionnaire::btnReservationClick);
-  Programme.Ouvrir(TGestionnaire::btnCuisineClick);
+  rouvrir();
   EXPECT_EQ(arbre(), "P1 A|Sandwichs;1|Dago;1");
-  EXPECT_TRUE(
-      Montre("Depuis l'impression du 03/10/2016 à 07h05 : P1 A, Repas Complet : 1 → 0  ·  "
-             "P1 A, Sandwichs : 0 → 1  ·  Sandwichs jambon : 0 → 1"));
+  const QString depuis = "Depuis l'impression de la fiche, le 03/10/2016 à 07h05 : ";
+  EXPECT_TRUE(Montre(depuis + "P1 A, Repas Complet : 1 → 0  ·  P1 A, Sandwichs : 0 → 1  ·  "
+                              "Sandwichs jambon : 0 → 1  ·  ALVES Rui (P1 A) : rien → Sandwichs jambon"));
+  // Two who swap leave the numbers of the class as they were.
+  QFile::remove(Base.Chemin("fiche.pdf"));
+  Fiche(exporter);
+  Base.Sql("UPDATE COMMANDE SET FLG_DAGO = 1 - FLG_DAGO, FLG_SANDWICH = 1 - COALESCE(FLG_SANDWICH, 0)");
+  rouvrir();
+  EXPECT_TRUE(Montre(depuis +
+                     "Dago fromage : 1 → 0  ·  Dago jambon : 0 → 1  ·  Sandwichs fromage : 0 → 1  ·  "
+                     "Sandwichs jambon : 1 → 0  ·  ALVES Rui (P1 A) : Sandwichs jambon → Dago jambon  ·  "
+                     "BODART Léa (P1 A) : Dago fromage → Sandwichs fromage"));
   Touche(Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(arbre(), "");
   EXPECT_TRUE(Montre("Préparations du vendredi 30 septembre"));
@@ -322,7 +409,7 @@ struct VuesSeules : testing::Test {
   void Verifier(const std::function<void(Form&)>& preparer = {}) {
     Partout([&] {
       Form form(ecran->Contexte);
-      form.Montrer();
+      static_cast<TForm&>(form).Montrer();
       if (preparer) preparer(form);
       const std::unique_ptr<QWidget> vue(CreerVue(form, nullptr));
       VerifierVue(*vue);
@@ -352,10 +439,18 @@ TEST_F(VuesSeules, NothingIsOutOfReachOfTheKeyboardNorCut) {
     form.btnCoupureClick(0);
   });
   Verifier<TFrmPresenceRepas>();
-  Partout([this] {
-    TFrmAjoutTicket form(ecran->Contexte, *Globals.Eleves->TrouverParId(1), {});
+  Verifier<TFrmTransfertRepas>([](TFrmTransfertRepas& form) {
+    form.Anomalies.Ajouter({"ALVES", "Rui", EncodeDate(2016, 10, 9), "Repas", "Aucun tarif"});
+  });
+  const auto dialogue = [](TForm& form) {
     form.Montrer();
     const std::unique_ptr<QWidget> vue(CreerVue(form, nullptr));
     VerifierVue(*vue);
+  };
+  Partout([&] {
+    TFrmAjoutTicket ajout(ecran->Contexte, *Globals.Eleves->TrouverParId(1), {});
+    dialogue(ajout);
+    TFrmTransfertTicket transfert(ecran->Contexte.Dialogues());
+    dialogue(transfert);
   });
 }
