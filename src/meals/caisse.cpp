@@ -5,15 +5,12 @@
 
 using namespace Qt::StringLiterals;
 
-// A payment has one detail; of more the first counts, or its amount would be in the till twice.
 TCaisse LireCaisse(TDataModule1& base, TDateTime jour) {
   QString sommes;
   for (const TCoupure& c : Coupures()) sommes += u", SUM(D.%1) %1"_s.arg(QLatin1String(c.Colonne));
   TCurseur ligne(base, u"SELECT SUM(P.MONTANT) MONTANT" % sommes %
                            u" FROM REPAS_PAIEMENT P LEFT JOIN DETAIL_PAIEMENT_LIQUIDE D ON "
-                           "D.DETAIL_PAIEMENT_LIQUIDE_ID = (SELECT MIN(X.DETAIL_PAIEMENT_LIQUIDE_ID) FROM "
-                           "DETAIL_PAIEMENT_LIQUIDE X "
-                           "WHERE X.REPAS_PAIEMENT_ID = P.REPAS_PAIEMENT_ID) WHERE P.TYPE_PAIEMENT = 0 AND "
+                           "D.REPAS_PAIEMENT_ID = P.REPAS_PAIEMENT_ID WHERE P.TYPE_PAIEMENT = 0 AND "
                            "P.DATE_PAIEMENT = " %
                            FormatDateSql(jour));
   TCaisse caisse;

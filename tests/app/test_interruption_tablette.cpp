@@ -23,6 +23,7 @@ class TTabletteInterrompue : public TProgrammeEssai {
  protected:
   TTabletteInterrompue() {
     using namespace Essai;
+    QDir().mkpath(Chemin("verrous"));
     ecole_.tarif(FamilleRepas, TousLesJours, u"11:30"_s, u"13:30"_s, Forfait, u"2"_s, ScanPresence);
     QImage image(80, 90, QImage::Format_RGB32);
     image.fill(Qt::red);
@@ -39,6 +40,10 @@ class TTabletteInterrompue : public TProgrammeEssai {
   /// Starts the program; it ends by itself, or is killed after so many milliseconds. How long it ran.
   qint64 Executer(const QStringList& commande, int fatal = kLimiteMs) const {
     QProcess programme;
+    // Apart from the test's: a lock table that is broken by a kill lives as long as somebody holds it.
+    QProcessEnvironment milieu = QProcessEnvironment::systemEnvironment();
+    milieu.insert(u"FIREBIRD_LOCK"_s, Chemin("verrous"));
+    programme.setProcessEnvironment(milieu);
     programme.setStandardOutputFile(QProcess::nullDevice());
     programme.setStandardErrorFile(QProcess::nullDevice());
     QElapsedTimer duree;

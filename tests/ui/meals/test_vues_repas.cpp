@@ -154,6 +154,7 @@ TEST_F(VuesRepas, AClassIsOrderedByKeyboardIntoTheLockAndOut) {
   Aller(grille);
   grille.setCurrentCell(0, 1);
   Frapper("D");
+  EXPECT_EQ(grille.item(0, 0)->text(), "ALVES Rui  ·  incomplète");
   EXPECT_FALSE(Nomme<QComboBox>("Classe").isEnabled()) << "an incomplete order holds class and day";
   Programme.Dialogues.Attend("Attention le choix du sandwich est incomplet !");
   Touche(Qt::Key_Down);
@@ -161,6 +162,7 @@ TEST_F(VuesRepas, AClassIsOrderedByKeyboardIntoTheLockAndOut) {
   Aller(grille);
   Frapper("JB");
   EXPECT_TRUE(Nomme<QComboBox>("Classe").isEnabled());
+  EXPECT_EQ(grille.item(0, 0)->text(), "ALVES Rui");
   Touche(Qt::Key_Down);
   EXPECT_EQ(grille.currentRow(), 1);
   Frapper(" ");  // the column in hand is that of the meal
