@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <functional>
 
+#include "screens/commun/nom_de_liste.h"
 #include "screens/meals/frm_ticket.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/etat_vide.h"
@@ -29,6 +30,8 @@ VueTicket::VueTicket(TFrmTicket& form, QWidget* parent)
   pages_->addTab(PageDetail(), u"Détail de l'élève"_s);
   connect(pages_, &QTabWidget::currentChanged, this, [this](int page) { form_.ChoisirPage(page); });
   connect(eleves_, &VueGrille::Activee, this, [this] { form_.LstEleveDblClick(); });
+  eleves_->DefinirNomExport([this] { return NomDeListe(form_.NomClasse()); });
+  detail_->DefinirNomExport([this] { return NomDeListe(form_.NomEleve()); });
   connect(sansTicket_, &EtatVide::BoutonPresse, this, [this] { form_.btnEtape1Click(); });
   connect(detail_, &VueGrille::Suppression, this, [this] { form_.AdvGlowButton2Click(); });
   QVBoxLayout* colonne = ColonneEcran(*this, u"Gestion des tickets"_s);
