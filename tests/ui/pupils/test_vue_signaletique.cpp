@@ -1,10 +1,11 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTest>
 
@@ -17,6 +18,7 @@
 #include "ui/commun/pied_de_grille.h"
 #include "ui/commun/vue_dialogue.h"
 #include "ui/commun/vue_grille.h"
+#include "ui/principal/application.h"
 #include "ui/pupils/fiche_identite.h"
 #include "ui/pupils/vue_signaletique.h"
 #include "ui/verifier_vue.h"
@@ -349,10 +351,15 @@ TEST_F(TSaisieFiche, LaPhotoDUnFichier) {
   const auto deposer = [&photo](const QUrl& quoi) {
     QMimeData donnees;
     donnees.setUrls({quoi});
+    QDragEnterEvent arrivee(photo.rect().center(), Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&photo, &arrivee);
     QDropEvent depot(photo.rect().center(), Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&photo, &depot);
   };
-  EXPECT_THROW(deposer(QUrl(u"https://ecole.be/rose.jpg"_s)), Exception) << "a link of a browser";
+  auto& application = dynamic_cast<Application&>(*qApp);
+  const QScopedValueRollback<IDialogues*> repond(application.Dialogues, &base.Dialogues);
+  base.Dialogues.Attend(u"n'est pas un fichier de cet ordinateur"_s);
+  deposer(QUrl(u"https://ecole.be/rose.jpg"_s));  // of a browser
   deposer(QUrl::fromLocalFile(bon));
   EXPECT_FALSE(ecran->Photo().isNull());
 }
