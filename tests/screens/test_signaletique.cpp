@@ -75,6 +75,10 @@ TEST_F(TSignaletique, UnePhotoIllisibleNeCachePasLEleve) {
   EXPECT_TRUE(fiche.Photo().isNull());
   EXPECT_EQ(monde.Etats.size(), 1);
   EXPECT_EQ(fiche.Frais.Grille.NombreLignes(), 8);
+  fiche.RecevoirMessage({TCodeMessage::EleveChange, {}});
+  base.Dialogues.Repond(u"Voulez-vous effacer cette photo ?"_s, true);
+  fiche.Effacerlaphoto1Click();
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM ELEVE_PHOTO"_s), u"0");
 }
 
 TEST_F(TSignaletique, MoisDuJour) {

@@ -7,6 +7,7 @@
 #include "core/formats.h"
 #include "core/mois.h"
 #include "pupils/eleves.h"
+#include "screens/commun/nom_de_liste.h"
 #include "services/frais_eleve.h"
 
 using namespace Qt::StringLiterals;
@@ -128,14 +129,9 @@ QString TFrmSignaletique::Titre() const {
   return u"Aucun élève en "_s + AnneeEnTexte(Globals.Eleves->AnneeScolaire);
 }
 
-QStringList TFrmSignaletique::NomReleve() const {
-  return {nomComplet_,
-          NomMoisCourant(MoisVu()) % u' ' % QString::number(Globals.Eleves->AnneeDuMois(MoisVu()))};
-}
+QStringList TFrmSignaletique::NomReleve() const { return NomDeListe(nomComplet_, MoisVu()); }
 
-QStringList TFrmSignaletique::NomFrais() const {
-  return {nomComplet_, AnneeEnTexte(Globals.Eleves->AnneeScolaire)};
-}
+QStringList TFrmSignaletique::NomFrais() const { return NomDeListe(nomComplet_); }
 
 // A text that was refused stands nowhere but in its field.
 QString TFrmSignaletique::EnSuspens() const {

@@ -39,6 +39,8 @@ class TFrmSignaletique : public TForm {
   const QString& SousTitre() const { return sousTitre_; }
   /// A null picture without a photo.
   const QImage& Photo() const { return photo_; }
+  /// One is stored, whether or not it can be shown.
+  bool AvecPhoto() const;
   const std::array<TGroupeMois, 3>& Mois() const { return mois_; }
   /// A box of a group (0 to 2), its month by its place; the boxes go back without a pupil.
   void cbMoisClick(int groupe, int mois, bool coche) { MarquerMois(groupe, {mois}, coche); }

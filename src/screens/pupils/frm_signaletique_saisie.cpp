@@ -20,6 +20,10 @@ constexpr qint64 kPhotoMax = 50 * 1024 * 1024;
 /// The picture upright, as the camera says that it was held. Raises Exception.
 QImage LireImage(const QString& chemin) {
   const QFileInfo fichier(chemin);
+  if (chemin.isEmpty())
+    throw Exception(
+        u"Ce qui a été déposé n'est pas un fichier de cet ordinateur. Enregistrez d'abord l'image, puis "
+        "choisissez son fichier."_s);
   if (!fichier.isFile()) throw Exception(u"« %1 » n'est pas un fichier."_s.arg(fichier.fileName()));
   if (fichier.size() > kPhotoMax)
     throw Exception(u"« %1 » est trop grand pour une photo (50 Mo au plus)."_s.arg(fichier.fileName()));
@@ -224,8 +228,13 @@ void TFrmSignaletique::PrendrePhoto(const QString& chemin) {
   contexte_.Principal.Etat(TNiveauEtat::Succes, QString(u"Photo enregistrée pour " % nomComplet_));
 }
 
+bool TFrmSignaletique::AvecPhoto() const {
+  return !photo_.isNull() ||
+         (avecEleve_ && Globals.EleveCourant != nullptr && Globals.EleveCourant->OctetsPhoto());
+}
+
 void TFrmSignaletique::Effacerlaphoto1Click() {
-  if (!ExigeEleve() || photo_.isNull()) return;
+  if (!ExigeEleve() || !AvecPhoto()) return;
   if (!contexte_.Dialogues().ConfirmerGrave(u"Voulez-vous effacer cette photo ?"_s)) return;
   Globals.EleveCourant->DeletePhoto();
   DaterPhotos();

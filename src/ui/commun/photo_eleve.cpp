@@ -31,7 +31,7 @@ void PhotoEleve::contextMenuEvent(QContextMenuEvent* evenement) {
   menu.addAction(Theme::Icone(u"document-open"_s), u"Choisir une photo..."_s, this, &QAbstractButton::click);
   menu.addAction(Theme::Icone(u"edit-delete"_s, TRole::Erreur), u"Effacer la photo"_s, this,
                  &PhotoEleve::Effacee)
-      ->setEnabled(!image_.isNull());
+      ->setEnabled(PeutEffacer && PeutEffacer());
   menu.exec(evenement->globalPos());
 }
 

@@ -1,6 +1,7 @@
 #include "ui/commun/vue_dialogue.h"
 
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "screens/commun/frm_dialogue.h"
 #include "ui/commun/etiquette.h"
@@ -8,7 +9,6 @@
 
 VueDialogue::VueDialogue(TFrmDialogue& form, QWidget* parent)
     : DialogueBase(form.Titre, parent), form_(form), liaison_(new LiaisonChamps(form.Champs(), this)) {
-  setMinimumWidth(Theme::Px(400));
   if (!form.Note.isEmpty()) {
     auto* note = new Etiquette(form.Note, TRole::Secondaire);
     note->setWordWrap(true);
@@ -16,6 +16,8 @@ VueDialogue::VueDialogue(TFrmDialogue& form, QWidget* parent)
   }
   Contenu()->addLayout(CreerFormulaire(*liaison_));
   DefinirPrincipal(form.Principal);
+  // A least width of one's own takes the place of what the fields need, in a large font as well.
+  setMinimumWidth(std::max(Theme::Px(400), minimumSizeHint().width()));
   liaison_->Widget(form.PremierChamp())->setFocus(Qt::OtherFocusReason);
 }
 

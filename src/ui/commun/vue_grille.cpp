@@ -17,6 +17,7 @@
 
 #include "core/fichiers.h"
 #include "core/nom_fichier.h"
+#include "screens/commun/nom_de_liste.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/menu_grille.h"
 #include "ui/commun/modele_grille.h"
@@ -289,7 +290,7 @@ void VueGrille::CopierTout() {
 
 // The mark of the encoding is for spreadsheets, which would take the text for another one.
 void VueGrille::Exporter() {
-  const QStringList parties = QStringList{accessibleName()} + (precisions_ ? precisions_() : QStringList());
+  const QStringList parties = QStringList{accessibleName()} + (precisions_ ? precisions_() : NomDeListe());
   const auto chemin =
       DialoguesQt().FichierAEnregistrer(u"Exporter la liste"_s, NomDeFichier(parties, u".csv"_s),
                                         u"Texte séparé par des points-virgules (*.csv)"_s);

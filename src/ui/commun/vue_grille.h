@@ -25,7 +25,8 @@ class VueGrille : public QTreeView {
   TGrille& Grille() const { return grille_; }
   /// The field filters as one types; Ctrl+F in the grid goes to it.
   void Filtrer(ChampFiltre& champ);
-  /// What is told in the name of an exported file besides the list: whose it is, and of when.
+  /// What is told in the name of an exported file besides the list: whose it is, and of when (NomDeListe);
+  /// the year on display when nothing is said.
   void DefinirNomExport(std::function<QStringList()> precisions) { precisions_ = std::move(precisions); }
   /// The column that takes the room that is left, or gives way; the widest on the left by default.
   void DefinirColonneSouple(int colonne);

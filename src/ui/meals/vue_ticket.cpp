@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <functional>
 
+#include "screens/commun/nom_de_liste.h"
 #include "screens/meals/frm_ticket.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/etat_vide.h"
@@ -34,6 +35,8 @@ VueTicket::VueTicket(TFrmTicket& form, QWidget* parent)
   connect(pages_, &QTabWidget::currentChanged, this, [this](int page) { form_.ChoisirPage(page); });
   for (VueGrille* liste : {eleves_, sousTrois_})
     connect(liste, &VueGrille::Activee, this, [this] { form_.LstEleveDblClick(); });
+  eleves_->DefinirNomExport([this] { return NomDeListe(form_.NomClasse()); });
+  detail_->DefinirNomExport([this] { return NomDeListe(form_.NomEleve()); });
   connect(sansTicket_, &EtatVide::BoutonPresse, this, [this] { form_.btnEtape1Click(); });
   connect(detail_, &VueGrille::Suppression, this, [this] { form_.AdvGlowButton2Click(); });
   QVBoxLayout* colonne = ColonneEcran(*this, u"Gestion des tickets"_s);

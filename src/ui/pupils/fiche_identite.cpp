@@ -74,6 +74,7 @@ void FicheIdentite::Aerer(bool large) {
 
 QLayout* FicheIdentite::CreerEntete() {
   photo_ = new PhotoEleve;
+  photo_->PeutEffacer = [this] { return form_.AvecPhoto(); };
   connect(photo_, &PhotoEleve::clicked, this, [this] { form_.Image1Click(); });
   connect(photo_, &PhotoEleve::FichierDepose, this,
           [this](const QString& chemin) { form_.PrendrePhoto(chemin); });

@@ -1,8 +1,11 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTest>
 
@@ -13,7 +16,9 @@
 #include "screens/signaletique_essai.h"
 #include "ui/attendance/vue_releve_calendrier.h"
 #include "ui/commun/pied_de_grille.h"
+#include "ui/commun/vue_dialogue.h"
 #include "ui/commun/vue_grille.h"
+#include "ui/principal/application.h"
 #include "ui/pupils/fiche_identite.h"
 #include "ui/pupils/vue_signaletique.h"
 #include "ui/verifier_vue.h"
@@ -323,6 +328,8 @@ TEST_F(TSaisieFiche, LeCalendrierMarqueCeQuiEstCompte) {
     VerifierVuePartout([&] { return std::make_unique<VueReleveCalendrier>(calendrier, nullptr); });
   };
   Controle<QAbstractButton>(u"Relevés sur calendrier"_s).click();
+  TFrmPaiement paiement(3);
+  VerifierVuePartout([&] { return std::make_unique<VueDialogue>(paiement, nullptr); });
 }
 
 TEST_F(TSaisieFiche, LaPhotoDUnFichier) {
@@ -340,6 +347,21 @@ TEST_F(TSaisieFiche, LaPhotoDUnFichier) {
   photo.setFocus();
   QTest::keyClick(&photo, Qt::Key_Delete);
   EXPECT_TRUE(ecran->Photo().isNull());
+
+  const auto deposer = [&photo](const QUrl& quoi) {
+    QMimeData donnees;
+    donnees.setUrls({quoi});
+    QDragEnterEvent arrivee(photo.rect().center(), Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&photo, &arrivee);
+    QDropEvent depot(photo.rect().center(), Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&photo, &depot);
+  };
+  auto& application = dynamic_cast<Application&>(*qApp);
+  const QScopedValueRollback<IDialogues*> repond(application.Dialogues, &base.Dialogues);
+  base.Dialogues.Attend(u"n'est pas un fichier de cet ordinateur"_s);
+  deposer(QUrl(u"https://ecole.be/rose.jpg"_s));  // of a browser
+  deposer(QUrl::fromLocalFile(bon));
+  EXPECT_FALSE(ecran->Photo().isNull());
 }
 
 // What the user has folded, where the list stands and where the hand is outlive the next pupil.
