@@ -87,9 +87,11 @@ TEST_F(Assistant, PagesFollowWhatWasAskedAndTheTitle) {
     Ouvrir(
         [&] {
           if (titre >= 0) assistant.ChoixRapportClick(titre);
+          assistant.RbEleveClick(Classes);
+          assistant.btnToutSelectionnerClick();
           std::vector<TPageAssistant> vues{assistant.Page()};
           EXPECT_TRUE(assistant.EstPremierePage()) << nom;
-          while (!assistant.EstDernierePage()) {
+          while (!assistant.EstDernierePage() && vues.size() < 4) {
             assistant.btnSuivantClick();
             vues.push_back(assistant.Page());
           }
