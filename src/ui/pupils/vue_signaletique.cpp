@@ -20,6 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kIconeSeule = 28;  // the title beside it is whole at 1366 points
+
 // At 10 points.
 constexpr int kLargeurIdentite = 536;
 constexpr int kLargeurDeux = 1060;
@@ -76,6 +78,7 @@ QWidget* VueSignaletique::CreerReleve() {
          [this] { form_.SpeedButton3Click(); });
   QPushButton* supprimer = BoutonSupprimer(u"Supprimer le relevé"_s, {});
   connect(supprimer, &QPushButton::clicked, this, [this] { form_.btnDeleteFaitClick(); });
+  supprimer->setMaximumWidth(Theme::Px(kIconeSeule));
   titre->AjouterAction(supprimer);
   releve_ = new VueGrille(form_.Releve.Grille, titre->Texte(), u"Signaletique/Releve"_s);
   releve_->DefinirNomExport([this] { return form_.NomReleve(); });
@@ -109,6 +112,7 @@ void VueSignaletique::Bouton(TitreSection& titre, const QString& texte, const QS
   QPushButton* bouton = BoutonDiscret(texte, icone);
   bouton->setAccessibleName(nom);
   bouton->setToolTip(nom);
+  if (texte.isEmpty()) bouton->setMaximumWidth(Theme::Px(kIconeSeule));
   connect(bouton, &QPushButton::clicked, this, std::move(faire));
   titre.AjouterAction(bouton);
 }
