@@ -118,7 +118,7 @@ VueAccueil::VueAccueil(TFrmMain& form, QWidget* parent)
   cadre->setMaximumWidth(Theme::Px(880));
   auto* page = new QWidget;
   auto* ligne = new QHBoxLayout(page);
-  ligne->setContentsMargins(Theme::Px(48), Theme::Px(40), Theme::Px(48), Theme::Px(16));
+  ligne->setContentsMargins(Theme::Px(32), Theme::Px(40), Theme::Px(24), Theme::Px(16));
   ligne->addWidget(cadre, 1);
   ligne->addStretch();
   setWidget(page);

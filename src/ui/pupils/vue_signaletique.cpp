@@ -20,12 +20,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kIconeSeule = 28;  // the title beside it is whole at 1366 points
-
 // At 10 points.
 constexpr int kLargeurIdentite = 536;
 constexpr int kLargeurDeux = 1060;
 constexpr int kLargeurTrois = 1500;
+constexpr int kIconeSeule = 28;
+constexpr int kMois = 108;
 constexpr int kRangees = 5;
 /// With more than one column the last row of the grid takes the height that the lists leave.
 constexpr int kRangsLarges = 3;
@@ -67,19 +67,27 @@ QWidget* VueSignaletique::CreerReleve() {
   cmbMois_->addItems(NomsMoisScolaires());
   cmbMois_->setAccessibleName(u"Mois du relevé"_s);
   cmbMois_->setMaxVisibleItems(10);
-  cmbMois_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  cmbMois_->setMaximumWidth(Theme::Px(kMois));
   connect(cmbMois_, &QComboBox::activated, this, [this](int indice) { form_.cmbMoisChange(indice); });
   auto* titre = new TitreSection(u"Relevé mensuel des services"_s);
   titre->AjouterSuite(cmbMois_);
-  Bouton(*titre, {}, u"list-add"_s, u"Ajouter un relevé"_s, [this] { form_.btnAjoutFaitClick(); });
-  Bouton(*titre, {}, u"view-calendar-day"_s, u"Relevés sur calendrier"_s,
-         [this] { form_.btnCalendrierClick(); });
-  Bouton(*titre, {}, u"document-print"_s, u"Exporter les informations (accueil extrascolaire du mois)"_s,
-         [this] { form_.SpeedButton3Click(); });
   QPushButton* supprimer = BoutonSupprimer(u"Supprimer le relevé"_s, {});
   connect(supprimer, &QPushButton::clicked, this, [this] { form_.btnDeleteFaitClick(); });
-  supprimer->setMaximumWidth(Theme::Px(kIconeSeule));
-  titre->AjouterAction(supprimer);
+  auto* outils = new QWidget;  // close to each other: the title beside them is whole at 1366 points
+  auto* rang = new QHBoxLayout(outils);
+  rang->setContentsMargins(0, 0, 0, 0);
+  rang->setSpacing(0);
+  for (QPushButton* bouton :
+       {Bouton({}, u"list-add"_s, u"Ajouter un relevé"_s, [this] { form_.btnAjoutFaitClick(); }),
+        Bouton({}, u"view-calendar-day"_s, u"Relevés sur calendrier"_s,
+               [this] { form_.btnCalendrierClick(); }),
+        Bouton({}, u"document-print"_s, u"Exporter les informations (accueil extrascolaire du mois)"_s,
+               [this] { form_.SpeedButton3Click(); }),
+        supprimer}) {
+    bouton->setMaximumWidth(Theme::Px(kIconeSeule));
+    rang->addWidget(bouton);
+  }
+  titre->AjouterAction(outils);
   releve_ = new VueGrille(form_.Releve.Grille, titre->Texte(), u"Signaletique/Releve"_s);
   releve_->DefinirNomExport([this] { return form_.NomReleve(); });
   piedReleve_ = new PiedDeGrille(*releve_);
@@ -92,8 +100,8 @@ QWidget* VueSignaletique::CreerReleve() {
 
 QWidget* VueSignaletique::CreerFrais() {
   auto* titre = new TitreSection(u"Frais et paiements"_s);
-  Bouton(*titre, u"Ajouter"_s, u"list-add"_s, u"Ajouter un paiement"_s,
-         [this] { form_.SpeedButton1Click(); });
+  titre->AjouterAction(
+      Bouton(u"Ajouter"_s, u"list-add"_s, u"Ajouter un paiement"_s, [this] { form_.SpeedButton1Click(); }));
   QPushButton* supprimer = BoutonSupprimer(u"Supprimer le frais ou le paiement"_s);
   connect(supprimer, &QPushButton::clicked, this, [this] { form_.SpeedButton2Click(); });
   titre->AjouterAction(supprimer);
@@ -107,14 +115,13 @@ QWidget* VueSignaletique::CreerFrais() {
   return CreerBloc(titre, frais_, piedFrais_);
 }
 
-void VueSignaletique::Bouton(TitreSection& titre, const QString& texte, const QString& icone,
-                             const QString& nom, std::function<void()> faire) {
+QPushButton* VueSignaletique::Bouton(const QString& texte, const QString& icone, const QString& nom,
+                                     std::function<void()> faire) {
   QPushButton* bouton = BoutonDiscret(texte, icone);
   bouton->setAccessibleName(nom);
   bouton->setToolTip(nom);
-  if (texte.isEmpty()) bouton->setMaximumWidth(Theme::Px(kIconeSeule));
   connect(bouton, &QPushButton::clicked, this, std::move(faire));
-  titre.AjouterAction(bouton);
+  return bouton;
 }
 
 void VueSignaletique::CreerRetablir() {

@@ -26,8 +26,8 @@ class VueSignaletique : public QScrollArea {
   void changeEvent(QEvent* evenement) override;
 
  private:
-  void Bouton(TitreSection& titre, const QString& texte, const QString& icone, const QString& nom,
-              std::function<void()> faire);
+  QPushButton* Bouton(const QString& texte, const QString& icone, const QString& nom,
+                      std::function<void()> faire);
   void CreerRetablir();
   QWidget* CreerReleve();
   QWidget* CreerFrais();

@@ -5,6 +5,7 @@
 #include "screens/services/frm_liste_frais.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/etiquette.h"
+#include "ui/commun/rangee_pliante.h"
 #include "ui/services/arbre_coches.h"
 
 VueListeFrais::VueListeFrais(TFrmListeFrais& form, QWidget* parent)
@@ -18,9 +19,8 @@ VueListeFrais::VueListeFrais(TFrmListeFrais& form, QWidget* parent)
   mode_->setCheckable(true);
   mode_->setToolTip(u"Les élèves cochés dans ce mode ont déjà payé"_s);
   connect(mode_, &QPushButton::clicked, this, [this] { frais_.btnFraisPayeClick(); });
-  auto* tete = new QHBoxLayout;
+  auto* tete = new RangeePliante;  // two lines rather than a panel wider than a small window
   tete->addWidget(nombre_);
-  tete->addStretch(1);
   tete->addWidget(mode_);
   auto* colonne = new QVBoxLayout;
   colonne->setSpacing(Theme::Px(8));
