@@ -79,20 +79,16 @@ void RelireGroupes(int groupeFraisId) {
     Globals.GroupesFrais = std::make_unique<TGroupesFrais>(Globals.Eleves->BaseDeDonnees());
 }
 
-bool CrediterEleve(const TAttribution& attribution, const TExtrait& extrait, int groupeFraisId,
-                   const QString& libelle) {
+void CrediterEleve(const TAttribution& attribution, const TExtrait& extrait) {
   TEleve* eleve = Globals.Eleves->TrouverParId(attribution.EleveId);
-  if (eleve == nullptr || Globals.Eleves->ExtraitVersEleve(extrait.Id) != 0) return false;
+  if (eleve == nullptr || Globals.Eleves->ExtraitVersEleve(extrait.Id) != 0) return;
   TAllFraisEleve* frais = eleve->GetAllFrais();
-  if (frais->ExisteExtrait(extrait.Id)) return false;
+  if (frais->ExisteExtrait(extrait.Id)) return;
   auto nouveau = std::make_unique<TFraisEleve>();
-  nouveau->Remarque = libelle;
+  nouveau->Remarque = LibelleVirement(extrait);
   nouveau->MontantVerse = extrait.Montant;
   nouveau->Mois = attribution.Mois;
   nouveau->ExtraitId = extrait.Id;
   nouveau->TypeFamilleFrais = attribution.Famille;
-  nouveau->GroupeFraisId = groupeFraisId;
   Memoriser(*frais, std::move(nouveau));
-  RelireGroupes(groupeFraisId);
-  return true;
 }

@@ -29,7 +29,6 @@ std::unordered_map<int, std::vector<TAttribution>> LireAttributions(TDataModule1
 void RelireGroupes(int groupeFraisId);
 
 /// Gives a stored movement to a pupil of the year on display: one payment of its whole amount, saved at
-/// once. False, and nothing done, without such a pupil and for a movement that some pupil has already.
-/// Raises Exception when it cannot be saved.
-bool CrediterEleve(const TAttribution& attribution, const TExtrait& extrait, int groupeFraisId,
-                   const QString& libelle);
+/// once. Nothing without such a pupil, and for a movement that some pupil has already. Raises Exception when
+/// it cannot be saved.
+void CrediterEleve(const TAttribution& attribution, const TExtrait& extrait);

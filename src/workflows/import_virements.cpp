@@ -348,5 +348,5 @@ void TImportVirements::CrediterRangee(const TRangeeVirement& rangee, bool compac
     return;
   }
   ++bilan.Comptabilises;
-  CrediterEleve(*attribution, extrait, 0, LibelleVirement(extrait));
+  CrediterEleve(*attribution, extrait);
 }
