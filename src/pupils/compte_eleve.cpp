@@ -1,4 +1,6 @@
 // What a family owes and has paid. Nothing is kept: each amount is computed from the data as they stand.
+#include <algorithm>
+
 #include "attendance/presences.h"
 #include "payments/paiements.h"
 #include "pupils/eleve.h"
@@ -48,6 +50,24 @@ Currency TEleve::TotalGarderies(const TPeriode& periode) const {
 }
 
 Currency TEleve::CoutServicesPeriode(const TPeriode& periode) const { return TotalServices(periode); }
+
+// A service costs a month what its records of that month cost: none is priced by those of another month.
+std::array<Currency, kMoisScolaires.size()> TEleve::CoutsServicesMois() const {
+  std::array<TDateTime, kMoisScolaires.size()> fins;
+  std::ranges::transform(kMoisScolaires, fins.begin(),
+                         [this](int mois) { return BornesMois(mois, Eleves->AnneeScolaire).Dernier; });
+  std::array<Currency, kMoisScolaires.size()> couts;
+  TLignesService lignes;
+  for (const TService service : kServices) {
+    if (EstAccueil(service) && Flg3eEnfant) continue;
+    CoutService(service, BornesAnnee(Eleves->AnneeScolaire), lignes);
+    for (const TLigneService& ligne : lignes) {
+      const auto mois = std::ranges::lower_bound(fins, ligne.Presence->DateReleve) - fins.begin();
+      couts[static_cast<std::size_t>(mois)] += ligne.Montant;
+    }
+  }
+  return couts;
+}
 
 Currency TEleve::FraisServicesPeriode(const TPeriode& periode) const {
   const TAllFraisEleve* frais = GetAllFrais();

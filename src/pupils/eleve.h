@@ -1,5 +1,6 @@
 #pragma once
 #include <QImage>
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -10,6 +11,7 @@
 #include "core/calendrier_scolaire.h"
 #include "core/currency.h"
 #include "core/dates.h"
+#include "core/mois.h"
 #include "meals/comptage.h"
 #include "meals/tickets.h"
 #include "pupils/classe.h"
@@ -94,6 +96,8 @@ class TEleve : public TBaseObject {
   /// Morning, evening, Wednesday and study; 0 for a third child.
   Currency TotalGarderies(const TPeriode& periode) const;
   Currency CoutServicesPeriode(const TPeriode& periode) const;
+  /// The same for each of the ten months of the year loaded, in their order, at the price of one.
+  std::array<Currency, kMoisScolaires.size()> CoutsServicesMois() const;
   /// Fees that count as services, whose month lies inside the period.
   Currency FraisServicesPeriode(const TPeriode& periode) const;
   /// Fees whose month lies inside the period, services or not.

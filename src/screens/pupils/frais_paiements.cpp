@@ -73,9 +73,10 @@ void TFraisPaiements::AjouterFrais(const TEleve& eleve) {
 // was paid stays in sight when its services have come to nothing, so that the payment can be taken back.
 void TFraisPaiements::AjouterServices(const TEleve& eleve) {
   const TPaiements* paiements = eleve.Eleves->Paiements;
-  for (const int mois : kMoisScolaires) {
-    const Currency du =
-        std::max(Currency(), eleve.CoutServicesPeriode(BornesMois(mois, eleve.Eleves->AnneeScolaire)));
+  const auto couts = eleve.CoutsServicesMois();
+  for (std::size_t i = 0; i < kMoisScolaires.size(); ++i) {
+    const int mois = kMoisScolaires[i];
+    const Currency du = std::max(Currency(), couts[i]);
     TPaiement* paye = paiements != nullptr ? paiements->PaiementMois(eleve.Id, mois) : nullptr;
     if (du == Currency() && paye == nullptr) continue;
     const Currency verse = eleve.PaiementsMois(mois);

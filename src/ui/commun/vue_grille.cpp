@@ -14,6 +14,7 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <cmath>
+#include <unordered_map>
 
 #include "core/fichiers.h"
 #include "core/nom_fichier.h"
@@ -30,6 +31,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kHauteurLigne = 27;
+constexpr std::size_t kTextesGardes = 4096;
+
+struct THachage {
+  std::size_t operator()(const std::pair<QString, bool>& cle) const { return qHash(cle.first, cle.second); }
+};
 
 class DelegueGrille : public QStyledItemDelegate {
  public:
@@ -39,9 +45,7 @@ class DelegueGrille : public QStyledItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QStyle& style = *option.widget->style();
     const int marges = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1);
-    const QVariant police = index.data(Qt::FontRole);
-    const QFontMetricsF mesures(police.isValid() ? police.value<QFont>() : option.font);
-    int largeur = static_cast<int>(std::ceil(mesures.horizontalAdvance(index.data().toString()))) + marges;
+    int largeur = Largeur(index.data().toString(), index.data(Qt::FontRole), option.font) + marges;
     if (index.data(Qt::DecorationRole).isValid()) largeur += Theme::Px(16) - Theme::Px(4) + marges;
     if (index.data(Qt::CheckStateRole).isValid())
       largeur += style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget) + marges;
@@ -82,6 +86,20 @@ class DelegueGrille : public QStyledItemDelegate {
  private:
   /// In high contrast the ground of a chosen row is the accent itself.
   static bool SelectionEnAccent() { return Theme::Selection() == Theme::Couleur(TRole::Accent); }
+
+  /// Kept: from one pupil to the next most texts of a list are the same, and shaping them is what costs.
+  int Largeur(const QString& texte, const QVariant& police, const QFont& usuelle) const {
+    if (usuelle != usuelle_ || largeurs_.size() > kTextesGardes) largeurs_.clear();
+    usuelle_ = usuelle;
+    const QFont voulue = police.isValid() ? police.value<QFont>() : usuelle;
+    const auto [place, nouvelle] = largeurs_.try_emplace({texte, voulue.bold()}, 0);
+    if (nouvelle) place->second = static_cast<int>(std::ceil(QFontMetricsF(voulue).horizontalAdvance(texte)));
+    return place->second;
+  }
+
+  mutable QFont usuelle_;
+  /// By text, and by whether it is bold.
+  mutable std::unordered_map<std::pair<QString, bool>, int, THachage> largeurs_;
 };
 
 /// Sets a flag while it lives.
