@@ -25,7 +25,7 @@ Currency Somme(const std::vector<Currency>& montants) {
   return std::accumulate(montants.begin(), montants.end(), Currency());
 }
 
-/// Cuts each share to the cent, and hands the cents that are left to the first ones.
+/// Cuts each share to the cent, and hands the cents that are left to the first ones who have a share.
 std::vector<Currency> EnProportion(Currency montant, const std::vector<Currency>& poids) {
   const std::int64_t total = Somme(poids).EnBrut();
   std::vector<Currency> parts;
@@ -34,11 +34,12 @@ std::vector<Currency> EnProportion(Currency montant, const std::vector<Currency>
     parts.push_back(Currency::Brut(static_cast<std::int64_t>(part)).TronqueAuCent());
   }
   Currency reste = montant - Somme(parts);
-  for (std::size_t i = 0; reste >= Currency::Brut(kCent); i = (i + 1) % parts.size()) {
-    parts[i] += Currency::Brut(kCent);
-    reste -= Currency::Brut(kCent);
+  for (std::size_t i = 0; reste > Currency(); i = (i + 1) % parts.size()) {
+    if (poids[i] == Currency()) continue;
+    const Currency un = std::min(reste, Currency::Brut(kCent));
+    parts[i] += un;
+    reste -= un;
   }
-  parts.front() += reste;
   return parts;
 }
 
