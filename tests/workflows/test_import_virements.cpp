@@ -217,6 +217,17 @@ TEST_F(TImportVirementsEssai, AMovementBelongsToOnePupil) {
   base_.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = 1"_s);
   Importer({TVersement{u"+++100/0001/01600+++"_s}});
   EXPECT_EQ(etats_, QStringList{u"Caché 2"_s});
+  // Given by another workstation between the two steps.
+  base_.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
+  base_.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = NULL, COMMUNICATION = '+++000/0110/16104+++'"_s);
+  essai_.Charger();
+  TImportVirements import(essai_.Controleur);
+  EXPECT_TRUE(import.Etape1(Fichier({a})));
+  base_.Sql(
+      u"INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID, MONTANT_VERSE) "
+      "SELECT 77, 2, 2016, EXTRAIT_ID, MONTANT FROM EXTRAITS"_s);
+  import.Etape2();
+  EXPECT_EQ(Credits().size(), 1);
 }
 
 TEST_F(TImportVirementsEssai, WhatIsNoNumberEndsTheCrediting) {
