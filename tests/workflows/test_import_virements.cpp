@@ -328,6 +328,7 @@ TEST_F(TImportVirementsEssai, AStatementIsAskedAboutBeforeItIsDoubted) {
   EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s), 2);
   EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s, true), 2)
       << "no row twice";
+  EXPECT_EQ(lit(ReleveCoda(7, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s), 2) << "in another form";
   EXPECT_EQ(lit(Releve(9, ecole, 7, 120, {u"c"_s}), u"ne suit pas le relevé n° 7 du 05/10/2016"_s), 2);
   EXPECT_EQ(lit(Releve(8, ecole, 6, 500, {u"c"_s}), u"il en manque un entre les deux"_s), 2);
   EXPECT_EQ(lit(Releve(8, u"BE71096123456769"_s, 6, 120, {u"c"_s}),
