@@ -369,7 +369,12 @@ TEST_F(Principal, EveryControlOfItsDialogsToo) {
         .Principal = u"&Se connecter à un serveur"_s,
         .Autre = u"&Travailler seul"_s});
   });
-  Programme.Demarrer();
+  DemarrerLEcole();
+  VerifierVuePartout([&] {
+    auto accueil = std::make_unique<VueAccueil>(Programme.Main());  // with what does without a step
+    accueil->Actualiser();
+    return accueil;
+  });
   TFrmAjoutProfesseur ajout(Programme.Main().Contexte);
   VerifierVuePartout([&] { return std::make_unique<VueDialogue>(ajout, nullptr); });
 }
