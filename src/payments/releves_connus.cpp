@@ -41,8 +41,24 @@ TEmpreinteReleve Empreinte(const TEnteteReleve& entete) {
   return connu;
 }
 
+/// A number that counts up within the year; 0 for none.
+int Rang(const TEmpreinteReleve& releve) {
+  const bool compte = releve.Numero.size() <= kChiffresNumero && EstChiffres(releve.Numero);
+  return compte ? releve.Numero.toInt() : 0;
+}
+
+/// The same statement, in whatever form it comes: CODA and camt.053 do not write its number alike, nor the
+/// day of its old balance.
+bool EstLeMeme(const TEmpreinteReleve& a, const TEmpreinteReleve& b) {
+  if (a == b) return true;
+  const bool soldes =
+      a.SoldesConnus && b.SoldesConnus && a.AncienSolde == b.AncienSolde && a.NouveauSolde == b.NouveauSolde;
+  const bool numeros = Rang(a) == Rang(b) || Rang(a) == 0 || Rang(b) == 0;
+  return soldes && numeros && a.Compte == b.Compte && a.DateNouveauSolde == b.DateNouveauSolde;
+}
+
 bool Contient(const std::vector<TEmpreinteReleve>& connus, const TEmpreinteReleve& releve) {
-  return std::ranges::find(connus, releve) != connus.end();
+  return std::ranges::any_of(connus, [&](const TEmpreinteReleve& connu) { return EstLeMeme(connu, releve); });
 }
 
 /// The latest one of the account that is not later; null when there is none.
@@ -54,12 +70,6 @@ const TEmpreinteReleve* Precedent(const std::vector<TEmpreinteReleve>& connus,
         (precedent == nullptr || c.DateNouveauSolde >= precedent->DateNouveauSolde))
       precedent = &c;
   return precedent;
-}
-
-/// A number that counts up within the year; 0 for none.
-int Rang(const TEmpreinteReleve& releve) {
-  const bool compte = releve.Numero.size() <= kChiffresNumero && EstChiffres(releve.Numero);
-  return compte ? releve.Numero.toInt() : 0;
 }
 
 bool SeSuivent(const TEmpreinteReleve& precedent, const TEmpreinteReleve& releve) {

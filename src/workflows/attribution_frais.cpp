@@ -199,12 +199,14 @@ void TAttributionFrais::Rendre(TFrais& frais, TLignesRetirees& lignes) {
       refus += ligne.Nom % u" : n'est plus dans l'année affichée"_s;
       continue;
     }
-    auto copie = CopieDe(*ligne.Ligne);
-    if (const QString raison = RefusMouvement(*copie, copie->MontantVerse); !raison.isEmpty()) {
-      refus += ligne.Nom % u", sans son paiement : " % raison;
-      OterPaiement(*copie);
+    try {
+      Donner(ligne.EleveId, CopieDe(*ligne.Ligne), frais.Id);
+    } catch (const ERefusMouvement& e) {
+      refus += ligne.Nom % u", sans son paiement : " % e.Message;
+      auto impayee = CopieDe(*ligne.Ligne);
+      OterPaiement(*impayee);
+      Donner(ligne.EleveId, std::move(impayee), frais.Id);
     }
-    Donner(ligne.EleveId, std::move(copie), frais.Id);
   }
   if (!refus.isEmpty())
     controleur_.Dialogues().Message(u"Le frais n'est pas rendu tout entier :\n" % refus.join(u'\n'));
@@ -217,11 +219,9 @@ void TAttributionFrais::Donner(int eleveId, std::unique_ptr<TFraisEleve> neuve, 
   TAllFraisEleve& lignes = *eleve.GetAllFrais();
   if (TFraisEleve* perdue = lignes.LigneFrais(frais)) lignes.Forget(*perdue);
   neuve->ListeFraisId = frais;
-  TFraisEleve& ligne = lignes.Add(std::move(neuve));
-  Sauver(lignes);
-  if (ligne.Id != -1) return RelirePaiement(ligne.ExtraitId, ligne.GroupeFraisId);
-  lignes.Forget(ligne);  // no key could be had, which the user has been told
-  throw Exception(u"Le frais n'a pas pu être donné à "_s % eleve.NomComplet() % u'.');
+  const int groupe = neuve->GroupeFraisId;
+  RangerPaiement(lignes, lignes.Add(std::move(neuve)));
+  RelireGroupes(groupe);
 }
 
 // A pupil of another year, or a line that another workstation added, is not in memory: its row goes by its

@@ -233,6 +233,7 @@ void TImportVirements::Situer(TRangeeVirement& rangee) {
 // statement counts as taken after that, so that it can be read again for the rest without a question.
 void TImportVirements::Etape2() {
   TReglagesPoste& reglages = controleur_.Reglages();
+  Globals.Eleves->ChargerExtraits = true;  // another workstation may have given some since step 1
   reprise_ = LireEnCours(reglages).contains(empreinte_);
   MarquerEnCours(reglages, empreinte_, true);
   try {

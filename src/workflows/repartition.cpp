@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <numeric>
+#include <optional>
 
 #include "application/globals.h"
 #include "core/curseur.h"
@@ -25,7 +26,7 @@ Currency Somme(const std::vector<Currency>& montants) {
   return std::accumulate(montants.begin(), montants.end(), Currency());
 }
 
-/// Cuts each share to the cent, and hands the cents that are left to the first ones.
+/// Cuts each share to the cent, and hands the cents that are left to the first ones who have a share.
 std::vector<Currency> EnProportion(Currency montant, const std::vector<Currency>& poids) {
   const std::int64_t total = Somme(poids).EnBrut();
   std::vector<Currency> parts;
@@ -34,11 +35,12 @@ std::vector<Currency> EnProportion(Currency montant, const std::vector<Currency>
     parts.push_back(Currency::Brut(static_cast<std::int64_t>(part)).TronqueAuCent());
   }
   Currency reste = montant - Somme(parts);
-  for (std::size_t i = 0; reste >= Currency::Brut(kCent); i = (i + 1) % parts.size()) {
-    parts[i] += Currency::Brut(kCent);
-    reste -= Currency::Brut(kCent);
+  for (std::size_t i = 0; reste > Currency(); i = (i + 1) % parts.size()) {
+    if (poids[i] == Currency()) continue;
+    const Currency un = std::min(reste, Currency::Brut(kCent));
+    parts[i] += un;
+    reste -= un;
   }
-  parts.front() += reste;
   return parts;
 }
 
@@ -146,22 +148,56 @@ QString FauteParts(const TExtrait& extrait, const std::vector<TPartVirement>& pa
                                                                                   FormatMontant(reste));
 }
 
-QString RefusMouvement(const TFraisEleve& paiement, Currency enPlus) {
-  const bool range = paiement.Id > 0;
-  if (paiement.ExtraitId < 1 || (range && enPlus <= Currency())) return {};
-  Globals.Eleves->ChargerExtraits = true;
-  const std::vector<TPartExtrait>& parts = Globals.Eleves->PartsExtrait(paiement.ExtraitId);
-  const std::ptrdiff_t autres = std::ssize(parts) - (range ? 1 : 0);
-  const bool donne = autres > 0 && (!paiement.FlgPart || !std::ranges::all_of(parts, &TPartExtrait::FlgPart));
+QString RefusMouvement(const TFraisEleve& paiement, Currency montant) {
+  if (paiement.ExtraitId < 1) return {};
+  TDataModule1& base = Globals.Eleves->BaseDeDonnees();
+  bool donne = false;
+  Currency autres, range;
+  TCurseur part(base,
+                u"SELECT FRAIS_ELEVE_ID, MONTANT_VERSE, FLG_PART FROM FRAIS_ELEVE WHERE EXTRAIT_ID = ?"_s,
+                {paiement.ExtraitId});
+  while (part.Suivant()) {
+    const bool sien = part.Entier("FRAIS_ELEVE_ID") == paiement.Id;
+    (sien ? range : autres) += part.Montant("MONTANT_VERSE");
+    donne = donne || (!sien && !(paiement.FlgPart && part.EstVrai("FLG_PART")));
+  }
+  if (paiement.Id > 0 && montant <= range) return {};
   if (donne) return u"Le mouvement de la banque a été attribué autrement entre-temps."_s;
+  TCurseur extrait(base, u"SELECT MONTANT, FLG_IGNORE FROM EXTRAITS WHERE EXTRAIT_ID = ?"_s,
+                   {paiement.ExtraitId});
+  if (!extrait.Suivant()) return u"Le mouvement de la banque n'existe plus."_s;
+  if (paiement.Id < 1 && extrait.Entier("FLG_IGNORE") == 1)
+    return u"Le mouvement de la banque a été caché entre-temps."_s;
   if (!paiement.FlgPart) return {};
-  TCurseur ligne(Globals.Eleves->BaseDeDonnees(), u"SELECT MONTANT FROM EXTRAITS WHERE EXTRAIT_ID = ?"_s,
-                 {paiement.ExtraitId});
-  if (!ligne.Suivant()) return u"Le mouvement de la banque n'existe plus."_s;
-  const Currency reste = Globals.Eleves->ResteExtrait(paiement.ExtraitId, ligne.Montant("MONTANT"));
+  const Currency reste = extrait.Montant("MONTANT") - autres - range, enPlus = montant - range;
   if (enPlus <= reste) return {};
   return u"Il ne reste que %1 de ce mouvement de la banque : il manque %2."_s.arg(
       FormatMontant(reste), FormatMontant(enPlus - reste));
+}
+
+void RangerPaiement(TAllFraisEleve& lignes, TFraisEleve& paiement) {
+  const int extrait = paiement.ExtraitId;
+  try {
+    TDataModule1& base = Globals.Eleves->BaseDeDonnees();
+    std::optional<TTransactionCommune> ensemble;
+    if (extrait > 0) {
+      ensemble.emplace(base);
+      ReserverExtrait(base, extrait);
+      if (const QString raison = RefusMouvement(paiement, paiement.MontantVerse); !raison.isEmpty())
+        throw ERefusMouvement(raison);
+    }
+    lignes.Save();
+    ExigerCle(paiement);
+    if (!lignes.RangeesDisparues().empty())
+      throw Exception(u"Cette ligne n'existe plus : un autre poste l'a supprimée."_s);
+    if (ensemble) ensemble->Valider();
+  } catch (...) {
+    lignes.Add(paiement);  // also when it was written, and that came to nothing
+    lignes.Remettre();
+    if (extrait > 0) Globals.Eleves->ChargerExtraits = true;
+    throw;
+  }
+  if (extrait > 0) Globals.Eleves->ChargerExtraits = true;
 }
 
 // Another workstation may have given it to somebody since it was shown.

@@ -1,6 +1,7 @@
 #pragma once
 #include <vector>
 
+#include "core/exceptions.h"
 #include "payments/extraits.h"
 #include "pupils/eleves.h"
 #include "services/frais_eleve.h"
@@ -30,13 +31,22 @@ std::vector<TPartVirement> ProposerParts(const TExtrait& extrait, const std::vec
 /// Why these parts cannot be stored, in French; "" when they can. They may leave something over.
 QString FauteParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts);
 
-/// Why the payment of a movement cannot take that much more of it, in French; "" when it can. Read again, as
-/// another workstation may have given it meanwhile; a payment that has no row yet takes all that it has.
-QString RefusMouvement(const TFraisEleve& paiement, Currency enPlus);
+/// Another workstation has given the movement, or so much of it, meanwhile.
+class ERefusMouvement : public Exception {
+  using Exception::Exception;
+};
+
+/// Why the payment of a movement cannot have that amount of it, in French; "" when it can. Read again, as
+/// another workstation may have given it meanwhile; what is less than it has is never refused.
+QString RefusMouvement(const TFraisEleve& paiement, Currency montant);
+/// Saves the pupil's lines, of which that payment is new or changed; nobody else can give its movement
+/// between the look and the save. Raises ERefusMouvement, or Exception for what else cannot be stored, and
+/// memory is then what the table holds.
+void RangerPaiement(TAllFraisEleve& lignes, TFraisEleve& paiement);
 
 /// Stores a payment for each part, all or none. Raises Exception, with the reason, when they cannot be.
 void CrediterParts(const TExtrait& extrait, const std::vector<TPartVirement>& parts, const QString& libelle);
 
-/// Gives the whole movement to one pupil, by hand. Raises Exception, with the reason, when somebody has got it
-/// since it was shown.
+/// Gives the whole movement to one pupil, by hand. Raises Exception, with the reason, when somebody has got
+/// it since it was shown.
 void CrediterEntier(const TExtrait& extrait, const TPartVirement& part, const QString& libelle);

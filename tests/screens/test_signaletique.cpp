@@ -278,6 +278,20 @@ TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
   relue.grdListeFraisDblClick();
   EXPECT_EQ(base.Rangees(payes), (QStringList{u"1;15.0000"_s, u"2;15.0000"_s}));
   EXPECT_TRUE(Globals.Eleves->ChargerExtraits);
+
+  base.Sql(u"UPDATE EXTRAITS SET MONTANT = 31"_s);
+  monde.SurModale = [&](TForm& form) {
+    auto& saisie = dynamic_cast<TFrmPaiement&>(form);
+    saisie.Champs().Taper(saisie.Champs().Indice(u"edMontant"_s), u"16"_s);
+    EXPECT_TRUE(saisie.Valider());
+    base.Sql(u"UPDATE FRAIS_ELEVE SET MONTANT_VERSE = 16 WHERE REMARQUE = 'Ailleurs'"_s);
+  };
+  base.Dialogues.Attend(u"Il ne reste que 0,00 € de ce mouvement de la banque : il manque 1,00 €."_s);
+  relue.grdListeFraisDblClick();
+  EXPECT_EQ(base.Rangees(payes), (QStringList{u"1;15.0000"_s, u"2;16.0000"_s}));
+  EXPECT_EQ(relue.Frais.Grille.Texte(relue.Frais.Grille.NombreLignes() - 1, TFraisPaiements::MontantVerse),
+            u"15,00 €")
+      << "memory is what the table holds";
 }
 
 TEST_F(TSignaletique, SansCleRienNestDitEnregistre) {

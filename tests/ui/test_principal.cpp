@@ -218,6 +218,10 @@ TEST_F(Principal, TheKeysOfTheWindow) {
   EXPECT_EQ(Pages(), (QStringList{"Accueil", "Repas", "Administration*"}));
   Touche(&Fenetre(), Qt::Key_1, Qt::ControlModifier);
   EXPECT_EQ(QApplication::focusWidget(), Arbre()) << "the hand stays where it is";
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
+  Touche(&Fenetre(), Qt::Key_M, Qt::ControlModifier);
+  EXPECT_EQ(Etat(), u"Envoyer : l'envoi par courriel n'est pas encore disponible")
+      << "a grey command says why";
 
   Touche(&Fenetre(), Qt::Key_0, Qt::ControlModifier);
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -365,7 +369,12 @@ TEST_F(Principal, EveryControlOfItsDialogsToo) {
         .Principal = u"&Se connecter à un serveur"_s,
         .Autre = u"&Travailler seul"_s});
   });
-  Programme.Demarrer();
+  DemarrerLEcole();
+  VerifierVuePartout([&] {
+    auto accueil = std::make_unique<VueAccueil>(Programme.Main());  // with what does without a step
+    accueil->Actualiser();
+    return accueil;
+  });
   TFrmAjoutProfesseur ajout(Programme.Main().Contexte);
   VerifierVuePartout([&] { return std::make_unique<VueDialogue>(ajout, nullptr); });
 }

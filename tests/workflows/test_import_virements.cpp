@@ -217,6 +217,17 @@ TEST_F(TImportVirementsEssai, AMovementBelongsToOnePupil) {
   base_.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = 1"_s);
   Importer({TVersement{u"+++100/0001/01600+++"_s}});
   EXPECT_EQ(etats_, QStringList{u"Caché 2"_s});
+  // Given by another workstation between the two steps.
+  base_.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
+  base_.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = NULL, COMMUNICATION = '+++000/0110/16104+++'"_s);
+  essai_.Charger();
+  TImportVirements import(essai_.Controleur);
+  EXPECT_TRUE(import.Etape1(Fichier({a})));
+  base_.Sql(
+      u"INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID, MONTANT_VERSE) "
+      "SELECT 77, 2, 2016, EXTRAIT_ID, MONTANT FROM EXTRAITS"_s);
+  import.Etape2();
+  EXPECT_EQ(Credits().size(), 1);
 }
 
 TEST_F(TImportVirementsEssai, WhatIsNoNumberEndsTheCrediting) {
@@ -317,6 +328,7 @@ TEST_F(TImportVirementsEssai, AStatementIsAskedAboutBeforeItIsDoubted) {
   EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s), 2);
   EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s, true), 2)
       << "no row twice";
+  EXPECT_EQ(lit(ReleveCoda(7, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s), 2) << "in another form";
   EXPECT_EQ(lit(Releve(9, ecole, 7, 120, {u"c"_s}), u"ne suit pas le relevé n° 7 du 05/10/2016"_s), 2);
   EXPECT_EQ(lit(Releve(8, ecole, 6, 500, {u"c"_s}), u"il en manque un entre les deux"_s), 2);
   EXPECT_EQ(lit(Releve(8, u"BE71096123456769"_s, 6, 120, {u"c"_s}),

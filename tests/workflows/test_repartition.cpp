@@ -78,6 +78,8 @@ TEST(Repartition, AuCentPres) {
       {C(3500), {C(2000), C(1000)}, {C(2500), C(1000)}},
       {C(1000), {C(2000), C(1000)}, {C(667), C(333)}},
       {C(100), {C(1), C(1), C(1000)}, {C(1), C(0), C(99)}},
+      {C(1000), {C(0), C(1000), C(2000)}, {C(0), C(334), C(666)}},
+      {Currency::Brut(100'050), {C(0), C(1000), C(1000)}, {C(0), Currency::Brut(50'050), C(500)}},
       {C(1000), {C(0), C(0), C(0)}, {C(334), C(333), C(333)}},
       {Currency::Brut(100'050), {C(1000), C(1000)}, {Currency::Brut(50'050), C(500)}},
       {C(900'000'000'000),
@@ -177,10 +179,41 @@ TEST_F(TRepartitionEssai, DeuxPostesDonnentLeMemeMouvement) {
       "VALUES (77, 2, 2016, 7, 24)"_s;
   EXPECT_EQ(refus(donne, entier), u"Ce mouvement est déjà attribué à Eleve2 Prenom2.");
   base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
-  EXPECT_EQ(refus(donne, [&] { CrediterParts(extrait, {{un, C(100)}}, {}); }),
+  EXPECT_EQ(refus(donne,
+                  [&] {
+                    CrediterParts(extrait, {{un, C(100)}}, {});
+                  }),
             u"Ce mouvement est déjà attribué en entier.");
   EXPECT_EQ(Lignes(), QStringList{u"2;7;24.0000;-;-"_s});
-  EXPECT_EQ(un->GetAllFrais()->Count(), 1) << "nothing stays behind in memory";
+  TAllFraisEleve& lignes = *un->GetAllFrais();
+  EXPECT_EQ(lignes.Count(), 1) << "nothing stays behind in memory";
+  // A payment that is made more, and one that was deleted and comes back.
+  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
+  CrediterParts(extrait, {{un, C(100)}}, {});
+  const auto plus = [&] {
+    lignes[1].MontantVerse = C(200);
+    RangerPaiement(lignes, lignes.Add(lignes[1]));
+  };
+  const QString reste =
+      u"INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID, "
+      "MONTANT_VERSE, FLG_PART) VALUES (77, 2, 2016, 7, 23, 1)"_s;
+  EXPECT_EQ(refus(reste, plus), u"Il ne reste que 0,00 € de ce mouvement de la banque : il manque 1,00 €.");
+  EXPECT_EQ(lignes[1].MontantVerse, C(100));
+  base_.Sql(u"UPDATE FRAIS_ELEVE SET MONTANT_VERSE = IIF(ELEVE_ID = 1, 0.5, 23.5) WHERE EXTRAIT_ID = 7"_s);
+  lignes[1].MontantVerse = Currency::Brut(7500);
+  EXPECT_THROW(RangerPaiement(lignes, lignes.Add(lignes[1])), ERefusMouvement) << "lowered by another, full";
+  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
+  const auto retour = [&] {
+    auto ligne = std::make_unique<TFraisEleve>();
+    ligne->ExtraitId = 7;
+    ligne->MontantVerse = C(2400);
+    RangerPaiement(lignes, lignes.Add(std::move(ligne)));
+  };
+  EXPECT_EQ(refus(donne, retour), u"Le mouvement de la banque a été attribué autrement entre-temps.");
+  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
+  EXPECT_EQ(refus(u"UPDATE EXTRAITS SET FLG_IGNORE = 1"_s, retour),
+            u"Le mouvement de la banque a été caché entre-temps.");
+  EXPECT_EQ(Lignes(), QStringList());
 }
 
 TEST_F(TRepartitionEssai, QuiAPuPayerEtPourquoi) {

@@ -6,9 +6,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A box or a list that is refused goes back by itself, and its fault with it.
-bool EstTape(const TChamp& champ) {
-  return champ.Genre != TGenreChamp::Choix && champ.Genre != TGenreChamp::Coche;
+/// A box or a list that is stored at once goes back by itself when it is refused, and its fault with it.
+bool GardeSaFaute(const TChamps& champs, int champ) {
+  const TGenreChamp genre = champs.Champ(champ).Genre;
+  const bool choisi = genre == TGenreChamp::Choix || genre == TGenreChamp::Coche;
+  return !champs.Faute(champ).isEmpty() && !(choisi && champs.RendEnEchappant(champ));
 }
 
 }  // namespace
@@ -25,6 +27,6 @@ TLien AnnoncerRefus(TChamps& champs, ILienPrincipal& principal) {
       *fautif = -1;
       principal.Etat(TNiveauEtat::Neutre, {});
     }
-    if (champ >= 0 && EstTape(champs.Champ(champ)) && !champs.Faute(champ).isEmpty()) *fautif = champ;
+    if (champ >= 0 && GardeSaFaute(champs, champ)) *fautif = champ;
   });
 }

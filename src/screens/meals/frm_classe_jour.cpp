@@ -16,6 +16,8 @@ TClasse* TFrmClasseJour::Classe() const {
   return classe_ > 0 ? &Globals.Eleves->GetClasse(classe_ - 1) : nullptr;
 }
 
+QString TFrmClasseJour::NomClasse() const { return Classe() != nullptr ? Classe()->Libelle() : QString(); }
+
 TEleve* TFrmClasseJour::Courant() const {
   const int ligne = Grille.LigneCourante();
   return ligne < 0 ? nullptr : Grille.Ligne(ligne).Objet.En<TEleve>();

@@ -10,6 +10,8 @@ class TFrmClasseJour : public TForm {
   const TGenerationRepas& Generation() const { return generation_; }
 
   QStringList Classes() const { return ChoixDeClasses(); }
+  /// "P3 A"; "" before one is chosen.
+  QString NomClasse() const;
   /// 0 for "Choisissez votre classe".
   int IndiceClasse() const { return classe_; }
   virtual void cmbClasseChange(int indice) = 0;

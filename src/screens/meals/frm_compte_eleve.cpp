@@ -5,6 +5,7 @@
 #include "core/formats.h"
 #include "documents/caisse_repas.h"
 #include "pupils/eleves.h"
+#include "screens/commun/nom_de_liste.h"
 #include "screens/documents/imprimeur.h"
 
 using namespace Qt::StringLiterals;
@@ -43,6 +44,8 @@ void TFrmCompteEleve::ChangerJour(void (TJourEcran::*pas)()) {
 QString TFrmCompteEleve::Titre() const {
   return Classe() != nullptr ? u"Compte classe du " % FormatJourLong(Aujourdhui()) : QString();
 }
+
+QStringList TFrmCompteEleve::NomComptes() const { return NomDeListeDu(NomClasse(), Aujourdhui()); }
 
 QString TFrmCompteEleve::NoteMonnaie() const {
   return u"Reçu aujourd'hui, " % FormatJour(Aujourdhui()) % u" :";

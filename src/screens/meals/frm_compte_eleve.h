@@ -14,6 +14,8 @@ class TFrmCompteEleve : public TFrmClasseJour {
   void cmbClasseChange(int indice) override;
   /// "Compte classe du lundi 3 octobre 2016"; "" without a class.
   QString Titre() const;
+  /// Whose the list is and of when, for the name of its file: "P3 A", "octobre 2016".
+  QStringList NomComptes() const;
   /// "Total reçu ce jour : 12,50 €"
   QString TotalRecu() const;
 

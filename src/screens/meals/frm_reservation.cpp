@@ -5,6 +5,7 @@
 #include "core/formats.h"
 #include "meals/commandes.h"
 #include "pupils/eleves.h"
+#include "screens/commun/nom_de_liste.h"
 
 using namespace Qt::StringLiterals;
 
@@ -170,6 +171,8 @@ void TFrmReservation::RemplirMois(TGrille& mois) const {
     AjouterEleve(mois, *eleve, std::move(cellules));
   }
 }
+
+QStringList TFrmReservation::NomMois() const { return NomDeListeDu(NomClasse(), jour_.Jour()); }
 
 QString TFrmReservation::LegendeMois() const {
   QStringList textes;

@@ -24,6 +24,8 @@ class TFrmReservation : public TFrmClasseJour {
   void Actualiser();
   /// The orders of the class over the month of the day: a column a school day, a letter an order.
   void RemplirMois(TGrille& mois) const;
+  /// Whose that list is and of when, for the name of its file: "P3 A", "octobre 2016".
+  QStringList NomMois() const;
   /// What the letters stand for.
   QString LegendeMois() const;
 

@@ -58,7 +58,7 @@ TFrmPaiement::TFrmPaiement(const TFraisEleve& paiement)
 
 bool TFrmPaiement::Controler() {
   if (paiement_ == nullptr) return true;
-  const QString refus = RefusMouvement(*paiement_, Saisi.Montant - paiement_->MontantVerse);
+  const QString refus = RefusMouvement(*paiement_, Saisi.Montant);
   return refus.isEmpty() || Champs().Refuser(u"edMontant"_s, refus);
 }
 

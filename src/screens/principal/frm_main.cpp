@@ -261,7 +261,13 @@ bool TFrmMain::OutilActif(TOutil outil) const {
          CommandeOuverte() != nullptr && Panneau.Courante()->Accepte(CodeDe(outil));
 }
 
+bool TFrmMain::OutilEmpeche(TOutil outil) const {
+  return OutilVisible(outil) && !OutilDe(outil).Raison.isEmpty() && !enTravail_;
+}
+
 void TFrmMain::OutilClick(TOutil outil) {
+  if (OutilEmpeche(outil))
+    return Etat(TNiveauEtat::Alerte, OutilDe(outil).Libelle % u" : " % OutilDe(outil).Raison);
   if (!OutilActif(outil)) return;
   QuitterChamp();
   Diffuser(CodeDe(outil));

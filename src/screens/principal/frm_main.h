@@ -51,6 +51,8 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   void Executer(TGestionnaire gestionnaire);
   bool OutilVisible(TOutil outil) const;
   bool OutilActif(TOutil outil) const;
+  /// It is shown, and answers with why it is off.
+  bool OutilEmpeche(TOutil outil) const;
   /// Sends its message to the open screen (`btnPrintClick` and the others).
   void OutilClick(TOutil outil);
 

@@ -15,6 +15,7 @@ struct TActiviteEleve;
 struct TFraisEleve;
 struct TPaiement;
 struct TPresence;
+class TAllFraisEleve;
 
 /// The record of the selected pupil: who it is, its photo, month by month, its services of a month, its
 /// fees and payments; and the documents of the pupils. Each control writes and stores when it is left or
@@ -146,6 +147,10 @@ class TFrmSignaletique : public TForm {
     return Enregistrer(collection, disparue, fait);
   }
   bool Enregistrer(TDistributor& collection, const std::function<bool()>& disparue, const QString& fait);
+  /// The same of one payment, which may take no more of its bank movement than nobody else has.
+  void EnregistrerPaiement(TAllFraisEleve& lignes, TFraisEleve& paiement, const QString& fait);
+  void DireEnregistre(const QString& fait);
+  void DireNonEnregistre(const Exception& e) const;
   void MarquerMois(int groupe, const std::vector<int>& mois, bool coche);
   void MarquerJour(TActiviteEleve* inscription, int activite, int jour, bool coche);
   /// What a change moves: the monthly list, the fees, the balances.

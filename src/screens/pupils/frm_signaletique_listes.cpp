@@ -13,7 +13,6 @@
 #include "workflows/attribution_frais.h"
 #include "workflows/credit_extraits.h"
 #include "workflows/import_presences.h"
-#include "workflows/repartition.h"
 
 using namespace Qt::StringLiterals;
 
@@ -152,12 +151,8 @@ void TFrmSignaletique::SpeedButton1Click() {
 void TFrmSignaletique::AjouterLigne(std::unique_ptr<TFraisEleve> ligne, const QString& fait) {
   TAllFraisEleve* lignes = Globals.EleveCourant->GetAllFrais();
   if (lignes == nullptr) return;
-  if (const QString refus = RefusMouvement(*ligne, ligne->MontantVerse); !refus.isEmpty())
-    return contexte_.Dialogues().Message(refus);
   const int groupe = ligne->GroupeFraisId;
-  if (ligne->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // its movement is taken
-  lignes->Add(std::move(ligne));
-  Enregistrer(*lignes, fait);
+  EnregistrerPaiement(*lignes, lignes->Add(std::move(ligne)), fait);
   RelireGroupes(groupe);
   RelireListes();
 }
@@ -173,10 +168,8 @@ void TFrmSignaletique::grdListeFraisDblClick() {
   const int groupe = paiement->GroupeFraisId;
   saisie.EcrireDans(*paiement);
   const int nouveau = paiement->GroupeFraisId;
-  if (paiement->ExtraitId > 0) Globals.Eleves->ChargerExtraits = true;  // it may have more of its movement
   TAllFraisEleve& lignes = *Globals.EleveCourant->GetAllFrais();
-  lignes.Add(*paiement);
-  Enregistrer(lignes, u"Paiement de " % FormatMontant(paiement->MontantVerse));
+  EnregistrerPaiement(lignes, lignes.Add(*paiement), u"Paiement de " % FormatMontant(paiement->MontantVerse));
   RelireGroupes(std::max(groupe, nouveau));
   RelireListes();
 }

@@ -10,6 +10,7 @@
 #include "screens/parametres/champs_parametres.h"
 #include "screens/payments/frm_attribution_compte.h"
 #include "screens/pupils/frm_signaletique.h"
+#include "workflows/repartition.h"
 
 using namespace Qt::StringLiterals;
 
@@ -87,15 +88,33 @@ bool TFrmSignaletique::Enregistrer(TDistributor& collection, const std::function
   try {
     collection.Save();
     if (disparue()) throw Exception(u"Cette ligne n'existe plus : un autre poste l'a supprimée."_s);
-    annulation_ = {};
-    contexte_.Principal.Etat(TNiveauEtat::Succes, QString(fait % u" : enregistré pour " % nomComplet_));
+    DireEnregistre(fait);
     return true;
   } catch (const Exception& e) {
-    contexte_.Principal.Etat(TNiveauEtat::Refus, u"Non enregistré"_s);
-    contexte_.Dialogues().Message(e.Message);
+    DireNonEnregistre(e);
     collection.Remettre();
     return false;
   }
+}
+
+void TFrmSignaletique::EnregistrerPaiement(TAllFraisEleve& lignes, TFraisEleve& paiement,
+                                           const QString& fait) {
+  try {
+    RangerPaiement(lignes, paiement);
+    DireEnregistre(fait);
+  } catch (const Exception& e) {
+    DireNonEnregistre(e);
+  }
+}
+
+void TFrmSignaletique::DireEnregistre(const QString& fait) {
+  annulation_ = {};
+  contexte_.Principal.Etat(TNiveauEtat::Succes, QString(fait % u" : enregistré pour " % nomComplet_));
+}
+
+void TFrmSignaletique::DireNonEnregistre(const Exception& e) const {
+  contexte_.Principal.Etat(TNiveauEtat::Refus, u"Non enregistré"_s);
+  contexte_.Dialogues().Message(e.Message);
 }
 
 void TFrmSignaletique::RelireListes() {

@@ -31,6 +31,7 @@ VueCompteEleve::VueCompteEleve(TFrmCompteEleve& form, QWidget* parent)
       valider_(BoutonPrincipal(u"Valider"_s, u"dialog-ok-apply"_s)),
       annuler_(BoutonSimple(u"Annuler"_s)),
       vide_(new EtatVide(grille_)) {
+  grille_->DefinirNomExport([this] { return form_.NomComptes(); });
   Disposer();
   choix_->Suivre(form_);
   const auto saisir = [this] {

@@ -29,6 +29,7 @@ VueReservation::VueReservation(TFrmReservation& form, QWidget* parent)
       solde_(new Etiquette({}, TRole::Texte, &Theme::Gras)),
       aide_(new Etiquette({}, TRole::Secondaire)),
       vide_(new EtatVide(grille_)) {
+  vueMois_->DefinirNomExport([this] { return form_.NomMois(); });
   Disposer();
   choix_->Suivre(form_);
   connect(boutonMois_, &QPushButton::toggled, this, &VueReservation::MontrerMois);

@@ -149,7 +149,8 @@ void FenetrePrincipale::Actualiser() {
 
 void FenetrePrincipale::ActualiserOutils() {
   barre_->ActualiserOutils();
-  for (const auto& [touche, outil] : touchesOutils_) touche->setEnabled(form_.OutilActif(outil));
+  for (const auto& [touche, outil] : touchesOutils_)
+    touche->setEnabled(form_.OutilActif(outil) || form_.OutilEmpeche(outil));
 }
 
 void FenetrePrincipale::ActualiserContenu() {

@@ -232,6 +232,35 @@ TEST_F(VuesRepas, WhoHasLessThanThreeTicketsInTheSchool) {
   Cliquer("Imprimer la liste");
 }
 
+TEST_F(VuesRepas, AFileIsCalledAfterTheListAndWhoseItIsAndOfWhen) {
+  const auto propose = [this](const QString& liste) {
+    QString nom;
+    Programme.Dialogues.Fait("Exporter la liste", [&](QWidget& dialogue) {
+      nom = dialogue.findChild<QLineEdit*>("fileNameEdit")->text();
+      dialogue.close();
+    });
+    Nomme<VueGrille>(liste).Exporter();
+    return nom;
+  };
+  Demarrer(TGestionnaire::btnTicketClick);
+  ChercherEleve("ALVES");
+  EXPECT_EQ(propose("Élèves de la classe"), "Élèves de la classe - P1 A - 2016 - 2017.csv");
+  auto* pages = Programme.Fenetre().VueCourante()->findChild<QTabWidget*>();
+  pages->setCurrentIndex(1);
+  EXPECT_EQ(propose("Tickets de l'élève"), "Tickets de l'élève - ALVES Rui - 2016 - 2017.csv");
+  pages->setCurrentIndex(2);
+  EXPECT_EQ(propose("Élèves avec moins de 3 tickets"), "Élèves avec moins de 3 tickets - 2016 - 2017.csv")
+      << "of the whole school";
+  Programme.Horloge.Moment = EncodeDate(2017, 1, 9);
+  for (const TGestionnaire ecran : {TGestionnaire::btnReservationClick, TGestionnaire::btnCompteEleveClick}) {
+    Programme.Ouvrir(ecran);
+    ChoisirClasse(2);
+    if (ecran == TGestionnaire::btnReservationClick) Cliquer("Le mois");
+    const QString liste = Programme.Fenetre().VueCourante()->findChild<VueGrille*>()->accessibleName();
+    EXPECT_EQ(propose(liste), liste + " - P1 A - janvier 2017.csv");
+  }
+}
+
 TEST_F(VuesRepas, BothKitchens) {
   const char* const jours[] = {"1', '2016-10-03', 1, 0", "2', '2016-10-03', 0, 1"};
   for (const char* jour : jours)

@@ -100,6 +100,7 @@ TEST_F(ListesServices, AFeeGivenToAClassChangedAndDeleted) {
   EXPECT_TRUE(Controle("cmbMois").hasFocus());
   EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM LISTE_FRAIS"), "0");
   Choisir("cmbMois", 2);
+  EXPECT_EQ(Etat(), "") << "what was wrong is right now";
   Cocher("cbService");
   // Three have paid already, the fourth has not.
   CocherNoeud("Eleve4 Prenom4");
