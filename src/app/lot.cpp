@@ -75,8 +75,26 @@ QString Faute(const TCommandeLot& commande, const QCommandLineParser& options, q
   return {};
 }
 
+/// No option is a number, so that one below zero is an argument. It passes the parser under another sign.
+constexpr QChar kMoins = u'\u2212';
+
+QStringList CacherMoins(QStringList arguments) {
+  for (qsizetype i = 1; i < arguments.size(); ++i) {
+    QString& argument = arguments[i];
+    const bool valeur = arguments[i - 1].startsWith(u"--");
+    if (!valeur && argument.size() > 1 && argument[0] == u'-' && argument[1].isDigit()) argument[0] = kMoins;
+  }
+  return arguments;
+}
+
+QStringList RendreMoins(QStringList arguments) {
+  for (QString& argument : arguments)
+    if (argument.startsWith(kMoins)) argument[0] = u'-';
+  return arguments;
+}
+
 int Executer(const QCommandLineParser& options, TDialoguesTerminal& dialogues) {
-  const QStringList mots = options.positionalArguments();
+  const QStringList mots = RendreMoins(options.positionalArguments());
   const TCommandeLot* commande = TrouverCommande(mots);
   if (commande == nullptr || options.isSet(u"aide"_s)) {
     if (!mots.isEmpty() && commande == nullptr)
@@ -109,7 +127,7 @@ int main(int argc, char** argv) {
   TDialoguesTerminal dialogues;
   QCommandLineParser options;
   DeclarerOptions(options);
-  if (!options.parse(application.arguments())) {
+  if (!options.parse(CacherMoins(application.arguments()))) {
     dialogues.Message(options.errorText() + u'\n' + Usage());
     return kMauvaisAppel;
   }

@@ -43,6 +43,12 @@ constexpr auto kColonnesDetail = ColonnesDetail(std::make_index_sequence<kNombre
 constexpr const char16_t* kTextes[] = {u"Paiement liquide", u"Virement", u"Paiement en ligne", u"Bancontact",
                                        u"Borne"};
 
+/// A save leaves what has no key, or no row any more, as it was.
+void ExigerEnregistre(const TBaseObject& objet) {
+  if (objet.Status != TStatus::Inchange)
+    throw EDistributor(u"Le paiement n'a pas pu être enregistré : les comptes sont relus. Recommencez."_s);
+}
+
 }  // namespace
 
 QString Texte(TPaiementRepas type) {
@@ -143,12 +149,12 @@ void TRepasPaiements::Encaisser(int eleve, TDateTime jour, const TComptage& comp
   paiement->Remarque.clear();
   Add(*paiement);
   Save();
-  if (paiement->Status == TStatus::Nouveau || !RangeesDisparues().empty())
-    throw EDistributor(u"Le paiement n'a pas pu être enregistré : les comptes sont relus. Recommencez."_s);
+  ExigerEnregistre(*paiement);
   TDetailPaiementLiquide* detail = Detail(*paiement);
   if (detail == nullptr) detail = &details_.Add(std::make_unique<TDetailPaiementLiquide>());
   detail->RepasPaiementId = paiement->Id;
   detail->Comptage = comptage;
   details_.Add(*detail);
   details_.Save();
+  ExigerEnregistre(*detail);
 }

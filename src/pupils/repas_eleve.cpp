@@ -135,7 +135,8 @@ bool TEleve::SetCommande(TDateTime date, Currency valeurTicket,
 bool TEleve::EcrireCommande(TCommande& commande, Currency valeurTicket) {
   const TDateTime date = commande.DateCommande;
   if (Eleves->Commandes().Enregistrer(commande) != nullptr) return false;
-  if (commande.Status == TStatus::Nouveau) throw EDistributor(u"La commande n'a pas pu être enregistrée."_s);
+  if (commande.Status != TStatus::Inchange)  // without a key, or its row is gone
+    throw EDistributor(u"La commande n'a pas pu être enregistrée : elle est relue. Recommencez."_s);
   ClearTickets();
   EcrireTickets([&](TTickets& tickets) {
     commande.EstUnRepas() ? tickets.Consommer(date, valeurTicket) : tickets.Liberer(date);

@@ -20,6 +20,8 @@ class ILienPrincipal {
   virtual void Envoyer(const TMessage& message) = 0;
   /// Opens the screen of the school on that field of it.
   virtual void AllerAEcole(const QString& champ) = 0;
+  /// Opens the transfer of the tablet in the place of the screen that asks, which is gone on return.
+  virtual void AllerAuTransfert() = 0;
   /// The last thing done, or why it was not, for the left of the status bar.
   virtual void Etat(TNiveauEtat niveau, const QString& texte) = 0;
 };

@@ -53,10 +53,10 @@ TEffetClic TGrilleCommandes::Cliquer(TEleve& eleve, TDateTime jour, int colonne)
 
 TEffetClic TGrilleCommandes::CliquerSansDire(TEleve& eleve, TDateTime jour, int colonne) {
   if (!PeutPasser(&eleve, jour)) return TEffetClic::Verrou;
+  if (colonne < 0 || colonne > generation_.NombreColonnes) return TEffetClic::Ignore;
   courant_ = &eleve;
   jour_ = jour;
-  if (colonne < 1 || colonne > generation_.NombreColonnes) return TEffetClic::Ignore;
-  return Appliquer(eleve, jour, colonne);
+  return colonne == 0 ? TEffetClic::Ignore : Appliquer(eleve, jour, colonne);
 }
 
 TEffetClic TGrilleCommandes::Appliquer(TEleve& eleve, TDateTime jour, int colonne) {

@@ -15,7 +15,7 @@ enum class TEffetClic {
   Efface,
   Verrou,       ///< nothing: an incomplete order holds the grid
   Insuffisant,  ///< nothing: the meal account does not cover it
-  Ignore,       ///< nothing: no such column
+  Ignore,       ///< nothing: no such column, or the name, which only takes the row in hand
   AutrePoste    ///< nothing: another workstation has ordered meanwhile, and its order has been read
 };
 

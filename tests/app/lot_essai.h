@@ -2,6 +2,7 @@
 #pragma once
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -23,9 +24,25 @@ inline QStringList Mots(const QString& texte) { return texte.split(u' ', Qt::Ski
 /// A school in a file that nobody may hold open while the program runs.
 class TProgrammeEssai : public testing::Test {
  protected:
+  /// On a new workstation: no test works with what another one has set.
+  TProgrammeEssai() { QFile::remove(FichierReglages()); }
+
   QString Chemin(const char* nom) const { return base_.Chemin(QString::fromLatin1(nom)); }
   QString Fichier(const char* nom, const QByteArray& contenu) const {
     return base_.Fichier(QString::fromLatin1(nom), contenu);
+  }
+
+  /// The settings of the program itself, which are not those of the test.
+  static QString FichierReglages() {
+    return qEnvironmentVariable("XDG_CONFIG_HOME") % u"/Tarnvale/Orbelin.conf";
+  }
+  /// Of a program that is to be killed, apart from the test's: a lock table that is broken by a kill lives as
+  /// long as somebody holds it.
+  QProcessEnvironment MilieuAPart() const {
+    QDir().mkpath(Chemin("verrous"));
+    QProcessEnvironment milieu = QProcessEnvironment::systemEnvironment();
+    milieu.insert(u"FIREBIRD_LOCK"_s, Chemin("verrous"));
+    return milieu;
   }
 
   static void Lancer(QProcess& programme, const QStringList& arguments) {

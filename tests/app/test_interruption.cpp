@@ -67,6 +67,7 @@ class TInterruptionEssai : public TProgrammeEssai {
     return {std::filesystem::last_write_time(chemin, absent), std::filesystem::file_size(chemin, absent)};
   }
   void Demarrer(QProcess& programme, const QStringList& commande) const {
+    programme.setProcessEnvironment(MilieuAPart());
     programme.setStandardOutputFile(QProcess::nullDevice());
     programme.start(QStringLiteral(CALPENNE_LOT), Serveur() + commande);
   }

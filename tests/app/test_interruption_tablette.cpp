@@ -23,7 +23,6 @@ class TTabletteInterrompue : public TProgrammeEssai {
  protected:
   TTabletteInterrompue() {
     using namespace Essai;
-    QDir().mkpath(Chemin("verrous"));
     ecole_.tarif(FamilleRepas, TousLesJours, u"11:30"_s, u"13:30"_s, Forfait, u"2"_s, ScanPresence);
     QImage image(80, 90, QImage::Format_RGB32);
     image.fill(Qt::red);
@@ -40,10 +39,7 @@ class TTabletteInterrompue : public TProgrammeEssai {
   /// Starts the program; it ends by itself, or is killed after so many milliseconds. How long it ran.
   qint64 Executer(const QStringList& commande, int fatal = kLimiteMs) const {
     QProcess programme;
-    // Apart from the test's: a lock table that is broken by a kill lives as long as somebody holds it.
-    QProcessEnvironment milieu = QProcessEnvironment::systemEnvironment();
-    milieu.insert(u"FIREBIRD_LOCK"_s, Chemin("verrous"));
-    programme.setProcessEnvironment(milieu);
+    programme.setProcessEnvironment(MilieuAPart());
     programme.setStandardOutputFile(QProcess::nullDevice());
     programme.setStandardErrorFile(QProcess::nullDevice());
     QElapsedTimer duree;
@@ -60,10 +56,6 @@ class TTabletteInterrompue : public TProgrammeEssai {
     QProcess programme;
     Lancer(programme, Serveur() + commande);
     return programme.readAllStandardOutput().count('\n');
-  }
-  /// The settings of the program itself, which are not those of the test.
-  static QString FichierReglages() {
-    return qEnvironmentVariable("XDG_CONFIG_HOME") % u"/Tarnvale/Orbelin.conf";
   }
   static QString Reglage(const char* nom) {
     return QSettings(FichierReglages(), QSettings::NativeFormat).value(QLatin1String(nom)).toString();

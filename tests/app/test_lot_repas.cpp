@@ -103,7 +103,7 @@ TEST_F(TLotRepasEssai, OrdersKitchenAndAccounts) {
        Lignes({u"classe;libelle;nombre"_s, u"M1 B;Repas Complet;1"_s, u"P1 A;Soupe;1"_s, u"P1 A;Sandwich;"_s,
                u";lblRepas;1"_s, u";lblSandwiches;1"_s, u";lblDagobert;1"_s}),
        {}},
-      {Mots(u"compte 3 0,0,0,0,1,x,0,1,0,0,0,0,-1 --jour 03/10/2016"_s), 0, {}, {}},
+      {Mots(u"compte 3 -1,0,0,0,1,x,0,1,0,0,0,0,-1 --jour 03/10/2016"_s), 0, {}, {}},
       {Mots(u"compte 3 1,2 --jour 03/10/2016"_s), 1, {}, u"13 nombres"_s},
       {Mots(u"comptes --jour 04/10/2016"_s),
        0,

@@ -20,6 +20,7 @@ class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal
   }
   void Envoyer(const TMessage&) override { ++Envois; }
   void AllerAEcole(const QString& champ) override { ChampEcole = champ; }
+  void AllerAuTransfert() override {}
   void Etat(TNiveauEtat niveau, const QString& texte) override {
     Niveau = niveau;
     Etats += texte;

@@ -161,6 +161,17 @@ TEST_F(TReservationEssai, WhatCannotBeStoredWholeIsNotStored) {
   EXPECT_THROW(Eleve(3).SetCommande(EncodeDate(2016, 10, 3), Currency::Euros(200), commander), EDistributor);
   EXPECT_EQ(Eleve(3).GetCommande(EncodeDate(2016, 10, 3)), nullptr);
   EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM COMMANDE"_s), u"0");
+  // Nor a ticket without its order: the row is gone.
+  EXPECT_TRUE(Eleve(3).SetCommande(EncodeDate(2016, 10, 3), {}, commander));
+  base.Sql(u"DELETE FROM COMMANDE"_s);
+  const auto decommander = [](TCommande& commande) { commande.FlgRepas = false; };
+  EXPECT_THROW(Eleve(3).SetCommande(EncodeDate(2016, 10, 3), {}, decommander), EDistributor);
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM TICKET WHERE ELEVE_ID = 3"_s), u"1");
+  // No money without what it was made of.
+  base.Sql(u"DELETE FROM COUNTERS WHERE TABLE_NAME = 'DETAIL_PAIEMENT_LIQUIDE'"_s);
+  base.Dialogues.Attend(u"Le compteur de table DETAIL_PAIEMENT_LIQUIDE n'existe pas !"_s);
+  EXPECT_THROW(Eleve(3).EncaisserRepas(EncodeDate(2016, 10, 3), TComptage{1}), EDistributor);
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM REPAS_PAIEMENT"_s), u"0");
 }
 
 // What another workstation has changed since the tickets were shown.

@@ -48,6 +48,19 @@ void Photographe::Transfert(const QString& suffixe) {
   Attendre(50);
 }
 
+// An order that waits for its filling, and what is said to who goes on without one. It is taken back.
+void Photographe::CommandeIncomplete(TFrmReservation& form) {
+  constexpr int kRepas = 1, kDago = 2, kSandwich = 3;
+  int ligne = 0;
+  const auto mange = [&](int colonne) { return !form.Grille.Texte(ligne, colonne).isEmpty(); };
+  while (mange(kRepas) || mange(kDago) || mange(kSandwich)) ++ligne;
+  form.grdEleveClickCell(ligne, kDago);
+  Prendre(u"reservation-incomplete"_s);
+  Suivre({Photo(u"reservation-incomplete-message"_s)});
+  form.grdEleveRowChanging(ligne > 0 ? 0 : 1);
+  form.grdEleveClickCell(ligne, kDago);
+}
+
 void Photographe::Repas() {
   using enum TGestionnaire;
   TFrmMain& main = programme_.Main;
@@ -81,7 +94,9 @@ void Photographe::Repas() {
     Prendre(nom);
   }
   main.Executer(btnReservationClick);
-  Ecran<TFrmReservation>().cmbClasseChange(classe);
+  auto& reservation = Ecran<TFrmReservation>();
+  reservation.cmbClasseChange(classe);
+  CommandeIncomplete(reservation);
   Bouton(programme_.Fenetre, u"Le mois"_s)->click();
   Prendre(u"reservation-mois"_s);
   main.Executer(btnCuisineClick);

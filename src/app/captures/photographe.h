@@ -8,6 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
+class TFrmReservation;
 class TFrmVirement;
 
 /// What the pictures are taken of.
@@ -81,6 +82,7 @@ class Photographe : public QObject {
   void Presences();
   /// Tickets, orders, kitchen, accounts and sales.
   void Repas();
+  void CommandeIncomplete(TFrmReservation& form);
   /// The three pages, the attribution of what is unknown, and the accounts that the record learns from it.
   void Virements();
   /// The last unknown payment, between two pupils of the year.

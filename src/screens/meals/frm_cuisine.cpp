@@ -65,6 +65,7 @@ QString TFrmCuisine::NoteChangements() const {
 
 bool TFrmCuisine::RecevoirMessage(const TMessage& message) {
   imprimeur_.DefinirJourRepas(jour_.Jour, &generation_ == &GenerationRepas(true));
+  aImprimer_ = {jour_.Jour, 0.0, contenu_};
   if (message.Code == TCodeMessage::Imprimer) {
     imprimeur_.Proposer(TitresOfferts(TListeTitres::Cuisine));
     return true;
@@ -75,7 +76,8 @@ bool TFrmCuisine::RecevoirMessage(const TMessage& message) {
 }
 
 void TFrmCuisine::NoterImpression() {
-  imprimee_ = {jour_.Jour, contexte_.Controleur.Horloge().Maintenant(), contenu_};
+  imprimee_ = aImprimer_;
+  imprimee_.Moment = contexte_.Controleur.Horloge().Maintenant();
   imprimee_.Memoriser(contexte_.Controleur.Reglages(), generation_);
   Annoncer();
 }

@@ -48,6 +48,7 @@ class TFrmCuisine : public TForm {
   TJourCuisine jour_;
   TContenuDeFiche contenu_;
   QString titre_;
+  TFicheImprimee aImprimer_;  ///< what the sheet in hand says, whatever the screen shows by then
   TFicheImprimee imprimee_;
 };
 

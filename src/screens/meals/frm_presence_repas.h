@@ -13,6 +13,8 @@ class TFrmPresenceRepas : public TForm {
 
   /// Why there is nobody to serve; "" when there is.
   const QString& Empechement() const { return empechement_; }
+  /// What brings them. The screen is gone on return.
+  void btnTransfertClick() { contexte_.Principal.AllerAuTransfert(); }
   /// "mercredi 23 novembre 2016"; it follows the clock after midnight.
   QString lblDate() const;
   /// What is wrong with the day of the clock; "" when nothing is. It forbids nothing.

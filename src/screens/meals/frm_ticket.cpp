@@ -84,7 +84,6 @@ void TFrmTicket::PrendreClasse(TClasse* classe) {
 }
 
 void TFrmTicket::PrendreEleve(TEleve* eleve) {
-  if (eleve == nullptr) return;
   classe_ = eleve->Classe;
   Remplir(eleve);
 }
@@ -166,9 +165,20 @@ void TFrmTicket::SousTroisClick() {
 
 void TFrmTicket::Designer(TEleve* eleve) {
   if (eleve == nullptr || eleve == Globals.EleveCourant) return;
+  const QScopedValueRollback pendant(remplit_, true);  // the tree sends the same back
   Globals.EleveCourant = eleve;
   Globals.ClasseCourante = eleve->Classe;
   contexte_.Principal.Envoyer({TCodeMessage::EleveChange, {}});
+}
+
+// It comes also when the screen is in front again: another one may have used tickets, and those that are
+// listed may be gone.
+void TFrmTicket::SuivreEleve() {
+  if (remplit_) return;
+  if (Globals.EleveCourant == nullptr || Globals.EleveCourant == Courant())
+    Relire(Courant());
+  else
+    PrendreEleve(Globals.EleveCourant);
 }
 
 void TFrmTicket::ImprimerSousTrois() {
@@ -240,7 +250,7 @@ void TFrmTicket::AdvGlowButton3Click() {
 bool TFrmTicket::RecevoirMessage(const TMessage& message) {
   switch (message.Code) {
     case TCodeMessage::EleveChange:
-      if (Globals.EleveCourant != Courant()) PrendreEleve(Globals.EleveCourant);
+      SuivreEleve();
       return true;
     case TCodeMessage::ClasseChange:
       PrendreClasse(Globals.ClasseCourante);

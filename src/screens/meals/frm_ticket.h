@@ -59,6 +59,7 @@ class TFrmTicket : public TForm {
   void Changer(TEleve& eleve, const std::function<void()>& changement);
   void PrendreClasse(TClasse* classe);
   void PrendreEleve(TEleve* eleve);
+  void SuivreEleve();
   void Remplir(TEleve* choisi);
   /// Both lists, after tickets have changed.
   void Relire(TEleve* choisi);

@@ -254,6 +254,8 @@ void TFrmMain::AllerAEcole(const QString& champ) {
     form->Ecole.SurFoyer(form->Ecole.Indice(champ));
 }
 
+void TFrmMain::AllerAuTransfert() { Executer(TGestionnaire::btnTransfertRepasClick); }
+
 bool TFrmMain::OutilVisible(TOutil outil) const { return (outils_ & static_cast<int>(outil)) != 0; }
 
 bool TFrmMain::OutilActif(TOutil outil) const {

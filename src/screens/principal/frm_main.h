@@ -129,6 +129,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   bool RecevoirMessage(const TMessage& message) override;
   void Envoyer(const TMessage& message) override { RecevoirMessage(message); }
   void AllerAEcole(const QString& champ) override;
+  void AllerAuTransfert() override;
   void Etat(TNiveauEtat niveau, const QString& texte) override;
 
   // What the controller tells.

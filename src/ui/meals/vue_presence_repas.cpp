@@ -81,6 +81,9 @@ VuePresenceRepas::VuePresenceRepas(TFrmPresenceRepas& form, QWidget* parent)
   colonne->addLayout(corps, 1);
   connect(minuterie_, &QTimer::timeout, this, [this] { form_.Horloge(); });
   minuterie_->start(kMinuteMs);
+  // Later, as it takes this view away.
+  connect(
+      vide_, &EtatVide::BoutonPresse, this, [this] { form_.btnTransfertClick(); }, Qt::QueuedConnection);
   lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
   Actualiser();
 }
@@ -138,7 +141,7 @@ void VuePresenceRepas::Actualiser() {
   if (form_.Empechement().isEmpty())
     vide_->Cacher();
   else
-    vide_->Montrer(u"Aucun élève à servir"_s, form_.Empechement());
+    vide_->Montrer(u"Aucun élève à servir"_s, form_.Empechement(), u"Transfert"_s);
 }
 
 // The buttons stay where they are while only their counts change.

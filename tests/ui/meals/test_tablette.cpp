@@ -12,6 +12,7 @@
 #include "core/fichiers.h"
 #include "screens/meals/frm_presence_repas.h"
 #include "screens/meals/frm_transfert_repas.h"
+#include "ui/commun/etat_vide.h"
 #include "ui/meals/cadre_eleve.h"
 #include "ui/meals/repas_essai.h"
 #include "ui/verifier_vue.h"
@@ -94,7 +95,9 @@ class Tablette : public TRepasEssai {
 TEST_F(Tablette, FromTheFirstLoadToTheTransferAndBack) {
   Programme.Demarrer();
   EXPECT_TRUE(Montre("Aucun élève à servir"));
-  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+  const auto* vide = Programme.Fenetre().VueCourante()->findChild<EtatVide*>();
+  QTest::mouseClick(vide->findChild<QPushButton*>(), Qt::LeftButton);
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
   EXPECT_TRUE(Montre("Les élèves sont à jour."));
   Programme.Fermer();
 

@@ -145,6 +145,18 @@ TEST_F(VuesRepas, TicketsAreSoldIntoTheRedAndSettled) {
   Cliquer("Supprimer un ticket");
   EXPECT_EQ(Lignes(detail)[0], "03/10/2016||3");
   EXPECT_EQ(Tickets().size(), 4);
+
+  // An order takes a ticket while the list stands behind: it is another list that comes back.
+  for (const auto ecran : {TGestionnaire::btnReservationClick, TGestionnaire::btnTicketClick,
+                           TGestionnaire::btnReservationClick})
+    Programme.Ouvrir(ecran);
+  auto& reservation = Form<TFrmReservation>();
+  reservation.cmbClasseChange(2);
+  for (int i = 0; i < 2; ++i) reservation.btnAvanceDateClick();
+  reservation.grdEleveClickCell(0, 1);
+  Programme.Ouvrir(TGestionnaire::btnTicketClick);
+  EXPECT_EQ(eleves()[0], "ALVES Rui|0|sans ticket");
+  EXPECT_EQ(Lignes(detail)[3], "03/10/2016|05/10/2016|1");
 }
 
 TEST_F(VuesRepas, AClassIsOrderedByKeyboardIntoTheLockAndOut) {
