@@ -1,20 +1,10 @@
-#include "core/exceptions.h"
 #include "support/controleur_essai.h"
 
-TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
-  TBaseEssai base;
-  TEcoleEssai ecole(base);
-  ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
-  for (const auto& [id, valeur] : {std::pair{30, "1"},
-                                   {100, "2"},
-                                   {101, "2,20"},
-                                   {106, "4"},
-                                   {105, "3"},
-                                   {109, "1"},
-                                   {103, "1"},
-                                   {25, "1"}})
-    ecole.parametre(id, QString::fromLatin1(valeur));
-  TControleurEssai essai(base);
+using Controleur = TEssaiControleur;
+
+TEST_F(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
+  ecole.unEleve().enClasse("P1", "A");
+  ecole.parametres("30=1|100=2|101=2,20|106=4|105=3|109=1|103=1|25=1");
   essai.Charger();
   EXPECT_EQ(Globals.Eleves->Count(), 1);
   const TReglesEcole& regles = Globals.Presences->Regles;
@@ -27,11 +17,11 @@ TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
   EXPECT_EQ(regles.ActivitesExt, TTypeActivitesExt::DepuisOctobre);
   EXPECT_EQ(regles.TitreGarderieSoir(), u"Garderies du soir / études");
   EXPECT_TRUE(Globals.Eleves->Regles->ModeProvision);
-  Globals.Parametres->SetParametre(TParam::RepasMaternel, u"2,50"_s);
+  Globals.Parametres->SetParametre(TParam::RepasMaternel, "2,50");
   EXPECT_EQ(regles.PrixRepas[1].EnBrut(), 25000) << "what is written shows in the next amount";
-  Globals.Parametres->SetParametre(TParam::RepasPrimaire, u"2.50"_s);
+  Globals.Parametres->SetParametre(TParam::RepasPrimaire, "2.50");
   EXPECT_EQ(regles.PrixRepas[1].EnBrut(), 25000) << "what does not convert changes nothing";
-  Globals.Parametres->SetParametre(TParam::ModeProvision, u"0"_s);
+  Globals.Parametres->SetParametre(TParam::ModeProvision, "0");
   Globals.Parametres->SetParametre(TParam::RepasPrimaire, {});
   EXPECT_TRUE(regles.ModeProvision) << "until a year is loaded";
   essai.Controleur.ChargerAnnee(2016);
@@ -46,7 +36,7 @@ TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
   EXPECT_EQ(Globals.EleveCourant, nullptr);
   EXPECT_EQ(essai.Fenetre.Faits.last(), u"ferme");
 
-  ecole.parametre(101, u"deux"_s);
+  ecole.parametre(101, "deux");
   Globals.Parametres = std::make_unique<TParametres>(*base);
   TEleve eleve;
   Globals.EleveCourant = &eleve;
@@ -55,9 +45,7 @@ TEST(Controleur, AYearOnDisplayIsNotTheWorkingYear) {
   EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2015) << "the display stays as it was";
 }
 
-TEST(Controleur, ASchoolBeginsWithTheYearOfTheDay) {
-  TBaseEssai base;
-  TControleurEssai essai(base);
+TEST_F(Controleur, ASchoolBeginsWithTheYearOfTheDay) {
   essai.Charger();
   for (const auto& [mois, annee] : {std::pair(1, 2025), {6, 2025}, {7, 2026}, {12, 2026}}) {
     essai.Horloge.Moment = EncodeDate(2026, mois, 1);
@@ -65,14 +53,10 @@ TEST(Controleur, ASchoolBeginsWithTheYearOfTheDay) {
   }
 }
 
-TEST(Controleur, TheFieldInHandIsLeftWhileItsDataAreThere) {
+TEST_F(Controleur, TheFieldInHandIsLeftWhileItsDataAreThere) {
   struct TFenetreQuiRegarde : TFenetreEssai {
-    void QuitterChamp() override {
-      Faits += Globals.Eleves && Globals.Parametres ? u"quitte"_s : u"trop tard"_s;
-    }
+    void QuitterChamp() override { Faits += Globals.Eleves && Globals.Parametres ? "quitte" : "trop tard"; }
   } fenetre;
-  TBaseEssai base;
-  TControleurEssai essai(base);
   essai.Charger();
   TControleur controleur(*base, base.Reglages, fenetre, essai.Horloge);
   controleur.FormClose();

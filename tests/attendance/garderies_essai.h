@@ -5,9 +5,7 @@
 #include "support/ecole_essai.h"
 
 /// A school with one window a service; described first, then loaded.
-struct TGarderiesEssai : testing::Test {
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
+struct TGarderiesEssai : TEssaiEcole {
   std::unique_ptr<TTarifsGarderies> tarifs;
   std::unique_ptr<TActivites> activites;
   std::unique_ptr<TActivitesEleves> inscriptions;

@@ -106,13 +106,3 @@ TEST_F(TComptesEssai, Mercredis) {
   EXPECT_EQ(compte(courts), "5 0 2: 2 2 0 0");
   EXPECT_EQ(compte(longs), "5 2 0: 8 8 8 0");  // the ceiling is that of the short row
 }
-
-TEST_F(TComptesEssai, ForfaitsDuMois) {
-  ecole.unEleve().marque(1, 10).marque(2, 11).marque(3, 12);
-  charger();
-  const int midis[] = {15, 0, 15, 0}, etudes[] = {0, 0, 25, 0};
-  for (int mois = 9; mois <= 12; ++mois) {
-    EXPECT_EQ(presences->ForfaitMidiMois(1, mois, *marques), midis[mois - 9]) << mois;
-    EXPECT_EQ(presences->ForfaitEtudeMois(1, mois, *marques), etudes[mois - 9]) << mois;
-  }
-}

@@ -102,6 +102,8 @@ TEST_F(TGarderiesEssai, DeductionDeLEtude) {
   EXPECT_EQ(presences->HeureEtude(1, J(kLundi)), H("16:00"));
   EXPECT_EQ(presences->HeureEtude(3, J(kLundi)), 0.0);
   EXPECT_EQ(presences->HeureEtude(4, J(kLundi)), std::nullopt);
+  EXPECT_EQ(presences->DebutServiceSoirEtude(TTypeFamille::Etude), H("15:30"));
+  EXPECT_EQ(presences->FinServiceMatinMidi(TTypeFamille::Etude), 0.0);
 }
 
 TEST_F(TGarderiesEssai, ModesDeDeductionDesActivites) {
@@ -213,16 +215,5 @@ TEST(ActivitesExt, PeriodeDuParametre100) {
     // A euro exactly is not above a euro.
     EXPECT_EQ(Euros(presences.CoutGarderieSoir(2, BornesAnnee(2015), false, ext, &inscriptions, lignes)),
               "1.0000");
-  }
-}
-
-TEST_F(TGarderiesEssai, HeuresDesServices) {
-  tarifsUsuels();
-  charger();
-  const double fins[] = {0, H("08:00"), 0, 0, 0, 0, 0, H("13:30")};
-  const double debuts[] = {0, 0, H("15:30"), H("14:00"), H("15:30"), 0, 0, 0};
-  for (int famille = 0; famille < 8; ++famille) {
-    EXPECT_EQ(presences->FinServiceMatinMidi(static_cast<TTypeFamille>(famille)), fins[famille]);
-    EXPECT_EQ(presences->DebutServiceSoirEtude(static_cast<TTypeFamille>(famille)), debuts[famille]);
   }
 }

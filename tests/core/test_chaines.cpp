@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "core/chaines.h"
 
 using namespace Qt::StringLiterals;
@@ -9,18 +7,16 @@ namespace {
 using Liste = QStringList;
 
 Liste Pieces(void (*couper)(const QString&, QChar, QStringList&), const QString& texte) {
-  Liste liste{u"déjà là"_s};
+  Liste liste{"déjà là"};
   couper(texte, u';', liste);
-  EXPECT_EQ(liste.takeFirst(), u"déjà là"_s);
-  return liste.replaceInStrings(u"\r\n"_s, u"(vide)"_s);
+  EXPECT_EQ(liste.takeFirst(), "déjà là");
+  return liste.replaceInStrings("\r\n", "(vide)");
 }
 
 }  // namespace
 
 TEST(Chaines, Remplacer) {
-  const struct {
-    const char *Texte, *Ancien, *Nouveau, *Attendu;
-  } cas[] = {
+  const std::tuple<const char*, const char*, const char*, const char*> cas[] = {
       {"a-b-c", "-", "", "abc"},
       // What a replacement makes is replaced too.
       {"a    b", "  ", " ", "a b"},
@@ -34,22 +30,17 @@ TEST(Chaines, Remplacer) {
       {"abc", "C", "x", "abc"},
   };
   for (const auto& [texte, ancien, nouveau, attendu] : cas)
-    EXPECT_EQ(Remplacer(QString::fromUtf8(texte), QString::fromUtf8(ancien), QString::fromUtf8(nouveau))
-                  .toStdString(),
-              attendu)
-        << texte;
+    EXPECT_EQ(Remplacer(texte, ancien, nouveau).toStdString(), attendu) << texte;
 }
 
-TEST(Chaines, RetourLigne) { EXPECT_EQ(SansRetourLigne(u"a\r\n\r\nb\nc\rd"_s), u"a  b\nc\rd"_s); }
+TEST(Chaines, RetourLigne) { EXPECT_EQ(SansRetourLigne("a\r\n\r\nb\nc\rd"), "a  b\nc\rd"); }
 
 TEST(Chaines, DecouperPasseLesVidesOuLesCompte) {
-  const struct {
-    QString Texte;
-    Liste Pieces, Strictes;
-  } cas[] = {{u";;a;b"_s, {"a", "b"}, {"(vide)", "(vide)", "a", "b"}},
-             {u"a;; ;b;;"_s, {"a", " ", "b"}, {"a", "(vide)", " ", "b", "(vide)"}},
-             {u"a;b;"_s, {"a", "b"}, {"a", "b"}},
-             {{}, {}, {}}};
+  const std::tuple<QString, Liste, Liste> cas[] = {
+      {";;a;b", {"a", "b"}, {"(vide)", "(vide)", "a", "b"}},
+      {"a;; ;b;;", {"a", " ", "b"}, {"a", "(vide)", " ", "b", "(vide)"}},
+      {"a;b;", {"a", "b"}, {"a", "b"}},
+      {{}, {}, {}}};
   for (const auto& [texte, pieces, strictes] : cas) {
     EXPECT_EQ(Pieces(Decouper, texte), pieces);
     EXPECT_EQ(Pieces(DecouperStrict, texte), strictes);
@@ -57,16 +48,14 @@ TEST(Chaines, DecouperPasseLesVidesOuLesCompte) {
 }
 
 TEST(Chaines, NombresEtRecherche) {
-  EXPECT_TRUE(EstEntier(u"-12"_s));
-  for (const char* faux : {"", "1,5", "12a", "99999999999"})
-    EXPECT_FALSE(EstEntier(QString::fromUtf8(faux))) << faux;
-  EXPECT_TRUE(EstChiffres(u"0099999999999"_s));
-  for (const char* faux : {"", "  ", " 12", "12 ", "-1", "1a", "٣"})
-    EXPECT_FALSE(EstChiffres(QString::fromUtf8(faux))) << faux;
+  EXPECT_TRUE(EstEntier("-12"));
+  for (const char* faux : {"", "1,5", "12a", "99999999999"}) EXPECT_FALSE(EstEntier(faux)) << faux;
+  EXPECT_TRUE(EstChiffres("0099999999999"));
+  for (const char* faux : {"", "  ", " 12", "12 ", "-1", "1a", "٣"}) EXPECT_FALSE(EstChiffres(faux)) << faux;
 
-  const Liste noms{u"P1"_s, u"p2"_s, u"P2"_s, u"P2"_s};
-  EXPECT_EQ(IndexChaine(noms, u"P2"_s), 2);
-  EXPECT_EQ(IndexChaine(noms, u"P3"_s), -1);
+  const Liste noms{"P1", "p2", "P2", "P2"};
+  EXPECT_EQ(IndexChaine(noms, "P2"), 2);
+  EXPECT_EQ(IndexChaine(noms, "P3"), -1);
   const int nombres[] = {5, 7, 7};
   EXPECT_EQ(IndexEntier(nombres, 7), 1);
   EXPECT_EQ(IndexEntier({}, 7), -1);

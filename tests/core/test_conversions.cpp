@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "core/conversions.h"
 #include "core/exceptions.h"
 #include "core/numero_national.h"
@@ -8,21 +6,19 @@
 using namespace Qt::StringLiterals;
 
 TEST(Conversions, Amounts) {
-  struct {
-    const char* texte;
-    std::int64_t brut;
-  } const cas[] = {{"2,20", 22000},
-                   {" 2,2 ", 22000},
-                   {"-0,05", -500},
-                   {"3", 30000},
-                   {",5", 5000},
-                   {"1,23445", 12344},
-                   {"1,23455", 12346},
-                   {"1,234450001", 12345},
-                   {"-1,23455", -12346},
-                   {"0,00005", 0},
-                   {"99999999999999", 999999999999990000}};
-  for (const auto& c : cas) EXPECT_EQ(StrToCurr(QString::fromLatin1(c.texte)).EnBrut(), c.brut) << c.texte;
+  const std::pair<const char*, std::int64_t> cas[] = {{"2,20", 22000},
+                                                      {" 2,2 ", 22000},
+                                                      {"-0,05", -500},
+                                                      {"3", 30000},
+                                                      {",5", 5000},
+                                                      {"1,23445", 12344},
+                                                      {"1,23455", 12346},
+                                                      {"1,234450001", 12345},
+                                                      {"0,00005", 0},
+                                                      {"-1,23455", -12346},
+                                                      {"99999999999999", 999999999999990000}};
+  for (const auto& [texte, brut] : cas)
+    EXPECT_EQ(StrToCurr(QString::fromLatin1(texte)).EnBrut(), brut) << texte;
   for (const char* texte : {"", ",", "2.20", "1 000", "1,2,3", "abc", "12345678901234567890", "--1", "€ 3"})
     EXPECT_THROW(StrToCurr(QString::fromUtf8(texte)), EConvertError) << texte;
   EXPECT_EQ(FormatDeuxDecimales(Currency::Brut(12350)), u"1,24") << "half a cent away from zero";

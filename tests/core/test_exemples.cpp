@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
 #include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;

@@ -1,15 +1,12 @@
 #include <fcntl.h>
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <csignal>
 
-#include "core/exceptions.h"
 #include "core/fichiers.h"
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "core/comparaisons.h"
 #include "core/exceptions.h"
 #include "core/formats.h"
@@ -42,12 +40,10 @@ TEST(Formats, ZeroEstVideOuLeJourZero) {
 }
 
 TEST(Formats, MontantsAuCentime) {
-  const struct {
-    std::int64_t Brut;
-    const char16_t* Texte;
-  } cas[] = {{125000, u"12,50 €"}, {0, u"0,00 €"},       {50, u"0,01 €"},
-             {49, u"0,00 €"},      {-50, u"-0,01 €"},    {-49, u"0,00 €"},
-             {20250, u"2,03 €"},   {-20250, u"-2,03 €"}, {9999950, u"1.000,00 €"}};
+  const std::pair<std::int64_t, const char16_t*> cas[] = {
+      {125000, u"12,50 €"}, {0, u"0,00 €"},       {50, u"0,01 €"},
+      {49, u"0,00 €"},      {-50, u"-0,01 €"},    {-49, u"0,00 €"},
+      {20250, u"2,03 €"},   {-20250, u"-2,03 €"}, {9999950, u"1.000,00 €"}};
   for (const auto& [brut, texte] : cas)
     Egal(FormatMontant(Currency::Brut(brut)),
          QString::fromUtf16(texte).replace(u'.', LocaleEcole().groupSeparator()));

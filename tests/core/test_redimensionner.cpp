@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <vector>
 
 #include "core/redimensionner.h"
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QTemporaryDir>
 
 #include "core/conversions.h"

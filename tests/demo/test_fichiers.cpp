@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QCryptographicHash>
 
 #include "demo/fichiers.h"

@@ -1,7 +1,7 @@
 #pragma once
 #include "documents/catalogue.h"
-#include "pupils/eleves.h"
-#include "report/layout/document_prepare.h"
+#include "documents/modeles.h"
+#include "report/layout/mise_en_page.h"
 #include "support/controleur_essai.h"
 
 /// The nodes of a report as lines of text: two blanks a level, the text, the values.
@@ -20,6 +20,21 @@ inline QString Variable(const TResultat& resultat, QStringView nom) {
   return resultat.Rapports.at(0).Variables().Valeur(nom);
 }
 
+/// All of them: "name=value|...".
+inline QString Variables(const TRapport& rapport) {
+  QStringList variables;
+  for (const auto& [nom, valeur] : rapport.Variables()) variables += nom % u'=' % valeur;
+  return variables.join(u'|');
+}
+
+/// The pages of a report by its template, which must find no fault in it.
+inline TDocumentPrepare Pages(const TRapport& rapport) {
+  TDocumentPrepare document = MettreEnPage(rapport, *ModeleDocument(rapport.Modele()));
+  for (const TDefaut& defaut : document.Defauts)
+    ADD_FAILURE() << rapport.Modele().toStdString() << ": " << defaut.Message.toStdString();
+  return document;
+}
+
 /// The texts of a page in the order in which they are drawn.
 inline QStringList TextesPage(const TPagePreparee& page) {
   QStringList textes;
@@ -29,7 +44,7 @@ inline QStringList TextesPage(const TPagePreparee& page) {
 }
 
 /// A school whose services have prices with a tail behind the cents, and the documents it asks for.
-struct TDocumentsEssai : testing::Test {
+struct TDocumentsEssai : TEssaiEcole {
   void SetUp() override {
     using namespace Essai;
     const int semaine = LundiMardiJeudiVendredi;
@@ -76,7 +91,5 @@ struct TDocumentsEssai : testing::Test {
     return Demander(u"Facture", eleves, du, au, datePaiement);
   }
 
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
   TControleurEssai controleur{base};
 };

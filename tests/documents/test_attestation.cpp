@@ -1,9 +1,5 @@
-#include "documents/modeles.h"
 #include "ecole_documents.h"
-#include "report/layout/mise_en_page.h"
 #include "workflows/attestations.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -113,11 +109,9 @@ TEST_F(TAttestationEssai, LesSupplementsDuMidi) {
 TEST_F(TAttestationEssai, ParentsSepares) {
   Ne(u"2010-05-05"_s);
   anne.avec(u"FLG_PARENT_SEPARE"_s);
-  base.Sql(
-      u"INSERT INTO EXTRAITS (EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, "
-      u"NUM_CPT_DONNEUR, ANNEE_SCOLAIRE, "
-      "TYPE_RESPONSABLE) VALUES (7, '', '10/05/2017', 10, '', '', 2017, 2)"_s);
-  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 7 WHERE MONTANT_VERSE = 1.5"_s);
+  automne.mouvement({}, u"2017-10-05"_s, u"10"_s);
+  base.Sql(u"UPDATE EXTRAITS SET TYPE_RESPONSABLE = 2"_s);
+  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 1 WHERE MONTANT_VERSE = 1.5"_s);
   const TResultat deux = Attester(u"3"_s);
   EXPECT_EQ(Feuilles(deux), u"3,50 01/01/2017 31/12/2017|13,50 01/01/2017 31/12/2017"_s);
   const TArbreRapport& arbre = deux.Rapports.at(0).Arbre();
@@ -130,7 +124,7 @@ TEST_F(TAttestationEssai, ParentsSepares) {
       MettreEnPage(deux.Rapports[0], *ModeleDocument(deux.Rapports[0].Modele()));
   EXPECT_EQ(document.Pages.size(), 4U);
   EXPECT_EQ(document.Defauts.size(), 1U) << "the warning";
-  base.Sql(u"UPDATE FRAIS_ELEVE SET FLG_PART = 1 WHERE EXTRAIT_ID = 7"_s);
+  base.Sql(u"UPDATE FRAIS_ELEVE SET FLG_PART = 1 WHERE EXTRAIT_ID = 1"_s);
   EXPECT_EQ(Feuilles(Attester(u"3"_s)), u"3,50 01/01/2017 31/12/2017|5,00 01/01/2017 31/12/2017"_s)
       << "of a movement that was shared out, its own part";
   // Without the spring the first parent has paid nothing: no sheet for either, and the office is told.
@@ -152,11 +146,9 @@ TEST_F(TAttestationEssai, LAnneeOuverteEstUneAutre) {
   EXPECT_EQ(resultat.Messages.size(), 1);
   EXPECT_EQ(Variable(resultat, u"DateFin"), u"30/06/2018"_s);
   ecole.parametre(111, u"1"_s);
-  const struct {
-    const char16_t *Parametre, *Modele;
-  } modeles[] = {{u"1", u"AttestationContributionValmonde"},
-                 {u"4", u"AttestationContributionASBL"},
-                 {u"2", u"AttestationContributionASBL"}};
+  const std::pair<const char16_t*, const char16_t*> modeles[] = {{u"1", u"AttestationContributionValmonde"},
+                                                                 {u"4", u"AttestationContributionASBL"},
+                                                                 {u"2", u"AttestationContributionASBL"}};
   for (const auto& [parametre, modele] : modeles)
     EXPECT_EQ(Attester(QString::fromUtf16(parametre)).Rapports.at(0).Modele(), QString::fromUtf16(modele));
 }

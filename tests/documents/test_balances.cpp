@@ -1,6 +1,4 @@
-#include "documents/modeles.h"
 #include "ecole_documents.h"
-#include "report/layout/mise_en_page.h"
 
 namespace {
 
@@ -10,10 +8,7 @@ struct TBalancesEssai : TDocumentsEssai {
   }
   /// What the pages say below the sums, a line a text.
   static QStringList Conclusion(const TResultat& resultat) {
-    const TRapport& rapport = resultat.Rapports.at(0);
-    const TDocumentPrepare document = MettreEnPage(rapport, *ModeleDocument(rapport.Modele()));
-    EXPECT_EQ(document.Defauts.size(), 0U) << rapport.Modele().toStdString();
-    QStringList suite = TextesPage(document.Pages.at(0));
+    const QStringList suite = TextesPage(Pages(resultat.Rapports.at(0)).Pages.at(0));
     return suite.mid(suite.lastIndexOf(u"Balance"_s) + 3);
   }
 };

@@ -1,40 +1,37 @@
 #include "documents/caisse_repas.h"
 #include "documents/cuisine.h"
-#include "documents/modeles.h"
 #include "documents/tickets.h"
 #include "ecole_documents.h"
 #include "meals/generation_repas.h"
-#include "report/layout/mise_en_page.h"
 #include "workflows/jour_cuisine.h"
 
 namespace {
 
 /// M1 B: one who ate meals with and without tickets (1). P1 A: a ham dago with both dressings (2), and a
 /// cheese sandwich (3). P3 B: a hot meal (4). Staff: a hot meal (5).
-struct TDocumentsRepasEssai : testing::Test {
+struct TDocumentsRepasEssai : TEssaiEcole {
   TDocumentsRepasEssai() {
     for (const char* classe : {"M1 B", "P1 A", "P1 A", "P3 B", "PROFESSEURS "}) {
       const QStringList noms = QString::fromLatin1(classe).split(u' ');
       ecole.unEleve().enClasse(noms[0], noms[1]);
     }
-    ecole.parametre(1, u"École"_s);
-    const auto commande = [&](int eleve, const QString& drapeaux, const QString& jour = u"2016-11-24"_s) {
+    ecole.parametre(1, "École");
+    const auto commande = [&](int eleve, const QString& drapeaux, const QString& jour = "2016-11-24") {
       QStringList valeurs{QString::number(eleve), u"'"_s + jour + u"'"_s};
       for (const QChar c : drapeaux) valeurs += QString(c);
-      ecole.Ajouter(u"COMMANDE"_s,
+      ecole.Ajouter("COMMANDE",
                     u"COMMANDE_ID, ELEVE_ID, DATE_COMMANDE, FLG_REPAS, FLG_DAGO, FLG_SANDWICH, FLG_JAMBON, "
                     "FLG_FROMAGE, FLG_JAMBON_FROMAGE, FLG_BEURRE, FLG_MAYONNAISE"_s,
                     valeurs);
     };
-    commande(2, u"01010011"_s);
-    commande(3, u"00101000"_s);
-    commande(4, u"10000000"_s);
-    commande(5, u"10000000"_s);
-    commande(1, u"00100000"_s, u"2016-11-03"_s);
+    commande(2, "01010011");
+    commande(3, "00101000");
+    commande(4, "10000000");
+    commande(5, "10000000");
+    commande(1, "00100000", "2016-11-03");
     const auto ticket = [&](const char* achat, const char* utilisation) {
-      ecole.Ajouter(u"TICKET"_s,
-                    u"TICKET_ID, ELEVE_ID, DATE_ACHAT, DATE_UTILISATION, VALEUR, TYPE_PAIEMENT"_s,
-                    {u"1"_s, QString::fromLatin1(achat), QString::fromLatin1(utilisation), u"2.2"_s, u"1"_s});
+      ecole.Ajouter("TICKET", "TICKET_ID, ELEVE_ID, DATE_ACHAT, DATE_UTILISATION, VALEUR, TYPE_PAIEMENT",
+                    {"1", achat, utilisation, "2.2", "1"});
     };
     ticket("'2016-11-02'", "'2016-11-03'");
     ticket("'2016-11-02'", "NULL");
@@ -47,16 +44,13 @@ struct TDocumentsRepasEssai : testing::Test {
   TJourCuisine Jour() { return JourDeCuisine(*Globals.Eleves, J("2016-11-24")); }
   /// Lays the report out, so that its template is tried too; the text of its pages.
   static QString Page(const TRapport& rapport) {
-    const TDocumentPrepare document = MettreEnPage(rapport, *ModeleDocument(rapport.Modele()));
-    for (const TDefaut& defaut : document.Defauts) ADD_FAILURE() << defaut.Message.toStdString();
+    const TDocumentPrepare document = Pages(rapport);
     QString texte;
     for (int i = 0; i < static_cast<int>(document.Pages.size()); ++i)
       texte += document.TexteDePage(i) + u'\n';
     return texte;
   }
 
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
   TControleurEssai controleur{base};
 };
 
@@ -81,7 +75,7 @@ TEST_F(TDocumentsRepasEssai, PreparationSheet) {
         "  dago jambon mayonnaise: LibelleCol1=1 jambon mayonnaise | LibelleCol2=Eleve2 Prenom2",
         "TitreCol1=Nombre total de sandwichs : 1 | ColonneLarge=1\n",
         "  sandwich fromage: LibelleCol1=1 fromage | LibelleCol2=Eleve3 Prenom3"})
-    EXPECT_TRUE(dessin.contains(QString::fromUtf8(ligne))) << ligne << "\n" << dessin.toStdString();
+    EXPECT_TRUE(dessin.contains(ligne)) << ligne << "\n" << dessin.toStdString();
   EXPECT_EQ(dessin.count(u"Total de repas chauds : 1"), 2);
   const QString nouvelle = Dessin(FichePreparation(Contexte(), Jour(), GenerationRepas(true)).Rapports.at(0));
   EXPECT_TRUE(nouvelle.contains(u"   -   Nombre de soupe : 2"));
@@ -110,7 +104,7 @@ TEST_F(TDocumentsRepasEssai, DetailOfOrders) {
   EXPECT_EQ(Dessin(choix.Rapports.at(0)),
             u"Eleve2 Prenom2: NomEleve=Eleve2 Prenom2\nEleve3 Prenom3: NomEleve=Eleve3 Prenom3");
   EXPECT_TRUE(Page(choix.Rapports.at(0)).contains(u"jeudi 24 novembre 2016"));
-  base.Sql(u"UPDATE ELEVES SET NOM = CASE ELEVE_ID WHEN 2 THEN 'Zorn' ELSE 'Éloy' END"_s);
+  base.Sql("UPDATE ELEVES SET NOM = CASE ELEVE_ID WHEN 2 THEN 'Zorn' ELSE 'Éloy' END");
   controleur.Charger();
   const TResultat classe = ChoixDeRepas(Contexte(), Globals.Eleves->GetClasse(1), J("2016-11-24"));
   EXPECT_TRUE(Dessin(classe.Rapports.at(0)).startsWith(u"Éloy Prenom3: ")) << "É with E on paper too";
@@ -137,18 +131,16 @@ TEST_F(TDocumentsRepasEssai, TicketsOfParentsAndClasses) {
                                                 {2, "Il vous reste 3 tickets"}};
   for (const auto& [achat, phrase] : soldes) {
     if (achat > 0) tous[0]->AcheterTickets(achat, TPaiementTicket::Comptant, {}, jour);
-    EXPECT_TRUE(
-        Page(TicketsParents(Contexte(), tous, jour).Rapports.at(0)).contains(QString::fromUtf8(phrase)))
-        << phrase;
+    EXPECT_TRUE(Page(TicketsParents(Contexte(), tous, jour).Rapports.at(0)).contains(phrase)) << phrase;
   }
   const TResultat classes = TicketsParClasse(Contexte(), tous, jour);
   EXPECT_TRUE(
       Dessin(classes.Rapports.at(0))
           .startsWith(u"M1 B: Classe=M1 B\n  Eleve1 Prenom1: NomEleve=Eleve1 Prenom1 | TotalTicket=3\n"));
   EXPECT_TRUE(Page(classes.Rapports.at(0)).contains(u"Récapitulatif des tickets disponibles en P3 B"));
-  EXPECT_EQ(TicketsParents(Contexte(), {tous[1]}, jour).Messages, QStringList(u"Aucun relevé à imprimer."_s));
+  EXPECT_EQ(TicketsParents(Contexte(), {tous[1]}, jour).Messages, QStringList("Aucun relevé à imprimer."));
   EXPECT_EQ(TicketsParents(Contexte(), {}, jour).Messages,
-            QStringList(u"Veuillez sélectionner des élèves dans la liste."_s));
+            QStringList("Veuillez sélectionner des élèves dans la liste."));
 }
 
 TEST_F(TDocumentsRepasEssai, TicketsSold) {
@@ -161,16 +153,15 @@ TEST_F(TDocumentsRepasEssai, TicketsSold) {
   EXPECT_EQ(rapport.Arbre().size(), 1u);
   EXPECT_TRUE(Page(rapport).contains(u"4,40 €"));
   EXPECT_EQ(TicketsVendus(Contexte(), {J("2016-11-03"), J("2016-11-02")}).Messages,
-            QStringList(u"Il n'y a aucune information à imprimer"_s));
+            QStringList("Il n'y a aucune information à imprimer"));
 }
 
 TEST_F(TDocumentsRepasEssai, TheTillHoldsWhatWasReceived) {
   for (const char* montant : {"4", "1.5"})
-    ecole.Ajouter(u"REPAS_PAIEMENT"_s,
-                  u"REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT"_s,
-                  {u"1"_s, QString::fromLatin1(montant), u"0"_s, u"'2016-11-24'"_s});
-  ecole.Ajouter(u"DETAIL_PAIEMENT_LIQUIDE"_s, u"DETAIL_PAIEMENT_LIQUIDE_ID, REPAS_PAIEMENT_ID, TOT_2_EUR"_s,
-                {u"1"_s, u"2"_s});
+    ecole.Ajouter("REPAS_PAIEMENT", "REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT",
+                  {"1", montant, "0", "'2016-11-24'"});
+  ecole.Ajouter("DETAIL_PAIEMENT_LIQUIDE", "DETAIL_PAIEMENT_LIQUIDE_ID, REPAS_PAIEMENT_ID, TOT_2_EUR",
+                {"1", "2"});
   const QString page = Page(CaisseDesRepas(Contexte(), J("2016-11-24")).Rapports[0]).simplified();
   EXPECT_TRUE(page.contains(u"2 euros 2 4,00 €") && page.contains(u"Sans détail 1,50 €") &&
               page.contains(u"Total 5,50 €"))

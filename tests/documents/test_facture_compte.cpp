@@ -66,10 +66,7 @@ TEST_F(TCompteEssai, ChaqueDisposition) {
       garderies.arg(u"Repas"_s, u"Garderies des mois précédents/Repas des mois précédents"_s) %
       u" = <b>SOLDE</b><b>47,77</b>";
   const QString aucune = u"Aucune facture n'est à établir pour la période choisie."_s;
-  const struct {
-    const char* Vrais;
-    QString Attendu;
-  } cas[] = {
+  const std::pair<const char*, QString> cas[] = {
       {"",
        u"ReleveFactureVesper -45,23 0 +++100/0001/01680+++ TypeService=1\n"
        "Services, Garderies du mois: "_s %

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "documents/modeles.h"
 #include "forms/grille.h"
 #include "report/layout/mise_en_page.h"

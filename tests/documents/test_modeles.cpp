@@ -1,8 +1,5 @@
-#include <gtest/gtest.h>
-
 #include <QDir>
 
-#include "core/fichiers.h"
 #include "core/reglages_poste.h"
 #include "documents/modeles.h"
 #include "report/layout/mise_en_page.h"
@@ -100,14 +97,6 @@ TEST(Modeles, NomsEtLieuxLongsTiennent) {
       EXPECT_TRUE(document.Defauts.empty()) << document.Defauts[0].Message.toStdString();
     }
   }
-}
-
-// What is official is mended in one place.
-TEST(Modeles, LesMotsDuTrimestreSontEnUnSeulEndroit) {
-  int fois = 0;
-  for (const QString& fichier : QDir(u":/modeles"_s).entryList())
-    fois += LireFichier(u":/modeles/"_s + fichier).contains("différents de la section maternelle");
-  EXPECT_EQ(fois, 1);
 }
 
 TEST(Modeles, UneFactureDeDeuxPages) {

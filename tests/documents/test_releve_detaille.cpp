@@ -73,10 +73,7 @@ TEST_F(TReleveDetailleEssai, ApresUneFacture) {
   const int radieDetaille = AvecUnMatin(u"FLG_RADIE"_s);
   base.Sql(u"UPDATE ELEVES SET FLG_FACTURE_DETAIL = 1 WHERE ELEVE_ID = 4"_s);
   const int vide = UnEleve(u"FLG_FACTURE_DETAIL"_s).doit(ecole.frais(u"Livre"_s, u"2"_s, 10)).Id;
-  const struct {
-    std::vector<int> Factures;
-    QString Details;
-  } cas[] = {
+  const std::pair<std::vector<int>, QString> cas[] = {
       {{simple}, {}},
       {{detaille}, u"Eleve1"_s},
       {{detaille, detaille}, u"Eleve1 Eleve1"_s},

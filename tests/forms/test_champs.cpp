@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "core/exceptions.h"
 #include "forms/champs.h"
 #include "support/valeurs.h"
@@ -52,10 +50,7 @@ struct Champs : testing::Test {
 }  // namespace
 
 TEST_F(Champs, UnTexteSeConvertitOuResteAvecSaFaute) {
-  const struct {
-    int Champ;
-    const char *Tape, *Montre, *Faute;
-  } cas[] = {
+  const std::tuple<int, const char*, const char*, const char*> cas[] = {
       {Nom, "Zoé", "Zoé", ""},
       {Nom, "Zoé-Marie", "Zoé-Marie", "Ce texte compte 9 caractères : 5 au plus."},
       {Code, " 4000", "4000", ""},

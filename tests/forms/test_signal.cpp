@@ -1,7 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <optional>
-
 #include "forms/signal.h"
 
 TEST(Signal, LeLienFinitAvecCeluiQuiEcoute) {

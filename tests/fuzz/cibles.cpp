@@ -4,7 +4,6 @@
 #include <QtEndian>
 
 #include "core/data_set.h"
-#include "core/exceptions.h"
 #include "documents/modeles.h"
 #include "documents/moteur_etiquettes.h"
 #include "forms/grille.h"
@@ -33,6 +32,16 @@ class TMuet : public IDialogues {
   void TraiterEvenements() override {}
   void CurseurAttente(bool) override {}
 };
+
+/// Whether it was not refused.
+bool Accepte(const auto& geste) {
+  try {
+    geste();
+    return true;
+  } catch (const Exception&) {
+    return false;
+  }
+}
 
 /// Knows every variable and object.
 class THote : public IHoteScript {
@@ -76,23 +85,21 @@ void TCibles::Registre(const QByteArray& octets) {
   base.ServerName = base_.FichierDeDonnees();
   base.Connecter();
   TControleur controleur(base, base_.Reglages, essai_.Fenetre, essai_.Horloge);
-  try {
+  Accepte([&] {
     TImportRegistre import(controleur);
     if (import.Etape1(base_.Fichier(u"registre"_s, octets))) import.Etape2();
-  } catch (const Exception&) {
-  }
+  });
 }
 
 void TCibles::Presences(const QByteArray& octets) {
   TMuet muet;
   TDataModule1 base(muet, base_.Reglages);
   TControleur controleur(base, base_.Reglages, essai_.Fenetre, essai_.Horloge);
-  try {
+  Accepte([&] {
     TImportPresences import(controleur);
     import.ImporterFichier(base_.Fichier(u"scans"_s, octets));
     import.Etape2();
-  } catch (const Exception&) {
-  }
+  });
 }
 
 void TCibles::Releve(const QByteArray& octets) {
@@ -105,34 +112,26 @@ void TCibles::Releve(const QByteArray& octets) {
   for (const QString& disposition : {u""_s, u"1"_s, u"2"_s}) {
     Globals.Parametres->SetParametre(TParam::TypeCompteBancaire, disposition);
     Globals.Parametres->SetParametre(TParam::CompteCourant, disposition);
-    try {
+    Accepte([&] {
       TImportVirements import(controleur);
       if (import.Etape1(fichier)) import.Etape2();
-    } catch (const Exception&) {
-    }
+    });
   }
   Globals.Extraits.reset();
   Globals.ExtraitsPrecedents.reset();
 }
 
 bool TCibles::ReleveBancaire(const QByteArray& octets) {
-  try {
-    return LireReleveBancaire(octets).has_value();
-  } catch (const Exception&) {
-    return false;
-  }
+  bool lu = false;
+  return Accepte([&] { lu = LireReleveBancaire(octets).has_value(); }) && lu;
 }
 
 bool TCibles::CopieLocale(const QByteArray& octets) {
   bool lue = false;
   for (const QByteArray& copie :
-       {octets, QByteArray(octets + QCryptographicHash::hash(octets, QCryptographicHash::Sha256))}) {
-    try {
-      TDataSet::DepuisOctets(TDataSet::DepuisOctets(copie, u"copie"_s).EnOctets(), u"copie"_s);
-      lue = true;
-    } catch (const Exception&) {
-    }
-  }
+       {octets, QByteArray(octets + QCryptographicHash::hash(octets, QCryptographicHash::Sha256))})
+    lue |= Accepte(
+        [&] { TDataSet::DepuisOctets(TDataSet::DepuisOctets(copie, u"copie"_s).EnOctets(), u"copie"_s); });
   return lue;
 }
 
@@ -151,32 +150,23 @@ void TCibles::Rapport(const QByteArray& octets) {
   QByteArray fichier = QByteArrayLiteral("CALPRAP\x01????");
   qToLittleEndian(static_cast<quint32>(octets.size()), fichier.data() + 8);
   fichier += qCompress(octets, 1).mid(4);
-  try {
+  Accepte([&] {
     const TDocumentPrepare document = TDocumentPrepare::DepuisOctets(fichier);
     document.Chercher(u"e"_s);
     PdfEnOctets({&document}, document.Titre, {});
-  } catch (const Exception&) {
-  }
+  });
 }
 
 bool TCibles::Modele(const QByteArray& octets) {
   TModele modele;
-  try {
-    modele = LireModele(octets, u"essai.xml"_s);
-  } catch (const Exception&) {
-    return false;
-  }
+  if (!Accepte([&] { modele = LireModele(octets, u"essai.xml"_s); })) return false;
   for (const bool liste : {false, true}) MettreEnPage(PetitRapport(liste), modele);
   return true;
 }
 
 bool TCibles::Etiquette(const QByteArray& octets) {
   TMoteurEtiquettes moteur([](const TDocumentPrepare&, const TTravailEtiquette&) {});
-  try {
-    moteur.OuvrirOctets(octets, u"essai.label"_s);
-  } catch (const Exception&) {
-    return false;
-  }
+  if (!Accepte([&] { moteur.OuvrirOctets(octets, u"essai.label"_s); })) return false;
   for (const QString& nom : {u"NomEleve"_s, u"NomEcole"_s, u"CodeBarre"_s})
     if (IObjetEtiquette* objet = moteur.TrouverObjet(nom)) objet->EcrireTexte(u"[NomEcole] 5537-01"_s);
   moteur.Imprimer({}, {}, 1);

@@ -1,6 +1,7 @@
 #include "core/data_set.h"
 #include "fuzz/alterer.h"
 #include "fuzz/cibles.h"
+#include "support/fichier_coda.h"
 
 namespace {
 
@@ -13,34 +14,19 @@ QByteArray RegistreValide() {
   return texte;
 }
 
-/// A record of 128 characters with pieces at their places.
-QByteArray Enregistrement(const std::vector<std::pair<int, QByteArray>>& morceaux) {
-  QByteArray ligne(128, ' ');
-  for (const auto& [place, texte] : morceaux) ligne.replace(place, texte.size(), texte);
-  return ligne + "\r\n";
-}
-
 /// A group of two payments, with a whole name and a text of three records.
 QByteArray CodaValide() {
-  const auto mouvement = [](const QByteArray& article, const QByteArray& montant, const QByteArray& texte) {
-    return Enregistrement({{0, "21" + article},
-                           {31, "0" + montant + "051016"},
-                           {53, "105010001"},
-                           {62, texte},
-                           {115, "051016"}});
+  using namespace FichierCoda;
+  const auto suite = [](const QString& genre, int place, const QString& texte) {
+    return Enregistrement({{1, genre}, {place, texte}});
   };
-  const QByteArray un = "000000000010000", deux = "000000000020000", trois = "000000000030000";
-  return Enregistrement({{0, "0000005101672505"}, {127, "2"}}) +
-         Enregistrement({{0, "12001BE33123456789012"}, {39, "EUR0" + un + "041016"}, {125, "007"}}) +
-         mouvement("00010000", trois, "101001231016185") + mouvement("00010001", un, "105") +
-         Enregistrement({{0, "2200010001"}, {10, "suite"}}) +
-         Enregistrement({{0, "2300010001"}, {10, "BE68539007547034EUR"}, {47, "VAN DEN"}, {82, "fin"}}) +
-         Enregistrement({{0, "3100019999"}, {39, "1001VAN DEN BERGHE"}}) +
-         Enregistrement({{0, "3100019999"}, {39, "0libre"}}) +
-         Enregistrement({{0, "3200019999"}, {10, "et"}}) + Enregistrement({{0, "3300019999"}, {10, "fin"}}) +
-         mouvement("00010002", deux, "113autre") +
-         Enregistrement({{0, "8001BE33123456789012"}, {41, "0000000000040000051016"}}) +
-         Enregistrement({{0, "9"}, {16, "000011000000000000000" + trois}, {127, "2"}});
+  return Coda({Mouvement("00010000", 300, "101001231016185", u'1', true),
+               Mouvement("00010001", 100, "105", u'6', true), suite("2200010001", 11, "suite"),
+               Donneur("00010001", "BE68539007547034EUR", "VAN DEN", "fin"),
+               suite("3100019999", 40, "1001VAN DEN BERGHE"), suite("3100019999", 40, "0libre"),
+               suite("3200019999", 11, "et"), suite("3300019999", 11, "fin"),
+               Mouvement("00010002", 200, "113autre", u'6', true)},
+              300);
 }
 
 QByteArray CamtValide() {
@@ -52,8 +38,8 @@ QByteArray CamtValide() {
       "Ccy='EUR'>1.50</Amt></TxAmt></AmtDtls><RltdPties><Dbtr><Nm>Zo\xC3\xA9</Nm>"
       "</Dbtr><DbtrAcct><Id><IBAN>BE68539007547034</IBAN></Id></DbtrAcct></"
       "RltdPties><RmtInf><Strd><CdtrRefInf>"
-      "<Tp><Issr>BBA</Issr></Tp><Ref>001231016185</Ref></CdtrRefInf></Strd><Ustrd>libre</Ustrd></RmtInf></"
-      "TxDtls>";
+      "<Tp><Issr>BBA</Issr></Tp><Ref>001231016185</Ref></CdtrRefInf></Strd><Ustrd>libre</Ustrd></RmtInf>"
+      "</TxDtls>";
   return "<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.02'><BkToCstmrStmt><Stmt><Id>S</Id>"
          "<Acct><Id><IBAN>BE33</IBAN></Id></Acct>" +
          QByteArray(solde).replace('%', "OPBD").replace('#', "5") +

@@ -6,18 +6,15 @@
 
 namespace {
 
-struct TRepasEssai : testing::Test {
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
-
+struct TRepasEssai : TEssaiEcole {
   /// Rows "achat utilisation", "-" for none, of pupil 1; days of September 2016.
-  void Tickets(const QStringList& rangees) {
+  void Tickets(const QString& rangees) {
     base.Sql(u"DELETE FROM TICKET"_s);
     base.Sql(u"UPDATE COUNTERS SET VALEUR = 0 WHERE TABLE_NAME = 'TICKET'"_s);
     const auto date = [](const QString& jour) {
       return jour == u"-" ? u"NULL"_s : u"'2016-09-%1'"_s.arg(jour, 2, u'0');
     };
-    for (const QString& rangee : rangees) {
+    for (const QString& rangee : rangees.split(u", "_s)) {
       const QStringList jours = rangee.split(u' ');
       ecole.Ajouter(u"TICKET"_s, u"TICKET_ID, ELEVE_ID, DATE_ACHAT, DATE_UTILISATION, VALEUR"_s,
                     {u"1"_s, date(jours[0]), date(jours[1]), u"2"_s});
@@ -39,44 +36,29 @@ TDateTime Sept(int jour) { return EncodeDate(2016, 9, jour); }
 TEST_F(TRepasEssai, TicketsAreBoughtUsedAndFreed) {
   using TGeste = void (*)(TTickets&);
   const struct {
-    const char* Nom;
-    QStringList Avant;
+    const char *Nom, *Avant;
     TGeste Geste;
     const char* Apres;
     int Solde;
   } cas[] = {
-      {"the latest bought is used, even after the meal; equal dates by key",
-       {u"1 -"_s, u"9 -"_s, u"9 -"_s, u"- 3"_s},
-       [](TTickets& t) { t.Consommer(Sept(5), {}); },
-       "1:1 -, 2:9 5, 3:9 -, 4:- 3",
-       1},
-      {"one a day", {u"1 5"_s, u"1 -"_s}, [](TTickets& t) { t.Consommer(Sept(5), {}); }, "1:1 5, 2:1 -", 1},
-      {"none free", {u"1 5"_s}, [](TTickets& t) { t.Consommer(Sept(6), {}); }, "1:1 5, 2:- 6", -1},
-      {"a bought one is freed", {u"1 5"_s}, [](TTickets& t) { t.Liberer(Sept(5)); }, "1:1 -", 1},
-      {"a missing one disappears",
-       {u"- 5"_s, u"- 6"_s},
-       [](TTickets& t) { t.Liberer(Sept(5)); },
-       "2:- 6",
-       -1},
-      {"a bought one is freed before a missing one of the day",
-       {u"- 5"_s, u"1 5"_s},
-       [](TTickets& t) { t.Liberer(Sept(5)); },
-       "1:- 5, 2:1 -",
-       0},
-      {"missing ones are settled first and keep their day",
-       {u"- 5"_s, u"1 4"_s, u"- 6"_s},
+      {"the latest bought is used, even after the meal; equal dates by key", "1 -, 9 -, 9 -, - 3",
+       [](TTickets& t) { t.Consommer(Sept(5), {}); }, "1:1 -, 2:9 5, 3:9 -, 4:- 3", 1},
+      {"one a day", "1 5, 1 -", [](TTickets& t) { t.Consommer(Sept(5), {}); }, "1:1 5, 2:1 -", 1},
+      {"none free", "1 5", [](TTickets& t) { t.Consommer(Sept(6), {}); }, "1:1 5, 2:- 6", -1},
+      {"a bought one is freed", "1 5", [](TTickets& t) { t.Liberer(Sept(5)); }, "1:1 -", 1},
+      {"a missing one disappears", "- 5, - 6", [](TTickets& t) { t.Liberer(Sept(5)); }, "2:- 6", -1},
+      {"a bought one is freed before a missing one of the day", "- 5, 1 5",
+       [](TTickets& t) { t.Liberer(Sept(5)); }, "1:- 5, 2:1 -", 0},
+      {"missing ones are settled first and keep their day", "- 5, 1 4, - 6",
        [](TTickets& t) { t.Acheter(5, TPaiementTicket::Comptant, Currency::Euros(3), Sept(8)); },
-       "1:8 5, 2:1 4, 3:8 6, 4:8 -, 5:8 -, 6:8 -",
-       3},
-      {"bought in this session is used as after a restart",
-       {u"1 -"_s},
+       "1:8 5, 2:1 4, 3:8 6, 4:8 -, 5:8 -, 6:8 -", 3},
+      {"bought in this session is used as after a restart", "1 -",
        [](TTickets& t) {
          t.Acheter(1, TPaiementTicket::Virement, {}, Sept(8));
          t.Save();
          t.Consommer(Sept(9), {});
        },
-       "1:1 -, 2:8 9",
-       1},
+       "1:1 -, 2:8 9", 1},
   };
   for (const auto& [nom, avant, geste, apres, solde] : cas) {
     SCOPED_TRACE(nom);
@@ -91,7 +73,7 @@ TEST_F(TRepasEssai, TicketsAreBoughtUsedAndFreed) {
 }
 
 TEST_F(TRepasEssai, TheListsOfManyAreThoseOfEach) {
-  Tickets({u"1 2"_s, u"9 -"_s, u"- 3"_s, u"9 4"_s, u"- 7"_s});
+  Tickets(u"1 2, 9 -, - 3, 9 4, - 7"_s);
   base.Sql(u"UPDATE TICKET SET ELEVE_ID = 2, TYPE_PAIEMENT = 2 WHERE TICKET_ID = 4"_s);
   const auto ensemble = TTickets::LireEnsemble(*base, {1, 2, 3});
   for (const int eleve : {1, 2, 3}) {

@@ -1,11 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "core/exceptions.h"
 #include "payments/extraits.h"
 #include "support/ecole_essai.h"
-#include "support/valeurs.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <map>
 
 #include "core/exceptions.h"
@@ -85,9 +83,8 @@ TEST(Releve, TablesAreReadByPosition) {
 }
 
 TEST(Releve, LabelledLines) {
-  const struct {
-    QString detail, lu;  // without the account of the fixture when it has another
-  } cas[] = {
+  // Without the account of the fixture when it has another
+  const std::pair<QString, QString> cas[] = {
       {Detail(u"Communication : ***123/4567/89012*** "_s), u"+++123/4567/89012+++|BE68 5390"_s},
       {Detail(u"Communication: perdu"_s), u"perd|BE68 5390"_s},
       {Detail(u"Info personnelle: b Communication: c Communication : d "_s), u"d|BE68 5390"_s},
@@ -111,9 +108,8 @@ TEST(Releve, LabelledLines) {
 
 TEST(Releve, DatesAndAmountsOfLabelledLines) {
   const QString detail = Detail({});
-  const struct {
-    QString date, montant, attendu;  // a movement, nothing, or "!"
-  } cas[] = {
+  // A movement, nothing, or "!"
+  const std::tuple<QString, QString, QString> cas[] = {
       {u"05-10-16"_s, u"1,5"_s, u"2016-10-05|1.5000"_s},
       {u"05.10.2016"_s, u"1.250.000,00"_s, u"2016-10-05|1250000.0000"_s},
       {u"5/10/2016"_s, u"0"_s, u"2016-10-05|0.0000"_s},
@@ -151,9 +147,7 @@ TEST(Releve, TextsAreCutToWhatCanBeStored) {
 }
 
 TEST(Releve, CommunicationsAsTheyAreStored) {
-  const struct {
-    QString telle, stockee;
-  } cas[] = {
+  const std::pair<QString, QString> cas[] = {
       {u"++++++001/2310/16185++++++"_s, u"+++001/2310/16185+++"_s},
       {u"+++001/2310/16186+++"_s, u"+++001/2310/16186+++"_s},
       {u"++++++001/2310/16186++++++"_s, u"+++001/2310/16186+++"_s},

@@ -39,7 +39,7 @@ struct TAnneeEssai {
 };
 
 /// Every service once in October 2016, each at a price of its own; a morning more in November.
-struct TCompteEssai : testing::Test {
+struct TCompteEssai : TEssaiEcole {
   TCompteEssai() {
     using namespace Essai;
     ecole.tarif(Matin, TousLesJours, "07:00", "08:30", Forfait, "1", ScanPresence, "0.10");
@@ -54,8 +54,6 @@ struct TCompteEssai : testing::Test {
     eleve.scan(Etude, "2016-10-04", "15:45").scan(Repas, "2016-10-04", "12:00");
     eleve.scan(Soupe, "2016-10-04", "12:00").scan(Garderie, "2016-11-07", "07:30");
   }
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
   TEleveEssai eleve = ecole.unEleve();
   const TPeriode octobre = BornesMois(10, 2016);
 };
@@ -74,10 +72,7 @@ struct TSoldesEssai : TCompteEssai {
 }  // namespace
 
 TEST_F(TCompteEssai, ServicesSelonLeRangDansLaFamille) {
-  const struct {
-    const char* drapeau;
-    double services, garderies;
-  } cas[] = {
+  const std::tuple<const char*, double, double> cas[] = {
       // 1.00 + 0.50 + 2.00 + 3.00 + 4.00, and 5.00 + 0.75 for meal and soup; no midday in the second.
       {"FLG_FACTURE_DETAIL", 16.25, 10.00},
       {"FLG_2E_ENFANT", 7.35, 1.40},  // the soup keeps its price
@@ -105,11 +100,7 @@ TEST_F(TSoldesEssai, MoisPeriodesEtAnnee) {
   TAnneeEssai annee(*base);
   const TEleve& e = annee.eleves[0];
   const TPeriode tout = BornesAnnee(2016);
-  const struct {
-    const char* nom;
-    Currency vu;
-    double attendu;
-  } cas[] = {
+  const std::tuple<const char*, Currency, double> cas[] = {
       {"CoutMois 10", e.CoutMois(10, 2016), 16.25},
       {"SoldeMois 10, settled", e.SoldeMois(10, 2016), 0},
       {"PaiementsMois 11, the second row", e.PaiementsMois(11), 0.60},

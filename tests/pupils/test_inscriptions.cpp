@@ -1,5 +1,6 @@
 #include "pupils/eleves.h"
 #include "support/ecole_essai.h"
+#include "support/refus.h"
 
 TEST(Inscriptions, UnEleveInscritDeuxFoisLaMemeAnnee) {
   TBaseEssai base;
@@ -47,12 +48,8 @@ TEST(Implantations, UnCodeUnSite) {
   EXPECT_EQ(sites.AddImplantation(site({})), nullptr);
   TImplantation* a1 = sites.AddImplantation(site(u"A1"_s));
   sites.AddImplantation(site(u"B"_s));
-  try {
-    sites.AddImplantation(site(u" a1 "_s));
-    ADD_FAILURE() << "deux sites ont le même code";
-  } catch (const EImplantationExist& e) {
-    EXPECT_EQ(e.Message, u"Un objet avec un code identique existe déjà dans le système");
-  }
+  EXPECT_EQ(Refus<EImplantationExist>([&] { sites.AddImplantation(site(u" a1 "_s)); }),
+            u"Un objet avec un code identique existe déjà dans le système");
   EXPECT_EQ(sites.TrouverParCode(u" a1 "_s), a1);
   EXPECT_EQ(sites.TrouverParCode(u"A"_s), nullptr);
 

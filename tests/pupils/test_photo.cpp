@@ -25,10 +25,8 @@ bool Montre(const QImage& vignette, QRgb gauche, QRgb droite) {
   return vignette.size() == QSize(95, 110) && proche(20, gauche) && proche(75, droite);
 }
 
-struct TPhotoEssai : testing::Test {
+struct TPhotoEssai : TEssaiEcole {
   TPhotoEssai() { ecole.unEleve().enClasse(u"P1"_s, {}); }
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
 };
 
 }  // namespace

@@ -29,11 +29,8 @@ std::vector<int> SuitesDePoints(const QImage& image, int y) {
 }  // namespace
 
 TEST(CodesBarres, SerresQuandLaPlaceManqueEtAlignes) {
-  const struct {
-    qreal Place;
-    float Module;
-    int Points;
-  } cas[] = {{300, 1.28F, 4}, {300, 0.96F, 3}, {223.9, 1.28F, 3}, {300, 0.1F, 3}};
+  const std::tuple<qreal, float, int> cas[] = {
+      {300, 1.28F, 4}, {300, 0.96F, 3}, {223.9, 1.28F, 3}, {300, 0.1F, 3}};
   for (const auto& [place, module, points] : cas)
     for (const auto& [alignement, part] : {std::pair(TAlignementTexte::Gauche, 0.0),
                                            {TAlignementTexte::Centre, 0.5},
@@ -47,26 +44,20 @@ TEST(CodesBarres, SerresQuandLaPlaceManqueEtAlignes) {
 }
 
 TEST(CodesBarres, Defauts) {
-  struct TCas {
-    TTypeCode Type;
-    QString Texte, Defaut;
-  };
   const auto code39 = TTypeCode::Code39, codabar = TTypeCode::Codabar;
   const QRectF place(0, 0, 167, 45);
-  for (const TCas& cas :
-       {TCas{code39, u"ab"_s,
-             u"Le caractère « a » de « ab » ne peut pas figurer dans un code à barres Code 39."_s},
-        TCas{code39, u"1*2"_s,
-             u"Le caractère « * » de « 1*2 » ne peut pas figurer dans un code à barres Code 39."_s},
-        TCas{codabar, u"1É"_s,
-             u"Le caractère « É » de « 1É » ne peut pas figurer dans un code à barres Codabar."_s},
-        TCas{codabar, u"A1A"_s,
-             u"Le caractère « A » de « A1A » ne peut pas figurer dans un code à barres Codabar."_s},
-        TCas{code39, u""_s, u"Il n'y a rien à mettre dans le code à barres."_s},
-        TCas{codabar, u"--"_s, u"Il n'y a rien à mettre dans le code à barres."_s},
-        TCas{code39, u"5537-01234"_s, u"Le code à barres de « 5537-01234 » ne tient pas dans sa place."_s}}) {
-    const TCodeDessine code = DessinerCode(cas.Type, cas.Texte, place, 0.96F, TAlignementTexte::Gauche);
-    EXPECT_EQ(code.Defaut, cas.Defaut);
+  const QString refus = u"Le caractère « %1 » de « %2 » ne peut pas figurer dans un code à barres %3."_s;
+  const QString rien = u"Il n'y a rien à mettre dans le code à barres."_s;
+  for (const auto& [type, texte, defaut] :
+       {std::tuple(code39, u"ab"_s, refus.arg(u"a", u"ab", u"Code 39")),
+        {code39, u"1*2"_s, refus.arg(u"*", u"1*2", u"Code 39")},
+        {codabar, u"1É"_s, refus.arg(u"É", u"1É", u"Codabar")},
+        {codabar, u"A1A"_s, refus.arg(u"A", u"A1A", u"Codabar")},
+        {code39, u""_s, rien},
+        {codabar, u"--"_s, rien},
+        {code39, u"5537-01234"_s, u"Le code à barres de « 5537-01234 » ne tient pas dans sa place."_s}}) {
+    const TCodeDessine code = DessinerCode(type, texte, place, 0.96F, TAlignementTexte::Gauche);
+    EXPECT_EQ(code.Defaut, defaut);
     EXPECT_TRUE(code.Barres.Barres.empty());
   }
   EXPECT_TRUE(DessinerCode(code39, QString(500, u'1'), place, 1, TAlignementTexte::Gauche)

@@ -1,6 +1,6 @@
-#include "core/exceptions.h"
 #include "page_essai.h"
 #include "report/output/peintre.h"
+#include "support/refus.h"
 
 namespace {
 
@@ -25,16 +25,16 @@ TEST(DocumentPrepare, LitEtCherche) {
   EXPECT_EQ(document.TexteDePage(0), u"Œuvre d’attention 12,50 €\nsuite"_s);
   EXPECT_EQ(document.TexteDePage(1), u"HAULOTTE Éloïse"_s);
 
-  struct TCas {
-    QString Cherche;
-    std::vector<int> Pages;
-  };
-  for (const TCas& cas :
-       {TCas{u"OEUVRE D'ATT"_s, {0}}, TCas{u" haulotte eloise"_s, {1}}, TCas{u"e"_s, {0, 0, 0, 0, 1, 1, 1}},
-        TCas{u"tention 12"_s, {0}}, TCas{u"absent"_s, {}}, TCas{u" "_s, {}}}) {
-    std::vector<int> pages;
-    for (const TTrouvaille& trouvaille : document.Chercher(cas.Cherche)) pages.push_back(trouvaille.Page);
-    EXPECT_EQ(pages, cas.Pages) << qPrintable(cas.Cherche);
+  for (const auto& [cherche, attendues] : {std::pair(u"OEUVRE D'ATT"_s, u"0"_s),
+                                           {u" haulotte eloise"_s, u"1"_s},
+                                           {u"e"_s, u"0000111"_s},
+                                           {u"tention 12"_s, u"0"_s},
+                                           {u"absent"_s, u""_s},
+                                           {u" "_s, u""_s}}) {
+    QString pages;
+    for (const TTrouvaille& trouvaille : document.Chercher(cherche))
+      pages += QString::number(trouvaille.Page);
+    EXPECT_EQ(pages, attendues) << qPrintable(cherche);
   }
   const QRectF place = document.Chercher(u"haulotte eloise"_s)[0].Place;
   EXPECT_NEAR(place.left(), 40, 0.01);
@@ -79,16 +79,7 @@ TEST(DocumentPrepare, RefuseCeQuiNEstPasUnRapport) {
   for (const QByteArray& faux :
        {QByteArray(), QByteArray("<?xml?>"), octets.left(8), octets.left(octets.size() / 2),
         octets.left(octets.size() - 1), plusLong, plusCourt, abime})
-    try {
-      TDocumentPrepare::DepuisOctets(faux);
-      ADD_FAILURE() << faux.size();
-    } catch (const Exception& e) {
-      EXPECT_EQ(e.Message, u"Ce fichier n'est pas un rapport enregistré, ou il est abîmé."_s);
-    }
-  try {
-    TDocumentPrepare::DepuisOctets(autreVersion);
-    ADD_FAILURE();
-  } catch (const Exception& e) {
-    EXPECT_TRUE(e.Message.contains(u"autre version"_s));
-  }
+    EXPECT_EQ(Refus([&] { TDocumentPrepare::DepuisOctets(faux); }),
+              u"Ce fichier n'est pas un rapport enregistré, ou il est abîmé."_s);
+  EXPECT_TRUE(Refus([&] { TDocumentPrepare::DepuisOctets(autreVersion); }).contains(u"autre version"_s));
 }

@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QFile>
 
 #include "forms/grille.h"
 #include "report/layout/mise_en_page.h"

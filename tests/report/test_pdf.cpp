@@ -2,7 +2,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "core/exceptions.h"
 #include "page_essai.h"
 #include "report/output/pdf.h"
 #include "report/output/peintre.h"

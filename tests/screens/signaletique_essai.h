@@ -1,13 +1,13 @@
 #pragma once
 #include "core/mois.h"
-#include "pupils/eleves.h"
 #include "screens/documents/frm_print_wizard.h"
 #include "screens/pupils/frm_signaletique.h"
 #include "support/ecran_essai.h"
+#include "support/grilles.h"
 
 /// A pupil of whom there is something to see in each place of its record, and one of whom there is
 /// nothing. What the screen asks of the wizard is noted.
-struct TSignaletiqueEssai : testing::Test {
+struct TSignaletiqueEssai : TEssaiEcole {
   struct TAssistant : IAssistant {
     std::optional<TChoixDocument> Demander(const TDemandeAssistant& demande) override {
       Demande = demande;
@@ -62,17 +62,7 @@ struct TSignaletiqueEssai : testing::Test {
     if (Globals.EleveCourant) Globals.ClasseCourante = Globals.EleveCourant->Classe;
     EXPECT_TRUE(Diffuser(TCodeMessage::EleveChange, *ecran));
   }
-  /// Rows as texts joined by "|", a head marked by "#".
-  static QStringList Lignes(const TGrille& grille) {
-    QStringList lignes;
-    for (int i = 0; i < grille.NombreLignes(); ++i) {
-      lignes += (grille.Ligne(i).Tete ? u"#"_s : QString()) + grille.Textes(i).join(u'|');
-    }
-    return lignes;
-  }
 
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
   TEleveEssai rose = ecole.unEleve();
   TEleveEssai vide = ecole.unEleve().enClasse(u"P3"_s, u"A"_s);
   TEcranEssai monde{base};

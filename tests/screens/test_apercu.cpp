@@ -1,9 +1,5 @@
-#include <QFile>
-
-#include "core/exceptions.h"
 #include "documents/catalogue.h"
 #include "forms/grille.h"
-#include "pupils/eleves.h"
 #include "screens/documents/frm_apercu.h"
 #include "support/controleur_essai.h"
 #include "support/outil.h"
@@ -11,7 +7,7 @@
 namespace {
 
 /// The invoices of a school of two classes, "P1 A" and "P2 A".
-struct Apercu : testing::Test {
+struct Apercu : TEssaiEcole {
   /// So many pupils a class, called "A0", "A1"... and "B0", "B1"...
   void Ecole(int parClasse) {
     const int frais = ecole.frais(u"Classes de mer"_s, u"185"_s, 10);
@@ -52,8 +48,6 @@ struct Apercu : testing::Test {
     });
   }
 
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
   TControleurEssai controleur{base};
   TContexteApercu contexte{base.Dialogues, base.Reglages, controleur.Horloge};
   TResultat resultat;
@@ -103,14 +97,11 @@ TEST_F(Apercu, Zooms) {
   TFrmApercu form(contexte, Factures());
   EXPECT_EQ(form.TexteZoom(), u"100 %"_s);
   form.ChangerVue({1000, 600});
-  const struct {
-    const char16_t* Choix;
-    bool Lu;
-    const char16_t* Zoom;
-  } cas[] = {{u"85 %", true, u"85 %"},         {u" 130", true, u"130 %"},
-             {u"largeur", true, u"122 %"},     {u"abc", false, u"122 %"},
-             {u"Page entière", true, u"51 %"}, {u"0 %", false, u"51 %"},
-             {u"9000", true, u"400 %"},        {u"1", true, u"25 %"}};
+  const std::tuple<const char16_t*, bool, const char16_t*> cas[] = {
+      {u"85 %", true, u"85 %"},         {u" 130", true, u"130 %"},
+      {u"largeur", true, u"122 %"},     {u"abc", false, u"122 %"},
+      {u"Page entière", true, u"51 %"}, {u"0 %", false, u"51 %"},
+      {u"9000", true, u"400 %"},        {u"1", true, u"25 %"}};
   for (const auto& [choix, lu, zoom] : cas) {
     EXPECT_EQ(form.ZoomerTexte(QString::fromUtf16(choix)), lu);
     EXPECT_EQ(form.TexteZoom(), QString::fromUtf16(zoom));

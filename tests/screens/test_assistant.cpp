@@ -1,7 +1,7 @@
-#include "pupils/eleves.h"
 #include "screens/documents/frm_print_wizard.h"
 #include "screens/payments/frm_date_paiement.h"
 #include "support/ecran_essai.h"
+#include "support/grilles.h"
 
 namespace {
 
@@ -16,15 +16,11 @@ struct TDemandeurEssai : TForm {
 };
 
 /// Site S1 with P2 A: Éva, Luc; site S2 with P1 A: Zoé, Adam; the year 2016 on display.
-struct Assistant : testing::Test {
+struct Assistant : TEssaiEcole {
   void SetUp() override {
-    const std::pair<const char16_t*, const char16_t*> noms[] = {
-        {u"Zoé", u"P1"}, {u"Adam", u"P1"}, {u"Éva", u"P2"}, {u"Luc", u"P2"}};
-    for (const auto& [nom, classe] : noms)
-      eleves += ecole.unEleve()
-                    .nomme(QString::fromUtf16(nom), u"X"_s)
-                    .enClasse(QString::fromUtf16(classe), u"A"_s, classe[1] == u'1' ? u"S2"_s : u"S1"_s)
-                    .Id;
+    for (const auto& [nom, classe, site] :
+         {std::tuple("Zoé", "P1", "S2"), {"Adam", "P1", "S2"}, {"Éva", "P2", "S1"}, {"Luc", "P2", "S1"}})
+      eleves += ecole.unEleve().nomme(nom, "X").enClasse(classe, "A", site).Id;
     ecran.Essai.Charger();
   }
   /// Opens the wizard, does that, and gives the choice; none when it was given up.
@@ -44,19 +40,12 @@ struct Assistant : testing::Test {
     for (const TClasse* classe : choix.Classes) noms += classe->Libelle();
     return noms;
   }
-  static QStringList Colonne0(const TGrille& liste) {
-    QStringList textes;
-    for (int i = 0; i < liste.NombreLignes(); ++i) textes += liste.Texte(i, 0);
-    return textes;
-  }
   static void Cocher(TGrille& liste, const QString& texte) {
     for (int i = 0; i < liste.NombreLignes(); ++i)
       if (liste.Texte(i, 0).startsWith(texte)) liste.Cocher(i, true);
   }
   void Finir() { assistant.KWizard1FinishButtonClick(); }
 
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
   TEcranEssai ecran{base};
   TFrmPrintWizard assistant{ecran.Contexte};
   TDemandeurEssai demandeur;
@@ -70,12 +59,8 @@ using enum TChoixQui;
 
 TEST_F(Assistant, PagesFollowWhatWasAskedAndTheTitle) {
   const std::vector<TTitreAssistant> titres{{u"Badge"_s, false}, {u"Facture"_s, true}};
-  const struct {
-    const char* Nom;
-    TDemandeAssistant Demande;
-    int Titre;
-    std::vector<TPageAssistant> Pages;  ///< from the one it opens on to the one with the finish button
-  } cas[] = {
+  // From the one it opens on to the one with the finish button
+  const std::tuple<const char*, TDemandeAssistant, int, std::vector<TPageAssistant>> cas[] = {
       {"no period", {true, titres, true, nullptr}, 0, {Rapport, Qui}},
       {"period", {true, titres, true, nullptr}, 1, {Rapport, Qui, Periode}},
       {"never a period", {true, titres, false, nullptr}, 1, {Rapport, Qui}},
@@ -145,10 +130,11 @@ TEST_F(Assistant, WhoIsCheckedAtTheOpening) {
 
 TEST_F(Assistant, TheListsAndTheirTwoButtons) {
   const auto choix = Ouvrir([&] {
-    EXPECT_EQ(Colonne0(assistant.LstEleve), (QStringList{u"Éva X"_s, u"Luc X"_s, u"Adam X"_s, u"Zoé X"_s}))
+    EXPECT_EQ(TextesColonne(assistant.LstEleve, 0),
+              (QStringList{u"Éva X"_s, u"Luc X"_s, u"Adam X"_s, u"Zoé X"_s}))
         << "É with E";
     EXPECT_EQ(assistant.LstEleve.Textes(0), (QStringList{u"Éva X"_s, u"P2 A"_s, u"S1"_s}));
-    EXPECT_EQ(Colonne0(assistant.LstClasse), (QStringList{u"P1 A"_s, u"P2 A"_s}));
+    EXPECT_EQ(TextesColonne(assistant.LstClasse, 0), (QStringList{u"P1 A"_s, u"P2 A"_s}));
     for (const TChoixQui qui : {Eleves, Classes}) {
       assistant.RbEleveClick(qui);
       assistant.btnToutSelectionnerClick();
@@ -180,9 +166,9 @@ TEST_F(Assistant, ListsOfAYearThatWasLoadedAgain) {
   ecole.unEleve().nomme(u"Nora"_s, u"X"_s).enClasse(u"P1"_s, u"B"_s);
   ecran.Essai.Charger();
   const auto choix = Ouvrir([&] {
-    EXPECT_EQ(Colonne0(assistant.LstEleve),
+    EXPECT_EQ(TextesColonne(assistant.LstEleve, 0),
               (QStringList{u"Zoé X"_s, u"Nora X"_s, u"Luc X"_s, u"Éva X"_s, u"Adam X"_s}));
-    EXPECT_EQ(Colonne0(assistant.LstClasse), (QStringList{u"P1 A"_s, u"P1 B"_s, u"P2 A"_s}));
+    EXPECT_EQ(TextesColonne(assistant.LstClasse, 0), (QStringList{u"P1 A"_s, u"P1 B"_s, u"P2 A"_s}));
     assistant.RbEleveClick(Eleves);
     Finir();
   });
@@ -196,11 +182,7 @@ TEST_F(Assistant, PeriodOfTheChoice) {
   Ouvrir([&] { assistant.btnAnnulerClick(); });
   EXPECT_EQ(assistant.IndiceMois(), 2);
   for (int date = 0; date < 2; ++date) EXPECT_EQ(assistant.Dates().Texte(date), u"22/11/2016");
-  const struct {
-    std::function<void()> Geste;
-    const char *Du, *Au;
-    const char16_t* Texte;
-  } cas[] = {
+  const std::tuple<std::function<void()>, const char*, const char*, const char16_t*> cas[] = {
       {[&] { assistant.ChoisirMois(0); }, "2016-09-01", "2016-09-30", u"septembre 2016"},
       {[&] { assistant.ChoisirMois(5); }, "2017-02-01", "2017-02-28", u"février 2017"},
       {[&] { assistant.ChoisirMois(9); }, "2017-06-01", "2017-06-30", u"juin 2017"},

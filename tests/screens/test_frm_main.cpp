@@ -1,4 +1,3 @@
-#include "core/exceptions.h"
 #include "screens/principal/arbre_eleves.h"
 #include "screens/principal/frm_main.h"
 #include "support/controleur_essai.h"
@@ -27,11 +26,8 @@ struct TAutreEcran : TEcranEssai {
   using TEcranEssai::TEcranEssai;
 };
 
-struct TModaleEssai : IFenetreModale {
+struct TMondeEssai : IFenetreModale, IApercu {
   TResultatModal MontrerModal(TForm&) override { return TResultatModal::Annule; }
-};
-
-struct TApercuEssai : IApercu {
   bool Afficher(TRapport&) override { return false; }
 };
 
@@ -41,7 +37,7 @@ class FrmMain : public testing::Test {
   void SetUp() override {
     journal.clear();
     Base->Deconnecter();
-    Base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, Base.FichierDeDonnees());
+    Base.Reglages.Ecrire(TRacine::Machine, "Serveur", Base.FichierDeDonnees());
     Base->ConnectToServer();
     for (TCommandePrincipale& commande : Main.Commandes) {
       if (commande.Gestionnaire == TGestionnaire::AdvGlowButton2Click)
@@ -50,7 +46,7 @@ class FrmMain : public testing::Test {
         commande.Ecran.reset();
       if (commande.Gestionnaire == TGestionnaire::AdvGlowButton16Click) commande.Ecran = Ecran<TAutreEcran>();
     }
-    fin = Main.SurTerminer.Suivre([] { journal += u"fin"_s; });
+    fin = Main.SurTerminer.Suivre([] { journal += "fin"; });
   }
   void TearDown() override {
     Main.Fermer();
@@ -58,18 +54,16 @@ class FrmMain : public testing::Test {
   }
 
   TEleveEssai Eleve(const char* nom, const char* classe, const char* site = "") {
-    return ecole_.unEleve()
-        .nomme(QString::fromUtf8(nom), u"X"_s)
-        .enClasse(QString::fromUtf8(classe), u"A"_s, QString::fromUtf8(site));
+    return ecole_.unEleve().nomme(nom, "X").enClasse(classe, "A", site);
   }
   /// "P1 A", three pupils, the second struck off; "P2 A", one pupil.
   void Ecole() {
     Eleve("Adam", "P1");
-    Eleve("Bastin", "P1").avec(u"FLG_RADIE"_s);
+    Eleve("Bastin", "P1").avec("FLG_RADIE");
     Eleve("Élias", "P1");
     Eleve("Pirard", "P2");
   }
-  void Chercher(const char* texte) { Main.edSearchChange(QString::fromUtf8(texte)); }
+  void Chercher(const char* texte) { Main.edSearchChange(texte); }
   QString Choisi() const { return Main.Arbre.Selection() ? Main.Arbre.Selection()->Texte : QString(); }
   QStringList Textes() const {
     QStringList textes;
@@ -79,9 +73,8 @@ class FrmMain : public testing::Test {
   }
   TBaseEssai Base;
   THorlogeEssai Horloge;
-  TModaleEssai Modale;
-  TApercuEssai Apercu;
-  TFrmMain Main{*Base, Base.Reglages, Horloge, Modale, Apercu};
+  TMondeEssai Monde;
+  TFrmMain Main{*Base, Base.Reglages, Horloge, Monde, Monde};
   TLien fin;
 
  private:
@@ -116,12 +109,12 @@ TEST_F(FrmMain, ACommandOpensItsScreenWithItsTools) {
   EXPECT_EQ(Main.Panneau.Courante(), fiche) << "a screen that is not there says so and opens nothing";
   EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Alerte);
   for (const TNiveauEtat niveau : {TNiveauEtat::Succes, TNiveauEtat::Alerte, TNiveauEtat::Erreur}) {
-    Main.Etat(niveau, u"Tarif enregistré"_s);
+    Main.Etat(niveau, "Tarif enregistré");
     Main.Executer(TGestionnaire::AdvGlowButton16Click);
     EXPECT_EQ(Main.Etat().Texte.isEmpty(), niveau != TNiveauEtat::Erreur) << "no word about the next screen";
   }
   for (const bool oui : {false, true}) {
-    Base.Dialogues.Repond(u"Souhaitez-vous quitter"_s, oui);
+    Base.Dialogues.Repond("Souhaitez-vous quitter", oui);
     Main.Executer(TGestionnaire::AdvGlowButton4Click);
     EXPECT_EQ(journal.last() == u"fin", oui);
   }
@@ -140,10 +133,10 @@ TEST_F(FrmMain, TheTreeOfTwoSitesLeavesOutAClassWithoutSite) {
             (QStringList{"Centre", ">P1 A", ">>Zed X", ">P2 A", ">>Adam X", "S2", ">P1 A", ">>Blanc X"}));
   // The sites take their new names.
   for (TImplantation& site : *Globals.Eleves->Implantations)
-    if (site.Code == u"S2") site.LibelleCourt = u"Tilleuls"_s;
+    if (site.Code == u"S2") site.LibelleCourt = "Tilleuls";
   Main.Envoyer({TCodeMessage::ImplantationsChange, {}});
-  EXPECT_TRUE(Textes().contains(u"Tilleuls"_s));
-  EXPECT_FALSE(Textes().contains(u"S2"_s));
+  EXPECT_TRUE(Textes().contains("Tilleuls"));
+  EXPECT_FALSE(Textes().contains("S2"));
 
   TArbre sien;
   ConstruireArbre(sien, false, true);
@@ -163,7 +156,7 @@ TEST_F(FrmMain, AStruckOffPupilIsCrossedOutOrLeftOut) {
     Globals.EleveCourant = &(*Globals.Eleves)[0];
     Globals.EleveCourant->FlgRadie = radie;
     Main.Envoyer({TCodeMessage::EleveRadie, {}});
-    EXPECT_EQ(Textes().contains(u">Adam X-"_s), radie);
+    EXPECT_EQ(Textes().contains(">Adam X-"), radie);
   }
 }
 
@@ -200,9 +193,9 @@ TEST_F(FrmMain, SearchFromTheStartThenOnward) {
     Chercher(texte);
     EXPECT_EQ(Choisi().toStdString(), attendu) << texte;
   }
-  EXPECT_EQ(TFrmMain::edSearchKeyPress(u"P1-a*b+c.d/e 9"_s), u"Pabcde ");
+  EXPECT_EQ(TFrmMain::edSearchKeyPress("P1-a*b+c.d/e 9"), u"Pabcde ");
 
-  const QString fin = u"Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?"_s;
+  const QString fin = "Vous avez atteint la fin de la liste. Voulez-vous recommencer depuis le début ?";
   Chercher("p");
   EXPECT_EQ(Main.Etat().Texte, u"1 sur 3 pour « p » : Entrée passe au suivant");
   for (const char* attendu : {"P2 A", "Pirard X"}) {
@@ -226,9 +219,9 @@ TEST_F(FrmMain, SearchFromTheStartThenOnward) {
 // Nobody is current after a search that found nobody, so that nobody's bill is printed by mistake.
 TEST_F(FrmMain, ASecondSearchWhereTheFirstFindsNothing) {
   Eleve("Adam", "P1");
-  Eleve("Dubois", "P1").matricule(u"212-04127-38"_s);
+  Eleve("Dubois", "P1").matricule("212-04127-38");
   Eleve("Éloy", "P2");
-  Base.Sql(u"UPDATE ELEVES SET NOM_RESPONSABLE = 'Lefèvre' WHERE NOM <> 'Adam'"_s);
+  Base.Sql("UPDATE ELEVES SET NOM_RESPONSABLE = 'Lefèvre' WHERE NOM <> 'Adam'");
   Main.Montrer();
   Chercher("lefevre");
   EXPECT_EQ(Main.Trouves().size(), 2U) << "several show a list";
@@ -252,11 +245,10 @@ TEST_F(FrmMain, ASecondSearchWhereTheFirstFindsNothing) {
 
   // As a hand scanner types it: the field stays empty, Enter looks for the number.
   Main.edSearchChange({});
-  for (const QString& morceau : {u"212"_s, u"-04127-38"_s})
-    EXPECT_EQ(Main.edSearchSaisie(morceau), QString());
+  for (const char* morceau : {"212", "-04127-38"}) EXPECT_EQ(Main.edSearchSaisie(morceau), QString());
   Main.btnRechercheClick();
   EXPECT_EQ(Globals.EleveCourant->Nom, u"Dubois");
-  Main.edSearchSaisie(u"99"_s);
+  Main.edSearchSaisie("99");
   Main.btnRechercheClick();
   EXPECT_EQ(Globals.EleveCourant, nullptr);
 }
@@ -302,7 +294,7 @@ TEST_F(FrmMain, TheYearIsReadAgainUnderThePupilAndTheScreen) {
   Main.Montrer();
   Chercher("pirard");
   Main.Executer(TGestionnaire::AdvGlowButton2Click);
-  Base.Sql(u"UPDATE ELEVES SET PRENOM = 'Autre' WHERE NOM = 'Pirard'"_s);
+  Base.Sql("UPDATE ELEVES SET PRENOM = 'Autre' WHERE NOM = 'Pirard'");
   Main.RechargerAnnee();
   EXPECT_EQ(Globals.EleveCourant->NomComplet(), u"Pirard Autre");
   EXPECT_EQ(Main.Arbre.Selection()->Objet.En<TEleve>(), Globals.EleveCourant);
@@ -322,7 +314,7 @@ TEST_F(FrmMain, YearsGoOnWithTheWorkingYear) {
 }
 
 TEST_F(FrmMain, FirstUseUntilThereArePupils) {
-  TEcoleEssai(Base).parametre(1, u"École"_s);
+  TEcoleEssai(Base).parametre(1, "École");
   Main.Montrer();
   ASSERT_TRUE(Main.PremiereUtilisation());
   QStringList etapes;
@@ -344,18 +336,18 @@ TEST_F(FrmMain, FirstUseBeginsWithTheYear) {
   const auto annee = [&] { return Main.Etapes().front(); };
   ASSERT_TRUE(annee().Prochaine);
   for (const char* texte : {"", "abc", "26", "1999", "2028", "2026 - 2028", "2026,5"})
-    Base.Dialogues.Saisit(u"Quelle année scolaire"_s, QString::fromLatin1(texte));
-  Base.Dialogues.Saisit(u"Quelle année scolaire"_s, std::nullopt);
+    Base.Dialogues.Saisit("Quelle année scolaire", texte);
+  Base.Dialogues.Saisit("Quelle année scolaire", std::nullopt);
   Main.EtapeClick(annee());
   EXPECT_TRUE(Base.Dialogues.Dits.last().contains(
-      u"« 2026,5 » n'est pas une année scolaire. Introduisez par exemple 2026 - 2027"_s));
+      "« 2026,5 » n'est pas une année scolaire. Introduisez par exemple 2026 - 2027"));
   EXPECT_EQ(Globals.AnneeScolaire, 2016);
-  Base.Dialogues.Saisit(u"Quelle année scolaire"_s, u"2026 - 2027"_s);
+  Base.Dialogues.Saisit("Quelle année scolaire", "2026 - 2027");
   Main.EtapeClick(annee());
-  EXPECT_EQ(Base.Valeur(u"SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 27"_s), u"2026");
+  EXPECT_EQ(Base.Valeur("SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 27"), u"2026");
   EXPECT_EQ(Main.AnneeCochee(), 2026);
   EXPECT_TRUE(annee().Faite);
-  TEcoleEssai(Base, 2015).unEleve().enClasse(u"P1"_s, u"A"_s);
+  TEcoleEssai(Base, 2015).unEleve().enClasse("P1", "A");
   EXPECT_FALSE(annee().Possible) << "somebody is enrolled, in whichever year";
   Main.EtapeClick(annee());
 }
@@ -363,16 +355,16 @@ TEST_F(FrmMain, FirstUseBeginsWithTheYear) {
 TEST_F(FrmMain, WhatIsLeftOfAYearStaysWithinReach) {
   Ecole();
   TEcoleEssai ecole(Base);
-  ecole.parametre(1, u"École"_s);
-  ecole.parametre(10, u"Merci."_s);
+  ecole.parametre(1, "École");
+  ecole.parametre(10, "Merci.");
   for (const int prix : {101, 102}) ecole.parametre(prix, {});
-  ecole.tarif(Essai::FamilleRepas, Essai::TousLesJours, u"12:00"_s, u"13:00"_s, Essai::Forfait, u"1"_s,
+  ecole.tarif(Essai::FamilleRepas, Essai::TousLesJours, "12:00", "13:00", Essai::Forfait, "1",
               Essai::ScanPresence);
   Main.Montrer();
   EXPECT_TRUE(Main.PremiereUtilisation()) << "a new year without fees";
   Main.mnuAnneeClick(2015);
   EXPECT_TRUE(Main.PremiereUtilisation()) << "no pupil there";
-  ecole.frais(u"Piscine"_s, u"10"_s, 10);
+  ecole.frais("Piscine", "10", 10);
   Main.mnuAnneeClick(2016);
   const TEtapeAccueil reglages = Main.Etapes()[4];
   ASSERT_FALSE(reglages.Faite) << "its meals would cost nothing";
@@ -381,7 +373,7 @@ TEST_F(FrmMain, WhatIsLeftOfAYearStaysWithinReach) {
 }
 
 TEST_F(FrmMain, WithoutYearNothingOpensEither) {
-  TEcoleEssai(Base).parametre(27, u"deux mille"_s);
+  TEcoleEssai(Base).parametre(27, "deux mille");
   EXPECT_THROW(Main.Montrer(), EConvertError);
   EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Erreur);
   EXPECT_EQ(Main.RaisonInactive(Main.Commandes.front()), u"Aucune année scolaire n'est chargée");

@@ -42,9 +42,6 @@ TEST_F(FrmImport, AClosingThatFailsIsNoTransfer) {
   TEcoleEssai(Base).unEleve().enClasse(u"P1"_s, u"A"_s);
   const QString nouvelle = TFichierRegistre(1).Mettre(1, 16, u"01/07/2017"_s).Ecrire(Base);
   const QString question = u"Voulez-vous clôturer l'année scolaire 2016-2017 ?"_s;
-  Ecran.Essai.Controleur.ChargerAnnee(2015);
-  Base.Dialogues.Saisit(kOuvrir, nouvelle).Repond(u"Attention : l'année affichée est 2015 - 2016"_s, false);
-  Form.btnEtape1Click();
   Ecran.Essai.Controleur.ChargerAnnee(2016);
   Base.Dialogues.Saisit(kOuvrir, nouvelle).Repond(question, true).Attend(u"est clôturée."_s);
   Form.btnEtape1Click();

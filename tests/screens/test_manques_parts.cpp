@@ -1,27 +1,20 @@
-#include <gtest/gtest.h>
-
 #include "screens/documents/frm_manques.h"
 #include "screens/documents/imprimeur.h"
 #include "screens/payments/frm_repartition.h"
 #include "support/ecran_essai.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// Two pupils, who owe 20 and 10 euros, and a movement of 24.
-struct TManquesParts : testing::Test {
+struct TManquesParts : TEssaiEcole {
   TManquesParts() {
     for (const QString& cout : {u"20"_s, u"10"_s})
       ecole.unEleve().enClasse(u"P1"_s, u"A"_s).doit(ecole.frais(u"Sortie"_s, cout, 10));
-    base.Sql(
-        u"INSERT INTO EXTRAITS (EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, "
-        "NUM_CPT_DONNEUR, ANNEE_SCOLAIRE) VALUES (7, 'DUPONT', '2016-10-05', 24, '', '', 2016)"_s);
+    extrait = ecole.mouvement(u"DUPONT"_s, u"2016-10-05"_s, u"24"_s);
   }
   static TEleve& Eleve(int cle) { return *Globals.Eleves->TrouverParId(cle); }
 
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
+  int extrait = 0;
 };
 
 }  // namespace
@@ -35,8 +28,7 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
   };
   void (TFrmManques::*faire)() = nullptr;
   int ligne = -1;
-  monde.SurModale = [&](TForm& form) {
-    auto& manques = dynamic_cast<TFrmManques&>(form);
+  monde.Modale<TFrmManques>([&](TFrmManques& manques) {
     EXPECT_EQ(manques.Texte(),
               u"1 élève n'est pas imprimé tant qu'il manque ceci ; les "
               "autres lignes n'empêchent pas d'imprimer :");
@@ -47,7 +39,7 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
     EXPECT_EQ(manques.Titre(), u"Ce qui manque, revenus de 2017");
     if (ligne >= 0) manques.Grille.ChoisirLigne(ligne);
     if (faire != nullptr) (manques.*faire)();
-  };
+  });
   const auto imprimer = [&] {
     imprimeur.Faire([](const TContexteDocument&) {
       TResultat resultat;
@@ -72,9 +64,9 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
 
 TEST_F(TManquesParts, LesPartsSontChangeesPuisStockees) {
   TEcranEssai monde(base);
-  const TExtrait& extrait = *monde.Essai.Controleur.Extraits().TrouverParId(7);
+  const TExtrait& mouvement = *monde.Essai.Controleur.Extraits().TrouverParId(extrait);
   const std::vector<TProposition> aucune;
-  TFrmRepartition form(monde.Contexte, extrait, {u"Virement"_s, TTypeFamilleFrais::Frais, 0}, aucune);
+  TFrmRepartition form(monde.Contexte, mouvement, {u"Virement"_s, TTypeFamilleFrais::Frais, 0}, aucune);
   EXPECT_EQ(form.Titre(), u"24,00 € à répartir, de DUPONT, le 05/10/2016");
   form.Ajouter(Eleve(1));
   form.Ajouter(Eleve(2));
@@ -90,6 +82,6 @@ TEST_F(TManquesParts, LesPartsSontChangeesPuisStockees) {
   EXPECT_TRUE(form.btnValiderClick());
   EXPECT_EQ(
       base.Rangees(u"SELECT ELEVE_ID, MONTANT_VERSE, TYPE_FAMILLE_FRAIS, REMARQUE FROM FRAIS_ELEVE WHERE "
-                   "EXTRAIT_ID = 7 ORDER BY 1"_s),
+                   "EXTRAIT_ID > 0 ORDER BY 1"_s),
       (QStringList{u"1;16.0000;1;Virement"_s, u"2;5.0000;1;Virement"_s}));
 }

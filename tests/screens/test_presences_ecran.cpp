@@ -1,27 +1,11 @@
-#include <QFile>
-
 #include "screens/attendance/frm_ajout_releve.h"
-#include "screens/attendance/frm_presences.h"
-#include "support/ecran_essai.h"
+#include "screens/presences_essai.h"
 
 namespace {
 
 const QString kImporter = u"Importer un fichier de présence"_s;
 const QString kAnomalies = u"Des anomalies ont été détectées !"_s;
-const QString kMemorisees = u"Les présences ont été mémorisées."_s;
 const QString kInexistant = u"La correction ne peut se faire que sur un élève existant"_s;
-
-/// One pupil, code 11, a school with morning day-care and meals, and the day flat rate.
-struct TEcole : TBaseEssai {
-  TEcole() {
-    using namespace Essai;
-    TEcoleEssai ecole(*this);
-    ecole.tarif(Matin, TousLesJours, u"07:00"_s, u"08:30"_s, Forfait, u"1"_s, ScanPresence);
-    ecole.tarif(FamilleRepas, TousLesJours, u"11:30"_s, u"13:30"_s, Forfait, u"1"_s, ScanPresence);
-    ecole.parametre(30, u"1"_s);
-    ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
-  }
-};
 
 /// The fields of the dialog of a record.
 enum { Date, Type, Debut, Fin, Site };
@@ -31,13 +15,8 @@ QString Champs(TFrmAjoutReleve& saisie) {
   return textes.join(u'|');
 }
 
-class FrmPresences : public testing::Test {
+class FrmPresences : public TPresencesEssai {
  protected:
-  void SetUp() override {
-    Globals.DossierTemporaire = Base.Chemin({});
-    Base.Reglages.Ecrire(TRacine::Utilisateur, u"DossierPresences"_s, Base.Chemin(u"archives"_s));
-    Form.Montrer();
-  }
   void Importer(const QByteArray& lignes, bool anomalies = false) {
     Base.Dialogues.Saisit(kImporter, Base.Fichier(u"scans.txt"_s, lignes));
     if (anomalies) Base.Dialogues.Attend(kAnomalies);
@@ -55,11 +34,6 @@ class FrmPresences : public testing::Test {
     return u"%1 %2 %3 %4"_s.arg(c.lblEntree).arg(c.lblRecap).arg(c.lblAnomalie).arg(c.lblTotal) %
            (c.AJour ? u"" : u" ?");
   }
-  QString Stockees() { return Base.Valeur(u"SELECT COUNT(*) FROM PRESENCES"_s); }
-
-  TEcole Base;
-  TEcranEssai Ecran{Base};
-  TfrmPresences Form{Ecran.Contexte};
 };
 
 const QByteArray kScans =
@@ -99,12 +73,11 @@ TEST_F(FrmPresences, TheCountersAndTheNoteOfTheAnomalies) {
 
 TEST_F(FrmPresences, ACorrectionThatNoTariffCountsIsReadyAndSaidToBeSo) {
   Importer("11;1;20161004;110100000;2\n", true);
-  Ecran.SurModale = [](TForm& form) {
-    auto& saisie = dynamic_cast<TFrmAjoutReleve&>(form);
+  Ecran.Modale<TFrmAjoutReleve>([](TFrmAjoutReleve& saisie) {
     EXPECT_TRUE(saisie.Note.endsWith(u"Heure de fin à corriger : 11:01")) << saisie.Note.toStdString();
     saisie.Champs().Taper(Fin, u"23:00"_s);
     EXPECT_TRUE(saisie.BitBtn1Click());
-  };
+  });
   Form.Corrigerlerelev1Click();
   EXPECT_EQ(Lignes(Form.Recapitulatif), QStringList{"Eleve1|Garderie|Sans tarif"});
   EXPECT_TRUE(Ecran.Etats.last().startsWith(u"Relevé corrigé, mais aucun tarif"));

@@ -1,6 +1,5 @@
 // The presences of a real FTP site, and of a device that is mounted as a folder.
-#include "screens/attendance/frm_presences.h"
-#include "support/ecran_essai.h"
+#include "screens/presences_essai.h"
 #include "support/serveur_ftp.h"
 #include "workflows/lien_lecteur.h"
 
@@ -8,25 +7,12 @@ namespace {
 
 const QByteArray kScans = "11;1;20161003;073000000;1\n";
 const QString kErreur = u"L'erreur suivante s'est produite : "_s;
-const QString kMemorisees = u"Les présences ont été mémorisées."_s;
 
-class PresencesDuSite : public testing::Test {
+class PresencesDuSite : public TPresencesEssai {
  protected:
-  struct TEcole : TBaseEssai {
-    TEcole() {
-      using namespace Essai;
-      TEcoleEssai ecole(*this);
-      ecole.tarif(Matin, TousLesJours, u"07:00"_s, u"08:30"_s, Forfait, u"1"_s, ScanPresence);
-      ecole.parametre(34, u"ecole"_s);
-      ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
-    }
-  };
-
   void SetUp() override {
-    Globals.DossierTemporaire = Base.Chemin({});
-    Base.Reglages.Ecrire(TRacine::Utilisateur, u"DossierPresences"_s, Base.Chemin(u"archives"_s));
+    TPresencesEssai::SetUp();
     Ecran.Contexte.Lecteur = Lecteur.get();
-    Form.Montrer();
   }
   void Viser(const TServeurFtp& serveur, const QString& motDePasse = u"secret"_s) {
     Globals.Parametres->SetParametre(TParam::ServeurFTP, serveur.Hote());
@@ -35,12 +21,8 @@ class PresencesDuSite : public testing::Test {
   QString Archives(const QString& dossier = {}) const {
     return QDir(Base.Chemin(u"archives/"_s + dossier)).entryList(QDir::Files).join(u' ');
   }
-  QString Presences() { return Base.Valeur(u"SELECT COUNT(*) FROM PRESENCES"_s); }
 
-  TEcole Base;
-  TEcranEssai Ecran{Base};
   std::unique_ptr<ILienLecteur> Lecteur = LienDuPoste(Base.Reglages);
-  TfrmPresences Form{Ecran.Contexte};
 };
 
 }  // namespace
@@ -69,7 +51,7 @@ TEST_F(PresencesDuSite, TwoFilesInTurn) {
   Base.Dialogues.Attend(u"Toutes les informations ont été transférées."_s);
   Form.btnImportFTPClick();
   EXPECT_FALSE(Form.Etape2Active());
-  EXPECT_EQ(Presences(), u"1") << "the same scan twice";
+  EXPECT_EQ(Stockees(), u"1") << "the same scan twice";
 }
 
 TEST_F(PresencesDuSite, WhatGoesWrong) {
@@ -137,7 +119,7 @@ TEST_F(PresencesDuSite, TheFolderOfTheDevice) {
   Form.btnEtape2Click();
   EXPECT_FALSE(QFile::exists(fichier) || QFile::exists(copie));
   EXPECT_EQ(Archives(), u"Presences-3.10.2016-7h5m0s.txt");
-  EXPECT_EQ(Presences(), u"1");
+  EXPECT_EQ(Stockees(), u"1");
   for (const QString& dossier : {premier, second}) Base.Fichier(dossier + u"Presences.txt"_s, kScans);
   Form.btnImportScannerClick();
   Base.Dialogues.Attend(kMemorisees);
@@ -159,5 +141,5 @@ TEST_F(PresencesDuSite, TheFolderOfTheDevice) {
   Base.Dialogues.Attend(kMemorisees).Attend(kErreur + u"Unable to delete the remote file"_s);
   Form.btnEtape2Click();
   EXPECT_TRUE(QFileInfo::exists(fichier));
-  EXPECT_EQ(Presences(), u"1") << "stored, and dropped again at the next import";
+  EXPECT_EQ(Stockees(), u"1") << "stored, and dropped again at the next import";
 }

@@ -1,9 +1,6 @@
 #include "screens/signaletique_essai.h"
 
-#include <QFile>
-
-#include "core/exceptions.h"
-#include "documents/catalogue.h"
+#include "pupils/photo.h"
 #include "screens/attendance/frm_ajout_releve.h"
 #include "screens/payments/frm_attribution_compte.h"
 #include "screens/payments/frm_date_paiement.h"
@@ -189,11 +186,10 @@ TEST_F(TSignaletique, LeForfaitDeLaJourneeSuitLeRepas) {
       u"SELECT TYPE_PRESENCE, HEURE_ENTREE, HEURE_SORTIE FROM PRESENCES WHERE DATE_RELEVE = '2016-10-%1' "
       "ORDER BY PRESENCE_ID"_s;
   const auto ajouter = [&](TDateTime jour, TDateTime entree, TDateTime sortie) {
-    monde.SurModale = [=](TForm& form) {
-      auto& saisie = dynamic_cast<TFrmAjoutReleve&>(form);
+    monde.Modale<TFrmAjoutReleve>([=](TFrmAjoutReleve& saisie) {
       saisie.Charger(TTypePresence::Repas, sortie, entree, jour);
       EXPECT_TRUE(saisie.Valider());
-    };
+    });
     fiche.btnAjoutFaitClick();
   };
   ajouter(J("2016-10-10"), EncodeTime(12, 5), EncodeTime(13, 0));
@@ -231,11 +227,8 @@ TEST_F(TSignaletique, CeQuiEstRefuseNeSePerdPasEnSilence) {
 // A payment of the bank frees its movement when it goes, and takes it again when it comes back, or is made
 // more, unless another has it by then.
 TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
-  base.Sql(
-      u"INSERT INTO EXTRAITS (EXTRAIT_ID, DATE_VIREMENT, MONTANT, DONNEUR_ORDRE, NUM_CPT_DONNEUR, "
-      u"COMMUNICATION) "
-      "VALUES (5, '2016-11-02', 30, 'x', 'x', 'x')"_s);
-  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 5 WHERE REMARQUE = 'Acompte'"_s);
+  ASSERT_EQ(ecole.mouvement(u"x"_s, u"2016-11-02"_s, u"30"_s), 1);
+  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 1 WHERE REMARQUE = 'Acompte'"_s);
   TFrmSignaletique& fiche = Ouvrir(rose);
   const auto faire = [&](auto&& quoi) {
     Globals.Eleves->ChargerExtraits = false;
@@ -245,9 +238,10 @@ TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
   fiche.Frais.Grille.ChoisirLigne(fiche.Frais.Grille.NombreLignes() - 1);
   base.Dialogues.Repond(u"Confirmez-vous la suppression du paiement de 30,00 euros (Acompte)"_s, true);
   EXPECT_TRUE(faire([&] { fiche.SpeedButton2Click(); }));
-  const QString payes = u"SELECT ELEVE_ID, MONTANT_VERSE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 5 ORDER BY 1"_s;
+  const QString payes = u"SELECT ELEVE_ID, MONTANT_VERSE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 1 ORDER BY 1"_s;
+  const QString part = u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 1, FLG_PART = 1 WHERE REMARQUE = 'Ailleurs'"_s;
   vide.paie(u"20"_s, 0, 0, u"Ailleurs"_s);
-  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 5, FLG_PART = 1 WHERE REMARQUE = 'Ailleurs'"_s);
+  base.Sql(part);
   base.Dialogues.Attend(u"Le mouvement de la banque a été attribué autrement entre-temps."_s);
   fiche.Retablir();
   EXPECT_EQ(base.Rangees(payes), QStringList{u"2;20.0000"_s});
@@ -260,13 +254,12 @@ TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
   EXPECT_TRUE(faire([&] { fiche.Retablir(); })) << "refused, it can be asked again";
   EXPECT_EQ(base.Rangees(payes), QStringList{u"1;30.0000"_s});
 
-  base.Sql(u"UPDATE FRAIS_ELEVE SET FLG_PART = 1, MONTANT_VERSE = 12 WHERE EXTRAIT_ID = 5"_s);
+  base.Sql(u"UPDATE FRAIS_ELEVE SET FLG_PART = 1, MONTANT_VERSE = 12 WHERE EXTRAIT_ID = 1"_s);
   vide.paie(u"15"_s, 0, 0, u"Ailleurs"_s);
-  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 5, FLG_PART = 1 WHERE REMARQUE = 'Ailleurs'"_s);
+  base.Sql(part);
   TFrmSignaletique& relue = Ouvrir(rose);
   relue.Frais.Grille.ChoisirLigne(relue.Frais.Grille.NombreLignes() - 1);
-  monde.SurModale = [&](TForm& form) {
-    auto& saisie = dynamic_cast<TFrmPaiement&>(form);
+  monde.Modale<TFrmPaiement>([&](TFrmPaiement& saisie) {
     const int montant = saisie.Champs().Indice(u"edMontant"_s);
     saisie.Champs().Taper(montant, u"15,01"_s);
     EXPECT_FALSE(saisie.Valider());
@@ -274,7 +267,7 @@ TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
               u"Il ne reste que 3,00 € de ce mouvement de la banque : il manque 0,01 €."_s);
     saisie.Champs().Taper(montant, u"15"_s);
     EXPECT_TRUE(saisie.Valider());
-  };
+  });
   relue.grdListeFraisDblClick();
   EXPECT_EQ(base.Rangees(payes), (QStringList{u"1;15.0000"_s, u"2;15.0000"_s}));
   EXPECT_TRUE(Globals.Eleves->ChargerExtraits);
@@ -298,11 +291,10 @@ TEST_F(TSignaletique, SansCleRienNestDitEnregistre) {
   TFrmSignaletique& fiche = Ouvrir(rose);
   const int lignes = fiche.Frais.Grille.NombreLignes();
   base.Sql(u"DELETE FROM COUNTERS WHERE TABLE_NAME = 'FRAIS_ELEVE'"_s);
-  monde.SurModale = [](TForm& form) {
-    auto& saisie = dynamic_cast<TFrmPaiement&>(form);
+  monde.Modale<TFrmPaiement>([](TFrmPaiement& saisie) {
     saisie.Champs().Taper(saisie.Champs().Indice(u"edMontant"_s), u"5"_s);
     saisie.Valider();
-  };
+  });
   base.Dialogues.Attend(u"Le compteur de table FRAIS_ELEVE n'existe pas !"_s)
       .Attend(u"Aucun numéro n'a pu être donné à ce qui devait être mémorisé."_s);
   fiche.SpeedButton1Click();
@@ -314,18 +306,11 @@ TEST_F(TSignaletique, LaPhotoEstDroiteEtNiTropGrandeNiUnTexte) {
   TFrmSignaletique& fiche = Ouvrir(rose);
   QImage couchee(60, 40, QImage::Format_RGB32);  // held sideways: its left is the top
   couchee.fill(Qt::blue);
-  const QString photo = base.Chemin(u"photo.jpg"_s);
-  ASSERT_TRUE(couchee.save(photo));
-  QFile jpeg(photo);
-  ASSERT_TRUE(jpeg.open(QIODevice::ReadWrite));
-  QByteArray octets = jpeg.readAll();
+  QByteArray octets = EncoderJpeg(couchee);
   const QByteArray exif =
       QByteArray("Exif\0\0MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0", 32);
   octets.insert(2, QByteArray("\xFF\xE1\0\x22", 4) + exif);
-  jpeg.seek(0);
-  jpeg.write(octets);
-  jpeg.close();
-  fiche.PrendrePhoto(photo);
+  fiche.PrendrePhoto(base.Fichier(u"photo.jpg"_s, octets));
   EXPECT_GT(fiche.Photo().height(), fiche.Photo().width());
 
   QFile immense(base.Chemin(u"film.jpg"_s));
@@ -343,10 +328,7 @@ TEST_F(TSignaletique, LeCompteDesVirements) {
                         QString::number(rose.Id))[0];
   };
   const auto paye = [this](const QString& numero, const QString& donneur, int annee = 2016) {
-    const int extrait = ecole.Ajouter(
-        u"EXTRAITS"_s,
-        u"EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, NUM_CPT_DONNEUR, ANNEE_SCOLAIRE"_s,
-        {u'\'' + donneur + u'\'', u"'2016-10-03'"_s, u"1"_s, u"''"_s, u'\'' + numero + u'\'', u"2016"_s});
+    const int extrait = ecole.mouvement(donneur, u"2016-10-03"_s, u"1"_s, numero);
     ecole.Ajouter(u"FRAIS_ELEVE"_s, u"FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID"_s,
                   {QString::number(rose.Id), QString::number(annee), QString::number(extrait)});
   };
@@ -360,14 +342,13 @@ TEST_F(TSignaletique, LeCompteDesVirements) {
 
   paye(u"BE11"_s, u"MAMAN"_s);
   bool choisit = false;
-  monde.SurModale = [&](TForm& form) {
-    auto& choix = dynamic_cast<TFrmAttributionCompte&>(form);
+  monde.Modale<TFrmAttributionCompte>([&](TFrmAttributionCompte& choix) {
     ASSERT_EQ(choix.Comptes.NombreLignes(), 2) << "two payers of one account";
     base.Dialogues.Attend(u"Veuillez sélectionner un numéro de compte"_s);
     EXPECT_FALSE(choix.btnSelectionnerClick());
     choix.Comptes.ChoisirLigne(0);
     EXPECT_TRUE(!choisit || choix.btnSelectionnerClick());
-  };
+  });
   ecran->AdvGlowButton1Click();
   EXPECT_EQ(compte(), u"BE11;PAPA") << "given up";
   choisit = true;

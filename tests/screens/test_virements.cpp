@@ -1,13 +1,10 @@
 // The movements of the year, the file that brings them, and by hand whom they went to.
-#include <gtest/gtest.h>
 
-#include "core/exceptions.h"
 #include "screens/payments/frm_attribution_virement.h"
 #include "screens/payments/frm_repartition.h"
 #include "screens/payments/frm_virement.h"
-#include "services/groupes_frais.h"
 #include "support/ecran_essai.h"
-#include "support/valeurs.h"
+#include "support/grilles.h"
 
 namespace {
 
@@ -23,13 +20,10 @@ class FrmVirement : public testing::Test {
       Ecole.Ajouter(u"GROUPE_FRAIS"_s, u"GROUPE_FRAIS_ID, LIBELLE"_s, {u"'Classes de mer'"_s});
     }
     /// A movement of that day of October; returns its key.
-    int Mouvement(const QString& donneur, int jour, const QString& cache = u"NULL"_s) {
-      return Ecole.Ajouter(
-          u"EXTRAITS"_s,
-          u"EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, NUM_CPT_DONNEUR, FLG_IGNORE, "
-          "ANNEE_SCOLAIRE"_s,
-          {u'\'' + donneur + u'\'', u"'2016-10-%1'"_s.arg(jour), u"12.5"_s, u"'merci'"_s, u"'BE68'"_s, cache,
-           u"2016"_s});
+    int Mouvement(const QString& donneur, int jour, bool cache = false) {
+      const int id = Ecole.mouvement(donneur, u"2016-10-%1"_s.arg(jour), u"12.5"_s, u"BE68"_s, u"merci"_s);
+      if (cache) Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = 1 WHERE EXTRAIT_ID = %1"_s.arg(id));
+      return id;
     }
     void Credit(int extrait, int eleve, int annee = 2016) {
       Ecole.Ajouter(u"FRAIS_ELEVE"_s,
@@ -44,6 +38,13 @@ class FrmVirement : public testing::Test {
     Form = std::make_unique<TFrmVirement>(Ecran.Contexte);
     Form->Montrer();
     return *Form;
+  }
+  /// The first step, on a file of layout A with these lines; the message that it gives.
+  void Etape1(const QByteArray& lignes, const QString& message = {}) {
+    Base.Dialogues.Saisit(u"Importer vos virements"_s,
+                          Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) + lignes));
+    if (!message.isEmpty()) Base.Dialogues.Attend(message);
+    Form->btnEtape1Click();
   }
   /// Payer, pupil and state of each row of the history.
   QStringList Historique() const {
@@ -83,7 +84,7 @@ class FrmVirement : public testing::Test {
 
 TEST_F(FrmVirement, TheHistoryShowsCountsAndHides) {
   const int inconnu = Base.Mouvement(u"A"_s, 3), comptabilise = Base.Mouvement(u"B"_s, 4);
-  const int cache = Base.Mouvement(u"C"_s, 28, u"1"_s), ailleurs = Base.Mouvement(u"D"_s, 5);
+  const int cache = Base.Mouvement(u"C"_s, 28, true), ailleurs = Base.Mouvement(u"D"_s, 5);
   Base.Credit(comptabilise, 3);
   Base.Credit(cache, 3);
   Base.Credit(ailleurs, 4, 2015);
@@ -129,10 +130,7 @@ TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
   const TLien aRebours =
       Form->SurOrdre.Suivre([](std::vector<int>& lignes) { std::ranges::reverse(lignes); });
   // The file in the preview holds a movement that leaves the year.
-  Base.Dialogues.Saisit(u"Importer vos virements"_s,
-                        Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) +
-                                                          "x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n"));
-  Form->btnEtape1Click();
+  Etape1("x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n");
   ASSERT_EQ(Form->Apercu.NombreLignes(), 1);
   Form->Historique.ChoisirLigne(1);
   Base.Sql(u"ALTER TABLE EXTRAITS ADD CONSTRAINT PAS_2017 CHECK (ANNEE_SCOLAIRE <> 2017)"_s);
@@ -165,10 +163,7 @@ TEST_F(FrmVirement, WhatAnotherWorkstationHasStoredIsNotStoredAgain) {
   Form->Historique.ChoisirLigne(0);
   const int b = Base.Mouvement(u"B"_s, 4);
   Base.Credit(b, 3);
-  Base.Dialogues.Saisit(u"Importer vos virements"_s,
-                        Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) +
-                                                          "x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n"));
-  Form->btnEtape1Click();
+  Etape1("x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n");
   EXPECT_EQ(Form->Apercu.Texte(0, TFrmVirement::Eleve), u"LAMBERT Élise");
   Form->btnEtape2Click();
   EXPECT_EQ(Historique(), (QStringList{u"A||Inconnu"_s, u"B|LAMBERT Élise|Comptabilisé"_s}));
@@ -177,7 +172,7 @@ TEST_F(FrmVirement, WhatAnotherWorkstationHasStoredIsNotStoredAgain) {
 
 TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
   const int c = Base.Mouvement(u"C"_s, 5), a = Base.Mouvement(u"A"_s, 3), b = Base.Mouvement(u"B"_s, 4);
-  Base.Mouvement(u"D"_s, 6, u"1"_s);
+  Base.Mouvement(u"D"_s, 6, true);
   Ouvrir();
   Form->mnuAfficheMouvementClick();
   const TLien ordre = Form->SurOrdre.Suivre([](std::vector<int>& lignes) {
@@ -185,14 +180,16 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
   });  // A, B, C, D
   Form->Historique.ChoisirLigne(1);
   Attribuer([&](TFrmAttributionVirement& dialogue) {
+    // Whose movement is shown after each button.
+    const auto avant = [&] { return dialogue.Button1Click(), dialogue.lblDonneurOrdre(); };
+    const auto valide = [&] { return dialogue.Button3Click(), dialogue.lblDonneurOrdre(); };
+    const auto apres = [&] { return dialogue.Button2Click(), dialogue.lblDonneurOrdre(); };
     EXPECT_EQ(dialogue.lblDonneurOrdre(), u"A");
     EXPECT_EQ(dialogue.lblMontant(), u"12,50 €");
     EXPECT_EQ(dialogue.Champs().Texte(0), u"Votre virement du 03/10/2016");
     EXPECT_EQ(dialogue.lblClasse(), QString());
-    dialogue.Button1Click();
-    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"A") << "nothing before it";
-    dialogue.Button3Click();
-    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"B") << "without a pupil it goes on";
+    EXPECT_EQ(avant(), u"A") << "nothing before it";
+    EXPECT_EQ(valide(), u"B") << "without a pupil it goes on";
     dialogue.Button1Click();
 
     dialogue.LUCombo1Change(u"zoe du"_s);
@@ -205,8 +202,7 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
     dialogue.btnAjoutLibelleClick();
     dialogue.btnAjoutLibelleClick();
     EXPECT_EQ(dialogue.Champs().Texte(0), u"Votre virement du 03/10/2016 (Classes de mer)") << "once";
-    dialogue.Button3Click();
-    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"B");
+    EXPECT_EQ(valide(), u"B");
     EXPECT_EQ(dialogue.Champs().Entier(2), 0) << "the group is cleared";
     EXPECT_FALSE(Globals.Eleves->ChargerExtraits) << "only when it closes";
 
@@ -216,15 +212,12 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
     EXPECT_EQ(dialogue.SaisieEleve(), u"DUPONT Zoé");
     EXPECT_EQ(dialogue.lblClasse(), u"P1 A");
     dialogue.LUCombo1Change(u"LAMBERT"_s);
-    dialogue.Button3Click();
-    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"B") << "not given twice";
+    EXPECT_EQ(valide(), u"B") << "not given twice";
     dialogue.LUCombo1Change(u"lamb"_s);
     dialogue.Button3Click();
-    dialogue.Button2Click();
-    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"D");
+    EXPECT_EQ(apres(), u"D");
     EXPECT_FALSE(dialogue.Actif()) << "a hidden one is nobody's";
-    dialogue.Button2Click();
-    EXPECT_EQ(dialogue.lblDonneurOrdre(), u"D") << "nothing behind it";
+    EXPECT_EQ(apres(), u"D") << "nothing behind it";
 
     Base.Credit(c, 3);  // at another workstation
     dialogue.Button1Click();
@@ -301,20 +294,14 @@ TEST_F(FrmVirement, TheTwoStepsOfAFile) {
   Base.Dialogues.Saisit(u"Importer vos virements"_s, {});
   Form->btnEtape1Click();
   EXPECT_TRUE(Form->Etape2Active()) << "also when no file is chosen";
-  const auto choisir = [this](const QByteArray& lignes, const QString& message = {}) {
-    Base.Dialogues.Saisit(u"Importer vos virements"_s,
-                          Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) + lignes));
-    if (!message.isEmpty()) Base.Dialogues.Attend(message);
-    Form->btnEtape1Click();
-  };
   const QByteArray bonne = "x;05/10/2016;;;BE68;DUPONT;;;;;10,00;EUR;;;+++000/0310/16102+++\n";
-  choisir(bonne + "x;05/10/2016;;;BE68;SUITE;;;;;dix;EUR;;;\n", u"Ligne 15 : « dix » n'est pas un montant"_s);
+  Etape1(bonne + "x;05/10/2016;;;BE68;SUITE;;;;;dix;EUR;;;\n", u"Ligne 15 : « dix » n'est pas un montant"_s);
   EXPECT_FALSE(Form->Etape2Active());
   EXPECT_EQ(Form->Apercu.Texte(1, TFrmVirement::Montant), u"dix");
   EXPECT_EQ(Form->Apercu.Textes(1).last(), u"Illisible");
   EXPECT_EQ(Form->EnSuspens(), QString());
 
-  choisir(bonne + bonne);
+  Etape1(bonne + bonne);
   EXPECT_EQ(Form->Statut(), u"Le fichier compte 2 mouvements.");
   EXPECT_EQ(Form->EnSuspens(), u"2 mouvements non mémorisés");
   bool vu = false;
@@ -328,7 +315,7 @@ TEST_F(FrmVirement, TheTwoStepsOfAFile) {
             (QStringList{"LAMBERT Élise", "P3 A", "Comptabilisé"}));
   EXPECT_EQ(Comptes(), u"2 0 2") << "the history follows";
   EXPECT_FALSE(Form->Etape2Suivante());
-  choisir(bonne);
+  Etape1(bonne);
   Form->btnEtape2Click();
   EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
 }
@@ -353,9 +340,7 @@ TEST_F(FrmVirement, WhatIsPerhapsImportedIsStoredWhenTicked) {
         ecritures % u"</Stmt></BkToCstmrStmt></Document>";
     Base.Dialogues.Saisit(u"Importer vos virements"_s, Base.Fichier(u"releve.xml"_s, document.toUtf8()));
     Form->btnEtape1Click();
-    QStringList etats;
-    for (int i = 0; i < Form->Apercu.NombreLignes(); ++i) etats += Form->Apercu.Textes(i).last();
-    return etats.join(u'|');
+    return TextesColonne(Form->Apercu, Form->Apercu.NombreColonnes() - 1).join(u'|');
   };
   for (const int annee : {2015, 2016}) {
     Base.Sql(u"UPDATE EXTRAITS SET COMMUNICATION = '+++000/0110/16166+++', ANNEE_SCOLAIRE = %1"_s.arg(annee));

@@ -1,9 +1,9 @@
 #include "services/activites.h"
 #include "support/ecole_essai.h"
 
-TEST(Activites, DuJourEtEnCours) {
-  TBaseEssai base;
-  TEcoleEssai ecole(base);
+using Activites = TEssaiEcole;
+
+TEST_F(Activites, DuJourEtEnCours) {
   const int automne = ecole.activite("16:00", "17:00", "2016-10-03", "2016-12-22");
   const int annee = ecole.activite("16:00", "16:45");
   auto eleve = ecole.unEleve();
@@ -44,8 +44,7 @@ TEST(Activites, DuJourEtEnCours) {
   EXPECT_EQ(TActivites(*base, 2017).Count(), 0);
 }
 
-TEST(Activites, AllerEtRetour) {
-  TBaseEssai base;
+TEST_F(Activites, AllerEtRetour) {
   TActivites activites(*base, 2016);
   auto activite = std::make_unique<TActivite>();
   activite->Libelle = u"Échecs"_s;

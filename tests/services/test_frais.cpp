@@ -2,14 +2,7 @@
 #include "services/groupes_frais.h"
 #include "support/ecole_essai.h"
 
-namespace {
-
-struct TFraisEssai : testing::Test {
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
-};
-
-}  // namespace
+using TFraisEssai = TEssaiEcole;
 
 TEST_F(TFraisEssai, CatalogueEtElevesQuiDoivent) {
   const int piscine = ecole.frais("Piscine", "10.5", 10);

@@ -7,9 +7,7 @@ namespace {
 
 constexpr const char *kLundi = "2016-10-03", *kMercredi = "2016-10-05", *kSamedi = "2016-10-08";
 
-struct TTarifsEssai : testing::Test {
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
+struct TTarifsEssai : TEssaiEcole {
   std::unique_ptr<TTarifsGarderies> tarifs;
 
   void charger() { tarifs = std::make_unique<TTarifsGarderies>(*base); }

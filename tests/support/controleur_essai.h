@@ -47,3 +47,8 @@ class TControleurEssai {
   THorlogeEssai Horloge;
   TControleur Controleur{*Base, Base.Reglages, Fenetre, Horloge};
 };
+
+/// The same, with the controller over it.
+struct TEssaiControleur : TEssaiEcole {
+  TControleurEssai essai{base};
+};

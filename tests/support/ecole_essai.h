@@ -53,6 +53,8 @@ class TEcoleEssai {
   /// A new pupil, called "Eleve1 Prenom1" and so on, register number "1-1".
   TEleveEssai unEleve();
   void parametre(int id, const QString& valeur);
+  /// Several: "30=1|101=2,20".
+  void parametres(const QString& tous);
   /// A tariff row; times "07:00". Returns its key.
   int tarif(int famille, int jour, const QString& debut, const QString& fin, int forfait, const QString& cout,
             int scan, const QString& cout2e = u"0"_s);
@@ -61,9 +63,19 @@ class TEcoleEssai {
   /// A catalogue fee; flags among "previsionnel", "non_obligatoire", "service", joined by spaces.
   int frais(const QString& libelle, const QString& cout, int mois, const QString& drapeaux = {});
 
+  /// A movement of the bank of that day; returns its key.
+  int mouvement(const QString& donneur, const QString& date, const QString& montant,
+                const QString& compte = {}, const QString& communication = {});
+
   /// A row with the next key of its table in the first column; the other values in SQL. Returns the key.
   int Ajouter(const QString& table, const QString& colonnes, const QStringList& valeurs);
 
   TBaseEssai& Base;
   const int Annee;
+};
+
+/// A test with a database and the school in it.
+struct TEssaiEcole : testing::Test {
+  TBaseEssai base;
+  TEcoleEssai ecole{base};
 };

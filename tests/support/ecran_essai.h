@@ -26,6 +26,12 @@ class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal
     Etats += texte;
   }
 
+  /// What is done in the next modal forms, which are of that class.
+  template <class T>
+  void Modale(std::function<void(T&)> faire) {
+    SurModale = [faire = std::move(faire)](TForm& form) { faire(dynamic_cast<T&>(form)); };
+  }
+
   TControleurEssai Essai;
   std::function<void(TForm&)> SurModale;
   TNiveauEtat Niveau{};

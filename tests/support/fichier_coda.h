@@ -19,39 +19,36 @@ inline QString Centimes(int centimes) { return u"%1"_s.arg(centimes * 10, 15, 10
 
 /// A record 2.1, the amount in cents; `article` is sequence and detail.
 inline QString Mouvement(const QString& article, int centimes, const QString& communication,
-                         QChar type = u'0', bool structuree = false,
-                         const QString& dateValeur = u"051016"_s) {
+                         QChar type = u'0', bool structuree = false, const QString& dateValeur = "051016") {
   return Enregistrement({{1, u"21"_s + article},
-                         {32, centimes < 0 ? u"1"_s : u"0"_s},
+                         {32, centimes < 0 ? "1" : "0"},
                          {33, Centimes(qAbs(centimes))},
                          {48, dateValeur},
                          {54, QString(type) + u"0150000"},
-                         {62, structuree ? u"1"_s : u"0"_s},
+                         {62, structuree ? "1" : "0"},
                          {63, communication.left(53)},
-                         {116, u"061016"_s}});
+                         {116, "061016"}});
 }
 
 /// The file: its records 0, 1, 8 and 9 around the movements, which must sum to `total`, with so many debits;
 /// amounts in cents.
 inline QByteArray Coda(const QStringList& milieu, int total, int debits = 0, int ecart = 0, int numero = 7,
                        int ancien = 10000) {
-  QStringList lignes{Enregistrement({{1, u"0000005101672505"_s}, {128, u"2"_s}}),
-                     Enregistrement({{1, u"12001BE33123456789012"_s},
-                                     {40, u"EUR0"_s},
+  QStringList lignes{Enregistrement({{1, "0000005101672505"}, {128, "2"}}),
+                     Enregistrement({{1, "12001BE33123456789012"},
+                                     {40, "EUR0"},
                                      {44, Centimes(ancien)},
-                                     {59, u"041016"_s},
+                                     {59, "041016"},
                                      {126, u"%1"_s.arg(numero, 3, 10, QChar(u'0'))}})};
   lignes += milieu;
-  lignes += Enregistrement({{1, u"8001BE33123456789012"_s},
-                            {42, u"0"_s},
-                            {43, Centimes(ancien + total + ecart)},
-                            {58, u"051016"_s}});
-  lignes += Enregistrement({{1, u"9"_s},
+  lignes += Enregistrement(
+      {{1, "8001BE33123456789012"}, {42, "0"}, {43, Centimes(ancien + total + ecart)}, {58, "051016"}});
+  lignes += Enregistrement({{1, "9"},
                             {17, u"%1"_s.arg(static_cast<int>(milieu.size()) + 2, 6, 10, QChar(u'0'))},
                             {23, Centimes(debits)},
                             {38, Centimes(total + debits)},
-                            {128, u"2"_s}});
-  return lignes.join(u"\r\n"_s).toUtf8();
+                            {128, "2"}});
+  return lignes.join("\r\n").toUtf8();
 }
 
 inline QString Donneur(const QString& article, const QString& compte, const QString& nom,

@@ -10,8 +10,6 @@ inline TDateTime H(const char* texte) {
   return t.isEmpty() ? 0.0 : StrToTime(t);
 }
 /// "2016-10-03"
-inline TDateTime J(const char* texte) {
-  return DateDeQt(QDate::fromString(QString::fromLatin1(texte), Qt::ISODate));
-}
+inline TDateTime J(const char* texte) { return DateDeQt(QDate::fromString(texte, Qt::ISODate)); }
 /// "1.5000", which Google Test can show.
 inline std::string Euros(Currency montant) { return FormatQuatreDecimales(montant).toStdString(); }

@@ -1,4 +1,3 @@
-#include "core/exceptions.h"
 #include "services/frais_eleve.h"
 #include "support/controleur_essai.h"
 #include "workflows/attribution_frais.h"
@@ -6,33 +5,27 @@
 namespace {
 
 /// Five pupils of a class; the first three owe the fee of 12.50, the first has paid it.
-class TAttribution : public testing::Test {
- protected:
+struct TAttribution : TEssaiControleur {
   void SetUp() override {
-    frais_ = ecole_.frais("Piscine", "12.5", 10);
+    frais_ = ecole.frais("Piscine", "12.5", 10);
     for (int i = 0; i < 5; ++i) {
-      TEleveEssai eleve = ecole_.unEleve().enClasse("P1", "A");
+      TEleveEssai eleve = ecole.unEleve().enClasse("P1", "A");
       if (i < 3) eleve.doit(frais_, i == 0 ? "12.5" : "0");
     }
-    essai_.Charger();
+    essai.Charger();
     attribution_.Ouvrir(&Frais());
   }
   TFrais& Frais() { return *Globals.ListeFrais->ParCle(frais_); }
   TEleve& Eleve(int id) { return *Globals.Eleves->TrouverParId(id); }
   void Cocher(int id, bool coche = true) { attribution_.Cocher(Eleve(id), coche); }
   /// "1:12.5000 2:0.0000"
-  std::string Rangees() {
-    return Base_
-        .Rangees("SELECT ELEVE_ID || ':' || MONTANT_VERSE FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = " +
-                 QString::number(frais_) + " ORDER BY ELEVE_ID, MONTANT_VERSE")
-        .join(u' ')
-        .toStdString();
+  QString Rangees() {
+    const QString sql =
+        "SELECT ELEVE_ID || ':' || MONTANT_VERSE FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = %1 ORDER BY 1";
+    return base.Rangees(sql.arg(frais_)).join(u' ');
   }
 
-  TBaseEssai Base_;
-  TEcoleEssai ecole_{Base_};
-  TControleurEssai essai_{Base_};
-  TAttributionFrais attribution_{essai_.Controleur};
+  TAttributionFrais attribution_{essai.Controleur};
   int frais_ = 0;
 };
 
@@ -43,13 +36,13 @@ TEST_F(TAttribution, GivesAndTakesByHandOnly) {
   EXPECT_TRUE(attribution_.EstPaye(Eleve(1)));
   EXPECT_FALSE(attribution_.EstPaye(Eleve(2)));
   attribution_.Enregistrer(Frais());
-  EXPECT_EQ(Base_.Dialogues.Progressions, 1) << "nothing to do but to hide the progress";
+  EXPECT_EQ(base.Dialogues.Progressions, 1) << "nothing to do but to hide the progress";
   Cocher(2, false);
   Cocher(4);
   // Meanwhile another workstation gave it to the fourth and the fifth, and took it from the third.
-  Base_.Sql("DELETE FROM FRAIS_ELEVE WHERE ELEVE_ID = 3");
-  TEleveEssai(ecole_, 4).doit(frais_);
-  TEleveEssai(ecole_, 5).doit(frais_);
+  base.Sql("DELETE FROM FRAIS_ELEVE WHERE ELEVE_ID = 3");
+  TEleveEssai(ecole, 4).doit(frais_);
+  TEleveEssai(ecole, 5).doit(frais_);
   attribution_.Enregistrer(Frais());
   EXPECT_EQ(Rangees(), "1:12.5000 3:0.0000 4:0.0000 5:0.0000")
       << "the third is ticked, so owes it again; nobody has two lines; the fifth was not unticked by hand";
@@ -83,7 +76,7 @@ TEST_F(TAttribution, PaidModeHoldsAtTheSave) {
 }
 
 TEST_F(TAttribution, RefusedHalfWayItGoesOnFromThere) {
-  Base_.Sql(
+  base.Sql(
       "CREATE TRIGGER REFUS FOR FRAIS_ELEVE BEFORE INSERT AS BEGIN IF (NEW.ELEVE_ID = 5) THEN "
       "NEW.ELEVE_ID = NULL; END");
   Cocher(4);
@@ -94,15 +87,15 @@ TEST_F(TAttribution, RefusedHalfWayItGoesOnFromThere) {
   EXPECT_EQ(Eleve(5).GetAllFrais()->Count(), 0) << "memory is what the table holds";
   EXPECT_TRUE(attribution_.EstModifiee());
   Cocher(4, false);  // stored, so this takes it away
-  Base_.Sql("DROP TRIGGER REFUS");
+  base.Sql("DROP TRIGGER REFUS");
   attribution_.Enregistrer(Frais());
   EXPECT_EQ(Rangees(), "1:12.5000 2:0.0000 5:0.0000");
 }
 
 TEST_F(TAttribution, TakenFromAllAndGivenBack) {
-  const int absent = ecole_.unEleve().Id;  // enrolled nowhere
-  TEleveEssai(ecole_, absent).doit(frais_);
-  Base_.Sql("UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 8 WHERE ELEVE_ID = " + QString::number(absent));
+  const int absent = ecole.unEleve().Id;  // enrolled nowhere
+  TEleveEssai(ecole, absent).doit(frais_);
+  base.Sql("UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 8 WHERE ELEVE_ID = " + QString::number(absent));
   Eleve(1).GetAllFrais()->LigneFrais(frais_)->GroupeFraisId = 3;
   Frais().InvalideElevesFrais();
   Globals.Eleves->PartsExtrait(8);
@@ -113,11 +106,11 @@ TEST_F(TAttribution, TakenFromAllAndGivenBack) {
   EXPECT_NE(Globals.GroupesFrais.get(), groupes) << "what the groups have received is read again";
   lignes[1].Ligne->ExtraitId = 9;
   lignes.push_back({999, u"PARTI Paul"_s, CopieDe(*lignes[0].Ligne)});
-  TEleveEssai(ecole_, 4).paie("5", 0, 0, "x");
-  Base_.Sql("UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 9");
-  Base_.Dialogues.Attend("Le frais n'est pas rendu tout entier :\n" + Eleve(2).NomComplet() +
-                         ", sans son paiement : Le mouvement de la banque a été attribué autrement "
-                         "entre-temps.\nPARTI Paul : n'est plus dans l'année affichée");
+  TEleveEssai(ecole, 4).paie("5", 0, 0, "x");
+  base.Sql("UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 9");
+  base.Dialogues.Attend("Le frais n'est pas rendu tout entier :\n" + Eleve(2).NomComplet() +
+                        ", sans son paiement : Le mouvement de la banque a été attribué autrement "
+                        "entre-temps.\nPARTI Paul : n'est plus dans l'année affichée");
   EXPECT_EQ(Rangees(), "");
   EXPECT_EQ(Eleve(1).GetAllFrais()->Count(), 0);
   attribution_.Rendre(Frais(), lignes);

@@ -1,14 +1,13 @@
 #include <QDir>
-#include <QFile>
 
-#include "core/exceptions.h"
 #include "support/controleur_essai.h"
+#include "support/refus.h"
 #include "workflows/import_presences.h"
 
 namespace {
 
 /// A school with the usual windows and one pupil, code 11 (register number "1-1").
-struct TScansEssai : testing::Test {
+struct TScansEssai : TEssaiControleur {
   TScansEssai() {
     using namespace Essai;
     tarif(Matin, u"07:00"_s, u"08:30"_s, ScanPresence);
@@ -29,9 +28,6 @@ struct TScansEssai : testing::Test {
         u"SELECT TYPE_PRESENCE, DATE_RELEVE, HEURE_ENTREE, HEURE_SORTIE, CODE_IMPLANTATION FROM PRESENCES "
         "ORDER BY PRESENCE_ID"_s);
   }
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
-  TControleurEssai essai{base};
   TImportPresences import{essai.Controleur};
 };
 
@@ -144,12 +140,9 @@ TEST_F(TScansEssai, MalformedFilesStoreNothing) {
        {QByteArray("11;x;20161003;0730;1\n"), QByteArray("11;1;20161003;0730;\n"),
         QByteArray("11;1;20161303;0730;1\n"), QByteArray("11;1;20161003;2530;1\n"), QByteArray("\n"),
         QByteArray("11\n"), QByteArray("11;1;2016;07;1\n")}) {
-    try {
-      import.ImporterFichier(fichier(bonne + mauvaise + bonne));
-      ADD_FAILURE() << mauvaise.toStdString();
-    } catch (const EConvertError& e) {
-      EXPECT_TRUE(e.Message.startsWith(u"Ligne 2 : ")) << e.what();
-    }
+    const QString dit =
+        Refus<EConvertError>([&] { import.ImporterFichier(fichier(bonne + mauvaise + bonne)); });
+    EXPECT_TRUE(dit.startsWith(u"Ligne 2 : ")) << mauvaise.toStdString() << dit.toStdString();
     EXPECT_FALSE(import.Pret());
     EXPECT_TRUE(import.Bons().empty());
   }

@@ -1,12 +1,6 @@
-#include <gtest/gtest.h>
-
-#include "core/exceptions.h"
 #include "support/controleur_essai.h"
 #include "support/fichier_coda.h"
-#include "support/valeurs.h"
 #include "workflows/import_virements.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -356,12 +350,6 @@ TEST_F(TImportVirementsEssai, TwinsCastNoDoubtOnAThird) {
   ImporterFichier(base_.Fichier(u"releve"_s, ReleveCoda(7, 5, 0, {u"merci"_s, u"merci"_s})));
   ImporterFichier(base_.Fichier(u"releve"_s, ReleveCoda(8, 5, 20, {u"merci"_s, u"merci"_s, u"autre"_s})));
   EXPECT_EQ(Extraits(), (QStringList{u"1;merci"_s, u"2;merci"_s, u"3;autre"_s}));
-}
-
-TEST_F(TImportVirementsEssai, ProgressIsTwiceTheRows) {
-  base_.Dialogues.Progressions = 0;
-  Importer({{u"a"_s}, {u"b"_s}, {u"c"_s}});
-  EXPECT_EQ(base_.Dialogues.Progressions, 2 * 3 + 1);
 }
 
 TEST_F(TImportVirementsEssai, WhatCannotBeStoredLeaves) {

@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "core/exceptions.h"

@@ -1,21 +1,17 @@
-#include <gtest/gtest.h>
-
 #include <future>
 #include <thread>
 
-#include "core/exceptions.h"
 #include "core/query_internal.h"
 #include "core/transaction_commune.h"
 #include "pupils/reserver.h"
 #include "support/controleur_essai.h"
-#include "support/valeurs.h"
 #include "workflows/import_virements.h"
 #include "workflows/propositions.h"
 #include "workflows/repartition.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
+
+const QString kCompte = u"BE68539007547034"_s;
 
 Currency C(std::int64_t centimes) { return Currency::Brut(centimes * 100); }
 
@@ -28,13 +24,11 @@ class TRepartitionEssai : public testing::Test {
       TEleveEssai eleve = ecole_.unEleve().enClasse(u"P1"_s, u"A"_s);
       if (i < 2) eleve.doit(frais[i]);
     }
-    Mouvement(7, u"24"_s, u"BE68539007547034"_s, u"DUPONT-LEROY Marie"_s);
+    base_.Sql(u"UPDATE COUNTERS SET VALEUR = 6 WHERE TABLE_NAME = 'EXTRAITS'"_s);
+    Mouvement(u"24"_s, kCompte, u"DUPONT-LEROY Marie"_s);  // 7
   }
-  void Mouvement(int id, const QString& montant, const QString& compte, const QString& donneur) {
-    base_.Sql(
-        u"INSERT INTO EXTRAITS (EXTRAIT_ID, DONNEUR_ORDRE, DATE_VIREMENT, MONTANT, COMMUNICATION, "
-        "NUM_CPT_DONNEUR, ANNEE_SCOLAIRE) VALUES (%1, '%4', '2016-10-05', %2, '', '%3', 2016)"_s.arg(id)
-            .arg(montant, compte, donneur));
+  int Mouvement(const QString& montant, const QString& compte, const QString& donneur) {
+    return ecole_.mouvement(donneur, u"2016-10-05"_s, montant, compte);
   }
   TExtrait& Charger(int id = 7) {
     Globals = {};
@@ -70,10 +64,7 @@ class TRepartitionEssai : public testing::Test {
 
 TEST(Repartition, AuCentPres) {
   using V = std::vector<Currency>;
-  const struct {
-    Currency Montant;
-    V Dus, Parts;
-  } cas[] = {
+  const std::tuple<Currency, V, V> cas[] = {
       {C(3000), {C(2000), C(1000)}, {C(2000), C(1000)}},
       {C(3500), {C(2000), C(1000)}, {C(2500), C(1000)}},
       {C(1000), {C(2000), C(1000)}, {C(667), C(333)}},
@@ -226,7 +217,7 @@ TEST_F(TRepartitionEssai, QuiAPuPayerEtPourquoi) {
   TEleveEssai(ecole_, 2).enClasse(u"P2"_s, u"B"_s);
   EXPECT_EQ(Propositions(Charger()), u"2 compte de l'élève|1 nom d'un adulte => 2") << "enrolled twice, once";
   EXPECT_EQ(ElevesUneFois(*Globals.Eleves).size(), 3U);
-  Mouvement(8, u"21"_s, u"BE68539007547034"_s, u"X"_s);
+  Mouvement(u"21"_s, kCompte, u"X"_s);  // 8
   TEleveEssai(ecole_, 3).paie(u"1"_s, 0, 0, {});
   base_.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 8, FLG_PART = 1 WHERE ELEVE_ID = 3"_s);
   EXPECT_EQ(Propositions(Charger()),
@@ -236,10 +227,10 @@ TEST_F(TRepartitionEssai, QuiAPuPayerEtPourquoi) {
   base_.Sql(u"UPDATE FRAIS_ELEVE SET FLG_PART = NULL"_s);
   EXPECT_EQ(Propositions(Charger(8)), QString()) << "given whole";
   base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = NULL"_s);
-  Mouvement(9, u"-20"_s, u"BE68539007547034"_s, u"X"_s);
-  EXPECT_EQ(Propositions(Charger(9)), QString()) << "the school pays";
-  Mouvement(10, u"3"_s, {}, u"MARIE DUPONT ET P. DUPONT"_s);
-  EXPECT_EQ(Propositions(Charger(10)), u"1 nom d'un adulte|3 nom d'un adulte") << "nobody stands out";
+  EXPECT_EQ(Propositions(Charger(Mouvement(u"-20"_s, kCompte, u"X"_s))), QString()) << "the school pays";
+  EXPECT_EQ(Propositions(Charger(Mouvement(u"3"_s, {}, u"MARIE DUPONT ET P. DUPONT"_s))),
+            u"1 nom d'un adulte|3 nom d'un adulte")
+      << "nobody stands out";
   for (int i = 0; i < 3; ++i)
     base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'BE68539007547034' WHERE ELEVE_ID = "_s +
               QString::number(ecole_.unEleve().enClasse(u"P1"_s, {}).Id));

@@ -17,7 +17,7 @@ TEST(TotalEcole, AMonthOfEachKindOfPupil) {
         .scan(Garderie, "2017-01-18", "12:30", "17:00")
         .scan(Repas, "2017-01-10", "12:00");
   };
-  const int ordinaire = vivre().Id;
+  const int ordinaire = vivre().marque(3, 2).Id;
   const int troisieme = vivre().avec("FLG_3E_ENFANT").marque(2, 1).Id;
   const int rentre = vivre().marque(1, 1).marque(2, 1).Id;
   TControleurEssai essai(base);
@@ -32,5 +32,5 @@ TEST(TotalEcole, AMonthOfEachKindOfPupil) {
   EXPECT_EQ(FormatQuatreDecimales(mois(troisieme)), u"28.1000");  // 3.10 + 25
   EXPECT_EQ(FormatQuatreDecimales(mois(rentre)), u"40.8500");     // 0.75 + 0 + 2 + 10 + 3.10 + 25
   EXPECT_EQ(FormatQuatreDecimales(total), u"101.8000");
-  EXPECT_EQ(CalculTotalEcole(2).EnBrut(), 30 * 10000) << "two midday flat rates without a presence";
+  EXPECT_EQ(CalculTotalEcole(2).EnBrut(), 15 * 10000) << "one midday flat rate, without a presence";
 }
