@@ -68,6 +68,8 @@ TEST(Coda, WhatAMovementSays) {
        u"0510|12,5|BE68539007547034|A|x"_s},
       {{Mouvement(kUn, 1250, u"x"_s), Donneur(kUn, u"DE89 3704 0044 0532 0130 00EUR"_s, u"A"_s)},
        u"0510|12,5|DE89370400440532013000|A|x"_s},
+      {{Mouvement(kUn, 1250, u"x"_s), Donneur(kUn, u"NL0584894293994456 EUR"_s, u"A"_s)},
+       u"0510|12,5|NL0584894293994456|A|x"_s},  // digits are no currency, whatever they leave
       {{Mouvement(kUn, 1250, u"102001231016185"_s, u'0', true)}, u"0510|12,5|||+++001/2310/16185+++"_s},
       {{Mouvement(kUn, 1250, u"105"_s % codes % u"00123", u'0', true), Suite(kUn, u"1016185"_s)},
        u"0510|12,5|||+++001/2310/16185+++"_s},
