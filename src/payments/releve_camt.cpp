@@ -50,6 +50,7 @@ Currency MontantSigne(const TElementXml& element) {
 TDateTime Jour(const TElementXml* date) {
   if (date == nullptr) return 0.0;
   const QString texte = date->Lire(u"Dt").isEmpty() ? date->Lire(u"DtTm") : date->Lire(u"Dt");
+  if (texte.isEmpty()) return 0.0;
   const QDate jour = QDate::fromString(texte.left(10), Qt::ISODate);
   if (!jour.isValid()) throw EConvertError(u"« %1 » n'est pas une date."_s.arg(texte.left(40)));
   return DateDeQt(jour);
@@ -168,32 +169,38 @@ class TLecteurCamt {
     mouvement.Date = Jour(ecriture.Trouver(u"ValDt"));
     if (mouvement.Date == 0.0) mouvement.Date = Jour(ecriture.Trouver(u"BookgDt"));
     if (mouvement.Date == 0.0) throw Exception(u"Un mouvement n'a pas de date."_s);
-    for (const auto& [detail, montant] : Details(ecriture, mouvement.Montant)) {
+    for (const auto& [detail, montant, credit] : Details(ecriture, mouvement.Montant)) {
       TMouvement& rendu = releve_.Mouvements.emplace_back(mouvement);
       rendu.Montant = montant;
-      Donneur(*detail, EstCredit(AyantSens(*detail, ecriture)) != EstExtourne(ecriture), compte, rendu);
+      Donneur(*detail, credit != EstExtourne(ecriture), compte, rendu);
       rendu.Communication = Communication(*detail, ecriture);
     }
     return mouvement.Montant;
   }
 
-  using TDetails = std::vector<std::pair<const TElementXml*, Currency>>;
+  /// What tells of a movement, its amount, and whether it is a credit, which an amount of 0 does not say.
+  struct TDetail {
+    const TElementXml* Element;
+    Currency Montant;
+    bool Credit;
+  };
+  using TDetails = std::vector<TDetail>;
 
   /// The transactions of an entry with their amounts; the entry itself when they do not make it up.
   static TDetails Details(const TElementXml& ecriture, Currency total) {
     std::vector<const TElementXml*> transactions;
     for (const TElementXml* groupe : ecriture.Tous(u"NtryDtls"))
       for (const TElementXml* transaction : groupe->Tous(u"TxDtls")) transactions.push_back(transaction);
-    if (transactions.size() == 1) return {{transactions[0], total}};
+    if (transactions.size() == 1) return {{transactions[0], total, EstCredit(ecriture)}};
     TDetails details;
     Currency somme;
     for (const TElementXml* transaction : transactions) {
       const auto montant = MontantTransaction(*transaction, ecriture);
       if (!montant) continue;
-      details.emplace_back(transaction, *montant);
+      details.push_back({transaction, *montant, EstCredit(AyantSens(*transaction, ecriture))});
       somme = Additionner(somme, *montant);
     }
-    if (details.empty() || somme != total) return {{&ecriture, total}};
+    if (details.empty() || somme != total) return {{&ecriture, total, EstCredit(ecriture)}};
     return details;
   }
 

@@ -124,8 +124,11 @@ QString SansSuite(const QString& compte) {
   static constexpr qsizetype kIbanBelge = 16, kDevise = 3;
   const QString mot = compte.trimmed().section(u' ', 0, 0);
   const auto sansDevise = [](const QString& texte) {
-    return texte.startsWith(u"BE") ? texte.first(std::min(kIbanBelge, texte.size()))
-                                   : texte.chopped(std::min(kDevise, texte.size()));
+    if (texte.startsWith(u"BE")) return texte.first(std::min(kIbanBelge, texte.size()));
+    const auto fin = texte.crbegin();
+    const bool devise =
+        texte.size() > kDevise && std::all_of(fin, fin + kDevise, [](QChar c) { return c.isLetter(); });
+    return devise ? texte.chopped(kDevise) : texte;
   };
   // The last two are a number in groups of four, which is one when it is right.
   const QString uni = IbanSansBlancs(compte);
@@ -324,6 +327,4 @@ bool EstCoda(const QByteArray& octets) {
   return debut.startsWith(u"0000") && !debut.left(kDebutEntete).contains(u';');
 }
 
-TReleveBancaire LireCoda(const QByteArray& octets) {
-  return TLecteurCoda().Lire(LignesDeTexte(octets));
-}
+TReleveBancaire LireCoda(const QByteArray& octets) { return TLecteurCoda().Lire(LignesDeTexte(octets)); }

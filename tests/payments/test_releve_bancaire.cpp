@@ -60,6 +60,8 @@ TEST(Coda, WhatAMovementSays) {
        "0510|12,5|BE68539007547034|A|x"},
       {{Mouvement(kUn, 1250, "x"), Donneur(kUn, "DE89 3704 0044 0532 0130 00EUR", "A")},
        "0510|12,5|DE89370400440532013000|A|x"},
+      {{Mouvement(kUn, 1250, "x"), Donneur(kUn, "NL0584894293994456 EUR", "A")},
+       "0510|12,5|NL0584894293994456|A|x"},  // digits are no currency, whatever they leave
       {{Mouvement(kUn, 1250, "102001231016185", u'0', true)}, "0510|12,5|||+++001/2310/16185+++"},
       {{Mouvement(kUn, 1250, u"105"_s % codes % u"00123", u'0', true), Suite(kUn, "1016185")},
        "0510|12,5|||+++001/2310/16185+++"},
@@ -172,6 +174,8 @@ TEST(Camt, WhatAnEntrySays) {
       {Ecriture("1", "CRDT", {}, "<Sts>PDNG</Sts>"), {}},
       {Ecriture("1", "CRDT", Details(Detail(kParties))), "0510|1|BE1|A|"},
       {Ecriture("1", "DBIT", Details(Detail(kParties))), "0510|-1|77|B|"},
+      {Ecriture("1", "CRDT", Details(Detail(u"<CdtDbtInd>DBIT</CdtDbtInd>"_s + kParties))), "0510|1|BE1|A|"},
+      {Ecriture("1", "CRDT", {}).replace("DtTm>2016-10-05T23:59:00-05:00</DtTm", "Dt></Dt"), "0610|1|||"},
       {Ecriture("1", "DBIT", u"<RvslInd>true</RvslInd>"_s + Details(Detail(kParties))), "0510|-1|BE1|A|"},
       {Ecriture("1", "CRDT", Details(Detail(notre))), "0510|1|77|B|"},
       {Ecriture("1", "CRDT", Remise("<Ustrd>a</Ustrd><Ustrd>***b</Ustrd>")), "0510|1|||a +++b"},

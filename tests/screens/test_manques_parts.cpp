@@ -37,7 +37,12 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
     EXPECT_EQ(manques.Grille.LigneCourante(), 1) << "the first that leads to a record";
     EXPECT_EQ(manques.LibelleImprimer(), u"Imprimer les autres");
     EXPECT_EQ(manques.Titre(), u"Ce qui manque, revenus de 2017");
+    EXPECT_EQ(manques.Grille.Texte(4, 3), u"Rien à remplir");
+    manques.Grille.ChoisirLigne(4);
+    EXPECT_FALSE(manques.PeutAller()) << "it leads nowhere";
+    manques.Grille.ChoisirLigne(1);
     if (ligne >= 0) manques.Grille.ChoisirLigne(ligne);
+    EXPECT_TRUE(manques.PeutAller());
     if (faire != nullptr) (manques.*faire)();
   });
   const auto imprimer = [&] {
@@ -46,7 +51,8 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
       resultat.Manques = {{nullptr, u"edNumeroEntreprise"_s, u"l'école"_s, false},
                           {&Eleve(1), u"edNumNational"_s, u"manque"_s, true},
                           {&Eleve(1), {}, u"impayé"_s, false},
-                          {&Eleve(2), {}, u"impayé"_s, false}};
+                          {&Eleve(2), {}, u"impayé"_s, false},
+                          {nullptr, {}, u"le maximum"_s, false}};
       resultat.Rapports.emplace_back(u"Titre"_s, u"Modele"_s).AjouterVariable(u"AnneeRevenus"_s, u"2017"_s);
       return resultat;
     });

@@ -156,6 +156,17 @@ TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
   EXPECT_EQ(Ecran.Niveau, TNiveauEtat::Alerte);
 }
 
+TEST_F(FrmVirement, WhatAnotherWorkstationHasGivenIsNotHidden) {
+  const int a = Base.Mouvement(u"A"_s, 3);
+  Ouvrir();
+  Form->Historique.ChoisirLigne(0);
+  Base.Credit(a, 3);
+  Base.Dialogues.Attend(u"Vous ne pouvez pas cacher un mouvement comptabilisé !"_s);
+  Form->Supprimerlextrait1Click();
+  EXPECT_EQ(Extrait(u"FLG_IGNORE"_s, a), QString());
+  EXPECT_EQ(Historique(), QStringList{u"A|LAMBERT Élise|Comptabilisé"_s});
+}
+
 // The screen may stand open all day.
 TEST_F(FrmVirement, WhatAnotherWorkstationHasStoredIsNotStoredAgain) {
   Base.Mouvement(u"A"_s, 3);

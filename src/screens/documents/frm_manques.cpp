@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum TEtat { PasImprime, ImprimeSans };
+enum TEtat { PasImprime, ImprimeSans, RienARemplir };
 
 }  // namespace
 
@@ -20,13 +20,15 @@ TFrmManques::TFrmManques(const TResultat& resultat, bool avecChamps)
   for (const TManque& manque : resultat.Manques)
     if (manque.SansDocument) sans_.insert(manque.Eleve);
   texte_ = Resume();
-  Grille.Etats = {{u"Pas imprimé"_s, u"data-error"_s}, {u"Imprimé sans"_s, u"data-warning"_s}};
+  Grille.Etats = {{u"Pas imprimé"_s, u"data-error"_s},
+                  {u"Imprimé sans"_s, u"data-warning"_s},
+                  {u"Rien à remplir"_s, u"data-information"_s}};
   for (const TManque& manque : resultat.Manques) {
     const int ligne = Grille.Ajouter({manque.Eleve != nullptr ? manque.Eleve->NomComplet() : u"L'école"_s,
                                       manque.Eleve != nullptr ? manque.Eleve->LibelleClasse() : QString(),
                                       manque.Texte,
                                       {}},
-                                     {}, SansDocument(manque) ? PasImprime : ImprimeSans);
+                                     {}, Etat(manque));
     if (!avecChamps) continue;
     if (manque.Eleve != nullptr && premier_ < 0) premier_ = ligne;
     menent_ = menent_ || Mene(manque);
@@ -35,6 +37,16 @@ TFrmManques::TFrmManques(const TResultat& resultat, bool avecChamps)
 }
 
 bool TFrmManques::Mene(const TManque& manque) { return manque.Eleve != nullptr || !manque.Champ.isEmpty(); }
+
+int TFrmManques::Etat(const TManque& manque) const {
+  if (SansDocument(manque)) return PasImprime;
+  return Mene(manque) ? ImprimeSans : RienARemplir;
+}
+
+bool TFrmManques::PeutAller() const {
+  const int ligne = Grille.LigneCourante();
+  return menent_ && ligne >= 0 && Mene(resultat_.Manques[static_cast<std::size_t>(ligne)]);
+}
 
 QString TFrmManques::Titre() const {
   const QString annee =
@@ -63,11 +75,8 @@ QString TFrmManques::Resume() const {
 }
 
 void TFrmManques::btnAllerClick() {
-  const int ligne = Grille.LigneCourante();
-  if (ligne < 0 || !AvecChamps()) return;
-  const TManque& manque = resultat_.Manques[static_cast<std::size_t>(ligne)];
-  if (!Mene(manque)) return;
-  choisi_ = &manque;
+  if (!PeutAller()) return;
+  choisi_ = &resultat_.Manques[static_cast<std::size_t>(Grille.LigneCourante())];
   Valider();
 }
 

@@ -21,6 +21,8 @@ class TFrmManques : public TForm {
   bool Imprimable() const { return !resultat_.Rapports.empty(); }
   /// There is a row that leads somewhere.
   bool AvecChamps() const { return menent_; }
+  /// The current one does.
+  bool PeutAller() const;
   /// "Imprimer les autres"; "Imprimer" when nobody is left out.
   QString LibelleImprimer() const;
   TGrille Grille;  ///< a row each, with its place among them
@@ -36,6 +38,7 @@ class TFrmManques : public TForm {
   void Valider();
   QString Resume() const;
   static bool Mene(const TManque& manque);
+  int Etat(const TManque& manque) const;
   /// Of the pupil of that row nothing is printed.
   bool SansDocument(const TManque& manque) const;
 

@@ -98,7 +98,7 @@ class TFrmVirement : public TForm {
   void AttribuerAnnee(int pas);
   void Repondre(int responsable);
   void RetirerCourante();
-  bool Enregistrer(TExtrait& extrait, const QString& fait);
+  bool Enregistrer(TExtrait& extrait, const QString& fait, bool libre = false);
   void Signaler(TNiveauEtat niveau, const QString& texte) const;
 
   TContexteEcran& contexte_;

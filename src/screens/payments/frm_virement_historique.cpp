@@ -5,11 +5,19 @@
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "core/mois.h"
+#include "core/transaction_commune.h"
+#include "pupils/reserver.h"
 #include "screens/payments/frm_attribution_virement.h"
 #include "screens/payments/frm_virement.h"
 #include "screens/payments/lignes_virement.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kComptabilise = u"Vous ne pouvez pas cacher un mouvement comptabilisé !"_s;
+
+}  // namespace
 
 bool TFrmVirement::EstComptabilise(const TExtrait& extrait) const {
   return Globals.Eleves->ExtraitVersEleve(extrait.Id) != 0;
@@ -155,11 +163,10 @@ void TFrmVirement::AttribuerAnnee(int pas) {
 void TFrmVirement::Supprimerlextrait1Click() {
   if (!ExigeMouvement()) return;
   TExtrait& extrait = *Courant();
-  if (EstComptabilise(extrait))
-    return contexte_.Dialogues().Message(u"Vous ne pouvez pas cacher un mouvement comptabilisé !"_s);
+  if (EstComptabilise(extrait)) return contexte_.Dialogues().Message(kComptabilise);
   if (extrait.FlgIgnore) return;
   extrait.FlgIgnore = true;
-  if (!Enregistrer(extrait, u"Mouvement caché"_s)) return;
+  if (!Enregistrer(extrait, u"Mouvement caché"_s, true)) return;
   if (voitCaches_)
     Historique.ChangerEtat(Historique.LigneCourante(), static_cast<int>(TEtatMouvement::Cache));
   else
@@ -174,10 +181,14 @@ void TFrmVirement::Repondre(int responsable) {
     Historique.Ecrire(Historique.LigneCourante(), Resp, responsable);
 }
 
-/// False after a message, and memory is then what the table holds.
-bool TFrmVirement::Enregistrer(TExtrait& extrait, const QString& fait) {
+/// False after a message, and memory is then what the table holds. `libre`: only while nobody has it.
+bool TFrmVirement::Enregistrer(TExtrait& extrait, const QString& fait, bool libre) {
   TExtraits& extraits = contexte_.Controleur.Extraits();
   try {
+    TTransactionCommune ensemble(contexte_.Controleur.Base());
+    ReserverExtrait(contexte_.Controleur.Base(), extrait.Id);
+    Globals.Eleves->ChargerExtraits = true;  // another workstation may have given it since it was shown
+    if (libre && EstComptabilise(extrait)) throw Exception(kComptabilise);
     extraits.Add(extrait);
     extraits.Save();
     if (!extraits.RangeesDisparues().empty()) {
@@ -185,11 +196,13 @@ bool TFrmVirement::Enregistrer(TExtrait& extrait, const QString& fait) {
       import_.Oublier(&extrait);
       throw Exception(u"Ce mouvement n'existe plus : un autre poste l'a supprimé."_s);
     }
+    ensemble.Valider();
     Signaler(TNiveauEtat::Succes, fait);
     return true;
   } catch (const Exception& e) {
     Signaler(TNiveauEtat::Refus, u"Non enregistré"_s);
     contexte_.Dialogues().Message(e.Message);
+    extraits.Add(extrait);  // also when it was written, and that came to nothing
     extraits.Remettre();
     RemplirApercu();
     RemplirHistorique();

@@ -16,8 +16,16 @@ VueManques::VueManques(TFrmManques& form, QWidget* parent) : DialogueBase(form.T
   Contenu()->addWidget(grille, 1);
   connect(grille, &VueGrille::Activee, this, &VueManques::Aller);
   DefinirPrincipal(form_.Imprimable() ? form_.LibelleImprimer() : u"Aller à la fiche"_s);
-  if (form_.Imprimable() && form_.AvecChamps())
-    connect(AjouterBouton(u"Aller à la fiche"_s), &QPushButton::clicked, this, &VueManques::Aller);
+  if (form_.AvecChamps()) {
+    QPushButton* aller = form_.Imprimable() ? AjouterBouton(u"Aller à la fiche"_s) : Principal();
+    if (form_.Imprimable()) connect(aller, &QPushButton::clicked, this, &VueManques::Aller);
+    const auto suivre = [this, aller] {
+      aller->setEnabled(form_.PeutAller());
+      aller->setToolTip(form_.PeutAller() ? QString() : u"Rien n'est à remplir pour cette ligne"_s);
+    };
+    connect(grille, &VueGrille::Choisie, this, suivre);
+    suivre();
+  }
   if (!form_.Imprimable() && !form_.AvecChamps()) DefinirPrincipal(u"Fermer"_s);
   grille->setFocus(Qt::OtherFocusReason);
 }
