@@ -228,6 +228,15 @@ TEST_F(Principal, TheKeysOfTheWindow) {
   EXPECT_TRUE(Fenetre().Barre()->isAncestorOf(QApplication::focusWidget()));
   Touche(&Fenetre(), Qt::Key_F6);
   EXPECT_EQ(QApplication::focusWidget(), Arbre()) << "the zone gives back the last focus";
+  bool menuOuvert = false;
+  QTimer::singleShot(0, &Fenetre(), [&] {
+    menuOuvert = QApplication::activePopupWidget() != nullptr;
+    if (menuOuvert) QApplication::activePopupWidget()->close();
+  });
+  QTest::keyClick(Arbre(), Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_TRUE(menuOuvert) << "also where the keyboard has no key for it";
+  QApplication::setActiveWindow(&Fenetre());  // no window manager does it
+  Arbre()->setFocus();
 
   Touche(&Fenetre(), Qt::Key_3, Qt::ControlModifier);
   EXPECT_EQ(Pages(), (QStringList{"Accueil", "Repas", "Administration*"}));
