@@ -38,11 +38,9 @@ class DelegueGrille : public QStyledItemDelegate {
   /// What the style would say, without laying out each text for it: a list is measured at each change.
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QStyle& style = *option.widget->style();
-    const int marges = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1);
-    const QVariant police = index.data(Qt::FontRole);
-    const QFontMetricsF mesures(police.isValid() ? police.value<QFont>() : option.font);
-    int largeur = static_cast<int>(std::ceil(mesures.horizontalAdvance(index.data().toString()))) + marges;
-    if (index.data(Qt::DecorationRole).isValid()) largeur += Theme::Px(16) - Theme::Px(4) + marges;
+    const int marges = Marges(option);
+    int largeur = LargeurTexte(option, index, index.data().toString()) + marges;
+    if (index.data(Qt::DecorationRole).isValid()) largeur += Theme::Px(16) + 1;  // as `paint` places it
     if (index.data(Qt::CheckStateRole).isValid())
       largeur += style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget) + marges;
     return {largeur, std::max(Theme::Px(kHauteurLigne), option.fontMetrics.height() + 2)};
@@ -51,6 +49,8 @@ class DelegueGrille : public QStyledItemDelegate {
   /// A colour that says something holds on a chosen row, and gives way on a list that is off.
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
+    if (static_cast<const VueGrille*>(parent())->EstAbregee(index.column()))
+      if (const QVariant court = index.data(kTexteCourt); court.isValid()) option->text = court.toString();
     const QVariant couleur = index.data(Qt::ForegroundRole);
     if (!couleur.isValid()) return;
     if (!option->state.testFlag(QStyle::State_Enabled))
@@ -63,7 +63,7 @@ class DelegueGrille : public QStyledItemDelegate {
   /// A state is an icon and a word that stand close together; the rest is the style's.
   void paint(QPainter* peintre, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QVariant icone = index.data(Qt::DecorationRole);
-    if (!icone.isValid()) return QStyledItemDelegate::paint(peintre, option, index);
+    if (!icone.isValid()) return PeindreTexte(*peintre, option, index);
     option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, peintre, option.widget);
     const bool actif = option.state.testFlag(QStyle::State_Enabled);
     const int cote = Theme::Px(16), marge = Theme::Px(8);
@@ -80,6 +80,43 @@ class DelegueGrille : public QStyledItemDelegate {
   }
 
  private:
+  /// A text that is cut goes on into the empty cell behind it; each of the two cells draws its part.
+  void PeindreTexte(QPainter& peintre, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const QModelIndex avant = Voisine(option, index, -1);
+    const QModelIndex texte = avant.isValid() && Deborde(option, avant) ? avant : index;
+    if (!Deborde(option, texte)) return QStyledItemDelegate::paint(&peintre, option, index);
+    const auto& vue = static_cast<const QTreeView&>(*option.widget);
+    QStyleOptionViewItem deux = option;
+    deux.rect = vue.visualRect(texte).united(vue.visualRect(Voisine(option, texte, 1)));
+    peintre.save();
+    peintre.setClipRect(option.rect);
+    QStyledItemDelegate::paint(&peintre, deux, texte);
+    peintre.restore();
+  }
+  /// The cell that stands beside it, to the right with 1.
+  static QModelIndex Voisine(const QStyleOptionViewItem& option, const QModelIndex& index, int sens) {
+    const QHeaderView& tete = *static_cast<const QTreeView&>(*option.widget).header();
+    const int colonne = tete.logicalIndex(tete.visualIndex(index.column()) + sens);
+    return colonne < 0 ? QModelIndex() : index.siblingAtColumn(colonne);
+  }
+  bool Deborde(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const QModelIndex apres = Voisine(option, index, 1);
+    if (!apres.isValid() || !apres.data().toString().isEmpty() ||
+        !index.data(Qt::TextAlignmentRole).value<Qt::Alignment>().testFlag(Qt::AlignLeft))
+      return false;
+    const auto& vue = static_cast<const QTreeView&>(*option.widget);
+    return sizeHint(option, index).width() > vue.visualRect(index).width();
+  }
+  static int Marges(const QStyleOptionViewItem& option) {
+    const QStyle& style = *option.widget->style();
+    return 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1);
+  }
+  static int LargeurTexte(const QStyleOptionViewItem& option, const QModelIndex& index,
+                          const QString& texte) {
+    const QVariant police = index.data(Qt::FontRole);
+    const QFontMetricsF mesures(police.isValid() ? police.value<QFont>() : option.font);
+    return static_cast<int>(std::ceil(mesures.horizontalAdvance(texte)));
+  }
   /// In high contrast the ground of a chosen row is the accent itself.
   static bool SelectionEnAccent() { return Theme::Selection() == Theme::Couleur(TRole::Accent); }
 };
@@ -147,9 +184,14 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
     grille_.ChangerLargeur(colonne, static_cast<int>(std::lround(largeur * 96.0 / Theme::Px(96))));
     RetenirBientot();
   });
+  connect(header(), &QHeaderView::sectionResized, this, &VueGrille::Abreger);
   SuivreTitres(*header());
   connect(header(), &QHeaderView::sectionMoved, this, &VueGrille::RetenirBientot);
   connect(header(), &QHeaderView::sortIndicatorChanged, this, &VueGrille::RetenirBientot);
+  connect(header(), &QHeaderView::sortIndicatorChanged, this, [this] {
+    placeElargie_ = -1;  // its arrow needs room beside its title
+    RepartirPlusTard();
+  });
 }
 
 VueGrille::~VueGrille() {
