@@ -155,11 +155,11 @@ QToolButton[genre="onglet"]:focus { border: 2px solid @Accent; border-bottom: 3p
   border-radius: @4; padding: @4 @10; }
 QTabWidget::pane { border: 0; border-top: 1px solid @Ligne; }
 QTabBar { qproperty-drawBase: 0; }
-QTabBar::tab { border: 0; border-bottom: 3px solid transparent; padding: @4 @12; background: transparent;
-  color: @Secondaire; }
+QTabBar::tab { border: 2px solid transparent; border-bottom: 3px solid transparent; padding: @2 @10;
+  background: transparent; color: @Secondaire; }
 QTabBar::tab:hover { color: @Texte; }
 QTabBar::tab:selected { color: @Texte; border-bottom-color: @Accent; }
-QTabBar::tab:selected:focus { border: 2px solid @Accent; border-bottom: 3px solid @Accent; border-radius: @4; }
+QTabBar::tab:selected:focus { border-color: @Accent; border-radius: @4; }
 QStatusBar::item { border: 0; }
 QMenu::separator { height: 1px; margin: @4 0; background: @Ligne; }
 QAbstractItemView { selection-color: @SurSelection; }
