@@ -149,9 +149,8 @@ bool TChamps::Choisir(int champ, int valeur) {
 bool TChamps::Prendre(int champ, const TValeurVue& valeur) {
   TEtat& etat = etats_[Place(champ)];
   if (quand_ == Aussitot && (EcrireToujours || valeur != etat.Depart)) return Conserver(champ, valeur);
-  const TValeurVue depart = etat.Depart;
-  Montrer(champ, valeur);
-  etat.Depart = depart;
+  etat = {TexteDuChamp(Champ(champ), valeur), valeur, etat.Depart, {}, false};
+  SurChangement(champ);  // who follows sees that it is not stored
   return true;
 }
 

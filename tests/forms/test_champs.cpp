@@ -140,7 +140,10 @@ TEST(ChampsDUnPanneau, SEcriventEnsemble) {
   EXPECT_FALSE(champs.Verifier()) << "a price nobody touched does not convert";
   EXPECT_EQ(foyers, std::vector<int>{Prix});
   champs.Montrer(&fiche);
+  bool modifies = false;
+  const TLien suite = champs.SurChangement.Suivre([&](int) { modifies = champs.Modifies(); });
   champs.Taper(Nom, u"Zoé"_s);
+  EXPECT_TRUE(champs.Quitter(Nom) && modifies) << "who follows sees that it is not stored";
   champs.Taper(Prix, u"3"_s);
   EXPECT_TRUE(champs.Verifier() && champs.Modifies());
   EXPECT_EQ(fiche.Nom, u"Léa");

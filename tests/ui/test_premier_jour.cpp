@@ -1,10 +1,9 @@
-// A school sets itself up from an empty database, in the present year, by keys; the source of the scans
-// apart.
+// A school sets itself up from an empty database, in the present year, by keys.
 #include <QMenu>
+#include <QTimer>
 
 #include "screens/documents/frm_apercu.h"
 #include "support/fichier_registre.h"
-#include "ui/attendance/vue_presences.h"
 #include "ui/documents/vue_apercu.h"
 #include "ui/reglages_essai.h"
 
@@ -47,6 +46,23 @@ class PremierJour : public TReglagesEssai {
     Presser({Qt::Key_Space});
   }
   using TReglagesEssai::Activer;
+  /// The button opens a menu, whose entry the arrows choose.
+  void ActiverMenu(const QString& bouton, const QString& entree) {
+    Jusqu(bouton);
+    QWidget& ici = Ici();
+    QTimer::singleShot(0, &ici, [entree] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      ASSERT_NE(menu, nullptr);
+      const auto choisie = [menu] {
+        return menu->activeAction() != nullptr ? menu->activeAction()->text() : QString();
+      };
+      for (int i = 0; i < 9 && choisie() != entree; ++i) QTest::keyClick(menu, Qt::Key_Down);
+      EXPECT_EQ(choisie(), entree);
+      QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QTest::keyClick(&ici, Qt::Key_Space);
+    QCoreApplication::processEvents();
+  }
   void Choisir(const QString& liste, int indice) {
     Jusqu(liste);
     Presser({Qt::Key_Home});
@@ -119,9 +135,7 @@ TEST_F(PremierJour, FromNothingToTheFirstInvoiceByKeyboardAlone) {
   QTRY_COMPARE(Programme.Main().CommandeOuverte()->Nom(), u"Présences");  // a mnemonic clicks a moment later
   OuvreFichier("Importer un fichier de présence",
                Base.Fichier("scans.txt", "12341;1;20261103;073000;1\n12341;1;20261104;074500;1\n"));
-  Jusqu("Source : scanner local");
-  for (QAction* source : Programme.Vue<VuePresences>()->findChild<QMenu*>()->actions())
-    if (source->text() == "Importer un fichier de présence") source->trigger();
+  ActiverMenu("Source : scanner local", "Importer un fichier de présence");
   Programme.Dialogues.Attend("Les présences ont été mémorisées.");
   Activer("Etape n°2 : Mémoriser les présences");
   EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM PRESENCES"), "2");

@@ -206,6 +206,21 @@ TEST_F(Principal, TheSearchChoosesAPupil) {
   EXPECT_EQ(Globals.EleveCourant->Nom, u"Pirard") << "the pupil is current at once";
 }
 
+TEST_F(Principal, TheHandStaysInTheTreeWhenARefusedTextGoesWithItsPupil) {
+  DemarrerLEcole();
+  QTest::keyClicks(Recherche(), u"dub"_s);
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
+  auto* date = Fenetre().findChild<QLineEdit*>(u"lblDateNaissance"_s);
+  date->setFocus();
+  QTest::keyClicks(date, u"31/02/2010"_s);
+  const QRect autre = Arbre()->visualRect(Arbre()->indexAbove(Arbre()->currentIndex()));
+  QTest::mouseClick(Arbre()->viewport(), Qt::LeftButton, {}, autre.center());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Globals.EleveCourant->Nom, u"Bastin");
+  EXPECT_TRUE(Etat().startsWith(u"Abandonné"_s)) << Etat().toStdString();
+  EXPECT_EQ(QApplication::focusWidget(), Arbre()) << "what is typed next is for nobody's date";
+}
+
 TEST_F(Principal, TheKeysOfTheWindow) {
   DemarrerLEcole();
   Arbre()->setFocus();
@@ -213,6 +228,15 @@ TEST_F(Principal, TheKeysOfTheWindow) {
   EXPECT_TRUE(Fenetre().Barre()->isAncestorOf(QApplication::focusWidget()));
   Touche(&Fenetre(), Qt::Key_F6);
   EXPECT_EQ(QApplication::focusWidget(), Arbre()) << "the zone gives back the last focus";
+  bool menuOuvert = false;
+  QTimer::singleShot(0, &Fenetre(), [&] {
+    menuOuvert = QApplication::activePopupWidget() != nullptr;
+    if (menuOuvert) QApplication::activePopupWidget()->close();
+  });
+  QTest::keyClick(Arbre(), Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_TRUE(menuOuvert) << "also where the keyboard has no key for it";
+  QApplication::setActiveWindow(&Fenetre());  // no window manager does it
+  Arbre()->setFocus();
 
   Touche(&Fenetre(), Qt::Key_3, Qt::ControlModifier);
   EXPECT_EQ(Pages(), (QStringList{"Accueil", "Repas", "Administration*"}));

@@ -39,8 +39,13 @@ void ConstruireArbre(TArbre& arbre, bool avecEleves, bool avecRadies) {
 }
 
 void RenommerSites(TArbre& arbre) {
-  for (const auto& racine : arbre.Racines())
-    if (const TImplantation* site = racine->Objet.En<TImplantation>())
-      racine->Texte = site->LibelleCourt.trimmed().isEmpty() ? site->Code : site->LibelleCourt;
-  arbre.Annoncer();
+  bool change = false;
+  for (const auto& racine : arbre.Racines()) {
+    const TImplantation* site = racine->Objet.En<TImplantation>();
+    if (site == nullptr) continue;
+    const QString texte = site->LibelleCourt.trimmed().isEmpty() ? site->Code : site->LibelleCourt;
+    change = change || racine->Texte != texte;
+    racine->Texte = texte;
+  }
+  if (change) arbre.Annoncer();
 }

@@ -74,6 +74,7 @@ TFrmMain::TFrmMain(TDataModule1& base, TReglagesPoste& reglages, const THorloge&
   liens_ += Panneau.SurEtape.Suivre([this](TForm& form, TEtapeForm etape) {
     if (etape == TEtapeForm::Affichee) {
       accueilDevant_ = false;
+      RenommerSites(Arbre);  // the screen that names them may stand behind, and is not closed yet
       ecran_ = form.SurCommandes.Suivre([this] { SurOutils(); });
     }
     SurEtape(form, etape);

@@ -102,7 +102,7 @@ QLayout* VuePresences::Comptes() {
 
 void VuePresences::Disposer() {
   titreAnomalies_->AjouterAction(corriger_);
-  AjouterFiltreEtCopie(*titreRecapitulatif_, *recapitulatif_, u"Filtrer le récapitulatif"_s);
+  AjouterFiltreEtCopie(*titreRecapitulatif_, *recapitulatif_);
 
   QVBoxLayout* colonne = ColonneEcran(*this, u"Présences"_s);
   colonne->addLayout(Etapes());

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "core/mois.h"
 #include "ui/commun/marque_etat.h"
 #include "ui/commun/texte.h"
 #include "ui/commun/theme.h"
@@ -24,6 +25,14 @@ Qt::Alignment Alignement(TGenre genre) {
 }
 
 }  // namespace
+
+QVariant TexteCourt(TGenre genre, const TValeurVue& valeur) {
+  if (const int* mois = std::get_if<int>(&valeur); mois != nullptr && genre == TGenre::Mois)
+    return *mois == 0 ? QVariant() : NomMoisCourt(*mois);
+  const TDateTime* jour = std::get_if<TDateTime>(&valeur);
+  if (jour == nullptr || *jour == 0.0 || genre != TGenre::DateLongue) return {};
+  return TexteDe(TGenre::DateCourte, valeur);
+}
 
 ModeleGrille::ModeleGrille(TGrille& grille, QObject* parent) : QAbstractItemModel(parent), grille_(grille) {
   plan_ = Dresser();
@@ -103,6 +112,8 @@ QVariant ModeleGrille::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return EstMontant(grille_.Colonne(colonne).Genre) ? TypographieMontant(grille_.Texte(ligne, colonne))
                                                         : grille_.Texte(ligne, colonne);
+    case kTexteCourt:
+      return TexteCourt(grille_.Colonne(colonne).Genre, grille_.Ligne(ligne).Valeur(colonne));
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(Alignement(grille_.Colonne(colonne).Genre));
     case Qt::CheckStateRole:

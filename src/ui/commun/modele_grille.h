@@ -5,6 +5,12 @@
 
 #include "forms/grille.h"
 
+/// What a cell shows where its column is too narrow for its text: a month or a day in short. Invalid for a
+/// value that has no shorter form.
+QVariant TexteCourt(TGenre genre, const TValeurVue& valeur);
+/// The role under which the model gives it.
+inline constexpr int kTexteCourt = Qt::UserRole;
+
 /// The rows of a TGrille for a Qt view: heads with their groups below them, other rows on the first
 /// level.
 class ModeleGrille : public QAbstractItemModel {

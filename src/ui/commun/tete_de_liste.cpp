@@ -7,19 +7,22 @@
 
 namespace {
 
-/// What the title of a column has for itself, as the style places it.
-int PlaceDuTitre(const QHeaderView& tete, int colonne) {
+/// What stands beside the title of a column, as the style places it.
+int AutourDuTitre(const QHeaderView& tete, int colonne) {
   const int marge = tete.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &tete);
   const int fleche = tete.style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &tete) + 2;
-  const bool triee = tete.sortIndicatorSection() == colonne;
-  return tete.sectionSize(colonne) - 2 * marge - (triee ? fleche : 0);
+  return 2 * marge + (tete.sortIndicatorSection() == colonne ? fleche : 0);
+}
+
+QString TitreDe(const QHeaderView& tete, int colonne) {
+  return tete.model()->headerData(colonne, Qt::Horizontal).toString();
 }
 
 void Ajuster(QHeaderView& tete) {
   bool deux = false;
   for (int colonne = 0; colonne < tete.count() && !deux; ++colonne) {
-    const QString titre = tete.model()->headerData(colonne, Qt::Horizontal).toString();
-    deux = TitreEnLignes(titre, PlaceDuTitre(tete, colonne)).contains(u'\n');
+    const int place = tete.sectionSize(colonne) - AutourDuTitre(tete, colonne);
+    deux = TitreEnLignes(TitreDe(tete, colonne), place).contains(u'\n');
   }
   const int hauteur = deux ? 2 * QFontMetrics(Theme::Gras()).height() + Theme::Px(8) : 0;
   if (tete.minimumHeight() == hauteur) return;
@@ -36,6 +39,11 @@ QString TitreEnLignes(const QString& titre, int largeur) {
   while (coupure > 0 && mesures.horizontalAdvance(titre.first(coupure)) > largeur)
     coupure = titre.lastIndexOf(u' ', coupure - 1);
   return coupure > 0 ? QString(titre).replace(coupure, 1, u'\n') : titre;
+}
+
+int LargeurDuTitre(const QHeaderView& tete, int colonne) {
+  return QFontMetrics(Theme::Gras()).horizontalAdvance(TitreDe(tete, colonne)) + 1 +
+         AutourDuTitre(tete, colonne);
 }
 
 void SuivreTitres(QHeaderView& tete) {

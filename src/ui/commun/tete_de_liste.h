@@ -7,5 +7,8 @@ class QHeaderView;
 /// blank where it can be parted.
 QString TitreEnLignes(const QString& titre, int largeur);
 
+/// What the title of a column takes on one line, with the arrow of the column that orders the list.
+int LargeurDuTitre(const QHeaderView& tete, int colonne);
+
 /// From now on the head has room for two lines as long as a title needs them.
 void SuivreTitres(QHeaderView& tete);

@@ -3,6 +3,7 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPointer>
@@ -154,11 +155,11 @@ QToolButton[genre="onglet"]:focus { border: 2px solid @Accent; border-bottom: 3p
   border-radius: @4; padding: @4 @10; }
 QTabWidget::pane { border: 0; border-top: 1px solid @Ligne; }
 QTabBar { qproperty-drawBase: 0; }
-QTabBar::tab { border: 0; border-bottom: 3px solid transparent; padding: @4 @12; background: transparent;
-  color: @Secondaire; }
+QTabBar::tab { border: 2px solid transparent; border-bottom: 3px solid transparent; padding: @2 @10;
+  background: transparent; color: @Secondaire; }
 QTabBar::tab:hover { color: @Texte; }
 QTabBar::tab:selected { color: @Texte; border-bottom-color: @Accent; }
-QTabBar::tab:selected:focus { border: 2px solid @Accent; border-bottom: 3px solid @Accent; border-radius: @4; }
+QTabBar::tab:selected:focus { border-color: @Accent; border-radius: @4; }
 QStatusBar::item { border: 0; }
 QMenu::separator { height: 1px; margin: @4 0; background: @Ligne; }
 QAbstractItemView { selection-color: @SurSelection; }
@@ -184,7 +185,8 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 
 /// Follows the system, keeps the wheel away from fields without focus and a letter with Alt out of them
 /// (the shortcut of a command that is off), and lets Enter press the button that has the focus: Qt does
-/// so in dialogs only, and there the default button would win over it.
+/// so in dialogs only, and there the default button would win over it. Shift+F10 opens the menu of what has
+/// the focus where Qt knows the key of that menu only, which many keyboards do not have.
 class Gardien : public QObject {
  public:
   Gardien(QApplication& application, Theme::TMode mode)
@@ -210,7 +212,7 @@ class Gardien : public QObject {
     if (type == QEvent::Wheel) return RetenirMolette(objet, evenement);
     if (type == QEvent::KeyPress) {
       const auto* touche = static_cast<QKeyEvent*>(evenement);
-      return PresserBouton(objet, touche) || RetenirAlt(objet, touche);
+      return PresserBouton(objet, touche) || RetenirAlt(objet, touche) || OuvrirMenu(objet, touche);
     }
     if (objet == &application_ && (type == QEvent::ThemeChange || type == QEvent::ApplicationPaletteChange ||
                                    type == QEvent::ApplicationFontChange))
@@ -249,6 +251,20 @@ class Gardien : public QObject {
   static bool RetenirAlt(const QObject* objet, const QKeyEvent* touche) {
     return touche->modifiers() == Qt::AltModifier && !touche->text().isEmpty() &&
            qobject_cast<const QLineEdit*>(objet) != nullptr;
+  }
+
+  static bool OuvrirMenu(QObject* objet, const QKeyEvent* touche) {
+    auto* champ = qobject_cast<QWidget*>(objet);
+    if (touche->key() != Qt::Key_F10 || touche->modifiers() != Qt::ShiftModifier || !champ ||
+        !champ->hasFocus() || champ->contextMenuPolicy() == Qt::PreventContextMenu)
+      return false;
+#ifdef Q_OS_WIN
+    return false;  // the system does it
+#else
+    const QPoint place = champ->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, place, champ->mapToGlobal(place));
+    return QCoreApplication::sendEvent(champ, &menu) && menu.isAccepted();
+#endif
   }
 
   QApplication& application_;

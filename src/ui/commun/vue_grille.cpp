@@ -11,15 +11,14 @@
 #include <QPainter>
 #include <QResizeEvent>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <QToolTip>
 #include <cmath>
-#include <unordered_map>
 
 #include "core/fichiers.h"
 #include "core/nom_fichier.h"
 #include "screens/commun/nom_de_liste.h"
 #include "ui/commun/champ_filtre.h"
+#include "ui/commun/delegue_grille.h"
 #include "ui/commun/menu_grille.h"
 #include "ui/commun/modele_grille.h"
 #include "ui/commun/tete_de_liste.h"
@@ -29,78 +28,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kHauteurLigne = 27;
-constexpr std::size_t kTextesGardes = 4096;
-
-struct THachage {
-  std::size_t operator()(const std::pair<QString, bool>& cle) const { return qHash(cle.first, cle.second); }
-};
-
-class DelegueGrille : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  /// What the style would say, without laying out each text for it: a list is measured at each change.
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    const QStyle& style = *option.widget->style();
-    const int marges = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1);
-    int largeur = Largeur(index.data().toString(), index.data(Qt::FontRole), option.font) + marges;
-    if (index.data(Qt::DecorationRole).isValid()) largeur += Theme::Px(16) - Theme::Px(4) + marges;
-    if (index.data(Qt::CheckStateRole).isValid())
-      largeur += style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget) + marges;
-    return {largeur, std::max(Theme::Px(kHauteurLigne), option.fontMetrics.height() + 2)};
-  }
-
-  /// A colour that says something holds on a chosen row, and gives way on a list that is off.
-  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-    QStyledItemDelegate::initStyleOption(option, index);
-    const QVariant couleur = index.data(Qt::ForegroundRole);
-    if (!couleur.isValid()) return;
-    if (!option->state.testFlag(QStyle::State_Enabled))
-      option->palette.setColor(QPalette::Text,
-                               option->widget->palette().color(QPalette::Disabled, QPalette::Text));
-    else if (!SelectionEnAccent())
-      option->palette.setColor(QPalette::HighlightedText, couleur.value<QColor>());
-  }
-
-  /// A state is an icon and a word that stand close together; the rest is the style's.
-  void paint(QPainter* peintre, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    const QVariant icone = index.data(Qt::DecorationRole);
-    if (!icone.isValid()) return QStyledItemDelegate::paint(peintre, option, index);
-    option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, peintre, option.widget);
-    const bool actif = option.state.testFlag(QStyle::State_Enabled);
-    const int cote = Theme::Px(16), marge = Theme::Px(8);
-    QRect place = option.rect.adjusted(marge, 0, -Theme::Px(4), -1);  // above the hairline, as the texts
-    icone.value<QIcon>().paint(peintre, QRect(place.x(), place.center().y() - cote / 2, cote, cote),
-                               Qt::AlignCenter, actif ? QIcon::Normal : QIcon::Disabled);
-    place.adjust(cote + Theme::Px(4), 0, 0, -1);  // where the style puts the other texts of the row
-    const bool surAccent = option.state.testFlag(QStyle::State_Selected) && SelectionEnAccent();
-    peintre->setPen(surAccent ? Theme::SurSelection()
-                    : actif   ? index.data(Qt::ForegroundRole).value<QColor>()
-                              : option.palette.color(QPalette::Disabled, QPalette::Text));
-    peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
-                      option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, place.width()));
-  }
-
- private:
-  /// In high contrast the ground of a chosen row is the accent itself.
-  static bool SelectionEnAccent() { return Theme::Selection() == Theme::Couleur(TRole::Accent); }
-
-  /// Kept: from one pupil to the next most texts of a list are the same, and shaping them is what costs.
-  int Largeur(const QString& texte, const QVariant& police, const QFont& usuelle) const {
-    if (usuelle != usuelle_ || largeurs_.size() > kTextesGardes) largeurs_.clear();
-    usuelle_ = usuelle;
-    const QFont voulue = police.isValid() ? police.value<QFont>() : usuelle;
-    const auto [place, nouvelle] = largeurs_.try_emplace({texte, voulue.bold()}, 0);
-    if (nouvelle) place->second = static_cast<int>(std::ceil(QFontMetricsF(voulue).horizontalAdvance(texte)));
-    return place->second;
-  }
-
-  mutable QFont usuelle_;
-  /// By text, and by whether it is bold.
-  mutable std::unordered_map<std::pair<QString, bool>, int, THachage> largeurs_;
-};
 
 /// Sets a flag while it lives.
 class Pendant {
@@ -126,7 +53,7 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
   grille.Filtre.clear();  // of a view that is gone
   setAccessibleName(nom);
   setModel(filtre_);
-  setItemDelegate(new DelegueGrille(this));
+  setItemDelegate(new DelegueGrille(*this));
   setUniformRowHeights(true);
   setAllColumnsShowFocus(true);
   setSelectionMode(SingleSelection);
@@ -165,9 +92,14 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
     grille_.ChangerLargeur(colonne, static_cast<int>(std::lround(largeur * 96.0 / Theme::Px(96))));
     RetenirBientot();
   });
+  connect(header(), &QHeaderView::sectionResized, this, &VueGrille::Abreger);
   SuivreTitres(*header());
   connect(header(), &QHeaderView::sectionMoved, this, &VueGrille::RetenirBientot);
   connect(header(), &QHeaderView::sortIndicatorChanged, this, &VueGrille::RetenirBientot);
+  connect(header(), &QHeaderView::sortIndicatorChanged, this, [this] {
+    placeElargie_ = -1;  // its arrow needs room beside its title
+    RepartirPlusTard();
+  });
 }
 
 VueGrille::~VueGrille() {
@@ -398,7 +330,7 @@ void VueGrille::MontrerLigne(int ligne) {
 
 int VueGrille::HauteurPour(int lignes) const {
   const int tete = std::max(header()->minimumHeight(), header()->sizeHint().height());
-  return tete + lignes * Theme::Px(kHauteurLigne) + 2 * frameWidth();
+  return tete + lignes * DelegueGrille::HauteurLigne() + 2 * frameWidth();
 }
 
 void VueGrille::resizeEvent(QResizeEvent* evenement) {

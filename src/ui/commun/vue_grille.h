@@ -2,9 +2,11 @@
 #include <QPointer>
 #include <QTreeView>
 #include <functional>
+#include <set>
 
 #include "forms/grille.h"
 #include "ui/commun/largeurs_colonnes.h"
+#include "ui/commun/mesure_textes.h"
 
 class ChampFiltre;
 class ModeleGrille;
@@ -36,6 +38,9 @@ class VueGrille : public QTreeView {
   std::vector<int> ColonnesVues() const;
   /// Both keep the same widths, whichever of them is drawn.
   static void Accorder(VueGrille& a, VueGrille& b);
+  /// The column is too narrow for its texts, which all have a shorter form.
+  bool EstAbregee(int colonne) const { return courtes_.contains(colonne); }
+  const MesureTextes& Mesures() const { return mesures_; }
   /// The height for so many rows, its header included.
   int HauteurPour(int lignes) const;
   /// The scroll bar keeps its place even when there is nothing to scroll (see PiedDeGrille).
@@ -88,6 +93,8 @@ class VueGrille : public QTreeView {
   void RepartirPlusTard();
   void SuivreLargeurs(const VueGrille& autre);
   int LargeurContenu(int colonne) const;
+  int MoindreContenu(int colonne) const;
+  void Abreger(int colonne);
   std::vector<TBesoinColonne> Besoins(int place) const;
   void Repartir();
   void RetenirBientot();
@@ -105,6 +112,8 @@ class VueGrille : public QTreeView {
   ChampFiltre* champ_ = nullptr;
   std::function<QStringList()> precisions_;
   QPointer<VueGrille> jumelle_;  ///< has the same widths
+  MesureTextes mesures_;
+  std::set<int> courtes_;  ///< columns whose texts stand in short
   int souple_ = -1;
   bool tracees_ = false;  ///< the user has drawn a width
   mutable std::vector<TBesoinColonne>

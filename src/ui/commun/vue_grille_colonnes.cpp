@@ -10,6 +10,8 @@
 
 #include "core/reglages_poste.h"
 #include "ui/commun/largeurs_colonnes.h"
+#include "ui/commun/modele_grille.h"
+#include "ui/commun/tete_de_liste.h"
 #include "ui/commun/theme.h"
 #include "ui/commun/vue_grille.h"
 
@@ -21,6 +23,21 @@ namespace {
 /// declares, at the cost of the other columns.
 constexpr int kMoindreNom = 140;
 constexpr int kAssezPourUnNom = 220;
+/// The icon of a state and the beginning of its word.
+constexpr int kMoindreEtat = 104;
+
+/// What a column takes when its texts stand in their short form; 0 when they have none.
+int LargeurCourte(const VueGrille& vue, int colonne) {
+  const int marges = 2 * (vue.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &vue) + 1);
+  const TGrille& grille = vue.Grille();
+  int largeur = 0;
+  for (int ligne = 0; ligne < grille.NombreLignes(); ++ligne) {
+    const QVariant court = TexteCourt(grille.Colonne(colonne).Genre, grille.Ligne(ligne).Valeur(colonne));
+    if (court.isValid())
+      largeur = std::max(largeur, vue.Mesures().Largeur(court.toString(), vue.font()) + marges);
+  }
+  return largeur;
+}
 
 }  // namespace
 
@@ -73,8 +90,19 @@ void VueGrille::SuivreLargeurs(const VueGrille& autre) {
 }
 
 int VueGrille::LargeurContenu(int colonne) const {
-  const int ici = std::max(sizeHintForColumn(colonne), header()->sectionSizeHint(colonne));
+  const int ici = std::max(sizeHintForColumn(colonne), LargeurDuTitre(*header(), colonne));
   return jumelle_ ? std::max(ici, jumelle_->sizeHintForColumn(colonne)) : ici;
+}
+
+/// The least that a column may come down to beside a name that lacks room.
+int VueGrille::MoindreContenu(int colonne) const {
+  const int contenu = LargeurContenu(colonne);
+  if (EstMontant(grille_.Colonne(colonne).Genre))  // a sum under them may be wider than they are
+    return std::max(contenu, header()->sectionSizeHint(colonne));
+  int court = LargeurCourte(*this, colonne);
+  if (jumelle_) court = std::max(court, LargeurCourte(*jumelle_, colonne));
+  if (grille_.Colonne(colonne).Genre == TGenre::Etat) court = Theme::Px(kMoindreEtat);
+  return court == 0 ? contenu : std::min(contenu, std::max(court, LargeurDuTitre(*header(), colonne)));
 }
 
 /// What each column would take; the least of those that may give way is measured only when it matters.
@@ -105,12 +133,13 @@ std::vector<TBesoinColonne> VueGrille::Besoins(int place) const {
   }
   for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) {
     TBesoinColonne& besoin = besoins[static_cast<std::size_t>(colonne)];
-    const int contenu = LargeurContenu(colonne);
-    if (colonne == souple)
+    if (colonne == souple) {
+      const int contenu = LargeurContenu(colonne);
       besoin = {std::min(contenu, Theme::Px(std::max(grille_.Colonne(souple).Largeur, kAssezPourUnNom))),
                 std::min(contenu, Theme::Px(kMoindreNom))};
-    else
-      besoin.Moindre = std::min(besoin.Voulue, contenu);
+    } else {
+      besoin.Moindre = std::min(besoin.Voulue, MoindreContenu(colonne));
+    }
   }
   return besoins;
 }
@@ -160,6 +189,16 @@ void VueGrille::Repartir() {
   for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne)
     if (colonne != souple || !tient)
       header()->resizeSection(colonne, largeurs[static_cast<std::size_t>(colonne)]);
+  courtes_.clear();
+  for (int colonne = 0; colonne < grille_.NombreColonnes(); ++colonne) Abreger(colonne);
+}
+
+/// All texts of a column stand in short as soon as one of them would be cut.
+void VueGrille::Abreger(int colonne) {
+  courtes_.erase(colonne);
+  if (LargeurCourte(*this, colonne) == 0) return;
+  const int texte = std::max(sizeHintForColumn(colonne), jumelle_ ? jumelle_->sizeHintForColumn(colonne) : 0);
+  if (header()->sectionSize(colonne) < texte) courtes_.insert(colonne);
 }
 
 /// Once the hand has let go of the column, not at each pixel.

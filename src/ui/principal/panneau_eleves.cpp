@@ -171,7 +171,12 @@ void PanneauEleves::CreerArbre() {
   arbre_->setTabKeyNavigation(false);
   arbre_->header()->setStretchLastSection(true);
   connect(arbre_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-          [this](const QModelIndex& choisi) { form_.ChoisirNoeud(modele_->Noeud(choisi)); });
+          [this](const QModelIndex& choisi) {
+            const bool ici = arbre_->hasFocus();
+            form_.ChoisirNoeud(modele_->Noeud(choisi));
+            // A text that is refused calls the hand to its field, which is another pupil's by now.
+            if (ici) arbre_->setFocus(Qt::OtherFocusReason);
+          });
   connect(arbre_, &QTreeView::collapsed, this, [this](const QModelIndex& index) { NoterPli(index, false); });
   connect(arbre_, &QTreeView::expanded, this, [this](const QModelIndex& index) { NoterPli(index, true); });
   connect(arbre_, &QWidget::customContextMenuRequested, this, [this](const QPoint& position) {

@@ -52,6 +52,7 @@ VueSignaletique::VueSignaletique(TFrmSignaletique& form, QWidget* parent)
   setFrameShape(NoFrame);
   setFocusPolicy(Qt::NoFocus);
   identite_ = new FicheIdentite(form);
+  identite_->setAccessibleName(u"Signalétique"_s);
   blocReleve_ = CreerReleve();
   blocFrais_ = CreerFrais();
   setWidget(contenu_);

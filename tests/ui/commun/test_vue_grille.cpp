@@ -140,6 +140,34 @@ TEST(VueGrille, NeCoupePasUnMontant) {
             vue.fontMetrics().horizontalAdvance(u"1\u00A0000\u00A0182,90\u00A0€"_s) + 2 * Theme::Px(7));
 }
 
+TEST(VueGrille, UnJourEtUnMoisSAbregentEtUnNomContinueDansLaCelluleVide) {
+  TGrille grille({{u"Nom"_s, 271},
+                  {u"Prénom"_s, 120},
+                  {u"Date"_s, 180, TGenre::DateLongue},
+                  {u"Mois"_s, 110, TGenre::Mois}});
+  grille.Ajouter({u"Matricule inconnu (553799999)"_s, QString(), J("2018-11-07"), 9});
+  VueGrille vue(grille, u"Relevés"_s, {});
+  Montrer(vue);
+  vue.resize(400, 300);
+  for (int i = 0; i < 3; ++i) QApplication::processEvents();
+  EXPECT_LE(vue.header()->length(), vue.viewport()->width()) << "it does not scroll";
+  for (const int colonne : {2, 3})
+    EXPECT_LT(vue.header()->sectionSize(colonne),
+              static_cast<QAbstractItemView&>(vue).sizeHintForColumn(colonne));
+  const auto ecrit = [&](const QString& prenom) {
+    grille.Ecrire(0, 1, prenom);
+    const QRect place = vue.visualRect(vue.model()->index(0, 1)).adjusted(0, 4, 0, -4);
+    const QImage image = vue.viewport()->grab(place).toImage();
+    int points = 0;
+    for (int x = 0; x < image.width() / 4; ++x)
+      for (int y = 0; y < image.height(); ++y)
+        points += image.pixel(x, y) != image.pixel(image.width() - 1, y);
+    return points;
+  };
+  EXPECT_GT(ecrit({}), 0) << "the name goes on";
+  EXPECT_EQ(ecrit(u" "_s), 0) << "behind what is not empty it is cut";
+}
+
 TEST(VueGrille, PlieLesGroupesAuClavier) {
   TGrille grille({{u"Catégorie"_s, 160}, {u"Montant"_s, 80, TGenre::Montant}});
   const auto remplir = [&] {

@@ -199,7 +199,9 @@ TEST_F(Parametres, MaintenanceByMouseAndKeyboard) {
   Programme.Dialogues.Saisit("Paramètre", "113").Saisit("Valeur actuelle : 1", "");
   QTest::keyClick(etape1, Qt::Key_Menu, Qt::ShiftModifier);
   EXPECT_EQ(Base.Rangees("SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = 113"), QStringList(""));
-  Programme.Dialogues.Saisit("Paramètre", "abc").Saisit("Paramètre", "0").Clique("« 0 » n'est pas le numéro", "Annuler");
+  Programme.Dialogues.Saisit("Paramètre", "abc")
+      .Saisit("Paramètre", "0")
+      .Clique("« 0 » n'est pas le numéro", "Annuler");
   QTest::keyClick(etape1, Qt::Key_Menu, Qt::ShiftModifier);
   QTest::mouseClick(etape1, Qt::RightButton);
 
@@ -243,15 +245,16 @@ TEST_F(MonEcole, ASiteTakesItsShortNameAndTheTreeFollowsOnClosing) {
   Base.Sql(
       "INSERT INTO IMPLANTATION (IMPLANTATION_ID, CODE_IMPLANTATION, LIBELLE_COURT, ADRESSE) VALUES "
       "(91, 'S2', 'Gare', 'Quai')");
-  Demarrer(TGestionnaire::AdvGlowButton3Click);
+  Demarrer(TGestionnaire::AdvGlowButton2Click);
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton3Click);
   Saisir("edLibelleCourt", "Tilleuls");
   const QString site = "SELECT LIBELLE_COURT || ADRESSE FROM IMPLANTATION WHERE CODE_IMPLANTATION = 'S1'";
   EXPECT_EQ(Base.Valeur(site), "TilleulsRue Haute");
   EXPECT_EQ(Form<TFrmMonEcole>().grdImplantation.Texte(0, 1), "Tilleuls");
   TArbre& arbre = Programme.Main().Arbre;
   EXPECT_EQ(arbre.Premier()->Texte, "Centre");
-  Programme.Ouvrir(TGestionnaire::AdvGlowButton6Click);
-  EXPECT_EQ(arbre.Premier()->Texte, "Tilleuls");
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
+  EXPECT_EQ(arbre.Premier()->Texte, "Tilleuls") << "the record comes in front of a screen that stays open";
   Programme.Ouvrir(TGestionnaire::AdvGlowButton3Click);
   Base.Sql("DELETE FROM IMPLANTATION WHERE CODE_IMPLANTATION = 'S1'");
   Saisir("edLibelleCourt", "Autre");
