@@ -22,6 +22,9 @@ VueRepartition::VueRepartition(TFrmRepartition& form, QWidget* parent)
       reste_(new MarqueEtat) {
   Contenu()->addLayout(CreerParts());
   Contenu()->addLayout(CreerEleves(), 1);
+  // A part is typed and left towards what comes next, not onto the button that takes its pupil out.
+  setTabOrder(parts_, retirer_);
+  setTabOrder(retirer_, liaison_->Widget(u"edPart"_s));
   DefinirPrincipal(u"Répartir"_s, u"dialog-ok-apply"_s);
   connect(AjouterBouton(u"&Selon les soldes dus"_s), &QPushButton::clicked, this,
           [this] { form_.btnRepartirClick(); });
@@ -37,9 +40,6 @@ QLayout* VueRepartition::CreerParts() {
   QWidget* part = liaison_->Widget(u"edPart"_s);
   retirer_ = BoutonSimple(u"&Retirer"_s);
   connect(retirer_, &QPushButton::clicked, this, [this] { form_.btnRetirerClick(); });
-  // A part is typed and left towards what comes next, not onto the button that takes its pupil out.
-  setTabOrder(parts_, retirer_);
-  setTabOrder(retirer_, part);
   auto* rang = new QHBoxLayout;
   rang->setSpacing(Theme::Px(8));
   rang->addWidget(CreerLibelleDeRang(u"Part de l'élève choisi:"_s, part), 0, Qt::AlignTop);
