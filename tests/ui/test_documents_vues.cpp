@@ -11,6 +11,7 @@
 
 #include "documents/catalogue.h"
 #include "pupils/eleves.h"
+#include "screens/documents/frm_manques.h"
 #include "screens/payments/frm_date_paiement.h"
 #include "support/outil.h"
 #include "ui/commun/champ_filtre.h"
@@ -21,6 +22,7 @@
 #include "ui/documents/impression.h"
 #include "ui/documents/pages_apercu.h"
 #include "ui/documents/vue_apercu.h"
+#include "ui/documents/vue_manques.h"
 #include "ui/documents/vue_print_wizard.h"
 #include "ui/programme_essai.h"
 #include "ui/verifier_vue.h"
@@ -347,6 +349,12 @@ TEST_F(DocumentsVues, WithinReachOfEveryone) {
     vue->resize(1366, 768);
     return vue;
   });
+  TResultat incomplet = FaireDocument(ContexteDesGlobals(programme.Horloge), *TrouverTitre(u"Facture"), {});
+  incomplet.Manques = {{Globals.Eleves->Tous().front(), u"lblDateNaissance"_s, u"pas de date de naissance"_s},
+                       {nullptr, {}, u"pas de numéro d'entreprise"_s}};
+  TFrmManques manques(incomplet, true);
+  VerifierVuePartout([&] { return std::make_unique<VueManques>(manques, nullptr); });
+  EXPECT_LE(VueManques(manques, nullptr).minimumSizeHint().width(), Theme::Px(960)) << "the smallest screen";
   TModaleGeste modale;
   const TContexteEcran contexte{tout.Main.Controleur, modale, *tout.Apercu, tout.Main, nullptr};
   TFrmPrintWizard assistant(contexte);

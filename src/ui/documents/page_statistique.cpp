@@ -53,7 +53,10 @@ void PageStatistique::AjouterOutils(VueGrille& grille) {
   AjouterFiltreEtCopie(*titre_, grille);
 }
 
-void PageStatistique::AjouterACote(QWidget* widget) { milieu_->addWidget(widget, 3); }
+void PageStatistique::AjouterACote(QWidget* widget) {
+  milieu_->itemAt(0)->widget()->setMinimumWidth(Theme::Px(320));  // its amounts stay whole on a small window
+  milieu_->addWidget(widget, 3);
+}
 
 void PageStatistique::Montrer(const std::vector<TTotalListe>& totaux, const QString& vide) {
   if (valeurs_.empty())

@@ -1,6 +1,8 @@
 #include "ui/documents/vue_manques.h"
 
+#include <QGuiApplication>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "screens/documents/frm_manques.h"
@@ -12,7 +14,7 @@ VueManques::VueManques(TFrmManques& form, QWidget* parent) : DialogueBase(form.T
   DefinirEntete(form_.Texte());
   auto* grille = new VueGrille(form_.Grille, u"Ce qui manque"_s, u"Manques/Liste"_s);
   grille->DefinirColonneSouple(2);
-  grille->setMinimumSize(Theme::Px(980), Theme::Px(320));
+  grille->setMinimumSize(Theme::Px(640), grille->HauteurPour(6));
   Contenu()->addWidget(grille, 1);
   connect(grille, &VueGrille::Activee, this, &VueManques::Aller);
   DefinirPrincipal(form_.Imprimable() ? form_.LibelleImprimer() : u"Aller à la fiche"_s);
@@ -27,6 +29,8 @@ VueManques::VueManques(TFrmManques& form, QWidget* parent) : DialogueBase(form.T
     suivre();
   }
   if (!form_.Imprimable() && !form_.AvecChamps()) DefinirPrincipal(u"Fermer"_s);
+  const QSize place = QGuiApplication::primaryScreen()->availableSize();
+  resize(QSize(Theme::Px(1012), Theme::Px(428)).boundedTo(place));
   grille->setFocus(Qt::OtherFocusReason);
 }
 

@@ -148,7 +148,8 @@ void VueRecapitulatif::CreerFiscales() {
 
 void VueRecapitulatif::CreerFrais() {
   PageStatistique* page = AjouterListe(u"Frais de l'année"_s, form_.Frais, u"Frais"_s);
-  page->Titre().DefinirNote(u"Tous les élèves, de toute année."_s);
+  // Under the heading: beside it the buttons leave it no room on a small window.
+  page->Criteres().addWidget(new Etiquette(u"Tous les élèves, de toute année."_s, TRole::Secondaire));
 }
 
 void VueRecapitulatif::AjouterPeriode(PageStatistique& page, const QString& debut, const QString& fin) {

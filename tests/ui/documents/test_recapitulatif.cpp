@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 
 #include "screens/documents/frm_apercu.h"
 #include "screens/documents/frm_recapitulatif.h"
@@ -244,5 +245,13 @@ TEST_F(Recapitulatif, EveryPageIsWithinReachOfTheKeyboard) {
       vue->findChild<QTabWidget*>()->setCurrentIndex(page);
       return vue;
     });
+  }
+  VueRecapitulatif vue(Ecran(), nullptr);
+  vue.resize(Theme::Px(711), Theme::Px(400));  // of the smallest window
+  vue.show();
+  for (int page = TabImpaye; page <= TabFrais; ++page) {
+    vue.findChild<QTabWidget*>()->setCurrentIndex(page);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(vue.horizontalScrollBar()->maximum(), 0) << page;
   }
 }

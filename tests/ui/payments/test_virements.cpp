@@ -12,11 +12,13 @@
 
 #include "screens/payments/frm_attribution_compte.h"
 #include "screens/payments/frm_attribution_virement.h"
+#include "screens/payments/frm_repartition.h"
 #include "screens/payments/frm_virement.h"
 #include "support/ecran_essai.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/payments/vue_attribution_compte.h"
 #include "ui/payments/vue_attribution_virement.h"
+#include "ui/payments/vue_repartition.h"
 #include "ui/payments/vue_virement.h"
 #include "ui/programme_essai.h"
 #include "ui/pupils/vue_signaletique.h"
@@ -182,6 +184,18 @@ TEST(VuesDesVirements, AreWithinReach) {
   TFrmAttributionVirement attribution(ecran.Contexte, form);
   attribution.Montrer();
   VerifierVuePartout([&] { return std::make_unique<VueAttributionVirement>(attribution, nullptr); });
+  const std::vector<TProposition> aucune;
+  const TExtrait& virement = *ecran.Essai.Controleur.Extraits().begin();
+  TFrmRepartition parts(ecran.Contexte, virement, {}, aucune);
+  parts.Ajouter(*Globals.Eleves->Tous().front());
+  VerifierVuePartout([&] { return std::make_unique<VueRepartition>(parts, nullptr); });
+  VueRepartition partage(parts, nullptr);
+  partage.show();
+  partage.activateWindow();
+  QTest::keyClick(partage.focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(partage.focusWidget(), BoutonDe(partage, u"Retirer"_s));
+  QTest::keyClick(partage.focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(partage.focusWidget(), partage.findChild<QWidget*>(u"edPart"_s)) << "not left onto the button";
   TFrmAttributionCompte compte(base.Dialogues, {u"BE11"_s, u"BE22"_s}, {u"A"_s, u"B"_s});
   VerifierVuePartout([&] { return std::make_unique<VueAttributionCompte>(compte, nullptr); });
 }
