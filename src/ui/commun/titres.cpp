@@ -29,6 +29,8 @@ void Titre::DefinirNote(const QString& note) {
                         QSizePolicy::Preferred);
 }
 
+void Titre::GarderTexte() { titre_->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred); }
+
 void Titre::AjouterAction(QWidget* action) { ligne_->addWidget(action); }
 
 void Titre::AjouterSuite(QWidget* suite) { ligne_->insertWidget(1 + suites_++, suite); }

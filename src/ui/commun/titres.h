@@ -13,6 +13,8 @@ class Titre : public QWidget {
   void DefinirTexte(const QString& texte);
   QString Texte() const { return titre_->text(); }
   void DefinirNote(const QString& note);
+  /// It is never shortened for the actions beside it.
+  void GarderTexte();
   /// The widget becomes the last on the right.
   void AjouterAction(QWidget* action);
   /// Right behind the heading (a list of months, for instance).

@@ -29,8 +29,10 @@ VueManques::VueManques(TFrmManques& form, QWidget* parent) : DialogueBase(form.T
     suivre();
   }
   if (!form_.Imprimable() && !form_.AvecChamps()) DefinirPrincipal(u"Fermer"_s);
-  const QSize place = QGuiApplication::primaryScreen()->availableSize();
-  resize(QSize(Theme::Px(1012), Theme::Px(428)).boundedTo(place));
+  // All of a row in sight on a usual screen, and the buttons on the smallest one.
+  const QSize moindre(Theme::Px(960), Theme::Px(428));
+  const QSize place = QGuiApplication::primaryScreen()->availableSize().expandedTo(moindre);
+  resize(QSize(Theme::Px(1012), moindre.height()).boundedTo(place));
   grille->setFocus(Qt::OtherFocusReason);
 }
 

@@ -148,6 +148,7 @@ void VueRecapitulatif::CreerFiscales() {
 
 void VueRecapitulatif::CreerFrais() {
   PageStatistique* page = AjouterListe(u"Frais de l'année"_s, form_.Frais, u"Frais"_s);
+  page->Titre().GarderTexte();
   // Under the heading: beside it the buttons leave it no room on a small window.
   page->Criteres().addWidget(new Etiquette(u"Tous les élèves, de toute année."_s, TRole::Secondaire));
 }
