@@ -1,6 +1,5 @@
 // What runs the batch program as a script would: arguments in, output, messages and exit code out.
 #pragma once
-#include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
@@ -10,8 +9,6 @@
 
 #include "support/ecole_essai.h"
 
-using namespace Qt::StringLiterals;
-
 /// A command line, what it prints, a piece of what it says, and its exit code.
 struct TAppel {
   QStringList Arguments;
@@ -20,6 +17,15 @@ struct TAppel {
 };
 
 inline QStringList Mots(const QString& texte) { return texte.split(u' ', Qt::SkipEmptyParts); }
+
+/// The words of a command that prints these lines and says nothing.
+inline TAppel Donne(const QString& commande, const QStringList& lignes) {
+  return {Mots(commande), 0, lignes.join(u'\n') + u'\n', {}};
+}
+/// The words of a command that is refused with this.
+inline TAppel Refuse(const QString& commande, const QString& message, int code = 1) {
+  return {Mots(commande), code, {}, message};
+}
 
 /// A school in a file that nobody may hold open while the program runs.
 class TProgrammeEssai : public testing::Test {

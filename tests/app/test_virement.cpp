@@ -17,16 +17,9 @@ struct TMot {
 /// A debtor on two pages, one on a page, and one who owes nothing.
 struct TVirementEssai : TPapierEssai {
   TVirementEssai() {
-    for (const auto& [id, valeur] : {std::pair(1, u"École"_s),
-                                     {11, u"BE68 5390 0754 7034"_s},
-                                     {50, u"Éèà \"Ö\" <b>&lt; [NOM1]"_s},
-                                     {51, u"BE71096123456769"_s},
-                                     {52, u"GKCCBEBB"_s},
-                                     {53, u"avenue des Tilleuls, 112"_s},
-                                     {54, u"5364"_s},
-                                     {55, u"Vesperval"_s},
-                                     {107, u"1"_s}})
-      ecole_.parametre(id, valeur);
+    ecole_.parametres(
+        u"1=École|11=BE68 5390 0754 7034|50=Éèà \"Ö\" <b>&lt; [NOM1]|51=BE71096123456769|52=GKCCBEBB|"
+        "53=avenue des Tilleuls, 112|54=5364|55=Vesperval|107=1"_s);
     TEleveEssai longue = ecole_.unEleve().enClasse(u"P1"_s, u"A"_s);
     for (int i = 1; i <= 30; ++i) longue.doit(ecole_.frais(u"Cahier %1"_s.arg(i), u"41.15"_s, 10));
     ecole_.unEleve().enClasse(u"P1"_s, u"A"_s).doit(ecole_.frais(u"Piscine"_s, u"0.5"_s, 10));
@@ -100,17 +93,14 @@ TEST_F(TVirementEssai, UnCaractereParCase) {
   EXPECT_EQ(ordres, u"0110"_s) << "a pupil's last page, and nowhere when nothing is owed";
   const QString legendes =
       u"ORDRE DE VIREMENT Si complété à la main, n'indiquer qu'une seule MAJUSCULE ou un seul chiffre noir "
-      u"(ou "
-      "bleu) par case Signature(s) Date d'exécution souhaitée dans le futur EUR CENT Montant Compte donneur "
+      "(ou bleu) par case Signature(s) Date d'exécution souhaitée dans le futur EUR CENT Montant Compte "
+      "donneur "
       "d'ordre (IBAN) Nom et adresse donneur d'ordre Compte bénéficiaire (IBAN) BIC bénéficiaire Nom et "
-      "adresse "
-      "bénéficiaire Communication"_s;
+      "adresse bénéficiaire Communication"_s;
   const QString nom = u"Éèà \"Ö\" <b>&lt; [NOM1]"_s;
-  const struct {
-    int Page;
-    QString Montant, Communication, Euros;
-  } attendus[] = {{2, u"    1234,50"_s, u"+++100/0001/01680+++"_s, u"EUR1234.50"_s},
-                  {3, u"       0,50"_s, u"+++100/0002/01613+++"_s, u"EUR0.50"_s}};
+  const std::tuple<int, QString, QString, QString> attendus[] = {
+      {2, u"    1234,50"_s, u"+++100/0001/01680+++"_s, u"EUR1234.50"_s},
+      {3, u"       0,50"_s, u"+++100/0002/01613+++"_s, u"EUR0.50"_s}};
   const QStringList images = Images();
   for (const auto& [page, montant, communication, euros] : attendus) {
     const QMap<int, QString> cases = Cases(page);
@@ -133,9 +123,7 @@ TEST_F(TVirementEssai, UnCaractereParCase) {
 
 /// Every other paper that asks for money with a structured communication.
 TEST_F(TVirementEssai, UnTelephoneLesPaieAussi) {
-  const struct {
-    const char *Vrais, *Document, *Ligne;
-  } cas[] = {
+  const std::tuple<const char*, const char*, const char*> cas[] = {
       {"", "Facture --mois 10", "EUR0.50"},
       {"25", "Facture --mois 10", "EUR0.50"},
       {"116", "Document de provision de compte", "EUR12.50"},

@@ -1,5 +1,4 @@
 // The main of the tests with widgets: no display, a font that is everywhere, the light palette.
-#include <gtest/gtest.h>
 
 #include "ui/principal/application.h"
 

@@ -1,14 +1,15 @@
 #include "ui/programme_essai.h"
 
-#include <QAbstractButton>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
 
+#include "screens/documents/frm_apercu.h"
 #include "ui/commun/dialogue_base.h"
+#include "ui/documents/vue_apercu.h"
 #include "ui/principal/application.h"
 #include "ui/principal/barre_commandes.h"
 
@@ -66,6 +67,27 @@ TRepondeur& TRepondeur::Saisit(const QString& extrait, const QString& texte) {
     QTest::keyClick(champ, Qt::Key_Delete);
     QTest::keyClicks(champ, texte);
     QTest::mouseClick(dynamic_cast<DialogueBase&>(fenetre).Principal(), Qt::LeftButton);
+  });
+}
+
+TRepondeur& TRepondeur::Fichier(const QString& titre, const QString& chemin) {
+  return Fait(titre, [chemin](QWidget& dialogue) {
+    dialogue.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(chemin);
+    auto* boutons = dialogue.findChild<QDialogButtonBox*>();
+    QPushButton* ouvrir = boutons->button(QDialogButtonBox::Open);
+    QTest::mouseClick(ouvrir != nullptr ? ouvrir : boutons->button(QDialogButtonBox::Save), Qt::LeftButton);
+  });
+}
+
+TRepondeur& TRepondeur::Ferme(const QString& extrait) {
+  return Fait(extrait, [](QWidget& dialogue) { dialogue.close(); });
+}
+
+TRepondeur& TRepondeur::Apercu(const QString& titre, std::function<void(const QString&)> lire) {
+  return Fait(titre, [lire = std::move(lire)](QWidget& fenetre) {
+    QTRY_VERIFY(TextesDe(fenetre).contains(u"1 page prête\n"_s));
+    lire(dynamic_cast<VueApercu&>(fenetre).Form().Document().TexteDePage(0));
+    Cliquer(fenetre, u"Fermer"_s);
   });
 }
 

@@ -1,14 +1,8 @@
 #pragma once
-#include <QObject>
-#include <QStringList>
-#include <deque>
-#include <functional>
-#include <memory>
+#include <QPushButton>
 
 #include "support/controleur_essai.h"
 #include "ui/principal/programme.h"
-
-class QAbstractButton;
 
 /// Answers the program's dialogs by clicking and typing in them, in the order in which a test expects
 /// them. A dialog that is not expected, or one that never comes, fails the test.
@@ -25,6 +19,12 @@ class TRepondeur : public QObject {
   TRepondeur& Clique(const QString& extrait, const QString& bouton);
   /// The text is typed in the first field, then the primary button is pressed.
   TRepondeur& Saisit(const QString& extrait, const QString& texte);
+  /// The file dialog with this title takes the path.
+  TRepondeur& Fichier(const QString& titre, const QString& chemin);
+  /// The dialog is closed without an answer.
+  TRepondeur& Ferme(const QString& extrait);
+  /// The preview of one page is read, and closed.
+  TRepondeur& Apercu(const QString& titre, std::function<void(const QString&)> lire);
   /// Whatever is to be done in the dialog; it may stay open for what is expected next.
   TRepondeur& Fait(const QString& extrait, std::function<void(QWidget&)> action);
 

@@ -6,8 +6,11 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include "support/grilles.h"
+#include "ui/commun/vue_grille.h"
 #include "ui/principal/barre_etat.h"
 #include "ui/programme_essai.h"
+#include "ui/verifier_vue.h"
 
 /// The whole program on a small school, used through the fields of its screens, which are found by the names
 /// of their controls.
@@ -27,6 +30,13 @@ class TReglagesEssai : public testing::Test {
         for (int i = 0; i < pages->count(); ++i)
           if (pages->widget(i)->isAncestorOf(controle)) pages->setCurrentIndex(i);
     return *controle;
+  }
+  /// The visible control of that accessible name.
+  template <class T>
+  T& Nomme(const QString& nom) {
+    for (T* controle : Programme.Fenetre().findChildren<T*>())
+      if (controle->accessibleName() == nom && controle->isVisible()) return *controle;
+    throw std::runtime_error("no " + nom.toStdString());
   }
   /// After a dialog: no window manager does it.
   void Activer() {
@@ -72,6 +82,7 @@ class TReglagesEssai : public testing::Test {
     QCoreApplication::processEvents();
   }
   void Cliquer(const QString& bouton) { ::Cliquer(Programme.Fenetre(), bouton); }
+  bool Dit(const QString& texte) { return TextesDe(Programme.Fenetre()).contains(texte); }
   QString Etat() { return Programme.Fenetre().Etat()->Texte(); }
   QString Parametre(int id) {
     return Base.Valeur(u"SELECT TRIM(VALEUR) FROM PARAMETRE WHERE PARAMETRE_ID = "_s + QString::number(id));

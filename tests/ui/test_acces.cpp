@@ -51,7 +51,6 @@ TEST_F(Acces, PagesCommandsAndBoxesDoWhatTheMouseDoes) {
   EXPECT_EQ(Interface(radie).role(), QAccessible::CheckBox);
   Faire(radie);
   EXPECT_EQ(Base.Valeur("SELECT FLG_RADIE FROM ELEVES"), "1") << "a box that is toggled is stored";
-  for (QWidget* second : Programme.Fenetre().findChildren<QWidget*>())
-    if (second->accessibleName() == "Attestation au nom du second") Faire(second);
+  Faire(&Nomme<QWidget>("Attestation au nom du second"));
   EXPECT_EQ(Base.Valeur("SELECT FLG_IMPOT_RESPONS2 FROM ELEVES"), "1");
 }

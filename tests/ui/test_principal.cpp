@@ -1,9 +1,5 @@
 // The desktop program from its start to its end, by clicking and typing.
-#include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -12,13 +8,11 @@
 #include "ui/commun/feuille_progression.h"
 #include "ui/commun/vue_dialogue.h"
 #include "ui/principal/barre_commandes.h"
-#include "ui/principal/barre_etat.h"
 #include "ui/principal/dialogue_reessai.h"
 #include "ui/principal/dialogue_saisie.h"
 #include "ui/principal/panneau_eleves.h"
 #include "ui/principal/vue_accueil.h"
-#include "ui/programme_essai.h"
-#include "ui/verifier_vue.h"
+#include "ui/reglages_essai.h"
 
 namespace {
 
@@ -29,15 +23,14 @@ struct TListeEssai : TForm {
   explicit TListeEssai(TContexteEcran&) {}
 };
 
-class Principal : public testing::Test {
+class Principal : public TReglagesEssai {
  protected:
   /// "P1 A" with three pupils, the second struck off, and "P2 A" with one.
   void EcrireLEcole() {
-    TEcoleEssai ecole(Programme.Base);
-    ecole.unEleve().nomme(u"Adam"_s, u"X"_s).enClasse(u"P1"_s, u"A"_s);
-    ecole.unEleve().nomme(u"Bastin"_s, u"X"_s).enClasse(u"P1"_s, u"A"_s).avec(u"FLG_RADIE"_s);
-    ecole.unEleve().nomme(u"Dubois"_s, u"X"_s).enClasse(u"P1"_s, u"A"_s);
-    ecole.unEleve().nomme(u"Pirard"_s, u"X"_s).enClasse(u"P2"_s, u"A"_s);
+    for (const QString& nom : {u"Adam"_s, u"Bastin"_s, u"Dubois"_s})
+      Ecole.unEleve().nomme(nom, u"X"_s).enClasse(u"P1"_s, u"A"_s);
+    TEleveEssai(Ecole, 2).avec(u"FLG_RADIE"_s);
+    Ecole.unEleve().nomme(u"Pirard"_s, u"X"_s).enClasse(u"P2"_s, u"A"_s);
   }
   void DemarrerLEcole() {
     EcrireLEcole();
@@ -45,15 +38,14 @@ class Principal : public testing::Test {
   }
   /// The server's file is no database.
   QString PerdreLeServeur() {
-    const QString mauvais = Programme.Base.Fichier(u"mauvais.fdb"_s, QByteArray(5000, 'z'));
-    Programme.Base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, mauvais);
+    const QString mauvais = Base.Fichier(u"mauvais.fdb"_s, QByteArray(5000, 'z'));
+    Base.Reglages.Ecrire(TRacine::Machine, u"Serveur"_s, mauvais);
     return mauvais;
   }
   FenetrePrincipale& Fenetre() { return Programme.Fenetre(); }
   QLineEdit* Recherche() { return Fenetre().Eleves()->Recherche(); }
   QTreeView* Arbre() { return Fenetre().Eleves()->Arbre(); }
   QString Choisi() { return Arbre()->currentIndex().data().toString(); }
-  QString Etat() { return Fenetre().Etat()->Texte(); }
   QStringList Pages() {
     QStringList pages;
     for (const TPagePrincipale& page : PagesPrincipales()) {
@@ -75,8 +67,6 @@ class Principal : public testing::Test {
     QCoreApplication::processEvents();
     QTest::keyClick(ou, touche, avec);
   }
-
-  TProgrammeEssai Programme;
 };
 
 }  // namespace
@@ -85,7 +75,7 @@ TEST_F(Principal, AnOfficeStartsOnItsPupils) {
   DemarrerLEcole();
   EXPECT_EQ(Fenetre().windowTitle(), u"Calpenne");
   EXPECT_EQ(Fenetre().Barre()->Annees()->text(), u"Année scolaire 2016 - 2017  ▾");
-  EXPECT_TRUE(TextesDe(Fenetre()).contains(u"4 élèves, dont 1 radié"));
+  EXPECT_TRUE(Dit(u"4 élèves, dont 1 radié"_s));
   EXPECT_EQ(QApplication::focusWidget(), Recherche());
 }
 
@@ -105,10 +95,10 @@ TEST_F(Principal, EveryWayShowsItsPages) {
   };
   EcrireLEcole();
   for (const auto& c : cas) {
-    TEcoleEssai(Programme.Base).parametre(41, QLatin1String(c.Parametre41));
+    Ecole.parametre(41, QLatin1String(c.Parametre41));
     for (const char* reglage : {"Mode", "Tablette", "Offline"})
-      Programme.Base.Reglages.Ecrire(TRacine::Utilisateur, QLatin1String(reglage),
-                                     QLatin1String(c.Reglage) == QLatin1String(reglage) ? u"1"_s : u"oui"_s);
+      Base.Reglages.Ecrire(TRacine::Utilisateur, QLatin1String(reglage),
+                           QLatin1String(c.Reglage) == QLatin1String(reglage) ? u"1"_s : u"oui"_s);
     Programme.Demarrer();
     EXPECT_EQ(Pages(), c.Pages) << c.Reglage;
     EXPECT_EQ(CommandesVisibles(), c.Commandes) << c.Reglage;
@@ -130,13 +120,13 @@ TEST_F(Principal, GivingUpAtFirstEndsTheProgramAndLaterDoesNot) {
   Programme.Demarrer();
   EXPECT_FALSE(Fenetre().isVisible());
   const QString dialogue = Programme.Dialogues.Vus.last();
-  EXPECT_TRUE(dialogue.contains(
-      u"Un problème empêche le logiciel de se connecter au serveur de base de donnée nommé : " + mauvais));
-  EXPECT_TRUE(
-      dialogue.contains(u"Veuillez vérifier si :\n1. Le nom du serveur est correctement orthographié.\n"
-                        "2. Le serveur est allumé et accessible via le réseau.\n"
-                        "3. Les paramètres réseau de votre ordinateur sont corrects\nActions:"_s))
-      << dialogue.toStdString();
+  for (const QString& texte :
+       {u"Un problème empêche le logiciel de se connecter au serveur de base de donnée nommé : "_s.append(
+            mauvais),
+        u"Veuillez vérifier si :\n1. Le nom du serveur est correctement orthographié.\n2. Le serveur est "
+        "allumé et accessible via le réseau.\n3. Les paramètres réseau de votre ordinateur sont corrects\n"
+        "Actions:"_s})
+    EXPECT_TRUE(dialogue.contains(texte)) << dialogue.toStdString();
   Programme.Fermer();
 
   Programme.Dialogues.Fait(kErreurConnexion, [](QWidget& fenetre) {
@@ -163,7 +153,7 @@ TEST_F(Principal, TheLinkOfTheRetryDialogChangesTheServer) {
       if (lien->text().contains(u"Cliquez ici afin de modifier le nom du serveur de données."))
         emit lien->linkActivated(QString());
   });
-  Programme.Dialogues.Saisit(u"Identification du Serveur de données"_s, Programme.Base.FichierDeDonnees());
+  Programme.Dialogues.Saisit(u"Identification du Serveur de données"_s, Base.FichierDeDonnees());
   Programme.Dialogues.Clique(kErreurConnexion, u"Réessayer"_s);
   Programme.Demarrer();
   EXPECT_TRUE(Programme.Dialogues.Vus.at(1).contains(u"Le nom « local » fait travailler ce poste seul"));
@@ -173,12 +163,8 @@ TEST_F(Principal, TheLinkOfTheRetryDialogChangesTheServer) {
 TEST_F(Principal, AFileThatWasMovedIsChosenInTheRetryDialog) {
   EcrireLEcole();
   PerdreLeServeur();
-  Programme.Dialogues.Clique(kErreurConnexion, u"Choisir le fichier..."_s);
-  Programme.Dialogues.Fait(u"Choisir le fichier de données"_s, [this](QWidget& dialogue) {
-    dialogue.findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(Programme.Base.FichierDeDonnees());
-    QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
-                      Qt::LeftButton);
-  });
+  Programme.Dialogues.Clique(kErreurConnexion, u"Choisir le fichier..."_s)
+      .Fichier(u"Choisir le fichier de données"_s, Base.FichierDeDonnees());
   Programme.Demarrer();
   EXPECT_EQ(Arbre()->model()->rowCount(), 2) << "it is tried at once";
 }
@@ -257,7 +243,7 @@ TEST_F(Principal, TheKeysOfTheWindow) {
   Touche(menu, Qt::Key_Return);
   EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2015);
   EXPECT_EQ(Globals.AnneeScolaire, 2016);
-  EXPECT_TRUE(TextesDe(Fenetre()).contains(u"Année affichée ≠ année de travail"));
+  EXPECT_TRUE(Dit(u"Année affichée ≠ année de travail"_s));
 }
 
 TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
@@ -273,7 +259,7 @@ TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
   };
   Programme.Dialogues.Fait(u"Ajout d'un professeur"_s, [](QWidget& fenetre) {
     QTest::keyClicks(fenetre.findChildren<QLineEdit*>().at(0), u"   "_s);
-    Cliquer(fenetre, u"Valider"_s);
+    ::Cliquer(fenetre, u"Valider"_s);
   });
   Programme.Dialogues.Fait(u"Un nom est obligatoire"_s, [](QWidget& fenetre) {
     const auto champs = fenetre.findChildren<QLineEdit*>();
@@ -286,10 +272,9 @@ TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
   });
   menu(0);
   EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2016);
-  EXPECT_EQ(Programme.Base.Rangees(
-                u"SELECT C.ANNEE_SCOLAIRE, C.CLASSE, E.NOM, E.PRENOM, E.MATRICULE FROM ELEVES_CLASSES C JOIN "
-                "ELEVES E ON E.ELEVE_ID=C.ELEVE_ID WHERE C.CLASSE='PROFESSEURS'"_s),
-            QStringList{"2016;PROFESSEURS;Peeters;Anne;0005"});
+  EXPECT_EQ(Base.Rangees("SELECT C.ANNEE_SCOLAIRE, E.NOM, E.PRENOM, E.MATRICULE FROM ELEVES_CLASSES C JOIN "
+                         "ELEVES E ON E.ELEVE_ID=C.ELEVE_ID WHERE C.CLASSE='PROFESSEURS'"),
+            QStringList("2016;Peeters;Anne;0005"));
 
   QTest::keyClicks(Recherche(), u"peeters"_s);
   Programme.Dialogues.Fait(u"Souhaitez-vous supprimer définitivement ce professeurs"_s,
@@ -299,8 +284,8 @@ TEST_F(Principal, ATeacherIsAddedToTheWorkingYearAndRemoved) {
   Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
   Programme.Dialogues.Repond(u"Souhaitez-vous supprimer définitivement ce professeurs"_s, true);
   menu(1);
-  EXPECT_EQ(Programme.Base.Valeur(u"SELECT COUNT(*) FROM ELEVES WHERE NOM='Peeters'"_s), u"0");
-  EXPECT_EQ(Programme.Base.Valeur(u"SELECT COUNT(*) FROM ELEVES_CLASSES WHERE CLASSE='PROFESSEURS'"_s), u"1")
+  EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM ELEVES WHERE NOM='Peeters'"_s), u"0");
+  EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM ELEVES_CLASSES WHERE CLASSE='PROFESSEURS'"_s), u"1")
       << "its rows in other tables stay";
   EXPECT_EQ(Globals.EleveCourant, nullptr);
   Recherche()->clear();
@@ -335,13 +320,13 @@ TEST_F(Principal, FirstUseLeadsToTheImport) {
   Programme.Demarrer();
   EXPECT_TRUE(Fenetre().Accueil()->isVisible());
   EXPECT_FALSE(Recherche()->isEnabled());
-  for (const char16_t* texte : {u"Aucun élève en 2016 - 2017", u"1.  Année scolaire", u"6.  Frais"})
-    EXPECT_TRUE(TextesDe(Fenetre()).contains(QStringView(texte)));
+  for (const char* texte : {"Aucun élève en 2016 - 2017", "1.  Année scolaire", "6.  Frais"})
+    EXPECT_TRUE(Dit(texte)) << texte;
   EcrireLEcole();
   Programme.Main().mnuAnneeClick(2016);
   EXPECT_TRUE(Fenetre().Accueil()->isVisible()) << "neither tariffs nor fees yet";
-  Cliquer(Fenetre(), u"Pas de frais cette année"_s);
-  EXPECT_TRUE(TextesDe(Fenetre()).contains(u"se passe sans frais"));
+  Cliquer(u"Pas de frais cette année"_s);
+  EXPECT_TRUE(Dit(u"se passe sans frais"_s));
   EXPECT_EQ(BoutonDe(Fenetre(), u"Pas de frais cette année"_s), nullptr);
   EXPECT_TRUE(Recherche()->isEnabled());
 }

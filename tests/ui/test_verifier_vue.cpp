@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>

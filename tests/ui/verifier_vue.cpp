@@ -1,27 +1,8 @@
 #include "ui/verifier_vue.h"
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QAbstractScrollArea>
-#include <QAbstractSpinBox>
 #include <QAccessible>
-#include <QApplication>
-#include <QCalendarWidget>
-#include <QComboBox>
-#include <QDialog>
-#include <QFontDatabase>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QMetaObject>
-#include <QPlainTextEdit>
-#include <QScrollBar>
-#include <QSet>
-#include <QSlider>
 #include <QTest>
-#include <QTextEdit>
+#include <QtWidgets>
 
 #include "ui/commun/theme.h"
 

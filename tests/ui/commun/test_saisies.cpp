@@ -1,15 +1,16 @@
-#include <gtest/gtest.h>
-
 #include <QCheckBox>
 #include <QComboBox>
+#include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include "support/affichage.h"
+#include "ui/commun/champ_libelle.h"
 #include "ui/commun/grille_mois.h"
 #include "ui/commun/saisie.h"
 #include "ui/commun/texte.h"
+#include "ui/principal/dialogue_saisie.h"
 
 using namespace Qt::StringLiterals;
 
@@ -40,6 +41,30 @@ TEST(Saisies, AnnoncentUnAutreTexteUneFois) {
   Saisir(date, u"31/02/2010"_s);
   EXPECT_EQ(saisies, 2);
   EXPECT_FALSE(date.Date().has_value());
+  date.DefinirDate(EncodeDate(2010, 3, 14));
+  MarquerFaute(date, true);
+  QTest::keyClick(&date, Qt::Key_Return);  // looked at, not mended
+  EXPECT_TRUE(date.property("faute").toBool());
+  QTest::keyClicks(&date, u"1"_s);
+  EXPECT_FALSE(date.property("faute").toBool());
+}
+
+TEST(DialogueBase, RefuseResteOuvertEtMontreLeChamp) {
+  DialogueSaisie dialogue({.Titre = u"Essai"_s, .Invite = u"Nom :"_s, .Refus = [](const QString& texte) {
+                             return texte.isEmpty() ? u"Le nom manque."_s : QString();
+                           }});
+  auto& champ = *dialogue.findChild<QLineEdit*>();
+  dialogue.show();
+  QApplication::setActiveWindow(&dialogue);
+  dialogue.Annuler()->setFocus();
+  dialogue.Principal()->click();
+  EXPECT_TRUE(dialogue.isVisible() && champ.hasFocus() && champ.property("faute").toBool());
+  QTest::keyClicks(&champ, u"Zoe"_s);
+  QTest::keyClick(&champ, Qt::Key_Return);
+  EXPECT_EQ(dialogue.result(), QDialog::Accepted);
+  dialogue.show();
+  QTest::keyClick(&dialogue, Qt::Key_Escape);
+  EXPECT_EQ(dialogue.result(), QDialog::Rejected);
 }
 
 TEST(Saisies, LaMoletteNeChangeQueLeChampDuFoyer) {

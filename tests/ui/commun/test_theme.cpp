@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
 
 #include "ui/commun/contraste.h"
@@ -13,10 +11,7 @@ TEST(Theme, LesCouleursSeDistinguentDansLesDeuxPalettes) {
     Theme::Appliquer(*qApp, mode);
     const QPalette p = QApplication::palette();
     const QColor fenetre = p.color(QPalette::Window), base = p.color(QPalette::Base);
-    const struct {
-      QColor A, B;
-      double Moindre;
-    } paires[] = {
+    const std::tuple<QColor, QColor, double> paires[] = {
         {p.color(QPalette::WindowText), fenetre, 4.5},
         {p.color(QPalette::Text), base, 4.5},
         {p.color(QPalette::ButtonText), p.color(QPalette::Button), 4.5},

@@ -2,7 +2,6 @@
 #include <QLabel>
 #include <QTableWidget>
 
-#include "ui/commun/vue_grille.h"
 #include "ui/reglages_essai.h"
 
 /// The meal screens of a small school: ALVES and BODART in P1 A, MARIN in M1 B; a meal costs 2,20 in the
@@ -16,13 +15,6 @@ class TRepasEssai : public TReglagesEssai {
     Ecole.unEleve().nomme("ALVES", "Rui").enClasse("P1", "A");
     Ecole.unEleve().nomme("BODART", "Léa").enClasse("P1", "A");
     Ecole.unEleve().nomme("MARIN", "Zoé").enClasse("M1", "B");
-  }
-  /// The visible control of that accessible name.
-  template <class T>
-  T& Nomme(const QString& nom) {
-    for (T* controle : Programme.Fenetre().findChildren<T*>())
-      if (controle->accessibleName() == nom && controle->isVisible()) return *controle;
-    throw std::runtime_error("no " + nom.toStdString());
   }
   void ChoisirClasse(int indice) {
     auto& classes = Nomme<QComboBox>("Classe");
@@ -41,12 +33,7 @@ class TRepasEssai : public TReglagesEssai {
       if (libelle->isVisible() && libelle->text() == texte) return true;
     return false;
   }
-  /// What a list shows, the columns joined by "|".
-  static QStringList Lignes(const VueGrille& vue) {
-    QStringList lignes;
-    for (int i = 0; i < vue.Grille().NombreLignes(); ++i) lignes += vue.Grille().Textes(i).join('|');
-    return lignes;
-  }
+  static QStringList Lignes(const VueGrille& vue) { return ::Lignes(vue.Grille()); }
   QStringList Tickets() {
     return Base.Rangees(
         "SELECT ELEVE_ID, DATE_ACHAT, DATE_UTILISATION, VALEUR, TYPE_PAIEMENT FROM TICKET ORDER BY "
@@ -55,7 +42,6 @@ class TRepasEssai : public TReglagesEssai {
   QStringList Commandes() {
     return Base.Rangees(
         "SELECT ELEVE_ID, DATE_COMMANDE, FLG_REPAS || FLG_DAGO || FLG_SANDWICH || FLG_JAMBON || FLG_FROMAGE "
-        "|| "
-        "FLG_JAMBON_FROMAGE || FLG_BEURRE || FLG_MAYONNAISE FROM COMMANDE ORDER BY 2, 1");
+        "|| FLG_JAMBON_FROMAGE || FLG_BEURRE || FLG_MAYONNAISE FROM COMMANDE ORDER BY 2, 1");
   }
 };

@@ -1,9 +1,7 @@
 // A tablet from its first load to the transfer and back: serving without a server.
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QThread>
 #include <cstdio>
@@ -15,7 +13,6 @@
 #include "ui/commun/etat_vide.h"
 #include "ui/meals/cadre_eleve.h"
 #include "ui/meals/repas_essai.h"
-#include "ui/verifier_vue.h"
 
 namespace {
 
@@ -51,6 +48,10 @@ class Tablette : public TRepasEssai {
       }
     ADD_FAILURE() << bouton.toStdString();
   }
+  void ToucherClasse(const QString& annee, const QString& classe) {
+    Toucher(annee);
+    Toucher(classe);
+  }
   QStringList Cadres() {
     QStringList noms;
     for (const CadreEleve* cadre : Programme.Fenetre().findChildren<CadreEleve*>())
@@ -64,12 +65,16 @@ class Tablette : public TRepasEssai {
       if (bouton->isVisible() && bouton->isChecked()) classes += bouton->text().section('\n', 0, 0);
     return classes;
   }
+  void ServirApresTransfert() {
+    Programme.Demarrer();
+    Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
+    Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
+  }
   /// Serves a class in the window, says each meal that shows, and waits to be killed.
   void ServirSansFin(const QString& dossier) {
     Base.Reglages.Ecrire(TRacine::Utilisateur, "DossierPresences", dossier);
     Programme.Demarrer();
-    Toucher("P1");
-    Toucher("P1 A");
+    ToucherClasse("P1", "P1 A");
     auto* defile =
         Programme.Fenetre().findChild<CadreEleve*>()->parentWidget()->parentWidget()->parentWidget();
     for (CadreEleve* cadre : Programme.Fenetre().findChildren<CadreEleve*>()) {
@@ -143,8 +148,7 @@ TEST_F(Tablette, FromTheFirstLoadToTheTransferAndBack) {
   EXPECT_EQ(Programme.Main().IntituleAnnee(), "") << "no year to choose without a server";
   EXPECT_FALSE(QFile::exists(Repas()));
   Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
-  Toucher("M1");
-  Toucher("M1 B");
+  ToucherClasse("M1", "M1 B");
   EXPECT_EQ(Cadres(), QStringList("MARIN Zoé, transféré"));
   Programme.Fermer();
   EXPECT_EQ(Presences(), (QStringList{"1;2;2016-10-03", "3;2;2016-10-03"}));
@@ -212,19 +216,15 @@ TEST_F(Tablette, TheWindowIsKilledBetweenTaps) {
     const QByteArray notes = LireFichier(Repas());
     EXPECT_TRUE(notes.endsWith('\n') && notes.count('\n') >= montres) << notes.constData();
     Programme.Demarrer();
-    Toucher("P1");
-    Toucher("P1 A");
+    ToucherClasse("P1", "P1 A");
     EXPECT_EQ(Cadres().filter("Repas complet").size(), notes.count('\n'));
     Programme.Fermer();
   }
 }
 
 TEST_F(Tablette, AFingerThatScrollsServesNobody) {
-  Programme.Demarrer();
-  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
-  Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
-  Toucher("P1");
-  Toucher("P1 A");
+  ServirApresTransfert();
+  ToucherClasse("P1", "P1 A");
   CadreEleve* cadre = Programme.Fenetre().findChild<CadreEleve*>();
   const QPoint debut = cadre->rect().center(), fin = debut - QPoint(0, 60);
   QTest::mousePress(cadre, Qt::LeftButton, {}, debut);
@@ -235,33 +235,22 @@ TEST_F(Tablette, AFingerThatScrollsServesNobody) {
 }
 
 TEST_F(Tablette, TheDateFollowsTheClockAndSaysWhatIsWrongWithIt) {
-  Programme.Demarrer();
-  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
-  Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
-  Toucher("M1");
-  Toucher("M1 B");
+  ServirApresTransfert();
+  ToucherClasse("M1", "M1 B");
   Toucher("MARIN Zoé");
-  const struct {
-    TDateTime Jour;
-    const char* Date;
-    const char* Avertissement;
-  } cas[] = {
-      {EncodeDate(2016, 10, 8), "samedi 8 octobre 2016",
-       "C'est le week-end : vérifiez l'horloge de la tablette."},
-      {EncodeDate(2016, 9, 30), "vendredi 30 septembre 2016",
-       "Cette date vient avant le dernier repas noté (03/10/2016) : vérifiez l'horloge de la tablette."},
-      {EncodeDate(1999, 1, 4), "lundi 4 janvier 1999",
-       "Cette date est hors de l'année scolaire 2016 - 2017 : vérifiez l'horloge de la tablette."},
-      {EncodeDate(2017, 7, 3), "lundi 3 juillet 2017",
-       "Cette date est hors de l'année scolaire 2016 - 2017 : vérifiez l'horloge de la tablette."},
-      {EncodeDate(2098, 10, 6), "lundi 6 octobre 2098",
-       "Cette date est hors de l'année scolaire 2016 - 2017 : vérifiez l'horloge de la tablette."},
-  };
+  const QString dehors = "Cette date est hors de l'année scolaire 2016 - 2017";
+  const std::tuple<const char*, QString, QString> cas[] = {
+      {"2016-10-08", "samedi 8 octobre 2016", "C'est le week-end"},
+      {"2016-09-30", "vendredi 30 septembre 2016",
+       "Cette date vient avant le dernier repas noté (03/10/2016)"},
+      {"1999-01-04", "lundi 4 janvier 1999", dehors},
+      {"2017-07-03", "lundi 3 juillet 2017", dehors},
+      {"2098-10-06", "lundi 6 octobre 2098", dehors}};
   for (const auto& [jour, date, avertissement] : cas) {
-    Programme.Horloge.Moment = jour + 0.5;
+    Programme.Horloge.Moment = J(jour) + 0.5;
     Form<TFrmPresenceRepas>().Horloge();
-    EXPECT_TRUE(Montre(date)) << date;
-    EXPECT_TRUE(Montre(QString::fromUtf8(avertissement))) << avertissement;
+    EXPECT_TRUE(Montre(date)) << jour;
+    EXPECT_TRUE(Montre(avertissement + " : vérifiez l'horloge de la tablette.")) << jour;
     Toucher("MARIN Zoé");
     EXPECT_EQ(Cadres(), QStringList("MARIN Zoé, Repas complet")) << "it forbids nothing";
     Toucher("MARIN Zoé");
@@ -269,12 +258,9 @@ TEST_F(Tablette, TheDateFollowsTheClockAndSaysWhatIsWrongWithIt) {
 }
 
 TEST_F(Tablette, EveryTargetIsLargeEnoughForAFinger) {
-  Programme.Demarrer();
-  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
-  Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
+  ServirApresTransfert();
   VerifierVue(*Programme.Fenetre().VueCourante());
-  Toucher("P1");
-  Toucher("P1 A");
+  ToucherClasse("P1", "P1 A");
   VerifierVue(*Programme.Fenetre().VueCourante());
   for (const QAbstractButton* bouton : Programme.Fenetre().VueCourante()->findChildren<QAbstractButton*>())
     EXPECT_TRUE(!bouton->isVisible() || bouton->inherits("QLineEditIconButton") ||

@@ -1,7 +1,4 @@
 // The meal screens of the office and of a teacher, by mouse and keyboard, read back from the database.
-#include <QDialogButtonBox>
-#include <QFile>
-#include <QPushButton>
 #include <QTreeWidget>
 
 #include "screens/documents/frm_apercu.h"
@@ -14,12 +11,10 @@
 #include "screens/meals/frm_ticket.h"
 #include "screens/meals/frm_transfert_repas.h"
 #include "screens/meals/frm_transfert_ticket.h"
-#include "support/ecran_essai.h"
 #include "ui/commun/dialogue_base.h"
 #include "ui/documents/vue_apercu.h"
 #include "ui/meals/repas_essai.h"
-#include "ui/verifier_vue.h"
-#include "ui/vues.h"
+#include "ui/vues_seules.h"
 
 namespace {
 
@@ -40,6 +35,7 @@ class VuesRepas : public TRepasEssai {
     champ.selectAll();
     QTest::keyClicks(&champ, texte);
   }
+  using TRepasEssai::Dit;
   static bool Dit(const QWidget& fenetre, const QString& texte) { return TextesDe(fenetre).contains(texte); }
   void Manquant(const QString& jour) {
     Programme.Dialogues.Fait("Ajouter des tickets à ALVES Rui", [jour](QWidget& fenetre) {
@@ -120,7 +116,7 @@ TEST_F(VuesRepas, TicketsAreSoldIntoTheRedAndSettled) {
   QTest::keyClick(&Nomme<VueGrille>("Élèves de la classe"), Qt::Key_Return);
   auto& detail = Nomme<VueGrille>("Tickets de l'élève");
   EXPECT_EQ(Lignes(detail).size(), 6);
-  EXPECT_EQ(Lignes(detail)[0], "03/10/2016||5");
+  EXPECT_EQ(Lignes(detail)[0], "#03/10/2016||5");
   Programme.Dialogues.Attend("Veuillez sélectionner un ticket dans la liste.");
   Cliquer("Transférer un ticket");
   detail.Grille().ChoisirLigne(5);
@@ -143,7 +139,7 @@ TEST_F(VuesRepas, TicketsAreSoldIntoTheRedAndSettled) {
   detail.Grille().ChoisirLigne(3);
   Programme.Dialogues.Repond("Confirmez-vous la suppression définitive de ce ticket ?", true);
   Cliquer("Supprimer un ticket");
-  EXPECT_EQ(Lignes(detail)[0], "03/10/2016||3");
+  EXPECT_EQ(Lignes(detail)[0], "#03/10/2016||3");
   EXPECT_EQ(Tickets().size(), 4);
 
   // An order takes a ticket while the list stands behind: it is another list that comes back.
@@ -234,12 +230,9 @@ TEST_F(VuesRepas, WhoHasLessThanThreeTicketsInTheSchool) {
   Cliquer("Ajouter des tickets");
   Activer();
   EXPECT_EQ(Lignes(vue).size(), 2) << "three now";
-  Programme.Dialogues.Fait("Aperçu : Élèves avec moins de 3 tickets", [](QWidget& fenetre) {
-    QTRY_VERIFY(TextesDe(fenetre).contains("1 page prête\n"));
-    const QString texte = dynamic_cast<VueApercu&>(fenetre).Form().Document().TexteDePage(0);
+  Programme.Dialogues.Apercu("Aperçu : Élèves avec moins de 3 tickets", [](const QString& texte) {
     EXPECT_TRUE(texte.contains("OGER Ana") && texte.contains("MARIN Zoé") && !texte.contains("BODART"))
         << texte.toStdString();
-    fenetre.close();
   });
   Cliquer("Imprimer la liste");
 }
@@ -274,12 +267,10 @@ TEST_F(VuesRepas, AFileIsCalledAfterTheListAndWhoseItIsAndOfWhen) {
 }
 
 TEST_F(VuesRepas, BothKitchens) {
-  const char* const jours[] = {"1', '2016-10-03', 1, 0", "2', '2016-10-03', 0, 1"};
-  for (const char* jour : jours)
-    Base.Sql(QString("INSERT INTO COMMANDE (COMMANDE_ID, ELEVE_ID, DATE_COMMANDE, FLG_REPAS, FLG_DAGO, "
-                     "FLG_JAMBON) VALUES ('%1', '%2, 1)")
-                 .arg(jour[0])
-                 .arg(jour));
+  for (const int eleve : {1, 2})
+    Ecole.Ajouter(
+        "COMMANDE", "COMMANDE_ID, ELEVE_ID, DATE_COMMANDE, FLG_REPAS, FLG_DAGO, FLG_JAMBON",
+        {QString::number(eleve), "'2016-10-03'", eleve == 1 ? "1" : "0", eleve == 2 ? "1" : "0", "1"});
   const auto arbre = [this] {
     QStringList textes;
     auto& vue = Nomme<QTreeWidget>("Commandes par classe");
@@ -302,13 +293,9 @@ TEST_F(VuesRepas, BothKitchens) {
     Programme.Ouvrir(TGestionnaire::btnCuisineClick);
   };
   rouvrir();
-  EXPECT_FALSE(TextesDe(Programme.Fenetre()).contains("Depuis l'impression"));
+  EXPECT_FALSE(Dit("Depuis l'impression"));
   const auto exporter = [this](QWidget& apercu) {
-    Programme.Dialogues.Fait("Exporter en PDF", [this](QWidget& dialogue) {
-      dialogue.findChild<QLineEdit*>("fileNameEdit")->setText(Base.Chemin("fiche.pdf"));
-      QTest::mouseClick(dialogue.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save),
-                        Qt::LeftButton);
-    });
+    Programme.Dialogues.Fichier("Exporter en PDF", Base.Chemin("fiche.pdf"));
     for (QAbstractButton* bouton : apercu.findChildren<QAbstractButton*>())
       if (bouton->toolTip().startsWith("Exporter en PDF")) bouton->click();
   };
@@ -407,31 +394,31 @@ TEST_F(VuesRepas, ATeacherOrdersForToday) {
 }
 
 TEST_F(VuesRepas, SalesAreCountedDayByDay) {
-  Ecole.Ajouter("TICKET", "TICKET_ID, ELEVE_ID, DATE_ACHAT, VALEUR, TYPE_PAIEMENT",
-                {"1", "'2016-10-03'", "2.60", "1"});
-  Ecole.Ajouter("TICKET", "TICKET_ID, ELEVE_ID, DATE_ACHAT, VALEUR, TYPE_PAIEMENT",
-                {"3", "'2016-09-30'", "2.20", "1"});
+  const auto vendre = [this](const QString& eleve, const QString& jour, const QString& prix) {
+    Ecole.Ajouter("TICKET", "TICKET_ID, ELEVE_ID, DATE_ACHAT, VALEUR, TYPE_PAIEMENT",
+                  {eleve, jour, prix, "1"});
+  };
+  vendre("1", "'2016-10-03'", "2.60");
+  vendre("3", "'2016-09-30'", "2.20");
   Demarrer(TGestionnaire::btnComptabiliteClick);
   auto& ventes = Nomme<VueGrille>("Versement sur le compte");
-  EXPECT_EQ(Lignes(ventes), (QStringList{"03/10/2016|0|2,20 €|0,00 €|1|2,60 €|2,60 €|2,60 €",
+  EXPECT_EQ(Lignes(ventes), (QStringList{"#03/10/2016|0|2,20 €|0,00 €|1|2,60 €|2,60 €|2,60 €",
                                          "ALVES Rui||||1|2,60 €|2,60 €|"}));
-  auto& debut = Nomme<QLineEdit>("Début de la période");
-  Aller(debut);
-  debut.selectAll();
-  QTest::keyClicks(&debut, "01/09/2016");
-  Touche(Qt::Key_Return);
-  EXPECT_EQ(Lignes(ventes)[0], "30/09/2016|1|2,20 €|2,20 €|0|2,60 €|0,00 €|2,20 €");
+  const auto depuis = [this](const QString& date, Qt::Key touche) {
+    auto& debut = Nomme<QLineEdit>("Début de la période");
+    Aller(debut);
+    debut.selectAll();
+    QTest::keyClicks(&debut, date);
+    Touche(touche);
+  };
+  depuis("01/09/2016", Qt::Key_Return);
+  EXPECT_EQ(Lignes(ventes)[0], "#30/09/2016|1|2,20 €|2,20 €|0|2,60 €|0,00 €|2,20 €");
   const QStringList avant = Lignes(ventes);
-  debut.selectAll();
-  QTest::keyClicks(&debut, "31/11/2016");
-  Touche(Qt::Key_F8);  // nothing comes out for other dates than those that are read
+  depuis("31/11/2016", Qt::Key_F8);  // nothing comes out for other dates than those that are read
   EXPECT_TRUE(Etat().startsWith("Non enregistré : « Début de la période »")) << Etat().toStdString();
   EXPECT_EQ(Lignes(ventes), avant);
-  debut.selectAll();
-  QTest::keyClicks(&debut, "01/09/2016");
-  Touche(Qt::Key_Return);
-  Ecole.Ajouter("TICKET", "TICKET_ID, ELEVE_ID, DATE_ACHAT, VALEUR, TYPE_PAIEMENT",
-                {"2", "'2016-10-03'", "12", "1"});
+  depuis("01/09/2016", Qt::Key_Return);
+  vendre("2", "'2016-10-03'", "12");
   Globals.Eleves->LibererCommandes();
   Form<TFrmComptabilite>().dtChange(EncodeDate(2016, 9, 1), EncodeDate(2016, 10, 3));
   Form<TFrmComptabilite>().Versements.Trier(6);
@@ -439,33 +426,7 @@ TEST_F(VuesRepas, SalesAreCountedDayByDay) {
       << "12 comes after 2,60";
 }
 
-namespace {
-
-/// A screen by itself, in its view.
-struct VuesSeules : testing::Test {
-  VuesSeules() {
-    for (int i = 0; i < 3; ++i) ecole.unEleve().enClasse("P1", "A");
-    ecran = std::make_unique<TEcranEssai>(base);
-    Globals.ClasseCourante = &Globals.Eleves->GetClasse(0);
-  }
-  template <class Form>
-  void Verifier(const std::function<void(Form&)>& preparer = {}) {
-    Partout([&] {
-      Form form(ecran->Contexte);
-      static_cast<TForm&>(form).Montrer();
-      if (preparer) preparer(form);
-      const std::unique_ptr<QWidget> vue(CreerVue(form, nullptr));
-      VerifierVue(*vue);
-    });
-  }
-  TBaseEssai base;
-  TEcoleEssai ecole{base};
-  std::unique_ptr<TEcranEssai> ecran;
-};
-
-}  // namespace
-
-TEST_F(VuesSeules, NothingIsOutOfReachOfTheKeyboardNorCut) {
+TEST_F(TVuesSeules, TheMealsAreWithinReach) {
   Verifier<TFrmTicket>();
   const auto choisir = [](TFrmReservation& form) {
     form.cmbClasseChange(1);
@@ -485,15 +446,8 @@ TEST_F(VuesSeules, NothingIsOutOfReachOfTheKeyboardNorCut) {
   Verifier<TFrmTransfertRepas>([](TFrmTransfertRepas& form) {
     form.Anomalies.Ajouter({"ALVES", "Rui", EncodeDate(2016, 10, 9), "Repas", "Aucun tarif"});
   });
-  const auto dialogue = [](TForm& form) {
-    form.Montrer();
-    const std::unique_ptr<QWidget> vue(CreerVue(form, nullptr));
-    VerifierVue(*vue);
-  };
-  Partout([&] {
-    TFrmAjoutTicket ajout(ecran->Contexte, *Globals.Eleves->TrouverParId(1), {});
-    dialogue(ajout);
-    TFrmTransfertTicket transfert(ecran->Contexte.Dialogues());
-    dialogue(transfert);
-  });
+  TFrmAjoutTicket ajout(ecran->Contexte, *Globals.Eleves->TrouverParId(1), {});
+  VerifierForme(ajout);
+  TFrmTransfertTicket transfert(ecran->Contexte.Dialogues());
+  VerifierForme(transfert);
 }

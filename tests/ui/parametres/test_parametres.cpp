@@ -4,7 +4,6 @@
 #include "ui/parametres/vue_mon_ecole.h"
 #include "ui/parametres/vue_parametres.h"
 #include "ui/reglages_essai.h"
-#include "ui/verifier_vue.h"
 
 namespace {
 
@@ -24,23 +23,15 @@ class MonEcole : public TReglagesEssai {
 TEST_F(Parametres, EachFieldWritesItsSetting) {
   Ecole.parametre(56, "  abc ");
   Ouvrir();
-  const std::tuple<const char*, int, const char*> champs[] = {{"memFacture", 10, " Merci "},
-                                                              {"edRepasMaternel", 101, "2,2"},
-                                                              {"edRepasPrimaire", 102, " 3,10 "},
-                                                              {"edProvisionGarderie", 56, "12.5"},
-                                                              {"edProvisionFrais", 57, "7"},
-                                                              {"memFraisEffectifs", 26, "Voici"},
-                                                              {"edVirementBeneficiaire", 50, "É"},
-                                                              {"edVirementIBAN", 51, "BE68 1"},
-                                                              {"edVirementBIC", 52, "GKCC"},
-                                                              {"edVirementAdresse", 53, "Rue 1"},
-                                                              {"edVirementCodePostal", 54, "5"},
-                                                              {"edVirementLocalite", 55, "Namur"},
-                                                              {"edUserFTP", 34, "moi"},
-                                                              {"edMdpFTP", 35, "secret"}};
-  for (const auto& [nom, id, tape] : champs) {
-    Saisir(nom, tape);
-    EXPECT_EQ(Parametre(id), QString(tape).trimmed()) << nom;
+  const QString champs =
+      "memFacture 10  Merci |edRepasMaternel 101 2,2|edRepasPrimaire 102  3,10 |edProvisionGarderie 56 12.5|"
+      "edProvisionFrais 57 7|memFraisEffectifs 26 Voici|edVirementBeneficiaire 50 É|edVirementIBAN 51 BE68 1|"
+      "edVirementBIC 52 GKCC|edVirementAdresse 53 Rue 1|edVirementCodePostal 54 5|edVirementLocalite 55 "
+      "Namur|edUserFTP 34 moi|edMdpFTP 35 secret";
+  for (const QString& champ : champs.split('|')) {
+    const QString tape = champ.section(' ', 2);
+    Saisir(champ.section(' ', 0, 0), tape);
+    EXPECT_EQ(Parametre(champ.section(' ', 1, 1).toInt()), tape.trimmed()) << champ.toStdString();
   }
   EXPECT_EQ(Controle<QLineEdit>("edMdpFTP").displayText().contains(u's'), false);
   for (const auto& [nom, id] : {std::pair("cbDatePaiement", 32), std::pair("cbFactureModeProvision", 25),
@@ -181,10 +172,8 @@ TEST_F(Parametres, GroupsComeAndGo) {
 TEST_F(Parametres, MaintenanceByMouseAndKeyboard) {
   Ecole.parametre(41, "1");
   Ouvrir();
-  auto* etape1 = [&] {
-    Controle("edServeurFTP");
-    return BoutonDe(Programme.Fenetre(), "Mise à jour de la base de données");
-  }();
+  Controle("edServeurFTP");  // shows its page
+  auto* etape1 = BoutonDe(Programme.Fenetre(), "Mise à jour de la base de données");
   Programme.Dialogues.Attend("Votre base de données est à jour !");
   Cliquer("Mise à jour de la base de données");
   Programme.Dialogues.Saisit("Paramètre", "113").Saisit("Valeur actuelle : ", "1");
@@ -219,11 +208,10 @@ TEST_F(MonEcole, EachFieldWritesItsSetting) {
   EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM PARAMETRE"), "3") << "opening adds no row";
   const QStringList champs =
       u"edNomEcole 1 edEcoleAdresse 2 edEcoleCodePostal 3 edEcoleLocalite 4 edEcoleTelephone 5 "
-      u"edImplantation 9 "
-      "edCompteBancaire 11 edHeureDebutLMJV 12 edMinuteDebutLMJV 13 edHeureFinLMJV 14 edMinuteFinLMJV 15 "
+      u"edImplantation "
+      "9 edCompteBancaire 11 edHeureDebutLMJV 12 edMinuteDebutLMJV 13 edHeureFinLMJV 14 edMinuteFinLMJV 15 "
       "edHeureDebutMercredi 16 edMinuteDebutMercredi 17 edHeureFinMercredi 18 edMinuteFinMercredi 19 edEmail "
-      "20 "
-      "edNomDirection 21 edPrenomDirection 22 edTitreDirection 23 edNumeroEntreprise 117"_s.split(u' ');
+      "20 edNomDirection 21 edPrenomDirection 22 edTitreDirection 23 edNumeroEntreprise 117"_s.split(u' ');
   for (int i = 0; i < champs.size(); i += 2) {
     Saisir(champs[i], u" 0%1 "_s.arg(champs[i + 1]));
     EXPECT_EQ(Parametre(champs[i + 1].toInt()), u"0%1"_s.arg(champs[i + 1])) << champs[i].toStdString();
@@ -239,12 +227,10 @@ TEST_F(MonEcole, EachFieldWritesItsSetting) {
 }
 
 TEST_F(MonEcole, ASiteTakesItsShortNameAndTheTreeFollowsOnClosing) {
-  Base.Sql(
-      "INSERT INTO IMPLANTATION (IMPLANTATION_ID, CODE_IMPLANTATION, LIBELLE_COURT, ADRESSE) VALUES "
-      "(90, 'S1', 'Centre', 'Rue Haute')");
-  Base.Sql(
-      "INSERT INTO IMPLANTATION (IMPLANTATION_ID, CODE_IMPLANTATION, LIBELLE_COURT, ADRESSE) VALUES "
-      "(91, 'S2', 'Gare', 'Quai')");
+  for (const char* site : {"90, 'S1', 'Centre', 'Rue Haute'", "91, 'S2', 'Gare', 'Quai'"})
+    Base.Sql(
+        "INSERT INTO IMPLANTATION (IMPLANTATION_ID, CODE_IMPLANTATION, LIBELLE_COURT, ADRESSE) VALUES (" +
+        QString(site) + ')');
   Demarrer(TGestionnaire::AdvGlowButton2Click);
   Programme.Ouvrir(TGestionnaire::AdvGlowButton3Click);
   Saisir("edLibelleCourt", "Tilleuls");

@@ -1,42 +1,31 @@
 // The bank through the real window, by the keyboard: a file, whom its movements went to, and back.
-#include <gtest/gtest.h>
 
 #include <QContextMenuEvent>
 #include <QDialogButtonBox>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
 #include <QTimer>
 
 #include "screens/payments/frm_attribution_compte.h"
 #include "screens/payments/frm_attribution_virement.h"
 #include "screens/payments/frm_repartition.h"
 #include "screens/payments/frm_virement.h"
-#include "support/ecran_essai.h"
-#include "ui/commun/vue_grille.h"
-#include "ui/payments/vue_attribution_compte.h"
-#include "ui/payments/vue_attribution_virement.h"
 #include "ui/payments/vue_repartition.h"
 #include "ui/payments/vue_virement.h"
-#include "ui/programme_essai.h"
 #include "ui/pupils/vue_signaletique.h"
-#include "ui/verifier_vue.h"
-
-using namespace Qt::StringLiterals;
+#include "ui/reglages_essai.h"
+#include "ui/vues_seules.h"
 
 namespace {
 
 const QString kAttribution = u"Attribution manuelle des paiements"_s;
 
 /// Two pupils; a file of five movements, of which the first names its pupil.
-class Virements : public testing::Test {
+class Virements : public TReglagesEssai {
  protected:
   void SetUp() override {
-    TEcoleEssai ecole(Base);
-    ecole.unEleve().nomme(u"LAMBERT"_s, u"Élise"_s).enClasse(u"P3"_s, u"A"_s);
-    ecole.unEleve().nomme(u"DUPONT"_s, u"Zoé"_s).enClasse(u"P1"_s, u"A"_s);
+    Ecole.unEleve().nomme(u"LAMBERT"_s, u"Élise"_s).enClasse(u"P3"_s, u"A"_s);
+    Ecole.unEleve().nomme(u"DUPONT"_s, u"Zoé"_s).enClasse(u"P1"_s, u"A"_s);
     QByteArray lignes = QByteArray(";\n").repeated(13);
     for (const char* ligne : {"A;;;;;10,00;;;;+++000/0110/16104+++", "B;;;;;11,00;;;;b", "C;;;;;12,00;;;;c",
                               "D;;;;;13,00;;;;d", "E;;;;;14,00;;;;e"})
@@ -50,13 +39,9 @@ class Virements : public testing::Test {
     Touche(touche, Qt::AltModifier);
     ASSERT_TRUE(QTest::qWaitFor(fait));
   }
-  void Touche(int touche, Qt::KeyboardModifiers avec = {}) {
-    QCoreApplication::processEvents();
-    QApplication::setActiveWindow(&Programme.Fenetre());
-    QWidget* la = QApplication::focusWidget();
-    QTest::keyClick(la != nullptr ? la : &Programme.Fenetre(), static_cast<Qt::Key>(touche), avec);
-    QCoreApplication::processEvents();
-    QApplication::setActiveWindow(&Programme.Fenetre());
+  void Touche(Qt::Key touche, Qt::KeyboardModifiers avec = {}) {
+    TReglagesEssai::Touche(touche, avec);
+    Activer();
   }
   /// The entry of the context menu of the history.
   void Menu(const QString& entree) {
@@ -68,23 +53,15 @@ class Virements : public testing::Test {
       QTest::keyClick(menu, Qt::Key_Return);
     });
     QContextMenuEvent demande(QContextMenuEvent::Keyboard, {}, {});
-    QApplication::sendEvent(Liste(u"Mouvements de l'année"_s), &demande);
-    QCoreApplication::processEvents();
-    QApplication::setActiveWindow(&Programme.Fenetre());  // a menu leaves none
+    QApplication::sendEvent(&Nomme<VueGrille>(u"Mouvements de l'année"_s), &demande);
+    Activer();  // a menu leaves none
   }
-  VueGrille* Liste(const QString& nom) {
-    for (VueGrille* liste : Programme.Fenetre().VueCourante()->findChildren<VueGrille*>())
-      if (liste->accessibleName() == nom) return liste;
-    throw std::runtime_error(nom.toStdString());
-  }
-  TFrmVirement& Form() { return dynamic_cast<TFrmVirement&>(*Programme.Main().Panneau.Courante()); }
+  TFrmVirement& Form() { return TReglagesEssai::Form<TFrmVirement>(); }
   QStringList Credits() {
     return Base.Rangees(
         u"SELECT ELEVE_ID, DONNEUR_ORDRE FROM FRAIS_ELEVE JOIN EXTRAITS USING (EXTRAIT_ID) ORDER BY 2"_s);
   }
 
-  TProgrammeEssai Programme;
-  TBaseEssai& Base = Programme.Base;
   QString Fichier;
 };
 
@@ -101,13 +78,13 @@ TEST_F(Virements, FromTheFileToTheRecordAndBack) {
   Touche(Qt::Key_Space);
   Touche(Qt::Key_Space);  // the hand is on step 2
   ASSERT_EQ(Credits(), QStringList{u"1;A"_s});
-  EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"4 mouvements sont inconnus."));
+  EXPECT_TRUE(Dit(u"4 mouvements sont inconnus."_s));
 
   Touche(Qt::Key_Tab, Qt::ControlModifier);
   Alt(Qt::Key_C, [this] { return Form().Historique.NombreLignes() == 4; });  // the unknown ones are left
-  VueGrille* liste = Liste(u"Mouvements de l'année"_s);
-  liste->setFocus();
-  liste->sortByColumn(TFrmVirement::Donneur, Qt::DescendingOrder);
+  auto& liste = Nomme<VueGrille>(u"Mouvements de l'année"_s);
+  liste.setFocus();
+  liste.sortByColumn(TFrmVirement::Donneur, Qt::DescendingOrder);
   Touche(Qt::Key_Home);
   Programme.Dialogues.Fait(kAttribution, [](QWidget& dialogue) {
     QApplication::setActiveWindow(&dialogue);
@@ -127,46 +104,39 @@ TEST_F(Virements, FromTheFileToTheRecordAndBack) {
   });
   Touche(Qt::Key_Return);
   ASSERT_EQ(Credits(), (QStringList{u"1;A"_s, u"1;D"_s, u"2;E"_s}));
-  EXPECT_TRUE(liste->hasFocus());
-  EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains(u"Total de mouvements inconnus : 2"));
+  EXPECT_TRUE(liste.hasFocus());
+  EXPECT_TRUE(Dit(u"Total de mouvements inconnus : 2"_s));
 
   Form().Historique.ChoisirLigne(0);
   Menu(u"Compte responsable 2"_s);
   Menu(u"Cacher le mouvement"_s);
   Menu(u"Attribuer à l'année scolaire précédente"_s);
   EXPECT_EQ(Base.Rangees(u"SELECT DONNEUR_ORDRE, FLG_IGNORE, TYPE_RESPONSABLE, ANNEE_SCOLAIRE FROM EXTRAITS "
-                         "WHERE DONNEUR_ORDRE IN ('B', 'C') ORDER BY 1"_s)
-                .join(u' ')
-                .remove(u'-'),
-            u"B;1;2;2016 C;;0;2015");
+                         "WHERE DONNEUR_ORDRE IN ('B', 'C') ORDER BY 1"_s),
+            (QStringList{"B;1;2;2016", "C;-;0;2015"}));
 
   // On the record: the account of one of two payers, and the payment of the other taken back.
   Touche(Qt::Key_F3);
   QTest::keyClicks(QApplication::focusWidget(), u"lamb"_s);
   Alt(Qt::Key_L, [this] { return Programme.Vue<VueSignaletique>() != nullptr; });
-  for (QAbstractButton* bouton : Programme.Fenetre().VueCourante()->findChildren<QAbstractButton*>())
-    if (bouton->accessibleName() == u"Comptes vus sur les virements") bouton->setFocus();
+  Nomme<QAbstractButton>(u"Comptes vus sur les virements"_s).setFocus();
   Programme.Dialogues.Fait(u"Attribution de compte bancaire sur base des virements"_s, [](QWidget& dialogue) {
     QTest::keyClick(dialogue.focusWidget(), Qt::Key_Down);
     QTest::keyClick(dialogue.focusWidget(), Qt::Key_Return);
   });
   Touche(Qt::Key_Space);
   EXPECT_EQ(Base.Valeur(u"SELECT NOM_TITULAIRE_COMPTE FROM ELEVES WHERE ELEVE_ID = 1"_s), u"D");
-  VueGrille* frais = Liste(u"Frais et paiements"_s);
-  frais->Grille().ChoisirLigne(0);
-  frais->setFocus();
+  auto& frais = Nomme<VueGrille>(u"Frais et paiements"_s);
+  frais.Grille().ChoisirLigne(0);
+  frais.setFocus();
   Programme.Dialogues.Repond(u"Confirmez-vous la suppression du paiement de 10,00 euros"_s, true);
   Touche(Qt::Key_Delete);
   Alt(Qt::Key_V, [this] { return Programme.Vue<VueVirement>() != nullptr; });
   EXPECT_EQ(Form().Historique.Textes(0).last(), u"Inconnu") << "nobody has it any more";
 }
 
-TEST(VuesDesVirements, AreWithinReach) {
-  TBaseEssai base;
-  TEcoleEssai ecole(base);
-  ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
-  TEcranEssai ecran(base);
-  TFrmVirement form(ecran.Contexte);
+TEST_F(TVuesSeules, TheBankIsWithinReach) {
+  TFrmVirement form(ecran->Contexte);
   form.Montrer();
   for (int page = 0; page < 3; ++page)
     VerifierVuePartout([&] {
@@ -174,21 +144,18 @@ TEST(VuesDesVirements, AreWithinReach) {
       vue->findChild<QTabWidget*>()->setCurrentIndex(page);
       return vue;
     });
-  base.Dialogues.Saisit(
-      u"Importer"_s,
-      base.Fichier(u"r.csv"_s, QByteArray(";\n").repeated(13) + "x;05/10/2016;;;BE68;A;;;;;10,00;EUR;;;a\n"));
+  const QByteArray lignes = QByteArray(";\n").repeated(13) + "x;05/10/2016;;;BE68;A;;;;;10,00;EUR;;;a\n";
+  base.Dialogues.Saisit(u"Importer"_s, base.Fichier(u"r.csv"_s, lignes));
   form.btnEtape1Click();
   form.btnEtape2Click();
-  VerifierVuePartout([&] { return std::make_unique<VueVirement>(form, nullptr); });
+  VerifierForme(form);
   form.Historique.ChoisirLigne(0);
-  TFrmAttributionVirement attribution(ecran.Contexte, form);
-  attribution.Montrer();
-  VerifierVuePartout([&] { return std::make_unique<VueAttributionVirement>(attribution, nullptr); });
+  TFrmAttributionVirement attribution(ecran->Contexte, form);
+  VerifierForme(attribution);
   const std::vector<TProposition> aucune;
-  const TExtrait& virement = *ecran.Essai.Controleur.Extraits().begin();
-  TFrmRepartition parts(ecran.Contexte, virement, {}, aucune);
+  TFrmRepartition parts(ecran->Contexte, *ecran->Essai.Controleur.Extraits().begin(), {}, aucune);
   parts.Ajouter(*Globals.Eleves->Tous().front());
-  VerifierVuePartout([&] { return std::make_unique<VueRepartition>(parts, nullptr); });
+  VerifierForme(parts);
   VueRepartition partage(parts, nullptr);
   partage.show();
   partage.activateWindow();
@@ -197,5 +164,5 @@ TEST(VuesDesVirements, AreWithinReach) {
   QTest::keyClick(partage.focusWidget(), Qt::Key_Tab);
   EXPECT_EQ(partage.focusWidget(), partage.findChild<QWidget*>(u"edPart"_s)) << "not left onto the button";
   TFrmAttributionCompte compte(base.Dialogues, {u"BE11"_s, u"BE22"_s}, {u"A"_s, u"B"_s});
-  VerifierVuePartout([&] { return std::make_unique<VueAttributionCompte>(compte, nullptr); });
+  VerifierForme(compte);
 }

@@ -1,27 +1,20 @@
-#include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDropEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QTest>
 
-#include "core/exceptions.h"
 #include "screens/attendance/frm_ajout_releve.h"
-#include "screens/attendance/frm_releve_calendrier.h"
 #include "screens/payments/frm_paiement.h"
 #include "screens/signaletique_essai.h"
 #include "ui/attendance/vue_releve_calendrier.h"
 #include "ui/commun/pied_de_grille.h"
 #include "ui/commun/vue_dialogue.h"
-#include "ui/commun/vue_grille.h"
 #include "ui/principal/application.h"
 #include "ui/pupils/fiche_identite.h"
 #include "ui/pupils/vue_signaletique.h"
-#include "ui/verifier_vue.h"
+#include "ui/reglages_essai.h"
 
 namespace {
 
@@ -55,8 +48,8 @@ struct TVueSignaletique : TSignaletiqueEssai {
 }  // namespace
 
 TEST_F(TVueSignaletique, RienNeManqueAuClavierNiALaVue) {
-  ecole.parametre(100, u"1"_s);
-  rose.suit(ecole.activite(u"16:00"_s, u"17:00"_s), u"14"_s);
+  ecole.parametre(100, "1");
+  rose.suit(ecole.activite("16:00", "17:00"), "14");
   Ouvrir(rose);
   VerifierVuePartout([this] { return std::make_unique<VueSignaletique>(*ecran); });
 }
@@ -64,26 +57,26 @@ TEST_F(TVueSignaletique, RienNeManqueAuClavierNiALaVue) {
 TEST_F(TVueSignaletique, MontreLEleve) {
   Ouvrir(rose);
   Montrer();
-  for (const char16_t* texte :
-       {u"LAMBERT Élise", u"P3 A  ·  Matricule 212-04127-38", u"À payer", u"\u2212126,10\u00A0€"})
-    EXPECT_TRUE(Montre(QString::fromUtf16(texte))) << QString::fromUtf16(texte).toStdString();
+  for (const char* texte :
+       {"LAMBERT Élise", "P3 A  ·  Matricule 212-04127-38", "À payer", "\u2212126,10\u00A0€"})
+    EXPECT_TRUE(Montre(texte)) << texte;
   QStringList coches;
   for (const QAbstractButton* boite : vue->findChildren<QAbstractButton*>()) {
     const QString nom = boite->accessibleName().isEmpty() ? boite->text() : boite->accessibleName();
     if (boite->isChecked() && !nom.contains(u"tous les mois") && !nom.startsWith(u"Participe à l'étude"))
       coches += nom;
   }
-  EXPECT_EQ(coches, (QStringList{u"Attestation au nom du second"_s, u"Parents séparés"_s,
-                                 u"Rentre à son domicile pendant midi, septembre"_s,
-                                 u"Paiement forfaitaire, janvier"_s}));
-  EXPECT_TRUE(Controle<QAbstractButton>(u"Participe à l'étude, tous les mois"_s).isChecked());
+  EXPECT_EQ(coches,
+            (QStringList{"Attestation au nom du second", "Parents séparés",
+                         "Rentre à son domicile pendant midi, septembre", "Paiement forfaitaire, janvier"}));
+  EXPECT_TRUE(Controle<QAbstractButton>("Participe à l'étude, tous les mois").isChecked());
 
-  auto& mois = Controle<QComboBox>(u"Mois du relevé"_s);
-  EXPECT_EQ(mois.currentText(), u"Octobre"_s);
+  auto& mois = Controle<QComboBox>("Mois du relevé");
+  EXPECT_EQ(mois.currentText(), "Octobre");
   mois.setFocus();
   for (int i = 0; i < 4; ++i) QTest::keyClick(&mois, Qt::Key_Down);
   EXPECT_EQ(ecran->IndiceMois(), 5);
-  EXPECT_TRUE(Montre(u"Aucun relevé en février"_s));
+  EXPECT_TRUE(Montre("Aucun relevé en février"));
   EXPECT_TRUE(mois.hasFocus());
 }
 
@@ -117,13 +110,10 @@ struct TSaisieFiche : TVueSignaletique {
 }  // namespace
 
 TEST_F(TSaisieFiche, UnChampQuitteDeToutesLesFaconsSEnregistre) {
-  const struct {
-    const char* Facon;
-    std::function<void(QLineEdit&)> Quitter;
-  } facons[] = {
+  const std::pair<const char*, std::function<void(QLineEdit&)>> facons[] = {
       {"Tab", [](QLineEdit& champ) { QTest::keyClick(&champ, Qt::Key_Tab); }},
       {"Entree", [](QLineEdit& champ) { QTest::keyClick(&champ, Qt::Key_Return); }},
-      {"souris", [&](QLineEdit&) { Controle<QLineEdit>(u"N° compte"_s).setFocus(Qt::MouseFocusReason); }},
+      {"souris", [&](QLineEdit&) { Controle<QLineEdit>("N° compte").setFocus(Qt::MouseFocusReason); }},
       {"autre fenetre", [](QLineEdit& champ) { champ.clearFocus(); }},
       {"commande", [&](QLineEdit&) { ecran->LaisserChamp(); }},
       {"autre eleve", [&](QLineEdit&) {
@@ -131,166 +121,161 @@ TEST_F(TSaisieFiche, UnChampQuitteDeToutesLesFaconsSEnregistre) {
          Choisir(vide.Id);
        }}};
   for (const auto& [facon, quitter] : facons) {
-    QLineEdit& champ = Taper(u"Localité du responsable"_s, QString::fromUtf8(facon));
-    EXPECT_NE(Eleve(u"LOCALITE"_s), QString::fromUtf8(facon)) << "not while it is typed in";
+    QLineEdit& champ = Taper("Localité du responsable", facon);
+    EXPECT_NE(Eleve("LOCALITE"), facon) << "not while it is typed in";
     quitter(champ);
-    EXPECT_EQ(Eleve(u"LOCALITE"_s), QString::fromUtf8(facon));
+    EXPECT_EQ(Eleve("LOCALITE"), facon);
   }
-  EXPECT_EQ(Eleve(u"LOCALITE"_s, vide.Id), QString());
+  EXPECT_EQ(Eleve("LOCALITE", vide.Id), QString());
   EXPECT_EQ(monde.Etats.last(), u"Localité du responsable : enregistré pour LAMBERT Élise");
   Choisir(rose.Id);
-  const std::pair<QString, QString> autres[] = {{u"Adresse du second responsable"_s, u"ADRESSE2"_s},
-                                                {u"Nom du titulaire"_s, u"NOM_TITULAIRE_COMPTE"_s},
-                                                {u"Code postal du second responsable"_s, u"CODE_POSTAL2"_s}};
+  const std::pair<QString, QString> autres[] = {{"Adresse du second responsable", "ADRESSE2"},
+                                                {"Nom du titulaire", "NOM_TITULAIRE_COMPTE"},
+                                                {"Code postal du second responsable", "CODE_POSTAL2"}};
   for (const auto& [nom, colonne] : autres) {
-    Taper(nom, u"4000"_s);
+    Taper(nom, "4000");
     ecran->LaisserChamp();
     EXPECT_EQ(Eleve(colonne), u"4000");
   }
-  EXPECT_EQ(Taper(u"Numéro du responsable"_s, QString(60, u'9')).text().size(), 40)
-      << "what the column takes";
+  EXPECT_EQ(Taper("Numéro du responsable", QString(60, u'9')).text().size(), 40) << "what the column takes";
 }
 
 TEST_F(TSaisieFiche, UneDateFausseResteJusquAuProchainEleve) {
-  QLineEdit& date = Taper(u"Date de naissance"_s, u"31/02/2010"_s);
+  QLineEdit& date = Taper("Date de naissance", "31/02/2010");
   QTest::keyClick(&date, Qt::Key_Tab);
   QApplication::processEvents();
   EXPECT_TRUE(date.hasFocus());
-  EXPECT_TRUE(Montre(u"La date de naissance introduite est incorrecte."_s));
-  EXPECT_EQ(monde.Etats, QStringList{u"Non enregistré : La date de naissance introduite est incorrecte."_s});
+  EXPECT_TRUE(Montre("La date de naissance introduite est incorrecte."));
+  EXPECT_EQ(monde.Etats, QStringList{"Non enregistré : La date de naissance introduite est incorrecte."});
   Choisir(rose.Id);  // a refresh
   EXPECT_EQ(date.text(), u"31/02/2010");
-  EXPECT_EQ(Eleve(u"DATE_NAISSANCE"_s), u"2010-03-14");
+  EXPECT_EQ(Eleve("DATE_NAISSANCE"), u"2010-03-14");
   QTest::keyClick(&date, Qt::Key_Escape);
   EXPECT_EQ(date.text(), u"14/03/2010");
-  Taper(u"Date de naissance"_s, u"hier"_s);
+  Taper("Date de naissance", "hier");
   EXPECT_FALSE(ecran->LaisserChamp());
   Choisir(vide.Id);
   QApplication::processEvents();
   EXPECT_EQ(date.text(), QString());
   EXPECT_TRUE(monde.Etats.last().contains(u"LAMBERT Élise")) << "it was hers, and is told";
-  EXPECT_EQ(Eleve(u"DATE_NAISSANCE"_s, vide.Id), QString());
+  EXPECT_EQ(Eleve("DATE_NAISSANCE", vide.Id), QString());
 }
 
 TEST_F(TSaisieFiche, UnEnregistrementQuiEchoue) {
-  base.Sql(u"ALTER TABLE ELEVES ADD CONSTRAINT PAS_ICI CHECK (LOCALITE <> 'Ailleurs')"_s);
-  base.Dialogues.Attend(u"PAS_ICI"_s);
-  QLineEdit& champ = Taper(u"Localité du responsable"_s, u"Ailleurs"_s);
+  base.Sql("ALTER TABLE ELEVES ADD CONSTRAINT PAS_ICI CHECK (LOCALITE <> 'Ailleurs')");
+  base.Dialogues.Attend("PAS_ICI");
+  QLineEdit& champ = Taper("Localité du responsable", "Ailleurs");
   QTest::keyClick(&champ, Qt::Key_Tab);
   QApplication::processEvents();
   EXPECT_EQ(champ.text(), u"Ailleurs");
   EXPECT_EQ(Globals.EleveCourant->Localite, u"Namur");
-  Taper(u"Localité du responsable"_s, u"Jambes"_s);
-  Cocher(u"2e enfant"_s);
-  EXPECT_EQ(Eleve(u"LOCALITE"_s) + Eleve(u"FLG_2E_ENFANT"_s), u"Jambes1") << "the next save works";
+  Taper("Localité du responsable", "Jambes");
+  Cocher("2e enfant");
+  EXPECT_EQ(Eleve("LOCALITE") + Eleve("FLG_2E_ENFANT"), u"Jambes1") << "the next save works";
 }
 
 TEST_F(TSaisieFiche, LesCasesEtLesMois) {
-  Cocher(u"Gratuité des services"_s);
+  Cocher("Gratuité des services");
   EXPECT_EQ(Euros(ecran->Releve.Total), "5.7500") << "at once";
-  Cocher(u"Élève radié"_s);
+  Cocher("Élève radié");
   EXPECT_EQ(monde.Envois, 1);
-  Cocher(u"Attestation au nom du responsable"_s);
-  EXPECT_EQ(Eleve(u"FLG_3E_ENFANT"_s), u"1");
-  EXPECT_EQ(Eleve(u"FLG_RADIE"_s), u"1");
-  EXPECT_NE(Eleve(u"FLG_IMPOT_RESPONS2"_s), u"1");
-  EXPECT_FALSE(Controle<QAbstractButton>(u"Attestation au nom du second"_s).isChecked());
+  Cocher("Attestation au nom du responsable");
+  EXPECT_EQ(Eleve("FLG_3E_ENFANT"), u"1");
+  EXPECT_EQ(Eleve("FLG_RADIE"), u"1");
+  EXPECT_NE(Eleve("FLG_IMPOT_RESPONS2"), u"1");
+  EXPECT_FALSE(Controle<QAbstractButton>("Attestation au nom du second").isChecked());
 
   const auto marques = [&](int type) {
-    return base
-        .Rangees(
-            u"SELECT MOIS, ANNEE FROM PRESENCES_PARTICULIERES WHERE TYPE_PRESENCE = %1 ORDER BY ANNEE, MOIS"_s
-                .arg(type))
-        .join(u' ');
+    const QString sql =
+        "SELECT MOIS, ANNEE FROM PRESENCES_PARTICULIERES WHERE TYPE_PRESENCE = %1 ORDER BY 2, 1";
+    return base.Rangees(sql.arg(type)).join(u' ');
   };
-  Controle<QAbstractButton>(u"Rentre à son domicile pendant midi, janvier"_s).click();
+  Controle<QAbstractButton>("Rentre à son domicile pendant midi, janvier").click();
   EXPECT_EQ(marques(1), u"9;2016 1;2017");
-  Controle<QAbstractButton>(u"Paiement forfaitaire, tous les mois"_s).click();
+  Controle<QAbstractButton>("Paiement forfaitaire, tous les mois").click();
   EXPECT_EQ(marques(3), u"9;2016 10;2016 11;2016 12;2016 1;2017 2;2017 3;2017 4;2017 5;2017 6;2017");
-  Controle<QAbstractButton>(u"Paiement forfaitaire, tous les mois"_s).click();
-  Controle<QAbstractButton>(u"Participe à l'étude, juin"_s).click();
+  Controle<QAbstractButton>("Paiement forfaitaire, tous les mois").click();
+  Controle<QAbstractButton>("Participe à l'étude, juin").click();
   EXPECT_EQ(marques(3), QString());
-  EXPECT_FALSE(Controle<QCheckBox>(u"Participe à l'étude, tous les mois"_s).checkState() == Qt::Checked);
+  EXPECT_FALSE(Controle<QCheckBox>("Participe à l'étude, tous les mois").checkState() == Qt::Checked);
 
   Globals.EleveCourant = nullptr;
   Diffuser(TCodeMessage::EleveChange, *ecran);
-  EXPECT_TRUE(Montre(u"Choisissez un élève dans la liste"_s));
-  for (const QString& nom :
-       {u"2e enfant"_s, u"Attestation au nom du second"_s, u"Paiement forfaitaire, mars"_s}) {
-    base.Dialogues.Attend(u"Veuillez sélectionner un élève"_s);
+  EXPECT_TRUE(Montre("Choisissez un élève dans la liste"));
+  for (const char* nom : {"2e enfant", "Attestation au nom du second", "Paiement forfaitaire, mars"}) {
+    base.Dialogues.Attend("Veuillez sélectionner un élève");
     Controle<QAbstractButton>(nom).click();
     EXPECT_FALSE(Controle<QAbstractButton>(nom).isChecked()) << "the box goes back";
   }
-  base.Dialogues.Attend(u"Veuillez sélectionner un élève"_s);
+  base.Dialogues.Attend("Veuillez sélectionner un élève");
   ecran->SpeedButton2Click();
 }
 
 TEST_F(TSaisieFiche, RelevesAjoutesEtSupprimes) {
-  monde.SurModale = [](TForm& form) {
-    auto& saisie = dynamic_cast<TFrmAjoutReleve&>(form);
-    saisie.Champs().Taper(2, u"07:15"_s);
+  monde.Modale<TFrmAjoutReleve>([](TFrmAjoutReleve& saisie) {
+    saisie.Champs().Taper(2, "07:15");
     if (!saisie.Valider()) saisie.Valider();
-  };
+  });
   monde.Essai.Horloge.Moment = EncodeDate(2016, 10, 6);
-  Controle<QAbstractButton>(u"Ajouter un relevé"_s).click();
-  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM PRESENCES WHERE DATE_RELEVE = '2016-10-06'"_s), u"1");
-  Controle<QAbstractButton>(u"Ajouter un relevé"_s).click();
+  Controle<QAbstractButton>("Ajouter un relevé").click();
+  const QString lesSix = "SELECT COUNT(*) FROM PRESENCES WHERE DATE_RELEVE = '2016-10-06'";
+  EXPECT_EQ(base.Valeur(lesSix), u"1");
+  Controle<QAbstractButton>("Ajouter un relevé").click();
   EXPECT_TRUE(monde.Etats.last().startsWith(u"Relevé non ajouté")) << "a record that is dropped is told";
 
-  const QString question = u"Confirmez-vous la suppression définitive du relevé sélectionné ?"_s;
-  base.Dialogues.Attend(u"Veuillez sélectionner un relevé à supprimer"_s);
-  Controle<QAbstractButton>(u"Supprimer le relevé"_s).click();
-  auto& releve = Controle<VueGrille>(u"Relevé mensuel des services"_s);
+  const QString question = "Confirmez-vous la suppression définitive du relevé sélectionné ?";
+  base.Dialogues.Attend("Veuillez sélectionner un relevé à supprimer");
+  Controle<QAbstractButton>("Supprimer le relevé").click();
+  auto& releve = Controle<VueGrille>("Relevé mensuel des services");
   ecran->Releve.Grille.ChoisirLigne(3);
   base.Dialogues.Repond(question, false).Repond(question, true);
   releve.setFocus();
   QTest::keyClick(&releve, Qt::Key_Delete);
   QTest::keyClick(&releve, Qt::Key_Delete);
-  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM PRESENCES WHERE DATE_RELEVE = '2016-10-06'"_s), u"0");
+  EXPECT_EQ(base.Valeur(lesSix), u"0");
   QTest::keyClick(&releve, Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM PRESENCES WHERE DATE_RELEVE = '2016-10-06'"_s), u"1");
+  EXPECT_EQ(base.Valeur(lesSix), u"1");
 }
 
 TEST_F(TSaisieFiche, FraisCochesPaiementsSaisisEtSupprimes) {
-  auto& frais = Controle<VueGrille>(u"Frais et paiements"_s);
+  auto& frais = Controle<VueGrille>("Frais et paiements");
   frais.setFocus();
   const auto cocher = [&](int ligne) {
     ecran->Frais.Grille.ChoisirLigne(ligne);
     QTest::keyClick(&frais, Qt::Key_Space);
   };
   const auto mois = [&] {
-    return base.Rangees(u"SELECT MOIS, ANNEE, MONTANT FROM PAIEMENTS ORDER BY PAIEMENT_ID"_s).join(u' ');
+    return base.Rangees("SELECT MOIS, ANNEE, MONTANT FROM PAIEMENTS ORDER BY PAIEMENT_ID").join(u' ');
   };
   cocher(2);  // "Stage"
-  EXPECT_EQ(base.Valeur(u"SELECT MAX(MONTANT_VERSE) FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = 3"_s), u"3.0000");
+  EXPECT_EQ(base.Valeur("SELECT MAX(MONTANT_VERSE) FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = 3"), u"3.0000");
   cocher(4);  // "Services octobre"
   EXPECT_TRUE(mois().endsWith(u"10;2016;17.5000")) << "the school year of the row";
   cocher(4);
   EXPECT_FALSE(mois().contains(u"17.5"));
-  const QString partiel = u"n'est payé qu'en partie"_s;
+  const QString partiel = "n'est payé qu'en partie";
   base.Dialogues.Repond(partiel, false).Repond(partiel, true);
   cocher(0);
   EXPECT_EQ(ecran->Frais.Grille.Texte(0, 3), u"50,00 €");
   cocher(0);
   EXPECT_EQ(ecran->Frais.Grille.Texte(0, 3), QString());
 
-  monde.SurModale = [](TForm& form) {
-    auto& saisie = dynamic_cast<TFrmPaiement&>(form);
-    saisie.Champs().Taper(0, u"Acompte d'août"_s);
-    saisie.Champs().Taper(1, u"douze"_s);
+  monde.Modale<TFrmPaiement>([](TFrmPaiement& saisie) {
+    saisie.Champs().Taper(0, "Acompte d'août");
+    saisie.Champs().Taper(1, "douze");
     EXPECT_FALSE(saisie.Valider());
     EXPECT_EQ(saisie.Champs().Faute(1), u"Le montant introduit est incorrect !");
-    saisie.Champs().Taper(1, u"12,5"_s);
+    saisie.Champs().Taper(1, "12,5");
     saisie.Champs().Choisir(3, 2);
     EXPECT_TRUE(saisie.Valider());
-  };
-  Controle<QAbstractButton>(u"Ajouter un paiement"_s).click();
+  });
+  Controle<QAbstractButton>("Ajouter un paiement").click();
   const QString paiements =
       u"SELECT REMARQUE, MONTANT_VERSE, MOIS, TYPE_FAMILLE_FRAIS, EXTRAIT_ID FROM FRAIS_ELEVE WHERE "
       "LISTEFRAIS_ID IS NULL ORDER BY FRAIS_ELEVE_ID"_s;
   EXPECT_EQ(base.Rangees(paiements).last(), u"Acompte d'août;12.5000;10;2;-");
   ecran->Frais.Grille.ChoisirLigne(ecran->Frais.Grille.NombreLignes() - 1);
-  base.Dialogues.Repond(u"Confirmez-vous la suppression du paiement de 12,50 euros (Acompte d'août)"_s, true);
+  base.Dialogues.Repond("Confirmez-vous la suppression du paiement de 12,50 euros (Acompte d'août)", true);
   QTest::keyClick(&frais, Qt::Key_Delete);
   EXPECT_EQ(base.Rangees(paiements).size(), 1);
   QTest::keyClick(&frais, Qt::Key_Z, Qt::ControlModifier);
@@ -301,13 +286,12 @@ TEST_F(TSaisieFiche, FraisCochesPaiementsSaisisEtSupprimes) {
 }
 
 TEST_F(TSaisieFiche, LeCalendrierMarqueCeQuiEstCompte) {
-  monde.SurModale = [&](TForm& form) {
-    auto& calendrier = dynamic_cast<TFrmReleveCalendrier&>(form);
+  monde.Modale<TFrmReleveCalendrier>([&](TFrmReleveCalendrier& calendrier) {
     VueReleveCalendrier vueCalendrier(calendrier, nullptr);
     calendrier.DateChange(J("2016-10-05"));
     calendrier.PlannerCalendar1DblClick();  // a Wednesday
     calendrier.DateChange(J("2016-10-06"));
-    base.Dialogues.Attend(u"Veuillez sélectionner un type de relevé"_s);
+    base.Dialogues.Attend("Veuillez sélectionner un type de relevé");
     calendrier.PlannerCalendar1DblClick();
     calendrier.TypeChange(0);
     EXPECT_TRUE(calendrier.EstMarque(J("2016-10-04")));
@@ -316,18 +300,17 @@ TEST_F(TSaisieFiche, LeCalendrierMarqueCeQuiEstCompte) {
     calendrier.DateChange(J("2017-07-01"));
     EXPECT_EQ(calendrier.Date(), J("2016-10-06")) << "out of the year";
     calendrier.btnFermerClick();
-  };
-  Controle<QAbstractButton>(u"Relevés sur calendrier"_s).click();
+  });
+  Controle<QAbstractButton>("Relevés sur calendrier").click();
   EXPECT_EQ(
-      base.Rangees(u"SELECT TYPE_PRESENCE, HEURE_SORTIE FROM PRESENCES WHERE DATE_RELEVE = '2016-10-06'"_s),
-      QStringList{u"4;-"_s});
-  monde.SurModale = [&](TForm& form) {
-    auto& calendrier = dynamic_cast<TFrmReleveCalendrier&>(form);
+      base.Rangees("SELECT TYPE_PRESENCE, HEURE_SORTIE FROM PRESENCES WHERE DATE_RELEVE = '2016-10-06'"),
+      QStringList{"4;-"});
+  monde.Modale<TFrmReleveCalendrier>([&](TFrmReleveCalendrier& calendrier) {
     EXPECT_EQ(calendrier.Type(), 0);
     EXPECT_EQ(calendrier.Date(), J("2016-10-06"));
     VerifierVuePartout([&] { return std::make_unique<VueReleveCalendrier>(calendrier, nullptr); });
-  };
-  Controle<QAbstractButton>(u"Relevés sur calendrier"_s).click();
+  });
+  Controle<QAbstractButton>("Relevés sur calendrier").click();
   TFrmPaiement paiement(3);
   VerifierVuePartout([&] { return std::make_unique<VueDialogue>(paiement, nullptr); });
 }
@@ -335,15 +318,15 @@ TEST_F(TSaisieFiche, LeCalendrierMarqueCeQuiEstCompte) {
 TEST_F(TSaisieFiche, LaPhotoDUnFichier) {
   QImage image(200, 220, QImage::Format_RGB32);
   image.fill(Qt::red);
-  const QString bon = base.Chemin(u"photo.png"_s);
+  const QString bon = base.Chemin("photo.png");
   ASSERT_TRUE(image.save(bon));
-  auto& photo = Controle<QAbstractButton>(u"Photo"_s);
-  base.Dialogues.Saisit(u"Choisir une photo"_s, bon);
+  auto& photo = Controle<QAbstractButton>("Photo");
+  base.Dialogues.Saisit("Choisir une photo", bon);
   photo.click();
-  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM ELEVE_PHOTO"_s), u"1");
+  EXPECT_EQ(base.Valeur("SELECT COUNT(*) FROM ELEVE_PHOTO"), u"1");
   EXPECT_FALSE(Globals.Parametres->GetParametre(TParam::DatePhoto).isEmpty());
   EXPECT_FALSE(ecran->Photo().isNull());
-  base.Dialogues.Repond(u"Voulez-vous effacer cette photo ?"_s, true);
+  base.Dialogues.Repond("Voulez-vous effacer cette photo ?", true);
   photo.setFocus();
   QTest::keyClick(&photo, Qt::Key_Delete);
   EXPECT_TRUE(ecran->Photo().isNull());
@@ -358,8 +341,8 @@ TEST_F(TSaisieFiche, LaPhotoDUnFichier) {
   };
   auto& application = dynamic_cast<Application&>(*qApp);
   const QScopedValueRollback<IDialogues*> repond(application.Dialogues, &base.Dialogues);
-  base.Dialogues.Attend(u"n'est pas un fichier de cet ordinateur"_s);
-  deposer(QUrl(u"https://ecole.be/rose.jpg"_s));  // of a browser
+  base.Dialogues.Attend("n'est pas un fichier de cet ordinateur");
+  deposer(QUrl("https://ecole.be/rose.jpg"));  // of a browser
   deposer(QUrl::fromLocalFile(bon));
   EXPECT_FALSE(ecran->Photo().isNull());
 }
@@ -368,7 +351,7 @@ TEST_F(TSaisieFiche, LaPhotoDUnFichier) {
 TEST_F(TVueSignaletique, GroupesFoyerEtPlaceRestent) {
   Ouvrir(rose);
   Montrer({1117, 500});
-  auto& releve = Controle<VueGrille>(u"Relevé mensuel des services"_s);
+  auto& releve = Controle<VueGrille>("Relevé mensuel des services");
   releve.collapse(releve.model()->index(1, 0));
   releve.setFocus();
   releve.verticalScrollBar()->setValue(40);
@@ -383,14 +366,11 @@ TEST_F(TVueSignaletique, GroupesFoyerEtPlaceRestent) {
 
 TEST_F(TVueSignaletique, UneDeuxOuTroisColonnes) {
   Ouvrir(rose);
-  const struct {
-    int Largeur;
-    int Colonnes;
-  } cas[] = {{760, 1}, {1117, 2}, {1499, 2}, {1500, 3}, {1671, 3}, {1117, 2}};
+  const std::pair<int, int> cas[] = {{760, 1}, {1117, 2}, {1499, 2}, {1500, 3}, {1671, 3}, {1117, 2}};
   Montrer();
   const auto& identite = *vue->findChild<FicheIdentite*>();
-  const auto& releve = Controle<VueGrille>(u"Relevé mensuel des services"_s);
-  const auto& frais = Controle<VueGrille>(u"Frais et paiements"_s);
+  const auto& releve = Controle<VueGrille>("Relevé mensuel des services");
+  const auto& frais = Controle<VueGrille>("Frais et paiements");
   for (const auto& [largeur, colonnes] : cas) {
     vue->resize(largeur, 638);
     QApplication::processEvents();

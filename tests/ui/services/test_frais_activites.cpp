@@ -7,7 +7,6 @@
 #include "ui/reglages_essai.h"
 #include "ui/services/arbre_coches.h"
 #include "ui/services/vue_liste_frais.h"
-#include "ui/verifier_vue.h"
 
 namespace {
 
@@ -36,6 +35,14 @@ class ListesServices : public TReglagesEssai {
   }
   QString EtatNoeud(const QString& texte) {
     return Arbre().findItems(texte, Qt::MatchExactly | Qt::MatchRecursive).front()->text(1);
+  }
+  /// A fee of October for the whole school in the panel, not stored.
+  void RemplirPiscine() {
+    Touche(Qt::Key_F7);
+    QTest::keyClicks(QApplication::focusWidget(), "Piscine");
+    Taper("edMontant", "10");
+    Choisir("cmbMois", 1);
+    Choisir("cmbConcerne", 0);
   }
   QStringList Lignes() {
     return Base.Rangees("SELECT ELEVE_ID, MONTANT_VERSE FROM FRAIS_ELEVE ORDER BY ELEVE_ID");
@@ -149,14 +156,10 @@ TEST_F(ListesServices, AFeeRefusedHalfWayIsNotMadeTwice) {
       "CREATE TRIGGER REFUS FOR FRAIS_ELEVE BEFORE INSERT AS BEGIN IF (NEW.ELEVE_ID = 3) THEN "
       "NEW.ELEVE_ID = NULL; END");
   Demarrer(TGestionnaire::AdvGlowButton16Click);
-  Touche(Qt::Key_F7);
-  QTest::keyClicks(QApplication::focusWidget(), "Piscine");
-  Taper("edMontant", "10");
-  Choisir("cmbMois", 1);
-  Choisir("cmbConcerne", 0);
+  RemplirPiscine();
   CocherNoeud("Toute l'école");
-  EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains("5 élèves"));
-  Programme.Dialogues.Fait("ELEVE_ID", [](QWidget& dialogue) { dialogue.close(); });
+  EXPECT_TRUE(Dit("5 élèves"));
+  Programme.Dialogues.Ferme("ELEVE_ID");
   Touche(Qt::Key_F9);
   EXPECT_EQ(Lignes(), (QStringList{"1;0.0000", "2;0.0000"})) << "what was stored stays";
   Base.Sql("DROP TRIGGER REFUS");
@@ -167,19 +170,16 @@ TEST_F(ListesServices, AFeeRefusedHalfWayIsNotMadeTwice) {
   Base.Sql(
       "CREATE TRIGGER REFUS FOR FRAIS_ELEVE BEFORE DELETE AS DECLARE X INTEGER; BEGIN IF (OLD.ELEVE_ID = 3) "
       "THEN X = 1 / 0; END");
-  Programme.Dialogues.Repond("Voulez-vous supprimer ce frais ?", true).Fait("zero", [](QWidget& dialogue) {
-    dialogue.close();
-  });
+  Programme.Dialogues.Repond("Voulez-vous supprimer ce frais ?", true).Ferme("zero");
   Touche(Qt::Key_Delete, Qt::ControlModifier);
   EXPECT_EQ(Lignes(), toutes) << "those who were done have it again";
-  EXPECT_TRUE(TextesDe(Programme.Fenetre()).contains("5 élèves"));
+  EXPECT_TRUE(Dit("5 élèves"));
   Base.Sql("DROP TRIGGER REFUS");
   // A fee for the school of former times keeps its lines, so it cannot go.
   Base.Sql("UPDATE LISTE_FRAIS SET TYPE_FRAIS = 0");
   Programme.Main().mnuAnneeClick(2016);
   Programme.Ouvrir(TGestionnaire::AdvGlowButton16Click);
-  Programme.Dialogues.Repond("Voulez-vous supprimer ce frais ?", true)
-      .Fait("FK_LISTE_FRAIS", [](QWidget& dialogue) { dialogue.close(); });
+  Programme.Dialogues.Repond("Voulez-vous supprimer ce frais ?", true).Ferme("FK_LISTE_FRAIS");
   Touche(Qt::Key_Delete, Qt::ControlModifier);
   EXPECT_EQ(Lignes().size(), 5);
   EXPECT_EQ(Form<TFrmListeFrais>().Grille.NombreLignes(), 1) << "it is back";
@@ -188,11 +188,7 @@ TEST_F(ListesServices, AFeeRefusedHalfWayIsNotMadeTwice) {
 TEST_F(ListesServices, NothingElseBeginsWhileAFeeIsStoredOrDeleted) {
   Ecole.frais("Bus", "5", 10);
   Demarrer(TGestionnaire::AdvGlowButton16Click);
-  Touche(Qt::Key_F7);
-  QTest::keyClicks(QApplication::focusWidget(), "Piscine");
-  Taper("edMontant", "10");
-  Choisir("cmbMois", 1);
-  Choisir("cmbConcerne", 0);
+  RemplirPiscine();
   Cliquer("Mode frais non payés");
   CocherNoeud("Toute l'école");
   int fois = 0;
@@ -217,11 +213,7 @@ TEST_F(ListesServices, NothingElseBeginsWhileAFeeIsStoredOrDeleted) {
 TEST_F(ListesServices, ARowWithoutKeyIsRefused) {
   Base.Sql("DELETE FROM COUNTERS WHERE TABLE_NAME IN ('LISTE_FRAIS', 'ACTIVITES')");
   Demarrer(TGestionnaire::AdvGlowButton16Click);
-  Touche(Qt::Key_F7);
-  QTest::keyClicks(QApplication::focusWidget(), "Piscine");
-  Taper("edMontant", "10");
-  Choisir("cmbMois", 1);
-  Choisir("cmbConcerne", 0);
+  RemplirPiscine();
   CocherNoeud("Toute l'école");
   const auto refuse = [this] {
     Programme.Dialogues.Attend("Le compteur de table").Attend("Aucun numéro n'a pu être donné");
