@@ -23,8 +23,6 @@ namespace {
 /// declares, at the cost of the other columns.
 constexpr int kMoindreNom = 140;
 constexpr int kAssezPourUnNom = 220;
-/// The icon of a state and the beginning of its word.
-constexpr int kMoindreEtat = 104;
 
 /// What a column takes when its texts stand in their short form; 0 when they have none.
 int LargeurCourte(const VueGrille& vue, int colonne) {
@@ -101,7 +99,6 @@ int VueGrille::MoindreContenu(int colonne) const {
     return std::max(contenu, header()->sectionSizeHint(colonne));
   int court = LargeurCourte(*this, colonne);
   if (jumelle_) court = std::max(court, LargeurCourte(*jumelle_, colonne));
-  if (grille_.Colonne(colonne).Genre == TGenre::Etat) court = Theme::Px(kMoindreEtat);
   return court == 0 ? contenu : std::min(contenu, std::max(court, LargeurDuTitre(*header(), colonne)));
 }
 
