@@ -42,7 +42,7 @@ TFrmComptabilite::TFrmComptabilite(TContexteEcran& contexte)
 
 void TFrmComptabilite::FormShow() {
   lien_ = AnnoncerRefus(champs_, contexte_.Principal);
-  champs_.SurEnregistrer = [this](const TChamp&) { Remplir(); };
+  champs_.SurEnregistrer = [this](const TChamp&) { Actualiser(); };
   const TDateTime jour = contexte_.Controleur.Horloge().Aujourdhui();
   dtChange(jour, jour);
 }
@@ -50,10 +50,10 @@ void TFrmComptabilite::FormShow() {
 void TFrmComptabilite::dtChange(TDateTime debut, TDateTime fin) {
   periode_ = {debut, fin};
   champs_.Montrer(&periode_);
-  Remplir();
+  Actualiser();
 }
 
-void TFrmComptabilite::Remplir() {
+void TFrmComptabilite::Actualiser() {
   Remplir(Versements, TPaiementTicket::Virement);
   Remplir(Comptant, TPaiementTicket::Comptant);
   Annoncer();

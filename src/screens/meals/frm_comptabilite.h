@@ -14,6 +14,8 @@ class TFrmComptabilite : public TForm {
   TChamps& Champs() { return champs_; }
   /// Sets both.
   void dtChange(TDateTime debut, TDateTime fin);
+  /// The sales of the period, as they are by now.
+  void Actualiser();
   /// Instead of a list without a sale.
   QString Vide() const;
 
@@ -29,7 +31,6 @@ class TFrmComptabilite : public TForm {
   void FormShow() override;
 
  private:
-  void Remplir();
   void Remplir(TGrille& grille, TPaiementTicket type) const;
 
   TContexteEcran& contexte_;

@@ -37,6 +37,13 @@ void VueComptabilite::AjouterPage(QTabWidget& pages, TGrille& grille, const QStr
   pages.addTab(vue, titre);
 }
 
+// Afterwards, where what fails is told.
+void VueComptabilite::showEvent(QShowEvent* evenement) {
+  QWidget::showEvent(evenement);
+  QMetaObject::invokeMethod(
+      this, [this] { form_.Actualiser(); }, Qt::QueuedConnection);
+}
+
 void VueComptabilite::Actualiser() {
   for (const auto& [grille, vide] : vides_) {
     if (grille->NombreLignes() > 0)

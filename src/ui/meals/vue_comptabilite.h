@@ -17,6 +17,10 @@ class VueComptabilite : public QWidget {
  public:
   VueComptabilite(TFrmComptabilite& form, QWidget* parent);
 
+ protected:
+  /// In front again: another screen may have sold tickets.
+  void showEvent(QShowEvent* evenement) override;
+
  private:
   void AjouterPage(QTabWidget& pages, TGrille& grille, const QString& titre, const QString& ecran);
   void Actualiser();

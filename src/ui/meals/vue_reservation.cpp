@@ -74,6 +74,12 @@ void VueReservation::Disposer() {
   colonne->addWidget(aide_);
 }
 
+// Afterwards, where what fails is told.
+void VueReservation::showEvent(QShowEvent* evenement) {
+  QWidget::showEvent(evenement);
+  QMetaObject::invokeMethod(this, &VueReservation::Actualiser, Qt::QueuedConnection);
+}
+
 void VueReservation::MontrerMois(bool mois) {
   Actualiser();
   pages_->setCurrentWidget(mois ? static_cast<QWidget*>(vueMois_) : static_cast<QWidget*>(grille_));

@@ -20,6 +20,10 @@ class VueReservation : public QWidget {
  public:
   VueReservation(TFrmReservation& form, QWidget* parent);
 
+ protected:
+  /// In front again: another screen may have sold tickets.
+  void showEvent(QShowEvent* evenement) override;
+
  private:
   void Disposer();
   QLayout* Boutons();

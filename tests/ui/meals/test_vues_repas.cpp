@@ -153,6 +153,21 @@ TEST_F(VuesRepas, TicketsAreSoldIntoTheRedAndSettled) {
   Programme.Ouvrir(TGestionnaire::btnTicketClick);
   EXPECT_EQ(eleves()[0], "ALVES Rui|0|sans ticket");
   EXPECT_EQ(Lignes(detail)[3], "03/10/2016|05/10/2016|1");
+  // And what is sold here shows on the screens that stood behind.
+  const auto vendre = [this](Currency prix) {
+    Globals.Eleves->TrouverParId(1)->AcheterTickets(1, TPaiementTicket::Comptant, prix,
+                                                    EncodeDate(2016, 10, 3));
+  };
+  vendre({});
+  Programme.Ouvrir(TGestionnaire::btnReservationClick);
+  Activer();
+  EXPECT_TRUE(Montre("1 ticket disponible"));
+  Programme.Ouvrir(TGestionnaire::btnComptabiliteClick);
+  Programme.Ouvrir(TGestionnaire::btnTicketClick);
+  vendre(Currency::Euros(3));
+  Programme.Ouvrir(TGestionnaire::btnComptabiliteClick);
+  Activer();
+  EXPECT_EQ(Form<TFrmComptabilite>().Comptant.Texte(0, 4), "6");
 }
 
 TEST_F(VuesRepas, AClassIsOrderedByKeyboardIntoTheLockAndOut) {
