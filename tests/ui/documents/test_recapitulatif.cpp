@@ -6,6 +6,7 @@
 #include "screens/documents/frm_recapitulatif.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/diagramme_mois.h"
+#include "ui/commun/theme.h"
 #include "ui/documents/arbre_passages.h"
 #include "ui/documents/vue_recapitulatif.h"
 #include "ui/reglages_essai.h"
