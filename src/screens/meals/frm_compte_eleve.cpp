@@ -113,7 +113,8 @@ void TFrmCompteEleve::edChange(int coupure, const QString& texte) {
 }
 
 void TFrmCompteEleve::btnCoupureClick(int coupure) {
-  edChange(coupure, QString::number(LireNombreCoupures(Champ(coupure)) + 1));
+  const QString plus = QString::number(LireNombreCoupures(Champ(coupure)) + 1);
+  if (LireNombreCoupures(plus) > 0) edChange(coupure, plus);  // beyond the greatest count it would be none
 }
 
 TComptage TFrmCompteEleve::Comptage() const {

@@ -129,6 +129,7 @@ void TFrmSignaletique::btnCalendrierClick() {
   if (!ExigeEleve()) return;
   TFrmReleveCalendrier calendrier(contexte_, *Globals.EleveCourant, vuCalendrier_);
   contexte_.Modale.MontrerModal(calendrier);
+  contexte_.Principal.Etat(TNiveauEtat::Neutre, calendrier.Note());
   RelireListes();
 }
 
