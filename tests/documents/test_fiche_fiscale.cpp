@@ -99,9 +99,7 @@ TEST_F(TFicheFiscaleEssai, CeQuiEstPayeParTrimestre) {
 }
 
 TEST_F(TFicheFiscaleEssai, CeQuiManqueALEcoleEstDitDAbord) {
-  const QString maximum =
-      u" le maximum par jour de 2017 n'est pas encore connu : les fiches n'en écrivent pas, une prochaine "
-      "version du programme l'apportera"_s;
+  const QString maximum = u" le maximum par jour de 2017 est inconnu : la prochaine version l'aura"_s;
   EXPECT_EQ(
       Manques(Etablir(), true),
       maximum %
