@@ -155,6 +155,8 @@ class TFrmSignaletique : public TForm {
   void MarquerJour(TActiviteEleve* inscription, int activite, int jour, bool coche);
   /// What a change moves: the monthly list, the fees, the balances.
   void RelireListes();
+  /// With that row of the fees in hand, or the last one when there is none such.
+  void RelireListes(int frais);
   void DaterPhotos();
   /// `derive`: what goes with it, if anything.
   void AjouterReleve(std::unique_ptr<TPresence> releve, std::unique_ptr<TPresence> derive = nullptr);

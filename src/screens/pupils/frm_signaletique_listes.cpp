@@ -198,7 +198,7 @@ void TFrmSignaletique::SpeedButton2Click() {
     Offrir(quoi % u" : supprimé", [this, copie, quoi] { AjouterLigne(CopieDe(*copie), quoi); });
   }
   RelireGroupes(copie->GroupeFraisId);
-  RelireListes();
+  RelireListes(ligne);
 }
 
 void TFrmSignaletique::grdListeFraisCocheClick(int ligne) {
@@ -215,7 +215,7 @@ void TFrmSignaletique::grdListeFraisCocheClick(int ligne) {
     BasculerMois(*mois);
   else if (frais != nullptr && !frais->EstLibre())
     BasculerFrais(*frais);
-  RelireListes();
+  RelireListes(ligne);
 }
 
 void TFrmSignaletique::BasculerMois(TPaiement& mois) {

@@ -117,9 +117,13 @@ void TFrmSignaletique::DireNonEnregistre(const Exception& e) const {
   contexte_.Dialogues().Message(e.Message);
 }
 
-void TFrmSignaletique::RelireListes() {
+void TFrmSignaletique::RelireListes() { RelireListes(Frais.Grille.LigneCourante()); }
+
+// Whoever ticks several by keyboard stays where they are.
+void TFrmSignaletique::RelireListes(int frais) {
   const TEleve& eleve = *Globals.EleveCourant;
   Frais.Remplir(eleve);
+  Frais.Grille.ChoisirLigne(std::min(frais, Frais.Grille.NombreLignes() - 1));
   RemplirReleve(eleve);
   Annoncer();
 }

@@ -251,8 +251,10 @@ TEST_F(TSaisieFiche, FraisCochesPaiementsSaisisEtSupprimes) {
   EXPECT_EQ(base.Valeur("SELECT MAX(MONTANT_VERSE) FROM FRAIS_ELEVE WHERE LISTEFRAIS_ID = 3"), u"3.0000");
   cocher(4);  // "Services octobre"
   EXPECT_TRUE(mois().endsWith(u"10;2016;17.5000")) << "the school year of the row";
-  cocher(4);
-  EXPECT_FALSE(mois().contains(u"17.5"));
+  QTest::keyClick(&frais, Qt::Key_Space);
+  EXPECT_FALSE(mois().contains(u"17.5")) << "the row stays in hand";
+  QTest::keyClick(&frais, Qt::Key_Down);
+  EXPECT_EQ(ecran->Frais.Grille.LigneCourante(), 5);
   const QString partiel = "n'est payé qu'en partie";
   base.Dialogues.Repond(partiel, false).Repond(partiel, true);
   cocher(0);
