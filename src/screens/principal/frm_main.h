@@ -200,8 +200,11 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   std::vector<TEleve*> ElevesConnus() const;
   bool ChercherPartout(bool fiche);
   void OuvrirMatricule();
-  template <class T>
-  int Combien(T compte) const;
+  /// Of the year on display, without the staff.
+  struct TNombres {
+    int Eleves = 0, Radies = 0, SansSite = 0;
+  };
+  TNombres CompterLesEleves() const;
 
   TReglagesPoste& reglages_;
   std::vector<TPage> pagesCachees_{TPage::pgRepas, TPage::pgRepas3};

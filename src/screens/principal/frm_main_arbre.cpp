@@ -38,27 +38,27 @@ void TFrmMain::ChoisirEleve(TEleve& eleve) {
 
 // What the year holds: staff are no pupils.
 
-template <class T>
-int TFrmMain::Combien(T compte) const {
-  int nombre = 0;
-  if (Globals.Eleves != nullptr)
-    for (const TEleve& eleve : *Globals.Eleves)
-      nombre += CategorieDeClasse(eleve.CodeClasse) != TCategorie::Personnel && compte(eleve);
-  return nombre;
-}
+int TFrmMain::NombreEleves() const { return CompterLesEleves().Eleves; }
 
-int TFrmMain::NombreEleves() const {
-  return Combien([](const TEleve&) { return true; });
+// At each pupil that is chosen, so in one go.
+TFrmMain::TNombres TFrmMain::CompterLesEleves() const {
+  TNombres nombres;
+  if (Globals.Eleves == nullptr) return nombres;
+  for (const TEleve& eleve : *Globals.Eleves) {
+    if (CategorieDeClasse(eleve.CodeClasse) == TCategorie::Personnel) continue;
+    ++nombres.Eleves;
+    nombres.Radies += eleve.FlgRadie;
+    nombres.SansSite += eleve.CodeImplantation.trimmed().isEmpty();
+  }
+  return nombres;
 }
 
 QString TFrmMain::TexteNombres() const {
-  QString texte = CompterEleves(NombreEleves());
-  const int radies = Combien([](const TEleve& eleve) { return eleve.FlgRadie; });
-  if (radies > 0) texte += u", dont " % Compter(radies, u"radié"_s, u"radiés"_s);
-  const int sansSite =
-      Combien([](const TEleve& eleve) { return eleve.CodeImplantation.trimmed().isEmpty(); });
-  if (sansSite > 0 && Globals.Eleves->PlusieursImplantations())
-    texte += u", %1 sans implantation"_s.arg(sansSite);
+  const TNombres nombres = CompterLesEleves();
+  QString texte = CompterEleves(nombres.Eleves);
+  if (nombres.Radies > 0) texte += u", dont " % Compter(nombres.Radies, u"radié"_s, u"radiés"_s);
+  if (nombres.SansSite > 0 && Globals.Eleves->PlusieursImplantations())
+    texte += u", %1 sans implantation"_s.arg(nombres.SansSite);
   return texte;
 }
 

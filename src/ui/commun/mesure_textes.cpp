@@ -11,7 +11,7 @@ constexpr qsizetype kTextesGardes = 4096;
 
 int MesureTextes::Largeur(const QString& texte, const QFont& police) const {
   QFont simple = police;
-  simple.setStrikeOut(false);  // which takes no more room
+  if (police.strikeOut()) simple.setStrikeOut(false);  // which takes no more room
   TGarde& garde = gardes_[police.bold() ? 1 : 0];
   if (garde.Police != simple || garde.Largeurs.size() > kTextesGardes) garde = {simple, {}};
   const auto place = garde.Largeurs.constFind(texte);

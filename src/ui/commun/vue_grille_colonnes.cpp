@@ -24,9 +24,13 @@ namespace {
 constexpr int kMoindreNom = 140;
 constexpr int kAssezPourUnNom = 220;
 
+int Marges(const VueGrille& vue) {
+  return 2 * (vue.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &vue) + 1);
+}
+
 /// What a column takes when its texts stand in their short form; 0 when they have none.
 int LargeurCourte(const VueGrille& vue, int colonne) {
-  const int marges = 2 * (vue.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &vue) + 1);
+  const int marges = Marges(vue);
   const TGrille& grille = vue.Grille();
   int largeur = 0;
   for (int ligne = 0; ligne < grille.NombreLignes(); ++ligne) {
@@ -35,6 +39,17 @@ int LargeurCourte(const VueGrille& vue, int colonne) {
       largeur = std::max(largeur, vue.Mesures().Largeur(court.toString(), vue.font()) + marges);
   }
   return largeur;
+}
+
+/// Whether a text that has a shorter form would be cut.
+bool Coupe(const VueGrille& vue, int colonne) {
+  const int place = vue.columnWidth(colonne) - Marges(vue);
+  const TGrille& grille = vue.Grille();
+  for (int ligne = 0; ligne < grille.NombreLignes(); ++ligne)
+    if (TexteCourt(grille.Colonne(colonne).Genre, grille.Ligne(ligne).Valeur(colonne)).isValid() &&
+        vue.Mesures().Largeur(grille.Texte(ligne, colonne), vue.font()) > place)
+      return true;
+  return false;
 }
 
 }  // namespace
@@ -192,10 +207,10 @@ void VueGrille::Repartir() {
 
 /// All texts of a column stand in short as soon as one of them would be cut.
 void VueGrille::Abreger(int colonne) {
-  courtes_.erase(colonne);
-  if (LargeurCourte(*this, colonne) == 0) return;
-  const int texte = std::max(sizeHintForColumn(colonne), jumelle_ ? jumelle_->sizeHintForColumn(colonne) : 0);
-  if (header()->sectionSize(colonne) < texte) courtes_.insert(colonne);
+  if (Coupe(*this, colonne) || (jumelle_ && Coupe(*jumelle_, colonne)))
+    courtes_.insert(colonne);
+  else
+    courtes_.erase(colonne);
 }
 
 /// Once the hand has let go of the column, not at each pixel.
