@@ -68,7 +68,7 @@ void DireEcole(const TRapport& rapport, const TFichesFiscales& fiches, TResultat
   else if (!NumeroEntrepriseValide(numero))
     dire(u"le numéro d'entreprise de l'école, « %1 », est incorrect (Mon école)"_s.arg(numero));
   if (fiches.Regles.MaximumParJour == Currency())
-    dire(u"le maximum par jour de %1 est inconnu : la prochaine version l'aura"_s.arg(fiches.Annee), {});
+    dire(u"le maximum par jour de %1 est inconnu du programme : vérifiez-le"_s.arg(fiches.Annee), {});
 }
 
 }  // namespace

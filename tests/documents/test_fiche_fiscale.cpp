@@ -99,7 +99,7 @@ TEST_F(TFicheFiscaleEssai, CeQuiEstPayeParTrimestre) {
 }
 
 TEST_F(TFicheFiscaleEssai, CeQuiManqueALEcoleEstDitDAbord) {
-  const QString maximum = u" le maximum par jour de 2017 est inconnu : la prochaine version l'aura"_s;
+  const QString maximum = u" le maximum par jour de 2017 est inconnu du programme : vérifiez-le"_s;
   EXPECT_EQ(
       Manques(Etablir(), true),
       maximum %

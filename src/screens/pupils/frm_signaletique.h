@@ -147,7 +147,7 @@ class TFrmSignaletique : public TForm {
     return Enregistrer(collection, disparue, fait);
   }
   bool Enregistrer(TDistributor& collection, const std::function<bool()>& disparue, const QString& fait);
-  /// The same of one payment, which may take no more of its bank movement than nobody else has.
+  /// The same of one payment, which takes no more of its bank movement than the others leave.
   void EnregistrerPaiement(TAllFraisEleve& lignes, TFraisEleve& paiement, const QString& fait);
   void DireEnregistre(const QString& fait);
   void DireNonEnregistre(const Exception& e) const;
