@@ -118,7 +118,7 @@ void MesurerFiches(const THorloge& horloge) {
     calculs.push_back(1e6 * calcul);
   }
   if (rapports.size() < 500) throw Exception(u"Il manque des élèves dans l'arbre."_s);
-  Barre("record of the next pupil by the arrow key / its seven cost operations", Mediane(rapports), 20.0,
+  Barre("record of the next pupil by the arrow key / its seven cost operations", Mediane(rapports), 15.0,
         true);
   std::fprintf(stderr, "# record in the view %.2f ms, painted %.2f ms, seven operations %.0f µs\n",
                Mediane(fiches), Mediane(peintes), Mediane(calculs));

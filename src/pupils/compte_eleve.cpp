@@ -150,8 +150,14 @@ Currency TEleve::Solde(bool avecFrais, bool avecServices) const {
   const bool provision = Eleves->Regles != nullptr && Eleves->Regles->ModeProvision;
   Currency solde;
   if (avecFrais) solde += (provision ? VersementsFrais() : FraisPayes()) - FraisAnnee();
-  if (avecServices) solde += (provision ? VersementsServices() : PaiementsAnnee()) - CoutAnnee();
+  if (avecServices) solde += SoldeServices(CoutServicesPeriode(BornesAnnee(Eleves->AnneeScolaire)));
   return solde;
+}
+
+Currency TEleve::SoldeServices(Currency services) const {
+  const bool provision = Eleves->Regles != nullptr && Eleves->Regles->ModeProvision;
+  const Currency du = services + FraisServicesPeriode(BornesAnnee(Eleves->AnneeScolaire));
+  return (provision ? VersementsServices() : PaiementsAnnee()) - du;
 }
 
 Currency TEleve::SoldeCourant(int mois, int annee, bool avecServices, bool avecFrais) const {

@@ -96,7 +96,7 @@ class TEleve : public TBaseObject {
   /// Morning, evening, Wednesday and study; 0 for a third child.
   Currency TotalGarderies(const TPeriode& periode) const;
   Currency CoutServicesPeriode(const TPeriode& periode) const;
-  /// The same for each of the ten months of the year loaded, in their order, at the price of one.
+  /// The same for each of the ten months of the year loaded, in their order, at the price of the year.
   std::array<Currency, kMoisScolaires.size()> CoutsServicesMois() const;
   /// Fees that count as services, whose month lies inside the period.
   Currency FraisServicesPeriode(const TPeriode& periode) const;
@@ -130,6 +130,8 @@ class TEleve : public TBaseObject {
   Currency Solde(bool avecFrais, bool avecServices) const;
   /// The same for one month, whatever the way of paying. Mind the order of the two flags.
   Currency SoldeCourant(int mois, int annee, bool avecServices, bool avecFrais) const;
+  /// What Solde says of the services, for who has computed what they cost in the year.
+  Currency SoldeServices(Currency services) const;
 
   TEleves* Eleves = nullptr;  ///< the collection it belongs to
   QString Nom;

@@ -1,5 +1,7 @@
 #include "screens/pupils/frais_paiements.h"
 
+#include <numeric>
+
 #include "core/formats.h"
 #include "core/mois.h"
 #include "payments/paiements.h"
@@ -49,9 +51,10 @@ void TFraisPaiements::Remplir(const TEleve& eleve) {
   const TGrille::TLot lot(Grille);
   Vider();
   AjouterFrais(eleve);
-  AjouterServices(eleve);
+  const auto couts = eleve.CoutsServicesMois();
+  AjouterServices(eleve, couts);
   AjouterPaiementsLibres(eleve);
-  Solde = eleve.Solde(true, true);
+  Solde = eleve.Solde(true, false) + eleve.SoldeServices(std::reduce(couts.begin(), couts.end()));
   EcrirePied(eleve.Eleves->Regles != nullptr && eleve.Eleves->Regles->ModeProvision);
 }
 
@@ -71,9 +74,8 @@ void TFraisPaiements::AjouterFrais(const TEleve& eleve) {
 
 // What the month costs less its fees, which have rows of their own, is what its services cost. A month that
 // was paid stays in sight when its services have come to nothing, so that the payment can be taken back.
-void TFraisPaiements::AjouterServices(const TEleve& eleve) {
+void TFraisPaiements::AjouterServices(const TEleve& eleve, std::span<const Currency> couts) {
   const TPaiements* paiements = eleve.Eleves->Paiements;
-  const auto couts = eleve.CoutsServicesMois();
   for (std::size_t i = 0; i < kMoisScolaires.size(); ++i) {
     const int mois = kMoisScolaires[i];
     const Currency du = std::max(Currency(), couts[i]);

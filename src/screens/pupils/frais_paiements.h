@@ -1,5 +1,6 @@
 #pragma once
 #include <memory>
+#include <span>
 
 #include "core/currency.h"
 #include "forms/grille.h"
@@ -37,7 +38,7 @@ class TFraisPaiements {
 
  private:
   void AjouterFrais(const TEleve& eleve);
-  void AjouterServices(const TEleve& eleve);
+  void AjouterServices(const TEleve& eleve, std::span<const Currency> couts);
   void AjouterPaiementsLibres(const TEleve& eleve);
   TPaiement& Impaye(const TEleve& eleve, int mois, Currency du);
   void Compter(Currency du, Currency verse);

@@ -253,7 +253,8 @@ void LiaisonChamps::ActualiserUn(int champ) {
   }
   const QString faute = champs_.Faute(champ);
   MarquerFaute(*widget, !faute.isEmpty());
-  widget->setAccessibleDescription(faute);
+  if (widget->accessibleDescription() != faute)
+    widget->setAccessibleDescription(faute);  // it tells listeners
 }
 
 void LiaisonChamps::ActualiserFautes() {

@@ -168,8 +168,9 @@ void BarreCommandes::Actualiser() {
   const TCommandePrincipale* ouverte = form_.CommandeOuverte();
   for (const TCommandePrincipale& commande : form_.Commandes) {
     QToolButton* bouton = commandes_.at(commande.Gestionnaire);
-    const QString raison = form_.RaisonInactive(commande);
     bouton->setVisible(form_.CommandeVisible(commande));
+    if (bouton->isHidden()) continue;  // comes back here when its page is opened
+    const QString raison = form_.RaisonInactive(commande);
     bouton->setChecked(&commande == ouverte);
     bouton->setEnabled(raison.isEmpty());
     bouton->setToolTip(commande.Nom() %
