@@ -6,6 +6,7 @@
 #include "app/terminal.h"
 #include "application/controleur.h"
 #include "core/calendrier_scolaire.h"
+#include "core/exceptions.h"
 
 /// One run of the batch program: what the command line asks for, and what it works on.
 struct TSession {
@@ -40,6 +41,11 @@ struct TSession {
 };
 
 inline constexpr int kSansLimite = 1000;
+
+/// A call that cannot be meant: nothing was done.
+struct EMauvaisAppel : Exception {
+  using Exception::Exception;
+};
 
 /// A command. The options that it takes are those that its usage names, besides the ones that every
 /// command has.

@@ -2,8 +2,9 @@
 #include "app/commandes.h"
 #include "app/etiquettes_pdf.h"
 #include "app/sortie_documents.h"
-#include "core/exceptions.h"
+#include "core/conversions.h"
 #include "documents/catalogue.h"
+#include "documents/fiche_fiscale.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +31,22 @@ void Choisir(const TSession& session, TChoixDocument& choix) {
     ChoisirClasses(session.Option(qui).split(u',', Qt::SkipEmptyParts), choix);
   else
     choix.Eleves = Globals.Eleves->Tous();
+  choix.TouteLEcole = qui == u"tous";
   if (choix.Eleves.empty() && choix.Classes.empty()) throw Exception(u"Aucun élève n'a été sélectionné !"_s);
+}
+
+/// What the page of the wizard asks and says.
+void ChoisirAnneeRevenus(const TSession& session, const TContexteDocument& contexte, TChoixDocument& choix) {
+  if (session.A(u"annee-revenus"_s)) {
+    const int annee = StrToInt(session.Option(u"annee-revenus"_s));
+    QStringList connues;
+    for (const int connue : AnneesRevenus(contexte)) connues += QString::number(connue);
+    if (!connues.contains(QString::number(annee)))
+      throw Exception(u"Il n'y a pas de revenus de %1 : les années connues sont %2."_s.arg(annee).arg(
+          connues.join(u", "_s)));
+    choix.AnneeRevenus = annee;
+  }
+  session.Dialogues.Message(PorteeFiches(contexte, choix));
 }
 
 int Document(TSession& session) {
@@ -38,6 +54,8 @@ int Document(TSession& session) {
   TChoixDocument choix;
   const TTitreDocument* document = TrouverTitre(titre);
   if (document == nullptr) throw Exception(u"Il n'y a pas de document « %1 »."_s.arg(titre));
+  if (session.A(u"annee-revenus"_s) && !document->ParAnneeRevenus)
+    throw EMauvaisAppel(u"Le document « %1 » n'a pas d'option --annee-revenus."_s.arg(titre));
   session.Ouvrir();
   if (document->AvecEleves) Choisir(session, choix);
   const TPeriode periode =
@@ -54,6 +72,7 @@ int Document(TSession& session) {
   TEtiquettesPdf etiquettes(session.Dialogues);
   TContexteDocument contexte = ContexteDesGlobals(session.Controleur.Horloge());
   if (session.A(u"pdf"_s)) contexte.Etiquettes = &etiquettes.Etiquettes;
+  if (document->ParAnneeRevenus) ChoisirAnneeRevenus(session, contexte, choix);
   const TResultat resultat = FaireDocument(contexte, *document, choix);
   return SortirDocument(session, titre, resultat, !choix.Classes.empty(), etiquettes.Document);
 }
@@ -65,7 +84,7 @@ std::span<const TCommandeLot> CommandesDocuments() {
       {"document",
        "TITRE (--mois M | --du jj/mm/aaaa --au jj/mm/aaaa | --annee-scolaire) "
        "(--tous | --eleves ID,ID | --classes NOM,NOM) [--date-paiement jj/mm/aaaa] "
-       "[--jour jj/mm/aaaa] [--nouvelle] [--pdf FICHIER] [--json FICHIER]",
+       "[--annee-revenus AAAA] [--jour jj/mm/aaaa] [--nouvelle] [--pdf FICHIER] [--json FICHIER]",
        1, 1, Document},
   };
   return commandes;

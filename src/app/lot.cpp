@@ -134,6 +134,9 @@ int main(int argc, char** argv) {
   dialogues.Oui = options.isSet(u"oui"_s);
   try {
     return Executer(options, dialogues);
+  } catch (const EMauvaisAppel& e) {
+    dialogues.Message(e.Message);
+    return kMauvaisAppel;
   } catch (const Exception& e) {
     dialogues.Message(e.Message);
   } catch (const std::exception& e) {

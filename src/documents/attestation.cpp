@@ -52,7 +52,7 @@ TResultat AttestationFiscale(const TContexteDocument& contexte, const TDemandeDo
        attestations.Feuilles(SansRadies(demande.Eleves), resultat.Messages)) {
     for (const QString& remarque : feuille.Remarques)
       rapport.Avertissements += feuille.Eleve->NomComplet() % u" : " % remarque % u'.';
-    const bool deja = !resultat.Manques.empty() && resultat.Manques.back().Eleve == feuille.Eleve;
+    const bool deja = !resultat.Manques.empty() && resultat.Manques.back().EleveId == feuille.Eleve->Id;
     if (feuille.SansDate && !deja)
       resultat.Manques.push_back(
           {feuille.Eleve, u"lblDateNaissance"_s, u"pas d'attestation sans date de naissance"_s});

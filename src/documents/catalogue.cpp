@@ -57,7 +57,7 @@ constexpr TTitreDocument kTitres[] = {
      .Construire = ComptabilisationRepas,
      .AvecPeriode = true},
     {.Titre = u"Document de provision de compte", .Construire = DemandeProvision},
-    {.Titre = u"Fiche fiscale 281.86", .Construire = FicheFiscale},
+    {.Titre = u"Fiche fiscale 281.86", .Construire = FicheFiscale, .ParAnneeRevenus = true},
 
     {.Titre = u"Récapitulatif des tickets pour les parents",
      .Construire = TicketsParents,
@@ -131,5 +131,7 @@ TResultat FaireDocument(const TContexteDocument& contexte, const TTitreDocument&
                                      choix.DatePaiement,
                                      choix.Classes,
                                      choix.Jour,
-                                     choix.NouveauxRepas});
+                                     choix.NouveauxRepas,
+                                     choix.AnneeRevenus,
+                                     choix.TouteLEcole});
 }

@@ -27,6 +27,7 @@ struct TTitreDocument {
   /// What may be missing on this workstation; null: nothing.
   QString (*Empechement)(const TEtiquettes&) = nullptr;
   TListeTitres Liste = TListeTitres::Eleves;
+  bool ParAnneeRevenus = false;  ///< the user chooses a year of income (fiche_fiscale.h)
 };
 
 /// Why that document cannot be made here, with these labels; "" when it can.
@@ -48,6 +49,8 @@ struct TChoixDocument {
   std::optional<TDateTime> DatePaiement;  ///< what the user answered; none when not asked or given up
   TDateTime Jour = 0.0;                   ///< the day at work of a document about meals
   bool NouveauxRepas = false;             ///< in the words of the second generation of meal screens
+  int AnneeRevenus = 0;                   ///< 0: the usual one
+  bool TouteLEcole = false;               ///< every pupil, or every class, was chosen
 };
 
 /// The titles of that screen, in order.

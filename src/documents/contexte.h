@@ -37,4 +37,6 @@ struct TDemandeDocument {
   std::vector<const TClasse*> Classes = {};  ///< those that were chosen as such
   TDateTime Jour = 0.0;                      ///< the day at work of a document about meals
   bool NouveauxRepas = false;                ///< in the words of the second generation of meal screens
+  int AnneeRevenus = 0;                      ///< of a paper about a year of income; 0: the usual one
+  bool TouteLEcole = false;                  ///< the pupils are all those of the year on display
 };

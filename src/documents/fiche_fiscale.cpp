@@ -2,10 +2,13 @@
 
 #include <numeric>
 
+#include "core/accord.h"
 #include "core/formats.h"
+#include "core/mois.h"
 #include "core/numero_entreprise.h"
 #include "core/numero_national.h"
 #include "core/parametres.h"
+#include "documents/catalogue.h"
 #include "documents/fiscalite.h"
 #include "documents/sections.h"
 #include "pupils/eleves.h"
@@ -60,7 +63,7 @@ void AjouterAnnee(TRapport& rapport, const TFichesFiscales& fiches) {
 /// What the sheets lack of the school and of the year, whoever they are for.
 void DireEcole(const TRapport& rapport, const TFichesFiscales& fiches, TResultat& resultat) {
   const auto dire = [&](const QString& texte, const QString& champ = u"edNumeroEntreprise"_s) {
-    resultat.Manques.insert(resultat.Manques.begin(), {nullptr, champ, texte, false});
+    resultat.Manques.insert(resultat.Manques.begin(), TManque(nullptr, champ, texte, false));
   };
   const QString numero = rapport.Variables().Valeur(u"NumEntreprise");
   if (numero.isEmpty())
@@ -71,19 +74,58 @@ void DireEcole(const TRapport& rapport, const TFichesFiscales& fiches, TResultat
     dire(u"le maximum par jour de %1 est inconnu du programme : vérifiez-le"_s.arg(fiches.Annee), {});
 }
 
+int AnneeOuUsuelle(const TContexteDocument& contexte, int annee) {
+  return annee != 0 ? annee : AnneeRevenusUsuelle(contexte);
+}
+
+/// "3 élèves de 2025 - 2026 qui ne sont pas en 2026 - 2027"
+QString ElevesHorsAnnee(qint64 nombre, int affichee, int annee) {
+  QStringList autres;
+  for (const int ecole : {annee - 1, annee})
+    if (ecole != affichee) autres += AnneeEnTexte(ecole);
+  return CompterEleves(nombre) % u" de " % autres.join(u" ou "_s) %
+         Accorder(nombre, u" qui n'est pas en "_s, u" qui ne sont pas en "_s) % AnneeEnTexte(affichee);
+}
+
 }  // namespace
+
+int AnneeRevenusUsuelle(const TContexteDocument& contexte) {
+  return AnneeRevenus(contexte.Eleves.AnneeScolaire, contexte.AnneeTravail, contexte.Aujourdhui);
+}
+
+std::vector<int> AnneesRevenus(const TContexteDocument& contexte) {
+  return AnneesRevenus(contexte.Eleves.BaseDeDonnees(), AnneeRevenusUsuelle(contexte), contexte.Aujourdhui);
+}
+
+QString PorteeFiches(const TContexteDocument& contexte, const TChoixDocument& choix) {
+  const int annee = AnneeOuUsuelle(contexte, choix.AnneeRevenus);
+  const int affichee = contexte.Eleves.AnneeScolaire;
+  const TElevesHorsAnnee horsAnnee(contexte.Eleves, annee);
+  const auto compris = std::ssize(horsAnnee.Cles(choix.Classes, choix.TouteLEcole));
+  const auto reste = std::ssize(horsAnnee.Cles({}, true)) - compris;
+  QStringList phrases{u"Garde du 1er janvier au 31 décembre %1."_s.arg(annee)};
+  if (compris > 0) phrases += u"Compris aussi : " % ElevesHorsAnnee(compris, affichee, annee) % u'.';
+  if (reste > 0)
+    phrases += u"Pas compris : " % ElevesHorsAnnee(reste, affichee, annee) %
+               Accorder(reste, u" ; il s'imprime"_s, u" ; ils s'impriment"_s) %
+               u" quand toute l'école est choisie.";
+  if (compris + reste == 0)
+    phrases += u"Tous les enfants inscrits cette année-là sont en %1."_s.arg(AnneeEnTexte(affichee));
+  return phrases.join(u' ');
+}
 
 // As in every document, who was struck off is printed alone only; here he must not be forgotten.
 TResultat FicheFiscale(const TContexteDocument& contexte, const TDemandeDocument& demande) {
   TRapport rapport(u"Fiche fiscale 281.86"_s, u"FicheFiscale"_s);
-  TFichesFiscales fiches(
-      contexte.Eleves, contexte.Parametres,
-      AnneeRevenus(contexte.Eleves.AnneeScolaire, contexte.AnneeTravail, contexte.Aujourdhui));
+  const int annee = AnneeOuUsuelle(contexte, demande.AnneeRevenus);
+  TFichesFiscales fiches(contexte.Eleves, contexte.Parametres, annee);
+  const TElevesChoisis eleves = fiches.AvecHorsAnnee(
+      demande.Eleves, TElevesHorsAnnee(contexte.Eleves, annee).Cles(demande.Classes, demande.TouteLEcole));
   TFichesNumerotees numeros(contexte.Eleves.BaseDeDonnees(), fiches.Annee);
   TResultat resultat;
   TArbreRapport arbre;
-  for (const TFicheFiscale& fiche : fiches.Fiches(demande.Eleves)) {
-    if (fiche.Eleve->FlgRadie && demande.Eleves.size() > 1) {
+  for (const TFicheFiscale& fiche : fiches.Fiches(eleves)) {
+    if (fiche.Eleve->FlgRadie && eleves.size() > 1) {
       resultat.Manques.push_back({fiche.Eleve, u"cbEleveRadie"_s,
                                   u"élève radié : choisissez-le seul pour imprimer sa fiche"_s, true});
       continue;

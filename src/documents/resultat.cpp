@@ -1,13 +1,21 @@
 #include "documents/resultat.h"
 
-#include "pupils/eleve.h"
+#include "pupils/eleves.h"
 #include "report/json.h"
 
 using namespace Qt::StringLiterals;
 
-QString TManque::Phrase() const {
-  return Eleve != nullptr ? QString(Eleve->NomComplet() % u" : " % Texte) : Texte;
+// The pupil may be gone with the year when somebody looks at it.
+TManque::TManque(const TEleve* eleve, const QString& champ, const QString& texte, bool sansDocument)
+    : Champ(champ), Texte(texte), SansDocument(sansDocument) {
+  if (eleve == nullptr) return;
+  EleveId = eleve->Id;
+  Nom = eleve->NomComplet();
+  Classe = eleve->LibelleClasse();
+  AnneeScolaire = eleve->Eleves->AnneeScolaire;
 }
+
+QString TManque::Phrase() const { return EleveId != 0 ? QString(Nom % u" : " % Texte) : Texte; }
 
 void TResultat::Ajouter(TResultat suite) {
   Messages += suite.Messages;

@@ -7,7 +7,13 @@ class TEleve;
 
 /// What a document needs of a pupil, or of the school, and does not find.
 struct TManque {
-  TEleve* Eleve = nullptr;   ///< null: it is the school's
+  /// Of that pupil; null: it is the school's.
+  TManque(const TEleve* eleve, const QString& champ, const QString& texte, bool sansDocument = true);
+
+  int EleveId = 0;  ///< 0: it is the school's
+  QString Nom;      ///< of the pupil, and the class
+  QString Classe;
+  int AnneeScolaire = 0;     ///< a year in which the pupil is enrolled
   QString Champ;             ///< of the record, or of the school's screen, where it is mended; "" for none
   QString Texte;             ///< French
   bool SansDocument = true;  ///< the document goes without the pupil; else it leaves something out

@@ -20,6 +20,9 @@ class ILienPrincipal {
   virtual void Envoyer(const TMessage& message) = 0;
   /// Opens the screen of the school on that field of it.
   virtual void AllerAEcole(const QString& champ) = 0;
+  /// Puts that school year on display and opens the record of a pupil of it on that field, as soon as what
+  /// the screen that asks is about has been done: the screen goes with its year.
+  virtual void AllerAEleve(int annee, int eleveId, const QString& champ) = 0;
   /// Opens the transfer of the tablet in the place of the screen that asks, which is gone on return.
   virtual void AllerAuTransfert() = 0;
   /// The last thing done, or why it was not, for the left of the status bar.

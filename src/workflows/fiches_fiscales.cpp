@@ -65,18 +65,23 @@ Currency TPeriodeGarde::Tarif() const {
   return Currency::Brut((2 * centimes + Jours) / (2 * Jours) * 100);
 }
 
-int AnneeRevenus(int ecole, int anneeTravail, TDateTime aujourdhui) {
-  return ecole < anneeTravail && ecole + 1 < DecodeDate(aujourdhui).Annee ? ecole + 1 : ecole;
+TFichesFiscales::TFichesFiscales(const TEleves& eleves, const TParametres& parametres, int anneeRevenus)
+    : Annee(anneeRevenus), Regles(ReglesFiscales(anneeRevenus)), eleves_(eleves) {
+  for (const int i : {0, 1})
+    if (const int ecole = Annee - 1 + i; ecole != eleves.AnneeScolaire)
+      lues_[i] = ChargerDonneesAnnee(eleves.BaseDeDonnees(), ecole, parametres, *Globals.TarifsGarderies);
+  LirePayeurs();
 }
 
-TFichesFiscales::TFichesFiscales(const TEleves& eleves, const TParametres& parametres, int anneeRevenus)
-    : Annee(anneeRevenus),
-      Regles(ReglesFiscales(anneeRevenus)),
-      eleves_(eleves),
-      autre_(ChargerDonneesAnnee(eleves.BaseDeDonnees(),
-                                 eleves.AnneeScolaire == anneeRevenus ? anneeRevenus - 1 : anneeRevenus,
-                                 parametres, *Globals.TarifsGarderies)) {
-  LirePayeurs();
+const TEleves& TFichesFiscales::Eleves(int ecole) const {
+  return ecole == eleves_.AnneeScolaire ? eleves_ : *lues_[ecole == Annee ? 1 : 0]->Eleves;
+}
+
+std::vector<TEleve*> TFichesFiscales::AvecHorsAnnee(std::vector<TEleve*> eleves, std::set<int> cles) const {
+  for (const int ecole : {Annee, Annee - 1})  // with the last class
+    for (TEleve& eleve : Eleves(ecole))
+      if (cles.erase(eleve.Id) > 0) eleves.push_back(&eleve);
+  return eleves;
 }
 
 void TFichesFiscales::LirePayeurs() {

@@ -1,5 +1,8 @@
 #pragma once
+#include <set>
+
 #include "application/donnees_annee.h"
+#include "workflows/annee_revenus.h"
 #include "workflows/garde_payee.h"
 #include "workflows/regles_fiscales.h"
 
@@ -30,10 +33,6 @@ struct TManqueFiche {
   bool SansFiche = true;  ///< there is no sheet until then; else it leaves something out
 };
 
-/// The year of income whose sheets are made when `ecole` is on display. Of the two that a school year holds a
-/// part of, it is the second once that is over and a later school year has been opened, else the first.
-int AnneeRevenus(int ecole, int anneeTravail, TDateTime aujourdhui);
-
 /// The tax sheets of a year of income, whose spring belongs to one school year and its autumn to the next.
 /// Both are read, whichever is on display.
 class TFichesFiscales {
@@ -41,6 +40,8 @@ class TFichesFiscales {
   /// `eleves` is the year on display. All must outlive it. Raises Exception.
   TFichesFiscales(const TEleves& eleves, const TParametres& parametres, int anneeRevenus);
 
+  /// These pupils, then those of the other school years with these keys, who last as long as the sheets.
+  std::vector<TEleve*> AvecHorsAnnee(std::vector<TEleve*> eleves, std::set<int> cles) const;
   /// The sheets of these pupils in their order, two of parents who live apart when both have paid; and what
   /// is missing, in the same order.
   std::vector<TFicheFiscale> Fiches(const std::vector<TEleve*>& eleves);
@@ -50,10 +51,8 @@ class TFichesFiscales {
   const TReglesFiscales& Regles;
 
  private:
-  /// The school year that begins in this calendar year.
-  const TEleves& Eleves(int annee) const {
-    return annee == eleves_.AnneeScolaire ? eleves_ : *autre_->Eleves;
-  }
+  /// One of the two school years.
+  const TEleves& Eleves(int ecole) const;
   void LirePayeurs();
   std::vector<TJourGarde> Jours(const TEleve& eleve) const;
   TDateTime DernierJour(const TEleve& eleve) const;
@@ -63,7 +62,7 @@ class TFichesFiscales {
   void Manque(TEleve& eleve, const QString& champ, const QString& texte, bool sansFiche = true);
 
   const TEleves& eleves_;
-  std::unique_ptr<TDonneesAnnee> autre_;
+  std::unique_ptr<TDonneesAnnee> lues_[2];  ///< of the spring, of the autumn; null: it is on display
   TPayeurs payeurs_;
   std::vector<TManqueFiche> manques_;
 };

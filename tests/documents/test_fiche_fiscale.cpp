@@ -1,3 +1,4 @@
+#include "documents/fiche_fiscale.h"
 #include "ecole_documents.h"
 
 namespace {
@@ -60,7 +61,7 @@ struct TFicheFiscaleEssai : TDocumentsEssai {
   static QString Manques(const TResultat& resultat, bool ecole = false) {
     QStringList manques;
     for (const TManque& manque : resultat.Manques)
-      if ((manque.Eleve == nullptr) == ecole)
+      if ((manque.EleveId == 0) == ecole)
         manques += (manque.SansDocument ? u"! "_s : QString()) % manque.Champ % u' ' % manque.Texte;
     return manques.join(u'\n');
   }
@@ -98,6 +99,58 @@ TEST_F(TFicheFiscaleEssai, CeQuiEstPayeParTrimestre) {
   EXPECT_EQ(Fiches(Etablir()), entiere) << "the school has opened no later year";
 }
 
+// Who came in September and who left in June are printed with the whole school, or with their class,
+// whichever year is on display.
+TEST_F(TFicheFiscaleEssai, PersonneDeLAnneeDesRevenusNEstOublie) {
+  TEleveEssai parti = ecole.unEleve().nomme(u"PARTI"_s, {}).enClasse(u"P6"_s, u"A"_s);
+  Scans(parti, {u"matin 2017-02-06"_s});
+  parti.mois(2, u"1.2345"_s);
+  TEleveEssai venu = suivante.unEleve().nomme(u"VENU"_s, {}).enClasse(u"P1"_s, u"A"_s);
+  Scans(venu, {u"matin 2017-10-02"_s});
+  venu.mois(10, u"1.2345"_s);
+  suivante.unEleve().nomme(u"MAITRE"_s, {}).enClasse(u"PROFESSEURS"_s, {});
+  Ne(u"2012-05-10"_s);
+  Poser(u"NUM_NATIONAL = '12051000115', NUM_NATIONAL_RESPONSABLE = '85073003328', NOM_RESPONSABLE = NOM"_s);
+  QString portee;
+  const auto noms = [&](int affichee, const QString& classe, int revenus = 2017) {
+    Globals = {};
+    controleur.Charger(affichee);
+    TChoixDocument choix;
+    choix.AnneeRevenus = revenus;
+    choix.TouteLEcole = classe.isEmpty();
+    if (choix.TouteLEcole) choix.Eleves = Globals.Eleves->Tous();
+    for (const auto& sienne : Globals.Eleves->Classes())
+      if (sienne->Libelle() == classe) choix.Classes.push_back(sienne.get());
+    const TContexteDocument contexte = ContexteDesGlobals(controleur.Horloge);
+    portee = PorteeFiches(contexte, choix);
+    const TResultat fait = FaireDocument(contexte, *TrouverTitre(u"Fiche fiscale 281.86"), choix);
+    QStringList faites;
+    for (const QString& fiche : Fiches(fait).split(u'\n')) faites += fiche.section(u' ', 0, 1);
+    return faites.join(u' ');
+  };
+  EXPECT_EQ(noms(2017, {}), u"1 VENU 2 ADAM 3 PARTI");
+  EXPECT_EQ(portee,
+            u"Garde du 1er janvier au 31 décembre 2017. Compris aussi : 1 élève de 2016 - 2017 qui n'est pas "
+            "en 2017 - 2018.");
+  EXPECT_EQ(noms(2016, {}), u"2 ADAM 3 PARTI 1 VENU") << "the same numbers";
+  EXPECT_EQ(noms(2018, {}), u"1 VENU 2 ADAM 3 PARTI") << "nobody is on display";
+  EXPECT_TRUE(portee.contains(u"3 élèves de 2016 - 2017 ou 2017 - 2018 qui ne sont pas en 2018 - 2019"_s));
+  EXPECT_EQ(noms(2017, u"P6 A"_s), u"2 ADAM 3 PARTI") << "the class in which the child was last";
+  EXPECT_EQ(noms(2017, u"P1 A"_s), u"1 VENU");
+  EXPECT_TRUE(portee.endsWith(
+      u"Pas compris : 1 élève de 2016 - 2017 qui n'est pas en 2017 - 2018 ; il s'imprime quand toute l'école "
+      "est choisie."_s));
+  EXPECT_EQ(noms(2017, {}, 2018), QString()) << "another year of income";
+  EXPECT_EQ(
+      portee,
+      u"Garde du 1er janvier au 31 décembre 2018. Tous les enfants inscrits cette année-là sont en 2017 - "
+      "2018.");
+  const auto annees = [&] { return AnneesRevenus(ContexteDesGlobals(controleur.Horloge)); };
+  EXPECT_EQ(annees(), (std::vector<int>{2018, 2017, 2016}));
+  controleur.Horloge.Moment = EncodeDate(2017, 6, 30);
+  EXPECT_EQ(annees(), (std::vector<int>{2017, 2016})) << "2018 has not begun";
+}
+
 TEST_F(TFicheFiscaleEssai, CeQuiManqueALEcoleEstDitDAbord) {
   const QString maximum = u" le maximum par jour de 2017 est inconnu du programme : vérifiez-le"_s;
   EXPECT_EQ(
@@ -109,7 +162,7 @@ TEST_F(TFicheFiscaleEssai, CeQuiManqueALEcoleEstDitDAbord) {
   ecole.parametre(117, u"0999999922"_s);
   const TResultat resultat = Etablir();
   EXPECT_EQ(Manques(resultat, true), maximum);
-  EXPECT_EQ(resultat.Manques.front().Eleve, nullptr);
+  EXPECT_EQ(resultat.Manques.front().EleveId, 0);
   EXPECT_EQ(Variable(resultat, u"NumEntreprise"), u"0999.999.922");
 }
 

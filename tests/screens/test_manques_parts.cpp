@@ -23,8 +23,8 @@ TEST_F(TManquesParts, CeQuiManqueMeneAuChampOuLaisseImprimer) {
   TEcranEssai monde(base);
   TImprimeur imprimeur(monde.Contexte, {});
   QStringList vus;
-  imprimeur.SurAllerAuChamp = [&](TEleve* eleve, const QString& champ) {
-    vus += QString::number(eleve != nullptr ? eleve->Id : 0) % u' ' % champ;
+  imprimeur.SurAllerAuChamp = [&](const TManque& manque) {
+    vus += QString::number(manque.EleveId) % u' ' % manque.Champ;
   };
   void (TFrmManques::*faire)() = nullptr;
   int ligne = -1;

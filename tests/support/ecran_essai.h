@@ -20,6 +20,9 @@ class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal
   }
   void Envoyer(const TMessage&) override { ++Envois; }
   void AllerAEcole(const QString& champ) override { ChampEcole = champ; }
+  void AllerAEleve(int annee, int eleveId, const QString& champ) override {
+    ChampAilleurs = QString::number(annee) % u' ' % QString::number(eleveId) % u' ' % champ;
+  }
   void AllerAuTransfert() override {}
   void Etat(TNiveauEtat niveau, const QString& texte) override {
     Niveau = niveau;
@@ -37,7 +40,7 @@ class TEcranEssai : public IFenetreModale, public IApercu, public ILienPrincipal
   TNiveauEtat Niveau{};
   QStringList Etats;
   QStringList Apercus;
-  QString ChampEcole;
+  QString ChampEcole, ChampAilleurs;
   int Envois = 0;
   TContexteEcran Contexte{Essai.Controleur, *this, *this, *this};
 };

@@ -169,6 +169,37 @@ TEST_F(DocumentsVues, FromTheRecordToThePreviewWithADateOfPayment) {
   programme.Main().OutilClick(TOutil::btnPrint);
 }
 
+// Who is not in the year on display is listed too, and the way to the record changes the year.
+TEST_F(DocumentsVues, WhatIsMissingOfWhoHasLeftLeadsToTheYearOfTheRecord) {
+  TEcoleEssai avant(programme.Base, 2015);
+  avant.tarif(Essai::Matin, Essai::TousLesJours, u"07:00"_s, u"08:00"_s, Essai::Forfait, u"1"_s,
+              Essai::ScanPresence);
+  TEleveEssai parti = avant.unEleve().nomme(u"Parti"_s, u"Rui"_s).enClasse(u"P6"_s, u"A"_s);
+  parti.scan(Essai::Garderie, u"2016-03-07"_s, u"07:30"_s).mois(3, u"1"_s);
+  Globals.TarifsGarderies = std::make_unique<TTarifsGarderies>(*programme.Base);
+  programme.Main().mnuAnneeClick(2016);
+  programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
+  programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
+    Choisir(fenetre, u"Fiche fiscale 281.86"_s);
+    Cliquer(fenetre, u"Suivant >"_s);
+    Choisir(fenetre, u"Les élèves suivants:"_s);
+    Cliquer(fenetre, u"Tout sélectionner"_s);
+    Cliquer(fenetre, u"Suivant >"_s);
+    EXPECT_TRUE(Foyer(fenetre, u"Année des revenus"_s));
+    for (const QString& dit : {u"Compris aussi : 1 élève de 2015 - 2016"_s, u"revenus de 2016"_s})
+      EXPECT_TRUE(TextesDe(fenetre).contains(dit)) << TextesDe(fenetre).toStdString();
+    EXPECT_EQ(BoutonDe(fenetre, u"Le mois de :"_s), nullptr) << "it takes no period";
+    Cliquer(fenetre, u"Imprimer"_s);
+  });
+  programme.Dialogues.Fait(u"Ce qui manque"_s,
+                           [](QWidget& fenetre) { Cliquer(fenetre, u"Aller à la fiche"_s); });
+  programme.Main().OutilClick(TOutil::btnPrint);
+  EXPECT_EQ(Globals.Eleves->AnneeScolaire, 2015);
+  ASSERT_NE(Globals.EleveCourant, nullptr);
+  EXPECT_EQ(Globals.EleveCourant->Id, parti.Id);
+  EXPECT_EQ(programme.Main().Etat().Texte, u"Année 2015 - 2016, celle de Parti Rui");
+}
+
 TEST_F(DocumentsVues, WizardWithoutPeriodAndItsRefusals) {
   TDemandeurEssai demandeur(programme.Tout());
   programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
@@ -345,6 +376,12 @@ TEST_F(DocumentsVues, WithinReachOfEveryone) {
     }
   };
   assistant.Demander(TDemandeAssistant::De({{u"Badge"_s, true}, {u"Facture"_s, true}}));
+  TTitreAssistant fiche{u"Fiche"_s};
+  fiche.Annees = {2016, 2015};
+  fiche.Portee = [](const TChoixDocument&) {
+    return u"Compris aussi : 3 élèves de 2015 - 2016. "_s.repeated(5);
+  };
+  assistant.Demander(TDemandeAssistant::De({fiche}));
 
   modale.Geste = [&] {
     const VuePrintWizard vue(assistant, nullptr);

@@ -92,7 +92,13 @@ void Photographe::Manques() {
             return true;
           },
           [](QWidget& fenetre) {
-            Suivant(fenetre);  // the classes of the document before
+            Bouton(fenetre, u"Tout sélectionner"_s)->click();
+            Suivant(fenetre);
+            return true;
+          },
+          [this](QWidget& fenetre) {
+            Prendre(fenetre, u"assistant-revenus"_s);
+            Suivant(fenetre);
             return true;
           },
           [this](QWidget& fenetre) {

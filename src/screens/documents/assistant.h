@@ -1,4 +1,5 @@
 #pragma once
+#include <functional>
 #include <optional>
 
 #include "documents/catalogue.h"
@@ -9,6 +10,11 @@ struct TTitreAssistant {
   QString Titre;
   bool AvecPeriode = false;  ///< the document takes a period
   QString Empechement = {};  ///< why it cannot be made here; "" when it can
+  // Of a document of a calendar year, which is then asked for in the place of a period.
+  std::vector<int> Annees = {};  ///< those to choose from
+  int Annee = 0;                 ///< the one at hand
+  /// Whom that choice covers, in sentences.
+  std::function<QString(const TChoixDocument&)> Portee = {};
 };
 
 /// What the wizard is asked for; load of ImprimerAssistant.
@@ -19,7 +25,7 @@ struct TDemandeAssistant {
   TForm* Demandeur = nullptr;  ///< gets AssistantConfirme with a TChoixDocument when asked by message
   int MoisEcran = 0;           ///< 1 to 12, the month that the screen shows; 0 for none
 
-  /// With the who page, and with the period page when one of the titles takes a period.
+  /// With the who page, and with the period page when one of the titles takes a period, or a year.
   static TDemandeAssistant De(std::vector<TTitreAssistant> titres);
 };
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/accord.h"
-#include "pupils/eleve.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,25 +17,22 @@ TFrmManques::TFrmManques(const TResultat& resultat, bool avecChamps)
           {{u"Élève"_s, 190}, {u"Classe"_s, 70}, {u"Ce qui manque"_s, 420}, {u"Suite"_s, 136, TGenre::Etat}}),
       resultat_(resultat) {
   for (const TManque& manque : resultat.Manques)
-    if (manque.SansDocument) sans_.insert(manque.Eleve);
+    if (manque.SansDocument) sans_.insert(manque.EleveId);
   texte_ = Resume();
   Grille.Etats = {{u"Pas imprimé"_s, u"data-error"_s},
                   {u"Imprimé sans"_s, u"data-warning"_s},
                   {u"Rien à remplir"_s, u"data-information"_s}};
   for (const TManque& manque : resultat.Manques) {
-    const int ligne = Grille.Ajouter({manque.Eleve != nullptr ? manque.Eleve->NomComplet() : u"L'école"_s,
-                                      manque.Eleve != nullptr ? manque.Eleve->LibelleClasse() : QString(),
-                                      manque.Texte,
-                                      {}},
-                                     {}, Etat(manque));
+    const QString qui = manque.EleveId != 0 ? manque.Nom : u"L'école"_s;
+    const int ligne = Grille.Ajouter({qui, manque.Classe, manque.Texte, {}}, {}, Etat(manque));
     if (!avecChamps) continue;
-    if (manque.Eleve != nullptr && premier_ < 0) premier_ = ligne;
+    if (manque.EleveId != 0 && premier_ < 0) premier_ = ligne;
     menent_ = menent_ || Mene(manque);
   }
   Grille.ChoisirLigne(std::max(0, premier_));
 }
 
-bool TFrmManques::Mene(const TManque& manque) { return manque.Eleve != nullptr || !manque.Champ.isEmpty(); }
+bool TFrmManques::Mene(const TManque& manque) { return manque.EleveId != 0 || !manque.Champ.isEmpty(); }
 
 int TFrmManques::Etat(const TManque& manque) const {
   if (SansDocument(manque)) return PasImprime;
@@ -59,11 +55,11 @@ QString TFrmManques::LibelleImprimer() const {
 }
 
 bool TFrmManques::SansDocument(const TManque& manque) const {
-  return manque.SansDocument || (manque.Eleve != nullptr && sans_.contains(manque.Eleve));
+  return manque.SansDocument || (manque.EleveId != 0 && sans_.contains(manque.EleveId));
 }
 
 QString TFrmManques::Resume() const {
-  const auto eleves = static_cast<qint64>(sans_.size()) - (sans_.contains(nullptr) ? 1 : 0);
+  const auto eleves = static_cast<qint64>(sans_.size()) - (sans_.contains(0) ? 1 : 0);
   if (sans_.empty())
     return Imprimable() ? u"Tout s'imprime, mais il manque ceci :"_s : u"Rien à imprimer. Il manque ceci :"_s;
   if (eleves == 0) return u"Il manque ceci :"_s;

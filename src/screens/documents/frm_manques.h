@@ -43,9 +43,9 @@ class TFrmManques : public TForm {
   bool SansDocument(const TManque& manque) const;
 
   const TResultat& resultat_;
-  std::set<const TEleve*> sans_;  ///< who is not printed
-  int premier_ = -1;              ///< the first row that leads to a record
-  bool menent_ = false;           ///< some row leads somewhere
+  std::set<int> sans_;   ///< who is not printed
+  int premier_ = -1;     ///< the first row that leads to a record
+  bool menent_ = false;  ///< some row leads somewhere
   QString texte_;
   const TManque* choisi_ = nullptr;
 };

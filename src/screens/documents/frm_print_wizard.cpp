@@ -51,7 +51,8 @@ int AnneeAffichee() { return Globals.Eleves->AnneeScolaire; }
 }  // namespace
 
 TDemandeAssistant TDemandeAssistant::De(std::vector<TTitreAssistant> titres) {
-  const bool periode = std::ranges::any_of(titres, &TTitreAssistant::AvecPeriode);
+  const bool periode = std::ranges::any_of(
+      titres, [](const TTitreAssistant& titre) { return titre.AvecPeriode || !titre.Annees.empty(); });
   return {true, std::move(titres), periode};
 }
 
@@ -171,7 +172,7 @@ bool TFrmPrintWizard::PageVisible(TPageAssistant page) const {
     case TPageAssistant::Qui:
       return demande_.PageQui;
     case TPageAssistant::Periode:
-      return demande_.PagePeriode && periodeDuTitre_;
+      return demande_.PagePeriode && (Titre() == nullptr || Titre()->AvecPeriode || !Titre()->Annees.empty());
   }
   return false;
 }
@@ -215,8 +216,35 @@ void TFrmPrintWizard::btnMoisEcranClick() {
 
 void TFrmPrintWizard::ChoixRapportClick(int indice) {
   indice_ = indice;
-  periodeDuTitre_ = indice < 0 || Titres()[static_cast<std::size_t>(indice)].AvecPeriode;
+  annee_ = Titre() != nullptr ? Titre()->Annee : 0;
   Annoncer();
+}
+
+/// The checked one; null without titles.
+const TTitreAssistant* TFrmPrintWizard::Titre() const {
+  return indice_ < 0 ? nullptr : &Titres()[static_cast<std::size_t>(indice_)];
+}
+
+const std::vector<int>& TFrmPrintWizard::Annees() const {
+  static const std::vector<int> aucune;
+  return Titre() != nullptr ? Titre()->Annees : aucune;
+}
+
+void TFrmPrintWizard::ChoisirAnnee(int annee) {
+  annee_ = annee;
+  Annoncer();
+}
+
+QString TFrmPrintWizard::Portee() const {
+  if (Annees().empty() || !Titre()->Portee) return {};
+  TChoixDocument choix;
+  AjouterChoisis(choix);
+  choix.AnneeRevenus = annee_;
+  return Titre()->Portee(choix);
+}
+
+bool TFrmPrintWizard::DemandePeriode() const {
+  return PageVisible(TPageAssistant::Periode) && Annees().empty();
 }
 
 bool TFrmPrintWizard::ChoixQuiPossible(TChoixQui choix) const {
@@ -280,8 +308,8 @@ void TFrmPrintWizard::btnAnnulerClick() {
 }
 
 void TFrmPrintWizard::KWizard1FinishButtonClick() {
-  if (!champs_.QuitterTout()) return;
-  if (choixPeriode_ == TChoixPeriode::Mois && indiceMois_ < 0 && PageVisible(TPageAssistant::Periode))
+  if (DemandePeriode() && !champs_.QuitterTout()) return;
+  if (choixPeriode_ == TChoixPeriode::Mois && indiceMois_ < 0 && DemandePeriode())
     return Refuser(u"Veuillez sélectionner un mois dans la liste déroulante"_s, TChampAssistant::Mois);
   if (PageVisible(TPageAssistant::Qui) && !AQuelquun()) {
     OuvrirPage(TPageAssistant::Qui);
@@ -290,7 +318,8 @@ void TFrmPrintWizard::KWizard1FinishButtonClick() {
   choix_ = {};
   AjouterChoisis(choix_);
   choix_.Indice = indice_;
-  if (indice_ >= 0) dernier_ = Titres()[static_cast<std::size_t>(indice_)].Titre;
+  choix_.AnneeRevenus = annee_;
+  if (Titre() != nullptr) dernier_ = Titre()->Titre;
   const TPeriode periode = Periode();
   choix_.DateDebut = periode.Premier;
   choix_.DateFin = periode.Dernier;
@@ -321,12 +350,14 @@ void TFrmPrintWizard::AjouterChoisis(TChoixDocument& choix) const {
       break;
     case TChoixQui::Eleves:
       choix.Eleves = Coches<TEleve>(LstEleve);
+      choix.TouteLEcole = std::ssize(choix.Eleves) == LstEleve.NombreLignes();
       break;
     case TChoixQui::Classe:
       if (Globals.ClasseCourante != nullptr) choix.Classes.push_back(Globals.ClasseCourante);
       break;
     case TChoixQui::Classes:
       for (const TClasse* classe : Coches<TClasse>(LstClasse)) choix.Classes.push_back(classe);
+      choix.TouteLEcole = std::ssize(choix.Classes) == LstClasse.NombreLignes();
       break;
   }
 }
@@ -361,6 +392,7 @@ QString TFrmPrintWizard::TexteAnnee() const {
 }
 
 QString TFrmPrintWizard::TextePeriode() const {
+  if (!Annees().empty()) return u"revenus de %1"_s.arg(annee_);
   if (choixPeriode_ == TChoixPeriode::Annee) return TexteAnnee();
   if (choixPeriode_ == TChoixPeriode::Periode)
     return u"du " % FormatDate(periode_.Premier) % u" au " % FormatDate(periode_.Dernier);
@@ -371,7 +403,7 @@ QString TFrmPrintWizard::TextePeriode() const {
 
 QString TFrmPrintWizard::Resume() const {
   QStringList parties;
-  if (indice_ >= 0) parties += Titres()[static_cast<std::size_t>(indice_)].Titre;
+  if (Titre() != nullptr) parties += Titre()->Titre;
   if (PageVisible(TPageAssistant::Qui)) parties += TexteQui();
   if (PageVisible(TPageAssistant::Periode)) parties += TextePeriode();
   return parties.join(u"  ·  "_s);

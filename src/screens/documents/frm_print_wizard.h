@@ -59,7 +59,13 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   /// "2 classes, 43 élèves"
   QString Compte() const;
 
-  // Period page.
+  // Period page; of a title of a calendar year, its year.
+  /// The years to choose from; none when the checked title takes a period, or nothing.
+  const std::vector<int>& Annees() const;
+  int Annee() const { return annee_; }
+  void ChoisirAnnee(int annee);
+  /// Whom the choice covers, in sentences; "" without years.
+  QString Portee() const;
   TChoixPeriode ChoixPeriode() const { return choixPeriode_; }
   void RbMoisClick(TChoixPeriode choix);
   const QStringList& cmbMois() const { return mois_; }
@@ -109,6 +115,8 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   void RefuserPersonne();
   bool AQuelquun() const;
   void AjouterChoisis(TChoixDocument& choix) const;
+  const TTitreAssistant* Titre() const;
+  bool DemandePeriode() const;
   TPeriode Periode() const;
   QString TexteQui() const;
   QString TextePeriode() const;
@@ -117,8 +125,8 @@ class TFrmPrintWizard : public TForm, public IAssistant {
   TDemandeAssistant demande_;
   TPageAssistant page_ = TPageAssistant::Rapport;
   int indice_ = -1;
-  QString dernier_;             ///< title of the last document chosen
-  bool periodeDuTitre_ = true;  ///< the checked title takes a period
+  QString dernier_;  ///< title of the last document chosen
+  int annee_ = 0;    ///< of a title of a calendar year
   TChoixQui choixQui_ = TChoixQui::Eleve;
   bool quiChoisi_ = false;  ///< by the user
   TContenu contenuEleves_, contenuClasses_;

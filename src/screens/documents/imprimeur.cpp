@@ -1,20 +1,28 @@
 #include "screens/documents/imprimeur.h"
 
-#include "screens/documents/assistant.h"
+#include "documents/fiche_fiscale.h"
 #include "screens/documents/frm_manques.h"
 #include "screens/payments/frm_date_paiement.h"
 
 void TImprimeur::Proposer(std::vector<TTitreOffert> titres, int moisEcran) {
   titres_ = std::move(titres);
   std::vector<TTitreAssistant> offerts;
-  for (const TTitreOffert& titre : titres_)
-    offerts.push_back({QString::fromUtf16(titre.Montre->Titre), titre.Montre->AvecPeriode,
-                       Empechement(*titre.Fait, etiquettes_)});
+  for (const TTitreOffert& titre : titres_) offerts.push_back(Offert(*titre.Montre, *titre.Fait));
   TDemandeAssistant demande = TDemandeAssistant::De(std::move(offerts));
   demande.PageQui = std::ranges::any_of(titres_, [](const auto& titre) { return titre.Montre->AvecEleves; });
   demande.MoisEcran = moisEcran;
   auto choix = contexte_.Assistant->Demander(demande);
   if (choix) Imprimer(std::move(*choix));
+}
+
+TTitreAssistant TImprimeur::Offert(const TTitreDocument& montre, const TTitreDocument& fait) {
+  TTitreAssistant titre{QString::fromUtf16(montre.Titre), montre.AvecPeriode, Empechement(fait, etiquettes_)};
+  if (!montre.ParAnneeRevenus) return titre;
+  const auto contexte = [this] { return ContexteDesGlobals(contexte_.Controleur.Horloge()); };
+  titre.Annees = AnneesRevenus(contexte());
+  titre.Annee = AnneeRevenusUsuelle(contexte());
+  titre.Portee = [contexte](const TChoixDocument& choix) { return PorteeFiches(contexte(), choix); };
+  return titre;
 }
 
 void TImprimeur::Imprimer(TChoixDocument choix) {
@@ -54,6 +62,6 @@ bool TImprimeur::PasseManques(const TResultat& resultat) {
   TFrmManques manques(resultat, SurAllerAuChamp != nullptr);
   const bool imprimer = contexte_.Modale.MontrerModal(manques) == TResultatModal::Valide;
   const TManque* manque = manques.Choisi();
-  if (manque != nullptr && SurAllerAuChamp) SurAllerAuChamp(manque->Eleve, manque->Champ);
+  if (manque != nullptr && SurAllerAuChamp) SurAllerAuChamp(*manque);
   return imprimer && manque == nullptr;
 }

@@ -1,8 +1,8 @@
 #pragma once
 #include <functional>
 
-#include "documents/catalogue.h"
 #include "screens/contexte_ecran.h"
+#include "screens/documents/assistant.h"
 
 /// How a screen prints: titles to the wizard, the question of the date, the wait, what there is to say,
 /// the previews.
@@ -19,9 +19,9 @@ class TImprimeur {
     jourRepas_ = jour;
     nouveauxRepas_ = nouveauxRepas;
   }
-  /// How to go to a field of a pupil's record, or of the school's screen when it is null; without it nothing
-  /// leads there. The screen that asked must outlive it.
-  std::function<void(TEleve* eleve, const QString& champ)> SurAllerAuChamp;
+  /// How to go to what is missing, of a pupil or of the school; without it nothing leads there. The screen
+  /// that asked must outlive it.
+  std::function<void(const TManque& manque)> SurAllerAuChamp;
   /// A report went to a printer or into a PDF.
   std::function<void(const TRapport& rapport)> SurSortie;
 
@@ -36,6 +36,7 @@ class TImprimeur {
  private:
   /// What a document says and misses, then its previews one after the other.
   void Montrer(TResultat resultat);
+  TTitreAssistant Offert(const TTitreDocument& montre, const TTitreDocument& fait);
   /// False when the user has it seen to first.
   bool PasseManques(const TResultat& resultat);
 

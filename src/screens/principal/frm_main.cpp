@@ -255,6 +255,19 @@ void TFrmMain::AllerAEcole(const QString& champ) {
     form->Ecole.SurFoyer(form->Ecole.Indice(champ));
 }
 
+void TFrmMain::AllerAEleve(int annee, int eleveId, const QString& champ) {
+  ensuite_ = [this, annee, eleveId, champ] {
+    if (!ChoisirAnnee(annee)) return;
+    TEleve* eleve = Globals.Eleves->TrouverParId(eleveId);
+    if (eleve == nullptr) return;  // another workstation has taken the enrolment away
+    ChoisirEleve(*eleve);
+    Executer(TGestionnaire::AdvGlowButton2Click);
+    if (auto* fiche = dynamic_cast<TFrmSignaletique*>(Panneau.Courante())) fiche->AllerAuChamp(*eleve, champ);
+    EtatApresEcran(TNiveauEtat::Neutre,
+                   u"Année " % AnneeEnTexte(annee) % u", celle de " % eleve->NomComplet());
+  };
+}
+
 void TFrmMain::AllerAuTransfert() { Executer(TGestionnaire::btnTransfertRepasClick); }
 
 bool TFrmMain::OutilVisible(TOutil outil) const { return (outils_ & static_cast<int>(outil)) != 0; }
@@ -274,6 +287,7 @@ void TFrmMain::OutilClick(TOutil outil) {
   if (!OutilActif(outil)) return;
   QuitterChamp();
   Diffuser(CodeDe(outil));
+  if (const auto ensuite = std::exchange(ensuite_, nullptr)) ensuite();
 }
 
 void TFrmMain::Diffuser(TCodeMessage code) {

@@ -1,4 +1,6 @@
 #pragma once
+#include <functional>
+
 #include "forms/arbre.h"
 #include "forms/vide.h"
 #include "screens/principal/commandes.h"
@@ -129,6 +131,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   bool RecevoirMessage(const TMessage& message) override;
   void Envoyer(const TMessage& message) override { RecevoirMessage(message); }
   void AllerAEcole(const QString& champ) override;
+  void AllerAEleve(int annee, int eleveId, const QString& champ) override;
   void AllerAuTransfert() override;
   void Etat(TNiveauEtat niveau, const QString& texte) override;
 
@@ -222,6 +225,7 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   TEtatPrincipal etat_;
   QString enSuspens_;  // of the screen that was freed last
   bool enTravail_ = false;
+  std::function<void()> ensuite_;  ///< what waits until the screen that asked for it has ended
   TLiens liens_;
   TLien ecran_;  ///< the screen in front
 };

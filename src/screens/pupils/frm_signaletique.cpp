@@ -56,8 +56,14 @@ TFrmSignaletique::TFrmSignaletique(const TContexteEcran& contexte)
     contexte_.Principal.Etat(TNiveauEtat::Refus, QString(u"Non enregistré : " % NomDuChamp(champ)));
     contexte_.Dialogues().Message(faute);
   };
-  imprimeur_.SurAllerAuChamp = [this](TEleve* eleve, const QString& champ) {
-    eleve != nullptr ? AllerAuChamp(*eleve, champ) : contexte_.Principal.AllerAEcole(champ);
+  imprimeur_.SurAllerAuChamp = [this](const TManque& manque) {
+    TEleve* eleve = Globals.Eleves->TrouverParId(manque.EleveId);
+    if (manque.EleveId == 0)
+      contexte_.Principal.AllerAEcole(manque.Champ);
+    else if (eleve != nullptr)
+      AllerAuChamp(*eleve, manque.Champ);
+    else
+      contexte_.Principal.AllerAEleve(manque.AnneeScolaire, manque.EleveId, manque.Champ);
   };
   const int mois = DecodeDate(contexte.Controleur.Horloge().Aujourdhui()).Mois;
   indiceMois_ = std::max(IndiceMoisScolaire(mois), 0);
@@ -116,7 +122,6 @@ void TFrmSignaletique::PrendreEleve() {
   }
 }
 
-/// The record of that pupil, with the hand in that field.
 void TFrmSignaletique::AllerAuChamp(TEleve& eleve, const QString& champ) {
   PrendreEnMain(eleve);
   if (champs_.Objet() != &eleve) PrendreEleve();  // one who does not stand in the tree

@@ -33,6 +33,8 @@ class TFrmSignaletique : public TForm {
   /// False before the first pupil and when the one on display went with its year.
   bool AvecEleve() const { return avecEleve_; }
   TChampsDe<TEleve>& Champs() { return champs_; }
+  /// The record of that pupil, with the hand in that field; "" for none.
+  void AllerAuChamp(TEleve& eleve, const QString& champ);
   const QString& NomComplet() const { return nomComplet_; }
   /// The full name; without a pupil, what to do to have one.
   QString Titre() const;
@@ -126,7 +128,6 @@ class TFrmSignaletique : public TForm {
 
  private:
   void PrendreEleve();
-  void AllerAuChamp(TEleve& eleve, const QString& champ);
   void PrendreEnMain(TEleve& eleve);
   void LireFiche(TEleve& eleve);
   void LireActivites(const TEleve& eleve);

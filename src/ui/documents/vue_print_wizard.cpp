@@ -14,6 +14,7 @@
 #include "core/mois.h"
 #include "ui/commun/bouton.h"
 #include "ui/commun/champ_filtre.h"
+#include "ui/commun/champ_libelle.h"
 #include "ui/commun/liaison_champs.h"
 #include "ui/commun/vue_grille.h"
 #include "ui/documents/filet.h"
@@ -36,6 +37,9 @@ const std::vector<TTextesPage>& TextesPages() {
   };
   return textes;
 }
+
+/// Of a title of a calendar year, on the page of the period.
+const QString kQuestionAnnee = u"Veuillez choisir l'année des revenus:"_s;
 
 /// A layout without margins, its parts that far apart.
 template <class T>
@@ -92,6 +96,8 @@ void VuePrintWizard::Suivre() {
   connect(tout_, &QPushButton::clicked, this, [this] { form_.btnToutSelectionnerClick(); });
   connect(rien_, &QPushButton::clicked, this, [this] { form_.btnRienSelectionnerClick(); });
   connect(mois_, &QComboBox::activated, this, [this](int indice) { form_.ChoisirMois(indice); });
+  connect(annees_, &QComboBox::activated, this,
+          [this](int indice) { form_.ChoisirAnnee(form_.Annees()[static_cast<std::size_t>(indice)]); });
   SuivreListe(eleves_, form_.LstEleve,
               [this](int colonne, bool croissant) { form_.LstEleveColumnClick(colonne, croissant); });
   SuivreListe(classes_, form_.LstClasse,
@@ -233,10 +239,25 @@ QWidget* VuePrintWizard::CreerLigneDates() {
   return champs;
 }
 
-QWidget* VuePrintWizard::CreerPagePeriode() {
-  auto* page = new QWidget;
-  auto* colonne = SansMarge<QVBoxLayout>(page, 12);
-  auto* grille = SansMarge<QGridLayout>(nullptr, 8);
+QWidget* VuePrintWizard::CreerAnnees() {
+  annees_ = new QComboBox;
+  annees_->setMinimumWidth(Theme::Px(100));
+  portee_ = new Etiquette({}, TRole::Secondaire);
+  portee_->setWordWrap(true);
+  auto* partie = new QWidget;
+  auto* colonne = SansMarge<QVBoxLayout>(partie, 12);
+  auto* ligne = SansMarge<QHBoxLayout>(nullptr, 16);
+  ligne->addWidget(CreerLibelle(u"Année des &revenus :"_s, annees_));
+  ligne->addWidget(annees_);
+  ligne->addStretch(1);
+  colonne->addLayout(ligne);
+  colonne->addWidget(portee_);
+  return partie;
+}
+
+QWidget* VuePrintWizard::CreerPeriodes() {
+  auto* partie = new QWidget;
+  auto* grille = SansMarge<QGridLayout>(partie, 8);
   annee_ = new Etiquette({}, TRole::Secondaire);
   const struct {
     QString Texte;
@@ -255,9 +276,18 @@ QWidget* VuePrintWizard::CreerPagePeriode() {
   }
   grille->setHorizontalSpacing(Theme::Px(16));
   grille->setColumnStretch(1, 1);
+  return partie;
+}
+
+QWidget* VuePrintWizard::CreerPagePeriode() {
+  auto* page = new QWidget;
+  auto* colonne = SansMarge<QVBoxLayout>(page, 12);
+  periodes_ = CreerPeriodes();
+  ligneAnnees_ = CreerAnnees();
   resume_ = new Etiquette({}, TRole::Texte, &Theme::Gras);
   resume_->setWordWrap(true);
-  colonne->addLayout(grille);
+  colonne->addWidget(periodes_);
+  colonne->addWidget(ligneAnnees_);
   colonne->addSpacing(Theme::Px(8));
   colonne->addWidget(new Filet(Qt::Horizontal));
   colonne->addWidget(new Etiquette(u"Sera imprimé"_s, TRole::Secondaire));
@@ -269,7 +299,8 @@ QWidget* VuePrintWizard::CreerPagePeriode() {
 void VuePrintWizard::Rafraichir() {
   const bool autrePage = pages_->currentIndex() != Id(form_.Page());
   pages_->setCurrentIndex(Id(form_.Page()));
-  question_->setText(TextesPages()[static_cast<std::size_t>(form_.Page())].Question);
+  const bool annee = form_.Page() == TPageAssistant::Periode && !form_.Annees().empty();
+  question_->setText(annee ? kQuestionAnnee : TextesPages()[static_cast<std::size_t>(form_.Page())].Question);
   precedent_->setEnabled(!form_.EstPremierePage());
   if (form_.EstDernierePage())
     DefinirPrincipal(u"&Imprimer"_s, u"document-print"_s);
@@ -324,10 +355,23 @@ void VuePrintWizard::RafraichirPeriode() {
     dates_->Widget(date)->setEnabled(!form_.Dates().LectureSeule());
   annee_->setText(form_.TexteAnnee());
   resume_->setText(form_.Resume());
+  periodes_->setVisible(form_.Annees().empty());
+  ligneAnnees_->setVisible(!form_.Annees().empty());
+  if (form_.Page() == TPageAssistant::Periode) RafraichirAnnees();
+}
+
+void VuePrintWizard::RafraichirAnnees() {
+  const std::vector<int>& annees = form_.Annees();
+  if (annees_->count() == 0)  // only one title has years
+    for (const int annee : annees) annees_->addItem(QString::number(annee));
+  annees_->setCurrentIndex(annees_->findText(QString::number(form_.Annee())));
+  portee_->setText(form_.Portee());
 }
 
 /// To what is checked; of the period to its field, where the month is chosen by the arrows.
 void VuePrintWizard::FoyerDePage() {
+  if (form_.Page() == TPageAssistant::Periode && !form_.Annees().empty())
+    return annees_->setFocus(Qt::OtherFocusReason);
   if (form_.Page() == TPageAssistant::Periode && form_.ChoixPeriode() == TChoixPeriode::Mois)
     return mois_->setFocus(Qt::OtherFocusReason);
   if (form_.Page() == TPageAssistant::Periode && form_.ChoixPeriode() == TChoixPeriode::Periode)

@@ -37,6 +37,8 @@ class VuePrintWizard : public DialogueBase {
   /// All four choices stand in one widget, so that arrows lead from one to the next.
   QLayout* CreerListe(TListe& liste, const QString& courant, const QString& plusieurs, TGrille& grille,
                       const QString& nom);
+  QWidget* CreerPeriodes();
+  QWidget* CreerAnnees();
   QWidget* CreerLigneMois();
   QWidget* CreerLigneDates();
   void Suivre();
@@ -45,6 +47,7 @@ class VuePrintWizard : public DialogueBase {
   void RafraichirEtapes();
   void RafraichirQui();
   void RafraichirPeriode();
+  void RafraichirAnnees();
   void FoyerDePage();
   void AllerAuChamp(TChampAssistant champ);
 
@@ -62,6 +65,10 @@ class VuePrintWizard : public DialogueBase {
   Etiquette* compte_ = nullptr;
   QComboBox* mois_ = nullptr;
   LiaisonChamps* dates_;
+  QWidget* periodes_ = nullptr;     ///< of a title that takes a period
+  QWidget* ligneAnnees_ = nullptr;  ///< of one of a calendar year
+  QComboBox* annees_ = nullptr;
+  Etiquette* portee_ = nullptr;
   Etiquette* annee_ = nullptr;
   Etiquette* resume_ = nullptr;
   TLiens liens_;
