@@ -45,7 +45,7 @@ void HabillerCalendrier(QCalendarWidget& calendrier) {
   calendrier.setFirstDayOfWeek(Qt::Monday);
   calendrier.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   QTextCharFormat repos;
-  repos.setForeground(Theme::Secondaire());
+  repos.setForeground(Theme::Couleur(TRole::Secondaire));
   calendrier.setWeekdayTextFormat(Qt::Saturday, repos);
   calendrier.setWeekdayTextFormat(Qt::Sunday, repos);
   const struct {

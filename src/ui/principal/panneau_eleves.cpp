@@ -51,7 +51,8 @@ class DelegueEleves : public QStyledItemDelegate {
     if (!droite.isEmpty()) {
       const QFont petite = Theme::Petite();
       peintre->setFont(petite);
-      peintre->setPen(actif ? Theme::Secondaire() : option.palette.color(groupe, QPalette::Text));
+      peintre->setPen(actif ? Theme::Couleur(TRole::Secondaire)
+                            : option.palette.color(groupe, QPalette::Text));
       peintre->drawText(place, Qt::AlignRight | Qt::AlignVCenter, droite);
       place.setRight(place.right() - QFontMetrics(petite).horizontalAdvance(droite) - Theme::Px(8));
     }
@@ -59,7 +60,7 @@ class DelegueEleves : public QStyledItemDelegate {
       police.setBold(true);
     police.setStrikeOut(EstBarre(index));
     peintre->setFont(police);
-    peintre->setPen(EstBarre(index) && actif ? Theme::Secondaire()
+    peintre->setPen(EstBarre(index) && actif ? Theme::Couleur(TRole::Secondaire)
                                              : option.palette.color(groupe, QPalette::Text));
     peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                       QFontMetrics(police).elidedText(texte, Qt::ElideRight, place.width()));
