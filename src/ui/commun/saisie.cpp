@@ -61,8 +61,6 @@ Saisie::Saisie(QWidget* parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::textEdited, this, [this] { MarquerFaute(*this, false); });
 }
 
-bool Saisie::EstValide() const { return MettreEnForme(text()).has_value(); }
-
 void Saisie::Montrer(const QString& texte) {
   setText(texte);
   avant_ = texte;
