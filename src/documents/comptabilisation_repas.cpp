@@ -15,6 +15,7 @@ struct TNombres {
     Repas += autres.Repas;
     Soupes += autres.Soupes;
   }
+  // The singular is for exactly 1 here: "0 soupes".
   QString TexteRepas() const {
     return QString::number(Repas) % (Repas == 1 ? u" repas chaud" : u" repas chauds");
   }

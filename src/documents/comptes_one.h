@@ -18,6 +18,7 @@ struct TEnfantsOne {
   int Primaire = 0;
 };
 
+/// By day, of the whole school.
 TComptesJours CompterJours(TDataModule1& base, const TPeriode& periode);
 /// By the class that the pupils have today.
 TEnfantsOne CompterEnfants(TDataModule1& base, const TPeriode& periode);

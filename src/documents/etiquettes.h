@@ -12,7 +12,9 @@ class IObjetEtiquette {
  public:
   virtual ~IObjetEtiquette() = default;
 
+  /// In the place of what the model has there.
   virtual void EcrireTexte(const QString& texte) = 0;
+  /// The text as bars, in the kind of code of the model.
   virtual void EcrireCodeBarres(const QString& texte) = 0;
 };
 

@@ -8,7 +8,7 @@
 #include "core/query_internal.h"
 #include "meals/commandes.h"
 #include "meals/repas_paiements.h"
-#include "services/frais_eleve.h"
+#include "services/lignes_extrait.h"
 
 using namespace Qt::StringLiterals;
 
@@ -181,14 +181,8 @@ QString TEleves::LibelleImplantation(const QString& code) const {
 const std::vector<TPartExtrait>& TEleves::PartsExtrait(int extraitId) {
   if (ChargerExtraits) {
     partsParExtrait_.clear();
-    TCurseur ligne(
-        BaseDeDonnees(),
-        u"SELECT ELEVE_ID, EXTRAIT_ID, MONTANT_VERSE, FLG_PART FROM FRAIS_ELEVE WHERE EXTRAIT_ID>0"_s);
-    while (ligne.Suivant()) {
-      const TPartExtrait part{ligne.Entier("ELEVE_ID"), ligne.Montant("MONTANT_VERSE"),
-                              ligne.EstVrai("FLG_PART")};
-      partsParExtrait_[ligne.Entier("EXTRAIT_ID")].push_back(part);
-    }
+    for (const TLigneExtrait& ligne : LireLignesExtrait(BaseDeDonnees()))
+      partsParExtrait_[ligne.ExtraitId].push_back({ligne.EleveId, ligne.Montant, ligne.FlgPart});
     ChargerExtraits = false;
   }
   static const std::vector<TPartExtrait> sans;

@@ -3,9 +3,9 @@
 #include <span>
 
 #include "core/conversions.h"
-#include "core/curseur.h"
 #include "core/formats.h"
 #include "payments/communication_structuree.h"
+#include "services/lignes_extrait.h"
 #include "workflows/memoriser.h"
 
 using namespace Qt::StringLiterals;
@@ -61,15 +61,20 @@ QString LibelleVirement(const TExtrait& extrait) {
   return u"Votre virement du " % FormatDate(extrait.DateVirement);
 }
 
+std::unique_ptr<TFraisEleve> PaiementDe(const TExtrait& extrait, Currency montant, const QString& libelle,
+                                        TTypeFamilleFrais famille) {
+  auto paiement = std::make_unique<TFraisEleve>();
+  paiement->Remarque = libelle;
+  paiement->MontantVerse = montant;
+  paiement->ExtraitId = extrait.Id;
+  paiement->TypeFamilleFrais = famille;
+  return paiement;
+}
+
 std::unordered_map<int, std::vector<TAttribution>> LireAttributions(TDataModule1& base) {
   std::unordered_map<int, std::vector<TAttribution>> attributions;
-  TCurseur ligne(base,
-                 u"SELECT ELEVE_ID, EXTRAIT_ID, MOIS, TYPE_FAMILLE_FRAIS FROM FRAIS_ELEVE "
-                 "WHERE EXTRAIT_ID>0"_s);
-  while (ligne.Suivant())
-    attributions[ligne.Entier("EXTRAIT_ID")].push_back(
-        {ligne.Entier("ELEVE_ID"), ligne.Entier("MOIS"),
-         static_cast<TTypeFamilleFrais>(ligne.Entier("TYPE_FAMILLE_FRAIS"))});
+  for (const TLigneExtrait& ligne : LireLignesExtrait(base))
+    attributions[ligne.ExtraitId].push_back({ligne.EleveId, ligne.Mois, ligne.Famille});
   return attributions;
 }
 
@@ -84,11 +89,7 @@ void CrediterEleve(const TAttribution& attribution, const TExtrait& extrait) {
   if (eleve == nullptr || Globals.Eleves->ExtraitVersEleve(extrait.Id) != 0) return;
   TAllFraisEleve* frais = eleve->GetAllFrais();
   if (frais->ExisteExtrait(extrait.Id)) return;
-  auto nouveau = std::make_unique<TFraisEleve>();
-  nouveau->Remarque = LibelleVirement(extrait);
-  nouveau->MontantVerse = extrait.Montant;
-  nouveau->Mois = attribution.Mois;
-  nouveau->ExtraitId = extrait.Id;
-  nouveau->TypeFamilleFrais = attribution.Famille;
-  Memoriser(*frais, std::move(nouveau));
+  auto paiement = PaiementDe(extrait, extrait.Montant, LibelleVirement(extrait), attribution.Famille);
+  paiement->Mois = attribution.Mois;
+  Memoriser(*frais, std::move(paiement));
 }

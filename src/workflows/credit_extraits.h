@@ -20,6 +20,10 @@ std::optional<TAttribution> LireCommunicationCompacte(const QString& communicati
 /// "Votre virement du 05/10/2016"
 QString LibelleVirement(const TExtrait& extrait);
 
+/// The free payment that a movement, or a part of it, is to a pupil; in no ledger yet.
+std::unique_ptr<TFraisEleve> PaiementDe(const TExtrait& extrait, Currency montant, const QString& libelle,
+                                        TTypeFamilleFrais famille);
+
 /// Whom each credited movement went to, of any year, by the key of the movement: several when it was shared
 /// out. Raises Exception.
 std::unordered_map<int, std::vector<TAttribution>> LireAttributions(TDataModule1& base);

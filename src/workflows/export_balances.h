@@ -7,6 +7,7 @@ class QString;
 // responsible person. UTF-8 with its mark, lines ended by CR LF, cells quoted. A file is written beside its
 // place and renamed. Raises Exception.
 
+/// Without the account.
 void ExporterImpayes(const std::vector<TMontantEleve>& lignes, const QString& chemin);
 /// With the account for the reimbursement.
 void ExporterBalancesPositives(const std::vector<TMontantEleve>& lignes, const QString& chemin);

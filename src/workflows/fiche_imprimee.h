@@ -10,6 +10,7 @@ struct TContenuDeFiche {
   std::map<QString, int> Nombres;     ///< "P1 A, Dago" 2, "Dago jambon" 1
   std::map<QString, QString> Eleves;  ///< "ALVES Rui (P1 A)" "Dago jambon"
 };
+/// What a sheet of that day would say now.
 TContenuDeFiche ContenuDeFiche(const TJourCuisine& jour, const TGenerationRepas& generation);
 
 /// The last sheet that was printed on this workstation, kept in its settings.
@@ -18,6 +19,7 @@ struct TFicheImprimee {
   TDateTime Moment = 0.0;  ///< when
   TContenuDeFiche Contenu;
 
+  /// Of the screen of that generation; without a day when none was printed.
   static TFicheImprimee Lire(const TReglagesPoste& reglages, const TGenerationRepas& generation);
   void Memoriser(TReglagesPoste& reglages, const TGenerationRepas& generation) const;
   /// What that has become: "P1 A, Dago : 2 → 3", "ALVES Rui (P1 A) : Dago jambon → rien".

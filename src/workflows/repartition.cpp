@@ -11,6 +11,7 @@
 #include "core/formats.h"
 #include "core/transaction_commune.h"
 #include "pupils/reserver.h"
+#include "services/lignes_extrait.h"
 #include "workflows/credit_extraits.h"
 #include "workflows/memoriser.h"
 
@@ -46,12 +47,8 @@ std::vector<Currency> EnProportion(Currency montant, const std::vector<Currency>
 
 std::unique_ptr<TFraisEleve> LignePart(const TExtrait& extrait, const TPartVirement& part,
                                        const QString& libelle, bool entier) {
-  auto ligne = std::make_unique<TFraisEleve>();
-  ligne->Remarque = libelle;
-  ligne->MontantVerse = part.Montant;
-  ligne->ExtraitId = extrait.Id;
+  auto ligne = PaiementDe(extrait, part.Montant, libelle, part.Famille);
   ligne->FlgPart = !entier;
-  ligne->TypeFamilleFrais = part.Famille;
   ligne->GroupeFraisId = part.GroupeFraisId;
   return ligne;
 }
@@ -83,15 +80,18 @@ class TLignesParts {
   std::vector<std::pair<TAllFraisEleve*, TFraisEleve*>> posees_;
 };
 
-/// Read by its own statement: the map of the movements stays as it is while many are given one by one.
+/// The movement as it is stored now.
+TCurseur LireExtrait(TDataModule1& base, int extrait) {
+  return {base, u"SELECT MONTANT, FLG_IGNORE FROM EXTRAITS WHERE EXTRAIT_ID = ?"_s, {extrait}};
+}
+
+/// Read by its own statements: the map of the movements stays as it is while many are given one by one.
 QString RefusEntier(const TExtrait& extrait) {
-  TCurseur ligne(Globals.Eleves->BaseDeDonnees(),
-                 u"SELECT FLG_IGNORE, (SELECT FIRST 1 ELEVE_ID FROM FRAIS_ELEVE WHERE EXTRAIT_ID = "
-                 "EXTRAITS.EXTRAIT_ID) A_QUI FROM EXTRAITS WHERE EXTRAIT_ID = ?"_s,
-                 {extrait.Id});
+  TDataModule1& base = Globals.Eleves->BaseDeDonnees();
+  TCurseur ligne = LireExtrait(base, extrait.Id);
   if (!ligne.Suivant()) return u"Ce mouvement n'existe plus : un autre poste l'a supprimé."_s;
-  if (const int aQui = ligne.Entier("A_QUI"); aQui != 0) {
-    const TEleve* eleve = Globals.Eleves->TrouverParId(aQui);
+  if (const auto parts = LireLignesExtrait(base, extrait.Id); !parts.empty()) {
+    const TEleve* eleve = Globals.Eleves->TrouverParId(parts.front().EleveId);
     return u"Ce mouvement est déjà attribué à %1."_s.arg(eleve == nullptr ? u"un élève d'une autre année"_s
                                                                           : eleve->NomComplet());
   }
@@ -153,18 +153,14 @@ QString RefusMouvement(const TFraisEleve& paiement, Currency montant) {
   TDataModule1& base = Globals.Eleves->BaseDeDonnees();
   bool donne = false;
   Currency autres, range;
-  TCurseur part(base,
-                u"SELECT FRAIS_ELEVE_ID, MONTANT_VERSE, FLG_PART FROM FRAIS_ELEVE WHERE EXTRAIT_ID = ?"_s,
-                {paiement.ExtraitId});
-  while (part.Suivant()) {
-    const bool sien = part.Entier("FRAIS_ELEVE_ID") == paiement.Id;
-    (sien ? range : autres) += part.Montant("MONTANT_VERSE");
-    donne = donne || (!sien && !(paiement.FlgPart && part.EstVrai("FLG_PART")));
+  for (const TLigneExtrait& part : LireLignesExtrait(base, paiement.ExtraitId)) {
+    const bool sien = part.Id == paiement.Id;
+    (sien ? range : autres) += part.Montant;
+    donne = donne || (!sien && !(paiement.FlgPart && part.FlgPart));
   }
   if (paiement.Id > 0 && montant <= range) return {};
   if (donne) return u"Le mouvement de la banque a été attribué autrement entre-temps."_s;
-  TCurseur extrait(base, u"SELECT MONTANT, FLG_IGNORE FROM EXTRAITS WHERE EXTRAIT_ID = ?"_s,
-                   {paiement.ExtraitId});
+  TCurseur extrait = LireExtrait(base, paiement.ExtraitId);
   if (!extrait.Suivant()) return u"Le mouvement de la banque n'existe plus."_s;
   if (paiement.Id < 1 && extrait.Entier("FLG_IGNORE") == 1)
     return u"Le mouvement de la banque a été caché entre-temps."_s;

@@ -77,4 +77,5 @@ struct TLigneFrais {
   Currency Total;
 };
 
+/// A row for each fee of the year, in the order of the list.
 std::vector<TLigneFrais> StatistiqueFrais(const TListeFrais& liste);

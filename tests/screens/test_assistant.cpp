@@ -293,7 +293,7 @@ TEST_F(Assistant, BothRefusalsLeaveItOpen) {
 TEST_F(Assistant, PaymentDateIsAWeekAhead) {
   ecran.Essai.Horloge.Moment = EncodeDate(2016, 12, 28) + EncodeTime(16, 45);
   TFrmDatePaiement form(ecran.Contexte);
-  ecran.SurModale = [&](TForm&) { form.btnValiderClick(); };
+  ecran.SurModale = [&](TForm&) { form.Valider(); };
   EXPECT_EQ(ecran.MontrerModal(form), TResultatModal::Valide);
   EXPECT_EQ(form.dtDatePaiement(), J("2017-01-04"));
 }

@@ -54,7 +54,7 @@ TEST_F(FrmPresences, TheCountersAndTheNoteOfTheAnomalies) {
   EXPECT_EQ(Comptes(), u"4 3 2 5");
   EXPECT_EQ(Form.NoteAnomalies(), u"2 lignes ne seront pas mémorisées tant qu'elles ne sont pas corrigées");
   Form.Anomalies.ChoisirLigne(1);
-  Ecran.SurModale = [](TForm& form) { dynamic_cast<TFrmAjoutReleve&>(form).BitBtn2Click(); };
+  Ecran.SurModale = [](TForm& form) { dynamic_cast<TFrmAjoutReleve&>(form).Annuler(); };
   Form.Corrigerlerelev1Click();
   EXPECT_EQ(Form.Anomalies.NombreLignes(), 2) << "given up";
   Base.Dialogues.Attend(kMemorisees);

@@ -115,7 +115,7 @@ TEST_F(TSignaletique, LeChoixDeLAssistantFaitLeDocument) {
   TChoixDocument choix;
   choix.DateDebut = J("2016-10-01");
   choix.DateFin = J("2016-10-31");
-  monde.SurModale = [](TForm& form) { dynamic_cast<TFrmDatePaiement&>(form).btnAnnulerClick(); };
+  monde.SurModale = [](TForm& form) { dynamic_cast<TFrmDatePaiement&>(form).Annuler(); };
   const auto apercus = [&](int eleve, int indice) {
     monde.Apercus.clear();
     choix.Eleves = {Globals.Eleves->TrouverParId(eleve)};

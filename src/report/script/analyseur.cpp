@@ -114,7 +114,7 @@ class TAnalyseur {
   }
 
   TValeurScript LireType() {
-    if (PrendreMot("string")) return QString(""_L1);
+    if (PrendreMot("string")) return u""_s;
     if (PrendreMot("boolean")) return false;
     Refuser(u"une variable est « String » ou « Boolean », et non « %1 »"_s.arg(Ici().Texte));
   }

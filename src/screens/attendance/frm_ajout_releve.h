@@ -27,8 +27,6 @@ class TFrmAjoutReleve : public TFrmDialogueDe<TReleveSaisi> {
   /// "Valider": true when the dialog is closed. An empty time becomes "00:00", and the other one, if it is
   /// empty too, is asked for first.
   bool BitBtn1Click() { return Valider(); }
-  /// "Annuler"
-  void BitBtn2Click() { Annuler(); }
 
   // What was entered; for a dialog that was closed by "Valider".
   TTypePresence TypePresence() const { return static_cast<TTypePresence>(Saisi.IndexType + 1); }

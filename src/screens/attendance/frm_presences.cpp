@@ -111,9 +111,13 @@ void TfrmPresences::mnuImportationClick() {
   Annoncer();
 }
 
+QString TfrmPresences::TitreAnomalies() const {
+  return Anomalies.NombreLignes() > 0 ? u"Anomalies"_s : u"Aucune anomalie"_s;
+}
+
 QString TfrmPresences::NoteAnomalies() const {
   const int nombre = Anomalies.NombreLignes();
-  if (nombre == 0) return lu_ ? u"Aucune anomalie"_s : QString();
+  if (nombre == 0) return {};
   if (!import_.Pret())
     return Compter(nombre, u"ligne n'a pas été mémorisée"_s, u"lignes n'ont pas été mémorisées"_s);
   return Compter(nombre, u"ligne ne sera pas mémorisée tant qu'elle n'est pas corrigée"_s,

@@ -50,6 +50,8 @@ class TfrmPresences : public TForm {
   const QString& Fichier() const { return fichier_; }
   /// A file was read since the screen was opened.
   bool FichierLu() const { return lu_; }
+  QString TitreAnomalies() const;
+  /// What becomes of them; "" without any.
   QString NoteAnomalies() const;
   QString NoteRecapitulatif() const;
   /// In the place of a summary without a row.

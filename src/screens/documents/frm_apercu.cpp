@@ -384,9 +384,7 @@ QString TFrmApercu::TextePapier() const {
 }
 
 QString TFrmApercu::TexteDefauts() const {
-  const int nombre = static_cast<int>(Document().Defauts.size());
-  if (nombre == 0) return {};
-  return Compter(nombre, u"avertissement"_s, u"avertissements"_s);
+  return Compter(std::ssize(Document().Defauts), u"avertissement"_s, u"avertissements"_s, {});
 }
 
 QStringList TFrmApercu::Defauts() const {

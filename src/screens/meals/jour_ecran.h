@@ -14,6 +14,7 @@ class TJourEcran {
  public:
   void Definir(TDateTime jour) { jour_ = jour; }
   TDateTime Jour() const { return jour_; }
+  /// To the school day before, or after.
   void Reculer();
   void Avancer();
   /// "lundi 3 octobre"

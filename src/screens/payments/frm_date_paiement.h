@@ -10,8 +10,6 @@ class TFrmDatePaiement : public TFrmDialogueDe<TDatePaiement> {
  public:
   explicit TFrmDatePaiement(const TContexteEcran& contexte);
 
-  bool btnValiderClick() { return Valider(); }
-  void btnAnnulerClick() { Annuler(); }
   /// On show, today plus 7 days.
   TDateTime dtDatePaiement() const { return Saisi.Date; }
 

@@ -11,8 +11,4 @@ struct TNomProfesseur {
 class TFrmAjoutProfesseur : public TFrmDialogueDe<TNomProfesseur> {
  public:
   explicit TFrmAjoutProfesseur(const TContexteEcran& contexte);
-
-  /// "Valider": true when the dialog is closed, false when a name is missing.
-  bool btnValiderClick() { return Valider(); }
-  void btnAnnulerClick() { Annuler(); }
 };

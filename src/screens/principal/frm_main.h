@@ -100,6 +100,8 @@ class TFrmMain : public TForm, public IFenetrePrincipale, public ILienPrincipal 
   /// A step is left, and no screen in front.
   bool PremiereUtilisation() const;
   bool SansEleve() const;
+  /// In the place of the pupil tree; no title while there are pupils.
+  TVide ArbreVide() const;
   /// What stands above the steps of the first use.
   TVide Accueil() const;
   /// In the place of the screen when none is open.

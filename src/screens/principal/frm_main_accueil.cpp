@@ -40,6 +40,14 @@ bool TFrmMain::EstBureau() const { return !Globals.ModeProfesseur && !Globals.Mo
 
 bool TFrmMain::SansEleve() const { return EstRelie() && EstBureau() && Globals.Eleves->Count() == 0; }
 
+TVide TFrmMain::ArbreVide() const {
+  if (!SansEleve()) return {};
+  return {u"Aucun élève en " % AnneeEnTexte(AnneeCochee()),
+          AnneeDeTravailAffichee()
+              ? u"Importez l'export du registre SIEL pour créer les classes et les élèves."_s
+              : u"Le menu des années (Ctrl+0) montre les autres."_s};
+}
+
 TVide TFrmMain::Accueil() const {
   const QString travail = AnneeEnTexte(AnneeTravail());
   if (!SansEleve()) return {u"Année scolaire " % travail, u"Il reste à préparer cette année scolaire."_s};

@@ -123,8 +123,8 @@ void VuePresences::Actualiser() {
 
   const bool anomalies = form_.Anomalies.NombreLignes() > 0;
   titreAnomalies_->setVisible(form_.FichierLu());
-  titreAnomalies_->DefinirTexte(anomalies ? u"Anomalies"_s : form_.NoteAnomalies());
-  titreAnomalies_->DefinirNote(anomalies ? form_.NoteAnomalies() : QString());
+  titreAnomalies_->DefinirTexte(form_.TitreAnomalies());
+  titreAnomalies_->DefinirNote(form_.NoteAnomalies());
   anomalies_->setVisible(anomalies);
   corriger_->setVisible(anomalies);
   corriger_->setEnabled(form_.PeutCorriger());

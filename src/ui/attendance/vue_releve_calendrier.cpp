@@ -52,8 +52,8 @@ VueReleveCalendrier::VueReleveCalendrier(TFrmReleveCalendrier& form, QWidget* pa
 
 void VueReleveCalendrier::Actualiser() {
   QTextCharFormat marque;
-  marque.setBackground(Theme::Selection());
-  marque.setForeground(Theme::SurSelection());
+  marque.setBackground(Theme::Couleur(TRole::Selection));
+  marque.setForeground(Theme::Couleur(TRole::SurSelection));
   marque.setFontWeight(QFont::Bold);
   calendrier_->setDateTextFormat(QDate(), QTextCharFormat());
   for (const TDateTime date : form_.Marques()) calendrier_->setDateTextFormat(DateVersQt(date), marque);

@@ -1,5 +1,7 @@
 #include "ui/commun/bouton.h"
 
+#include <QStyle>
+
 #include "ui/commun/texte.h"
 #include "ui/commun/theme.h"
 
@@ -55,10 +57,11 @@ void DefinirGenre(QPushButton& bouton, TGenreBouton genre) {
   bouton.setProperty(kGenre, static_cast<int>(genre));
   const QString icone = bouton.property(kIcone).toString();
   if (!icone.isEmpty()) bouton.setIcon(Theme::Icone(icone, RoleIcone(genre)));
+  bouton.style()->unpolish(&bouton);  // the style sheet looks at it then
+  bouton.style()->polish(&bouton);
   bouton.updateGeometry();
-  bouton.update();
 }
 
-TGenreBouton GenreDe(const QWidget& bouton) {
-  return static_cast<TGenreBouton>(bouton.property(kGenre).toInt());
+TGenreBouton GenreDe(const QWidget* bouton) {
+  return bouton ? static_cast<TGenreBouton>(bouton->property(kGenre).toInt()) : TGenreBouton::Simple;
 }

@@ -23,4 +23,5 @@ QPushButton* BoutonSupprimer(const QString& nom, const QString& texte = u"Suppri
 
 /// Also when the button is shown: another step has become the next one.
 void DefinirGenre(QPushButton& bouton, TGenreBouton genre);
-TGenreBouton GenreDe(const QWidget& bouton);
+/// Simple for a button that is none of the house.
+TGenreBouton GenreDe(const QWidget* bouton);

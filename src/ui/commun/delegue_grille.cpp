@@ -12,7 +12,7 @@ namespace {
 constexpr int kHauteurLigne = 27;
 
 /// In high contrast the ground of a chosen row is the accent itself.
-bool SelectionEnAccent() { return Theme::Selection() == Theme::Couleur(TRole::Accent); }
+bool SelectionEnAccent() { return Theme::Couleur(TRole::Selection) == Theme::Couleur(TRole::Accent); }
 
 bool EstEtat(const QModelIndex& index) { return index.data(Qt::DecorationRole).isValid(); }
 
@@ -63,7 +63,7 @@ void DelegueGrille::PeindreEtat(QPainter& peintre, const QStyleOptionViewItem& o
              actif ? QIcon::Normal : QIcon::Disabled);
   place.adjust(cote + Theme::Px(4), 0, 0, -1);  // where the style puts the other texts of the row
   const bool surAccent = option.state.testFlag(QStyle::State_Selected) && SelectionEnAccent();
-  peintre.setPen(surAccent ? Theme::SurSelection()
+  peintre.setPen(surAccent ? Theme::Couleur(TRole::SurSelection)
                  : actif   ? index.data(Qt::ForegroundRole).value<QColor>()
                            : option.palette.color(QPalette::Disabled, QPalette::Text));
   peintre.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,

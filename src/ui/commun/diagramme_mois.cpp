@@ -101,11 +101,11 @@ void DiagrammeMois::paintEvent(QPaintEvent*) {
                      Theme::Couleur(TRole::Accent));
     peintre.setPen(Theme::Couleur(TRole::Texte));
     Ecrire(peintre, {colonne.x(), sommet - dessus, colonne.width(), dessus - Theme::Px(4)}, barre, Montant);
-    peintre.setPen(Theme::Secondaire());
+    peintre.setPen(Theme::Couleur(TRole::Secondaire));
     Ecrire(peintre, {colonne.x(), height() - dessous + Theme::Px(4), colonne.width(), dessous - Theme::Px(4)},
            barre, Mois);
   }
-  peintre.setPen(Theme::Bord());
+  peintre.setPen(Theme::Couleur(TRole::Bord));
   peintre.drawLine(0, zero, width(), zero);
 }
 

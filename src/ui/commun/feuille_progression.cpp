@@ -63,4 +63,6 @@ void FeuilleProgression::Arreter(const QString& titre, const QString& note) {
 
 void FeuilleProgression::Terminer() { hide(); }
 
-void FeuilleProgression::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), Theme::Selection()); }
+void FeuilleProgression::paintEvent(QPaintEvent*) {
+  QPainter(this).fillRect(rect(), Theme::Couleur(TRole::Selection));
+}

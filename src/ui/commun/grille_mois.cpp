@@ -161,7 +161,7 @@ bool GrilleMois::eventFilter(QObject* objet, QEvent* evenement) {
 void GrilleMois::paintEvent(QPaintEvent*) {
   if (!premiereTete_) return;
   QPainter peintre(this);
-  peintre.setPen(Theme::Ligne());
+  peintre.setPen(Theme::Couleur(TRole::Ligne));
   const int x = premiereTete_->x() - Theme::Px(5);
   peintre.drawLine(x, 0, x, height());
 }

@@ -317,6 +317,23 @@ bool LiaisonChamps::eventFilter(QObject* objet, QEvent* evenement) {
 
 // Forms
 
+namespace {
+
+/// Gives the widget the width of its field; its part of the row (LiaisonChamps::TPart).
+int Elargir(QWidget& widget, const TChamp& champ) {
+  const int largeur = LargeurDe(champ);
+  if (largeur <= 0) return 1;
+  if (champ.Genre != TGenreChamp::Choix) {
+    widget.setFixedWidth(Theme::Px(largeur));
+    return 0;
+  }
+  widget.setMinimumWidth(Theme::Px(kMoindreChoix));
+  widget.setMaximumWidth(Theme::Px(champ.Suite ? 160 : largeur));
+  return kPartChoix;
+}
+
+}  // namespace
+
 QLayout* CreerFormulaire(LiaisonChamps& liaison) {
   const TChamps& champs = liaison.Champs();
   auto* colonnes = new QHBoxLayout;
@@ -337,16 +354,7 @@ QLayout* CreerFormulaire(LiaisonChamps& liaison) {
     }
     std::vector<LiaisonChamps::TPart> parts;
     do {
-      const int largeur = LargeurDe(champs.Champ(champ));
-      QWidget* widget = liaison.Widget(champ);
-      const bool choix = largeur > 0 && champs.Champ(champ).Genre == TGenreChamp::Choix;
-      if (choix) {
-        widget->setMinimumWidth(Theme::Px(kMoindreChoix));
-        widget->setMaximumWidth(Theme::Px(champs.Champ(champ).Suite ? 160 : largeur));
-      } else if (largeur > 0) {
-        widget->setFixedWidth(Theme::Px(largeur));
-      }
-      parts.push_back({champ, choix ? kPartChoix : largeur > 0 ? 0 : 1});
+      parts.push_back({champ, Elargir(*liaison.Widget(champ), champs.Champ(champ))});
     } while (++champ < champs.Nombre() && champs.Champ(champ).Suite);
     const int rang = grille->rowCount();
     if (premier.Genre != TGenreChamp::Coche && !premier.Libelle.isEmpty())

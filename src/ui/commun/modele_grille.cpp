@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QVariant ApparenceBarree(int role) {
-  if (role == Qt::ForegroundRole) return Theme::Secondaire();
+  if (role == Qt::ForegroundRole) return Theme::Couleur(TRole::Secondaire);
   if (role == Qt::AccessibleDescriptionRole) return u"radié"_s;
   if (role != Qt::FontRole) return {};
   QFont police = QApplication::font();

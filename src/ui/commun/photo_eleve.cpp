@@ -58,10 +58,10 @@ void PhotoEleve::paintEvent(QPaintEvent*) {
   QPainter peintre(this);
   peintre.setRenderHint(QPainter::SmoothPixmapTransform);
   if (image_.isNull()) {
-    peintre.fillRect(rect(), underMouse() ? Theme::Survol() : palette().color(QPalette::Base));
-    peintre.setPen(QPen(Theme::Bord(), 1, Qt::DashLine));
+    peintre.fillRect(rect(), underMouse() ? Theme::Couleur(TRole::Survol) : palette().color(QPalette::Base));
+    peintre.setPen(QPen(Theme::Couleur(TRole::Bord), 1, Qt::DashLine));
     peintre.drawRect(rect().adjusted(0, 0, -1, -1));
-    peintre.setPen(Theme::Secondaire());
+    peintre.setPen(Theme::Couleur(TRole::Secondaire));
     peintre.setFont(Theme::Petite());
     const int marge = Theme::Px(4);
     peintre.drawText(rect().adjusted(marge, marge, -marge, -marge), Qt::AlignCenter | Qt::TextWordWrap,

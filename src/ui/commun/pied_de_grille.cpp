@@ -67,7 +67,7 @@ void PiedDeGrille::paintEvent(QPaintEvent*) {
                        TypographieMontant(textes[colonne]));
     }
     haut += hauteur;
-    peintre.setPen(Theme::Ligne());
+    peintre.setPen(Theme::Couleur(TRole::Ligne));
     peintre.drawLine(0, haut - 1, width(), haut - 1);
   }
 }

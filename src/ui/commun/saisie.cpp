@@ -45,7 +45,7 @@ void HabillerCalendrier(QCalendarWidget& calendrier) {
   calendrier.setFirstDayOfWeek(Qt::Monday);
   calendrier.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   QTextCharFormat repos;
-  repos.setForeground(Theme::Secondaire());
+  repos.setForeground(Theme::Couleur(TRole::Secondaire));
   calendrier.setWeekdayTextFormat(Qt::Saturday, repos);
   calendrier.setWeekdayTextFormat(Qt::Sunday, repos);
   const struct {
@@ -60,8 +60,6 @@ Saisie::Saisie(QWidget* parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::editingFinished, this, &Saisie::Terminer);
   connect(this, &QLineEdit::textEdited, this, [this] { MarquerFaute(*this, false); });
 }
-
-bool Saisie::EstValide() const { return MettreEnForme(text()).has_value(); }
 
 void Saisie::Montrer(const QString& texte) {
   setText(texte);

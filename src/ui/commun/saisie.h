@@ -15,10 +15,6 @@ void HabillerCalendrier(QCalendarWidget& calendrier);
 /// A field for one kind of value. What cannot be read stays as it was typed and is drawn as faulty.
 class Saisie : public QLineEdit {
   Q_OBJECT
- public:
-  /// Whether the text can be read; an empty one can.
-  bool EstValide() const;
-
  signals:
   /// The user left the field, or pressed Enter, with another text than before.
   void Saisi();

@@ -21,16 +21,6 @@
 
 using namespace DessinStyle;
 
-namespace {
-
-bool EstTexteLong(const QWidget* widget) {
-  return qobject_cast<const QTextEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget);
-}
-
-TGenreBouton Genre(const QWidget* bouton) { return bouton ? GenreDe(*bouton) : TGenreBouton::Simple; }
-
-}  // namespace
-
 void StyleCalpenne::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
   if (qobject_cast<QComboBox*>(widget) || qobject_cast<QAbstractSpinBox*>(widget)) {
@@ -48,22 +38,26 @@ void StyleCalpenne::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   switch (element) {
     case PE_PanelLineEdit:
       if (const auto* cadre = qstyleoption_cast<const QStyleOptionFrame*>(option);
-          cadre && cadre->lineWidth > 0)
-        Champ(*peintre, *option, widget);
-      return;
+          !cadre || cadre->lineWidth < 1)
+        return;
+      [[fallthrough]];
     case PE_FrameLineEdit:
       return Champ(*peintre, *option, widget);
     case PE_Frame:
-      if (EstTexteLong(widget)) return Champ(*peintre, *option, widget);
-      return Contour(*peintre, option->rect, Theme::Ligne());
+      if (qobject_cast<const QTextEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget))
+        return Champ(*peintre, *option, widget);
+      return Contour(*peintre, *option);
     case PE_PanelButtonCommand:
-      return Bouton(*peintre, *option, Genre(widget));
+      return Bouton(*peintre, *option, GenreDe(widget));
     case PE_PanelButtonTool:
       return Bouton(*peintre, *option,
                     option->state & State_AutoRaise ? TGenreBouton::Discret : TGenreBouton::Simple);
     case PE_FrameFocusRect:
-      // A tab's ring stands around the tab, by the style sheet; here it would strike its text through.
-      return qobject_cast<const QTabBar*>(widget) ? void() : Foyer(*peintre, *option, widget);
+      // A tab's ring stands around the tab, by the style sheet; here it would strike its text through. A
+      // button's is its outline.
+      if (!qobject_cast<const QTabBar*>(widget) && !qobject_cast<const QPushButton*>(widget))
+        Foyer(*peintre, *option, widget);
+      return;
     case PE_IndicatorCheckBox:
     case PE_IndicatorItemViewItemCheck:
       return Case(*peintre, *option);
@@ -71,22 +65,20 @@ void StyleCalpenne::drawPrimitive(PrimitiveElement element, const QStyleOption* 
       return Choix(*peintre, *option);
     case PE_IndicatorBranch:
       if (option->state & State_Children)
-        Fleche(*peintre, option->rect, option->state & State_Open ? Qt::DownArrow : Qt::RightArrow,
-               Theme::Secondaire(), 4);
+        Fleche(*peintre, *option, option->rect, option->state & State_Open ? Qt::DownArrow : Qt::RightArrow);
       return;
     case PE_PanelItemViewRow:
     case PE_PanelItemViewItem:
       return LigneDeListe(*peintre, *option, widget, element == PE_PanelItemViewRow);
     case PE_IndicatorHeaderArrow:
       if (const auto* tete = qstyleoption_cast<const QStyleOptionHeader*>(option))
-        Fleche(*peintre, option->rect,
-               tete->sortIndicator & QStyleOptionHeader::SortUp ? Qt::UpArrow : Qt::DownArrow,
-               Theme::Secondaire(), 4);
+        Fleche(*peintre, *option, option->rect,
+               tete->sortIndicator & QStyleOptionHeader::SortUp ? Qt::UpArrow : Qt::DownArrow);
       return;
     case PE_IndicatorArrowDown:
+      return Fleche(*peintre, *option, option->rect, Qt::DownArrow);
     case PE_IndicatorArrowUp:
-      return Fleche(*peintre, option->rect, element == PE_IndicatorArrowUp ? Qt::UpArrow : Qt::DownArrow,
-                    option->state & State_Enabled ? Theme::Secondaire() : CouleurTexte(*option), 4);
+      return Fleche(*peintre, *option, option->rect, Qt::UpArrow);
     default:
       QProxyStyle::drawPrimitive(element, option, peintre, widget);
   }
@@ -95,14 +87,6 @@ void StyleCalpenne::drawPrimitive(PrimitiveElement element, const QStyleOption* 
 void StyleCalpenne::drawControl(ControlElement element, const QStyleOption* option, QPainter* peintre,
                                 const QWidget* widget) const {
   switch (element) {
-    case CE_PushButtonLabel:
-      if (const auto* bouton = qstyleoption_cast<const QStyleOptionButton*>(option)) {
-        QStyleOptionButton copie = *bouton;
-        if (Genre(widget) == TGenreBouton::Principal && option->state & State_Enabled)
-          copie.palette.setColor(QPalette::ButtonText, Theme::Couleur(TRole::SurAccent));
-        return QProxyStyle::drawControl(element, &copie, peintre, widget);
-      }
-      break;
     case CE_CheckBox:
       if (const auto* boite = qstyleoption_cast<const QStyleOptionButton*>(option);
           boite && boite->text.isEmpty())
@@ -131,20 +115,16 @@ void StyleCalpenne::drawComplexControl(ComplexControl element, const QStyleOptio
         else
           Bouton(*peintre, *option, TGenreBouton::Simple);
         const QRect place = proxy()->subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
-        return Fleche(*peintre, place, Qt::DownArrow,
-                      option->state & State_Enabled ? Theme::Secondaire() : CouleurTexte(*option), 4);
+        return Fleche(*peintre, *option, place, Qt::DownArrow);
       }
       break;
     case CC_SpinBox:
-      if (const auto* nombre = qstyleoption_cast<const QStyleOptionSpinBox*>(option)) {
-        Champ(*peintre, *option, widget);
-        if (nombre->buttonSymbols == QAbstractSpinBox::NoButtons) return;
-        const QRect haut = proxy()->subControlRect(CC_SpinBox, option, SC_SpinBoxUp, widget);
-        const QRect bas = proxy()->subControlRect(CC_SpinBox, option, SC_SpinBoxDown, widget);
-        Fleche(*peintre, haut, Qt::UpArrow, CouleurTexte(*option), 3);
-        return Fleche(*peintre, bas, Qt::DownArrow, CouleurTexte(*option), 3);
-      }
-      break;
+      Champ(*peintre, *option, widget);
+      for (const auto& [quoi, sens] :
+           {std::pair{SC_SpinBoxUp, Qt::UpArrow}, std::pair{SC_SpinBoxDown, Qt::DownArrow}})
+        if (const QRect place = proxy()->subControlRect(element, option, quoi, widget); place.isValid())
+          Fleche(*peintre, *option, place, sens, 3);
+      return;
     default:
       break;
   }
@@ -152,26 +132,13 @@ void StyleCalpenne::drawComplexControl(ComplexControl element, const QStyleOptio
 }
 
 int StyleCalpenne::pixelMetric(PixelMetric mesure, const QStyleOption* option, const QWidget* widget) const {
-  static constexpr std::pair<PixelMetric, int> mesures[] = {{PM_FocusFrameHMargin, 7},
-                                                            {PM_FocusFrameVMargin, 2},
-                                                            {PM_IndicatorWidth, 16},
-                                                            {PM_IndicatorHeight, 16},
-                                                            {PM_ExclusiveIndicatorWidth, 16},
-                                                            {PM_ExclusiveIndicatorHeight, 16},
-                                                            {PM_SmallIconSize, 16},
-                                                            {PM_ButtonIconSize, 16},
-                                                            {PM_ListViewIconSize, 16},
-                                                            {PM_TabBarIconSize, 16},
-                                                            {PM_CheckBoxLabelSpacing, 7},
-                                                            {PM_RadioButtonLabelSpacing, 7},
-                                                            {PM_HeaderMargin, 8},
-                                                            {PM_HeaderMarkSize, 8},
-                                                            {PM_LayoutHorizontalSpacing, 8},
-                                                            {PM_LayoutVerticalSpacing, 8},
-                                                            {PM_ScrollView_ScrollBarSpacing, 0},
-                                                            {PM_ScrollView_ScrollBarOverlap, 0},
-                                                            {PM_ButtonShiftHorizontal, 0},
-                                                            {PM_ButtonShiftVertical, 0}};
+  static constexpr std::pair<PixelMetric, int> mesures[] = {
+      {PM_FocusFrameHMargin, 7},    {PM_FocusFrameVMargin, 2},        {PM_IndicatorWidth, 16},
+      {PM_IndicatorHeight, 16},     {PM_ExclusiveIndicatorWidth, 16}, {PM_ExclusiveIndicatorHeight, 16},
+      {PM_SmallIconSize, 16},       {PM_ButtonIconSize, 16},          {PM_ListViewIconSize, 16},
+      {PM_TabBarIconSize, 16},      {PM_CheckBoxLabelSpacing, 7},     {PM_RadioButtonLabelSpacing, 7},
+      {PM_HeaderMargin, 8},         {PM_HeaderMarkSize, 8},           {PM_LayoutHorizontalSpacing, 8},
+      {PM_LayoutVerticalSpacing, 8}};
   const auto* connue = std::ranges::find(mesures, mesure, &std::pair<PixelMetric, int>::first);
   if (connue != std::end(mesures)) return Theme::Px(connue->second);
   if (mesure == PM_DefaultFrameWidth) return qobject_cast<const QAbstractItemView*>(widget) ? 1 : 2;
@@ -188,10 +155,7 @@ int StyleCalpenne::styleHint(StyleHint conseil, const QStyleOption* option, cons
     case SH_ComboBox_Popup:
     case SH_ItemView_ActivateItemOnSingleClick:
     case SH_DialogButtonBox_ButtonsHaveIcons:
-    case SH_ScrollView_FrameOnlyAroundContents:
       return 0;
-    case SH_ItemView_ShowDecorationSelected:
-      return 1;
     default:
       return QProxyStyle::styleHint(conseil, option, widget, retour);
   }
@@ -205,7 +169,7 @@ QSize StyleCalpenne::sizeFromContents(ContentsType type, const QStyleOption* opt
                                                               {CT_ItemViewItem, 25},
                                                               {CT_HeaderSection, 31}};
   if (type == CT_PushButton) {
-    const TGenreBouton genre = Genre(widget);
+    const TGenreBouton genre = GenreDe(widget);
     const bool texte = !static_cast<const QStyleOptionButton*>(option)->text.isEmpty();
     const bool discret = genre == TGenreBouton::Discret || genre == TGenreBouton::Suppression;
     const int marge = Theme::Px(!texte ? 6 : discret ? 8 : 12);

@@ -18,69 +18,70 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct TCouleurs {
-  QColor Secondaire, Bord, Ligne, Selection, SurSelection, Survol, Succes, Alerte, Erreur, ErreurGrave;
+/// A colour as the style sheet names it, in light and in dark.
+struct TCouleur {
+  const char16_t* Nom;
+  QRgb Clair, Sombre;
+};
+
+/// In the order of TRole.
+constexpr TCouleur kCouleurs[] = {
+    {u"@Texte", 0x1A1F24, 0xE6E9ED},        {u"@Accent", 0x0B6480, 0x63B9D6},
+    {u"@SurAccent", 0xFFFFFF, 0x0C1519},    {u"@Secondaire", 0x55606B, 0xA3ADB8},
+    {u"@Succes", 0x1B6E3A, 0x6CC58B},       {u"@Alerte", 0x8A5300, 0xE3B04B},
+    {u"@ErreurGrave", 0x7A1510, 0xFFB3AD},  // further from the ground, in the dark too
+    {u"@Erreur", 0xB3261E, 0xFF9089},       {u"@Inactif", 0x7A848E, 0x7D8791},
+    {u"@Indice", 0x6B7680, 0x8A949E},       {u"@BordPale", 0xABB2B9, 0x525B64},
+    {u"@Bord", 0x7C8690, 0x727D88},         {u"@Ligne", 0xDCE0E5, 0x363D45},
+    {u"@SurSelection", 0x1A1F24, 0xE6E9ED}, {u"@Selection", 0xD5E8EF, 0x1F4453},
+    {u"@Survol", 0xE7ECF0, 0x2E353D},       {u"@Fenetre", 0xF3F5F7, 0x22272D},
+    {u"@Base", 0xFFFFFF, 0x1A1E23},         {u"@Bouton", 0xFFFFFF, 0x2D343B},
+};
+
+using TDansPalette = std::pair<QPalette::ColorRole, TRole>;
+
+constexpr TDansPalette kPalette[] = {
+    {QPalette::Window, TRole::Fenetre},
+    {QPalette::Base, TRole::Base},
+    {QPalette::AlternateBase, TRole::Fenetre},
+    {QPalette::WindowText, TRole::Texte},
+    {QPalette::Text, TRole::Texte},
+    {QPalette::ButtonText, TRole::Texte},
+    {QPalette::BrightText, TRole::Erreur},
+    {QPalette::PlaceholderText, TRole::Indice},
+    {QPalette::Button, TRole::Bouton},
+    {QPalette::Highlight, TRole::Accent},
+    {QPalette::Link, TRole::Accent},
+    {QPalette::LinkVisited, TRole::Accent},
+    {QPalette::HighlightedText, TRole::SurAccent},
+    {QPalette::Mid, TRole::Bord},
+    {QPalette::Midlight, TRole::Ligne},
+    {QPalette::Light, TRole::Ligne},
+    {QPalette::Dark, TRole::Bord},
+    {QPalette::Shadow, TRole::Bord},
+    {QPalette::ToolTipBase, TRole::Texte},
+    {QPalette::ToolTipText, TRole::Fenetre},
+};
+constexpr TDansPalette kPaletteInactive[] = {
+    {QPalette::WindowText, TRole::Inactif}, {QPalette::Text, TRole::Inactif},
+    {QPalette::ButtonText, TRole::Inactif}, {QPalette::HighlightedText, TRole::Inactif},
+    {QPalette::Highlight, TRole::Ligne},    {QPalette::Base, TRole::Fenetre},
+    {QPalette::Button, TRole::Fenetre},
 };
 
 struct TPresentation {
+  QColor& operator[](TRole role) { return Couleurs[static_cast<std::size_t>(role)]; }
   QPalette Palette;
-  TCouleurs Couleurs;
-  bool Sombre = false;
+  std::array<QColor, std::size(kCouleurs)> Couleurs;
 };
 
-QColor C(QRgb rgb) { return QColor::fromRgb(rgb); }
-
 TPresentation Presentation(bool sombre) {
-  const auto deux = [sombre](QRgb clair, QRgb fonce) { return C(sombre ? fonce : clair); };
   TPresentation p;
-  p.Sombre = sombre;
-  p.Couleurs = {
-      .Secondaire = deux(0x55606B, 0xA3ADB8),
-      .Bord = deux(0x7C8690, 0x727D88),
-      .Ligne = deux(0xDCE0E5, 0x363D45),
-      .Selection = deux(0xD5E8EF, 0x1F4453),
-      .SurSelection = deux(0x1A1F24, 0xE6E9ED),
-      .Survol = deux(0xE7ECF0, 0x2E353D),
-      .Succes = deux(0x1B6E3A, 0x6CC58B),
-      .Alerte = deux(0x8A5300, 0xE3B04B),
-      .Erreur = deux(0xB3261E, 0xFF9089),
-      .ErreurGrave = deux(0x7A1510, 0xFFB3AD),  // further from the ground, in the dark too
-  };
-  const QColor fenetre = deux(0xF3F5F7, 0x22272D), texte = deux(0x1A1F24, 0xE6E9ED);
-  const QColor accent = deux(0x0B6480, 0x63B9D6), surAccent = deux(0xFFFFFF, 0x0C1519);
-  const QColor inactif = deux(0x7A848E, 0x7D8791);
-  const struct {
-    QPalette::ColorRole Role;
-    QColor Couleur;
-  } roles[] = {
-      {QPalette::Window, fenetre},
-      {QPalette::Base, deux(0xFFFFFF, 0x1A1E23)},
-      {QPalette::AlternateBase, fenetre},
-      {QPalette::WindowText, texte},
-      {QPalette::Text, texte},
-      {QPalette::ButtonText, texte},
-      {QPalette::BrightText, p.Couleurs.Erreur},
-      {QPalette::PlaceholderText, deux(0x6B7680, 0x8A949E)},
-      {QPalette::Button, deux(0xFFFFFF, 0x2D343B)},
-      {QPalette::Highlight, accent},
-      {QPalette::Link, accent},
-      {QPalette::LinkVisited, accent},
-      {QPalette::HighlightedText, surAccent},
-      {QPalette::Mid, p.Couleurs.Bord},
-      {QPalette::Midlight, p.Couleurs.Ligne},
-      {QPalette::Light, p.Couleurs.Ligne},
-      {QPalette::Dark, p.Couleurs.Bord},
-      {QPalette::Shadow, p.Couleurs.Bord},
-      {QPalette::ToolTipBase, deux(0x1A1F24, 0xE6E9ED)},
-      {QPalette::ToolTipText, deux(0xF3F5F7, 0x22272D)},
-  };
-  for (const auto& [role, couleur] : roles) p.Palette.setColor(QPalette::All, role, couleur);
-  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    p.Palette.setColor(QPalette::Disabled, role, inactif);
-  for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button})
-    p.Palette.setColor(QPalette::Disabled, role, fenetre);
-  p.Palette.setColor(QPalette::Disabled, QPalette::Highlight, p.Couleurs.Ligne);
-  p.Palette.setColor(QPalette::Disabled, QPalette::HighlightedText, inactif);
+  std::ranges::transform(kCouleurs, p.Couleurs.begin(),
+                         [sombre](const TCouleur& c) { return QColor(sombre ? c.Sombre : c.Clair); });
+  for (const auto& [role, couleur] : kPalette) p.Palette.setColor(QPalette::All, role, p[couleur]);
+  for (const auto& [role, couleur] : kPaletteInactive)
+    p.Palette.setColor(QPalette::Disabled, role, p[couleur]);
   return p;
 }
 
@@ -89,20 +90,20 @@ TPresentation FortContraste(const QPalette& systeme) {
   TPresentation p;
   p.Palette = systeme;
   const QColor texte = systeme.color(QPalette::WindowText);
-  p.Sombre = texte.lightness() > systeme.color(QPalette::Window).lightness();
   p.Palette.setColor(QPalette::Mid, texte);
   p.Palette.setColor(QPalette::Midlight, texte);
-  p.Couleurs = {.Secondaire = texte,
-                .Bord = texte,
-                .Ligne = texte,
-                .Selection = systeme.color(QPalette::Highlight),
-                .SurSelection = systeme.color(QPalette::HighlightedText),
-                .Survol = systeme.color(QPalette::Window),
-                .Succes = texte,
-                .Alerte = texte,
-                .Erreur = texte,
-                .ErreurGrave = texte};
+  p.Couleurs.fill(texte);
+  for (const TRole fond : {TRole::Fenetre, TRole::Survol}) p[fond] = systeme.color(QPalette::Window);
+  p[TRole::Base] = systeme.color(QPalette::Base);
+  p[TRole::Bouton] = systeme.color(QPalette::Button);
+  p[TRole::Accent] = p[TRole::Selection] = systeme.color(QPalette::Highlight);
+  p[TRole::SurAccent] = p[TRole::SurSelection] = systeme.color(QPalette::HighlightedText);
+  p[TRole::Inactif] = systeme.color(QPalette::Disabled, QPalette::ButtonText);
   return p;
+}
+
+bool TexteClair(const QPalette& p) {
+  return p.color(QPalette::Window).lightness() < p.color(QPalette::WindowText).lightness();
 }
 
 /// Qt 6.4 does not say it: such palettes have one surface for all, far from the text.
@@ -112,10 +113,7 @@ bool EstFortContraste(const QPalette& p) {
          Contraste(fond, p.color(QPalette::WindowText)) >= 15.0;
 }
 
-bool& Doigt() {
-  static bool doigt = false;
-  return doigt;
-}
+bool tactile = false;
 
 TPresentation& Presente() {
   static TPresentation presentation = Presentation(false);
@@ -125,20 +123,6 @@ TPresentation& Presente() {
 /// What a style sheet gives best: the command bar with its tabs, scroll bars, progress, chosen rows. `@Nom`
 /// is a colour, `@12` a length at 10 points.
 QString Feuille() {
-  const TPresentation& p = Presente();
-  const std::pair<const char16_t*, QColor> couleurs[] = {
-      {u"@Inactif", p.Palette.color(QPalette::Disabled, QPalette::ButtonText)},
-      {u"@Texte", p.Palette.color(QPalette::ButtonText)},
-      {u"@Fenetre", p.Palette.color(QPalette::Window)},
-      {u"@Base", p.Palette.color(QPalette::Base)},
-      {u"@Accent", p.Palette.color(QPalette::Highlight)},
-      {u"@Secondaire", p.Couleurs.Secondaire},
-      {u"@SurSelection", p.Couleurs.SurSelection},
-      {u"@Selection", p.Couleurs.Selection},
-      {u"@Survol", p.Couleurs.Survol},
-      {u"@BordPale", QColor(p.Couleurs.Bord.red(), p.Couleurs.Bord.green(), p.Couleurs.Bord.blue(), 153)},
-      {u"@Bord", p.Couleurs.Bord},
-      {u"@Ligne", p.Couleurs.Ligne}};
   QString feuille =
       uR"(
 QToolButton[genre="commande"] { border: 2px solid transparent; border-radius: @4; padding: 1px @4;
@@ -153,6 +137,7 @@ QToolButton[genre="onglet"]:hover, QToolButton#annees { color: @Texte; }
 QToolButton[genre="onglet"]:checked { color: @Texte; font-weight: 600; border-bottom-color: @Accent; }
 QToolButton[genre="onglet"]:focus { border: 2px solid @Accent; border-bottom: 3px solid @Accent;
   border-radius: @4; padding: @4 @10; }
+QPushButton[genreBouton="1"]:enabled { color: @SurAccent; }
 QTabWidget::pane { border: 0; border-top: 1px solid @Ligne; }
 QTabBar { qproperty-drawBase: 0; }
 QTabBar::tab { border: 2px solid transparent; border-bottom: 3px solid transparent; padding: @2 @10;
@@ -176,8 +161,8 @@ QScrollBar::handle:horizontal { margin: @2 0; min-width: @32; }
 QScrollBar::handle:disabled, QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 )"_s;
-  for (const auto& [nom, couleur] : couleurs)
-    feuille.replace(QStringView(nom).toString(), couleur.name(QColor::HexArgb));
+  for (std::size_t i = 0; i < std::size(kCouleurs); ++i)
+    feuille.replace(QStringView(kCouleurs[i].Nom).toString(), Presente().Couleurs[i].name());
   for (const int longueur : {2, 4, 8, 10, 12, 32})
     feuille.replace(u"@%1"_s.arg(longueur), u"%1px"_s.arg(Theme::Px(longueur)));
   return feuille;
@@ -224,8 +209,7 @@ class Gardien : public QObject {
   TPresentation Choisir(const QPalette& systeme) const {
     if (mode_ != Theme::TMode::Systeme) return Presentation(mode_ == Theme::TMode::Sombre);
     if (EstFortContraste(systeme)) return FortContraste(systeme);
-    return Presentation(systeme.color(QPalette::Window).lightness() <
-                        systeme.color(QPalette::WindowText).lightness());
+    return Presentation(TexteClair(systeme));
   }
 
   /// The page scrolls instead.
@@ -308,50 +292,17 @@ void Appliquer(QApplication& application, TMode mode) {
   gardien = new Gardien(application, mode);
 }
 
-bool EstSombre() { return Presente().Sombre; }
+bool EstSombre() { return TexteClair(Presente().Palette); }
 
 int Px(int longueur) { return static_cast<int>(std::lround(longueur * Echelle())); }
 
 int CoteDoigt() { return std::max(48, Px(48)); }
 
-void DefinirTactile(bool tactile) { Doigt() = tactile; }
+void DefinirTactile(bool doigt) { tactile = doigt; }
 
-bool EstTactile() { return Doigt(); }
+bool EstTactile() { return tactile; }
 
-QColor Couleur(TRole role) {
-  switch (role) {
-    case TRole::Texte:
-      return Presente().Palette.color(QPalette::WindowText);
-    case TRole::Accent:
-      return Presente().Palette.color(QPalette::Highlight);
-    case TRole::Secondaire:
-      return Secondaire();
-    case TRole::Succes:
-      return Succes();
-    case TRole::Alerte:
-      return Alerte();
-    case TRole::Erreur:
-      return Erreur();
-    case TRole::ErreurGrave:
-      return ErreurGrave();
-    case TRole::SurAccent:
-      return Presente().Palette.color(QPalette::HighlightedText);
-  }
-  return {};
-}
-
-QColor Secondaire() { return Presente().Couleurs.Secondaire; }
-QColor Bord() { return Presente().Couleurs.Bord; }
-QColor Ligne() { return Presente().Couleurs.Ligne; }
-QColor Selection() { return Presente().Couleurs.Selection; }
-QColor SurSelection() { return Presente().Couleurs.SurSelection; }
-QColor Survol() { return Presente().Couleurs.Survol; }
-QColor Succes() { return Presente().Couleurs.Succes; }
-QColor Alerte() { return Presente().Couleurs.Alerte; }
-QColor Erreur() { return Presente().Couleurs.Erreur; }
-QColor ErreurGrave() { return Presente().Couleurs.ErreurGrave; }
-
-QPalette Palette(bool sombre) { return Presentation(sombre).Palette; }
+QColor Couleur(TRole role) { return Presente()[role]; }
 
 QFont TitreEcran() { return Police(1.6, true); }
 QFont TitreSection() { return Police(1.1, true); }

@@ -6,16 +6,29 @@
 
 class QApplication;
 
-/// What an icon or a text stands for; its colour follows from it in both palettes.
+/// What a colour stands for; it follows from that in both palettes. A name that another begins with stands
+/// behind it, as the style sheet is written with them.
 enum class TRole {
   Texte,
   Accent,      ///< screens, what is chosen
+  SurAccent,   ///< on a primary button
   Secondaire,  ///< labels, notes
   Succes,
   Alerte,
-  Erreur,
   ErreurGrave,  ///< stands out among errors
-  SurAccent,    ///< on a primary button
+  Erreur,
+  Inactif,   ///< text of what is off
+  Indice,    ///< hint in an empty field
+  BordPale,  ///< handle of a scroll bar
+  Bord,      ///< outline of fields, buttons, boxes
+  Ligne,     ///< hairlines, outline of grids
+  SurSelection,
+  Selection,  ///< chosen row, active command
+  Survol,
+  // Grounds
+  Fenetre,
+  Base,
+  Bouton,
 };
 
 /// The look of the whole program: palette, measures, fonts, icons. Colours are asked for when they
@@ -39,23 +52,10 @@ int Px(int longueur);
 int CoteDoigt();
 /// Whether a finger works the program, as on the tablet: buttons made from then on are no smaller, those of
 /// dialogs too.
-void DefinirTactile(bool tactile);
+void DefinirTactile(bool doigt);
 bool EstTactile();
 
 QColor Couleur(TRole role);
-QColor Secondaire();
-QColor Bord();       ///< outline of fields, buttons, boxes
-QColor Ligne();      ///< hairlines, outline of grids
-QColor Selection();  ///< chosen row, active command
-QColor SurSelection();
-QColor Survol();
-QColor Succes();
-QColor Alerte();
-QColor Erreur();
-QColor ErreurGrave();
-
-/// The palette of light or of dark.
-QPalette Palette(bool sombre);
 
 QFont TitreEcran();    ///< 1.6, demi-bold; a pupil's name too
 QFont TitreSection();  ///< 1.1, demi-bold

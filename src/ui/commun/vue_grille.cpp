@@ -312,7 +312,7 @@ void VueGrille::drawRow(QPainter* peintre, const QStyleOptionViewItem& option,
   const QRect ligne(0, option.rect.y(), std::max(header()->length(), viewport()->width()),
                     option.rect.height());
   if (!courant || !hasFocus()) {
-    peintre->setPen(Theme::Ligne());
+    peintre->setPen(Theme::Couleur(TRole::Ligne));
     peintre->drawLine(ligne.bottomLeft(), ligne.bottomRight());
   }
 }

@@ -11,4 +11,4 @@ Filet::Filet(Qt::Orientation sens, QWidget* parent) : QWidget(parent) {
     setFixedWidth(1);
 }
 
-void Filet::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), Theme::Ligne()); }
+void Filet::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), Theme::Couleur(TRole::Ligne)); }

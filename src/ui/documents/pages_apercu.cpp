@@ -162,7 +162,7 @@ void PagesApercu::PeindrePage(QPainter& peintre, int page, const QRect& place) {
     ::PeindrePage(form_.Document().Pages[static_cast<std::size_t>(page)], peintre);
     peintre.restore();
   }
-  peintre.setPen(Theme::Ligne());
+  peintre.setPen(Theme::Couleur(TRole::Ligne));
   peintre.setBrush(Qt::NoBrush);
   peintre.drawRect(place.adjusted(-1, -1, 0, 0));
 }

@@ -344,7 +344,7 @@ void VueApercu::RafraichirNavigateur() {
     ligne->setToolTip(0, entree.Texte);
     ligne->setText(1, u"p. " % QString::number(entree.Page + 1));
     ligne->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
-    ligne->setForeground(1, Theme::Secondaire());
+    ligne->setForeground(1, Theme::Couleur(TRole::Secondaire));
     ligne->setData(0, Qt::UserRole, static_cast<int>(i));
     if (entree.Niveau == 0) tete = ligne;
     if (entree.Niveau > 0 && tete != nullptr && !tete->isExpanded()) {

@@ -53,14 +53,15 @@ void CadreEleve::paintEvent(QPaintEvent*) {
   QPainter peintre(this);
   peintre.setRenderHint(QPainter::Antialiasing);
   const QRect cadre = rect().adjusted(2, 2, -2, -2);
-  peintre.setPen(QPen(hasFocus() ? Theme::Couleur(TRole::Accent) : Theme::Bord(), hasFocus() ? 3 : 1));
-  peintre.setBrush(servi_ ? Theme::Selection() : palette().base().color());
+  peintre.setPen(
+      QPen(hasFocus() ? Theme::Couleur(TRole::Accent) : Theme::Couleur(TRole::Bord), hasFocus() ? 3 : 1));
+  peintre.setBrush(servi_ ? Theme::Couleur(TRole::Selection) : palette().base().color());
   peintre.drawRoundedRect(cadre, 8, 8);
   const QSize taille(Theme::Px(kPhoto.width()), Theme::Px(kPhoto.height()));
   QRect photo(QPoint(cadre.center().x() - taille.width() / 2, cadre.top() + Theme::Px(8)), taille);
   if (photo_.isNull()) {
     peintre.setFont(Theme::TitreAccueil());
-    peintre.setPen(Theme::Secondaire());
+    peintre.setPen(Theme::Couleur(TRole::Secondaire));
     peintre.drawText(photo, Qt::AlignCenter, Initiales(nom_, prenom_));
   } else {
     peintre.drawPixmap(
@@ -81,6 +82,6 @@ void CadreEleve::paintEvent(QPaintEvent*) {
                    peintre.fontMetrics().elidedText(prenom_, Qt::ElideRight, ligne.width()));
   ligne.translate(0, Theme::Px(18));
   peintre.setFont(Theme::Gras());
-  peintre.setPen(servi_ ? Theme::Succes() : Theme::Secondaire());
+  peintre.setPen(servi_ ? Theme::Couleur(TRole::Succes) : Theme::Couleur(TRole::Secondaire));
   peintre.drawText(ligne, Qt::AlignCenter, servi_ ? QString(u"✓ " % statut_) : statut_);
 }

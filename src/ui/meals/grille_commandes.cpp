@@ -86,7 +86,7 @@ void GrilleCommandes::Ecrire(int ligne) {
       continue;
     }
     cellule->setTextAlignment(Qt::AlignCenter);
-    cellule->setBackground(texte.isEmpty() ? QBrush() : QBrush(Theme::Selection()));
+    cellule->setBackground(texte.isEmpty() ? QBrush() : QBrush(Theme::Couleur(TRole::Selection)));
     cellule->setData(Qt::AccessibleTextRole,
                      QString(form_.Grille.Colonne(c).Titre % (texte.isEmpty() ? u" : non" : u" : oui")));
   }

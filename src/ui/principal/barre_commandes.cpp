@@ -230,7 +230,7 @@ void BarreCommandes::ActiverPage(int rang) {
 
 void BarreCommandes::paintEvent(QPaintEvent*) {
   QPainter peintre(this);
-  peintre.setPen(Theme::Ligne());
+  peintre.setPen(Theme::Couleur(TRole::Ligne));
   const int onglets = Theme::Px(kHauteurOnglets);
   peintre.drawLine(0, onglets, width(), onglets);
   peintre.drawLine(0, height() - 1, width(), height() - 1);

@@ -53,6 +53,6 @@ QString BarreEtat::Texte() const { return etat_->Texte(); }
 
 void BarreEtat::paintEvent(QPaintEvent*) {
   QPainter peintre(this);
-  peintre.setPen(Theme::Ligne());
+  peintre.setPen(Theme::Couleur(TRole::Ligne));
   peintre.drawLine(0, 0, width(), 0);
 }

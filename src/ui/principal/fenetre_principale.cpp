@@ -31,7 +31,7 @@ class Trait : public QWidget {
   Trait() { setFixedWidth(1); }
 
  protected:
-  void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), Theme::Ligne()); }
+  void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), Theme::Couleur(TRole::Ligne)); }
 };
 
 // At 10 points. The bar asks for this width, and a screen scrolls below the height that it was laid out for;

@@ -10,7 +10,6 @@
 #include <QToolTip>
 #include <QTreeView>
 
-#include "core/mois.h"
 #include "screens/principal/frm_main.h"
 #include "ui/commun/etiquette.h"
 #include "ui/principal/modele_arbre.h"
@@ -51,7 +50,8 @@ class DelegueEleves : public QStyledItemDelegate {
     if (!droite.isEmpty()) {
       const QFont petite = Theme::Petite();
       peintre->setFont(petite);
-      peintre->setPen(actif ? Theme::Secondaire() : option.palette.color(groupe, QPalette::Text));
+      peintre->setPen(actif ? Theme::Couleur(TRole::Secondaire)
+                            : option.palette.color(groupe, QPalette::Text));
       peintre->drawText(place, Qt::AlignRight | Qt::AlignVCenter, droite);
       place.setRight(place.right() - QFontMetrics(petite).horizontalAdvance(droite) - Theme::Px(8));
     }
@@ -59,7 +59,7 @@ class DelegueEleves : public QStyledItemDelegate {
       police.setBold(true);
     police.setStrikeOut(EstBarre(index));
     peintre->setFont(police);
-    peintre->setPen(EstBarre(index) && actif ? Theme::Secondaire()
+    peintre->setPen(EstBarre(index) && actif ? Theme::Couleur(TRole::Secondaire)
                                              : option.palette.color(groupe, QPalette::Text));
     peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                       QFontMetrics(police).elidedText(texte, Qt::ElideRight, place.width()));
@@ -217,19 +217,16 @@ void PanneauEleves::SuivreSelection() {
 }
 
 void PanneauEleves::Actualiser() {
-  const bool vide = form_.SansEleve();
+  const auto [titre, phrase, bouton] = form_.ArbreVide();
+  const bool vide = !titre.isEmpty();
   const bool actif = form_.EstRelie() && !form_.EnTravail();
   recherche_->setEnabled(actif && !vide);
   arbre_->setVisible(!vide);
   arbre_->setEnabled(actif);
   sansEleve_->setVisible(vide);
   compte_->setVisible(form_.EstRelie() && !vide);
-  if (vide) {
-    vide_->setText(u"Aucun élève en " % AnneeEnTexte(form_.AnneeCochee()));
-    phrase_->setText(form_.AnneeDeTravailAffichee()
-                         ? u"Importez l'export du registre SIEL pour créer les classes et les élèves."_s
-                         : u"Le menu des années (Ctrl+0) montre les autres."_s);
-  }
+  vide_->setText(titre);
+  phrase_->setText(phrase);
   compte_->setText(form_.TexteNombres());
 }
 

@@ -75,7 +75,7 @@ class VueAccueil::Ligne : public QWidget {
     const int cote = Theme::Px(kIcone);
     Theme::Icone(etape_.Icone, etape_.Faite ? TRole::Secondaire : TRole::Accent)
         .paint(&peintre, 0, (height() - cote) / 2, cote, cote);
-    peintre.setPen(Theme::Ligne());
+    peintre.setPen(Theme::Couleur(TRole::Ligne));
     if (!premiere_) peintre.drawLine(0, 0, width(), 0);
   }
 

@@ -38,8 +38,13 @@ QStringList DuSecond(QStringList noms) {
   return noms;
 }
 
-const QString kSituation[] = {u"cb2eEnfant"_s,     u"cb3eEnfant"_s, u"cbFactureDetail"_s,
-                              u"cbParentSepare"_s, u"cbHandicap"_s, u"cbEleveRadie"_s};
+/// Its boxes, in the order of the table.
+std::vector<QWidget*> Cases(LiaisonChamps& liaison) {
+  std::vector<QWidget*> cases;
+  for (int champ = 0; champ < liaison.Champs().Nombre(); ++champ)
+    if (liaison.Champs().Champ(champ).Genre == TGenreChamp::Coche) cases.push_back(liaison.Widget(champ));
+  return cases;
+}
 
 }  // namespace
 
@@ -191,9 +196,8 @@ void FicheIdentite::AjouterSituation() {
   grille->setVerticalSpacing(Theme::Px(6));
   for (int colonne = 0; colonne < kColonnesSituation; ++colonne) grille->setColumnStretch(colonne, 1);
   int place = 0;
-  for (const QString& nom : kSituation) {
-    grille->addWidget(liaison_->Widget(nom), place / kColonnesSituation, place % kColonnesSituation,
-                      Qt::AlignLeft);
+  for (QWidget* boite : Cases(*liaison_)) {
+    grille->addWidget(boite, place / kColonnesSituation, place % kColonnesSituation, Qt::AlignLeft);
     ++place;
   }
   AjouterSection(CreerTitre(u"Situation"_s))->addLayout(grille);
@@ -234,7 +238,7 @@ void FicheIdentite::OrdonnerTab() {
   ordre.push_back(liaison_->Widget(u"edNumCompte"_s));
   ordre.push_back(comptes_);
   ordre.push_back(liaison_->Widget(u"edNomTitulaireCompte"_s));
-  for (const QString& nom : kSituation) ordre.push_back(liaison_->Widget(nom));
+  for (QWidget* boite : Cases(*liaison_)) ordre.push_back(boite);
   for (QCheckBox* boite : mois_->findChildren<QCheckBox*>()) ordre.push_back(boite);
   for (GrilleJours* jours : {jours_, activites_})
     for (QCheckBox* boite : jours->findChildren<QCheckBox*>()) ordre.push_back(boite);

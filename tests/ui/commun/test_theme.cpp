@@ -17,12 +17,12 @@ TEST(Theme, LesCouleursSeDistinguentDansLesDeuxPalettes) {
         {p.color(QPalette::ButtonText), p.color(QPalette::Button), 4.5},
         {p.color(QPalette::Link), fenetre, 4.5},
         {p.color(QPalette::HighlightedText), p.color(QPalette::Highlight), 4.5},
-        {Theme::SurSelection(), Theme::Selection(), 4.5},
-        {p.color(QPalette::Text), Theme::Survol(), 4.5},
-        {Theme::Bord(), fenetre, 3.0},
-        {Theme::Bord(), base, 3.0},
+        {Theme::Couleur(TRole::SurSelection), Theme::Couleur(TRole::Selection), 4.5},
+        {p.color(QPalette::Text), Theme::Couleur(TRole::Survol), 4.5},
+        {Theme::Couleur(TRole::Bord), fenetre, 3.0},
+        {Theme::Couleur(TRole::Bord), base, 3.0},
         {p.color(QPalette::Highlight), fenetre, 3.0},
-        {p.color(QPalette::Highlight), Theme::Selection(), 3.0},
+        {p.color(QPalette::Highlight), Theme::Couleur(TRole::Selection), 3.0},
         {p.color(QPalette::PlaceholderText), fenetre, 3.0},
         {p.color(QPalette::Disabled, QPalette::Text), fenetre, 3.0},
     };
@@ -31,8 +31,9 @@ TEST(Theme, LesCouleursSeDistinguentDansLesDeuxPalettes) {
     };
     for (const auto& [a, b, moindre] : paires) verifier(a, b, moindre);
     for (const QColor& role :
-         {Theme::Secondaire(), Theme::Succes(), Theme::Alerte(), Theme::Erreur(), Theme::ErreurGrave()})
-      for (const QColor& fond : {fenetre, Theme::Selection()}) verifier(role, fond, 4.5);
+         {Theme::Couleur(TRole::Secondaire), Theme::Couleur(TRole::Succes), Theme::Couleur(TRole::Alerte),
+          Theme::Couleur(TRole::Erreur), Theme::Couleur(TRole::ErreurGrave)})
+      for (const QColor& fond : {fenetre, Theme::Couleur(TRole::Selection)}) verifier(role, fond, 4.5);
   }
   Theme::Appliquer(*qApp, Theme::TMode::Clair);
 }

@@ -225,7 +225,8 @@ TEST_F(VuesRepas, WhoHasLessThanThreeTicketsInTheSchool) {
   const auto apparence = [&vue](int ligne, int colonne, int role) {
     return vue.model()->index(ligne, colonne).data(role);
   };
-  const QColor couleurs[] = {Theme::ErreurGrave(), Theme::Erreur(), Theme::Succes()};
+  const QColor couleurs[] = {Theme::Couleur(TRole::ErreurGrave), Theme::Couleur(TRole::Erreur),
+                             Theme::Couleur(TRole::Succes)};
   for (int i = 0; i < 3; ++i) {
     EXPECT_EQ(apparence(i, 2, Qt::ForegroundRole).value<QColor>(), couleurs[i]) << i;
     EXPECT_TRUE(apparence(i, 2, Qt::FontRole).value<QFont>().bold());
