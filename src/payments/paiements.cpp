@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "core/curseur.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -66,6 +68,14 @@ std::unique_ptr<TPaiement> TPaiements::MarqueImpaye(TPaiement& paiement) {
   impaye->Montant = paiement.Montant;
   Remove(paiement);
   return impaye;
+}
+
+bool TPaiements::EstPayeEnBase(int eleveId, int mois) const {
+  return TCurseur(Base(),
+                  u"SELECT PAIEMENT_ID FROM PAIEMENTS WHERE ELEVE_ID = ? AND ANNEE_SCOLAIRE = ? AND "
+                  "TYPE_PAIEMENT = ? AND MOIS = ?"_s,
+                  {eleveId, AnneeScolaire, kPaiementServices, mois})
+      .Suivant();
 }
 
 TPaiement* TPaiements::PaiementMois(int eleveId, int mois) const {

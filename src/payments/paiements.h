@@ -28,6 +28,9 @@ class TPaiements : public TCollection<TPaiement> {
   /// Takes a month's row out; handed back is an object of type 0 that stands for the unpaid month.
   std::unique_ptr<TPaiement> MarqueImpaye(TPaiement& paiement);
 
+  /// The table says that the services of that month are paid, be it by another workstation since the load.
+  bool EstPayeEnBase(int eleveId, int mois) const;
+
   /// The payment of the services of that month, or null. Of two, which only two workstations can make, the
   /// last one: it is its amount that counts.
   TPaiement* PaiementMois(int eleveId, int mois) const;

@@ -127,9 +127,11 @@ bool TImportVirements::Etape1(const QString& chemin) {
   Vider();
   const TAttente attente(controleur_.Dialogues());
   const auto octets = Ouvrir(chemin);
-  if (!octets || !Lire(*octets)) return false;
+  const bool lu = octets && Lire(*octets);
+  for (TRangeeVirement& rangee : rangees_)
+    Reconnaitre(rangee);  // also those before a fault, for what they are
+  if (!lu) return false;
   empreinte_ = QString::fromLatin1(QCryptographicHash::hash(*octets, QCryptographicHash::Sha256).toHex());
-  for (TRangeeVirement& rangee : rangees_) Reconnaitre(rangee);
   ReconnaitreProches();
   statut_ = u"Le fichier compte %1 mouvements."_s.arg(rangees_.size());
   return true;

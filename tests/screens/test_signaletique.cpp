@@ -170,11 +170,18 @@ TEST_F(TSignaletique, UneRangeeSupprimeeParUnAutrePoste) {
   EXPECT_TRUE(fiche.Champs().Choisir(radie, 1));
 }
 
-// Two workstations can pay one month twice: the row that counts is shown, and taken back.
+// Of a month that was paid twice the row that counts is shown, and taken back; what another workstation has
+// paid meanwhile is not paid again.
 TEST_F(TSignaletique, UnMoisPayeDeuxFois) {
   rose.mois(11, u"2"_s);
   TFrmSignaletique& fiche = Ouvrir(rose);
   EXPECT_EQ(Lignes(fiche.Frais.Grille)[5], u"Services novembre|Novembre|1,00 €|2,00 €|Payé"_s);
+  fiche.grdListeFraisCocheClick(5);
+  EXPECT_EQ(base.Rangees(u"SELECT MONTANT FROM PAIEMENTS WHERE MOIS = 11"_s), QStringList{u"1.0000"_s});
+
+  fiche.grdListeFraisCocheClick(5);
+  rose.mois(11, u"1"_s);
+  base.Dialogues.Attend(u"Un autre poste vient de marquer ce mois comme payé. Relisez les données (F5)."_s);
   fiche.grdListeFraisCocheClick(5);
   EXPECT_EQ(base.Rangees(u"SELECT MONTANT FROM PAIEMENTS WHERE MOIS = 11"_s), QStringList{u"1.0000"_s});
 }

@@ -309,7 +309,7 @@ TEST_F(FrmVirement, TheTwoStepsOfAFile) {
   Etape1(bonne + "x;05/10/2016;;;BE68;SUITE;;;;;dix;EUR;;;\n", u"Ligne 15 : « dix » n'est pas un montant"_s);
   EXPECT_FALSE(Form->Etape2Active());
   EXPECT_EQ(Form->Apercu.Texte(1, TFrmVirement::Montant), u"dix");
-  EXPECT_EQ(Form->Apercu.Textes(1).last(), u"Illisible");
+  EXPECT_EQ(Form->Apercu.Textes(0).last() % u", " % Form->Apercu.Textes(1).last(), u"Nouveau, Illisible");
   EXPECT_EQ(Form->EnSuspens(), QString());
 
   Etape1(bonne + bonne);

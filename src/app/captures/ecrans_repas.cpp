@@ -1,5 +1,6 @@
 // Meals and the tablet.
 #include <QTableWidget>
+#include <QTextStream>
 
 #include "app/captures/photographe.h"
 #include "screens/meals/frm_comptabilite.h"
@@ -61,6 +62,21 @@ void Photographe::CommandeIncomplete(TFrmReservation& form) {
   form.grdEleveClickCell(ligne, kDago);
 }
 
+void Photographe::TransfertDeTicket(TFrmTicket& form) {
+  constexpr int kTicket = 1;  // below the day on which it was sold
+  if (form.Detail.NombreLignes() <= kTicket) {
+    QTextStream(stderr) << "« tickets-transfert » n'est pas prise : " << form.NomEleve()
+                        << " n'a pas de ticket.\n";
+    return;
+  }
+  form.Detail.ChoisirLigne(kTicket);
+  Suivre({[this](QWidget& fenetre) {
+    fenetre.findChild<VueGrille*>()->Grille().ChoisirLigne(2);
+    return Photo(u"tickets-transfert"_s)(fenetre);
+  }});
+  form.AdvGlowButton3Click();
+}
+
 void Photographe::Repas() {
   using enum TGestionnaire;
   TFrmMain& main = programme_.Main;
@@ -73,12 +89,7 @@ void Photographe::Repas() {
   Prendre(u"tickets-detail"_s);
   Suivre({Photo(u"tickets-vente"_s)});
   tickets.btnEtape1Click();
-  tickets.Detail.ChoisirLigne(1);
-  Suivre({[this](QWidget& fenetre) {
-    fenetre.findChild<VueGrille*>()->Grille().ChoisirLigne(2);
-    return Photo(u"tickets-transfert"_s)(fenetre);
-  }});
-  tickets.AdvGlowButton3Click();
+  TransfertDeTicket(tickets);
   tickets.ChoisirPage(2);
   Prendre(u"tickets-sous-trois"_s);
   int classe = 0;  // several sites name theirs behind the class

@@ -9,6 +9,7 @@
 using namespace Qt::StringLiterals;
 
 class TFrmReservation;
+class TFrmTicket;
 class TFrmVirement;
 
 /// What the pictures are taken of.
@@ -83,6 +84,8 @@ class Photographe : public QObject {
   /// Tickets, orders, kitchen, accounts and sales.
   void Repas();
   void CommandeIncomplete(TFrmReservation& form);
+  /// Of a pupil without one there is no picture, which is told.
+  void TransfertDeTicket(TFrmTicket& form);
   /// The three pages, the attribution of what is unknown, and the accounts that the record learns from it.
   void Virements();
   /// The last unknown payment, between two pupils of the year.

@@ -165,6 +165,7 @@ class TFrmSignaletique : public TForm {
   void AjouterLigne(std::unique_ptr<TFraisEleve> ligne, const QString& fait);
   void Offrir(const QString& supprime, std::function<void()> retour);
   void BasculerMois(TPaiement& mois);
+  void PayerMois(std::unique_ptr<TPaiement> mois, const QString& quoi);
   void BasculerFrais(TFraisEleve& frais);
   void Signaler(const QString& texte) const;
   void LirePhoto(const TEleve& eleve);

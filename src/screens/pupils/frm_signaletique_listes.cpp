@@ -2,9 +2,11 @@
 #include "core/exceptions.h"
 #include "core/formats.h"
 #include "core/mois.h"
+#include "core/transaction_commune.h"
 #include "documents/accueil_extrascolaire.h"
 #include "payments/paiements.h"
 #include "pupils/eleves.h"
+#include "pupils/reserver.h"
 #include "screens/attendance/frm_ajout_releve.h"
 #include "screens/attendance/frm_releve_calendrier.h"
 #include "screens/payments/frm_paiement.h"
@@ -221,13 +223,31 @@ void TFrmSignaletique::grdListeFraisCocheClick(int ligne) {
 void TFrmSignaletique::BasculerMois(TPaiement& mois) {
   TPaiements& paiements = *Globals.Paiements;
   const QString quoi = u"Services " % NomMoisCourant(mois.Mois);
-  if (mois.TypePaiement != 0) {
-    Frais.Grille.ChoisirLigne(-1);
-    paiements.MarqueImpaye(mois);
-  } else if (auto impaye = Frais.PrendreImpaye(mois)) {
-    paiements.MarquePaye(std::move(impaye));
-  }
+  if (auto impaye = Frais.PrendreImpaye(mois)) return PayerMois(std::move(impaye), quoi);
+  Frais.Grille.ChoisirLigne(-1);
+  paiements.MarqueImpaye(mois);
   Enregistrer(paiements, quoi);
+}
+
+// Marked on two workstations, a month would be paid twice.
+void TFrmSignaletique::PayerMois(std::unique_ptr<TPaiement> mois, const QString& quoi) {
+  TPaiements& paiements = *Globals.Paiements;
+  TPaiement* ecrit = nullptr;
+  try {
+    TTransactionCommune ensemble(contexte_.Controleur.Base());
+    Reserver(*Globals.EleveCourant);
+    if (paiements.EstPayeEnBase(mois->EleveId, mois->Mois))
+      throw Exception(u"Un autre poste vient de marquer ce mois comme payé. Relisez les données (F5)."_s);
+    TPaiement* const paye = paiements.MarquePaye(std::move(mois));
+    paiements.Save();
+    ecrit = paye;
+    ensemble.Valider();
+    DireEnregistre(quoi);
+  } catch (const Exception& e) {
+    if (ecrit != nullptr) paiements.Forget(*ecrit);  // it came to nothing
+    paiements.Remettre();
+    DireNonEnregistre(e);
+  }
 }
 
 void TFrmSignaletique::BasculerFrais(TFraisEleve& frais) {

@@ -99,6 +99,10 @@ void GrilleCommandes::Changer(int ligne, int, int ligneAvant, int colonneAvant) 
   enCours_ = true;
   setCurrentCell(ligneAvant, colonneAvant);
   enCours_ = false;
+  // Whatever moved there selects it afterwards.
+  QMetaObject::invokeMethod(
+      this, [this] { selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect); },
+      Qt::QueuedConnection);
 }
 
 // A click on another row has already moved there, or been refused.

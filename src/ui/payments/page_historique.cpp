@@ -40,8 +40,12 @@ QPushButton* PageHistorique::CreerFiltreEtat(const QString& texte, const QString
   QPushButton* bouton = BoutonSimple(texte);
   bouton->setObjectName(nom);
   bouton->setCheckable(true);
+  bouton->setFocusPolicy(Qt::TabFocus);  // its mnemonic leaves the hand in the list
   bouton->setToolTip(QString(u"Enfoncé, montre les mouvements " % QString(texte).remove(u'&').toLower()));
-  connect(bouton, &QPushButton::clicked, this, [this, faire] { std::invoke(faire, form_); });
+  connect(bouton, &QPushButton::clicked, this, [this, faire] {
+    std::invoke(faire, form_);
+    if (grille_->hasFocus()) PrendreFoyer();  // the row in hand may be gone
+  });
   return bouton;
 }
 

@@ -182,6 +182,7 @@ TEST_F(VuesRepas, AClassIsOrderedByKeyboardIntoTheLockAndOut) {
   Programme.Dialogues.Attend("Attention le choix du sandwich est incomplet !");
   Touche(Qt::Key_Down);
   EXPECT_EQ(grille.currentRow(), 0);
+  EXPECT_TRUE(grille.item(0, 1)->isSelected()) << "what is chosen stays with the hand";
   Aller(grille);
   Frapper("JB");
   EXPECT_TRUE(Nomme<QComboBox>("Classe").isEnabled());

@@ -83,7 +83,7 @@ TEST_F(Virements, FromTheFileToTheRecordAndBack) {
   Touche(Qt::Key_Tab, Qt::ControlModifier);
   Alt(Qt::Key_C, [this] { return Form().Historique.NombreLignes() == 4; });  // the unknown ones are left
   auto& liste = Nomme<VueGrille>(u"Mouvements de l'année"_s);
-  liste.setFocus();
+  EXPECT_TRUE(liste.hasFocus() && Form().Historique.LigneCourante() == 0) << "the hand stays in the list";
   liste.sortByColumn(TFrmVirement::Donneur, Qt::DescendingOrder);
   Touche(Qt::Key_Home);
   Programme.Dialogues.Fait(kAttribution, [](QWidget& dialogue) {
