@@ -82,10 +82,8 @@ class TProgrammeEssai : public testing::Test {
   }
 
   QJsonObject Json() const {
-    QFile fichier(Chemin("document.json"));
-    EXPECT_TRUE(fichier.open(QIODevice::ReadOnly));
     QJsonParseError faute;
-    const QJsonDocument json = QJsonDocument::fromJson(fichier.readAll(), &faute);
+    const QJsonDocument json = QJsonDocument::fromJson(LireFichier(Chemin("document.json")), &faute);
     EXPECT_EQ(faute.error, QJsonParseError::NoError) << faute.errorString().toStdString();
     return json.object();
   }

@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int kEleves = 30;
-constexpr int kMortsTransfert = 40, kMortsRepas = 56;  // 100 with those of the window
+constexpr int kMortsTransfert = 40, kMortsRepas = 60;
 
 /// So many times the program is killed; CALPENNE_MORTS asks for more.
 int Morts(int moindre) { return qMax(moindre, qEnvironmentVariableIntValue("CALPENNE_MORTS")); }

@@ -3,6 +3,7 @@
 #include <QJsonArray>
 
 #include "lot_essai.h"
+#include "support/fichier_camt.h"
 #include "support/fichier_registre.h"
 
 namespace {
@@ -173,16 +174,16 @@ TEST_F(TLotEssai, TheBank) {
 }
 
 TEST_F(TLotEssai, ADryStatement) {
-  const QString camt =
-      u"<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.08'><BkToCstmrStmt><Stmt><Id>1</Id>"
-      "<Bal><Tp><CdOrPrtry><Cd>OPBD</Cd></CdOrPrtry></Tp><Amt "
-      "Ccy='EUR'>5</Amt><CdtDbtInd>CRDT</CdtDbtInd></Bal>"
-      "<Bal><Tp><CdOrPrtry><Cd>CLBD</Cd></CdOrPrtry></Tp><Amt "
-      "Ccy='EUR'>%1</Amt><CdtDbtInd>%2</CdtDbtInd></Bal>"
-      "<Ntry><Amt Ccy='EUR'>12.5</Amt><CdtDbtInd>DBIT</CdtDbtInd><ValDt><Dt>2016-10-05</Dt></ValDt>"
-      "<AddtlNtryInf>000011016166</AddtlNtryInf></Ntry></Stmt></BkToCstmrStmt></Document>"_s;
-  const QString juste = Fichier("juste.xml", camt.arg("7.5", "DBIT").toUtf8());
-  const QString faux = Fichier("faux.xml", camt.arg("1", "CRDT").toUtf8());
+  using namespace FichierCamt;
+  const auto releve = [](const QString& nouveau, const QString& sens) {
+    return Camt(Releve(1, {},
+                       Solde("OPBD", "5") + Solde("CLBD", nouveau, sens) +
+                           Ecriture("12.5", "DBIT",
+                                    Valeur("2016-10-05") + "<AddtlNtryInf>000011016166</AddtlNtryInf>")),
+                "08");
+  };
+  const QString juste = Fichier("juste.xml", releve("7.5", "DBIT"));
+  const QString faux = Fichier("faux.xml", releve("1", "CRDT"));
   const QString lues =
       "date;montant;compte;donneur;communication\n2016-10-05;-12.5000;;;+++000/0110/16166+++\n";
   const auto sec = [](const QString& fichier, const char* options) {

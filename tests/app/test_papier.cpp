@@ -132,8 +132,7 @@ TEST_F(TCodesEssai, LesModelesDuPoste) {
   const QDir dossier(qEnvironmentVariable("XDG_DATA_HOME") + u"/Calpenne/Presences/modeles"_s);
   ASSERT_TRUE(QDir().mkpath(dossier.path()));
   const auto ecrire = [&](const QString& nom, const QString& texte) {
-    QFile fichier(dossier.filePath(nom));
-    EXPECT_TRUE(fichier.open(QIODevice::WriteOnly) && fichier.write(texte.toUtf8()) > 0);
+    EcrireFichier(dossier.filePath(nom), texte.toUtf8());
   };
   ecrire(
       "carte_eleve.xml",

@@ -1,6 +1,8 @@
 #include <QDirIterator>
 #include <QRegularExpression>
 
+#include "core/fichiers.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -10,10 +12,7 @@ QString SansBlancs(const QString& texte) {
   return QString(texte).remove(blancs);
 }
 
-QString Contenu(const QString& chemin) {
-  QFile fichier(chemin);
-  return fichier.open(QIODevice::ReadOnly) ? QString::fromUtf8(fichier.readAll()) : QString();
-}
+QString Contenu(const QString& chemin) { return QString::fromUtf8(LireFichier(chemin)); }
 
 }  // namespace
 

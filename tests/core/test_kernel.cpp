@@ -17,9 +17,8 @@ constexpr TColonne<TGroupe> kColonnes[] = {Colonne::Texte<&TGroupe::Libelle>("LI
 /// A small collection with a counter and an index, over a real table.
 class TGroupes : public TCollection<TGroupe> {
  public:
-  explicit TGroupes(TDataModule1& base, QString compteur = "GROUPE_FRAIS", bool parLibelle = false)
+  explicit TGroupes(TDataModule1& base, QString compteur = "GROUPE_FRAIS")
       : TCollection(base), compteur_(std::move(compteur)) {
-    OrdreDuSelect = parLibelle;
     Charger();
   }
   TGroupe* Par(const QString& libelle) const { return parLibelle_.Premier(libelle); }
@@ -27,7 +26,7 @@ class TGroupes : public TCollection<TGroupe> {
 
  protected:
   void DefineQuery() override {
-    SelectSql = u"SELECT * FROM GROUPE_FRAIS ORDER BY "_s + (OrdreDuSelect ? u"LIBELLE" : u"GROUPE_FRAIS_ID");
+    SelectSql = "SELECT * FROM GROUPE_FRAIS ORDER BY GROUPE_FRAIS_ID";
     TableName = "GROUPE_FRAIS";
     KeyField = "GROUPE_FRAIS_ID";
     CounterName = compteur_;
@@ -145,41 +144,27 @@ TEST(Kernel, ARefusedSaveIsPutBackAndTheNextRowIsSaved) {
 
   TGroupe& b = *groupes.Par("b");
   groupes.Remove(b);  // still used
-  TGroupe& c = *groupes.Par("c");
-  c.Libelle = "C";
-  groupes.Add(c);
+  for (const char* libelle : {"a", "c"}) {
+    TGroupe& groupe = *groupes.Par(libelle);
+    groupe.Libelle = "changé";
+    groupes.Add(groupe);
+  }
   groupes.Add(Groupe("nouveau"));
   EXPECT_THROW(groupes.Save(), EDistributor);
   EXPECT_THROW(groupes.Save(), EDistributor) << "what was refused is refused again";
 
+  base.Sql("DELETE FROM GROUPE_FRAIS WHERE LIBELLE = 'a'");  // by another workstation
+  base.Sql("UPDATE GROUPE_FRAIS SET LIBELLE = 'autre' WHERE LIBELLE = 'c'");
   groupes.Remettre();
-  EXPECT_EQ(Libelles(groupes), u"a b c d")
-      << "in its place, with the values of the rows, without the new one";
-  EXPECT_EQ(groupes.Par("C"), nullptr);
+  EXPECT_EQ(Libelles(groupes), u"b autre d")
+      << "in its place, with the values of the rows, without the new one and the one that has gone";
+  EXPECT_EQ(groupes.Par("changé"), nullptr);
   EXPECT_EQ(groupes.ParCle(2), &b);
   TGroupe& d = *groupes.ParCle(4);
   d.Libelle = "D";
   groupes.Add(d);
   groupes.Save();
-  EXPECT_EQ(base.Rangees(kRangees), (QStringList{"1;a", "2;b", "3;c", "4;D"}));
-}
-
-TEST(Kernel, TheOrderOfTheSelectComesBackAfterEachSave) {
-  TBaseEssai base;
-  TGroupes groupes(*base, "GROUPE_FRAIS", true);
-  for (const char* libelle : {"m", "z", "a"}) groupes.Add(Groupe(libelle));
-  groupes.Save();
-  EXPECT_EQ(Libelles(groupes), u"a m z");
-  TGroupe& z = *groupes.Par("z");
-  z.Libelle = "b";
-  groupes.Add(z);
-  groupes.Save();
-  EXPECT_EQ(Libelles(groupes), u"a b m");
-  EXPECT_EQ(groupes.Par("b"), &z);
-  EXPECT_TRUE(groupes.Contains(z));
-  groupes.Remove(groupes[0]);
-  groupes.Save();
-  EXPECT_EQ(Libelles(groupes), u"b m");
+  EXPECT_EQ(base.Rangees(kRangees), (QStringList{"2;b", "3;autre", "4;D"}));
 }
 
 TEST(Kernel, TwoSavesInOneTransactionHoldTogetherOrNotAtAll) {

@@ -26,9 +26,6 @@ struct TPoste {
   std::unique_ptr<TParametres> parametres;
 };
 
-/// The value that a workstation loading now would see; "" without a row.
-QString Relu(TDataModule1& base, int id) { return TParametres(base).GetParametre(TParam{id}); }
-
 QString MessageDeConnexion(const QString& serveur) {
   return Refus([&] { TPoste poste(serveur); });
 }
@@ -64,62 +61,6 @@ TEST(Serveur, EightProcessesTakeDistinctKeysWithoutAGap) {
   ASSERT_EQ(kPostes * kClesParPoste, static_cast<int>(cles.size()));
   for (std::size_t i = 0; i < cles.size(); ++i) ASSERT_EQ(avant + 1 + static_cast<int>(i), cles[i]);
   EXPECT_EQ(cles.back() + 1, temoin.base.GetNextId(u"ELEVES"_s));
-}
-
-TEST(Serveur, TheLastWriterWins) {
-  const TServeurFirebird serveur;
-  TPoste a(serveur.Nom());
-  a.parametres->SetParametre(TParam{901}, u"départ"_s);
-  a.parametres->Save();
-  TPoste b(serveur.Nom());
-  ASSERT_EQ(u"départ"_s, b.parametres->GetParametre(TParam{901})) << "an insertion is seen by the next load";
-
-  a.parametres->SetParametre(TParam{901}, u"de A"_s);
-  b.parametres->SetParametre(TParam{901}, u"de B"_s);
-  b.parametres->Save();
-  a.parametres->Save();
-  EXPECT_EQ(u"de A"_s, Relu(b.base, 901));
-  EXPECT_EQ(u"de B"_s, b.parametres->GetParametre(TParam{901}))
-      << "a loaded collection does not change by itself";
-
-  b.parametres->SetParametre(TParam{901}, u"de B encore"_s);
-  b.parametres->Save();
-  EXPECT_EQ(u"de B encore"_s, Relu(a.base, 901));
-}
-
-TEST(Serveur, ARowThatHasGoneStaysModifiedAndHarmsNothing) {
-  const TServeurFirebird serveur;
-  TPoste a(serveur.Nom());
-  for (int id : {901, 902}) a.parametres->SetParametre(TParam{id}, u"départ"_s);
-  a.parametres->Save();
-  TPoste b(serveur.Nom());
-
-  a.parametres->Remove(*a.parametres->FindParametre(TParam{901}));
-  a.parametres->Save();
-  b.parametres->SetParametre(TParam{901}, u"perdu"_s);
-  b.parametres->SetParametre(TParam{902}, u"gardé"_s);
-  EXPECT_TRUE(b.parametres->Save());
-
-  EXPECT_EQ(TStatus::Modifie, b.parametres->FindParametre(TParam{901})->Status);
-  EXPECT_EQ(TStatus::Inchange, b.parametres->FindParametre(TParam{902})->Status);
-  EXPECT_EQ(nullptr, TParametres(a.base).FindParametre(TParam{901}));
-  EXPECT_EQ(u"gardé"_s, Relu(a.base, 902)) << "the save went on behind the missing row";
-
-  EXPECT_EQ(b.parametres->RangeesDisparues(),
-            std::vector<TParametre*>{b.parametres->FindParametre(TParam{901})})
-      << "and can be told";
-  b.parametres->Remove(*b.parametres->FindParametre(TParam{902}));
-  a.parametres = std::make_unique<TParametres>(a.base);
-  a.parametres->SetParametre(TParam{902}, u"de A"_s);
-  a.parametres->Save();
-  b.parametres->Remettre();
-  EXPECT_EQ(nullptr, b.parametres->FindParametre(TParam{901})) << "what has gone leaves memory too";
-  EXPECT_EQ(u"de A"_s, b.parametres->GetParametre(TParam{902})) << "what comes back is what the table holds";
-
-  a.parametres->Remove(*a.parametres->FindParametre(TParam{902}));
-  a.parametres->Save();
-  b.parametres->Remove(*b.parametres->FindParametre(TParam{902}));
-  EXPECT_TRUE(b.parametres->Save()) << "deleting a row that the other one has deleted";
 }
 
 TEST(Serveur, AReadingThatStaysPreparedSeesTheOthersAndKeepsNobodyWaiting) {
@@ -161,14 +102,4 @@ TEST(Serveur, AFailedConnectionIsToldInFrench) {
   EXPECT_TRUE(refus.startsWith(u"Le serveur de données refuse l'utilisateur du programme."_s))
       << refus.toStdString();
   EXPECT_FALSE(refus.contains(u"corvusnet"_s));
-}
-
-TEST(Serveur, AServerThatDiesIsToldAndLosesNoStatus) {
-  auto serveur = std::make_unique<TServeurFirebird>();
-  TPoste poste(serveur->Nom());
-  poste.parametres->SetParametre(TParam{901}, u"jamais écrit"_s);
-  serveur.reset();
-  const QString dit = Refus<EDistributor>([&] { poste.parametres->Save(); });
-  EXPECT_TRUE(dit.startsWith(u"La liaison avec le serveur de données est coupée."_s)) << dit.toStdString();
-  EXPECT_EQ(TStatus::Nouveau, poste.parametres->FindParametre(TParam{901})->Status);
 }

@@ -50,9 +50,7 @@ TEST_F(TStatistiquesEssai, QuiDoitEtQuiAPayeTrop) {
   Charger();
   const QString chemin = base.Chemin(u"export.csv"_s);
   ExporterImpayes(::Impayes(*Globals.Eleves, {}), chemin);
-  QFile fichier(chemin);
-  ASSERT_TRUE(fichier.open(QIODevice::ReadOnly));
-  const QByteArray octets = fichier.readAll();
+  const QByteArray octets = LireFichier(chemin);
   EXPECT_TRUE(octets.startsWith("\xEF\xBB\xBF"));
   EXPECT_EQ(QString::fromUtf8(octets),
             u"Matricule;Nom;Prénom;Classe;Montant;Nom du responsable;Prénom du responsable;Adresse;"

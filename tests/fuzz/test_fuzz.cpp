@@ -1,18 +1,10 @@
 #include "core/data_set.h"
 #include "fuzz/alterer.h"
 #include "fuzz/cibles.h"
-#include "support/fichier_coda.h"
+#include "support/fichier_camt.h"
+#include "support/fichier_registre.h"
 
 namespace {
-
-QByteArray RegistreValide() {
-  QByteArray texte = "entete\r\n";
-  for (int i = 1; i < 12; ++i)
-    texte += "x;S1;1-" + QByteArray::number(i) +
-             ";Nom;Zoé;x;20100228;;;;;;Rue;=\"12\";1300;Wavre;2016/09/"
-             "01;P1;A;;;;Père;;;;;;;;;;;;Mère;;;;;;;Rue;7;1300;Namur\r\n";
-  return texte;
-}
 
 /// A group of two payments, with a whole name and a text of three records.
 QByteArray CodaValide() {
@@ -30,23 +22,16 @@ QByteArray CodaValide() {
 }
 
 QByteArray CamtValide() {
-  const QByteArray solde =
-      "<Bal><Tp><CdOrPrtry><Cd>%</Cd></CdOrPrtry></Tp><Amt Ccy='EUR'>#</Amt><CdtDbtInd>CRDT</CdtDbtInd>"
-      "<Dt><Dt>2016-10-05</Dt></Dt></Bal>";
-  const QByteArray detail =
-      "<TxDtls><AmtDtls><TxAmt><Amt "
-      "Ccy='EUR'>1.50</Amt></TxAmt></AmtDtls><RltdPties><Dbtr><Nm>Zo\xC3\xA9</Nm>"
-      "</Dbtr><DbtrAcct><Id><IBAN>BE68539007547034</IBAN></Id></DbtrAcct></"
-      "RltdPties><RmtInf><Strd><CdtrRefInf>"
-      "<Tp><Issr>BBA</Issr></Tp><Ref>001231016185</Ref></CdtrRefInf></Strd><Ustrd>libre</Ustrd></RmtInf>"
-      "</TxDtls>";
-  return "<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.02'><BkToCstmrStmt><Stmt><Id>S</Id>"
-         "<Acct><Id><IBAN>BE33</IBAN></Id></Acct>" +
-         QByteArray(solde).replace('%', "OPBD").replace('#', "5") +
-         QByteArray(solde).replace('%', "CLBD").replace('#', "8") +
-         "<Ntry><Amt Ccy='EUR'>3</Amt><CdtDbtInd>CRDT</CdtDbtInd><Sts>BOOK</Sts><BookgDt><Dt>2016-10-06</Dt>"
-         "</BookgDt><ValDt><DtTm>2016-10-05T23:59:00</DtTm></ValDt><NtryDtls>" +
-         detail + detail + "</NtryDtls></Ntry></Stmt></BkToCstmrStmt></Document>";
+  using namespace FichierCamt;
+  const QString reference =
+      "<Strd><CdtrRefInf><Tp><Issr>BBA</Issr></Tp><Ref>001231016185</Ref></CdtrRefInf></Strd>";
+  const QString detail = "<AmtDtls><TxAmt><Amt Ccy='EUR'>1.50</Amt></TxAmt></AmtDtls>" +
+                         Detail("Zoé", "BE68539007547034", reference + Libre("libre"));
+  const QString dates =
+      "<Sts>BOOK</Sts><BookgDt><Dt>2016-10-06</Dt></BookgDt><ValDt><DtTm>2016-10-05T23:59:00</DtTm></ValDt>";
+  return Camt(Releve(7, "BE33",
+                     Solde("OPBD", "5") + Solde("CLBD", "8") +
+                         Ecriture("3", "CRDT", dates + Details(detail + "</TxDtls><TxDtls>" + detail))));
 }
 
 }  // namespace
@@ -54,8 +39,9 @@ QByteArray CamtValide() {
 TEST(Fuzz, RegisterReader) {
   TCibles cibles;
   std::mt19937 tirage(27);
-  cibles.Registre(RegistreValide());
-  for (int i = 0; i < 300; ++i) cibles.Registre(Alterer(RegistreValide(), tirage));
+  const QByteArray valide = TFichierRegistre(1, 11).EnOctets();
+  cibles.Registre(valide);
+  for (int i = 0; i < 300; ++i) cibles.Registre(Alterer(valide, tirage));
 }
 
 TEST(Fuzz, ScannerReader) {

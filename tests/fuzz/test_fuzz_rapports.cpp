@@ -79,9 +79,7 @@ TEST(Fuzz, LabelReader) {
   int lus = 0;
   for (const QFileInfo& fichier :
        QDir(QCoreApplication::applicationDirPath()).entryInfoList({u"*.label"_s})) {
-    QFile lu(fichier.filePath());
-    ASSERT_TRUE(lu.open(QIODevice::ReadOnly));
-    const QByteArray modele = lu.readAll();
+    const QByteArray modele = LireFichier(fichier.filePath());
     ASSERT_TRUE(cibles.Etiquette(modele)) << fichier.fileName().toStdString();
     for (int i = 0; i < 2000; ++i) lus += cibles.Etiquette(AltererLignes(modele, tirage)) ? 1 : 0;
     for (int i = 0; i < 500; ++i) cibles.Etiquette(Alterer(modele, tirage));

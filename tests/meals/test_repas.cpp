@@ -127,28 +127,13 @@ TEST(Commande, ColumnsAndCompleteness) {
 TEST_F(TRepasEssai, OrdersOfADay) {
   ecole.Ajouter(u"COMMANDE"_s, u"COMMANDE_ID, ELEVE_ID, DATE_COMMANDE, FLG_REPAS, FLG_DAGO"_s,
                 {u"1"_s, u"'2016-09-05'"_s, u"2"_s, u"1"_s});
-  TCommandes ici(*base), ailleurs(*base);
+  TCommandes ici(*base);
   TCommande* lue = ici.Trouver(1, Sept(5));
   ASSERT_NE(lue, nullptr);
   EXPECT_FALSE(lue->FlgRepas);  // true only at 1
   EXPECT_TRUE(lue->FlgDago);
   EXPECT_EQ(ici.Trouver(1, Sept(6)), nullptr);
   EXPECT_EQ(ici.Periode({Sept(1), Sept(30)}).size(), 1u);
-
-  const auto commander = [](TCommandes& commandes, bool TCommande::*flag) {
-    TCommande& c = commandes.Add(std::make_unique<TCommande>());
-    c.EleveId = 1;
-    c.DateCommande = Sept(6);
-    c.*flag = true;
-    return commandes.Enregistrer(commandes.Add(c));
-  };
-  EXPECT_EQ(ailleurs.Trouver(1, Sept(6)), nullptr);
-  EXPECT_EQ(commander(ailleurs, &TCommande::FlgSandwich), nullptr);
-  const TCommande* autre = commander(ici, &TCommande::FlgRepas);
-  ASSERT_NE(autre, nullptr);
-  EXPECT_EQ(autre, ici.Trouver(1, Sept(6)));
-  EXPECT_TRUE(autre->FlgSandwich && !autre->FlgRepas);
-  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM COMMANDE"_s), u"2");
 }
 
 TEST_F(TRepasEssai, CashTakesThePlaceOfWhatWasCountedThatDay) {

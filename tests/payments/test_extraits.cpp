@@ -67,23 +67,3 @@ TEST(Extraits, TheSameMovement) {
   extraits.Add(premier);
   EXPECT_EQ(trouve([](TExtrait&) {}), &extraits[1]) << "the next one";
 }
-
-TEST(Extraits, FromYearToYear) {
-  TBaseEssai base;
-  TExtraits extraits(*base, 2017);
-  TExtrait& extrait = extraits.Add(Extrait());
-  extraits.Save();
-  extraits.Deplacer(extrait, 2016);
-  EXPECT_EQ(extraits.Count(), 0);
-  EXPECT_EQ(base.Valeur(u"SELECT ANNEE_SCOLAIRE FROM EXTRAITS"_s), u"2016");
-  const TExtrait* avant = extraits.IdentiqueAnneePrecedente(*Extrait());
-  ASSERT_NE(avant, nullptr);
-  EXPECT_TRUE(avant->DeAnneePrecedente);
-  EXPECT_EQ(extraits.IdentiqueAnneePrecedente(*Extrait(u"Y"_s)), nullptr);
-
-  TExtrait& reste = extraits.Add(Extrait());
-  extraits.Save();
-  base.Sql(u"DROP TABLE EXTRAITS"_s);
-  EXPECT_THROW(extraits.Deplacer(reste, 2018), Exception);
-  EXPECT_EQ(extraits.Count(), 1) << "what did not move stays";
-}

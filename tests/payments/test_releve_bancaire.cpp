@@ -5,7 +5,7 @@
 #include "payments/communication_structuree.h"
 #include "payments/releve_bancaire.h"
 #include "support/affichage.h"
-#include "support/fichier_coda.h"
+#include "support/fichier_camt.h"
 
 using namespace FichierCoda;
 
@@ -215,15 +215,11 @@ TEST(Camt, DetailsThatSumToTheEntry) {
 }
 
 TEST(Camt, ProofsAndRefusals) {
-  const auto solde = [](const QString& genre, const QString& montant) {
-    return u"<Bal><Tp><CdOrPrtry><Cd>%1</Cd></CdOrPrtry></Tp><Amt "
-           u"Ccy='EUR'>%2</Amt><CdtDbtInd>CRDT</CdtDbtInd>"
-           "<Dt><Dt>2016-10-05</Dt></Dt></Bal>"_s.arg(genre, montant);
-  };
+  using FichierCamt::Solde;
   const QString un = Ecriture("1", "DBIT", {}), lu = "0510|-1|||";
-  EXPECT_EQ(Lire(Camt(un, solde("PRCD", "5") + solde("OPBD", "3") + solde("CLBD", "2"))), lu);
-  EXPECT_EQ(Lire(Camt(un, solde("PRCD", "3") + solde("CLAV", "9"))), lu);
-  EXPECT_TRUE(Lire(Camt(un, solde("PRCD", "3") + solde("CLBD", "3"))).contains("le nouveau solde est 3,00"));
+  EXPECT_EQ(Lire(Camt(un, Solde("PRCD", "5") + Solde("OPBD", "3") + Solde("CLBD", "2"))), lu);
+  EXPECT_EQ(Lire(Camt(un, Solde("PRCD", "3") + Solde("CLAV", "9"))), lu);
+  EXPECT_TRUE(Lire(Camt(un, Solde("PRCD", "3") + Solde("CLBD", "3"))).contains("le nouveau solde est 3,00"));
   for (const auto& [octets, raison] :
        {std::pair(Camt(un, {}, "09"), "version"),
         {Camt(un).replace("?>", "?><!DOCTYPE a>"), "DOCTYPE"},

@@ -1,5 +1,6 @@
 #include <QDir>
 
+#include "core/fichiers.h"
 #include "forms/grille.h"
 #include "report/layout/mise_en_page.h"
 
@@ -7,11 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Lire(const QString& chemin) {
-  QFile fichier(chemin);
-  EXPECT_TRUE(fichier.open(QIODevice::ReadOnly)) << chemin.toStdString();
-  return QString::fromUtf8(fichier.readAll());
-}
+QString Lire(const QString& chemin) { return QString::fromUtf8(LireFichier(chemin)); }
 
 void EcrireValeurs(QStringView ligne, TValeurs& valeurs) {
   for (const QStringView piece : ligne.split(u"; ")) {

@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "core/fichiers.h"
 #include "report/layout/mise_en_page.h"
 
 using namespace Qt::StringLiterals;
@@ -10,8 +11,7 @@ namespace {
 class Modele : public testing::Test {
  protected:
   void Ecrire(const QString& nom, const QByteArray& octets) const {
-    QFile fichier(dossier_.filePath(nom));
-    EXPECT_TRUE(fichier.open(QIODevice::WriteOnly) && fichier.write(octets) == octets.size());
+    EcrireFichier(dossier_.filePath(nom), octets);
   }
   /// What the reader says, without the folder; "" when it has nothing to say.
   QString Refus(const QByteArray& xml) const {

@@ -46,7 +46,6 @@ class FrmMain : public testing::Test {
         commande.Ecran.reset();
       if (commande.Gestionnaire == TGestionnaire::AdvGlowButton16Click) commande.Ecran = Ecran<TAutreEcran>();
     }
-    fin = Main.SurTerminer.Suivre([] { journal += "fin"; });
   }
   void TearDown() override {
     Main.Fermer();
@@ -75,7 +74,6 @@ class FrmMain : public testing::Test {
   THorlogeEssai Horloge;
   TMondeEssai Monde;
   TFrmMain Main{*Base, Base.Reglages, Horloge, Monde, Monde};
-  TLien fin;
 
  private:
   TEcoleEssai ecole_{Base};
@@ -112,11 +110,6 @@ TEST_F(FrmMain, ACommandOpensItsScreenWithItsTools) {
     Main.Etat(niveau, "Tarif enregistré");
     Main.Executer(TGestionnaire::AdvGlowButton16Click);
     EXPECT_EQ(Main.Etat().Texte.isEmpty(), niveau != TNiveauEtat::Erreur) << "no word about the next screen";
-  }
-  for (const bool oui : {false, true}) {
-    Base.Dialogues.Repond("Souhaitez-vous quitter", oui);
-    Main.Executer(TGestionnaire::AdvGlowButton4Click);
-    EXPECT_EQ(journal.last() == u"fin", oui);
   }
 }
 
@@ -288,19 +281,6 @@ TEST_F(FrmMain, ItReopensOnTheLastPupilAndScreen) {
   EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
 }
 
-// What another workstation has done shows, and the hand stays where it was.
-TEST_F(FrmMain, TheYearIsReadAgainUnderThePupilAndTheScreen) {
-  Ecole();
-  Main.Montrer();
-  Chercher("pirard");
-  Main.Executer(TGestionnaire::AdvGlowButton2Click);
-  Base.Sql("UPDATE ELEVES SET PRENOM = 'Autre' WHERE NOM = 'Pirard'");
-  Main.RechargerAnnee();
-  EXPECT_EQ(Globals.EleveCourant->NomComplet(), u"Pirard Autre");
-  EXPECT_EQ(Main.Arbre.Selection()->Objet.En<TEleve>(), Globals.EleveCourant);
-  EXPECT_EQ(Main.CommandeOuverte()->Nom(), u"Élèves");
-}
-
 TEST_F(FrmMain, YearsGoOnWithTheWorkingYear) {
   Main.Montrer();
   EXPECT_EQ(Main.Annees(), (std::vector{2015, 2016, 2017, 2018}));
@@ -370,13 +350,4 @@ TEST_F(FrmMain, WhatIsLeftOfAYearStaysWithinReach) {
   ASSERT_FALSE(reglages.Faite) << "its meals would cost nothing";
   Main.EcarterClick(reglages);
   EXPECT_FALSE(Main.ResteAFaire());
-}
-
-TEST_F(FrmMain, WithoutYearNothingOpensEither) {
-  TEcoleEssai(Base).parametre(27, "deux mille");
-  EXPECT_THROW(Main.Montrer(), EConvertError);
-  EXPECT_EQ(Main.Etat().Niveau, TNiveauEtat::Erreur);
-  EXPECT_EQ(Main.RaisonInactive(Main.Commandes.front()), u"Aucune année scolaire n'est chargée");
-  Main.Executer(TGestionnaire::AdvGlowButton2Click);
-  EXPECT_EQ(Main.Panneau.Courante(), nullptr);
 }

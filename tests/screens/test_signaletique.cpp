@@ -253,11 +253,6 @@ TEST_F(TSignaletique, LeMouvementDUnPaiementSupprimePuisRetabli) {
   fiche.Retablir();
   EXPECT_EQ(base.Rangees(payes), QStringList{u"2;20.0000"_s});
   base.Sql(u"DELETE FROM FRAIS_ELEVE WHERE REMARQUE = 'Ailleurs'"_s);
-  base.Sql(u"UPDATE COUNTERS SET TABLE_NAME = 'PERDU' WHERE TABLE_NAME = 'FRAIS_ELEVE'"_s);
-  base.Dialogues.Attend(u"Le compteur de table FRAIS_ELEVE n'existe pas !"_s)
-      .Attend(u"Aucun numéro n'a pu être donné à ce qui devait être mémorisé."_s);
-  fiche.Retablir();
-  base.Sql(u"UPDATE COUNTERS SET TABLE_NAME = 'FRAIS_ELEVE' WHERE TABLE_NAME = 'PERDU'"_s);
   EXPECT_TRUE(faire([&] { fiche.Retablir(); })) << "refused, it can be asked again";
   EXPECT_EQ(base.Rangees(payes), QStringList{u"1;30.0000"_s});
 

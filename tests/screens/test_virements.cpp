@@ -4,35 +4,30 @@
 #include "screens/payments/frm_repartition.h"
 #include "screens/payments/frm_virement.h"
 #include "support/ecran_essai.h"
+#include "support/fichier_camt.h"
 #include "support/grilles.h"
 
 namespace {
 
 /// Two namesakes in different classes, a third pupil, and one of another year (4).
-class FrmVirement : public testing::Test {
- protected:
-  struct TEcole : TBaseEssai {
-    TEcole() {
-      Ecole.unEleve().nomme(u"DUPONT"_s, u"Zoé"_s).enClasse(u"P2"_s, u"B"_s);
-      Ecole.unEleve().nomme(u"DUPONT"_s, u"Zoé"_s).enClasse(u"P1"_s, u"A"_s);
-      Ecole.unEleve().nomme(u"LAMBERT"_s, u"Élise"_s).enClasse(u"P3"_s, u"A"_s);
-      Ecole.unEleve().nomme(u"PARTI"_s, u"Luc"_s);
-      Ecole.Ajouter(u"GROUPE_FRAIS"_s, u"GROUPE_FRAIS_ID, LIBELLE"_s, {u"'Classes de mer'"_s});
-    }
-    /// A movement of that day of October; returns its key.
-    int Mouvement(const QString& donneur, int jour, bool cache = false) {
-      const int id = Ecole.mouvement(donneur, u"2016-10-%1"_s.arg(jour), u"12.5"_s, u"BE68"_s, u"merci"_s);
-      if (cache) Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = 1 WHERE EXTRAIT_ID = %1"_s.arg(id));
-      return id;
-    }
-    void Credit(int extrait, int eleve, int annee = 2016) {
-      Ecole.Ajouter(u"FRAIS_ELEVE"_s,
-                    u"FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID, MONTANT_VERSE"_s,
-                    {QString::number(eleve), QString::number(annee), QString::number(extrait), u"12.5"_s});
-    }
-    TEcoleEssai Ecole{*this};
-  };
-
+struct FrmVirement : TEssaiEcole {
+  FrmVirement() {
+    ecole.unEleve().nomme(u"DUPONT"_s, u"Zoé"_s).enClasse(u"P2"_s, u"B"_s);
+    ecole.unEleve().nomme(u"DUPONT"_s, u"Zoé"_s).enClasse(u"P1"_s, u"A"_s);
+    ecole.unEleve().nomme(u"LAMBERT"_s, u"Élise"_s).enClasse(u"P3"_s, u"A"_s);
+    ecole.unEleve().nomme(u"PARTI"_s, u"Luc"_s);
+    ecole.Ajouter(u"GROUPE_FRAIS"_s, u"GROUPE_FRAIS_ID, LIBELLE"_s, {u"'Classes de mer'"_s});
+  }
+  /// A movement of that day of October; returns its key.
+  int Mouvement(const QString& donneur, int jour, bool cache = false) {
+    const int id = ecole.mouvement(donneur, u"2016-10-%1"_s.arg(jour), u"12.5"_s, u"BE68"_s, u"merci"_s);
+    if (cache) base.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = 1 WHERE EXTRAIT_ID = %1"_s.arg(id));
+    return id;
+  }
+  void Credit(int extrait, int eleve, int annee = 2016) {
+    ecole.Ajouter(u"FRAIS_ELEVE"_s, u"FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID, MONTANT_VERSE"_s,
+                  {QString::number(eleve), QString::number(annee), QString::number(extrait), u"12.5"_s});
+  }
   TFrmVirement& Ouvrir() {
     Ecran.Essai.Charger();
     Form = std::make_unique<TFrmVirement>(Ecran.Contexte);
@@ -41,9 +36,9 @@ class FrmVirement : public testing::Test {
   }
   /// The first step, on a file of layout A with these lines; the message that it gives.
   void Etape1(const QByteArray& lignes, const QString& message = {}) {
-    Base.Dialogues.Saisit(u"Importer vos virements"_s,
-                          Base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) + lignes));
-    if (!message.isEmpty()) Base.Dialogues.Attend(message);
+    base.Dialogues.Saisit(u"Importer vos virements"_s,
+                          base.Fichier(u"releve.csv"_s, QByteArray(";\n").repeated(13) + lignes));
+    if (!message.isEmpty()) base.Dialogues.Attend(message);
     Form->btnEtape1Click();
   }
   /// Payer, pupil and state of each row of the history.
@@ -59,7 +54,7 @@ class FrmVirement : public testing::Test {
     return u"%1 %2 %3"_s.arg(Form->lblCompta()).arg(Form->lblInconnu()).arg(Form->lblTotal());
   }
   QString Extrait(const QString& colonne, int id) {
-    return Base.Valeur(u"SELECT %1 FROM EXTRAITS WHERE EXTRAIT_ID = %2"_s.arg(colonne).arg(id));
+    return base.Valeur(u"SELECT %1 FROM EXTRAITS WHERE EXTRAIT_ID = %2"_s.arg(colonne).arg(id));
   }
   /// Payments of that pupil to the group.
   static int Details(int eleve) {
@@ -75,19 +70,18 @@ class FrmVirement : public testing::Test {
     Form->grdHistoriqueDblClick();
   }
 
-  TEcole Base;
-  TEcranEssai Ecran{Base};
+  TEcranEssai Ecran{base};
   std::unique_ptr<TFrmVirement> Form;
 };
 
 }  // namespace
 
 TEST_F(FrmVirement, TheHistoryShowsCountsAndHides) {
-  const int inconnu = Base.Mouvement(u"A"_s, 3), comptabilise = Base.Mouvement(u"B"_s, 4);
-  const int cache = Base.Mouvement(u"C"_s, 28, true), ailleurs = Base.Mouvement(u"D"_s, 5);
-  Base.Credit(comptabilise, 3);
-  Base.Credit(cache, 3);
-  Base.Credit(ailleurs, 4, 2015);
+  const int inconnu = Mouvement(u"A"_s, 3), comptabilise = Mouvement(u"B"_s, 4);
+  const int cache = Mouvement(u"C"_s, 28, true), ailleurs = Mouvement(u"D"_s, 5);
+  Credit(comptabilise, 3);
+  Credit(cache, 3);
+  Credit(ailleurs, 4, 2015);
   Ouvrir();
   EXPECT_EQ(Form->TitreHistorique(), u"Récapitulatif du 03/10/2016 au 28/10/2016") << "the hidden one too";
   const QStringList tous{u"A||Inconnu"_s, u"B|LAMBERT Élise|Comptabilisé"_s,
@@ -113,7 +107,7 @@ TEST_F(FrmVirement, TheHistoryShowsCountsAndHides) {
   EXPECT_EQ(Historique()[0], u"A||Caché") << "shown again, it stays";
   EXPECT_EQ(Extrait(u"FLG_IGNORE"_s, inconnu), u"1");
   EXPECT_EQ(Form->lblInconnu(), 1);
-  Base.Dialogues.Attend(u"Vous ne pouvez pas cacher un mouvement comptabilisé !"_s);
+  base.Dialogues.Attend(u"Vous ne pouvez pas cacher un mouvement comptabilisé !"_s);
   Form->Historique.ChoisirLigne(1);
   Form->Supprimerlextrait1Click();
   EXPECT_EQ(Extrait(u"FLG_IGNORE"_s, comptabilise), QString()) << "never 0";
@@ -124,8 +118,8 @@ TEST_F(FrmVirement, TheHistoryShowsCountsAndHides) {
 }
 
 TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
-  const int a = Base.Mouvement(u"A"_s, 3), b = Base.Mouvement(u"B"_s, 4), c = Base.Mouvement(u"C"_s, 5);
-  Base.Credit(c, 3);
+  const int a = Mouvement(u"A"_s, 3), b = Mouvement(u"B"_s, 4), c = Mouvement(u"C"_s, 5);
+  Credit(c, 3);
   Ouvrir();
   const TLien aRebours =
       Form->SurOrdre.Suivre([](std::vector<int>& lignes) { std::ranges::reverse(lignes); });
@@ -133,11 +127,11 @@ TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
   Etape1("x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n");
   ASSERT_EQ(Form->Apercu.NombreLignes(), 1);
   Form->Historique.ChoisirLigne(1);
-  Base.Sql(u"ALTER TABLE EXTRAITS ADD CONSTRAINT PAS_2017 CHECK (ANNEE_SCOLAIRE <> 2017)"_s);
+  base.Sql(u"ALTER TABLE EXTRAITS ADD CONSTRAINT PAS_2017 CHECK (ANNEE_SCOLAIRE <> 2017)"_s);
   EXPECT_THROW(Form->AnneeSuivanteClick(), Exception);
   Form->Cocher(0, false);
   EXPECT_EQ(Form->Apercu.NombreLignes() + Form->TotalEtape2(), 1 + 2) << "refused, it stays";
-  Base.Sql(u"ALTER TABLE EXTRAITS DROP CONSTRAINT PAS_2017"_s);
+  base.Sql(u"ALTER TABLE EXTRAITS DROP CONSTRAINT PAS_2017"_s);
   Form->AnneeSuivanteClick();
   EXPECT_EQ(Extrait(u"ANNEE_SCOLAIRE"_s, b), u"2017");
   EXPECT_EQ(Form->Apercu.NombreLignes(), 0);
@@ -157,11 +151,11 @@ TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
 }
 
 TEST_F(FrmVirement, WhatAnotherWorkstationHasGivenIsNotHidden) {
-  const int a = Base.Mouvement(u"A"_s, 3);
+  const int a = Mouvement(u"A"_s, 3);
   Ouvrir();
   Form->Historique.ChoisirLigne(0);
-  Base.Credit(a, 3);
-  Base.Dialogues.Attend(u"Vous ne pouvez pas cacher un mouvement comptabilisé !"_s);
+  Credit(a, 3);
+  base.Dialogues.Attend(u"Vous ne pouvez pas cacher un mouvement comptabilisé !"_s);
   Form->Supprimerlextrait1Click();
   EXPECT_EQ(Extrait(u"FLG_IGNORE"_s, a), QString());
   EXPECT_EQ(Historique(), QStringList{u"A|LAMBERT Élise|Comptabilisé"_s});
@@ -169,21 +163,21 @@ TEST_F(FrmVirement, WhatAnotherWorkstationHasGivenIsNotHidden) {
 
 // The screen may stand open all day.
 TEST_F(FrmVirement, WhatAnotherWorkstationHasStoredIsNotStoredAgain) {
-  Base.Mouvement(u"A"_s, 3);
+  Mouvement(u"A"_s, 3);
   Ouvrir();
   Form->Historique.ChoisirLigne(0);
-  const int b = Base.Mouvement(u"B"_s, 4);
-  Base.Credit(b, 3);
+  const int b = Mouvement(u"B"_s, 4);
+  Credit(b, 3);
   Etape1("x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n");
   EXPECT_EQ(Form->Apercu.Texte(0, TFrmVirement::Eleve), u"LAMBERT Élise");
   Form->btnEtape2Click();
   EXPECT_EQ(Historique(), (QStringList{u"A||Inconnu"_s, u"B|LAMBERT Élise|Comptabilisé"_s}));
-  EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
 }
 
 TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
-  const int c = Base.Mouvement(u"C"_s, 5), a = Base.Mouvement(u"A"_s, 3), b = Base.Mouvement(u"B"_s, 4);
-  Base.Mouvement(u"D"_s, 6, true);
+  const int c = Mouvement(u"C"_s, 5), a = Mouvement(u"A"_s, 3), b = Mouvement(u"B"_s, 4);
+  Mouvement(u"D"_s, 6, true);
   Ouvrir();
   Form->mnuAfficheMouvementClick();
   const TLien ordre = Form->SurOrdre.Suivre([](std::vector<int>& lignes) {
@@ -230,10 +224,10 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
     EXPECT_FALSE(dialogue.Actif()) << "a hidden one is nobody's";
     EXPECT_EQ(apres(), u"D") << "nothing behind it";
 
-    Base.Credit(c, 3);  // at another workstation
+    Credit(c, 3);  // at another workstation
     dialogue.Button1Click();
     dialogue.LUCombo1Change(u"dup"_s);
-    Base.Dialogues.Attend(u"Ce mouvement est déjà attribué à LAMBERT Élise."_s);
+    base.Dialogues.Attend(u"Ce mouvement est déjà attribué à LAMBERT Élise."_s);
     dialogue.Button3Click();
     EXPECT_EQ(dialogue.lblDonneurOrdre() % dialogue.SaisieEleve(), u"CLAMBERT Élise") << "whom it went to";
     EXPECT_FALSE(dialogue.Actif());
@@ -242,7 +236,7 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
   EXPECT_EQ(Comptes(), u"3 1 4");
   EXPECT_EQ(Historique(), (QStringList{"C|LAMBERT Élise|Comptabilisé", "A|DUPONT Zoé|Comptabilisé",
                                        "B|LAMBERT Élise|Comptabilisé", "D||Caché"}));
-  EXPECT_EQ(Base.Rangees(u"SELECT EXTRAIT_ID, ELEVE_ID, MOIS, TYPE_FAMILLE_FRAIS, GROUPE_FRAIS_ID, REMARQUE "
+  EXPECT_EQ(base.Rangees(u"SELECT EXTRAIT_ID, ELEVE_ID, MOIS, TYPE_FAMILLE_FRAIS, GROUPE_FRAIS_ID, REMARQUE "
                          "FROM FRAIS_ELEVE WHERE EXTRAIT_ID <> %1 ORDER BY FRAIS_ELEVE_ID"_s.arg(c)),
             (QStringList{u"%1;2;0;2;1;Votre virement du 03/10/2016 (Classes de mer)"_s.arg(a),
                          u"%1;3;0;2;-;Votre virement du 04/10/2016"_s.arg(b)}));
@@ -252,8 +246,8 @@ TEST_F(FrmVirement, ByHandToAPupilAndOnToTheNext) {
 // Who stands out is proposed, not chosen, and given nothing until that is accepted; a movement of several
 // goes on as a part is left.
 TEST_F(FrmVirement, ProposedWithTheReasonAndSharedOut) {
-  Base.Credit(Base.Mouvement(u"A"_s, 3), 3);
-  const int b = Base.Mouvement(u"B"_s, 4), c = Base.Mouvement(u"C"_s, 5);
+  Credit(Mouvement(u"A"_s, 3), 3);
+  const int b = Mouvement(u"B"_s, 4), c = Mouvement(u"C"_s, 5);
   Ouvrir();
   Form->Historique.ChoisirLigne(1);
   QString reste;
@@ -292,7 +286,7 @@ TEST_F(FrmVirement, ProposedWithTheReasonAndSharedOut) {
   Form->grdHistoriqueDblClick();
   EXPECT_EQ(reste, u"LAMBERT Élise Reste 2,25 €|");
   EXPECT_EQ(
-      Base.Rangees(u"SELECT EXTRAIT_ID, ELEVE_ID, MONTANT_VERSE FROM FRAIS_ELEVE WHERE EXTRAIT_ID >= %1 "
+      base.Rangees(u"SELECT EXTRAIT_ID, ELEVE_ID, MONTANT_VERSE FROM FRAIS_ELEVE WHERE EXTRAIT_ID >= %1 "
                    "ORDER BY FRAIS_ELEVE_ID"_s.arg(b)),
       (QStringList{u"%1;3;12.5000"_s.arg(b), u"%1;3;6.2500"_s.arg(c), u"%1;1;4.0000"_s.arg(c)}));
   EXPECT_EQ(Comptes(), u"3 0 3");
@@ -302,7 +296,7 @@ TEST_F(FrmVirement, ProposedWithTheReasonAndSharedOut) {
 
 TEST_F(FrmVirement, TheTwoStepsOfAFile) {
   Ouvrir();
-  Base.Dialogues.Saisit(u"Importer vos virements"_s, {});
+  base.Dialogues.Saisit(u"Importer vos virements"_s, {});
   Form->btnEtape1Click();
   EXPECT_TRUE(Form->Etape2Active()) << "also when no file is chosen";
   const QByteArray bonne = "x;05/10/2016;;;BE68;DUPONT;;;;;10,00;EUR;;;+++000/0310/16102+++\n";
@@ -328,33 +322,28 @@ TEST_F(FrmVirement, TheTwoStepsOfAFile) {
   EXPECT_FALSE(Form->Etape2Suivante());
   Etape1(bonne);
   Form->btnEtape2Click();
-  EXPECT_EQ(Base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
+  EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
 }
 
 // One more of the same day, account and amount is near none that the file has throughout, and two right
 // communications are two payments.
 TEST_F(FrmVirement, WhatIsPerhapsImportedIsStoredWhenTicked) {
-  Base.Mouvement(u"A"_s, 15);
+  using namespace FichierCamt;
+  Mouvement(u"A"_s, 15);
   Ouvrir();
   const auto ecriture = [](const QString& communication, const QString& donneur = {}) {
-    return QString(
-        u"<Ntry><Amt Ccy='EUR'>12.5</Amt><CdtDbtInd>CRDT</CdtDbtInd><ValDt><Dt>2016-10-15</Dt></ValDt>"
-        "<NtryDtls><TxDtls><RltdPties><Dbtr><Nm>" %
-        donneur %
-        u"</Nm></Dbtr><DbtrAcct><Id><IBAN>BE68</IBAN>"
-        "</Id></DbtrAcct></RltdPties><RmtInf><Ustrd>" %
-        communication % u"</Ustrd></RmtInf></TxDtls></NtryDtls></Ntry>");
+    return Ecriture(
+        "12.5", "CRDT",
+        Valeur("2016-10-15") + FichierCamt::Details(Detail(donneur, "BE68", Libre(communication))));
   };
   const auto etape1 = [&](const QString& ecritures) {
-    const QString document =
-        u"<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.08'><BkToCstmrStmt><Stmt><Id>1</Id>" %
-        ecritures % u"</Stmt></BkToCstmrStmt></Document>";
-    Base.Dialogues.Saisit(u"Importer vos virements"_s, Base.Fichier(u"releve.xml"_s, document.toUtf8()));
+    base.Dialogues.Saisit(u"Importer vos virements"_s,
+                          base.Fichier(u"releve.xml"_s, Camt(Releve(1, {}, ecritures), "08")));
     Form->btnEtape1Click();
     return TextesColonne(Form->Apercu, Form->Apercu.NombreColonnes() - 1).join(u'|');
   };
   for (const int annee : {2015, 2016}) {
-    Base.Sql(u"UPDATE EXTRAITS SET COMMUNICATION = '+++000/0110/16166+++', ANNEE_SCOLAIRE = %1"_s.arg(annee));
+    base.Sql(u"UPDATE EXTRAITS SET COMMUNICATION = '+++000/0110/16166+++', ANNEE_SCOLAIRE = %1"_s.arg(annee));
     Ouvrir();
     EXPECT_EQ(etape1(ecriture(u"000011016166"_s, u"A"_s) + ecriture({})),
               (annee == 2015 ? u"Année précédente" : u"Inconnu") % u"|Nouveau"_s);

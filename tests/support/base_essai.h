@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include "core/data_module.h"
+#include "core/fichiers.h"
 #include "support/dialogues_scenario.h"
 
 using namespace Qt::StringLiterals;

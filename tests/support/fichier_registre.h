@@ -42,8 +42,9 @@ class TFichierRegistre {
     lignes_[ligne] = cellules.join(u';');
     return *this;
   }
+  QByteArray EnOctets() const { return lignes_.join(u"\r\n"_s).toUtf8(); }
   QString Ecrire(TBaseEssai& base, const QString& nom = u"registre.csv"_s) const {
-    return base.Fichier(nom, lignes_.join(u"\r\n"_s).toUtf8());
+    return base.Fichier(nom, EnOctets());
   }
 
  private:

@@ -147,3 +147,31 @@ void TProgrammeEssai::Ouvrir(TGestionnaire gestionnaire) {
   QTest::mouseClick(barre.Bouton(gestionnaire), Qt::LeftButton);
   QCoreApplication::processEvents();
 }
+
+QWidget& TProgrammeEssai::LaMain() const {
+  QWidget* fenetre = QApplication::activeModalWidget();
+  if (fenetre == nullptr) {
+    fenetre = &Fenetre();
+    QApplication::setActiveWindow(fenetre);
+    QCoreApplication::processEvents();
+  }
+  return fenetre->focusWidget() != nullptr ? *fenetre->focusWidget() : *fenetre;
+}
+
+bool TProgrammeEssai::EstIci(const QString& quoi) const {
+  const QWidget& ici = LaMain();
+  return ici.objectName() == quoi || ici.accessibleName() == quoi ||
+         ici.property("text").toString() == quoi || TextesDe(ici).split(u'\n').contains(quoi);
+}
+
+void TProgrammeEssai::Presser(std::initializer_list<QKeyCombination> touches) const {
+  for (const QKeyCombination touche : touches) {
+    QTest::keyClick(&LaMain(), touche.key(), touche.keyboardModifiers());
+    QCoreApplication::processEvents();
+  }
+}
+
+void TProgrammeEssai::Jusqu(const QString& quoi, QKeyCombination touche) const {
+  for (int i = 0; i < 80 && !EstIci(quoi); ++i) Presser({touche});
+  ASSERT_TRUE(EstIci(quoi)) << quoi.toStdString() << ", but " << LaMain().accessibleName().toStdString();
+}

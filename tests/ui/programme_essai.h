@@ -67,6 +67,14 @@ class TProgrammeEssai {
   Programme& Tout() const { return *programme_; }
   /// Opens the screen by a click on its command, on its page.
   void Ouvrir(TGestionnaire gestionnaire);
+  /// What has the hand, in the dialog that is open or in the window.
+  QWidget& LaMain() const;
+  /// It is called so, or shows that.
+  bool EstIci(const QString& quoi) const;
+  /// Sends the keys to whatever has the hand.
+  void Presser(std::initializer_list<QKeyCombination> touches) const;
+  /// Presses the key until that has the hand.
+  void Jusqu(const QString& quoi, QKeyCombination touche = Qt::Key_Tab) const;
   /// The view of the open screen, as the class that it is; null for another.
   template <class T>
   T* Vue() const {

@@ -75,12 +75,7 @@ class TReglagesEssai : public testing::Test {
     for (int i = 0; i < indice; ++i) QTest::keyClick(&liste, Qt::Key_Down);
     EXPECT_EQ(liste.currentIndex(), indice);
   }
-  void Touche(Qt::Key touche, Qt::KeyboardModifiers avec = {}) {
-    Activer();
-    QWidget* champ = QApplication::focusWidget();
-    QTest::keyClick(champ != nullptr ? champ : &Programme.Fenetre(), touche, avec);
-    QCoreApplication::processEvents();
-  }
+  void Touche(Qt::Key touche, Qt::KeyboardModifiers avec = {}) { Programme.Presser({touche | avec}); }
   void Cliquer(const QString& bouton) { ::Cliquer(Programme.Fenetre(), bouton); }
   bool Dit(const QString& texte) { return TextesDe(Programme.Fenetre()).contains(texte); }
   QString Etat() { return Programme.Fenetre().Etat()->Texte(); }

@@ -21,29 +21,6 @@
 
 namespace {
 
-/// A screen that offers every document and shows what is chosen.
-struct TDemandeurEssai : TForm {
-  explicit TDemandeurEssai(Programme& programme) : Tout(programme) {}
-  void Imprimer() {
-    std::vector<TTitreAssistant> titres;
-    for (const TTitreOffert& titre : TitresOfferts(TListeTitres::Eleves))
-      titres.push_back({QString::fromUtf16(titre.Montre->Titre), titre.Montre->AvecPeriode});
-    TDemandeAssistant demande = TDemandeAssistant::De(std::move(titres));
-    demande.Demandeur = this;
-    Tout.Assistant.RecevoirMessage({TCodeMessage::ImprimerAssistant, demande});
-  }
-  bool RecevoirMessage(const TMessage& message) override {
-    Choix = *message.En<TChoixDocument>();
-    const TTitreDocument& titre =
-        *TitresOfferts(TListeTitres::Eleves)[static_cast<std::size_t>(Choix->Indice)].Fait;
-    TResultat resultat = FaireDocument(ContexteDesGlobals(Tout.Main.Controleur.Horloge()), titre, *Choix);
-    for (TRapport& rapport : resultat.Rapports) Tout.Apercu->Afficher(rapport);
-    return true;
-  }
-  Programme& Tout;
-  std::optional<TChoixDocument> Choix;
-};
-
 struct TModaleGeste : IFenetreModale {
   TResultatModal MontrerModal(TForm&) override {
     Geste();
@@ -53,14 +30,13 @@ struct TModaleGeste : IFenetreModale {
 };
 
 /// Two pupils in "P1 A", one in "P2 A", each with a fee of October.
-class DocumentsVues : public testing::Test {
+class DocumentsVues : public TReglagesEssai {
  protected:
   void SetUp() override {
-    TEcoleEssai ecole(programme.Base);
-    const int frais = ecole.frais(u"Classes de mer"_s, u"185"_s, 10);
+    const int frais = Ecole.frais(u"Classes de mer"_s, u"185"_s, 10);
     for (const auto& [nom, classe] : {std::pair("Adam", "P1"), {"Bastin", "P1"}, {"Pirard", "P2"}})
-      ecole.unEleve().nomme(nom, u"Élise"_s).enClasse(classe, u"A"_s).doit(frais);
-    programme.Demarrer();
+      Ecole.unEleve().nomme(nom, u"Élise"_s).enClasse(classe, u"A"_s).doit(frais);
+    Programme.Demarrer();
   }
   TRapport Factures() {
     TChoixDocument choix;
@@ -68,105 +44,82 @@ class DocumentsVues : public testing::Test {
     choix.DateFin = J("2016-10-31");
     choix.Eleves = Globals.Eleves->Tous();
     TResultat resultat =
-        FaireDocument(ContexteDesGlobals(programme.Horloge), *TrouverTitre(u"Facture"), choix);
+        FaireDocument(ContexteDesGlobals(Programme.Horloge), *TrouverTitre(u"Facture"), choix);
     return std::move(resultat.Rapports.at(0));
   }
   TContexteApercu Contexte() {
-    return {programme.Tout().Dialogues, programme.Tout().Reglages, programme.Horloge};
-  }
-  static void Touche(int touche, Qt::KeyboardModifiers avec = Qt::NoModifier) {
-    QWidget* fenetre =
-        QApplication::activeModalWidget() ? QApplication::activeModalWidget() : QApplication::activeWindow();
-    QTest::keyClick(fenetre->focusWidget() ? fenetre->focusWidget() : fenetre, static_cast<Qt::Key>(touche),
-                    avec);
+    return {Programme.Tout().Dialogues, Programme.Tout().Reglages, Programme.Horloge};
   }
   /// A radio button, by its own words.
-  static void Choisir(QWidget& fenetre, const QString& texte) {
+  static void ChoisirBouton(QWidget& fenetre, const QString& texte) {
     QAbstractButton* bouton = BoutonDe(fenetre, texte);
     ASSERT_NE(bouton, nullptr) << texte.toStdString();
     QTest::mouseClick(bouton, Qt::LeftButton, {}, {12, bouton->height() / 2});
   }
-  /// Presses the key until the focus is there.
-  static void Jusqu(QWidget& fenetre, const QString& nom, int touche) {
-    for (int i = 0; i < 30 && !Foyer(fenetre, nom); ++i) Touche(touche);
-    EXPECT_TRUE(Foyer(fenetre, nom)) << nom.toStdString();
-  }
-  static bool Foyer(const QWidget& fenetre, const QString& nom) {
-    const QWidget* ici = fenetre.focusWidget();
-    return ici != nullptr && (TextesDe(*ici).contains(nom) || ici->accessibleName() == nom ||
-                              ici->property("text").toString() == nom);
-  }
   static QString Texte(const QString& pdf) { return Sortie(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s}); }
-
-  TProgrammeEssai programme;
 };
 
 }  // namespace
 
 TEST_F(DocumentsVues, AnInvoiceByClassAndMonthFromTheKeyboard) {
-  TDemandeurEssai demandeur(programme.Tout());
-  programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
+  Programme.Dialogues.Fait(u"Assistant d'impression"_s, [this](QWidget& fenetre) {
     QApplication::setActiveWindow(&fenetre);
-    EXPECT_TRUE(Foyer(fenetre, u"Etiquettes d'identification 89mm x 36mm (Etiquette Dymo 99012)"_s));
-    for (int i = 0; i < 6; ++i) Touche(Qt::Key_Down);
-    EXPECT_TRUE(Foyer(fenetre, u"Facture"_s));
-    Touche(Qt::Key_Return);
+    EXPECT_TRUE(Programme.EstIci(u"Etiquettes d'identification 89mm x 36mm (Etiquette Dymo 99012)"_s));
+    for (int i = 0; i < 6; ++i) Programme.Presser({Qt::Key_Down});
+    EXPECT_TRUE(Programme.EstIci(u"Facture"_s));
+    Programme.Presser({Qt::Key_Return});
     EXPECT_TRUE(TextesDe(fenetre).contains(u"le ou les élèves"_s));
-    EXPECT_TRUE(Foyer(fenetre, u"Les élèves suivants:"_s)) << "nobody is selected in the tree";
-    Jusqu(fenetre, u"Les classes suivantes:"_s, Qt::Key_Right);
-    Jusqu(fenetre, u"Classes"_s, Qt::Key_Tab);
-    Touche(Qt::Key_Home);
-    Touche(Qt::Key_Space);
+    EXPECT_TRUE(Programme.EstIci(u"Les élèves suivants:"_s)) << "nobody is selected in the tree";
+    Programme.Jusqu(u"Les classes suivantes:"_s, Qt::Key_Right);
+    Programme.Jusqu(u"Classes"_s, Qt::Key_Tab);
+    Programme.Presser({Qt::Key_Home, Qt::Key_Space});
     EXPECT_TRUE(TextesDe(fenetre).contains(u"1 classe, 2 élèves"_s));
-    Touche(Qt::Key_Return);
+    Programme.Presser({Qt::Key_Return});
     EXPECT_TRUE(TextesDe(fenetre).contains(u"octobre 2016"_s)) << "today's month";
-    EXPECT_TRUE(Foyer(fenetre, u"Mois"_s));
-    Touche(Qt::Key_Return);
+    EXPECT_TRUE(Programme.EstIci(u"Mois"_s));
+    Programme.Presser({Qt::Key_Return});
   });
-  programme.Dialogues.Fait(u"Aperçu"_s, [](QWidget& fenetre) {
+  Programme.Dialogues.Fait(u"Aperçu"_s, [this](QWidget& fenetre) {
     QApplication::setActiveWindow(&fenetre);
     auto& vue = dynamic_cast<VueApercu&>(fenetre);
     QTRY_VERIFY(TextesDe(fenetre).contains(u"2 pages prêtes"_s) && !TextesDe(fenetre).contains(u'…'));
     auto* zoom = fenetre.findChild<QComboBox*>();
-    Touche(Qt::Key_Plus, Qt::ControlModifier);
+    Programme.Presser({Qt::CTRL | Qt::Key_Plus});
     EXPECT_EQ(zoom->currentText(), u"125 %"_s);
-    Touche(Qt::Key_0, Qt::ControlModifier);
+    Programme.Presser({Qt::CTRL | Qt::Key_0});
     EXPECT_EQ(zoom->currentText(), u"100 %"_s);
     EXPECT_TRUE(vue.Pages()->hasFocus());
-    Touche(Qt::Key_F, Qt::ControlModifier);
+    Programme.Presser({Qt::CTRL | Qt::Key_F});
     QTest::keyClicks(fenetre.focusWidget(), u"bastin"_s);
     EXPECT_TRUE(TextesDe(fenetre).contains(u"1 sur "_s)) << TextesDe(fenetre).toStdString();
     EXPECT_EQ(fenetre.findChild<QTreeWidget*>()->currentItem()->text(0), u"Bastin Élise"_s);
-    Touche(Qt::Key_Escape);
+    Programme.Presser({Qt::Key_Escape});
     EXPECT_TRUE(fenetre.isVisible()) << "Escape empties the field first";
-    Touche(Qt::Key_Escape);
+    Programme.Presser({Qt::Key_Escape});
     EXPECT_FALSE(fenetre.isVisible());
   });
-  demandeur.Imprimer();
-  ASSERT_TRUE(demandeur.Choix);
-  EXPECT_EQ(demandeur.Choix->DateDebut, J("2016-10-01"));
-  ASSERT_EQ(demandeur.Choix->Classes.size(), 1U);
-  EXPECT_EQ(demandeur.Choix->Classes[0]->Libelle(), u"P1 A"_s);
+  Programme.Main().OutilClick(TOutil::btnPrint);
 }
 
 TEST_F(DocumentsVues, FromTheRecordToThePreviewWithADateOfPayment) {
   Globals.Parametres->SetParametre(TParam::DatePaiement, u"1"_s);
   Globals.Parametres->SetParametre(TParam::CompteBanque, u"BE68 5390 0754 7034"_s);
-  programme.Main().edSearchChange(u"Bastin"_s);
-  programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
-  programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
-    Choisir(fenetre, u"Facture"_s);
-    Cliquer(fenetre, u"Suivant >"_s);
+  Programme.Main().edSearchChange(u"Bastin"_s);
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
+  Programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
+    ChoisirBouton(fenetre, u"Facture"_s);
+    ::Cliquer(fenetre, u"Suivant >"_s);
     EXPECT_TRUE(TextesDe(fenetre).contains(u"Bastin Élise"_s));
-    Cliquer(fenetre, u"Suivant >"_s);
-    Cliquer(fenetre, u"Imprimer"_s);
+    ::Cliquer(fenetre, u"Suivant >"_s);
+    ::Cliquer(fenetre, u"Imprimer"_s);
   });
-  programme.Dialogues.Saisit(u"Introduire la date de paiement"_s, u"24/12/2016"_s);
-  programme.Dialogues.Apercu(u"Aperçu"_s, [](const QString& texte) {
+  Programme.Dialogues.Saisit(u"Introduire la date de paiement"_s, u"24/12/2016"_s);
+  Programme.Dialogues.Apercu(u"Aperçu"_s, [](const QString& texte) {
     for (const char* dit : {"Bastin", "185,00", "24 décembre 2016"})
       EXPECT_TRUE(texte.contains(dit)) << texte.toStdString();
   });
-  programme.Main().OutilClick(TOutil::btnPrint);
+  Programme.Main().OutilClick(TOutil::btnPrint);
 }
 
 // Who is not in the year on display is listed too, and the way to the record changes the year.
@@ -201,39 +154,38 @@ TEST_F(DocumentsVues, WhatIsMissingOfWhoHasLeftLeadsToTheYearOfTheRecord) {
 }
 
 TEST_F(DocumentsVues, WizardWithoutPeriodAndItsRefusals) {
-  TDemandeurEssai demandeur(programme.Tout());
-  programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
-    Cliquer(fenetre, u"Suivant >"_s);
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
+  Programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
+    ::Cliquer(fenetre, u"Suivant >"_s);
     EXPECT_EQ(BoutonDe(fenetre, u"Suivant >"_s), nullptr) << "labels take no period";
-    Cliquer(fenetre, u"< Précédent"_s);
-    Choisir(fenetre, u"Facture"_s);
-    Cliquer(fenetre, u"Suivant >"_s);
-    Cliquer(fenetre, u"Tout sélectionner"_s);
-    Cliquer(fenetre, u"Suivant >"_s);
-    Choisir(fenetre, u"La période du :"_s);
+    ::Cliquer(fenetre, u"< Précédent"_s);
+    ChoisirBouton(fenetre, u"Facture"_s);
+    ::Cliquer(fenetre, u"Suivant >"_s);
+    ::Cliquer(fenetre, u"Tout sélectionner"_s);
+    ::Cliquer(fenetre, u"Suivant >"_s);
+    ChoisirBouton(fenetre, u"La période du :"_s);
     auto* date = fenetre.findChildren<SaisieDate*>().at(1);
     date->setFocus();
     date->selectAll();
     QTest::keyClicks(date, u"31/02/2017"_s);
-    Cliquer(fenetre, u"Imprimer"_s);
+    ::Cliquer(fenetre, u"Imprimer"_s);
     EXPECT_TRUE(TextesDe(fenetre).contains(u"La date introduite est incorrecte."_s));
     EXPECT_EQ(date->text(), u"31/02/2017"_s);
-    Choisir(fenetre, u"Le mois de :"_s);
+    ChoisirBouton(fenetre, u"Le mois de :"_s);
     EXPECT_FALSE(TextesDe(fenetre).contains(u"incorrecte"_s)) << "no matter any more";
-    Cliquer(fenetre, u"< Précédent"_s);
-    Cliquer(fenetre, u"Ne rien sélectionner"_s);
-    QTimer::singleShot(0, &fenetre, [&fenetre] { Cliquer(fenetre, u"Suivant >"_s); });
+    ::Cliquer(fenetre, u"< Précédent"_s);
+    ::Cliquer(fenetre, u"Ne rien sélectionner"_s);
+    QTimer::singleShot(0, &fenetre, [&fenetre] { ::Cliquer(fenetre, u"Suivant >"_s); });
   });
-  programme.Dialogues.Attend(u"Aucun élève n'a été sélectionné !"_s);
-  programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
-    EXPECT_TRUE(Foyer(fenetre, u"Élèves"_s));
+  Programme.Dialogues.Attend(u"Aucun élève n'a été sélectionné !"_s);
+  Programme.Dialogues.Fait(u"Assistant d'impression"_s, [this](QWidget& fenetre) {
+    EXPECT_TRUE(Programme.EstIci(u"Élèves"_s));
     QTest::keyClicks(fenetre.findChild<ChampFiltre*>(), u"pirard"_s);
-    Cliquer(fenetre, u"Tout sélectionner"_s);
+    ::Cliquer(fenetre, u"Tout sélectionner"_s);
     EXPECT_TRUE(TextesDe(fenetre).contains(u"1 élève"_s)) << "the filter holds";
-    Touche(Qt::Key_Escape);
+    Programme.Presser({Qt::Key_Escape});
   });
-  demandeur.Imprimer();
-  EXPECT_FALSE(demandeur.Choix);
+  Programme.Main().OutilClick(TOutil::btnPrint);
 }
 
 TEST_F(DocumentsVues, PrintedPagesReadBack) {
@@ -243,13 +195,13 @@ TEST_F(DocumentsVues, PrintedPagesReadBack) {
   // By the painter, as a printer gets them.
   QPrinter imprimante(QPrinter::ScreenResolution);
   imprimante.setOutputFormat(QPrinter::PdfFormat);
-  imprimante.setOutputFileName(programme.Base.Chemin(u"peint.pdf"_s));
+  imprimante.setOutputFileName(Programme.Base.Chemin(u"peint.pdf"_s));
   PeindreSurImprimante(form.Document(), imprimante);
   const QString lu = Sortie(u"pdfinfo"_s, {imprimante.outputFileName()}).simplified();
   EXPECT_TRUE(lu.contains(u"Pages: 3 "_s) && lu.contains(u"A4"_s)) << lu.toStdString();
 
   // To a file: the range that was asked for.
-  imprimante.setOutputFileName(programme.Base.Chemin(u"plage.pdf"_s));
+  imprimante.setOutputFileName(Programme.Base.Chemin(u"plage.pdf"_s));
   imprimante.setPrintRange(QPrinter::PageRange);
   imprimante.setFromTo(2, 9);
   imprimante.setPageOrder(QPrinter::LastPageFirst);
@@ -258,7 +210,7 @@ TEST_F(DocumentsVues, PrintedPagesReadBack) {
   ASSERT_EQ(pages.size(), 2);
   EXPECT_TRUE(pages[0].contains(u"Pirard"_s) && pages[1].contains(u"Bastin"_s));
 
-  imprimante.setOutputFileName(programme.Base.Chemin(u"absent/plage.pdf"_s));
+  imprimante.setOutputFileName(Programme.Base.Chemin(u"absent/plage.pdf"_s));
   EXPECT_ANY_THROW(Imprimer(form.Document(), imprimante));
 }
 
@@ -266,7 +218,7 @@ TEST_F(DocumentsVues, SentToCups) {
   const TRapport rapport = Factures();
   TFrmApercu form(Contexte(), rapport);
   form.Terminer();
-  const QString lp = programme.Base.Fichier(
+  const QString lp = Programme.Base.Fichier(
       u"lp"_s,
       "#!/bin/sh\ncd \"$(dirname \"$0\")\"\necho \"$@\" > demande.txt\ncat > recu.pdf\n"
       "[ ! -e refus ] || { echo 'papier vide' >&2; exit 1; }\n");
@@ -280,14 +232,12 @@ TEST_F(DocumentsVues, SentToCups) {
   imprimante.setPrintRange(QPrinter::PageRange);
   imprimante.setFromTo(1, 2);
   Imprimer(form.Document(), imprimante);
-  QFile demande(programme.Base.Chemin(u"demande.txt"_s));
-  ASSERT_TRUE(demande.open(QIODevice::ReadOnly));
-  const QString arguments = QString::fromUtf8(demande.readAll());
+  const QString arguments = LireFichier(Programme.Base.Chemin(u"demande.txt"_s));
   EXPECT_TRUE(arguments.contains(u"-n 2 "_s) && arguments.contains(u"media=A4"_s)) << arguments.toStdString();
-  const QString texte = Texte(programme.Base.Chemin(u"recu.pdf"_s));
+  const QString texte = Texte(Programme.Base.Chemin(u"recu.pdf"_s));
   EXPECT_TRUE(texte.contains(u"Bastin"_s) && !texte.contains(u"Pirard"_s));
 
-  programme.Base.Fichier(u"refus"_s, {});
+  Programme.Base.Fichier(u"refus"_s, {});
   EXPECT_TRUE(Refus([&] { Imprimer(form.Document(), imprimante); }).contains(u"papier vide"_s));
   qputenv("PATH", chemin);
 }
@@ -321,17 +271,17 @@ TEST_F(DocumentsVues, NavigatorPagesAndPaper) {
   vue.Pages()->setFocus();
   EXPECT_EQ(form.ModeZoom(), TModeZoom::Largeur) << "the field was only passed through";
   EXPECT_TRUE(TextesDe(vue).contains(u"A4, portrait"_s));
-  programme.Dialogues.Fait(u"Mise en page"_s, [](QWidget& fenetre) {
-    Choisir(fenetre, u"Paysage"_s);
-    Cliquer(fenetre, u"Valider"_s);
+  Programme.Dialogues.Fait(u"Mise en page"_s, [](QWidget& fenetre) {
+    ChoisirBouton(fenetre, u"Paysage"_s);
+    ::Cliquer(fenetre, u"Valider"_s);
   });
-  Cliquer(vue, u"Mise en page"_s);
+  ::Cliquer(vue, u"Mise en page"_s);
   QTRY_VERIFY(form.Complet());
   EXPECT_TRUE(TextesDe(vue).contains(u"A4, paysage"_s));
 }
 
 TEST_F(DocumentsVues, ARefusedFieldCallsNoPressOfAnnulerBack) {
-  TFrmDatePaiement form(programme.Tout().Main.Contexte);
+  TFrmDatePaiement form(Programme.Tout().Main.Contexte);
   VueDialogue vue(form, nullptr);
   vue.show();
   auto* date = vue.findChild<SaisieDate*>();
@@ -345,7 +295,7 @@ TEST_F(DocumentsVues, ARefusedFieldCallsNoPressOfAnnulerBack) {
 }
 
 TEST_F(DocumentsVues, WithinReachOfEveryone) {
-  Programme& tout = programme.Tout();
+  auto& tout = Programme.Tout();
   TFrmDatePaiement date(tout.Main.Contexte);
   VerifierVuePartout([&] { return std::make_unique<VueDialogue>(date, nullptr); });
   VerifierVuePartout([&] { return std::make_unique<DialoguePapier>(TPapier{{210, 297}}, nullptr); });
@@ -358,7 +308,7 @@ TEST_F(DocumentsVues, WithinReachOfEveryone) {
     vue->resize(1366, 768);
     return vue;
   });
-  TResultat incomplet = FaireDocument(ContexteDesGlobals(programme.Horloge), *TrouverTitre(u"Facture"), {});
+  TResultat incomplet = FaireDocument(ContexteDesGlobals(Programme.Horloge), *TrouverTitre(u"Facture"), {});
   incomplet.Manques = {{Globals.Eleves->Tous().front(), u"lblDateNaissance"_s, u"pas de date de naissance"_s},
                        {nullptr, {}, u"pas de numéro d'entreprise"_s}};
   TFrmManques manques(incomplet, true);

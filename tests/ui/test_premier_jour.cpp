@@ -12,44 +12,22 @@ namespace {
 /// All by keys, sent to whatever has the focus.
 class PremierJour : public TReglagesEssai {
  protected:
-  QWidget& Ici() {
-    QWidget* fenetre = QApplication::activeModalWidget();
-    if (fenetre == nullptr) Activer();
-    if (fenetre == nullptr) fenetre = &Programme.Fenetre();
-    return fenetre->focusWidget() != nullptr ? *fenetre->focusWidget() : *fenetre;
-  }
-  void Presser(std::initializer_list<QKeyCombination> touches) {
-    for (const QKeyCombination touche : touches) {
-      QTest::keyClick(&Ici(), touche.key(), touche.keyboardModifiers());
-      QCoreApplication::processEvents();
-    }
-  }
-  void Ecrire(const QString& texte) { QTest::keyClicks(&Ici(), texte); }
+  void Ecrire(const QString& texte) { QTest::keyClicks(&Programme.LaMain(), texte); }
   /// Over what the field holds.
   void Remplacer(const QString& champ, const QString& texte) {
-    Jusqu(champ);
-    Presser({Qt::CTRL | Qt::Key_A});
+    Programme.Jusqu(champ);
+    Programme.Presser({Qt::CTRL | Qt::Key_A});
     Ecrire(texte);
   }
-  bool EstIci(const QString& quoi) {
-    const QWidget& ici = Ici();
-    return ici.objectName() == quoi || ici.accessibleName() == quoi ||
-           ici.property("text").toString() == quoi;
-  }
-  /// Tab, until the control of that name or words has the focus.
-  void Jusqu(const QString& quoi) {
-    for (int i = 0; i < 80 && !EstIci(quoi); ++i) Presser({Qt::Key_Tab});
-    ASSERT_TRUE(EstIci(quoi)) << quoi.toStdString() << ", but " << Ici().accessibleName().toStdString();
-  }
   void Activer(const QString& bouton) {
-    Jusqu(bouton);
-    Presser({Qt::Key_Space});
+    Programme.Jusqu(bouton);
+    Programme.Presser({Qt::Key_Space});
   }
   using TReglagesEssai::Activer;
   /// The button opens a menu, whose entry the arrows choose.
   void ActiverMenu(const QString& bouton, const QString& entree) {
-    Jusqu(bouton);
-    QWidget& ici = Ici();
+    Programme.Jusqu(bouton);
+    QWidget& ici = Programme.LaMain();
     QTimer::singleShot(0, &ici, [entree] {
       auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
       ASSERT_NE(menu, nullptr);
@@ -64,15 +42,15 @@ class PremierJour : public TReglagesEssai {
     QCoreApplication::processEvents();
   }
   void Choisir(const QString& liste, int indice) {
-    Jusqu(liste);
-    Presser({Qt::Key_Home});
-    for (int i = 0; i < indice; ++i) Presser({Qt::Key_Down});
+    Programme.Jusqu(liste);
+    Programme.Presser({Qt::Key_Home});
+    for (int i = 0; i < indice; ++i) Programme.Presser({Qt::Key_Down});
   }
   void OuvreFichier(const QString& titre, const QString& chemin) {
     Programme.Dialogues.Fait(titre, [this, chemin](QWidget& dialogue) {
       // Pasted: what is typed there is changed by the proposals as they come.
       dialogue.findChild<QLineEdit*>("fileNameEdit")->setText(chemin);
-      Presser({Qt::Key_Return});
+      Programme.Presser({Qt::Key_Return});
     });
   }
 };
@@ -82,15 +60,17 @@ class PremierJour : public TReglagesEssai {
 TEST_F(PremierJour, FromNothingToTheFirstInvoiceByKeyboardAlone) {
   Programme.Horloge.Moment = EncodeDate(2026, 11, 25) + EncodeTime(9, 0, 0);
   Programme.Demarrer();
-  EXPECT_TRUE(EstIci("Année scolaire : Choisir l'année")) << Ici().accessibleName().toStdString();
-  Programme.Dialogues.Fait("Quelle année scolaire", [this](QWidget&) { Presser({Qt::Key_Return}); });
-  Presser({Qt::Key_Space});
+  EXPECT_TRUE(Programme.EstIci("Année scolaire : Choisir l'année"))
+      << Programme.LaMain().accessibleName().toStdString();
+  Programme.Dialogues.Fait("Quelle année scolaire",
+                           [this](QWidget&) { Programme.Presser({Qt::Key_Return}); });
+  Programme.Presser({Qt::Key_Space});
   EXPECT_EQ(Globals.AnneeScolaire, 2026);
 
   Activer("Mon école : Ouvrir");
   Remplacer("edNomEcole", "École des Tilleuls");
   Remplacer("edCompteBancaire", "BE68 5390 0754 7034");
-  Presser({Qt::CTRL | Qt::Key_1});
+  Programme.Presser({Qt::CTRL | Qt::Key_1});
   EXPECT_EQ(Parametre(11), "BE68 5390 0754 7034") << "a key that leaves the screen stores the field";
 
   TFichierRegistre registre(1);
@@ -101,9 +81,9 @@ TEST_F(PremierJour, FromNothingToTheFirstInvoiceByKeyboardAlone) {
   Activer("Etape n°2 : Démarrer le transfert des données");
   EXPECT_EQ(Etat(), "9 élèves transférés : 9 nouveaux, 0 mis à jour");
 
-  Presser({Qt::CTRL | Qt::Key_1});
+  Programme.Presser({Qt::CTRL | Qt::Key_1});
   Activer("Services : Encoder les tarifs");
-  Presser({Qt::Key_F7});
+  Programme.Presser({Qt::Key_F7});
   Choisir("cmbTypeFamille", 1);
   Choisir("cmbTypeJour", 6);
   Remplacer("edHeureDebut", "7:00");
@@ -112,26 +92,26 @@ TEST_F(PremierJour, FromNothingToTheFirstInvoiceByKeyboardAlone) {
   Remplacer("edCout", "1,5");
   Choisir("cmbTypeForfait", 1);
   Remplacer("edCout2eEnfant", "1");
-  Presser({Qt::Key_F9});
+  Programme.Presser({Qt::Key_F9});
   EXPECT_EQ(Base.Rangees("SELECT TYPE_FAMILLE, TYPE_JOUR, COUT, TYPE_FORFAIT FROM TARIF_GARDERIE"),
             QStringList("1;6;1.5000;1"));
 
-  Presser({Qt::CTRL | Qt::Key_1});
+  Programme.Presser({Qt::CTRL | Qt::Key_1});
   Activer("Paramètres : Ouvrir");
   Remplacer("memFacture", "Merci de payer avec");
 
-  Presser({Qt::CTRL | Qt::Key_1});
+  Programme.Presser({Qt::CTRL | Qt::Key_1});
   Activer("Frais : Encoder les frais");
-  Presser({Qt::Key_F7});
+  Programme.Presser({Qt::Key_F7});
   Ecrire("Piscine");
   Remplacer("edMontant", "12,5");
   Choisir("cmbConcerne", 0);
   Choisir("cmbMois", 3);
-  Jusqu("Classes concernées");
-  Presser({Qt::Key_Home, Qt::Key_Space, Qt::Key_F9});
+  Programme.Jusqu("Classes concernées");
+  Programme.Presser({Qt::Key_Home, Qt::Key_Space, Qt::Key_F9});
   EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM FRAIS_ELEVE"), "9") << Etat().toStdString();
 
-  Presser({Qt::CTRL | Qt::Key_1, Qt::ALT | Qt::Key_P});
+  Programme.Presser({Qt::CTRL | Qt::Key_1, Qt::ALT | Qt::Key_P});
   QTRY_COMPARE(Programme.Main().CommandeOuverte()->Nom(), u"Présences");  // a mnemonic clicks a moment later
   OuvreFichier("Importer un fichier de présence",
                Base.Fichier("scans.txt", "12341;1;20261103;073000;1\n12341;1;20261104;074500;1\n"));
@@ -140,23 +120,23 @@ TEST_F(PremierJour, FromNothingToTheFirstInvoiceByKeyboardAlone) {
   Activer("Etape n°2 : Mémoriser les présences");
   EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM PRESENCES"), "2");
 
-  Presser({Qt::ALT | Qt::Key_L});
+  Programme.Presser({Qt::ALT | Qt::Key_L});
   QTRY_COMPARE(Programme.Main().CommandeOuverte()->Nom(), u"Élèves");
-  Presser({Qt::Key_F3});
+  Programme.Presser({Qt::Key_F3});
   Ecrire("nom");
   EXPECT_EQ(Globals.EleveCourant->NomComplet(), "Nom 1234-1 Zoé");
   QString facture;
   Programme.Dialogues.Fait("Assistant d'impression", [this](QWidget&) {
-    for (int i = 0; i < 20 && !EstIci("Facture"); ++i) Presser({Qt::Key_Down});
-    Presser({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
+    for (int i = 0; i < 20 && !Programme.EstIci("Facture"); ++i) Programme.Presser({Qt::Key_Down});
+    Programme.Presser({Qt::Key_Return, Qt::Key_Return, Qt::Key_Return});
   });
   Programme.Dialogues.Fait("Aperçu", [&](QWidget& fenetre) {
     auto& apercu = dynamic_cast<VueApercu&>(fenetre);
     QTRY_VERIFY(!apercu.Form().Document().Pages.empty());
     facture = apercu.Form().Document().TexteDePage(0);
-    Presser({Qt::Key_Escape});
+    Programme.Presser({Qt::Key_Escape});
   });
-  Presser({Qt::Key_F8});
+  Programme.Presser({Qt::Key_F8});
   for (const char* texte : {"Nom 1234-1", "3,00", "Piscine", "12,50", "Merci de payer avec"})
     EXPECT_TRUE(facture.contains(texte)) << texte << " in " << facture.toStdString();
 }

@@ -1,8 +1,12 @@
 #include "support/controleur_essai.h"
-#include "support/fichier_coda.h"
+#include "support/fichier_camt.h"
 #include "workflows/import_virements.h"
 
+using FichierCamt::Camt;
+
 namespace {
+
+const QString kEcole = u"BE33123456789012"_s;
 
 /// A payment of layout A.
 struct TVersement {
@@ -11,23 +15,22 @@ struct TVersement {
   QString Donneur = u"DUPONT"_s;
 };
 
-class TImportVirementsEssai : public testing::Test {
- protected:
+struct TImportVirementsEssai : TEssaiControleur {
   TImportVirementsEssai() {
-    for (int i = 0; i < 2; ++i) ecole_.unEleve().enClasse(u"P1"_s, u"A"_s);
+    for (int i = 0; i < 2; ++i) ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
   }
 
   QString Fichier(const std::vector<TVersement>& versements) {
     QString texte = u";\n"_s.repeated(13);
     for (const TVersement& v : versements)
       texte += u"x;05/10/2016;;;BE68;%1;;;;;%2;EUR;;;%3\n"_s.arg(v.Donneur, v.Montant, v.Communication);
-    return base_.Fichier(u"releve.csv"_s, texte.toUtf8());
+    return base.Fichier(u"releve.csv"_s, texte.toUtf8());
   }
   /// Both steps on a freshly loaded year; the status text.
   QString ImporterFichier(const QString& fichier, int annee = 2016) {
     Globals.Parametres.reset();  // they may have changed
-    essai_.Charger(annee);
-    TImportVirements import(essai_.Controleur);
+    essai.Charger(annee);
+    TImportVirements import(essai.Controleur);
     EXPECT_TRUE(import.Etape1(fichier));
     import.Etape2();
     etats_.clear();
@@ -39,48 +42,27 @@ class TImportVirementsEssai : public testing::Test {
     return ImporterFichier(Fichier(versements), annee);
   }
   QStringList Extraits() {
-    return base_.Rangees(u"SELECT EXTRAIT_ID, COMMUNICATION FROM EXTRAITS ORDER BY 1"_s);
+    return base.Rangees(u"SELECT EXTRAIT_ID, COMMUNICATION FROM EXTRAITS ORDER BY 1"_s);
   }
   QStringList Credits() {
-    return base_.Rangees(
+    return base.Rangees(
         u"SELECT ELEVE_ID, EXTRAIT_ID, MOIS, TYPE_FAMILLE_FRAIS, MONTANT_VERSE FROM FRAIS_ELEVE ORDER BY "
         "FRAIS_ELEVE_ID"_s);
   }
 
-  TBaseEssai base_;
-  TEcoleEssai ecole_{base_};
-  TControleurEssai essai_{base_};
   QStringList etats_;
 };
 
 /// A statement in a camt.053 file: number, account, day of October 2016, old balance in euros, payments
 /// of 10.
 QString Stmt(int numero, const QString& compte, int jour, int ancien, const QStringList& communications) {
-  const auto solde = [jour](const char* genre, qsizetype euros) {
-    return u"<Bal><Tp><CdOrPrtry><Cd>%1</Cd></CdOrPrtry></Tp><Amt "
-           u"Ccy='EUR'>%2</Amt><CdtDbtInd>CRDT</CdtDbtInd>"
-           "<Dt><Dt>2016-10-%3</Dt></Dt></Bal>"_s.arg(QString::fromLatin1(genre))
-               .arg(euros)
-               .arg(jour, 2, 10, QChar(u'0'));
-  };
-  QString texte = u"<Stmt><Id>S</Id><LglSeqNb>%1</LglSeqNb><Acct><Id><IBAN>%2</IBAN></Id></Acct>"_s.arg(
-                      QString::number(numero), compte) +
-                  solde("OPBD", ancien) + solde("CLBD", ancien + 10 * communications.size());
+  using namespace FichierCamt;
+  const QString date = u"2016-10-%1"_s.arg(jour, 2, 10, QChar(u'0'));
+  QString contenu = Solde("OPBD", QString::number(ancien), "CRDT", date) +
+                    Solde("CLBD", QString::number(ancien + 10 * communications.size()), "CRDT", date);
   for (const QString& communication : communications)
-    texte +=
-        u"<Ntry><Amt Ccy='EUR'>10</Amt><CdtDbtInd>CRDT</CdtDbtInd><Sts>BOOK</Sts><BookgDt><Dt>2016-10-%1</Dt>"
-        "</BookgDt><NtryDtls><TxDtls><RltdPties><Dbtr><Nm>DUPONT</Nm></Dbtr><DbtrAcct><Id><IBAN>BE68</IBAN></"
-        "Id>"
-        "</DbtrAcct></RltdPties><RmtInf><Ustrd>%2</Ustrd></RmtInf></TxDtls></NtryDtls></Ntry>"_s
-            .arg(jour, 2, 10, QChar(u'0'))
-            .arg(communication);
-  return texte + u"</Stmt>"_s;
-}
-
-QByteArray Camt(const QString& releves) {
-  return u"<Document xmlns='urn:iso:std:iso:20022:tech:xsd:camt.053.001.02'><BkToCstmrStmt><GrpHdr/>%1"
-         "</BkToCstmrStmt></Document>"_s.arg(releves)
-             .toUtf8();
+    contenu += Ecriture("10", "CRDT", Valeur(date) + Details(Detail("DUPONT", "BE68", Libre(communication))));
+  return FichierCamt::Releve(numero, compte, contenu);
 }
 
 QByteArray Releve(int numero, const QString& compte, int jour, int ancien,
@@ -129,13 +111,13 @@ TEST_F(TImportVirementsEssai, TheMonthLayout) {
                                     u"1;8;10;0;-3.2500"_s}));
   EXPECT_EQ(etats_[0], u"Comptabilisé 1");
   EXPECT_EQ(etats_[3], u"Inconnu 0") << "counted, but nobody has it";
-  EXPECT_EQ(base_.Rangees(u"SELECT FIRST 1 ANNEE_SCOLAIRE, LISTEFRAIS_ID, REMARQUE, DATE_VERSEMENT, "
-                          "GROUPE_FRAIS_ID FROM FRAIS_ELEVE"_s),
+  EXPECT_EQ(base.Rangees(u"SELECT FIRST 1 ANNEE_SCOLAIRE, LISTEFRAIS_ID, REMARQUE, DATE_VERSEMENT, "
+                         "GROUPE_FRAIS_ID FROM FRAIS_ELEVE"_s),
             QStringList{u"2016;-;Votre virement du 05/10/2016;-;-"_s});
 }
 
 TEST_F(TImportVirementsEssai, TheCompactLayout) {
-  ecole_.parametre(107, u"1"_s);
+  ecole.parametre(107, u"1"_s);
   const std::vector<TVersement> versements{{u"+++000/0001/01600+++"_s}, {u"+++100/0001/01600+++"_s},
                                            {u"+++200/0001/01600+++"_s}, {u"+++300/0002/01600+++"_s},
                                            {u"+++900/0002/01600+++"_s}, {u"+++x00/0002/01600+++"_s},
@@ -146,7 +128,7 @@ TEST_F(TImportVirementsEssai, TheCompactLayout) {
   EXPECT_EQ(Credits(), credits);
   EXPECT_EQ(Importer(versements), Bilan(8, 6, 2)) << "counted again";
   EXPECT_EQ(Credits(), credits);
-  ecole_.parametre(114, u"1"_s);
+  ecole.parametre(114, u"1"_s);
   EXPECT_EQ(Importer(versements), Bilan(8, 7, 1));
   EXPECT_EQ(Credits(), credits += u"1;7;0;0;10.0000"_s);
 }
@@ -159,7 +141,7 @@ TEST_F(TImportVirementsEssai, NothingIsStoredTwice) {
   EXPECT_EQ(Extraits().size(), 3);
   EXPECT_EQ(Credits().size(), 2);
   // In the next year they are last year's.
-  base_.Sql(u"UPDATE ELEVES_CLASSES SET ANNEE_SCOLAIRE = 2017"_s);
+  base.Sql(u"UPDATE ELEVES_CLASSES SET ANNEE_SCOLAIRE = 2017"_s);
   EXPECT_EQ(Importer({a, {u"+++000/0110/17102+++"_s}, b}, 2017), Bilan(3, 1, 0, 2));
   EXPECT_EQ(etats_, (QStringList{u"Année précédente 0"_s, u"Comptabilisé 1"_s, u"Année précédente 0"_s}));
   EXPECT_EQ(Extraits().size(), 4);
@@ -169,7 +151,7 @@ TEST_F(TImportVirementsEssai, TwinsAreTwoPayments) {
   const TVersement a{u"+++000/0110/16104+++"_s}, jumeau = a;
   EXPECT_EQ(Importer({a, jumeau}), Bilan(2, 2, 0, 0));
   EXPECT_EQ(Credits(), (QStringList{u"1;1;10;2;10.0000"_s, u"1;2;10;2;10.0000"_s}));
-  base_.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
   EXPECT_EQ(Importer({a, jumeau}), Bilan(2, 2, 0, 0)) << "both are the first one, counted twice";
   EXPECT_EQ(Credits(), QStringList{u"1;1;10;2;10.0000"_s});
 }
@@ -177,21 +159,21 @@ TEST_F(TImportVirementsEssai, TwinsAreTwoPayments) {
 // A step 2 that was cut off between two twins goes on, whatever is done meanwhile.
 TEST_F(TImportVirementsEssai, AfterACutTheSecondTwinHasItsPupilToo) {
   const TVersement a{u"+++000/0110/16104+++"_s}, jumeau = a;
-  base_.Sql(
+  base.Sql(
       u"CREATE TRIGGER REFUS FOR FRAIS_ELEVE BEFORE INSERT AS BEGIN IF (NEW.EXTRAIT_ID = 2) THEN "
       "NEW.ELEVE_ID = NULL; END"_s);
-  essai_.Charger();
-  TImportVirements import(essai_.Controleur);
+  essai.Charger();
+  TImportVirements import(essai.Controleur);
   ASSERT_TRUE(import.Etape1(Fichier({a, jumeau})));
   EXPECT_THROW(import.Etape2(), Exception);
   import.Vider();
   import.Etape2();
-  base_.Sql(u"DROP TRIGGER REFUS"_s);
+  base.Sql(u"DROP TRIGGER REFUS"_s);
   Importer({TVersement{u"merci"_s}});
   EXPECT_EQ(Credits().size(), 1);
   Importer({a, jumeau});
   EXPECT_EQ(Credits(), (QStringList{u"1;1;10;2;10.0000"_s, u"1;2;10;2;10.0000"_s}));
-  base_.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
   Importer({a, jumeau});
   EXPECT_EQ(Credits().size(), 1) << "it has come to its end: both are the first one";
 }
@@ -200,24 +182,24 @@ TEST_F(TImportVirementsEssai, AMovementBelongsToOnePupil) {
   const TVersement a{u"+++000/0110/16104+++"_s};
   Importer({a});
   for (const QString& disposition : {u"0"_s, u"1"_s}) {
-    base_.Sql(u"UPDATE FRAIS_ELEVE SET ELEVE_ID = 2, ANNEE_SCOLAIRE = 2015"_s);
-    base_.Sql(u"UPDATE EXTRAITS SET COMMUNICATION = '+++100/0001/01600+++'"_s);
-    ecole_.parametre(107, disposition);
+    base.Sql(u"UPDATE FRAIS_ELEVE SET ELEVE_ID = 2, ANNEE_SCOLAIRE = 2015"_s);
+    base.Sql(u"UPDATE EXTRAITS SET COMMUNICATION = '+++100/0001/01600+++'"_s);
+    ecole.parametre(107, disposition);
     Importer({TVersement{u"+++100/0001/01600+++"_s}});
     EXPECT_EQ(Credits().size(), 1) << disposition.toStdString();
     EXPECT_EQ(etats_, QStringList{u"Comptabilisé 2"_s});
-    base_.Sql(u"DELETE FROM PARAMETRE WHERE PARAMETRE_ID = 107"_s);
+    base.Sql(u"DELETE FROM PARAMETRE WHERE PARAMETRE_ID = 107"_s);
   }
-  base_.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = 1"_s);
+  base.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = 1"_s);
   Importer({TVersement{u"+++100/0001/01600+++"_s}});
   EXPECT_EQ(etats_, QStringList{u"Caché 2"_s});
   // Given by another workstation between the two steps.
-  base_.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
-  base_.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = NULL, COMMUNICATION = '+++000/0110/16104+++'"_s);
-  essai_.Charger();
-  TImportVirements import(essai_.Controleur);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
+  base.Sql(u"UPDATE EXTRAITS SET FLG_IGNORE = NULL, COMMUNICATION = '+++000/0110/16104+++'"_s);
+  essai.Charger();
+  TImportVirements import(essai.Controleur);
   EXPECT_TRUE(import.Etape1(Fichier({a})));
-  base_.Sql(
+  base.Sql(
       u"INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID, MONTANT_VERSE) "
       "SELECT 77, 2, 2016, EXTRAIT_ID, MONTANT FROM EXTRAITS"_s);
   import.Etape2();
@@ -228,8 +210,8 @@ TEST_F(TImportVirementsEssai, WhatIsNoNumberEndsTheCrediting) {
   const TVersement a{u"+++000/0110/16104+++"_s}, faux{u"+++00x/0110/16104+++"_s},
       c{u"+++000/0210/16204+++"_s};
   const QString fichier = Fichier({a, faux, c});
-  essai_.Charger();
-  TImportVirements import(essai_.Controleur);
+  essai.Charger();
+  TImportVirements import(essai.Controleur);
   ASSERT_TRUE(import.Etape1(fichier));
   EXPECT_THROW(import.Etape2(), EConvertError);
   EXPECT_EQ(import.Statut(), u"Le fichier compte 3 mouvements.");
@@ -241,121 +223,86 @@ TEST_F(TImportVirementsEssai, WhatIsNoNumberEndsTheCrediting) {
 }
 
 TEST_F(TImportVirementsEssai, AFaultStoresNothing) {
-  essai_.Charger();
-  TImportVirements import(essai_.Controleur);
-  base_.Dialogues.Attend(u"Ligne 15 : « dix » n'est pas un montant"_s);
+  essai.Charger();
+  TImportVirements import(essai.Controleur);
+  base.Dialogues.Attend(u"Ligne 15 : « dix » n'est pas un montant"_s);
   EXPECT_FALSE(import.Etape1(Fichier({{u"000011016166"_s}, {u"b"_s, u"dix"_s}, {u"c"_s}})));
   ASSERT_EQ(import.Rangees().size(), 1U);
   EXPECT_EQ(import.Rangees()[0].Etat, TEtatMouvement::Nouveau) << "only the row in fault is unreadable";
   ASSERT_TRUE(import.Faute().has_value());
   EXPECT_EQ(import.Faute()->Montant, u"dix");
   EXPECT_EQ(import.Statut(), QString());
-  base_.Dialogues.Attend(
+  base.Dialogues.Attend(
       u"Une erreur s'est produite pendant l'ouverture du fichier.\r\nLe code d'erreur est :"_s);
-  EXPECT_FALSE(import.Etape1(base_.Chemin(u"rien32.csv"_s)));
+  EXPECT_FALSE(import.Etape1(base.Chemin(u"rien32.csv"_s)));
   EXPECT_TRUE(import.Rangees().empty());
   EXPECT_TRUE(MessageOuverture(u"32 occupé"_s).startsWith(u"Le fichier de mouvement est déjà ouvert"));
   EXPECT_EQ(Extraits(), QStringList());
 }
 
-TEST_F(TImportVirementsEssai, EveryLayoutOfTheParameter) {
-  const QString blancs(10, u' ');
-  for (const auto& [parametre, debut, ligne] :
-       {std::tuple(u"1"_s, u";\n"_s.repeated(14),
-                   u"x;;;05/10/2016;BE68;DUPONT;;;+++000/0110/16104+++;;10,00\n"_s),
-        {u"2"_s, u"x\n"_s,
-         QString(u"x;;;;05-10-16;;10,00;;;De: DUPONT" % blancs % u"IBAN: BE68" % blancs %
-                 u"Communication : ***000/0110/16104*** ")},
-        {u"autre"_s, u";\n"_s.repeated(13),
-         u"x;05/10/2016;;;BE68;DUPONT;;;;;10,00;EUR;;;+++000/0110/16104+++"_s}}) {
-    ecole_.parametre(58, parametre);
-    ImporterFichier(base_.Fichier(u"releve"_s, (debut + ligne).toUtf8()));
-    EXPECT_EQ(Extraits(), QStringList{u"1;+++000/0110/16104+++"_s}) << "the same payment in all layouts";
-    base_.Sql(u"DELETE FROM PARAMETRE WHERE PARAMETRE_ID = 58"_s);
-  }
-  const QStringList un{u"+++000/0110/16104+++"_s};
-  for (const QByteArray& releve : {ReleveCoda(7, 5, 0, un), Releve(8, u"BE33123456789012"_s, 5, 10, un)}) {
-    ImporterFichier(base_.Fichier(u"releve"_s, releve));
-    EXPECT_EQ(Extraits(), QStringList{u"1;+++000/0110/16104+++"_s}) << "and in the banks' own files";
-  }
-  EXPECT_EQ(Credits(), QStringList{u"1;1;10;2;10.0000"_s});
-}
-
 // Days that two files share are asked about and stored once; what is the same on another day is not the same.
 TEST_F(TImportVirementsEssai, TwoFilesWithAStatementInCommon) {
-  const QString a = u"+++000/0110/16104+++"_s, b = u"merci"_s, ecole = u"BE33123456789012"_s;
-  const QByteArray fichiers[][2] = {{Camt(Stmt(7, ecole, 5, 0, {a, b}) + Stmt(8, ecole, 6, 20, {a})),
-                                     Camt(Stmt(8, ecole, 6, 20, {a}) + Stmt(9, ecole, 7, 30, {b, a}))},
+  const QString a = u"+++000/0110/16104+++"_s, b = u"merci"_s;
+  const QByteArray fichiers[][2] = {{Camt(Stmt(7, kEcole, 5, 0, {a, b}) + Stmt(8, kEcole, 6, 20, {a})),
+                                     Camt(Stmt(8, kEcole, 6, 20, {a}) + Stmt(9, kEcole, 7, 30, {b, a}))},
                                     {ReleveCoda(7, 5, 0, {a, b}) + "\r\n" + ReleveCoda(8, 6, 20, {a}),
                                      ReleveCoda(8, 6, 20, {a}) + "\r\n" + ReleveCoda(9, 7, 30, {b, a})}};
   for (const auto& [premier, second] : fichiers) {
-    ImporterFichier(base_.Fichier(u"releve"_s, premier));
+    ImporterFichier(base.Fichier(u"releve"_s, premier));
     EXPECT_EQ(Extraits().size(), 3);
-    base_.Dialogues.Repond(u"a déjà été importé"_s, true);
-    ImporterFichier(base_.Fichier(u"releve"_s, second));
-    EXPECT_EQ(base_.Rangees(u"SELECT DATE_VIREMENT, COMMUNICATION FROM EXTRAITS ORDER BY EXTRAIT_ID"_s),
+    base.Dialogues.Repond(u"a déjà été importé"_s, true);
+    ImporterFichier(base.Fichier(u"releve"_s, second));
+    EXPECT_EQ(base.Rangees(u"SELECT DATE_VIREMENT, COMMUNICATION FROM EXTRAITS ORDER BY EXTRAIT_ID"_s),
               (QStringList{u"2016-10-05;"_s + a, u"2016-10-05;merci"_s, u"2016-10-06;"_s + a,
                            u"2016-10-07;merci"_s, u"2016-10-07;"_s + a}));
     EXPECT_EQ(Credits().size(), 3);
     for (const QString& table : {u"FRAIS_ELEVE"_s, u"EXTRAITS"_s, u"RELEVE_BANQUE"_s})
-      base_.Sql(u"DELETE FROM "_s + table);
+      base.Sql(u"DELETE FROM "_s + table);
   }
 }
 
 // What a statement says of itself guards against storing it twice, and against one that is missing.
 TEST_F(TImportVirementsEssai, AStatementIsAskedAboutBeforeItIsDoubted) {
-  const QString ecole = u"BE33123456789012"_s;
-  ecole_.parametre(11, u"BE33 1234 5678 9012"_s);
+  ecole.parametre(11, u"BE33 1234 5678 9012"_s);
   const auto lit = [&](const QByteArray& releve, const QString& question, bool oui = false) {
     SCOPED_TRACE(question.toStdString());
     Globals.Parametres.reset();
-    essai_.Charger(2016);
-    if (!question.isEmpty()) base_.Dialogues.Repond(question, oui);
-    TImportVirements import(essai_.Controleur);
-    const bool lu = import.Etape1(base_.Fichier(u"releve.xml"_s, releve));
+    essai.Charger(2016);
+    if (!question.isEmpty()) base.Dialogues.Repond(question, oui);
+    TImportVirements import(essai.Controleur);
+    const bool lu = import.Etape1(base.Fichier(u"releve.xml"_s, releve));
     if (lu) import.Etape2();
     EXPECT_EQ(lu, question.isEmpty() || oui);
     return Extraits().size();
   };
-  EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), {}), 2);
-  EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s), 2);
-  EXPECT_EQ(lit(Releve(7, ecole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s, true), 2)
+  EXPECT_EQ(lit(Releve(7, kEcole, 5, 100, {u"a"_s, u"b"_s}), {}), 2);
+  EXPECT_EQ(lit(Releve(7, kEcole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s), 2);
+  EXPECT_EQ(lit(Releve(7, kEcole, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s, true), 2)
       << "no row twice";
   EXPECT_EQ(lit(ReleveCoda(7, 5, 100, {u"a"_s, u"b"_s}), u"a déjà été importé"_s), 2) << "in another form";
-  EXPECT_EQ(lit(Releve(9, ecole, 7, 120, {u"c"_s}), u"ne suit pas le relevé n° 7 du 05/10/2016"_s), 2);
-  EXPECT_EQ(lit(Releve(8, ecole, 6, 500, {u"c"_s}), u"il en manque un entre les deux"_s), 2);
+  EXPECT_EQ(lit(Releve(9, kEcole, 7, 120, {u"c"_s}), u"ne suit pas le relevé n° 7 du 05/10/2016"_s), 2);
+  EXPECT_EQ(lit(Releve(8, kEcole, 6, 500, {u"c"_s}), u"il en manque un entre les deux"_s), 2);
   EXPECT_EQ(lit(Releve(8, u"BE71096123456769"_s, 6, 120, {u"c"_s}),
                 u"est celui du compte BE71096123456769, et le compte de l'école est BE33123456789012"_s),
             2);
   EXPECT_EQ(lit(Releve(8, u"123456789012"_s, 6, 120, {u"c"_s}), {}), 3)
       << "the old number of the same account";
-  EXPECT_EQ(lit(Releve(8, ecole, 6, 120, {u"b"_s, u"c"_s}), {}), 4)
+  EXPECT_EQ(lit(Releve(8, kEcole, 6, 120, {u"b"_s, u"c"_s}), {}), 4)
       << "b of another day is another payment, c is there";
-}
-
-// The same payments by the bank's own file, and the table of the same days.
-TEST_F(TImportVirementsEssai, AStatementAndATableOfTheSameDays) {
-  const QString communication = u"+++000/0110/16104+++"_s;
-  ImporterFichier(base_.Fichier(u"releve.xml"_s, Releve(7, u"BE33"_s, 5, 0, {communication, u"merci"_s})));
-  EXPECT_EQ(Extraits(), (QStringList{u"1;"_s + communication, u"2;merci"_s}));
-  Importer({{communication}, {u"autre texte"_s}});
-  EXPECT_EQ(Extraits().size(), 2) << "perhaps the second one, and waits to be ticked";
-  EXPECT_EQ(etats_.last(), u"Peut-être déjà importé 0");
-  EXPECT_EQ(Credits().size(), 1);
 }
 
 // What is known throughout is no reason to doubt another payment, be it twice in the file.
 TEST_F(TImportVirementsEssai, TwinsCastNoDoubtOnAThird) {
-  ImporterFichier(base_.Fichier(u"releve"_s, ReleveCoda(7, 5, 0, {u"merci"_s, u"merci"_s})));
-  ImporterFichier(base_.Fichier(u"releve"_s, ReleveCoda(8, 5, 20, {u"merci"_s, u"merci"_s, u"autre"_s})));
+  ImporterFichier(base.Fichier(u"releve"_s, ReleveCoda(7, 5, 0, {u"merci"_s, u"merci"_s})));
+  ImporterFichier(base.Fichier(u"releve"_s, ReleveCoda(8, 5, 20, {u"merci"_s, u"merci"_s, u"autre"_s})));
   EXPECT_EQ(Extraits(), (QStringList{u"1;merci"_s, u"2;merci"_s, u"3;autre"_s}));
 }
 
 TEST_F(TImportVirementsEssai, WhatCannotBeStoredLeaves) {
-  essai_.Charger();
-  TImportVirements import(essai_.Controleur);
+  essai.Charger();
+  TImportVirements import(essai.Controleur);
   ASSERT_TRUE(import.Etape1(Fichier({{u"+++000/0110/16104+++"_s}})));
-  base_.Sql(u"ALTER TABLE EXTRAITS ADD OBLIGATOIRE INTEGER CHECK (OBLIGATOIRE IS NOT NULL)"_s);
+  base.Sql(u"ALTER TABLE EXTRAITS ADD OBLIGATOIRE INTEGER CHECK (OBLIGATOIRE IS NOT NULL)"_s);
   EXPECT_THROW(import.Etape2(), EDistributor);
   EXPECT_EQ(Globals.Extraits->Count(), 0);
   EXPECT_EQ(import.Rangees()[0].Etat, TEtatMouvement::Nouveau);

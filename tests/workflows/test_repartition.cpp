@@ -16,24 +16,23 @@ const QString kCompte = u"BE68539007547034"_s;
 Currency C(std::int64_t centimes) { return Currency::Brut(centimes * 100); }
 
 /// Three children of one family who owe 20, 10 and nothing; a movement of 24 euros.
-class TRepartitionEssai : public testing::Test {
- protected:
+struct TRepartitionEssai : TEssaiControleur {
   TRepartitionEssai() {
-    const int frais[] = {ecole_.frais(u"Piscine"_s, u"20"_s, 10), ecole_.frais(u"Sortie"_s, u"10"_s, 10)};
+    const int frais[] = {ecole.frais(u"Piscine"_s, u"20"_s, 10), ecole.frais(u"Sortie"_s, u"10"_s, 10)};
     for (int i = 0; i < 3; ++i) {
-      TEleveEssai eleve = ecole_.unEleve().enClasse(u"P1"_s, u"A"_s);
+      TEleveEssai eleve = ecole.unEleve().enClasse(u"P1"_s, u"A"_s);
       if (i < 2) eleve.doit(frais[i]);
     }
-    base_.Sql(u"UPDATE COUNTERS SET VALEUR = 6 WHERE TABLE_NAME = 'EXTRAITS'"_s);
+    base.Sql(u"UPDATE COUNTERS SET VALEUR = 6 WHERE TABLE_NAME = 'EXTRAITS'"_s);
     Mouvement(u"24"_s, kCompte, u"DUPONT-LEROY Marie"_s);  // 7
   }
   int Mouvement(const QString& montant, const QString& compte, const QString& donneur) {
-    return ecole_.mouvement(donneur, u"2016-10-05"_s, montant, compte);
+    return ecole.mouvement(donneur, u"2016-10-05"_s, montant, compte);
   }
   TExtrait& Charger(int id = 7) {
     Globals = {};
-    essai_.Charger();
-    return *essai_.Controleur.Extraits().TrouverParId(id);
+    essai.Charger();
+    return *essai.Controleur.Extraits().TrouverParId(id);
   }
   static std::vector<TEleve*> Eleves(const std::vector<int>& cles) {
     std::vector<TEleve*> eleves;
@@ -41,7 +40,7 @@ class TRepartitionEssai : public testing::Test {
     return eleves;
   }
   QStringList Lignes() {
-    return base_.Rangees(
+    return base.Rangees(
         u"SELECT ELEVE_ID, EXTRAIT_ID, MONTANT_VERSE, FLG_PART, TYPE_FAMILLE_FRAIS FROM FRAIS_ELEVE WHERE "
         "EXTRAIT_ID > 0 ORDER BY FRAIS_ELEVE_ID"_s);
   }
@@ -54,10 +53,6 @@ class TRepartitionEssai : public testing::Test {
     const TProposition* evidente = TPropositions::Evidente(trouvees);
     return textes.join(u'|') % (evidente != nullptr ? u" => %1"_s.arg(evidente->Eleve->Id) : QString());
   }
-
-  TBaseEssai base_;
-  TEcoleEssai ecole_{base_};
-  TControleurEssai essai_{base_};
 };
 
 }  // namespace
@@ -107,7 +102,7 @@ TEST_F(TRepartitionEssai, PlusieursLignesDUnMouvement) {
   EXPECT_EQ(EtatExtrait(extrait), TEtatMouvement::Comptabilise);
   for (const auto& trop : {parts, {}})
     EXPECT_EQ(FauteParts(extrait, trop), u"Ce mouvement est déjà attribué en entier.");
-  EXPECT_EQ(LireAttributions(*base_)[7].size(), 3U);
+  EXPECT_EQ(LireAttributions(*base)[7].size(), 3U);
   // One of them deleted leaves the others, and its part is free again.
   TAllFraisEleve& deux = *Eleves({2})[0]->GetAllFrais();
   deux.Remove(deux[deux.Count() - 1]);
@@ -122,18 +117,18 @@ TEST_F(TRepartitionEssai, PlusieursLignesDUnMouvement) {
 TEST_F(TRepartitionEssai, ToutesLesPartsOuAucune) {
   TExtrait& extrait = Charger();
   const auto parts = ProposerParts(extrait, Eleves({1, 2}));
-  TEleveEssai(ecole_, 3).paie(u"24"_s, 0, 0, {});
-  base_.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 7 WHERE ELEVE_ID = 3"_s);
+  TEleveEssai(ecole, 3).paie(u"24"_s, 0, 0, {});
+  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 7 WHERE ELEVE_ID = 3"_s);
   EXPECT_THROW(CrediterParts(extrait, parts, {}), Exception) << "given whole";
-  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE ELEVE_ID = 3"_s);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE WHERE ELEVE_ID = 3"_s);
   for (const QString& obstacle :
        {u"FRAIS_ELEVE ADD CONSTRAINT OBSTACLE CHECK (ELEVE_ID <> 2)"_s,
         u"COUNTERS ADD CONSTRAINT OBSTACLE CHECK (TABLE_NAME <> 'FRAIS_ELEVE' OR VALEUR < %1)"_s.arg(
-            base_->GetNextId(u"FRAIS_ELEVE"_s) + 3)}) {  // a key for the first part only
-    base_.Sql(u"ALTER TABLE "_s + obstacle);
-    if (obstacle.startsWith(u'C')) base_.Dialogues.Attend(u"Operation violates CHECK"_s);
+            base->GetNextId(u"FRAIS_ELEVE"_s) + 3)}) {  // a key for the first part only
+    base.Sql(u"ALTER TABLE "_s + obstacle);
+    if (obstacle.startsWith(u'C')) base.Dialogues.Attend(u"Operation violates CHECK"_s);
     EXPECT_THROW(CrediterParts(extrait, parts, {}), Exception) << obstacle.toStdString();
-    base_.Sql(QString(u"ALTER TABLE " % obstacle.section(u' ', 0, 0) % u" DROP CONSTRAINT OBSTACLE"));
+    base.Sql(QString(u"ALTER TABLE " % obstacle.section(u' ', 0, 0) % u" DROP CONSTRAINT OBSTACLE"));
     EXPECT_EQ(Lignes(), QStringList());
   }
   EXPECT_EQ(Eleves({1})[0]->GetAllFrais()->Count(), 1);
@@ -144,8 +139,8 @@ TEST_F(TRepartitionEssai, DeuxPostesDonnentLeMemeMouvement) {
   TExtrait& extrait = Charger();
   TEleve* un = Eleves({1})[0];
   un->GetAllFrais();
-  TDataModule1 poste(base_.Dialogues, base_.Reglages);
-  poste.ServerName = base_.FichierDeDonnees();
+  TDataModule1 poste(base.Dialogues, base.Reglages);
+  poste.ServerName = base.FichierDeDonnees();
   poste.Connecter();
   const auto refus = [&](const QString& fait, const std::function<void()>& geste) {
     TTransactionCommune autre(poste);
@@ -169,7 +164,7 @@ TEST_F(TRepartitionEssai, DeuxPostesDonnentLeMemeMouvement) {
       u"INSERT INTO FRAIS_ELEVE (FRAIS_ELEVE_ID, ELEVE_ID, ANNEE_SCOLAIRE, EXTRAIT_ID, MONTANT_VERSE) "
       "VALUES (77, 2, 2016, 7, 24)"_s;
   EXPECT_EQ(refus(donne, entier), u"Ce mouvement est déjà attribué à Eleve2 Prenom2.");
-  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
   EXPECT_EQ(refus(donne,
                   [&] {
                     CrediterParts(extrait, {{un, C(100)}}, {});
@@ -179,7 +174,7 @@ TEST_F(TRepartitionEssai, DeuxPostesDonnentLeMemeMouvement) {
   TAllFraisEleve& lignes = *un->GetAllFrais();
   EXPECT_EQ(lignes.Count(), 1) << "nothing stays behind in memory";
   // A payment that is made more, and one that was deleted and comes back.
-  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
   CrediterParts(extrait, {{un, C(100)}}, {});
   const auto plus = [&] {
     lignes[1].MontantVerse = C(200);
@@ -190,10 +185,10 @@ TEST_F(TRepartitionEssai, DeuxPostesDonnentLeMemeMouvement) {
       "MONTANT_VERSE, FLG_PART) VALUES (77, 2, 2016, 7, 23, 1)"_s;
   EXPECT_EQ(refus(reste, plus), u"Il ne reste que 0,00 € de ce mouvement de la banque : il manque 1,00 €.");
   EXPECT_EQ(lignes[1].MontantVerse, C(100));
-  base_.Sql(u"UPDATE FRAIS_ELEVE SET MONTANT_VERSE = IIF(ELEVE_ID = 1, 0.5, 23.5) WHERE EXTRAIT_ID = 7"_s);
+  base.Sql(u"UPDATE FRAIS_ELEVE SET MONTANT_VERSE = IIF(ELEVE_ID = 1, 0.5, 23.5) WHERE EXTRAIT_ID = 7"_s);
   lignes[1].MontantVerse = Currency::Brut(7500);
   EXPECT_THROW(RangerPaiement(lignes, lignes.Add(lignes[1])), ERefusMouvement) << "lowered by another, full";
-  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
   const auto retour = [&] {
     auto ligne = std::make_unique<TFraisEleve>();
     ligne->ExtraitId = 7;
@@ -201,7 +196,7 @@ TEST_F(TRepartitionEssai, DeuxPostesDonnentLeMemeMouvement) {
     RangerPaiement(lignes, lignes.Add(std::move(ligne)));
   };
   EXPECT_EQ(refus(donne, retour), u"Le mouvement de la banque a été attribué autrement entre-temps.");
-  base_.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
+  base.Sql(u"DELETE FROM FRAIS_ELEVE WHERE EXTRAIT_ID = 7"_s);
   EXPECT_EQ(refus(u"UPDATE EXTRAITS SET FLG_IGNORE = 1"_s, retour),
             u"Le mouvement de la banque a été caché entre-temps.");
   EXPECT_EQ(Lignes(), QStringList());
@@ -209,32 +204,31 @@ TEST_F(TRepartitionEssai, DeuxPostesDonnentLeMemeMouvement) {
 
 TEST_F(TRepartitionEssai, QuiAPuPayerEtPourquoi) {
   EXPECT_EQ(Propositions(Charger()), QString());
-  base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'be68 5390 0754 7034' WHERE ELEVE_ID = 2"_s);
-  base_.Sql(
+  base.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'be68 5390 0754 7034' WHERE ELEVE_ID = 2"_s);
+  base.Sql(
       u"UPDATE ELEVES SET NOM_RESPONSABLE = 'Dupont', PRENOM_RESPONSABLE = 'Marie' WHERE ELEVE_ID = 1"_s);
-  base_.Sql(
-      u"UPDATE ELEVES SET NOM_RESPONSABLE = 'Dupont', PRENOM_RESPONSABLE = 'Paul' WHERE ELEVE_ID = 3"_s);
-  TEleveEssai(ecole_, 2).enClasse(u"P2"_s, u"B"_s);
+  base.Sql(u"UPDATE ELEVES SET NOM_RESPONSABLE = 'Dupont', PRENOM_RESPONSABLE = 'Paul' WHERE ELEVE_ID = 3"_s);
+  TEleveEssai(ecole, 2).enClasse(u"P2"_s, u"B"_s);
   EXPECT_EQ(Propositions(Charger()), u"2 compte de l'élève|1 nom d'un adulte => 2") << "enrolled twice, once";
   EXPECT_EQ(ElevesUneFois(*Globals.Eleves).size(), 3U);
   Mouvement(u"21"_s, kCompte, u"X"_s);  // 8
-  TEleveEssai(ecole_, 3).paie(u"1"_s, 0, 0, {});
-  base_.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 8, FLG_PART = 1 WHERE ELEVE_ID = 3"_s);
+  TEleveEssai(ecole, 3).paie(u"1"_s, 0, 0, {});
+  base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 8, FLG_PART = 1 WHERE ELEVE_ID = 3"_s);
   EXPECT_EQ(Propositions(Charger()),
             u"2 compte de l'élève|3 a déjà payé par ce compte|1 nom d'un adulte => 2");
   EXPECT_EQ(Propositions(Charger(8)), u"2 compte de l'élève|3 a déjà payé par ce compte|1 doit 20,00 € => 2")
       << "what is left of it";
-  base_.Sql(u"UPDATE FRAIS_ELEVE SET FLG_PART = NULL"_s);
+  base.Sql(u"UPDATE FRAIS_ELEVE SET FLG_PART = NULL"_s);
   EXPECT_EQ(Propositions(Charger(8)), QString()) << "given whole";
-  base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = NULL"_s);
+  base.Sql(u"UPDATE ELEVES SET NUM_COMPTE = NULL"_s);
   EXPECT_EQ(Propositions(Charger(Mouvement(u"-20"_s, kCompte, u"X"_s))), QString()) << "the school pays";
   EXPECT_EQ(Propositions(Charger(Mouvement(u"3"_s, {}, u"MARIE DUPONT ET P. DUPONT"_s))),
             u"1 nom d'un adulte|3 nom d'un adulte")
       << "nobody stands out";
   for (int i = 0; i < 3; ++i)
-    base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'BE68539007547034' WHERE ELEVE_ID = "_s +
-              QString::number(ecole_.unEleve().enClasse(u"P1"_s, {}).Id));
+    base.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'BE68539007547034' WHERE ELEVE_ID = "_s +
+             QString::number(ecole.unEleve().enClasse(u"P1"_s, {}).Id));
   EXPECT_NE(Propositions(Charger()), QString()) << "four pupils";
-  base_.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'BE68539007547034' WHERE ELEVE_ID = 1"_s);
+  base.Sql(u"UPDATE ELEVES SET NUM_COMPTE = 'BE68539007547034' WHERE ELEVE_ID = 1"_s);
   EXPECT_EQ(Propositions(Charger()), QString()) << "a public service";
 }

@@ -142,15 +142,6 @@ TEST_F(TTabletteEssai, PicturesAreCopiedWhenTheyChanged) {
   EXPECT_EQ(Reglage("Photo"), u"4 octobre");
 }
 
-TEST_F(TTabletteEssai, NoMealIsStoredTwice) {
-  Transferer();
-  Taps("11;2;20161003;120000000;1\n11;2;20161003;120000000;1\n21;2;20161003;120000000;1\n");
-  Transferer();
-  Taps("11;2;20161003;120000000;1\n21;2;20161004;120000000;1");  // another tablet, and an old copy
-  Transferer();
-  EXPECT_EQ(Presences(), (QStringList{"1;2;2016-10-03", "2;2;2016-10-03", "2;2;2016-10-04"}));
-}
-
 TEST_F(TTabletteEssai, RefusalsLeaveTheFileAndStayConnected) {
   const QByteArray taps = "99;2;20161003;120000000;1\n11;2;20161005;120000000;1\n11;2;20170703;120000000;1\n";
   Transferer();
@@ -185,30 +176,6 @@ TEST_F(TTabletteEssai, MealsAreCountedOnceAndTheLastOneIsRemembered) {
   EXPECT_EQ(bilan.Repas * 100 + bilan.Bons * 10 + bilan.Anomalies, 241);
   const TServiceHorsLigne service(base.Reglages, base.Dialogues);
   EXPECT_EQ(service.DernierJour(), J("2016-09-30"));
-}
-
-TEST_F(TTabletteEssai, ABrokenLineIsNamedAndNothingIsStored) {
-  Transferer();
-  Taps("11;2;20161003;120000000;1\n11;x;20161004;120000000;1\n");
-  EXPECT_TRUE(Refus([&] { Transferer(); }).startsWith(u"Ligne 2 : "));
-  EXPECT_EQ(Reglage("Transfert"), u"0");
-  EXPECT_TRUE(QFile::exists(Fichiers().Repas));
-  EXPECT_EQ(Presences(), QStringList());
-}
-
-TEST_F(TTabletteEssai, WithoutAServerTheTabletGoesOnOffLine) {
-  Transferer();
-  base.Reglages.Ecrire(TRacine::Machine, "Serveur", base.Fichier("mauvais.fdb", QByteArray(5000, 'z')));
-  base.Dialogues.Reessaie(true).Reessaie(false);
-  const TBilanTransfert bilan = Transferer();
-  EXPECT_TRUE(!bilan.Connecte && bilan.HorsLigne);
-  EXPECT_FALSE(essai.Fenetre.Faits.contains("fin")) << "giving up does not end the program";
-  // Cut short, it starts off-line again.
-  Regler("Transfert", "1");
-  Regler("Offline", "0");
-  essai.Controleur.FormShow();
-  EXPECT_TRUE(Globals.ModeHorsLigne);
-  EXPECT_EQ(Reglage("Offline") + Reglage("Transfert"), u"10");
 }
 
 TEST_F(TTabletteEssai, AFolderThatTakesNoFileIsTold) {

@@ -55,9 +55,7 @@ class Recapitulatif : public TReglagesEssai {
     Programme.Dialogues.Fichier("Exporter la liste", chemin)
         .Attend("L'exportation des informations est terminée.");
     Cliquer("Exporter la liste");
-    QFile fichier(chemin);
-    EXPECT_TRUE(fichier.open(QIODevice::ReadOnly));
-    return fichier.readAll();
+    return LireFichier(chemin);
   }
   TFrmRecapitulatif& Ecran() { return Form<TFrmRecapitulatif>(); }
 };

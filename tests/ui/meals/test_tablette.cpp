@@ -1,11 +1,6 @@
 // A tablet from its first load to the transfer and back: serving without a server.
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
-#include <QScrollArea>
-#include <QThread>
-#include <cstdio>
-#include <random>
 
 #include "core/fichiers.h"
 #include "screens/meals/frm_presence_repas.h"
@@ -15,8 +10,6 @@
 #include "ui/meals/repas_essai.h"
 
 namespace {
-
-constexpr char kMontre[] = "a meal shows";
 
 class Tablette : public TRepasEssai {
  protected:
@@ -69,21 +62,6 @@ class Tablette : public TRepasEssai {
     Programme.Demarrer();
     Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
     Programme.Ouvrir(TGestionnaire::btnReservationTabletteClick);
-  }
-  /// Serves a class in the window, says each meal that shows, and waits to be killed.
-  void ServirSansFin(const QString& dossier) {
-    Base.Reglages.Ecrire(TRacine::Utilisateur, "DossierPresences", dossier);
-    Programme.Demarrer();
-    ToucherClasse("P1", "P1 A");
-    auto* defile =
-        Programme.Fenetre().findChild<CadreEleve*>()->parentWidget()->parentWidget()->parentWidget();
-    for (CadreEleve* cadre : Programme.Fenetre().findChildren<CadreEleve*>()) {
-      dynamic_cast<QScrollArea&>(*defile).ensureWidgetVisible(cadre);
-      Toucher(cadre->accessibleName());
-      if (cadre->accessibleName().endsWith("Repas complet")) std::puts(kMontre);
-      std::fflush(stdout);
-    }
-    for (;;) QThread::sleep(1);
   }
   QStringList Presences() {
     Base->ServerName = Base.FichierDeDonnees();
@@ -180,46 +158,6 @@ TEST_F(Tablette, AnAnomalyIsShownBeforeItIsAskedAbout) {
   });
   Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
   EXPECT_TRUE(Montre("1 repas transféré, les élèves sont à jour."));
-}
-
-// What the window has shown is on the disk whenever it ends, and the next one shows it.
-TEST_F(Tablette, TheWindowIsKilledBetweenTaps) {
-  if (const QString dossier = qEnvironmentVariable("CALPENNE_A_TUER"); !dossier.isEmpty())
-    return ServirSansFin(dossier);
-  constexpr int kEleves = 20, kMorts = 4;
-  Base->ServerName = Base.FichierDeDonnees();
-  Base->Connecter();
-  for (int i = 3; i < kEleves; ++i) Ecole.unEleve().enClasse("P1", "A");
-  Base->Deconnecter();
-  Programme.Demarrer();
-  Programme.Ouvrir(TGestionnaire::btnTransfertRepasClick);
-  Programme.Fermer();
-  std::mt19937 hasard(2016);
-  for (int mort = 0; mort < kMorts; ++mort) {
-    const int fatal = std::uniform_int_distribution(1, kEleves - 3)(hasard);
-    SCOPED_TRACE(fatal);
-    QFile::remove(Repas());
-    QProcess programme;
-    QProcessEnvironment milieu = QProcessEnvironment::systemEnvironment();
-    milieu.insert("CALPENNE_A_TUER", QFileInfo(Repas()).path());
-    milieu.insert("TMPDIR", QFileInfo(Base.FichierDeDonnees()).path());  // what it leaves goes with the test
-    programme.setProcessEnvironment(milieu);
-    programme.start(QCoreApplication::applicationFilePath(),
-                    {"--gtest_filter=Tablette.TheWindowIsKilledBetweenTaps"});
-    QByteArray dit;
-    while (dit.count(kMontre) < fatal && programme.waitForReadyRead())
-      dit += programme.readAllStandardOutput();
-    programme.kill();
-    programme.waitForFinished();
-    const qsizetype montres = dit.count(kMontre);
-    ASSERT_GE(montres, fatal) << dit.constData();
-    const QByteArray notes = LireFichier(Repas());
-    EXPECT_TRUE(notes.endsWith('\n') && notes.count('\n') >= montres) << notes.constData();
-    Programme.Demarrer();
-    ToucherClasse("P1", "P1 A");
-    EXPECT_EQ(Cadres().filter("Repas complet").size(), notes.count('\n'));
-    Programme.Fermer();
-  }
 }
 
 TEST_F(Tablette, AFingerThatScrollsServesNobody) {
