@@ -23,7 +23,7 @@ void ChoisirEleves(const TSession& session, const QStringList& numeros, TChoixDo
   for (const QString& numero : numeros) choix.Eleves.push_back(&session.Eleve(numero));
 }
 
-void Choisir(const TSession& session, TChoixDocument& choix) {
+void Choisir(const TSession& session, const TTitreDocument& document, TChoixDocument& choix) {
   const QString qui = session.UneSeule({u"tous"_s, u"eleves"_s, u"classes"_s});
   if (qui == u"eleves")
     ChoisirEleves(session, session.Option(qui).split(u',', Qt::SkipEmptyParts), choix);
@@ -32,7 +32,10 @@ void Choisir(const TSession& session, TChoixDocument& choix) {
   else
     choix.Eleves = Globals.Eleves->Tous();
   choix.TouteLEcole = qui == u"tous";
-  if (choix.Eleves.empty() && choix.Classes.empty()) throw Exception(u"Aucun élève n'a été sélectionné !"_s);
+  // A year on display without pupils leaves those of the other school year.
+  const bool ailleurs = document.ParAnneeRevenus && choix.TouteLEcole;
+  if (choix.Eleves.empty() && choix.Classes.empty() && !ailleurs)
+    throw Exception(u"Aucun élève n'a été sélectionné !"_s);
 }
 
 /// What the page of the wizard asks and says.
@@ -57,7 +60,7 @@ int Document(TSession& session) {
   if (session.A(u"annee-revenus"_s) && !document->ParAnneeRevenus)
     throw EMauvaisAppel(u"Le document « %1 » n'a pas d'option --annee-revenus."_s.arg(titre));
   session.Ouvrir();
-  if (document->AvecEleves) Choisir(session, choix);
+  if (document->AvecEleves) Choisir(session, *document, choix);
   const TPeriode periode =
       document->AvecPeriode ? session.Periode() : BornesAnnee(Globals.Eleves->AnneeScolaire);
   choix.DateDebut = periode.Premier;

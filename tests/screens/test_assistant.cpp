@@ -221,41 +221,26 @@ TEST_F(Assistant, ATitleOfACalendarYearAsksForItInThePlaceOfAPeriod) {
   TTitreAssistant fiche{u"Fiche"_s};
   fiche.Annees = {2016, 2015};
   fiche.Annee = 2016;
-  fiche.Portee = [](const TChoixDocument& choix) {
-    return (choix.TouteLEcole ? u"toute l'école "_s : u"choisis "_s) % QString::number(choix.AnneeRevenus);
-  };
-  const auto ouvrir = [&](int titre, const std::function<void()>& geste) {
-    return *Ouvrir(
-        [&] {
-          assistant.ChoixRapportClick(titre);
-          EXPECT_TRUE(assistant.PageVisible(Periode));
-          geste();
-          Finir();
-        },
-        TDemandeAssistant::De({{u"Facture"_s, true}, fiche}));
-  };
-  TChoixDocument choix = ouvrir(1, [&] {
-    assistant.RbEleveClick(Classes);
-    Cocher(assistant.LstClasse, u"P2"_s);
-    EXPECT_EQ(assistant.Resume(), u"Fiche  ·  1 classe, 2 élèves  ·  revenus de 2016");
-    EXPECT_EQ(assistant.Portee(), u"choisis 2016");
-  });
-  EXPECT_EQ(choix.AnneeRevenus, 2016);
-  EXPECT_FALSE(choix.TouteLEcole);
-  for (const TChoixQui qui : {Classes, Eleves}) {
-    choix = ouvrir(1, [&] {
-      assistant.RbEleveClick(qui);
-      assistant.btnToutSelectionnerClick();
-      assistant.ChoisirAnnee(2015);
-      EXPECT_EQ(assistant.Portee(), u"toute l'école 2015");
-      assistant.RbMoisClick(TChoixPeriode::Periode);  // of another title, left behind
-      assistant.Dates().Taper(0, u"31/02/2017"_s);
-    });
-    EXPECT_EQ(choix.AnneeRevenus, 2015);
-    EXPECT_TRUE(choix.TouteLEcole);
-  }
-  choix = ouvrir(0, [&] { assistant.RbMoisClick(TChoixPeriode::Annee); });
-  EXPECT_EQ(choix.AnneeRevenus, 0);
+  for (const bool tous : {false, true})
+    for (const TChoixQui qui : {Classes, Eleves}) {
+      const auto choix = Ouvrir(
+          [&] {
+            assistant.RbEleveClick(qui);
+            assistant.btnRienSelectionnerClick();
+            Cocher(qui == Classes ? assistant.LstClasse : assistant.LstEleve, tous ? u""_s : u"P2"_s);
+            if (!tous) Cocher(assistant.LstEleve, u"Luc"_s);
+            EXPECT_TRUE(assistant.PageVisible(Periode));
+            EXPECT_TRUE(assistant.Resume().endsWith(u"revenus de 2016"));
+            if (tous) assistant.ChoisirAnnee(2015);
+            assistant.RbMoisClick(TChoixPeriode::Periode);  // of another title, left behind
+            assistant.Dates().Taper(0, u"31/02/2017"_s);
+            Finir();
+          },
+          TDemandeAssistant::De({fiche}));
+      ASSERT_TRUE(choix);
+      EXPECT_EQ(choix->AnneeRevenus, tous ? 2015 : 2016);
+      EXPECT_EQ(choix->TouteLEcole, tous);
+    }
 }
 
 TEST_F(Assistant, BothRefusalsLeaveItOpen) {

@@ -92,8 +92,7 @@ void Photographe::Manques() {
             return true;
           },
           [](QWidget& fenetre) {
-            Bouton(fenetre, u"Tout sélectionner"_s)->click();
-            Suivant(fenetre);
+            Suivant(fenetre);  // the classes of the document before
             return true;
           },
           [this](QWidget& fenetre) {
