@@ -21,7 +21,7 @@ void Suivant(QWidget& fenetre) { dynamic_cast<DialogueBase&>(fenetre).Principal(
 void Photographe::Signaletique() {
   TFrmMain& main = programme_.Main;
   main.edSearchChange({});
-  main.edSearchChange(u"LAMB"_s);
+  ChoisirEleve();
   main.Executer(TGestionnaire::AdvGlowButton2Click);
   Attendre(50);
   Prendre(programme_.Fenetre, u"signaletique"_s);

@@ -80,7 +80,7 @@ void Photographe::TransfertDeTicket(TFrmTicket& form) {
 void Photographe::Repas() {
   using enum TGestionnaire;
   TFrmMain& main = programme_.Main;
-  main.edSearchChange(u"LAMB"_s);
+  ChoisirEleve();
   main.Executer(btnTicketClick);
   auto& tickets = Ecran<TFrmTicket>();
   tickets.ChoisirPage(0);

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTextStream>
 
 #include "app/captures/photographe.h"
 #include "screens/payments/frm_virement.h"
@@ -32,8 +33,21 @@ void Photographe::Virements() {
   pages->setCurrentIndex(1);
   Attendre(50);
   Prendre(programme_.Fenetre, u"virements-historique"_s);
-  form->btnComptabiliseClick();  // the unknown ones
-  form->Historique.ChoisirLigne(0);
+  pages->setCurrentIndex(2);
+  Attendre(50);
+  Prendre(programme_.Fenetre, u"virements-releve"_s);
+  pages->setCurrentIndex(1);
+  Attribution(*form);
+}
+
+void Photographe::Attribution(TFrmVirement& form) {
+  form.btnComptabiliseClick();  // the unknown ones
+  if (form.Historique.NombreLignes() == 0) {
+    QTextStream(stderr)
+        << "Aucun mouvement n'est inconnu : les images de l'attribution ne sont pas prises.\n";
+    return;
+  }
+  form.Historique.ChoisirLigne(0);
   Suivre({[this](QWidget& fenetre) {
     Prendre(fenetre, u"attribution-proposee"_s);
     auto* nom = fenetre.findChild<QLineEdit*>();
@@ -49,12 +63,9 @@ void Photographe::Virements() {
     fenetre.close();
     return true;
   }});
-  form->grdHistoriqueDblClick();
-  const QString eleve = form->Historique.Texte(form->Historique.LigneCourante(), TFrmVirement::Eleve);
-  Repartition(*form);
-  pages->setCurrentIndex(2);
-  Attendre(50);
-  Prendre(programme_.Fenetre, u"virements-releve"_s);
+  form.grdHistoriqueDblClick();
+  const QString eleve = form.Historique.Texte(form.Historique.LigneCourante(), TFrmVirement::Eleve);
+  Repartition(form);
   Comptes(eleve);
 }
 

@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QTabWidget>
 
+#include "application/globals.h"
 #include "screens/commun/frm_liste.h"
 
 using namespace Qt::StringLiterals;
@@ -117,6 +118,11 @@ void Photographe::Declencher(const QString& texte) {
   for (QAction* action : programme_.Fenetre.findChildren<QAction*>())
     if (action->text().startsWith(texte)) return action->trigger();
   throw Exception(u"« " % texte % u" » manque.");
+}
+
+void Photographe::ChoisirEleve() {
+  programme_.Main.edSearchChange(u"LAMB"_s);
+  if (Globals.EleveCourant == nullptr) programme_.Main.edSearchChange((*Globals.Eleves->begin()).Nom);
 }
 
 void Photographe::Liste(TGestionnaire ecran, int ligne, const QString& champ, const QString& nom) {

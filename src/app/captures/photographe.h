@@ -84,11 +84,14 @@ class Photographe : public QObject {
   /// Tickets, orders, kitchen, accounts and sales.
   void Repas();
   void CommandeIncomplete(TFrmReservation& form);
+  /// A pupil of that name, whom the small school has not: there the first one.
+  void ChoisirEleve();
   /// Of a pupil without one there is no picture, which is told.
   void TransfertDeTicket(TFrmTicket& form);
   /// The three pages, the attribution of what is unknown, and the accounts that the record learns from it.
   void Virements();
   /// The last unknown payment, between two pupils of the year.
+  void Attribution(TFrmVirement& form);
   void Repartition(TFrmVirement& form);
   /// The record of the pupil to whom the movements went.
   void Comptes(const QString& eleve);
