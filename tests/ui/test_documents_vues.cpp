@@ -102,26 +102,6 @@ TEST_F(DocumentsVues, AnInvoiceByClassAndMonthFromTheKeyboard) {
   Programme.Main().OutilClick(TOutil::btnPrint);
 }
 
-TEST_F(DocumentsVues, FromTheRecordToThePreviewWithADateOfPayment) {
-  Globals.Parametres->SetParametre(TParam::DatePaiement, u"1"_s);
-  Globals.Parametres->SetParametre(TParam::CompteBanque, u"BE68 5390 0754 7034"_s);
-  Programme.Main().edSearchChange(u"Bastin"_s);
-  Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
-  Programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
-    ChoisirBouton(fenetre, u"Facture"_s);
-    ::Cliquer(fenetre, u"Suivant >"_s);
-    EXPECT_TRUE(TextesDe(fenetre).contains(u"Bastin Élise"_s));
-    ::Cliquer(fenetre, u"Suivant >"_s);
-    ::Cliquer(fenetre, u"Imprimer"_s);
-  });
-  Programme.Dialogues.Saisit(u"Introduire la date de paiement"_s, u"24/12/2016"_s);
-  Programme.Dialogues.Apercu(u"Aperçu"_s, [](const QString& texte) {
-    for (const char* dit : {"Bastin", "185,00", "24 décembre 2016"})
-      EXPECT_TRUE(texte.contains(dit)) << texte.toStdString();
-  });
-  Programme.Main().OutilClick(TOutil::btnPrint);
-}
-
 TEST_F(DocumentsVues, WizardWithoutPeriodAndItsRefusals) {
   Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
   Programme.Dialogues.Fait(u"Assistant d'impression"_s, [](QWidget& fenetre) {
