@@ -166,20 +166,3 @@ TEST_F(TTabletteInterrompue, Taps) {
     EXPECT_GE(notes.count('\n'), dit.count('\n') - 1) << "what it has said is noted is on the disk";
   }
 }
-
-// The disk refuses: the tap is told, and what was noted before stays.
-TEST_F(TTabletteInterrompue, AFullDisk) {
-  ASSERT_TRUE(QFile::copy(base_.FichierDeDonnees(), Chemin("depart.fdb")));
-  Preparer({});
-  Executer(Mots(u"tablette transferer"_s));
-  const QByteArray avant = "11;2;20161003;120000000;1\n";
-  Fichier("presences/presences.txt", avant);
-  QProcess programme;
-  programme.start(u"sh"_s,
-                  {u"-c"_s, u"trap '' XFSZ; ulimit -f 0; exec \"$0\" \"$@\""_s, QStringLiteral(CALPENNE_LOT),
-                   u"tablette"_s, u"toucher"_s, u"2"_s, u"--jour"_s, u"03/10/2016"_s});
-  ASSERT_TRUE(programme.waitForFinished(kLimiteMs));
-  EXPECT_EQ(programme.exitCode(), 1);
-  EXPECT_TRUE(QString::fromUtf8(programme.readAllStandardError()).contains(u"presences.txt"));
-  EXPECT_EQ(Taps(), avant);
-}

@@ -156,22 +156,15 @@ TEST(Connexion, OnlyWhoMayNotWriteTheMachinesSettingsIsWarned) {
       u"\nAttention : Afin de ne plus afficher ce message, veuillez exécuter cette opération avec un compte "
       "administrateur"_s;
   for (const bool inscriptible : {true, false}) {
-    struct TNote : TDialoguesScenario {
-      std::optional<QString> Saisir(const TSaisie& saisie) override {
-        Invite = saisie.Invite;
-        return u"poste1"_s;
-      }
-      QString Invite;
-    } dialogues;
     TBaseEssai base;
     // Behind a file there is no folder, not even for an administrator.
     const QString racine =
         inscriptible ? base.Chemin(u"machine"_s) : QString(base.Fichier(u"fichier"_s, "x") + u"/machine");
     machine.Mettre(racine);
-    TDataModule1 module(dialogues, base.Reglages);
-    EXPECT_EQ(module.CanWriteMachineKey(), inscriptible);
-    module.AskServerName();
-    EXPECT_EQ(dialogues.Invite, inscriptible ? invite : QString(invite + attention));
+    EXPECT_EQ(base->CanWriteMachineKey(), inscriptible);
+    base.Dialogues.Saisit(invite, u"poste1"_s);
+    base->AskServerName();
+    EXPECT_EQ(base.Dialogues.Invites.last(), inscriptible ? invite : QString(invite + attention));
     const TRacine ou = inscriptible ? TRacine::Machine : TRacine::Utilisateur;
     EXPECT_EQ(base.Reglages.Lire(ou, u"Serveur"_s), u"poste1");
   }

@@ -2,8 +2,6 @@
 #include "forms/champs.h"
 #include "support/valeurs.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct TFiche {

@@ -3,8 +3,6 @@
 #include "support/grilles.h"
 #include "support/valeurs.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct TEleveFictif {};

@@ -18,19 +18,24 @@
 namespace {
 
 /// Says nothing and refuses everything, whatever the bytes lead to.
-class TMuet : public IDialogues {
+class TMuet : public TDialoguesScenario {
   void Message(const QString&) override {}
   void Information(const QString&) override {}
   bool Confirmer(const QString&) override { return false; }
   std::optional<QString> Saisir(const TSaisie&) override { return {}; }
-  std::optional<QString> ChoisirFichier(const QString&, const QString&) override { return {}; }
-  std::optional<QString> FichierAEnregistrer(const QString&, const QString&, const QString&) override {
-    return {};
-  }
   bool Reessayer(const TReessai&) override { return false; }
-  void Progression(int, int, const QString&) override {}
-  void TraiterEvenements() override {}
-  void CurseurAttente(bool) override {}
+};
+
+/// A workstation on a file of its own connection.
+struct TPosteMuet {
+  TPosteMuet(TBaseEssai& ecole, TControleurEssai& essai)
+      : Base(Muet, ecole.Reglages), Controleur(Base, ecole.Reglages, essai.Fenetre, essai.Horloge) {
+    Base.ServerName = ecole.FichierDeDonnees();
+    Base.Connecter();
+  }
+  TMuet Muet;
+  TDataModule1 Base;
+  TControleur Controleur;
 };
 
 /// Whether it was not refused.
@@ -80,40 +85,30 @@ TCibles::TCibles() {
 }
 
 void TCibles::Registre(const QByteArray& octets) {
-  TMuet muet;
-  TDataModule1 base(muet, base_.Reglages);
-  base.ServerName = base_.FichierDeDonnees();
-  base.Connecter();
-  TControleur controleur(base, base_.Reglages, essai_.Fenetre, essai_.Horloge);
+  TPosteMuet poste(base_, essai_);
   Accepte([&] {
-    TImportRegistre import(controleur);
+    TImportRegistre import(poste.Controleur);
     if (import.Etape1(base_.Fichier(u"registre"_s, octets))) import.Etape2();
   });
 }
 
 void TCibles::Presences(const QByteArray& octets) {
-  TMuet muet;
-  TDataModule1 base(muet, base_.Reglages);
-  TControleur controleur(base, base_.Reglages, essai_.Fenetre, essai_.Horloge);
+  TPosteMuet poste(base_, essai_);
   Accepte([&] {
-    TImportPresences import(controleur);
+    TImportPresences import(poste.Controleur);
     import.ImporterFichier(base_.Fichier(u"scans"_s, octets));
     import.Etape2();
   });
 }
 
 void TCibles::Releve(const QByteArray& octets) {
-  TMuet muet;
-  TDataModule1 base(muet, base_.Reglages);
-  base.ServerName = base_.FichierDeDonnees();
-  base.Connecter();
-  TControleur controleur(base, base_.Reglages, essai_.Fenetre, essai_.Horloge);
+  TPosteMuet poste(base_, essai_);
   const QString fichier = base_.Fichier(u"releve"_s, octets);
   for (const QString& disposition : {u""_s, u"1"_s, u"2"_s}) {
     Globals.Parametres->SetParametre(TParam::TypeCompteBancaire, disposition);
     Globals.Parametres->SetParametre(TParam::CompteCourant, disposition);
     Accepte([&] {
-      TImportVirements import(controleur);
+      TImportVirements import(poste.Controleur);
       if (import.Etape1(fichier)) import.Etape2();
     });
   }

@@ -1,8 +1,6 @@
 #include "payments/communication_structuree.h"
 #include "support/dialogues_scenario.h"
 
-using namespace Qt::StringLiterals;
-
 TEST(CommunicationStructuree, Generateurs) {
   TDialoguesScenario dialogues;
   EXPECT_EQ(CommunicationServices(dialogues, 123, 10, 2016), u"+++001/2310/16185+++");

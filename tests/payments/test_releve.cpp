@@ -6,8 +6,6 @@
 #include "support/affichage.h"
 #include "support/valeurs.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString EnTexte(const TMouvement& m) {

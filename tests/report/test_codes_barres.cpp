@@ -67,9 +67,8 @@ TEST(CodesBarres, Defauts) {
   EXPECT_EQ(DessinerQr(QString(5000, u'x'), place).Defaut, u"Le texte est trop long pour un code QR."_s);
 }
 
-TEST(CodesBarres, UnLecteurLesRelit) {
-  const QString virement =
-      u"BCD\n002\n1\nSCT\n\nEcole de Brumeval\nBE68539007547034\nEUR640.60\n\n\n+++001/2310/16185+++"_s;
+// What a scanner reads of them: in the tests of the papers.
+TEST(CodesBarres, LeursBarresSontFaitesDePointsEntiers) {
   TDocumentPrepare document;
   TPagePreparee& page = document.Pages.emplace_back();
   // Places that are no whole dots, as margins and columns make them; a scanner gives no dash.
@@ -83,7 +82,6 @@ TEST(CodesBarres, UnLecteurLesRelit) {
                                      .Barres);
       y += 77.7F;
     }
-  page.Elements.emplace_back(DessinerQr(virement, QRectF(622.2, 660.1, 96, 96)).Barres);
 
   const QTemporaryDir dossier;
   const QString image = dossier.filePath(u"a.png"_s);
@@ -98,9 +96,5 @@ TEST(CodesBarres, UnLecteurLesRelit) {
       EXPECT_GT(suites.size(), 40U) << qPrintable(lu);
       for (const int suite : suites) EXPECT_TRUE(suite == module || suite == 3 * module) << suite;
     }
-    const QString codes = Sortie(u"zbarimg"_s, {u"-q"_s, u"--nodbus"_s, lu});
-    for (const QString& attendu : {u"CODE-39:9639\n"_s, u"CODE-39:12839\n"_s, u"Codabar:A9618A\n"_s,
-                                   u"Codabar:A12818A\n"_s, QString(u"QR-Code:" % virement % u'\n')})
-      EXPECT_TRUE(codes.contains(attendu)) << qPrintable(attendu) << "not in\n" << qPrintable(codes);
   }
 }

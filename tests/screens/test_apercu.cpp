@@ -145,14 +145,6 @@ TEST_F(Apercu, SavedAndOpenedAgain) {
   rouvert.btnEnregistrerClick();
 }
 
-TEST_F(Apercu, ExportedPdfReadBack) {
-  Ecole(1);
-  TFrmApercu form(contexte, Factures());
-  base.Dialogues.Saisit(u"Exporter en PDF"_s, base.Chemin(u"octobre.pdf"_s));
-  form.btnExporterClick();
-  EXPECT_TRUE(Sortie(u"pdftotext"_s, {base.Chemin(u"octobre.pdf"_s), u"-"_s}).contains(u"B0 Élise"_s));
-}
-
 TEST_F(Apercu, AnotherPaperAndBack) {
   Ecole(2);
   TFrmApercu form(contexte, Factures());

@@ -286,11 +286,6 @@ TEST_F(FrmMain, YearsGoOnWithTheWorkingYear) {
   EXPECT_EQ(Main.Annees(), (std::vector{2015, 2016, 2017, 2018}));
   Globals.AnneeScolaire = 2019;
   EXPECT_EQ(Main.Annees().back(), 2020);
-  Main.Executer(TGestionnaire::AdvGlowButton2Click);
-  Main.mnuAnneeClick(2017);
-  EXPECT_EQ(Globals.AnneeScolaire, 2019);
-  EXPECT_EQ(Main.AnneeCochee(), 2017);
-  EXPECT_EQ(Main.Panneau.Courante(), nullptr) << "its data are gone";
 }
 
 TEST_F(FrmMain, FirstUseUntilThereArePupils) {

@@ -8,8 +8,6 @@
 #include "core/firebird_interne.h"
 #include "core/query_internal.h"
 
-using namespace Qt::StringLiterals;
-
 TBaseEssai::TBaseEssai() : TBaseEssai(QStringLiteral(CALPENNE_MODELE)) {}
 
 TBaseEssai::TBaseEssai(const QString& depart) {

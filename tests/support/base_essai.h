@@ -7,8 +7,6 @@
 #include "core/fichiers.h"
 #include "support/dialogues_scenario.h"
 
-using namespace Qt::StringLiterals;
-
 /// An open database of the test's own, with the present layout and no rows, in a temporary folder.
 class TBaseEssai {
  public:

@@ -50,5 +50,6 @@ class TControleurEssai {
 
 /// The same, with the controller over it.
 struct TEssaiControleur : TEssaiEcole {
+  static TEleve& Eleve(int id) { return *Globals.Eleves->TrouverParId(id); }
   TControleurEssai essai{base};
 };

@@ -53,6 +53,7 @@ bool TDialoguesScenario::Confirmer(const QString& question) {
 }
 
 std::optional<QString> TDialoguesScenario::Saisir(const TSaisie& saisie) {
+  Invites += saisie.Invite;
   while (true) {
     const auto reponse = Suivant(TSorte::Saisie, saisie.Titre + u'\n' + saisie.Invite).reponse;
     const QString refus = reponse && saisie.Refus ? saisie.Refus(*reponse) : QString();

@@ -35,6 +35,7 @@ class TDialoguesScenario : public IDialogues {
   void CurseurAttente(bool actif) override;
 
   QStringList Dits;       ///< every message and information shown so far
+  QStringList Invites;    ///< every prompt of an input so far
   QStringList Questions;  ///< every question asked so far
   int Progressions = 0;   ///< calls of Progression
   int Attentes = 0;       ///< wait cursors not yet ended

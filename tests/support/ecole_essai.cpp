@@ -1,7 +1,5 @@
 #include "support/ecole_essai.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString Texte(const QString& t) { return u'\'' + QString(t).replace(u'\'', "''") + u'\''; }

@@ -1,15 +1,14 @@
 #include "support/serveur_firebird.h"
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/prctl.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QTcpServer>
+#include <QTcpSocket>
 
 using namespace Qt::StringLiterals;
 
@@ -17,32 +16,6 @@ namespace {
 
 constexpr int kAttenteDemarrageMs = 10'000;
 constexpr int kAttenteFinMs = 5'000;
-
-/// Its own port 0 asks the system for a free one.
-class TPrise {
- public:
-  explicit TPrise(quint16 port) : poignee_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-    adresse_.sin_family = AF_INET;
-    adresse_.sin_port = htons(port);
-    adresse_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  }
-  ~TPrise() { ::close(poignee_); }
-  TPrise(const TPrise&) = delete;
-  TPrise& operator=(const TPrise&) = delete;
-
-  bool Connecter() { return ::connect(poignee_, Adresse(), sizeof adresse_) == 0; }
-  quint16 Attacher() {
-    socklen_t taille = sizeof adresse_;
-    EXPECT_EQ(0, ::bind(poignee_, Adresse(), taille));
-    EXPECT_EQ(0, ::getsockname(poignee_, Adresse(), &taille));
-    return ntohs(adresse_.sin_port);
-  }
-
- private:
-  sockaddr* Adresse() { return reinterpret_cast<sockaddr*>(&adresse_); }
-  int poignee_;
-  sockaddr_in adresse_{};
-};
 
 /// The folder of the server's own files; only the server and its set-up may know it.
 QProcessEnvironment Environnement(const QString& racine) {
@@ -54,7 +27,11 @@ QProcessEnvironment Environnement(const QString& racine) {
 
 }  // namespace
 
-quint16 PortLibre() { return TPrise(0).Attacher(); }
+quint16 PortLibre() {
+  QTcpServer serveur;
+  EXPECT_TRUE(serveur.listen(QHostAddress::LocalHost));
+  return serveur.serverPort();
+}
 
 TServeurFirebird::TServeurFirebird(const QString& motDePasse) : port_(PortLibre()) {
   PreparerRacine();
@@ -131,7 +108,12 @@ void TServeurFirebird::Demarrer() {
   serveur_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
   serveur_.start(QStringLiteral(FIREBIRD_SERVEUR), QStringList());
   const QDeadlineTimer limite(kAttenteDemarrageMs);
-  while (!TPrise(port_).Connecter()) {
+  const auto repond = [this] {
+    QTcpSocket prise;
+    prise.connectToHost(QHostAddress::LocalHost, port_);
+    return prise.waitForConnected(kAttenteFinMs);
+  };
+  while (!repond()) {
     if (serveur_.waitForFinished(20) || limite.hasExpired()) {
       ADD_FAILURE() << "the server does not start: " << serveur_.readAll().toStdString();
       return;

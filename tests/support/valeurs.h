@@ -4,6 +4,8 @@
 
 #include "core/conversions.h"
 
+using namespace Qt::StringLiterals;
+
 /// "07:30" or "07:30:15"; "" is 0, no time.
 inline TDateTime H(const char* texte) {
   const QString t = QString::fromLatin1(texte);

@@ -44,6 +44,13 @@ void Cliquer(const QWidget& fenetre, const QString& texte) {
   QTest::mouseClick(bouton, Qt::LeftButton);
 }
 
+QStringList ColonneVue(const QTreeView& liste, int colonne) {
+  QStringList textes;
+  for (QModelIndex i = liste.model()->index(0, 0); i.isValid(); i = liste.indexBelow(i))
+    textes += i.siblingAtColumn(colonne).data().toString();
+  return textes;
+}
+
 TRepondeur::TRepondeur() { Revenir(); }
 
 TRepondeur::~TRepondeur() {

@@ -1,5 +1,6 @@
 #pragma once
 #include <QPushButton>
+#include <QTreeView>
 
 #include "support/controleur_essai.h"
 #include "ui/principal/programme.h"
@@ -48,6 +49,9 @@ QString TextesDe(const QWidget& fenetre);
 QAbstractButton* BoutonDe(const QWidget& fenetre, const QString& texte);
 /// Clicks it with the mouse; a missing or disabled one fails the test.
 void Cliquer(const QWidget& fenetre, const QString& texte);
+
+/// One column of a list as it stands on the screen, top to bottom.
+QStringList ColonneVue(const QTreeView& liste, int colonne = 0);
 
 /// The whole program offscreen, on a database of the test's own, with its real dialogs.
 class TProgrammeEssai {

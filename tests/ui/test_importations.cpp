@@ -187,12 +187,6 @@ TEST_F(Importations, ScansThatCannotBeReadAreRefusedAndTheWindowGoesOn) {
   Programme.Ouvrir(TGestionnaire::AdvGlowButton8Click);
   EXPECT_EQ(Etat(), u"1 relevé non mémorisé");
 
-  Programme.Ouvrir(TGestionnaire::AdvGlowButton1Click);
-  Choisit(kImporter, Base.Chemin("bon.txt"));
-  ImporterPresences();
-  Programme.Dialogues.Repond("Continuer sans les mémoriser", true);
-  Programme.Main().mnuAnneeClick(2015);
-  EXPECT_TRUE(Etat().endsWith(u" · 1 relevé non mémorisé")) << Etat().toStdString();
   EXPECT_EQ(Base.Valeur("SELECT COUNT(*) FROM PRESENCES"), u"0");
 }
 

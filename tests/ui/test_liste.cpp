@@ -32,12 +32,7 @@ struct Tarifs : TReglagesEssai {
         u"SELECT TYPE_FAMILLE, TYPE_JOUR, HEURE_DEBUT_SCAN, COUT, COUT_2E_ENFANT FROM TARIF_GARDERIE ORDER "
         "BY TARIF_GARDERIE_ID"_s);
   }
-  QStringList Colonne(int colonne) {
-    QStringList textes;
-    for (QModelIndex i = Liste().model()->index(0, 0); i.isValid(); i = Liste().indexBelow(i))
-      textes += i.siblingAtColumn(colonne).data().toString();
-    return textes;
-  }
+  QStringList Colonne(int colonne) { return ColonneVue(Liste(), colonne); }
   QStringList Outils() {
     QStringList actifs;
     for (const TOutilPrincipal& outil : OutilsPrincipaux())

@@ -18,11 +18,6 @@ namespace {
 
 const QString kErreurConnexion = u"Erreur de connexion au serveur de données"_s;
 
-/// A list, whose view is not looked at.
-struct TListeEssai : TForm {
-  explicit TListeEssai(TContexteEcran&) {}
-};
-
 class Principal : public TReglagesEssai {
  protected:
   /// "P1 A" with three pupils, the second struck off, and "P2 A" with one.
@@ -349,10 +344,7 @@ TEST_F(Principal, EveryControlOfTheWindowIsNamedReachedAndWhole) {
     EXPECT_EQ(Globals.EleveCourant->Nom, u"Dubois");
     VerifierVue(Fenetre());
     SCOPED_TRACE("the longest page of the bar");
-    for (TCommandePrincipale& commande : Programme.Main().Commandes)
-      if (commande.Gestionnaire == TGestionnaire::AdvGlowButton16Click) commande.Ecran = Ecran<TListeEssai>();
-    Programme.Main().Executer(TGestionnaire::AdvGlowButton16Click);
-    QCoreApplication::processEvents();
+    Programme.Ouvrir(TGestionnaire::AdvGlowButton16Click);
     EXPECT_TRUE(Fenetre().Barre()->Bouton(TOutil::btnDelete)->isVisible());
     EXPECT_LE(Fenetre().Barre()->minimumSizeHint().width(), 1366);
     VerifierVue(Fenetre());

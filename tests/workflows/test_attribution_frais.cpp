@@ -16,7 +16,6 @@ struct TAttribution : TEssaiControleur {
     attribution_.Ouvrir(&Frais());
   }
   TFrais& Frais() { return *Globals.ListeFrais->ParCle(frais_); }
-  TEleve& Eleve(int id) { return *Globals.Eleves->TrouverParId(id); }
   void Cocher(int id, bool coche = true) { attribution_.Cocher(Eleve(id), coche); }
   /// "1:12.5000 2:0.0000"
   QString Rangees() {

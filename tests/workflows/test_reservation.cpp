@@ -27,8 +27,6 @@ struct TReservationEssai : TEssaiControleur {
     ecole.unEleve().enClasse("PROFESSEURS", {});
   }
 
-  TEleve& Eleve(int id) const { return *Globals.Eleves->TrouverParId(id); }
-
   void Payer(const QString& eleve, const QString& montant, const QString& jour = "'2016-09-05'") {
     ecole.Ajouter("REPAS_PAIEMENT", "REPAS_PAIEMENT_ID, ELEVE_ID, MONTANT, TYPE_PAIEMENT, DATE_PAIEMENT",
                   {eleve, montant, "0", jour});

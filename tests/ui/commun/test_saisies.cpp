@@ -12,8 +12,6 @@
 #include "ui/commun/texte.h"
 #include "ui/principal/dialogue_saisie.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString T(const char* texte) { return QString::fromUtf8(texte); }

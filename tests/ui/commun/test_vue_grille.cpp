@@ -3,13 +3,10 @@
 #include <QHeaderView>
 #include <QTest>
 
-#include "support/affichage.h"
-#include "support/valeurs.h"
 #include "ui/commun/champ_filtre.h"
 #include "ui/commun/theme.h"
 #include "ui/commun/vue_grille.h"
-
-using namespace Qt::StringLiterals;
+#include "ui/programme_essai.h"
 
 namespace {
 
@@ -26,14 +23,6 @@ TGrille Frais() {
   grille.Ajouter({u"Théâtre"_s, J("2018-09-12"), M("-1182,90")});
   grille.Ajouter({u"Mer"_s, J("2019-02-01"), M("185")});
   return grille;
-}
-
-/// One column as it stands on the screen, top to bottom.
-QStringList Vus(const VueGrille& vue, int colonne = 0) {
-  QStringList textes;
-  for (QModelIndex i = vue.model()->index(0, 0); i.isValid(); i = vue.indexBelow(i))
-    textes += i.siblingAtColumn(colonne).data().toString();
-  return textes;
 }
 
 void Montrer(VueGrille& vue) {
@@ -59,11 +48,11 @@ TEST(VueGrille, TrieSelonLaValeurEtGardeLaLigne) {
   for (const auto& [colonne, ordre] :
        {std::pair(0, "Mer|Natation|Théâtre"), {1, "Théâtre|Natation|Mer"}, {2, "Théâtre|Natation|Mer"}}) {
     vue.sortByColumn(colonne, Qt::AscendingOrder);
-    EXPECT_EQ(Vus(vue), T(ordre).split(u'|')) << colonne;
+    EXPECT_EQ(ColonneVue(vue), T(ordre).split(u'|')) << colonne;
     EXPECT_EQ(vue.currentIndex().siblingAtColumn(0).data().toString(), u"Mer"_s);
     EXPECT_TRUE(vue.selectionModel()->isSelected(vue.currentIndex()));
   }
-  EXPECT_EQ(Vus(vue, 2).first(), u"−1\u202F182,90\u00A0€"_s);
+  EXPECT_EQ(ColonneVue(vue, 2).first(), u"−1\u202F182,90\u00A0€"_s);
   QTest::keyClick(&vue, Qt::Key_Home);
   EXPECT_EQ(grille.LigneCourante(), 1);
   vue.setCurrentIndex(vue.currentIndex().siblingAtColumn(2));
@@ -71,7 +60,7 @@ TEST(VueGrille, TrieSelonLaValeurEtGardeLaLigne) {
   EXPECT_EQ(coches, (std::vector<std::pair<int, bool>>{{1, true}, {1, false}}));
 
   grille.Ajouter({u"Avent"_s, {}, M("-2000")});  // keeps order and row
-  EXPECT_EQ(Vus(vue).first(), u"Avent"_s);
+  EXPECT_EQ(ColonneVue(vue).first(), u"Avent"_s);
   EXPECT_EQ(vue.currentIndex().siblingAtColumn(0).data().toString(), u"Théâtre"_s);
 }
 
@@ -83,12 +72,12 @@ TEST(VueGrille, FiltreEnTapant) {
   vue.Filtrer(champ);
   Montrer(vue);
   QTest::keyClicks(&champ, u"theatre"_s);
-  EXPECT_EQ(Vus(vue), QStringList{u"Théâtre"_s});
+  EXPECT_EQ(ColonneVue(vue), QStringList{u"Théâtre"_s});
   EXPECT_EQ(grille.LigneCourante(), -1);  // it is out of sight
   QTest::keyClick(&champ, Qt::Key_Escape);
-  EXPECT_EQ(Vus(vue).size(), 3);
+  EXPECT_EQ(ColonneVue(vue).size(), 3);
   QTest::keyClicks(&champ, u"paye"_s);  // the word of the state
-  EXPECT_EQ(Vus(vue), QStringList{u"Natation"_s});
+  EXPECT_EQ(ColonneVue(vue), QStringList{u"Natation"_s});
 }
 
 TEST(VueGrille, CopieAvecTabulations) {
@@ -121,7 +110,7 @@ TEST(VueGrille, RetientLargeursOrdreEtTri) {
   Montrer(vue);
   EXPECT_EQ(vue.header()->sectionSize(2), Theme::Px(123));
   EXPECT_EQ(vue.header()->visualIndex(3), 1);
-  EXPECT_EQ(Vus(vue), u"Mer|Natation|Théâtre"_s.split(u'|'));
+  EXPECT_EQ(ColonneVue(vue), u"Mer|Natation|Théâtre"_s.split(u'|'));
 
   TGrille autre({{u"Nom"_s}, {u"Prénom"_s}});  // what does not fit is forgotten
   VueGrille neuve(autre, u"Noms"_s, u"Essai/Frais"_s);
@@ -183,9 +172,9 @@ TEST(VueGrille, PlieLesGroupesAuClavier) {
   QObject::connect(&vue, &VueGrille::Activee, &vue, [&](int ligne) { activee = ligne; });
   Montrer(vue);
   vue.sortByColumn(1, Qt::DescendingOrder);  // within the groups only
-  EXPECT_EQ(Vus(vue), u"Matin|lundi|mardi|Soir|jeudi"_s.split(u'|'));
+  EXPECT_EQ(ColonneVue(vue), u"Matin|lundi|mardi|Soir|jeudi"_s.split(u'|'));
   vue.sortByColumn(1, Qt::AscendingOrder);
-  EXPECT_EQ(Vus(vue), u"Matin|mardi|lundi|Soir|jeudi"_s.split(u'|'));
+  EXPECT_EQ(ColonneVue(vue), u"Matin|mardi|lundi|Soir|jeudi"_s.split(u'|'));
 
   grille.ChoisirLigne(1);
   QTest::keyClick(&vue, Qt::Key_Return);
@@ -193,18 +182,18 @@ TEST(VueGrille, PlieLesGroupesAuClavier) {
   QTest::keyClick(&vue, Qt::Key_Left);  // to the head
   EXPECT_EQ(grille.LigneCourante(), 0);
   QTest::keyClick(&vue, Qt::Key_Left);
-  EXPECT_EQ(Vus(vue), u"Matin|Soir|jeudi"_s.split(u'|'));
+  EXPECT_EQ(ColonneVue(vue), u"Matin|Soir|jeudi"_s.split(u'|'));
   remplir();  // stays shut
-  EXPECT_EQ(Vus(vue), u"Matin|Soir|jeudi"_s.split(u'|'));
+  EXPECT_EQ(ColonneVue(vue), u"Matin|Soir|jeudi"_s.split(u'|'));
   ChampFiltre champ;
   vue.Filtrer(champ);
   champ.setText(u"lundi"_s);
-  EXPECT_EQ(Vus(vue), u"Matin|lundi"_s.split(u'|'));
+  EXPECT_EQ(ColonneVue(vue), u"Matin|lundi"_s.split(u'|'));
   champ.clear();
-  EXPECT_EQ(Vus(vue), u"Matin|Soir|jeudi"_s.split(u'|'));
+  EXPECT_EQ(ColonneVue(vue), u"Matin|Soir|jeudi"_s.split(u'|'));
   grille.ChoisirLigne(0);
   QTest::keyClick(&vue, Qt::Key_Space);
-  EXPECT_EQ(Vus(vue).size(), 5);
+  EXPECT_EQ(ColonneVue(vue).size(), 5);
 }
 
 TEST(VueGrille, LeNomGardeSaPlaceOuLaListeDefile) {

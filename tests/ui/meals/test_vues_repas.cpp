@@ -324,7 +324,7 @@ TEST_F(VuesRepas, BothKitchens) {
   EXPECT_TRUE(Montre(depuis + "P1 A, Repas Complet : 1 → 0  ·  P1 A, Sandwichs : 0 → 1  ·  "
                               "Sandwichs jambon : 0 → 1  ·  ALVES Rui (P1 A) : rien → Sandwichs jambon"));
   // Two who swap leave the numbers of the class as they were.
-  QFile::remove(Base.Chemin("fiche.pdf"));
+  EXPECT_TRUE(QFile::remove(Base.Chemin("fiche.pdf"))) << "it was written";
   Fiche(exporter);
   Base.Sql("UPDATE COMMANDE SET FLG_DAGO = 1 - FLG_DAGO, FLG_SANDWICH = 1 - COALESCE(FLG_SANDWICH, 0)");
   rouvrir();
