@@ -84,7 +84,7 @@ TEST_F(TScansEssai, StepTwoTellsWhatItStoredAndTheRestCanFollow) {
   base.Dialogues.Attend(kAnomalies).Attend(kMemorisees);
   import.ImporterFichier(fichier(lignes));
   EXPECT_EQ(import.NombreHorsAnnee(), 1);
-  EXPECT_EQ(LigneRecapitulatif(*import.Bons()[1])[2], TValeurVue(u"jeudi 3 septembre 2015"_s))
+  EXPECT_EQ(TexteDe(TGenre::DateLongue, LigneRecapitulatif(*import.Bons()[1])[2]), u"jeudi 3 septembre 2015")
       << "another year is seen";
   import.Etape2();
   EXPECT_EQ(import.Bilan().Memorisees, 2);
