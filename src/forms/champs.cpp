@@ -159,6 +159,9 @@ bool TChamps::Conserver(int champ, const TValeurVue& valeur) {
   Ecrire(champ, valeur);
   try {
     if (SurEnregistrer) SurEnregistrer(Champ(champ));
+  } catch (const EConvertError& e) {  // the text is at fault, not the storing
+    Ecrire(champ, avant);
+    return Echouer(champ, e.Message, SurRefus);
   } catch (const Exception& e) {
     Ecrire(champ, avant);
     return Echouer(champ, e.Message, SurEchec ? SurEchec : SurRefus);

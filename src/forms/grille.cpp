@@ -177,6 +177,15 @@ int TGrille::TrouverObjet(TObjetVu objet) const {
   return objet && trouve != lignes_.end() ? static_cast<int>(trouve - lignes_.begin()) : -1;
 }
 
+int TGrille::Voisine(int ligne) const {
+  std::vector<int> vues(lignes_.size());
+  std::iota(vues.begin(), vues.end(), 0);
+  SurOrdre(vues);
+  const auto ici = std::ranges::find(vues, ligne);
+  if (ici == vues.end()) return -1;
+  return ici + 1 != vues.end() ? ici[1] : ici != vues.begin() ? ici[-1] : -1;
+}
+
 void TGrille::ChoisirLigne(int ligne) {
   const int choisie = ligne >= 0 && ligne < NombreLignes() ? ligne : -1;
   if (choisie == courante_) return;

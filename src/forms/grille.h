@@ -2,6 +2,7 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <algorithm>
 #include <vector>
 
 #include "forms/objet_vu.h"
@@ -12,8 +13,9 @@ struct TColonneGrille {
   QString Titre;
   int Largeur = 100;  ///< in 1/96 inch
   TGenre Genre = TGenre::Texte;
-  bool SuitEtat = false;  ///< bold, in the colour of the state of its row
-  bool Egale = false;     ///< as wide as the others that are
+  bool SuitEtat = false;                         ///< bold, in the colour of the state of its row
+  bool Egale = false;                            ///< as wide as the others that are
+  QString (*Abreger)(const QString&) = nullptr;  ///< its texts in short, for a narrow column; null for none
 };
 
 /// The colour of a state.
@@ -115,6 +117,12 @@ class TGrille {
   int LigneCourante() const { return courante_; }
   /// An index outside the grid selects none.
   void ChoisirLigne(int ligne);
+  /// The row below on the screen, by its order and filter, or the one above; -1 for none.
+  int Voisine(int ligne) const;
+  /// A row is gone: chooses what was its neighbour, under the index that this has now.
+  void ChoisirApresRetrait(int retiree, int voisine) {
+    ChoisirLigne(std::min(voisine > retiree ? voisine - 1 : voisine, NombreLignes() - 1));
+  }
 
   /// The rows are shown with check boxes.
   bool CasesACocher = false;
@@ -122,6 +130,8 @@ class TGrille {
   /// Words that the user narrows the list to, on the screen and on paper; empty for all rows.
   QString Filtre;
   TSignal<TChangement> SurChangement;
+  /// Asks whoever shows it for the rows that are shown, from top to bottom; all of them until it answers.
+  TSignal<std::vector<int>&> SurOrdre;
   /// The selected row is another one.
   TSignal<> SurChoix;
 

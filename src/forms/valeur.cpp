@@ -26,11 +26,19 @@ QString DecimalesEnTexte(const TValeurVue& v) {
   return FormatPrix(m != nullptr ? m->Montant : Lire<Currency>(v));
 }
 QString PrixEnTexte(const TValeurVue& v) { return FormatPrix(Lire<Currency>(v)) % u" €"; }
-QString DateEnTexte(const TValeurVue& v) { return FormatDate(Lire<TDateTime>(v)); }
+bool EstJour(const TValeurVue& v) {
+  return std::holds_alternative<TDateTime>(v) || std::holds_alternative<TJourAnnee>(v);
+}
+TDateTime JourDe(const TValeurVue& v) {
+  const auto* avecAnnee = std::get_if<TJourAnnee>(&v);
+  return avecAnnee != nullptr ? avecAnnee->Date : Lire<TDateTime>(v);
+}
+QString DateEnTexte(const TValeurVue& v) { return FormatDate(JourDe(v)); }
 QString DateCourteEnTexte(const TValeurVue& v) {
   return LocaleEcole().toString(DateVersQt(Lire<TDateTime>(v)), u"ddd dd/MM"_s);
 }
 QString DateLongueEnTexte(const TValeurVue& v) {
+  if (std::holds_alternative<TJourAnnee>(v)) return FormatJourLong(JourDe(v));
   const TDateTime date = Lire<TDateTime>(v);
   return date == 0.0 ? QString() : FormatJour(date);
 }
@@ -87,6 +95,7 @@ QString TexteBrut(TGenre genre, const TValeurVue& valeur) {
 }
 
 int ComparerValeurs(TGenre genre, const TValeurVue& a, const TValeurVue& b) {
+  if (EstJour(a) && EstJour(b)) return Signe(JourDe(a), JourDe(b));
   if (a.index() != b.index()) return Signe(a.index(), b.index());
   if (const auto* texte = std::get_if<QString>(&a)) return ComparerTextes(*texte, std::get<QString>(b));
   if (genre == TGenre::Mois) return Signe(RangScolaire(Lire<int>(a)), RangScolaire(Lire<int>(b)));

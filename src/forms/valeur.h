@@ -14,9 +14,16 @@ struct TMontantNote {
   bool operator<(const TMontantNote& autre) const { return Montant < autre.Montant; }
 };
 
+/// A day that says its year: of another year than the one on display.
+struct TJourAnnee {
+  TDateTime Date = 0.0;
+  bool operator==(const TJourAnnee&) const = default;
+  bool operator<(const TJourAnnee& autre) const { return Date < autre.Date; }
+};
+
 /// What a cell or a field holds; `TValeurVue()` for nothing. Dates and times are TDateTime, a month is 1 to
 /// 12. A text stands in any cell: for what could not be read, or in the head of a group.
-using TValeurVue = std::variant<std::monostate, QString, int, Currency, TDateTime, TMontantNote>;
+using TValeurVue = std::variant<std::monostate, QString, int, Currency, TDateTime, TMontantNote, TJourAnnee>;
 using TCellules = std::vector<TValeurVue>;
 
 /// How the values of a column are shown and put in order.
@@ -27,7 +34,7 @@ enum class TGenre {
   Prix,        ///< the same with all the decimals it has: "0,0125 €"
   Date,        ///< "05/11/2016"
   DateCourte,  ///< "sam. 05/11"
-  DateLongue,  ///< "samedi 5 novembre"
+  DateLongue,  ///< "samedi 5 novembre", and its year when it says it
   Heure,       ///< "07:30"
   HeureH,      ///< "07h30"
   Eleves,      ///< "1 élève", "12 élèves"; an int

@@ -69,7 +69,7 @@ const QImage& TEleve::GetPhoto() const {
   return *photo_;
 }
 
-void TEleve::SetPhoto(const QImage& image) {
+bool TEleve::SetPhoto(const QImage& image) {
   const QByteArray octets = EncoderJpeg(image);
   TDataModule1& base = Base();
   int cle = 0;
@@ -81,7 +81,7 @@ void TEleve::SetPhoto(const QImage& image) {
   if (cle == 0) {
     sql = u"INSERT INTO ELEVE_PHOTO (ELEVE_PHOTO_ID, ELEVE_ID, PHOTO) VALUES (:CLE, :ELEVE, :PHOTO)"_s;
     cle = base.GetNextId(u"ELEVE_PHOTO"_s);
-    if (cle == -1) return;  // the user has been told
+    if (cle == -1) return false;
   }
   TQueryInternal(base, sql)
       .Parametre(u"CLE"_s, cle)
@@ -89,6 +89,7 @@ void TEleve::SetPhoto(const QImage& image) {
       .Parametre(u"PHOTO"_s, octets)
       .Executer();
   photo_.reset();
+  return true;
 }
 
 void TEleve::DeletePhoto() {

@@ -46,8 +46,9 @@ class TEleve : public TBaseObject {
   const QImage& GetPhoto() const;
   /// The stored picture; none without a photo.
   std::optional<QByteArray> OctetsPhoto() const;
-  /// Stores the picture at its full size. Raises Exception.
-  void SetPhoto(const QImage& image);
+  /// Stores the picture at its full size; false when no key could be had, which the user has been told.
+  /// Raises Exception.
+  bool SetPhoto(const QImage& image);
   void DeletePhoto();
 
   /// Number of the tax attestation, taken and stored at once the first time, for good. 0 when no

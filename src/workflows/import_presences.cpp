@@ -52,9 +52,9 @@ QString NomArchive(TDateTime moment) {
 
 namespace {
 
-/// The day; with its year, as a text, when it is not of the one on display.
+/// The day; with its year when it is not of the one on display.
 TValeurVue JourVu(TDateTime date) {
-  return TImportPresences::EstHorsAnnee(date) ? TValeurVue(FormatJourLong(date)) : TValeurVue(date);
+  return TImportPresences::EstHorsAnnee(date) ? TValeurVue(TJourAnnee{date}) : TValeurVue(date);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "workflows/professeurs.h"
 
+#include "core/exceptions.h"
+#include "core/transaction_commune.h"
 #include "pupils/eleves.h"
 
 using namespace Qt::StringLiterals;
@@ -21,16 +23,18 @@ QString TProfesseurs::Ajouter(const QString& nom, const QString& prenom) {
   nouveau->Prenom = prenom;
   TEleve& professeur = eleves.AddEleve(std::move(nouveau));
   try {
+    TTransactionCommune ensemble(controleur_.Base());
     eleves.Save();
-  } catch (...) {  // a later save must not try it again
-    eleves.RemoveEleve(professeur);
+    if (professeur.Id == -1) {
+      eleves.RemoveEleve(professeur);
+      return {};
+    }
+    Inscrire(professeur);
+    ensemble.Valider();
+  } catch (...) {  // he has no row, whatever was written, and a later save must not try him again
+    eleves.Forget(professeur);
     throw;
   }
-  if (professeur.Id == -1) {
-    eleves.RemoveEleve(professeur);
-    return {};
-  }
-  Inscrire(professeur);
   const QString complet = professeur.NomComplet();
   controleur_.ChargerAnnee(Globals.AnneeScolaire);
   return complet;
@@ -39,8 +43,10 @@ QString TProfesseurs::Ajouter(const QString& nom, const QString& prenom) {
 // The pupils of an earlier year on display would enrol it in that year, so the enrolment goes through
 // the enrolments of the working year.
 void TProfesseurs::Inscrire(TEleve& professeur) {
-  TElevesClasses(controleur_.Base(), Globals.AnneeScolaire)
-      .Inscrire(professeur.Id, kProfesseurs, Globals.AnneeScolaire, {}, {});
+  TElevesClasses inscriptions(controleur_.Base(), Globals.AnneeScolaire);
+  inscriptions.Inscrire(professeur.Id, kProfesseurs, Globals.AnneeScolaire, {}, {});
+  if (!inscriptions.EstInscrit(professeur.Id, Globals.AnneeScolaire))
+    throw Exception(u"Le professeur n'a pas pu être inscrit : rien n'a été enregistré."_s);
   professeur.Matricule = u"000" % QString::number(professeur.Id);
   Globals.Eleves->AddEleve(professeur);
   Globals.Eleves->Save();

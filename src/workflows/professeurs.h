@@ -8,8 +8,7 @@ class TProfesseurs {
 
   static bool EstProfesseur(const TEleve& eleve);
   /// Enrols a teacher in the working year, which comes on display, and gives the full name; "" when no key
-  /// could be had, which the user has been told. Raises Exception; nothing of the teacher stays then, or
-  /// what was stored of it comes with the next year load.
+  /// could be had, which the user has been told. Raises Exception; nothing of the teacher stays then.
   QString Ajouter(const QString& nom, const QString& prenom);
   /// Its rows in other tables stay. The pupil on display is let go of before by the caller. Raises Exception.
   void Supprimer(TEleve& professeur);

@@ -167,6 +167,12 @@ TEST_F(Tarifs, LeMenuDeLaListe) {
   choisir("Filtrer");
   QTest::keyClicks(Vue().findChild<ChampFiltre*>(), "matin");
   EXPECT_EQ(Colonne(0), QStringList{"garderie du matin"});
+  Ecran().Grille.ChoisirLigne(2);
+  Aller(Liste());
+  Programme.Dialogues.Repond(kQuestion, true);
+  Touche(Qt::Key_Delete, Qt::ControlModifier);
+  EXPECT_EQ(Table().size(), 2);
+  EXPECT_EQ(Ecran().Grille.LigneCourante(), -1) << "no row out of sight";
 }
 
 TEST_F(TVuesSeules, AListIsWithinReach) {

@@ -83,7 +83,7 @@ TEST_F(TScansEssai, StepTwoTellsWhatItStoredAndTheRestCanFollow) {
   import.ImporterFichier(
       fichier("11;1;20161003;073015000;1\n11;1;20150903;073000000;1\n11;1;20161004;110000000;2\n"));
   EXPECT_EQ(import.NombreHorsAnnee(), 1);
-  EXPECT_EQ(LigneRecapitulatif(*import.Bons()[1])[2], TValeurVue(u"jeudi 3 septembre 2015"_s))
+  EXPECT_EQ(TexteDe(TGenre::DateLongue, LigneRecapitulatif(*import.Bons()[1])[2]), u"jeudi 3 septembre 2015")
       << "another year is seen";
   import.Etape2();
   EXPECT_EQ(import.Bilan().Memorisees, 2);

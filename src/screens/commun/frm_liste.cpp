@@ -94,9 +94,10 @@ bool TFrmListe::Enregistrer() {
 void TFrmListe::Supprimer() {
   if (!contexte_.Dialogues().ConfirmerGrave(textes_.Question)) return;
   const int ligne = Grille.LigneCourante();
+  const int voisine = Grille.Voisine(ligne);
   const QString nom = Grille.Texte(ligne, 0);
   if (!Essayer([this] { supprime_ = Oter(); })) return;
-  Grille.ChoisirLigne(std::min(ligne, Grille.NombreLignes() - 1));
+  Grille.ChoisirApresRetrait(ligne, voisine);
   Dire(TNiveauEtat::Succes, QString(textes_.Supprime % u" : " % nom % u" (Ctrl+Z rétablit)"));
   SurCommandes();
   ApresChangement();

@@ -67,7 +67,7 @@ void TFrmParametres::Composer() {
   for (TPageDecrite& page : PagesDecrites()) {
     auto champs = std::make_unique<TChampsParametres>(contexte_, std::move(page.Champs));
     champs->Avant = [this](const TChamp& champ) { Avant(champ); };
-    champs->SurEchec = [this, refus = champs->SurRefus](const TChamp& champ, const QString& faute) {
+    champs->SurRefus = [this, refus = champs->SurRefus](const TChamp& champ, const QString& faute) {
       GarderPrix(champ);
       refus(champ, faute);
     };

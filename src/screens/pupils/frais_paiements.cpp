@@ -24,7 +24,7 @@ TEtatFrais EtatDe(Currency du, Currency verse) {
 }  // namespace
 
 TFraisPaiements::TFraisPaiements() {
-  Grille.DefinirColonnes({{u"Libellé"_s, 180},
+  Grille.DefinirColonnes({{u"Libellé"_s, 290},
                           {u"Mois"_s, 92, TGenre::Mois},
                           {u"Dû"_s, 72, TGenre::Montant},
                           {u"Payé"_s, 72, TGenre::Montant},

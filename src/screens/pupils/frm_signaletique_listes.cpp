@@ -120,7 +120,7 @@ void TFrmSignaletique::btnDeleteFaitClick() {
           u"Confirmez-vous la suppression définitive du relevé sélectionné ?"_s))
     return;
   const std::shared_ptr<TPresence> copie = Copie(*releve);
-  Releve.Grille.ChoisirLigne(-1);
+  Releve.Grille.ChoisirLigne(Releve.Grille.Voisine(ligne));
   Globals.Presences->Remove(*releve);
   if (Enregistrer(*Globals.Presences, u"Suppression du relevé du " % Jour(*copie)))
     Offrir(u"Relevé du %1 supprimé"_s.arg(Jour(*copie)), [this, copie] { AjouterReleve(Copie(*copie)); });
@@ -193,6 +193,7 @@ void TFrmSignaletique::SpeedButton2Click() {
   const std::shared_ptr<TFraisEleve> copie = CopieDe(*frais);
   const QString quoi = frais->EstLibre() ? frais->Remarque : frais->LibelleFrais();
   TAllFraisEleve& lignes = *Globals.EleveCourant->GetAllFrais();
+  const int voisine = Frais.Grille.Voisine(ligne);
   Frais.Grille.ChoisirLigne(-1);
   lignes.Remove(*frais);
   if (Enregistrer(lignes, u"Suppression de " % quoi)) {
@@ -200,7 +201,8 @@ void TFrmSignaletique::SpeedButton2Click() {
     Offrir(quoi % u" : supprimé", [this, copie, quoi] { AjouterLigne(CopieDe(*copie), quoi); });
   }
   RelireGroupes(copie->GroupeFraisId);
-  RelireListes(ligne);
+  RelireListes(-1);
+  Frais.Grille.ChoisirApresRetrait(ligne, voisine);
 }
 
 void TFrmSignaletique::grdListeFraisCocheClick(int ligne) {

@@ -17,6 +17,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 kPhotoMax = 50 * 1024 * 1024;
+/// More points than that on a side show nowhere, and what a telephone takes is more than one picture may
+/// hold.
+constexpr int kCotePhoto = 2400;
 
 /// The picture upright, as the camera says that it was held. Raises Exception.
 QImage LireImage(const QString& chemin) {
@@ -31,7 +34,13 @@ QImage LireImage(const QString& chemin) {
   QImageReader lecteur(chemin);
   lecteur.setDecideFormatFromContent(true);
   lecteur.setAutoTransform(true);
+  const QSize taille = lecteur.size();
+  if (std::max(taille.width(), taille.height()) > kCotePhoto)
+    lecteur.setScaledSize(taille.scaled(kCotePhoto, kCotePhoto, Qt::KeepAspectRatio));
   const QImage image = lecteur.read();
+  if (image.isNull() && taille.isValid())
+    throw Exception(
+        u"« %1 » ne peut pas être lu : cette image est abîmée, ou trop grande."_s.arg(fichier.fileName()));
   if (image.isNull()) throw Exception(u"« %1 » n'est pas une image."_s.arg(fichier.fileName()));
   return image;
 }
@@ -122,9 +131,13 @@ void TFrmSignaletique::RelireListes() { RelireListes(Frais.Grille.LigneCourante(
 // Whoever ticks several by keyboard stays where they are.
 void TFrmSignaletique::RelireListes(int frais) {
   const TEleve& eleve = *Globals.EleveCourant;
+  TGrille& releves = Releve.Grille;
+  const TObjetVu releve =
+      releves.LigneCourante() < 0 ? TObjetVu() : releves.Ligne(releves.LigneCourante()).Objet;
   Frais.Remplir(eleve);
   Frais.Grille.ChoisirLigne(std::min(frais, Frais.Grille.NombreLignes() - 1));
   RemplirReleve(eleve);
+  if (releve) releves.ChoisirLigne(releves.TrouverObjet(releve));
   Annoncer();
 }
 
@@ -246,7 +259,8 @@ void TFrmSignaletique::Image1Click() {
 
 void TFrmSignaletique::PrendrePhoto(const QString& chemin) {
   if (!ExigeEleve()) return;
-  Globals.EleveCourant->SetPhoto(LireImage(chemin));
+  if (!Globals.EleveCourant->SetPhoto(LireImage(chemin)))
+    return contexte_.Principal.Etat(TNiveauEtat::Refus, u"Photo non enregistrée"_s);
   DaterPhotos();
   contexte_.Principal.Etat(TNiveauEtat::Succes, QString(u"Photo enregistrée pour " % nomComplet_));
 }

@@ -20,13 +20,26 @@ TTextesListe TextesTarifs() {
 
 using T = TTarifGarderie;
 
+/// "lu, ma, je, ve"; one day, and every day, stand as they are.
+QString JoursEnCourt(const QString& jours) {
+  QStringList courts = jours.split(u", "_s);
+  if (courts.size() == 1) return jours;
+  for (QString& jour : courts) jour.truncate(2);
+  return courts.join(u", "_s);
+}
+
+/// "par période", without what it is called elsewhere.
+QString FacturationEnCourt(const QString& texte) { return texte.section(u" ("_s, 0, 0); }
+
 std::vector<TColonneDe<T>> Colonnes() {
   return {{{u"Type de service"_s, 367}, [](const T& t) { return Texte(t.TypeFamille); }},
-          {{u"Jours"_s, 256}, [](const T& t) { return Texte(t.TypeJour); }},
+          {{.Titre = u"Jours"_s, .Largeur = 256, .Abreger = JoursEnCourt},
+           [](const T& t) { return Texte(t.TypeJour); }},
           {{u"Hr. début"_s, 92, TGenre::HeureH}, [](const T& t) { return t.HeureDebutScan; }},
           {{u"Hr. de fin"_s, 92, TGenre::HeureH}, [](const T& t) { return t.HeureFinScan; }},
           {{u"Coût"_s, 92, TGenre::Prix}, [](const T& t) { return t.Cout; }},
-          {{u"Facturation"_s, 184}, [](const T& t) { return TexteFacturation(t.TypeForfait); }}};
+          {{.Titre = u"Facturation"_s, .Largeur = 184, .Abreger = FacturationEnCourt},
+           [](const T& t) { return TexteFacturation(t.TypeForfait); }}};
 }
 
 // The index of a list is the number stored.

@@ -30,7 +30,8 @@ QSize DelegueGrille::sizeHint(const QStyleOptionViewItem& option, const QModelIn
                                                 police.isValid() ? police.value<QFont>() : option.font);
   if (EstEtat(index)) largeur += Theme::Px(16) + 1;  // as PeindreEtat places it
   if (index.data(Qt::CheckStateRole).isValid())
-    largeur += style.pixelMetric(QStyle::PM_IndicatorWidth, &option, &vue_) + marges;
+    largeur +=
+        style.pixelMetric(QStyle::PM_IndicatorWidth, &option, &vue_) + marges / 2 + 1;  // see StyleCalpenne
   return {largeur, std::max(HauteurLigne(), option.fontMetrics.height() + 2)};
 }
 

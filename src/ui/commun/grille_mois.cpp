@@ -49,7 +49,9 @@ GrilleMois::GrilleMois(const QStringList& lignes, QWidget* parent) : QWidget(par
   for (const QString& texte : lignes) {
     const int ligne = static_cast<int>(lignes_.size());
     TLigneMois& nouvelle = lignes_.emplace_back();
-    nouvelle.Libelle = new Etiquette(texte);
+    auto* libelle = new Etiquette(texte);
+    libelle->setWordWrap(true);  // two lines rather than a wider record
+    nouvelle.Libelle = libelle;
     nouvelle.Libelle->setContentsMargins(0, 0, Theme::Px(8), 0);
     grille->addWidget(nouvelle.Libelle, ligne + 1, 0);
     for (int colonne = 0; colonne <= kMois; ++colonne) {

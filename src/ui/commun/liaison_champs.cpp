@@ -13,6 +13,7 @@
 #include "ui/commun/champ_libelle.h"
 #include "ui/commun/champ_texte.h"
 #include "ui/commun/marque_etat.h"
+#include "ui/commun/rangee_pliante.h"
 #include "ui/commun/saisie.h"
 #include "ui/commun/texte.h"
 #include "ui/commun/theme.h"
@@ -82,12 +83,27 @@ const struct {
     {Nouveau<SaisieDate>, 116}, {Nouveau<SaisieHeure>, 64}, {NouveauChoix, 248}, {NouvelleCoche, 0},
     {NouveauTexteMontant, 88},  {NouveauSecret, 0}};
 
-/// A list takes its width before the room behind it, and gives way on a small screen.
-constexpr int kPartChoix = 100, kMoindreChoix = 112;
+/// A list takes its width before the room behind it, and gives way on a small screen; one that goes on from
+/// another field is shorter, and goes to a line of its own instead.
+constexpr int kPartChoix = 100, kMoindreChoix = 112, kChoixSuite = 160;
 
 int LargeurDe(const TChamp& champ) {
   if (champ.Largeur > 0) return champ.Largeur;
+  if (champ.Genre == TGenreChamp::Choix && champ.Suite) return kChoixSuite;
   return champ.Boutons ? 0 : kGenres[static_cast<std::size_t>(champ.Genre)].Largeur;
+}
+
+/// Gives the field its width; answers its part of the room of its row.
+int Dimensionner(const TChamp& champ, QWidget& widget) {
+  const int largeur = LargeurDe(champ);
+  if (largeur == 0) return champ.Genre == TGenreChamp::Coche ? 0 : 1;
+  if (champ.Genre != TGenreChamp::Choix || champ.Suite) {
+    widget.setFixedWidth(Theme::Px(largeur));
+    return 0;
+  }
+  widget.setMinimumWidth(Theme::Px(kMoindreChoix));
+  widget.setMaximumWidth(Theme::Px(largeur));
+  return kPartChoix;
 }
 
 /// The caret stays where it was, as far as there is text.
@@ -196,20 +212,37 @@ void LiaisonChamps::AjouterAuRang(QBoxLayout& rang, const TPart& part, bool prem
   if (!champ.Unite.isEmpty()) rang.addWidget(new Etiquette(champ.Unite));
 }
 
-QLayout* LiaisonChamps::Rangee(const std::vector<TPart>& parts) {
+QLayout* LiaisonChamps::RangSimple(const std::vector<TPart>& parts) {
   auto* rang = new QHBoxLayout;
   rang->setSpacing(Theme::Px(8));
   bool etire = false;
-  TLigneFaute faute{{}, new MarqueEtat};
   for (const TPart& part : parts) {
     AjouterAuRang(*rang, part, &part == parts.data());
     etire = etire || (part.Part > 0 && Widget(part.Champ)->maximumWidth() == QWIDGETSIZE_MAX);
-    faute.Champs.push_back(part.Champ);
   }
   if (!etire) rang->addStretch(1);
+  return rang;
+}
+
+/// A field with what is said before and behind it never comes apart.
+QLayout* LiaisonChamps::RangPliant(const std::vector<TPart>& parts) {
+  auto* rang = new RangeePliante;
+  for (const TPart& part : parts) {
+    auto* groupe = new QHBoxLayout;
+    groupe->setSpacing(Theme::Px(8));
+    AjouterAuRang(*groupe, part, &part == parts.data());
+    rang->AjouterGroupe(groupe);
+  }
+  return rang;
+}
+
+QLayout* LiaisonChamps::Rangee(const std::vector<TPart>& parts) {
+  TLigneFaute faute{{}, new MarqueEtat};
+  for (const TPart& part : parts) faute.Champs.push_back(part.Champ);
+  const bool larges = std::ranges::any_of(parts, [](const TPart& part) { return part.Part > 0; });
   auto* colonne = new QVBoxLayout;
   colonne->setSpacing(Theme::Px(4));
-  colonne->addLayout(rang);
+  colonne->addLayout(larges || parts.size() == 1 ? RangSimple(parts) : RangPliant(parts));
   colonne->addWidget(faute.Marque);
   faute.Marque->hide();
   fautes_.push_back(std::move(faute));
@@ -317,23 +350,6 @@ bool LiaisonChamps::eventFilter(QObject* objet, QEvent* evenement) {
 
 // Forms
 
-namespace {
-
-/// Gives the widget the width of its field; its part of the row (LiaisonChamps::TPart).
-int Elargir(QWidget& widget, const TChamp& champ) {
-  const int largeur = LargeurDe(champ);
-  if (largeur <= 0) return 1;
-  if (champ.Genre != TGenreChamp::Choix) {
-    widget.setFixedWidth(Theme::Px(largeur));
-    return 0;
-  }
-  widget.setMinimumWidth(Theme::Px(kMoindreChoix));
-  widget.setMaximumWidth(Theme::Px(champ.Suite ? 160 : largeur));
-  return kPartChoix;
-}
-
-}  // namespace
-
 QLayout* CreerFormulaire(LiaisonChamps& liaison) {
   const TChamps& champs = liaison.Champs();
   auto* colonnes = new QHBoxLayout;
@@ -354,7 +370,7 @@ QLayout* CreerFormulaire(LiaisonChamps& liaison) {
     }
     std::vector<LiaisonChamps::TPart> parts;
     do {
-      parts.push_back({champ, Elargir(*liaison.Widget(champ), champs.Champ(champ))});
+      parts.push_back({champ, Dimensionner(champs.Champ(champ), *liaison.Widget(champ))});
     } while (++champ < champs.Nombre() && champs.Champ(champ).Suite);
     const int rang = grille->rowCount();
     if (premier.Genre != TGenreChamp::Coche && !premier.Libelle.isEmpty())

@@ -26,7 +26,7 @@ class LiaisonChamps : public QObject {
   /// A button that stands for one value of a choice.
   QRadioButton* Radio(const QString& nom, int valeur, const QString& texte);
   /// Fields side by side, with what stands behind them; below them a line for their fault. A part of 0 keeps
-  /// its own width, else they share what is left.
+  /// its own width, else they share what is left. Where all keep theirs, they go on to a further line.
   struct TPart {
     int Champ;
     int Part = 1;
@@ -46,6 +46,8 @@ class LiaisonChamps : public QObject {
   void ActualiserFautes();
   bool Quitter(int champ);
   int ChampDe(const QObject* widget) const;
+  QLayout* RangSimple(const std::vector<TPart>& parts);
+  QLayout* RangPliant(const std::vector<TPart>& parts);
   void AjouterAuRang(QBoxLayout& rang, const TPart& part, bool premier);
 
   TChamps& champs_;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "core/formats.h"
 #include "core/mois.h"
 #include "ui/commun/marque_etat.h"
 #include "ui/commun/texte.h"
@@ -26,7 +27,12 @@ Qt::Alignment Alignement(TGenre genre) {
 
 }  // namespace
 
-QVariant TexteCourt(TGenre genre, const TValeurVue& valeur) {
+QVariant TexteCourt(const TGrille& grille, int ligne, int colonne) {
+  const TColonneGrille& quoi = grille.Colonne(colonne);
+  if (quoi.Abreger != nullptr) return quoi.Abreger(grille.Texte(ligne, colonne));
+  const TGenre genre = quoi.Genre;
+  const TValeurVue valeur = grille.Ligne(ligne).Valeur(colonne);
+  if (const auto* jour = std::get_if<TJourAnnee>(&valeur)) return FormatDate(jour->Date);
   if (const int* mois = std::get_if<int>(&valeur); mois != nullptr && genre == TGenre::Mois)
     return *mois == 0 ? QVariant() : NomMoisCourt(*mois);
   const TDateTime* jour = std::get_if<TDateTime>(&valeur);
@@ -113,7 +119,7 @@ QVariant ModeleGrille::data(const QModelIndex& index, int role) const {
       return EstMontant(grille_.Colonne(colonne).Genre) ? TypographieMontant(grille_.Texte(ligne, colonne))
                                                         : grille_.Texte(ligne, colonne);
     case kTexteCourt:
-      return TexteCourt(grille_.Colonne(colonne).Genre, grille_.Ligne(ligne).Valeur(colonne));
+      return TexteCourt(grille_, ligne, colonne);
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(Alignement(grille_.Colonne(colonne).Genre));
     case Qt::CheckStateRole:

@@ -5,9 +5,9 @@
 
 #include "forms/grille.h"
 
-/// What a cell shows where its column is too narrow for its text: a month or a day in short. Invalid for a
-/// value that has no shorter form.
-QVariant TexteCourt(TGenre genre, const TValeurVue& valeur);
+/// What a cell shows where its column is too narrow for its text: a month or a day in short, or what the
+/// column makes of it. Invalid for a value that has no shorter form.
+QVariant TexteCourt(const TGrille& grille, int ligne, int colonne);
 /// The role under which the model gives it.
 inline constexpr int kTexteCourt = Qt::UserRole;
 

@@ -31,8 +31,24 @@ void PiedDeGrille::Definir(std::vector<QStringList> lignes) {
     dites += ligne.join(u' ');
   }
   setAccessibleDescription(dites.join(u", "_s));
+  vue_.DefinirSommes(Sommes());
   if (autreHauteur) updateGeometry();
   update();
+}
+
+/// A sum may run over the empty margins beside it, not over the sum before it.
+std::vector<int> PiedDeGrille::Sommes() const {
+  const QFontMetrics mesures(Theme::Gras());
+  std::vector<int> largeurs;
+  for (const QStringList& ligne : lignes_)
+    for (qsizetype colonne = 1; colonne < ligne.size(); ++colonne) {
+      if (ligne[colonne].isEmpty() || ligne[colonne - 1].isEmpty()) continue;
+      largeurs.resize(std::max(largeurs.size(), static_cast<std::size_t>(colonne) + 1));
+      int& largeur = largeurs[static_cast<std::size_t>(colonne)];
+      largeur =
+          std::max(largeur, mesures.horizontalAdvance(TypographieMontant(ligne[colonne])) + Theme::Px(8));
+    }
+  return largeurs;
 }
 
 QSize PiedDeGrille::sizeHint() const {

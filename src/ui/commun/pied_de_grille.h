@@ -21,6 +21,8 @@ class PiedDeGrille : public QWidget {
   void changeEvent(QEvent* evenement) override;
 
  private:
+  std::vector<int> Sommes() const;
+
   VueGrille& vue_;
   std::vector<QStringList> lignes_;
 };

@@ -7,9 +7,17 @@ RangeePliante::RangeePliante() {
   setSpacing(Theme::Px(8));
 }
 
-RangeePliante::~RangeePliante() = default;
+// One by one: a group that ends looks for itself among those that are left.
+RangeePliante::~RangeePliante() {
+  while (QLayoutItem* element = takeAt(0)) delete element;
+}
 
 void RangeePliante::addItem(QLayoutItem* element) { elements_.emplace_back(element); }
+
+void RangeePliante::AjouterGroupe(QLayout* groupe) {
+  addChildLayout(groupe);
+  addItem(groupe);
+}
 
 QLayoutItem* RangeePliante::itemAt(int rang) const {
   return rang >= 0 && rang < count() ? elements_[static_cast<std::size_t>(rang)].get() : nullptr;

@@ -12,6 +12,8 @@ class RangeePliante : public QLayout {
   ~RangeePliante() override;
 
   void addItem(QLayoutItem* element) override;
+  /// Controls that stay together on a line.
+  void AjouterGroupe(QLayout* groupe);
   int count() const override { return static_cast<int>(elements_.size()); }
   QLayoutItem* itemAt(int rang) const override;
   QLayoutItem* takeAt(int rang) override;

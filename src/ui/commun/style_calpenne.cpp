@@ -200,6 +200,13 @@ QRect StyleCalpenne::subElementRect(SubElement element, const QStyleOption* opti
         place.setRight(place.right() - fleche - 2);
       return visualRect(option->direction, option->rect, place);
     }
+    case SE_ItemViewItemText: {  // the box before it has its margins already
+      const QRect place = QProxyStyle::subElementRect(element, option, widget);
+      const auto* cellule = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+      const bool coche =
+          cellule != nullptr && cellule->features.testFlag(QStyleOptionViewItem::HasCheckIndicator);
+      return coche ? place.adjusted(-pixelMetric(PM_FocusFrameHMargin, option, widget), 0, 0, 0) : place;
+    }
     case SE_LineEditContents:
       return QProxyStyle::subElementRect(element, option, widget).adjusted(2, 0, -2, 0);
     default:

@@ -74,6 +74,7 @@ VueGrille::VueGrille(TGrille& grille, const QString& nom, const QString& ecran, 
   liens_ += grille.SurChangement.Suivre(
       [this](TGrille::TChangement changement) { SuivreGrille(changement.Ligne); });
   liens_ += grille.SurChoix.Suivre([this] { SuivreChoix(); });
+  liens_ += grille.SurOrdre.Suivre([this](std::vector<int>& lignes) { lignes = LignesVues(); });
   PoserColonnes();
   RemettreGroupes();
   SuivreChoix();
@@ -338,7 +339,12 @@ void VueGrille::resizeEvent(QResizeEvent* evenement) {
   if (evenement->size().width() != evenement->oldSize().width()) RepartirPlusTard();
 }
 
-QSize VueGrille::sizeHint() const { return {QTreeView::sizeHint().width(), HauteurPour(8)}; }
+void VueGrille::DefinirMoindre(int lignes) {
+  rangees_ = lignes;
+  setMinimumHeight(HauteurPour(lignes));
+}
+
+QSize VueGrille::sizeHint() const { return {QTreeView::sizeHint().width(), HauteurPour(rangees_)}; }
 
 void VueGrille::changeEvent(QEvent* evenement) {
   QTreeView::changeEvent(evenement);

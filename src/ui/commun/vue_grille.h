@@ -43,6 +43,10 @@ class VueGrille : public QTreeView {
   const MesureTextes& Mesures() const { return mesures_; }
   /// The height for so many rows, its header included.
   int HauteurPour(int lignes) const;
+  /// So many rows at least, which is also all that it asks for: what is left is given to it.
+  void DefinirMoindre(int lignes);
+  /// What the sums under the columns take, which are no narrower; 0 for a column without one.
+  void DefinirSommes(std::vector<int> largeurs);
   /// The scroll bar keeps its place even when there is nothing to scroll (see PiedDeGrille).
   void GarderBarre();
   /// The row of the grid is brought into view.
@@ -92,9 +96,11 @@ class VueGrille : public QTreeView {
   void Egaliser(std::vector<int>& largeurs) const;
   void RepartirPlusTard();
   void SuivreLargeurs(const VueGrille& autre);
+  int LargeurMontants(int colonne) const;
   int LargeurContenu(int colonne) const;
   int MoindreContenu(int colonne) const;
   void Abreger(int colonne);
+  bool EstAssezPourLeNom(int reste) const;
   std::vector<TBesoinColonne> Besoins(int place) const;
   void Repartir();
   void RetenirBientot();
@@ -113,8 +119,10 @@ class VueGrille : public QTreeView {
   std::function<QStringList()> precisions_;
   QPointer<VueGrille> jumelle_;  ///< has the same widths
   MesureTextes mesures_;
-  std::set<int> courtes_;  ///< columns whose texts stand in short
+  std::vector<int> sommes_;  ///< widths of the sums under the columns
+  std::set<int> courtes_;    ///< columns whose texts stand in short
   int souple_ = -1;
+  int rangees_ = 8;       ///< that it asks for
   bool tracees_ = false;  ///< the user has drawn a width
   mutable std::vector<TBesoinColonne>
       elargis_;  ///< as measured with rows in a view of the width placeElargie_

@@ -34,7 +34,7 @@ int LargeurCourte(const VueGrille& vue, int colonne) {
   const TGrille& grille = vue.Grille();
   int largeur = 0;
   for (int ligne = 0; ligne < grille.NombreLignes(); ++ligne) {
-    const QVariant court = TexteCourt(grille.Colonne(colonne).Genre, grille.Ligne(ligne).Valeur(colonne));
+    const QVariant court = TexteCourt(grille, ligne, colonne);
     if (court.isValid())
       largeur = std::max(largeur, vue.Mesures().Largeur(court.toString(), vue.font()) + marges);
   }
@@ -46,7 +46,7 @@ bool Coupe(const VueGrille& vue, int colonne) {
   const int place = vue.columnWidth(colonne) - Marges(vue);
   const TGrille& grille = vue.Grille();
   for (int ligne = 0; ligne < grille.NombreLignes(); ++ligne)
-    if (TexteCourt(grille.Colonne(colonne).Genre, grille.Ligne(ligne).Valeur(colonne)).isValid() &&
+    if (TexteCourt(grille, ligne, colonne).isValid() &&
         vue.Mesures().Largeur(grille.Texte(ligne, colonne), vue.font()) > place)
       return true;
   return false;
@@ -102,6 +102,19 @@ void VueGrille::SuivreLargeurs(const VueGrille& autre) {
   });
 }
 
+void VueGrille::DefinirSommes(std::vector<int> largeurs) {
+  if (sommes_ == largeurs) return;
+  sommes_ = std::move(largeurs);
+  placeElargie_ = -1;
+  RepartirPlusTard();
+}
+
+/// A sum may be wider than the amounts over it.
+int VueGrille::LargeurMontants(int colonne) const {
+  const auto rang = static_cast<std::size_t>(colonne);
+  return std::max(sizeHintForColumn(colonne), rang < sommes_.size() ? sommes_[rang] : 0);
+}
+
 int VueGrille::LargeurContenu(int colonne) const {
   const int ici = std::max(sizeHintForColumn(colonne), LargeurDuTitre(*header(), colonne));
   return jumelle_ ? std::max(ici, jumelle_->sizeHintForColumn(colonne)) : ici;
@@ -110,11 +123,18 @@ int VueGrille::LargeurContenu(int colonne) const {
 /// The least that a column may come down to beside a name that lacks room.
 int VueGrille::MoindreContenu(int colonne) const {
   const int contenu = LargeurContenu(colonne);
-  if (EstMontant(grille_.Colonne(colonne).Genre))  // a sum under them may be wider than they are
-    return std::max(contenu, header()->sectionSizeHint(colonne));
+  if (EstMontant(grille_.Colonne(colonne).Genre))
+    return std::max({contenu, header()->sectionSizeHint(colonne), LargeurMontants(colonne)});
   int court = LargeurCourte(*this, colonne);
   if (jumelle_) court = std::max(court, LargeurCourte(*jumelle_, colonne));
   return court == 0 ? contenu : std::min(contenu, std::max(court, LargeurDuTitre(*header(), colonne)));
+}
+
+/// A name that has so much room takes none of the others', up to the width that its column declares.
+bool VueGrille::EstAssezPourLeNom(int reste) const {
+  if (reste < Theme::Px(kAssezPourUnNom)) return false;
+  const int souple = ColonneSouple();
+  return tracees_ || reste >= Theme::Px(grille_.Colonne(souple).Largeur) || reste >= LargeurContenu(souple);
 }
 
 /// What each column would take; the least of those that may give way is measured only when it matters.
@@ -127,11 +147,11 @@ std::vector<TBesoinColonne> VueGrille::Besoins(int place) const {
     if (colonne == souple)
       voulue = 0;
     else if (EstMontant(grille_.Colonne(colonne).Genre))
-      voulue = std::max(voulue, sizeHintForColumn(colonne));
+      voulue = std::max(voulue, LargeurMontants(colonne));
     besoins.push_back({voulue, voulue});
     reste -= voulue;
   }
-  if (reste >= Theme::Px(kAssezPourUnNom)) {
+  if (EstAssezPourLeNom(reste)) {
     if (tracees_) return besoins;
     // Measured once for a width: the columns of a record do not jump from pupil to pupil, nor cost at each.
     if (placeElargie_ != place || elargis_.size() != besoins.size()) {

@@ -23,7 +23,7 @@ VueListe::VueListe(TFrmListe& form, QWidget* parent)
   QVBoxLayout* colonne = ColonneEcran(*this, CreerTitre());
   colonne->addWidget(liste_, 1);
   colonne->addWidget(CreerPanneau());
-  liste_->setMinimumHeight(liste_->HauteurPour(4));
+  liste_->DefinirMoindre(4);
 
   AjouterRetablir();
   liste_->addAction(Theme::Icone(u"document-print"_s), u"Imprimer la liste..."_s, this,
@@ -50,7 +50,7 @@ QWidget* VueListe::CreerPanneau() {
   titre_->AjouterAction(marque_);
   panneau_ = new QHBoxLayout;
   panneau_->setSpacing(Theme::Px(24));
-  panneau_->addLayout(CreerFormulaire(*liaison_), 1);
+  panneau_->addLayout(CreerFormulaire(*liaison_), 3);
   auto* panneau = new QWidget;
   auto* colonne = new QVBoxLayout(panneau);
   colonne->setContentsMargins(0, 0, 0, 0);

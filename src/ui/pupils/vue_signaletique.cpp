@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QPushButton>
 #include <QResizeEvent>
+#include <QScrollBar>
 
 #include "core/formats.h"
 #include "core/mois.h"
@@ -57,6 +58,7 @@ VueSignaletique::VueSignaletique(TFrmSignaletique& form, QWidget* parent)
   blocFrais_ = CreerFrais();
   setWidget(contenu_);
   CreerRetablir();
+  connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &VueSignaletique::DefinirMarges);
   Disposer();
   identite_->OrdonnerTab();
   lien_ = form_.SurChangement.Suivre([this] { Actualiser(); });
@@ -160,9 +162,8 @@ void VueSignaletique::Disposer() {
     grille_->setColumnStretch(i, i >= colonnes_ || (!seule && i == 0) ? 0 : trois ? 6 + i : 1);
     grille_->setRowStretch(i, (seule && i > 0) || i == kRangsLarges - 1 ? 1 : 0);
   }
-  const int marge = Theme::Px(16);
-  grille_->setContentsMargins(marge, Theme::Px(12), marge, Theme::Px(12));
-  grille_->setHorizontalSpacing(Theme::Px(24));
+  DefinirMarges();
+  grille_->setHorizontalSpacing(Theme::Px(trois ? 24 : 16));  // the labels of the fees need what they can get
   grille_->setVerticalSpacing(Theme::Px(seule ? 24 : 16));
   identite_->Aerer(trois);
   identite_->setMinimumWidth(seule ? 0 : LargeurIdentite());
@@ -170,6 +171,13 @@ void VueSignaletique::Disposer() {
   for (VueGrille* liste : {releve_, frais_})
     liste->setMinimumHeight(liste->HauteurPour(seule ? 8 : kRangees - 2));
   TenirDansLaVue();
+}
+
+// The scroll bar stands in the margin: the lists are as wide with it as without.
+void VueSignaletique::DefinirMarges() {
+  const int marge = Theme::Px(16);
+  const int barre = verticalScrollBar()->maximum() > 0 ? verticalScrollBar()->sizeHint().width() : 0;
+  grille_->setContentsMargins(marge, Theme::Px(12), std::max(marge - barre, 0), Theme::Px(12));
 }
 
 // Beside a long column of the pupil the lists do not grow with it: their totals stay in view.

@@ -34,6 +34,7 @@ class VueSignaletique : public QScrollArea {
   int ColonnesPour(int largeur) const;
   int LargeurIdentite() const;
   void Disposer();
+  void DefinirMarges();
   void TenirDansLaVue();
   void Actualiser();
   void ActualiserListes();

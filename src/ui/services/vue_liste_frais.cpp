@@ -30,7 +30,7 @@ VueListeFrais::VueListeFrais(TFrmListeFrais& form, QWidget* parent)
     colonne->addWidget(arbre);
   }
   colonne->addStretch(1);
-  Panneau()->addLayout(colonne, 1);
+  Panneau()->addLayout(colonne, 2);
   liens_ += form.SurCoches.Suivre([this] { Actualiser(); });
   Actualiser();
 }

@@ -131,16 +131,22 @@ TEST(VueGrille, UnJourEtUnMoisSAbregentEtUnNomContinueDansLaCelluleVide) {
   TGrille grille({{u"Nom"_s, 271},
                   {u"Prénom"_s, 120},
                   {u"Date"_s, 180, TGenre::DateLongue},
-                  {u"Mois"_s, 110, TGenre::Mois}});
-  grille.Ajouter({u"Matricule inconnu (553799999)"_s, QString(), J("2018-11-07"), 9});
+                  {u"Mois"_s, 110, TGenre::Mois},
+                  {.Titre = u"Par"_s, .Largeur = 60, .Abreger = [](const QString& t) { return t.left(2); }}});
+  grille.Ajouter({u"Matricule inconnu (553799999)"_s, QString(), J("2018-11-07"), 9, u"heure"_s});
+  grille.Ajouter({u"ALVES"_s, QString(), TJourAnnee{J("2017-09-27")}, 9, u"heure"_s});
   VueGrille vue(grille, u"Relevés"_s, {});
   Montrer(vue);
-  vue.resize(400, 300);
+  vue.resize(440, 300);
   for (int i = 0; i < 3; ++i) QApplication::processEvents();
   EXPECT_LE(vue.header()->length(), vue.viewport()->width()) << "it does not scroll";
-  for (const int colonne : {2, 3})
+  for (const int colonne : {2, 3, 4})
     EXPECT_LT(vue.header()->sectionSize(colonne),
               static_cast<QAbstractItemView&>(vue).sizeHintForColumn(colonne));
+  grille.Ecrire(0, 2, TJourAnnee{J("2017-09-26")});  // now all of them say their year
+  vue.resize(439, 300);
+  for (int i = 0; i < 3; ++i) QApplication::processEvents();
+  EXPECT_LE(vue.header()->length(), vue.viewport()->width());
   const auto ecrit = [&](const QString& prenom) {
     grille.Ecrire(0, 1, prenom);
     const QRect place = vue.visualRect(vue.model()->index(0, 1)).adjusted(0, 4, 0, -4);

@@ -242,6 +242,14 @@ TEST_F(MonEcole, ASiteTakesItsShortNameAndTheTreeFollowsOnClosing) {
   Programme.Ouvrir(TGestionnaire::AdvGlowButton2Click);
   EXPECT_EQ(arbre.Premier()->Texte, "Tilleuls") << "the record comes in front of a screen that stays open";
   Programme.Ouvrir(TGestionnaire::AdvGlowButton3Click);
+  Saisir("edLibelleCourt", "Orme");
+  QString fermee;  // the tree when the screen goes, before the one that comes makes it look at the sites
+  const TLien lien = Programme.Main().Panneau.SurEtape.Suivre([&](TForm&, TEtapeForm etape) {
+    if (etape == TEtapeForm::Liberee && fermee.isEmpty()) fermee = arbre.Premier()->Texte;
+  });
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton5Click);
+  EXPECT_EQ(fermee, "Orme");
+  Programme.Ouvrir(TGestionnaire::AdvGlowButton3Click);
   Base.Sql("DELETE FROM IMPLANTATION WHERE CODE_IMPLANTATION = 'S1'");
   Saisir("edLibelleCourt", "Autre");
   EXPECT_TRUE(Etat().contains("un autre poste l'a supprimée")) << Etat().toStdString();

@@ -161,6 +161,13 @@ TEST_F(TSaisieFiche, UneDateFausseResteJusquAuProchainEleve) {
   EXPECT_EQ(Eleve("DATE_NAISSANCE", vide.Id), QString());
 }
 
+TEST_F(TSaisieFiche, UnNumeroNationalFauxSeDitSansDialogue) {
+  QTest::keyClick(&Taper("Numéro national", "16.09.01-123.45"), Qt::Key_Tab);
+  EXPECT_TRUE(monde.Etats.last().startsWith(u"Non enregistré : « Numéro national »"))
+      << monde.Etats.last().toStdString();
+  EXPECT_EQ(Eleve("NUM_NATIONAL"), QString());
+}
+
 TEST_F(TSaisieFiche, UnEnregistrementQuiEchoue) {
   base.Sql("ALTER TABLE ELEVES ADD CONSTRAINT PAS_ICI CHECK (LOCALITE <> 'Ailleurs')");
   base.Dialogues.Attend("PAS_ICI");
@@ -332,6 +339,14 @@ TEST_F(TSaisieFiche, LaPhotoDUnFichier) {
   photo.setFocus();
   QTest::keyClick(&photo, Qt::Key_Delete);
   EXPECT_TRUE(ecran->Photo().isNull());
+
+  QImage telephone(8000, 6000, QImage::Format_Grayscale8);  // more than Qt reads in one piece
+  telephone.fill(Qt::gray);
+  const QString grande = base.Chemin("telephone.jpg");
+  ASSERT_TRUE(telephone.save(grande));
+  base.Dialogues.Saisit("Choisir une photo", grande);
+  photo.click();
+  EXPECT_FALSE(ecran->Photo().isNull());
 
   const auto deposer = [&photo](const QUrl& quoi) {
     QMimeData donnees;

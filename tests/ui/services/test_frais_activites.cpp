@@ -1,4 +1,5 @@
 // The lists of fees and of activities, worked by keyboard and read back.
+#include <QScrollBar>
 #include <QTreeWidget>
 
 #include "screens/services/frm_activites.h"
@@ -7,6 +8,7 @@
 #include "ui/reglages_essai.h"
 #include "ui/services/arbre_coches.h"
 #include "ui/services/vue_liste_frais.h"
+#include "workflows/professeurs.h"
 
 namespace {
 
@@ -242,6 +244,53 @@ TEST_F(ListesServices, ATeacherWhoGoesLeavesNoScreenThatHoldsHim) {
   Programme.Main().Supprimerunprofesseur1Click();
   EXPECT_EQ(Programme.Main().Panneau.Courante(), nullptr);
   EXPECT_EQ(Globals.Eleves->TrouverParId(cle), nullptr);
+}
+
+TEST_F(ListesServices, ATeacherIsStoredWithHisEnrolmentOrNotAtAll) {
+  Demarrer(TGestionnaire::AdvGlowButton16Click);
+  TProfesseurs professeurs(Programme.Main().Controleur);
+  const QString lui =
+      "SELECT C.CLASSE, E.MATRICULE FROM ELEVES E LEFT JOIN ELEVES_CLASSES C ON C.ELEVE_ID = E.ELEVE_ID "
+      "WHERE "
+      "E.NOM = 'Dupont'";
+  Base.Sql(
+      "CREATE TRIGGER REFUS FOR ELEVES_CLASSES BEFORE INSERT AS DECLARE X INTEGER; BEGIN X = 1 / 0; END");
+  const int avant = Globals.Eleves->Count();
+  EXPECT_THROW(professeurs.Ajouter("Dupont", "Luc"), Exception);
+  EXPECT_EQ(Base.Rangees(lui), QStringList());
+  Base.Sql("DROP TRIGGER REFUS");
+  Base.Sql("DELETE FROM COUNTERS WHERE TABLE_NAME = 'ELEVES_CLASSES'");
+  Programme.Dialogues.Attend("Le compteur de table");
+  EXPECT_THROW(professeurs.Ajouter("Dupont", "Luc"), Exception);
+  EXPECT_EQ(Base.Rangees(lui), QStringList());
+  EXPECT_EQ(Globals.Eleves->Count(), avant);
+  Base.Sql("INSERT INTO COUNTERS VALUES ('ELEVES_CLASSES', 100)");
+  EXPECT_EQ(professeurs.Ajouter("Dupont", "Luc"), "Dupont Luc");
+  EXPECT_EQ(Base.Rangees(lui).size(), 1);
+  EXPECT_TRUE(Base.Rangees(lui).value(0).startsWith("PROFESSEURS;000"))
+      << Base.Rangees(lui).join(' ').toStdString();
+}
+
+TEST_F(ListesServices, NothingScrollsSidewaysInTheSmallestWindow) {
+  using namespace Essai;
+  Ecole.tarif(Soir, LundiMardiJeudiVendredi, "16:30", "18:00", DemiHeure, "0.0125", ScanSortie, "0.4");
+  Ecole.tarif(Mercredi, 3, "12:30", "18:00", Forfait, "3", ScanPresence);
+  Ecole.frais("Fournitures de la section maternelle, premier trimestre", "1015", 9);
+  Ecole.activite("16:00", "17:00");
+  Programme.Demarrer();
+  Programme.Fenetre().resize(960, 540);
+  for (const TGestionnaire ecran : {TGestionnaire::AdvGlowButton5Click, TGestionnaire::AdvGlowButton16Click,
+                                    TGestionnaire::btnActivitesClick}) {
+    Programme.Ouvrir(ecran);
+    Touche(Qt::Key_F2);
+    QTest::qWait(0);
+    auto& vue = *Programme.Vue<VueListe>();
+    auto& liste = *vue.findChild<VueGrille*>();
+    EXPECT_EQ(vue.horizontalScrollBar()->maximum(), 0) << static_cast<int>(ecran);
+    EXPECT_EQ(liste.horizontalScrollBar()->maximum(), 0) << static_cast<int>(ecran);
+    EXPECT_GE(liste.height(), liste.HauteurPour(4)) << static_cast<int>(ecran);
+    Touche(Qt::Key_Escape);
+  }
 }
 
 TEST_F(ListesServices, NothingIsMissedByKeyboardOrReader) {
