@@ -18,6 +18,9 @@ struct TProvisionEssai : TDocumentsEssai {
     Scans(anne, {u"matin 2016-09-05"_s, u"matin 2016-10-03"_s, u"matin 2016-10-04"_s, u"soir 2016-10-05"_s,
                  u"repas 2016-10-03"_s});
     ASSERT_EQ(anne.Id, 1);
+    // Her part of a transfer that was shared out: the paper counts that, and not the 45.
+    ecole.mouvement({}, u"2016-09-20"_s, u"45"_s);
+    base.Sql(u"UPDATE FRAIS_ELEVE SET EXTRAIT_ID = 1, FLG_PART = 1 WHERE REMARQUE = 'Virement'"_s);
   }
 };
 

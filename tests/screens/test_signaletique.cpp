@@ -124,7 +124,7 @@ TEST_F(TSignaletique, LeChoixDeLAssistantFaitLeDocument) {
     return monde.Apercus;
   };
   EXPECT_EQ(apercus(rose.Id, 6), QStringList()) << "no date: nothing is made, nothing is said";
-  monde.SurModale = [](TForm& form) { dynamic_cast<TFrmDatePaiement&>(form).btnValiderClick(); };
+  monde.SurModale = [](TForm& form) { dynamic_cast<TFrmDatePaiement&>(form).Valider(); };
   EXPECT_EQ(apercus(rose.Id, 6), QStringList{u"Relevé des frais effectifs"_s});
   EXPECT_EQ(apercus(rose.Id, 8), QStringList{u"Relevé détaillé des services"_s});
   base.Dialogues.Attend(u"Aucun relevé à imprimer."_s);
