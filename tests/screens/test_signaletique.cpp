@@ -124,7 +124,7 @@ TEST_F(TSignaletique, LeChoixDeLAssistantFaitLeDocument) {
     return monde.Apercus;
   };
   EXPECT_EQ(apercus(rose.Id, 6), QStringList()) << "no date: nothing is made, nothing is said";
-  monde.SurModale = [](TForm& form) { dynamic_cast<TFrmDatePaiement&>(form).btnValiderClick(); };
+  monde.SurModale = [](TForm& form) { dynamic_cast<TFrmDatePaiement&>(form).Valider(); };
   EXPECT_EQ(apercus(rose.Id, 6), QStringList{u"Relevé des frais effectifs"_s});
   EXPECT_EQ(apercus(rose.Id, 8), QStringList{u"Relevé détaillé des services"_s});
   base.Dialogues.Attend(u"Aucun relevé à imprimer."_s);
@@ -144,7 +144,6 @@ TEST_F(TSignaletique, LeCourrielEstServiParLaListeEntiere) {
   TFrmSignaletique& fiche = Ouvrir(rose);
   Diffuser(TCodeMessage::Courriel, fiche);
   EXPECT_EQ(assistant.Demande.Titres.size(), 6U);
-  EXPECT_TRUE(fiche.DemandeCourriel());
   TChoixDocument choix;
   choix.Eleves = {Globals.EleveCourant};
   base.Dialogues.Attend(u"Impossible d'initialiser les pilotes d'impression."_s);
