@@ -276,6 +276,7 @@ TEST_F(FrmMain, ItReopensOnTheLastPupilAndScreen) {
 
 TEST_F(FrmMain, YearsGoOnWithTheWorkingYear) {
   Main.Montrer();
+  EXPECT_EQ(Main.Annees(), (std::vector{2015, 2016, 2017, 2018}));
   Globals.AnneeScolaire = 2019;
   EXPECT_EQ(Main.Annees().back(), 2020);
 }
