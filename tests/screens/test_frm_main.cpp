@@ -124,13 +124,6 @@ TEST_F(FrmMain, TheTreeOfTwoSitesLeavesOutAClassWithoutSite) {
   Main.Montrer();
   EXPECT_EQ(Textes(),
             (QStringList{"Centre", ">P1 A", ">>Zed X", ">P2 A", ">>Adam X", "S2", ">P1 A", ">>Blanc X"}));
-  // The sites take their new names.
-  for (TImplantation& site : *Globals.Eleves->Implantations)
-    if (site.Code == u"S2") site.LibelleCourt = "Tilleuls";
-  Main.Envoyer({TCodeMessage::ImplantationsChange, {}});
-  EXPECT_TRUE(Textes().contains("Tilleuls"));
-  EXPECT_FALSE(Textes().contains("S2"));
-
   TArbre sien;
   ConstruireArbre(sien, false, true);
   EXPECT_EQ(sien.Racines().front()->Enfants().front()->Enfants().size(), 0U);

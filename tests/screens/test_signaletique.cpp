@@ -144,7 +144,6 @@ TEST_F(TSignaletique, LeCourrielEstServiParLaListeEntiere) {
   TFrmSignaletique& fiche = Ouvrir(rose);
   Diffuser(TCodeMessage::Courriel, fiche);
   EXPECT_EQ(assistant.Demande.Titres.size(), 6U);
-  EXPECT_TRUE(fiche.DemandeCourriel());
   TChoixDocument choix;
   choix.Eleves = {Globals.EleveCourant};
   base.Dialogues.Attend(u"Impossible d'initialiser les pilotes d'impression."_s);

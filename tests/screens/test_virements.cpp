@@ -150,7 +150,8 @@ TEST_F(FrmVirement, ARowThatGoesGivesItsPlaceToTheNextOnTheScreen) {
   EXPECT_EQ(Ecran.Niveau, TNiveauEtat::Alerte);
 }
 
-TEST_F(FrmVirement, WhatAnotherWorkstationHasGivenIsNotHidden) {
+// The screen may stand open all day.
+TEST_F(FrmVirement, WhatAnotherWorkstationHasGivenOrStoredIsSeen) {
   const int a = Mouvement(u"A"_s, 3);
   Ouvrir();
   Form->Historique.ChoisirLigne(0);
@@ -159,19 +160,14 @@ TEST_F(FrmVirement, WhatAnotherWorkstationHasGivenIsNotHidden) {
   Form->Supprimerlextrait1Click();
   EXPECT_EQ(Extrait(u"FLG_IGNORE"_s, a), QString());
   EXPECT_EQ(Historique(), QStringList{u"A|LAMBERT Élise|Comptabilisé"_s});
-}
 
-// The screen may stand open all day.
-TEST_F(FrmVirement, WhatAnotherWorkstationHasStoredIsNotStoredAgain) {
-  Mouvement(u"A"_s, 3);
-  Ouvrir();
-  Form->Historique.ChoisirLigne(0);
   const int b = Mouvement(u"B"_s, 4);
   Credit(b, 3);
   Etape1("x;04/10/2016;;;BE68;B;;;;;12,50;EUR;;;merci\n");
   EXPECT_EQ(Form->Apercu.Texte(0, TFrmVirement::Eleve), u"LAMBERT Élise");
   Form->btnEtape2Click();
-  EXPECT_EQ(Historique(), (QStringList{u"A||Inconnu"_s, u"B|LAMBERT Élise|Comptabilisé"_s}));
+  EXPECT_EQ(Historique(),
+            (QStringList{u"A|LAMBERT Élise|Comptabilisé"_s, u"B|LAMBERT Élise|Comptabilisé"_s}));
   EXPECT_EQ(base.Valeur(u"SELECT COUNT(*) FROM EXTRAITS"_s), u"2");
 }
 

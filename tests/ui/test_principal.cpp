@@ -66,12 +66,32 @@ class Principal : public TReglagesEssai {
 
 }  // namespace
 
-TEST_F(Principal, AnOfficeStartsOnItsPupils) {
+TEST_F(Principal, AnOfficeStartsOnItsPupilsAndChoosesOne) {
   DemarrerLEcole();
   EXPECT_EQ(Fenetre().windowTitle(), u"Calpenne");
   EXPECT_EQ(Fenetre().Barre()->Annees()->text(), u"Année scolaire 2016 - 2017  ▾");
   EXPECT_TRUE(Dit(u"4 élèves, dont 1 radié"_s));
   EXPECT_EQ(QApplication::focusWidget(), Recherche());
+
+  Touche(Arbre(), Qt::Key_F3);
+  EXPECT_EQ(QApplication::focusWidget(), Recherche());
+  QTest::keyClicks(Recherche(), u"7p*i-2r"_s);
+  EXPECT_EQ(Recherche()->text(), u"pir") << "digits and signs are dropped";
+  EXPECT_EQ(Choisi(), u"Pirard X");
+  EXPECT_EQ(Globals.EleveCourant->Nom, u"Pirard");
+  EXPECT_EQ(QApplication::focusWidget(), Recherche());
+
+  Touche(Recherche(), Qt::Key_Home);
+  EXPECT_EQ(Recherche()->text(), QString());
+  QTest::keyClicks(Recherche(), u"p"_s);
+  EXPECT_EQ(Choisi(), u"P1 A");
+  Touche(Recherche(), Qt::Key_Return);
+  EXPECT_EQ(Choisi(), u"P2 A");
+
+  Touche(Recherche(), Qt::Key_Down);
+  EXPECT_EQ(QApplication::focusWidget(), Arbre());
+  Touche(Arbre(), Qt::Key_Down);
+  EXPECT_EQ(Globals.EleveCourant->Nom, u"Pirard") << "the pupil is current at once";
 }
 
 TEST_F(Principal, EveryWayShowsItsPages) {
@@ -140,7 +160,7 @@ TEST_F(Principal, GivingUpAtFirstEndsTheProgramAndLaterDoesNot) {
   EXPECT_EQ(Fenetre().VueCourante(), nullptr) << "nothing opens";
 }
 
-TEST_F(Principal, TheLinkOfTheRetryDialogChangesTheServer) {
+TEST_F(Principal, TheRetryDialogChangesTheServerOrTakesAFileThatWasMoved) {
   EcrireLEcole();
   PerdreLeServeur();
   Programme.Dialogues.Fait(kErreurConnexion, [](QWidget& fenetre) {
@@ -153,38 +173,13 @@ TEST_F(Principal, TheLinkOfTheRetryDialogChangesTheServer) {
   Programme.Demarrer();
   EXPECT_TRUE(Programme.Dialogues.Vus.at(1).contains(u"Le nom « local » fait travailler ce poste seul"));
   EXPECT_EQ(Arbre()->model()->rowCount(), 2);
-}
+  Programme.Fermer();
 
-TEST_F(Principal, AFileThatWasMovedIsChosenInTheRetryDialog) {
-  EcrireLEcole();
   PerdreLeServeur();
   Programme.Dialogues.Clique(kErreurConnexion, u"Choisir le fichier..."_s)
       .Fichier(u"Choisir le fichier de données"_s, Base.FichierDeDonnees());
   Programme.Demarrer();
   EXPECT_EQ(Arbre()->model()->rowCount(), 2) << "it is tried at once";
-}
-
-TEST_F(Principal, TheSearchChoosesAPupil) {
-  DemarrerLEcole();
-  Touche(Arbre(), Qt::Key_F3);
-  EXPECT_EQ(QApplication::focusWidget(), Recherche());
-  QTest::keyClicks(Recherche(), u"7p*i-2r"_s);
-  EXPECT_EQ(Recherche()->text(), u"pir") << "digits and signs are dropped";
-  EXPECT_EQ(Choisi(), u"Pirard X");
-  EXPECT_EQ(Globals.EleveCourant->Nom, u"Pirard");
-  EXPECT_EQ(QApplication::focusWidget(), Recherche());
-
-  Touche(Recherche(), Qt::Key_Home);
-  EXPECT_EQ(Recherche()->text(), QString());
-  QTest::keyClicks(Recherche(), u"p"_s);
-  EXPECT_EQ(Choisi(), u"P1 A");
-  Touche(Recherche(), Qt::Key_Return);
-  EXPECT_EQ(Choisi(), u"P2 A");
-
-  Touche(Recherche(), Qt::Key_Down);
-  EXPECT_EQ(QApplication::focusWidget(), Arbre());
-  Touche(Arbre(), Qt::Key_Down);
-  EXPECT_EQ(Globals.EleveCourant->Nom, u"Pirard") << "the pupil is current at once";
 }
 
 TEST_F(Principal, TheHandStaysInTheTreeWhenARefusedTextGoesWithItsPupil) {

@@ -173,9 +173,6 @@ TEST_F(TImportVirementsEssai, AfterACutTheSecondTwinHasItsPupilToo) {
   EXPECT_EQ(Credits().size(), 1);
   Importer({a, jumeau});
   EXPECT_EQ(Credits(), (QStringList{u"1;1;10;2;10.0000"_s, u"1;2;10;2;10.0000"_s}));
-  base.Sql(u"DELETE FROM FRAIS_ELEVE"_s);
-  Importer({a, jumeau});
-  EXPECT_EQ(Credits().size(), 1) << "it has come to its end: both are the first one";
 }
 
 TEST_F(TImportVirementsEssai, AMovementBelongsToOnePupil) {

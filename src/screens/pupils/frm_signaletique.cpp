@@ -81,11 +81,10 @@ bool TFrmSignaletique::RecevoirMessage(const TMessage& message) {
       PrendreEleve();
       return true;
     case TCodeMessage::Imprimer:
-      courriel_ = false;
       imprimeur_.Proposer(TitresOfferts(TListeTitres::Eleves), MoisVu());
       return true;
     case TCodeMessage::Courriel:
-      courriel_ = true;
+      // It offers fewer titles, and nothing is sent yet.
       imprimeur_.Proposer(TitresCourriel(), MoisVu());
       return true;
     case TCodeMessage::AssistantConfirme:

@@ -116,9 +116,6 @@ class TFrmSignaletique : public TForm {
   void Retablir();
   bool PeutRetablir() const;
 
-  /// The last request was for mail, which offers fewer titles. Nothing is sent yet.
-  bool DemandeCourriel() const { return courriel_; }
-
   TReleveMensuel Releve;
   TFraisPaiements Frais;
 
@@ -184,7 +181,6 @@ class TFrmSignaletique : public TForm {
   bool activitesVisibles_ = false;
   std::vector<TActiviteSuivie> activites_;
   int indiceMois_ = 0;
-  bool courriel_ = false;
   TChampsDe<TEleve> champs_;
   TLien refus_;
   struct TAnnulation {

@@ -419,8 +419,9 @@ TEST_F(VuesRepas, SalesAreCountedDayByDay) {
   vendre("3", "'2016-09-30'", "2.20");
   Demarrer(TGestionnaire::btnComptabiliteClick);
   auto& ventes = Nomme<VueGrille>("Versement sur le compte");
-  EXPECT_EQ(Lignes(ventes), (QStringList{"#03/10/2016|0|2,20 €|0,00 €|1|2,60 €|2,60 €|2,60 €",
-                                         "ALVES Rui||||1|2,60 €|2,60 €|"}));
+  const QStringList dAujourdhui{"#03/10/2016|0|2,20 €|0,00 €|1|2,60 €|2,60 €|2,60 €",
+                                "ALVES Rui||||1|2,60 €|2,60 €|"};
+  EXPECT_EQ(Lignes(ventes), dAujourdhui);
   const auto depuis = [this](const QString& date, Qt::Key touche) {
     auto& debut = Nomme<QLineEdit>("Début de la période");
     Aller(debut);
@@ -428,19 +429,11 @@ TEST_F(VuesRepas, SalesAreCountedDayByDay) {
     QTest::keyClicks(&debut, date);
     Touche(touche);
   };
-  depuis("01/09/2016", Qt::Key_Return);
-  EXPECT_EQ(Lignes(ventes)[0], "#30/09/2016|1|2,20 €|2,20 €|0|2,60 €|0,00 €|2,20 €");
-  const QStringList avant = Lignes(ventes);
   depuis("31/11/2016", Qt::Key_F8);  // nothing comes out for other dates than those that are read
   EXPECT_TRUE(Etat().startsWith("Non enregistré : « Début de la période »")) << Etat().toStdString();
-  EXPECT_EQ(Lignes(ventes), avant);
+  EXPECT_EQ(Lignes(ventes), dAujourdhui);
   depuis("01/09/2016", Qt::Key_Return);
-  vendre("2", "'2016-10-03'", "12");
-  Globals.Eleves->LibererCommandes();
-  Form<TFrmComptabilite>().dtChange(EncodeDate(2016, 9, 1), EncodeDate(2016, 10, 3));
-  Form<TFrmComptabilite>().Versements.Trier(6);
-  EXPECT_TRUE(Lignes(ventes)[3].startsWith("ALVES") && Lignes(ventes)[4].startsWith("BODART"))
-      << "12 comes after 2,60";
+  EXPECT_EQ(Lignes(ventes)[0], "#30/09/2016|1|2,20 €|2,20 €|0|2,60 €|0,00 €|2,20 €");
 }
 
 TEST_F(TVuesSeules, TheMealsAreWithinReach) {

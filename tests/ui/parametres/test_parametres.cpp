@@ -60,10 +60,7 @@ TEST_F(Parametres, EachFieldWritesItsSetting) {
   Touche(Qt::Key_Tab);
   EXPECT_EQ(Parametre(50), "É");
   EXPECT_FALSE(Etat().startsWith("Enregistré : Nom du")) << "but nothing was typed";
-}
-
-TEST_F(Parametres, TheFtpAddressIsWrittenAtEachKey) {
-  Ouvrir();
+  // The address of the remote site is written at each key.
   Taper("edServeurFTP", "ftp.e");
   EXPECT_EQ(Parametre(33), "ftp.e");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
