@@ -61,11 +61,12 @@ MarqueEtat::MarqueEtat(QWidget* parent)
 }
 
 void MarqueEtat::Definir(const QString& icone, const QString& texte) {
-  icone_ = icone;
+  const bool autreIcone = std::exchange(icone_, icone) != icone;
+  if (!autreIcone && texte_->text() == texte) return;
   texte_->DefinirRole(RoleDeIcone(icone));
   texte_->setText(texte);
   setAccessibleName(texte);
-  Redessiner();
+  if (autreIcone) Redessiner();
 }
 
 void MarqueEtat::Definir(TNiveauEtat niveau, const QString& texte) { Definir(IconeDeNiveau(niveau), texte); }
