@@ -325,6 +325,7 @@ bool TFrmMain::RecevoirMessage(const TMessage& message) {
         MarquerRadie(*noeud, *Globals.EleveCourant);
         Arbre.Annoncer();
       }
+      Annoncer();  // they are counted
       return true;
     case TCodeMessage::EleveChange:
       if (noeud != nullptr && noeud == Arbre.Selection())

@@ -22,7 +22,7 @@ void TFrmMain::tvEleveChange() {
     Globals.ClasseCourante = classe;
     Diffuser(TCodeMessage::ClasseChange);
   }
-  Annoncer();
+  SurOutils();  // nothing else of the window follows who is chosen
 }
 
 // Also one who has no place in the tree, where classes without a site are left out.
@@ -33,14 +33,13 @@ void TFrmMain::ChoisirEleve(TEleve& eleve) {
   Globals.EleveCourant = &eleve;
   Globals.ClasseCourante = eleve.Classe;
   Diffuser(TCodeMessage::EleveChange);
-  Annoncer();
+  SurOutils();
 }
 
 // What the year holds: staff are no pupils.
 
 int TFrmMain::NombreEleves() const { return CompterLesEleves().Eleves; }
 
-// At each pupil that is chosen, so in one go.
 TFrmMain::TNombres TFrmMain::CompterLesEleves() const {
   TNombres nombres;
   if (Globals.Eleves == nullptr) return nombres;
