@@ -241,7 +241,8 @@ void TFrmMain::AllerAEleve(int annee, int eleveId, const QString& champ) {
   ensuite_ = [this, annee, eleveId, champ] {
     if (!ChoisirAnnee(annee)) return;
     TEleve* eleve = Globals.Eleves->TrouverParId(eleveId);
-    if (eleve == nullptr) return;  // another workstation has taken the enrolment away
+    if (eleve == nullptr)
+      return EtatApresEcran(TNiveauEtat::Alerte, u"Cet élève n'est plus inscrit en " % AnneeEnTexte(annee));
     ChoisirEleve(*eleve);
     Executer(TGestionnaire::AdvGlowButton2Click);
     if (auto* fiche = dynamic_cast<TFrmSignaletique*>(Panneau.Courante())) fiche->AllerAuChamp(*eleve, champ);
@@ -268,6 +269,7 @@ void TFrmMain::OutilClick(TOutil outil) {
     return Etat(TNiveauEtat::Alerte, OutilDe(outil).Libelle % u" : " % OutilDe(outil).Raison);
   if (!OutilActif(outil)) return;
   QuitterChamp();
+  ensuite_ = nullptr;  // of a command that failed
   Diffuser(CodeDe(outil));
   if (const auto ensuite = std::exchange(ensuite_, nullptr)) ensuite();
 }
